@@ -1,0 +1,12 @@
+# A faster linker where there is one; the result is the same.
+find_program(TORVIK_MOLD mold)
+find_program(TORVIK_LLD ld.lld)
+if(TORVIK_MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_GREATER_EQUAL 12.1)
+  add_link_options(-fuse-ld=mold)
+elseif(TORVIK_LLD)
+  add_link_options(-fuse-ld=lld)
+endif()
+find_program(TORVIK_CCACHE ccache)
+if(TORVIK_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TORVIK_CCACHE})
+endif()

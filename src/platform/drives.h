@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace torvik {
+
+/// Inside the program every path is a drive path, "E:\Torviks\67A.JPG". This file owns what the letters mean
+/// on the machine that the program runs on: C: is the root of the host, the other letters from D to Z stand
+/// for folders that were named on the command line, for mounted media, and for the embedded disc.
+
+/// One letter given on the command line.
+struct DriveOption {
+    QChar Letter;   ///< 'D' to 'Z', or a null QChar for "the first free letter from D"
+    QString Folder; ///< a folder of the host
+};
+
+/// Sets the drives of the command line. A later option for the same letter wins.
+/// A letter outside D to Z is failure 5.
+void SetDriveOptions(const QList<DriveOption>& options);
+
+/// Finds out anew which letter stands for which folder: the options first, then the mounted volumes that look
+/// like media (in the order of their mount points), last Z: for the folder "disc" in the program folder where
+/// there is one and Z is free. Called at the start of each scan for the disc, so that Retry sees a new disc.
+void RefreshDrives();
+
+/// The host's folder behind a letter ('C' gives the root); empty when the letter stands for nothing.
+QString DriveFolder(QChar letter);
+
+/// Where mounted media are looked for; tests put a list of their own here. An empty function brings the
+/// machine's own back.
+using VolumeLister = QList<QString> (*)();
+void SetVolumeLister(VolumeLister lister);
+
+/// The host path for a drive path. Letter case is ignored in every component, an exact match first; the part
+/// that does not exist is kept as it is written, so the result can also name a file that is yet to be made.
+/// A drive letter that stands for nothing is failure 68, Device unavailable; a text that is no drive path
+/// (no letter, colon and backslash) is failure 52, Bad file name or number.
+QString HostPath(const QString& drivePath);
+
+/// The drive path for a path of the host, by the C: drive: "/opt/torvik" gives "C:\opt\torvik".
+QString DrivePath(const QString& hostPath);
+
+} // namespace torvik

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+namespace torvik {
+
+/// Application settings: decimal or plain text, addressed by application, section and key, exactly as named.
+/// They live in an INI file per application in the user's configuration folder (on Windows in the registry).
+
+/// The stored text, or `absent` when there is none.
+QString GetSetting(const QString& application, const QString& section, const QString& key,
+                   const QString& absent = {});
+/// Stores a text at once. Failure 75 when the store cannot be written.
+void SaveSetting(const QString& application, const QString& section, const QString& key, const QString& text);
+
+} // namespace torvik
