@@ -39,6 +39,8 @@ inline constexpr int permissionDenied = 70;    ///< Permission denied
 inline constexpr int diskNotReady = 71;        ///< Disk not ready
 inline constexpr int pathFileAccess = 75;      ///< Path/File access error
 inline constexpr int pathNotFound = 76;        ///< Path not found
+inline constexpr int noSuchElement = 340;      ///< Control array element doesn't exist
+inline constexpr int invalidProperty = 380;    ///< Invalid property value
 inline constexpr int invalidPicture = 481;     ///< Invalid picture
 inline constexpr int printerError = 482;       ///< Printer error
 } // namespace failure
