@@ -42,6 +42,7 @@ inline constexpr int pathNotFound = 76;        ///< Path not found
 inline constexpr int noSuchElement = 340;      ///< Control array element doesn't exist
 inline constexpr int objectUnloaded = 364;     ///< Object was unloaded
 inline constexpr int invalidProperty = 380;    ///< Invalid property value
+inline constexpr int badListIndex = 381;       ///< Invalid property array index
 inline constexpr int alreadyModal = 400;       ///< Form already displayed; can't show modally
 inline constexpr int invalidPicture = 481;     ///< Invalid picture
 inline constexpr int printerError = 482;       ///< Printer error
