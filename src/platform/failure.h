@@ -39,6 +39,7 @@ inline constexpr int permissionDenied = 70;    ///< Permission denied
 inline constexpr int diskNotReady = 71;        ///< Disk not ready
 inline constexpr int pathFileAccess = 75;      ///< Path/File access error
 inline constexpr int pathNotFound = 76;        ///< Path not found
+inline constexpr int invalidFileFormat = 321;  ///< Invalid file format
 inline constexpr int noSuchElement = 340;      ///< Control array element doesn't exist
 inline constexpr int objectUnloaded = 364;     ///< Object was unloaded
 inline constexpr int invalidProperty = 380;    ///< Invalid property value
