@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+#include <string>
+
 namespace torvik {
 
 /// Inside the program every path is a drive path, "E:\Torviks\67A.JPG". This file owns what the letters mean
@@ -15,8 +17,8 @@ struct DriveOption {
     QString Folder; ///< a folder of the host
 };
 
-/// Sets the drives of the command line. A later option for the same letter wins.
-/// A letter outside D to Z is failure 5.
+/// Sets the drives of the command line; they hold at once. A later option for the same letter wins; options
+/// without a letter take what the others leave. A letter outside D to Z is failure 5.
 void SetDriveOptions(const QList<DriveOption>& options);
 
 /// Finds out anew which letter stands for which folder: the options first, then the mounted volumes that look
@@ -34,11 +36,17 @@ void SetVolumeLister(VolumeLister lister);
 
 /// The host path for a drive path. Letter case is ignored in every component, an exact match first; the part
 /// that does not exist is kept as it is written, so the result can also name a file that is yet to be made.
-/// A drive letter that stands for nothing is failure 68, Device unavailable; a text that is no drive path
-/// (no letter, colon and backslash) is failure 52, Bad file name or number.
+/// "." and ".." are followed, but never out of the drive. A drive letter that stands for nothing, or for a
+/// folder that is no longer there, is failure 68, Device unavailable; a text that is no drive path (no
+/// letter, colon and backslash at its beginning, or a zero character in it) is failure 52, Bad file name or
+/// number.
 QString HostPath(const QString& drivePath);
 
-/// The drive path for a path of the host, by the C: drive: "/opt/torvik" gives "C:\opt\torvik".
+/// The same in the bytes of the host, by which also a file is reached whose name is no valid UTF-8.
+std::string HostPathBytes(const QString& drivePath);
+
+/// The drive path for a path of the host, by the C: drive: "/opt/torvik" gives "C:\opt\torvik", "/" gives
+/// "C:\".
 QString DrivePath(const QString& hostPath);
 
 } // namespace torvik

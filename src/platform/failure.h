@@ -24,29 +24,29 @@ private:
 
 /// The numbers that this program meets.
 namespace failure {
-inline constexpr int invalidCall = 5;          ///< Invalid procedure call or argument
-inline constexpr int overflow = 6;             ///< Overflow
-inline constexpr int outOfMemory = 7;          ///< Out of memory
-inline constexpr int subscript = 9;            ///< Subscript out of range
-inline constexpr int typeMismatch = 13;        ///< Type mismatch
-inline constexpr int badFileName = 52;         ///< Bad file name or number
-inline constexpr int fileNotFound = 53;        ///< File not found
-inline constexpr int deviceIo = 57;            ///< Device I/O error
-inline constexpr int fileExists = 58;          ///< File already exists
-inline constexpr int diskFull = 61;            ///< Disk full
-inline constexpr int deviceUnavailable = 68;   ///< Device unavailable
-inline constexpr int permissionDenied = 70;    ///< Permission denied
-inline constexpr int diskNotReady = 71;        ///< Disk not ready
-inline constexpr int pathFileAccess = 75;      ///< Path/File access error
-inline constexpr int pathNotFound = 76;        ///< Path not found
-inline constexpr int invalidFileFormat = 321;  ///< Invalid file format
-inline constexpr int noSuchElement = 340;      ///< Control array element doesn't exist
-inline constexpr int objectUnloaded = 364;     ///< Object was unloaded
-inline constexpr int invalidProperty = 380;    ///< Invalid property value
-inline constexpr int badListIndex = 381;       ///< Invalid property array index
-inline constexpr int alreadyModal = 400;       ///< Form already displayed; can't show modally
-inline constexpr int invalidPicture = 481;     ///< Invalid picture
-inline constexpr int printerError = 482;       ///< Printer error
+inline constexpr int invalidCall = 5;         ///< Invalid procedure call or argument
+inline constexpr int overflow = 6;            ///< Overflow
+inline constexpr int outOfMemory = 7;         ///< Out of memory
+inline constexpr int subscript = 9;           ///< Subscript out of range
+inline constexpr int typeMismatch = 13;       ///< Type mismatch
+inline constexpr int badFileName = 52;        ///< Bad file name or number
+inline constexpr int fileNotFound = 53;       ///< File not found
+inline constexpr int deviceIo = 57;           ///< Device I/O error
+inline constexpr int fileExists = 58;         ///< File already exists
+inline constexpr int diskFull = 61;           ///< Disk full
+inline constexpr int deviceUnavailable = 68;  ///< Device unavailable
+inline constexpr int permissionDenied = 70;   ///< Permission denied
+inline constexpr int diskNotReady = 71;       ///< Disk not ready
+inline constexpr int pathFileAccess = 75;     ///< Path/File access error
+inline constexpr int pathNotFound = 76;       ///< Path not found
+inline constexpr int invalidFileFormat = 321; ///< Invalid file format
+inline constexpr int noSuchElement = 340;     ///< Control array element doesn't exist
+inline constexpr int objectUnloaded = 364;    ///< Object was unloaded
+inline constexpr int invalidProperty = 380;   ///< Invalid property value
+inline constexpr int badListIndex = 381;      ///< Invalid property array index
+inline constexpr int alreadyModal = 400;      ///< Form already displayed; can't show modally
+inline constexpr int invalidPicture = 481;    ///< Invalid picture
+inline constexpr int printerError = 482;      ///< Printer error
 } // namespace failure
 
 /// Throws RunTimeError(number).

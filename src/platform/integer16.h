@@ -14,11 +14,19 @@ public:
     Integer(int value) : value_(Checked(value)) {} // NOLINT(google-explicit-constructor)
 
     operator int() const { return value_; } // NOLINT(google-explicit-constructor)
-    Integer& operator+=(int by) { return *this = Integer(value_ + by); }
-    Integer& operator-=(int by) { return *this = Integer(value_ - by); }
+    Integer& operator+=(int by)
+    {
+        value_ = Checked(std::int64_t{value_} + by);
+        return *this;
+    }
+    Integer& operator-=(int by)
+    {
+        value_ = Checked(std::int64_t{value_} - by);
+        return *this;
+    }
 
 private:
-    static std::int16_t Checked(int value)
+    static std::int16_t Checked(std::int64_t value)
     {
         if (value < INT16_MIN || value > INT16_MAX)
             Fail(failure::overflow);

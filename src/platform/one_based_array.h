@@ -2,16 +2,24 @@
 
 #include "platform/failure.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace torvik {
 
-/// An array whose elements are counted from 1; an index outside the bounds is failure 9, Subscript out of range.
+/// An array whose elements are counted from 1; an index outside the bounds is failure 9, Subscript out of
+/// range.
 template <typename T>
 class OneBasedArray {
 public:
     /// Bounds become 1 to `count`; what fits of the contents is kept, new elements are empty.
-    void Resize(int count) { items_.resize(static_cast<std::size_t>(count)); }
+    /// A negative count is failure 9.
+    void Resize(int count)
+    {
+        if (count < 0)
+            Fail(failure::subscript);
+        items_.resize(static_cast<std::size_t>(count));
+    }
     int Count() const { return static_cast<int>(items_.size()); }
 
     T& operator()(int index) { return items_[Position(index)]; }

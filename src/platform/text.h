@@ -17,7 +17,8 @@ QString Left(const QString& text, int length);
 QString Right(const QString& text, int length);
 /// Position of the first `part` in `text` at or after `start`, 0 when there is none. Case matters.
 int InStr(const QString& text, const QString& part, int start = 1);
-/// Whether the whole text, blanks around it left aside, reads as a number ("67", " 3.5 ", "-1"; not "", "M1").
+/// Whether the whole text, blanks around it left aside, reads as a number ("67", " 3.5 ", "-1"; not "",
+/// "M1").
 bool IsNumeric(const QString& text);
 /// The number that the text begins with, 0 when it begins with none; blanks are passed over. Never fails.
 double Val(const QString& text);

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace torvik {
+
+/// One name of a folder, between the bytes of the host's file system and the text that the program handles.
+/// Every sequence of bytes has a text of its own and comes back from it: a byte that is no valid UTF-8, and a
+/// backslash inside a name, stand as a lone low surrogate (U+DC00 plus the byte), which no valid name
+/// contains.
+
+/// The text of a name of the host.
+QString NameFromHost(std::string_view name);
+/// The bytes of a name. A whole path of the host may be given as well.
+std::string NameToHost(QStringView name);
+/// The text of a whole path of the host; here a backslash stands for itself.
+QString HostText(std::string_view path);
+
+/// Whether all bytes are ASCII.
+bool IsAscii(std::string_view bytes);
+/// What names that differ in letter case alone have in common, in any script.
+std::string FoldedName(std::string_view name);
+
+} // namespace torvik

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+namespace torvik {
+
+/// Look-up of host paths without regard to letter case. Paths are bytes, begin with a slash, and have neither
+/// empty components nor "." or ".."; the root of the host is the empty text. What has been learned about
+/// folders is kept and checked against the folder's time stamps. For the user-interface thread only.
+
+/// How `path`, which lies in the folder `root` or is it, is spelled on the host. The path as it stands wins
+/// when it exists; otherwise each component that does not exist as written gives way to the name that differs
+/// in letter case alone, the first in binary order of several. From the first component on that exists in no
+/// spelling the rest stays as it is written. Failure 68, Device unavailable, when `root` is no folder.
+std::string SpellingOnHost(const std::string& root, const std::string& path);
+
+/// Tells that the program has just made the file or folder `path`. Needless for the result, but where many
+/// files are made one after the other it saves the reading of their folder for each.
+void NameAdded(const std::string& path);
+
+/// Forgets all that was learned, as when other media come under the same folders.
+void ForgetFolders();
+
+} // namespace torvik
