@@ -1,0 +1,76 @@
+#include "browser/restore_main_window.h"
+
+#include "browser/topic_catalogue.h"
+#include "documents/overlay_pictures.h"
+#include "documents/txt_form.h"
+#include "platform/text.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "slides/frm_slide.h"
+
+namespace torvik {
+
+namespace {
+
+void SetDocumentButtons(const Topic* topic)
+{
+    Form1Controls& form = *Form1;
+    const bool ownTopic = topic != nullptr && QLatin1String(topic->Title) != classicHarwell;
+    for (Button* button : {&form.cmdColors, &form.cmdOptions, &form.cmdClipArt, &form.cmdEmblem, &form.cmdScript,
+                           &form.cmdAd, &form.cmdNostalgia})
+        button->SetEnabled(!ownTopic);
+    form.cmdStats.SetEnabled(!ownTopic || topic->HasStatistics);
+    if (ownTopic)
+        form.cmdDesc.SetEnabled(topic->HasDescription);
+}
+
+void DropOverlays()
+{
+    Form1->picClipArt.Hide();
+    Form1->picEmblem.Hide();
+    Form1->picScript.Hide();
+}
+
+void RefreshOverlays()
+{
+    Form1Controls& form = *Form1;
+    if (form.panYear.Caption() == classicHarwell) {
+        form.picClipArt.Hide();
+        for (Button* button : {&form.cmdStats, &form.cmdDesc, &form.cmdClipArt, &form.cmdNostalgia})
+            button->SetEnabled(false);
+    }
+    if (form.picClipArt.Visible())
+        LoadClipArt();
+    if (form.picScript.Visible())
+        LoadScript();
+    if (form.picEmblem.Visible())
+        LoadEmblem();
+}
+
+} // namespace
+
+void RestoreMainWindow()
+{
+    Form1Controls& form = *Form1;
+    state.SlideRestorePending = false;
+    form.SetEnabled(true);
+    form.cmdDesc.SetEnabled(true);
+    if (form.panYear.Caption() != nothingChosen) {
+        form.SpinButton1.Show();
+        form.panPhoto.Show();
+        form.panYear.Show();
+        const Topic* topic = TopicOf(form.panYear.Caption());
+        SetDocumentButtons(topic);
+        state.YearCode = Mid(form.panYear.Caption(), 3, 2);
+        if (topic != nullptr && topic->DropsOverlays)
+            DropOverlays();
+        else
+            RefreshOverlays();
+        for (state.LoopIndex = 1; state.LoopIndex <= yearCount; state.LoopIndex += 1)
+            form.cmdYR(state.LoopIndex).SetEnabled(true);
+    }
+    frmSlide.Unload();
+    txtForm.Unload();
+}
+
+} // namespace torvik

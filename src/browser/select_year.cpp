@@ -1,0 +1,106 @@
+#include "browser/select_year.h"
+
+#include "browser/browsing_start.h"
+#include "browser/restore_main_window.h"
+#include "browser/topic_catalogue.h"
+#include "local/play_list_entry.h"
+#include "platform/failure.h"
+#include "platform/text.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "shell/report_error.h"
+#include "ui/screen.h"
+
+namespace torvik {
+
+namespace {
+
+void TakeYearCode()
+{
+    const QString title = Form1->panYear.Caption();
+    if (const Topic* topic = TopicOf(title)) {
+        state.YearCode = QString::fromLatin1(topic->Code);
+        if (topic->RenamesStatistics)
+            Form1->cmdStats.SetCaption(QStringLiteral("Details"));
+    } else {
+        state.YearCode = Mid(title, 3, 2);
+    }
+    if (state.YearCode == QStringLiteral("00"))
+        state.YearCode = QStringLiteral("A0");
+    else if (state.YearCode == QStringLiteral("01"))
+        state.YearCode = QStringLiteral("A1");
+}
+
+/// Leaves PhotoIndex on the first photo of the code, or behind the last photo.
+void FindFirstPhoto()
+{
+    state.TorviksPathPos = InStr(state.PhotoFiles(1), torviksFolder);
+    const int start = state.TorviksPathPos + 9;
+    for (state.PhotoIndex = 1; state.PhotoIndex <= state.PhotoCount; state.PhotoIndex += 1) {
+        const QString& photo = state.PhotoFiles(state.PhotoIndex);
+        if (Mid(photo, start, 2) != state.YearCode)
+            continue;
+        state.CurrentPhotoFile = photo;
+        if (state.ShowFileNames)
+            Form1->txtFile.SetText(Mid(photo, start, 12));
+        return;
+    }
+}
+
+void ReportMissingPhoto()
+{
+    state.ErrorCode = QStringLiteral("ER023");
+    ReportError();
+    Form1->Image4.Hide();
+}
+
+void ShowFirstPhoto()
+{
+    if (state.PhotoIndex > state.PhotoCount) {
+        ReportMissingPhoto();
+        return;
+    }
+    OnError(
+        [] {
+            Form1->Image4.Load(state.CurrentPhotoFile);
+            Form1->Image4.Show();
+        },
+        ReportMissingPhoto);
+}
+
+} // namespace
+
+void SelectYear()
+{
+    Form1->mnuNames.SetVisible(true);
+    Form1->rtbDetails.Hide();
+    state.SkipFirstPhoto = true;
+    state.YearCode = Mid(Form1->panYear.Caption(), 3, 2);
+    RestoreMainWindow();
+    TakeYearCode();
+    FindFirstPhoto();
+    ShowFirstPhoto();
+    state.ShownPhotoIndex = state.PhotoIndex;
+    UpdatePlayListButtons();
+}
+
+void ShowSpecialTopic()
+{
+    Screen.SetMousePointer(MousePointer::Hourglass);
+    Form1->Image4.Clear();
+    SelectYear();
+    BrowseFromStart();
+    Screen.SetMousePointer(MousePointer::Default);
+
+    Form1Controls& form = *Form1;
+    form.cmdStats.SetCaption(QStringLiteral("Details"));
+    for (Button* button : {&form.cmdOptions, &form.cmdColors, &form.cmdScript, &form.cmdEmblem, &form.cmdAd,
+                           &form.cmdNostalgia})
+        button->SetEnabled(false);
+    form.rtbDetails.Hide();
+    state.CurrentYearButton = 0;
+    form.cmdYR(1).SetEnabled(true);
+    form.cmdYR(1).SetFocus();
+}
+
+} // namespace torvik

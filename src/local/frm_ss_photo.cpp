@@ -1,0 +1,25 @@
+#include "local/frm_ss_photo.h"
+
+namespace torvik {
+
+namespace {
+
+FormDesign DesignOfPlayList()
+{
+    FormDesign design;
+    design.Name = QStringLiteral("frmSSPhoto");
+    design.Caption = QStringLiteral("The Torvik Vollandry 2001");
+    design.ClientWidth = 4680;
+    design.ClientHeight = 3900;
+    return design;
+}
+
+} // namespace
+
+frmSSPhotoControls::frmSSPhotoControls() : Form(DesignOfPlayList())
+{
+    Picture1.Show(Picture::FromResource(QStringLiteral(":/assets/icon.png")));
+    ProgressGuage.SetFloodPercent(0);
+}
+
+} // namespace torvik

@@ -1,0 +1,89 @@
+#include "browser/file_names.h"
+#include "browser/photo_stepping.h"
+#include "browser/photo_walk.h"
+#include "browser/year_selection.h"
+#include "documents/library_topics.h"
+#include "local/play_list_form.h"
+#include "platform/drives.h"
+#include "platform/failure.h"
+#include "platform/program_folder.h"
+#include "shell/command_line.h"
+#include "shell/form1_life.h"
+#include "shell/form2.h"
+#include "shell/start_up.h"
+#include "ui/application.h"
+#include "utilities/task_bar_toggle.h"
+#include "version.h"
+
+#include <QStringList>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int badUsage = 2;
+
+QStringList Arguments(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments.append(QString::fromLocal8Bit(argv[index]));
+    return arguments;
+}
+
+void BindHandlers()
+{
+    using namespace torvik;
+    BindStartUp();
+    BindForm1Life();
+    BindYearSelection();
+    BindPhotoStepping();
+    BindPhotoWalk();
+    BindFileNames();
+    BindLibraryTopics();
+    BindPlayListForm();
+    BindTaskBarToggle();
+}
+
+int Complain(const QString& problem)
+{
+    std::fprintf(stderr, "torvik2001: %s\nTry torvik2001 --help.\n", qPrintable(problem));
+    return badUsage;
+}
+
+/// Takes the folders of the command line over; returns what is wrong with them.
+QString TakeFolders(const torvik::CommandLine& line)
+{
+    using namespace torvik;
+    const int error = ResumeNext([&] {
+        SetProgramFolder(line.ProgramFolder);
+        SetDriveOptions(line.Drives);
+    });
+    return error == 0 ? QString() : RunTimeErrorText(error) + QStringLiteral(".");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    using namespace torvik;
+    const CommandLine early = ReadCommandLine(Arguments(argc, argv));
+    if (early.Help) {
+        std::fputs(qPrintable(HelpText()), stdout);
+        return 0;
+    }
+    if (early.Version) {
+        std::printf("torvik2001 %s\n", programVersion);
+        return 0;
+    }
+
+    Application application(argc, argv);
+    const CommandLine line = ReadCommandLine(Arguments(argc, argv));
+    if (!line.Problem.isEmpty())
+        return Complain(line.Problem);
+    if (const QString problem = TakeFolders(line); !problem.isEmpty())
+        return Complain(problem);
+
+    BindHandlers();
+    return application.Run([] { Form2.LoadForm(); });
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace torvik {
+
+/// Finds the disc: sets DiscRoot, and PhotoRoot to the program folder where photos were copied there, else to
+/// DiscRoot. Looks again as often as the user wants; when he gives up, the program ends. The splash is taken off
+/// the screen before he is asked.
+void FindDisc();
+
+} // namespace torvik

@@ -1,0 +1,55 @@
+#include "ui/choice_buttons.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+
+namespace torvik {
+
+ChoiceButton::ChoiceButton(Container& container, const QString& name, QAbstractButton* button, const Twips& design,
+                           const QString& caption)
+    : Control(container, name, button, design), button_(button)
+{
+    SetCaption(caption);
+    connect(button_, &QAbstractButton::clicked, this, [this] { Click.Fire(); });
+}
+
+QString ChoiceButton::Caption() const
+{
+    return button_->text();
+}
+
+void ChoiceButton::SetCaption(const QString& caption)
+{
+    button_->setText(caption);
+    UpdateAccessibleText();
+}
+
+bool ChoiceButton::Value() const
+{
+    return button_->isChecked();
+}
+
+void ChoiceButton::SetValue(bool value)
+{
+    if (value == Value())
+        return;
+    button_->setChecked(value);
+    Click.Call();
+}
+
+QString ChoiceButton::AccessibleText() const
+{
+    return Caption().isEmpty() ? Control::AccessibleText() : Caption();
+}
+
+OptionButton::OptionButton(Container& container, const QString& name, const Twips& design, const QString& caption)
+    : ChoiceButton(container, name, new QRadioButton, design, caption)
+{
+}
+
+CheckBox::CheckBox(Container& container, const QString& name, const Twips& design, const QString& caption)
+    : ChoiceButton(container, name, new QCheckBox, design, caption)
+{
+}
+
+} // namespace torvik

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ui/control.h"
+
+class QLabel;
+
+namespace torvik {
+
+/// A line or a few of plain text.
+class Label : public Control {
+public:
+    Label(Container& container, const QString& name, const Twips& design, const QString& caption = {});
+
+    QString Caption() const;
+    void SetCaption(const QString& caption);
+
+protected:
+    QString AccessibleText() const override;
+
+private:
+    QLabel* label_;
+};
+
+} // namespace torvik

@@ -1,0 +1,101 @@
+#include "ui/message_box.h"
+
+#include "ui/application.h"
+#include "ui/program_end.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <utility>
+
+namespace torvik {
+
+namespace {
+
+MessageResponder& Responder()
+{
+    static MessageResponder responder;
+    return responder;
+}
+
+struct ButtonChoice {
+    const char* Name;
+    QMessageBox::ButtonRole Role;
+    int Answer;
+};
+
+QList<ButtonChoice> ButtonsOf(int style)
+{
+    const ButtonChoice okButton{"OK", QMessageBox::AcceptRole, msgbox::answerOk};
+    const ButtonChoice cancelButton{"Cancel", QMessageBox::RejectRole, msgbox::answerCancel};
+    switch (style & 7) {
+    case msgbox::okCancel:
+        return {okButton, cancelButton};
+    case msgbox::yesNo:
+        return {{"Yes", QMessageBox::YesRole, msgbox::answerYes}, {"No", QMessageBox::NoRole, msgbox::answerNo}};
+    case msgbox::retryCancel:
+        return {{"Retry", QMessageBox::AcceptRole, msgbox::answerRetry}, cancelButton};
+    default:
+        return {okButton};
+    }
+}
+
+QMessageBox::Icon IconOf(int style)
+{
+    switch (style & 112) {
+    case msgbox::critical:
+        return QMessageBox::Critical;
+    case msgbox::question:
+        return QMessageBox::Question;
+    case msgbox::exclamation:
+        return QMessageBox::Warning;
+    case msgbox::information:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+int Ask(const MessageRequest& request)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("MsgBox"));
+    box.setAccessibleName(request.Title);
+    box.setWindowTitle(request.Title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(request.Text);
+    box.setIcon(IconOf(request.Style));
+    if ((request.Style & msgbox::systemModal) != 0)
+        box.setWindowFlag(Qt::WindowStaysOnTopHint);
+
+    QHash<QAbstractButton*, int> answers;
+    for (const ButtonChoice& choice : ButtonsOf(request.Style)) {
+        QPushButton* button = box.addButton(QString::fromLatin1(choice.Name), choice.Role);
+        button->setObjectName(QString::fromLatin1(choice.Name));
+        if (answers.isEmpty())
+            box.setDefaultButton(button);
+        answers.insert(button, choice.Answer);
+    }
+    const int onlyAnswer = answers.size() == 1 ? msgbox::answerOk : msgbox::answerCancel;
+    box.exec();
+    return answers.value(box.clickedButton(), onlyAnswer);
+}
+
+} // namespace
+
+int MsgBox(const QString& text, int style, const QString& title)
+{
+    const MessageRequest request{text, style, title.isEmpty() ? applicationTitle : title};
+    const int answer = Responder() ? Responder()(request) : Ask(request);
+    LeaveIfEnding();
+    return answer;
+}
+
+void SetMessageResponder(MessageResponder responder)
+{
+    Responder() = std::move(responder);
+}
+
+} // namespace torvik

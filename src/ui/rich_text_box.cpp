@@ -1,0 +1,65 @@
+#include "ui/rich_text_box.h"
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "rtf/rtf_reader.h"
+
+#include <QDesktopServices>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <QUrl>
+
+#include <memory>
+
+namespace torvik {
+
+namespace {
+
+void OpenOutside(const QUrl& address)
+{
+    const QString scheme = address.scheme().toLower();
+    if (scheme == QStringLiteral("http") || scheme == QStringLiteral("https") || scheme == QStringLiteral("mailto"))
+        QDesktopServices::openUrl(address);
+}
+
+} // namespace
+
+RichTextBox::RichTextBox(Container& container, const QString& name, const Twips& design)
+    : Control(container, name, new QTextBrowser, design), pane_(static_cast<QTextBrowser*>(&Widget()))
+{
+    pane_->setOpenLinks(false);
+    pane_->setUndoRedoEnabled(false);
+    connect(pane_, &QTextBrowser::anchorClicked, this, &OpenOutside);
+    WatchInput(pane_->viewport());
+}
+
+void RichTextBox::SetFileName(const QString& path)
+{
+    const QByteArray bytes = ReadFile(path);
+    auto document = std::make_unique<QTextDocument>();
+    document->setDefaultFont(pane_->font());
+    if (bytes.isEmpty())
+        Fail(failure::invalidFileFormat);
+    rtf::ReadRichText(bytes, *document);
+
+    QTextDocument* shown = document.release();
+    shown->setParent(pane_);
+    QTextDocument* earlier = pane_->document();
+    pane_->setDocument(shown);
+    if (earlier->parent() == pane_)
+        delete earlier;
+    fileName_ = path;
+    UpdateAccessibleText();
+}
+
+QString RichTextBox::Text() const
+{
+    return pane_->toPlainText();
+}
+
+QString RichTextBox::AccessibleText() const
+{
+    return Text().isEmpty() ? Control::AccessibleText() : Text();
+}
+
+} // namespace torvik

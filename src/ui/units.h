@@ -1,0 +1,19 @@
+#pragma once
+
+namespace torvik {
+
+/// The twip is the unit of all design geometry: 15 to the pixel, on every screen.
+inline constexpr double twipsPerPixel = 15;
+
+/// A design place and size in twips.
+struct Twips {
+    double Left = 0;
+    double Top = 0;
+    double Width = 0;
+    double Height = 0;
+};
+
+/// The unit in which a container measures the controls that lie on it.
+enum class Scale { Twips, Pixels };
+
+} // namespace torvik
