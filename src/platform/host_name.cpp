@@ -6,7 +6,7 @@ namespace torvik {
 
 namespace {
 
-constexpr char16_t escapeBase = 0xDC00;
+constexpr char16_t escapeBase = 0xF700;
 
 bool IsEscape(char16_t unit)
 {
@@ -18,7 +18,8 @@ QChar Escape(char byte)
     return QChar(static_cast<char16_t>(escapeBase + static_cast<unsigned char>(byte)));
 }
 
-/// The length in bytes of the valid UTF-8 sequence at the beginning of `bytes`, 0 when there is none.
+/// The length in bytes of the valid UTF-8 sequence at the beginning of `bytes`, 0 when there is none. The
+/// characters that are used as escapes count as none.
 std::size_t ValidSequence(std::string_view bytes)
 {
     const auto at = [&bytes](std::size_t i) -> unsigned {
@@ -35,7 +36,8 @@ std::size_t ValidSequence(std::string_view bytes)
     const bool overlong = (lead == 0xE0 && at(1) < 0xA0) || (lead == 0xF0 && at(1) < 0x90);
     const bool surrogate = lead == 0xED && at(1) >= 0xA0;
     const bool tooHigh = lead == 0xF4 && at(1) >= 0x90;
-    return overlong || surrogate || tooHigh ? 0 : length;
+    const bool escape = lead == 0xEF && at(1) >= 0x9C && at(1) <= 0x9F;
+    return overlong || surrogate || tooHigh || escape ? 0 : length;
 }
 
 } // namespace
@@ -78,6 +80,8 @@ std::string NameToHost(QStringView name)
         const bool pair = QChar::isHighSurrogate(unit) && i + 1 < name.size() && name[i + 1].isLowSurrogate();
         if (!pair && IsEscape(unit))
             bytes.push_back(static_cast<char>(unit - escapeBase));
+        else if (!pair && QChar::isSurrogate(unit))
+            bytes += "\xEF\xBF\xBD"; // half of a character stands for nothing
         else
             bytes += name.mid(i, pair ? 2 : 1).toUtf8().toStdString();
         i += pair ? 2 : 1;

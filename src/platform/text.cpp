@@ -4,8 +4,11 @@
 
 #include <QByteArray>
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
+#include <system_error>
 
 namespace torvik {
 
@@ -59,10 +62,32 @@ qsizetype LengthOfNumber(const QByteArray& text)
     return end;
 }
 
+/// Whether a number that is too large or too small for the machine is the former: whether it has more digits
+/// before its point than its exponent takes away.
+bool IsLarge(const QByteArray& text)
+{
+    const qsizetype exponentSign = text.indexOf('e');
+    const QByteArray digits = text.left(exponentSign < 0 ? text.size() : exponentSign);
+    const qsizetype point = digits.contains('.') ? digits.indexOf('.') : digits.size();
+    const auto* const first =
+        std::find_if(digits.begin(), digits.end(), [](char c) { return c >= '1' && c <= '9'; });
+    bool fits = true;
+    const QByteArray exponent = exponentSign < 0 ? QByteArray("0") : text.mid(exponentSign + 1);
+    const qint64 shift = exponent.toLongLong(&fits);
+    return fits ? shift + (point - (first - digits.begin())) > 0 : !exponent.startsWith('-');
+}
+
 /// The value of a text that LengthOfNumber accepted whole; infinite when it is beyond the range.
 double ValueOf(QByteArray text)
 {
-    return text.replace('d', 'e').replace('D', 'e').toDouble();
+    text.replace('d', 'e').replace('D', 'e').replace('E', 'e');
+    if (text.startsWith('+'))
+        text.remove(0, 1);
+    double value = 0;
+    const auto outcome = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (outcome.ec == std::errc::result_out_of_range)
+        return IsLarge(text) ? std::numeric_limits<double>::infinity() : 0;
+    return value;
 }
 
 /// Whether the whole text reads as a number; its value comes back in `value`.
