@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <cstddef>
+
+namespace torvik::rtf {
+
+enum class Underline : quint8 { None, Single, Dotted, Dashed, DashDot, DashDotDot, Wave };
+enum class Script : quint8 { Normal, Super, Sub };
+enum class Capitals : quint8 { AsWritten, All, Small };
+
+/// What the text at one place of a document looks like. Numbers refer to the document's tables.
+struct CharacterState {
+    int font = 0;
+    /// Half points.
+    int size = 24;
+    int foreground = 0;
+    int background = 0;
+    int underlineColor = 0;
+    /// Pattern over the background, hundredths of a percent, and its colour.
+    int shading = 0;
+    int patternColor = 0;
+    /// Extra space between characters, twips.
+    int spacing = 0;
+    /// Width of the characters, percent.
+    int stretch = 100;
+    /// Half points that the text is raised by; negative is lowered.
+    int raised = 0;
+    /// Numbers of a link target and of a bookmark name, 0 for none.
+    int link = 0;
+    int bookmark = 0;
+    bool bold = false;
+    bool italic = false;
+    bool strike = false;
+    bool hidden = false;
+    bool rightToLeft = false;
+    Underline underline = Underline::None;
+    Script script = Script::Normal;
+    Capitals capitals = Capitals::AsWritten;
+
+    bool operator==(const CharacterState&) const = default;
+};
+
+struct CharacterStateHash {
+    std::size_t operator()(const CharacterState& state) const;
+};
+
+} // namespace torvik::rtf

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "rtf/budget.h"
+#include "rtf/content.h"
+#include "rtf/formats.h"
+#include "rtf/list_writer.h"
+#include "rtf/picture_store.h"
+
+#include <QTextCursor>
+
+namespace torvik::rtf {
+
+/// What every writer of a document needs.
+struct WritingContext {
+    const Formats& formats;
+    const PictureStore& pictures;
+    Budget& budget;
+    int paragraphs = 0;
+    int tables = 0;
+};
+
+/// Writes paragraphs and tables one below the other, in the document's body or in one cell.
+class FlowWriter {
+public:
+    /// The cursor stands in an empty block, which the first paragraph takes over.
+    FlowWriter(WritingContext& context, const QTextCursor& cursor);
+
+    /// Bytes that a paragraph costs in a document, by estimate.
+    static qint64 CostOf(qsizetype characters, std::size_t runs);
+
+    void Write(const Paragraph& paragraph);
+    void Write(const Table& table);
+    void Write(const std::vector<Block>& blocks);
+
+private:
+    void PlaceBox(const ParagraphState& state);
+    void LeaveBox();
+    void OpenBlock(const Paragraph& paragraph);
+    void RuleOff(const ParagraphState& state);
+    void WriteSpans(const Paragraph& paragraph);
+
+    WritingContext& context_;
+    QTextCursor cursor_;
+    ListWriter lists_;
+    /// The cursor's block is empty and belongs to no paragraph yet.
+    bool fresh_ = true;
+    /// Whether anything stands above the cursor's block in this flow.
+    bool first_ = true;
+    QTextFrame* box_ = nullptr;
+    int boxFormat_ = 0;
+};
+
+} // namespace torvik::rtf
