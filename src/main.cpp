@@ -1,18 +1,10 @@
-#include "browser/file_names.h"
-#include "browser/photo_stepping.h"
-#include "browser/photo_walk.h"
-#include "browser/year_selection.h"
-#include "documents/library_topics.h"
-#include "local/play_list_form.h"
+#include "bind_handlers.h"
 #include "platform/drives.h"
 #include "platform/failure.h"
 #include "platform/program_folder.h"
 #include "shell/command_line.h"
-#include "shell/form1_life.h"
 #include "shell/form2.h"
-#include "shell/start_up.h"
 #include "ui/application.h"
-#include "utilities/task_bar_toggle.h"
 #include "version.h"
 
 #include <QStringList>
@@ -29,20 +21,6 @@ QStringList Arguments(int argc, char** argv)
     for (int index = 1; index < argc; ++index)
         arguments.append(QString::fromLocal8Bit(argv[index]));
     return arguments;
-}
-
-void BindHandlers()
-{
-    using namespace torvik;
-    BindStartUp();
-    BindForm1Life();
-    BindYearSelection();
-    BindPhotoStepping();
-    BindPhotoWalk();
-    BindFileNames();
-    BindLibraryTopics();
-    BindPlayListForm();
-    BindTaskBarToggle();
 }
 
 int Complain(const QString& problem)

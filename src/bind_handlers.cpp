@@ -1,0 +1,28 @@
+#include "bind_handlers.h"
+
+#include "browser/file_names.h"
+#include "browser/photo_stepping.h"
+#include "browser/photo_walk.h"
+#include "browser/year_selection.h"
+#include "documents/library_topics.h"
+#include "local/play_list_form.h"
+#include "shell/form1_life.h"
+#include "shell/start_up.h"
+#include "utilities/task_bar_toggle.h"
+
+namespace torvik {
+
+void BindHandlers()
+{
+    BindStartUp();
+    BindForm1Life();
+    BindYearSelection();
+    BindPhotoStepping();
+    BindPhotoWalk();
+    BindFileNames();
+    BindLibraryTopics();
+    BindPlayListForm();
+    BindTaskBarToggle();
+}
+
+} // namespace torvik
