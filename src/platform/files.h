@@ -10,7 +10,8 @@ namespace torvik {
 
 /// The names of the files (not folders) that match a pattern such as "E:\Torviks\*.jpg", without their
 /// folder, in the order of the file system. `*` and `?` stand in the last component only and ignore letter
-/// case. Names that differ in letter case alone count as one file, the one that a look-up would find.
+/// case; files that the host hides (their names begin with a point) match only a pattern that begins so too.
+/// Names that differ in letter case alone count as one file, the one that a look-up would find.
 /// A folder that is missing gives no names. A drive letter that stands for nothing is failure 68; a folder
 /// that cannot be read is failure 75, Path/File access error.
 QStringList FilesMatching(const QString& pattern);
@@ -21,11 +22,12 @@ QString FindFile(const QString& patternOrPath);
 /// Whether a file (not a folder) of that path exists. Never fails.
 bool FileExists(const QString& path);
 
-/// Length in bytes. Failures: 53 File not found, 76 Path not found (its folder is missing), 68.
+/// Length in bytes. Failures: 53 File not found (also for a folder), 76 Path not found (its folder is
+/// missing), 70 Permission denied (a folder above it is closed), 68.
 qint64 FileLength(const QString& path);
 
 /// The whole content. Failures: 53, 76, 68, 70 Permission denied or 75 (not readable, a folder),
-/// 57 Device I/O error while reading, 7 Out of memory.
+/// 57 Device I/O error while reading, 67 Too many files, 7 Out of memory (also for 2 GiB and more).
 QByteArray ReadFile(const QString& path);
 
 /// Creates a folder. Failures: 75 when it exists already or cannot be made, 76 when its parent is missing.

@@ -9,8 +9,8 @@ namespace torvik {
 
 /// One name of a folder, between the bytes of the host's file system and the text that the program handles.
 /// Every sequence of bytes has a text of its own and comes back from it: a byte that is no valid UTF-8, and a
-/// backslash inside a name, stand as a private character (U+F700 plus the byte), which survives a change of letter
-/// case; a name that holds such a character itself is written byte by byte.
+/// backslash inside a name, stand as a private character (U+F700 plus the byte), which survives a change of
+/// letter case; a name that holds such a character itself is written byte by byte.
 
 /// The text of a name of the host.
 QString NameFromHost(std::string_view name);

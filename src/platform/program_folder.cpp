@@ -38,10 +38,13 @@ QString ProgramFolder()
 {
     if (!chosenFolder.isEmpty())
         return DrivePath(chosenFolder);
-    const QString ofExecutable = QCoreApplication::applicationDirPath();
-    if (!ofExecutable.isEmpty() && RunsFromWritableFolder(ofExecutable))
-        return DrivePath(ofExecutable);
-    return DrivePath(UserDataFolder());
+    return ProgramFolderOf(QCoreApplication::applicationDirPath());
+}
+
+QString ProgramFolderOf(const QString& executableFolder)
+{
+    const bool isFit = !executableFolder.isEmpty() && RunsFromWritableFolder(executableFolder);
+    return DrivePath(isFit ? executableFolder : UserDataFolder());
 }
 
 void SetProgramFolder(const QString& hostFolder)
