@@ -99,9 +99,6 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
         ShadedColor(colors_.At(state.patternColor), colors_.At(state.background), state.shading);
     if (back.isValid())
         format.setBackground(back);
-    if (state.borders[SideBottom].IsSet() && !state.HasBox())
-        format.setProperty(QTextFormat::BlockTrailingHorizontalRulerWidth,
-                           QTextLength(QTextLength::PercentageLength, 100));
     return format;
 }
 

@@ -45,4 +45,23 @@ double BorderPixels(const Border& border)
     return std::clamp(drawn, least, 20.0);
 }
 
+void SetCellBorders(QTextTableCellFormat& format, const std::function<const Border&(int side)>& borderOf,
+                    const ColorTable& colors)
+{
+    const auto set = [&](int side, auto setWidth, auto setStyle, auto setBrush) {
+        const Border& border = borderOf(side);
+        if (!border.IsSet())
+            return;
+        const QColor color = colors.At(border.color);
+        (format.*setWidth)(BorderPixels(border));
+        (format.*setStyle)(BorderStyleOf(border.line));
+        (format.*setBrush)(QBrush(color.isValid() ? color : QColor(Qt::black)));
+    };
+    using Format = QTextTableCellFormat;
+    set(SideTop, &Format::setTopBorder, &Format::setTopBorderStyle, &Format::setTopBorderBrush);
+    set(SideLeft, &Format::setLeftBorder, &Format::setLeftBorderStyle, &Format::setLeftBorderBrush);
+    set(SideBottom, &Format::setBottomBorder, &Format::setBottomBorderStyle, &Format::setBottomBorderBrush);
+    set(SideRight, &Format::setRightBorder, &Format::setRightBorderStyle, &Format::setRightBorderBrush);
+}
+
 } // namespace torvik::rtf

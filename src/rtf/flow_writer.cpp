@@ -1,13 +1,9 @@
 #include "rtf/flow_writer.h"
 
-#include "rtf/border_style.h"
-#include "rtf/limits.h"
+#include "rtf/paragraph_box.h"
 #include "rtf/table_writer.h"
 
-#include <QTextFrame>
-
-#include <algorithm>
-#include <iterator>
+#include <QTextTable>
 
 namespace torvik::rtf {
 
@@ -17,35 +13,12 @@ namespace {
 constexpr qint64 BlockCost = 240;
 constexpr qint64 RunCost = 70;
 constexpr qint64 CharacterCost = 4;
-constexpr qint64 FrameCost = 2000;
-
-bool SameBox(const ParagraphState& a, const ParagraphState& b)
-{
-    return std::equal(std::begin(a.borders), std::end(a.borders), std::begin(b.borders)) &&
-           a.leftIndent == b.leftIndent && a.rightIndent == b.rightIndent;
-}
-
-QTextFrameFormat BoxFormat(const ParagraphState& state, const ColorTable& colors)
-{
-    const auto* edge = std::find_if(std::begin(state.borders), std::end(state.borders),
-                                    [](const Border& b) { return b.IsSet(); });
-    QTextFrameFormat format;
-    format.setBorder(BorderPixels(*edge));
-    format.setBorderStyle(BorderStyleOf(edge->line));
-    const QColor color = colors.At(edge->color);
-    format.setBorderBrush(color.isValid() ? color : QColor(Qt::black));
-    format.setPadding(4);
-    const QColor back =
-        ShadedColor(colors.At(state.patternColor), colors.At(state.background), state.shading);
-    if (back.isValid())
-        format.setBackground(back);
-    return format;
-}
+constexpr qint64 BoxCost = 4000;
 
 } // namespace
 
-FlowWriter::FlowWriter(WritingContext& context, const QTextCursor& cursor)
-    : context_(context), cursor_(cursor)
+FlowWriter::FlowWriter(WritingContext& context, const QTextCursor& cursor, Room room)
+    : context_(context), cursor_(cursor), atCellStart_(room == Room::Cell)
 {}
 
 qint64 FlowWriter::CostOf(qsizetype characters, std::size_t runs)
@@ -57,7 +30,7 @@ void FlowWriter::Write(const Paragraph& paragraph)
 {
     if (!context_.budget.Take(CostOf(paragraph.text.size(), paragraph.spans.size())))
         return;
-    PlaceBox(context_.formats.StateOf(paragraph.format));
+    PlaceBox(paragraph);
     boxFormat_ = paragraph.format;
     OpenBlock(paragraph);
     WriteSpans(paragraph);
@@ -88,19 +61,22 @@ void FlowWriter::Write(const Table& table)
         return;
     }
     cursor_.setPosition(end);
+    atCellStart_ = false;
     fresh_ = true;
-    first_ = false;
 }
 
-void FlowWriter::PlaceBox(const ParagraphState& state)
+void FlowWriter::PlaceBox(const Paragraph& paragraph)
 {
-    if (box_ != nullptr && state.HasBox() && SameBox(state, context_.formats.StateOf(boxFormat_)))
+    const ParagraphState& state = context_.formats.StateOf(paragraph.format);
+    // Without text a single border is a mere rule, which the block draws.
+    const bool isBoxed = state.HasBox() || (state.HasBorder() && !paragraph.IsEmpty());
+    if (box_ != nullptr && isBoxed && SharesBox(state, context_.formats.StateOf(boxFormat_)))
         return;
     LeaveBox();
-    if (!state.HasBox() || !context_.budget.Take(FrameCost))
+    if (!isBoxed || !context_.budget.Take(BoxCost))
         return;
-    box_ = cursor_.insertFrame(BoxFormat(state, context_.formats.Colors()));
-    cursor_ = box_->firstCursorPosition();
+    box_ = InsertBox(cursor_, state, context_.formats.Colors());
+    atCellStart_ = qobject_cast<QTextTable*>(box_) != nullptr;
     fresh_ = true;
 }
 
@@ -110,25 +86,27 @@ void FlowWriter::LeaveBox()
         return;
     cursor_.setPosition(box_->lastPosition() + 1);
     box_ = nullptr;
+    atCellStart_ = false;
     fresh_ = true;
-    first_ = false;
 }
 
-void FlowWriter::RuleOff(const ParagraphState& state)
+void FlowWriter::TakeFreshBlock(const QTextBlockFormat& format, const QTextCharFormat& endFormat)
 {
-    if (!state.borders[SideTop].IsSet() || state.HasBox() || first_)
-        return;
-    // A line above a paragraph is a line below the one before.
-    QTextBlockFormat ruled;
-    ruled.setProperty(QTextFormat::BlockTrailingHorizontalRulerWidth,
-                      QTextLength(QTextLength::PercentageLength, 100));
-    cursor_.mergeBlockFormat(ruled);
+    cursor_.setBlockFormat(format);
+    if (atCellStart_) {
+        QTextCharFormat height;
+        height.setFontPointSize(endFormat.fontPointSize());
+        cursor_.mergeBlockCharFormat(height);
+    } else {
+        cursor_.setBlockCharFormat(endFormat);
+    }
+    atCellStart_ = false;
+    fresh_ = false;
 }
 
 void FlowWriter::OpenBlock(const Paragraph& paragraph)
 {
     const QTextCharFormat& endFormat = context_.formats.CharacterFormat(paragraph.endFormat);
-    RuleOff(context_.formats.StateOf(paragraph.format));
     const ListWriter::Place place = lists_.Join(paragraph.mark);
     const bool isItem = place != ListWriter::Place::Outside;
     QTextBlockFormat format = context_.formats.BlockFormat(isItem ? paragraph.itemFormat : paragraph.format);
@@ -136,14 +114,15 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     if (place == ListWriter::Place::Continues)
         format.setObjectIndex(lists_.IndexOf(paragraph.mark));
-    if (fresh_) {
-        cursor_.setBlockFormat(format);
-        cursor_.setBlockCharFormat(endFormat);
-    } else {
+    const bool isRule =
+        paragraph.IsEmpty() && context_.formats.StateOf(paragraph.format).HasBorder() && box_ == nullptr;
+    if (isRule)
+        format.setProperty(QTextFormat::BlockTrailingHorizontalRulerWidth,
+                           QTextLength(QTextLength::PercentageLength, 100));
+    if (fresh_)
+        TakeFreshBlock(format, endFormat);
+    else
         cursor_.insertBlock(format, endFormat);
-    }
-    fresh_ = false;
-    first_ = false;
     if (place == ListWriter::Place::Starts)
         lists_.Start(paragraph.mark, cursor_);
     else if (!isItem && !paragraph.mark.literal.isEmpty())

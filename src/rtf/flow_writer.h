@@ -22,8 +22,10 @@ struct WritingContext {
 /// Writes paragraphs and tables one below the other, in the document's body or in one cell.
 class FlowWriter {
 public:
+    enum class Room { Body, Cell };
+
     /// The cursor stands in an empty block, which the first paragraph takes over.
-    FlowWriter(WritingContext& context, const QTextCursor& cursor);
+    FlowWriter(WritingContext& context, const QTextCursor& cursor, Room room);
 
     /// Bytes that a paragraph costs in a document, by estimate.
     static qint64 CostOf(qsizetype characters, std::size_t runs);
@@ -33,10 +35,10 @@ public:
     void Write(const std::vector<Block>& blocks);
 
 private:
-    void PlaceBox(const ParagraphState& state);
+    void PlaceBox(const Paragraph& paragraph);
     void LeaveBox();
     void OpenBlock(const Paragraph& paragraph);
-    void RuleOff(const ParagraphState& state);
+    void TakeFreshBlock(const QTextBlockFormat& format, const QTextCharFormat& endFormat);
     void WriteSpans(const Paragraph& paragraph);
 
     WritingContext& context_;
@@ -44,8 +46,8 @@ private:
     ListWriter lists_;
     /// The cursor's block is empty and belongs to no paragraph yet.
     bool fresh_ = true;
-    /// Whether anything stands above the cursor's block in this flow.
-    bool first_ = true;
+    /// What comes before the fresh block is the start of a cell, which carries the cell's own format.
+    bool atCellStart_ = false;
     QTextFrame* box_ = nullptr;
     int boxFormat_ = 0;
 };

@@ -7,6 +7,11 @@
 
 namespace torvik::rtf {
 
+bool ParagraphState::HasBorder() const
+{
+    return std::any_of(std::begin(borders), std::end(borders), [](const Border& b) { return b.IsSet(); });
+}
+
 bool ParagraphState::HasBox() const
 {
     return std::count_if(std::begin(borders), std::end(borders), [](const Border& b) { return b.IsSet(); }) >=

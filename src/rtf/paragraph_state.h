@@ -87,6 +87,8 @@ struct ParagraphState {
     int tableDepth = 0;
 
     bool operator==(const ParagraphState&) const = default;
+    bool HasBorder() const;
+    /// Borders on all sides, or nearly so.
     bool HasBox() const;
 };
 

@@ -49,7 +49,7 @@ Reader::Reader(const QByteArray& bytes, QTextDocument& into)
     : tokens_({bytes.constData(), static_cast<std::size_t>(bytes.size())}), document_(into),
       budget_(bytes.size()), counter_(lists_),
       formats_(fonts_, colors_), context_{formats_, pictures_, budget_}, cursor_(&into),
-      body_(context_, cursor_), flow_(context_, body_)
+      body_(context_, cursor_, FlowWriter::Room::Body), flow_(context_, body_)
 {
     state_.page = &CodePage::Of(documentPage_);
     formats_.Character(state_.character);

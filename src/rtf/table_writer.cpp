@@ -57,25 +57,6 @@ const Border& BorderOf(const GridCell& cell, const RowStyle& row, const TableGri
     return side == SideTop || side == SideBottom ? row.innerHorizontal : row.innerVertical;
 }
 
-void SetBorders(QTextTableCellFormat& format, const GridCell& cell, const RowStyle& row,
-                const TableGrid& grid, const ColorTable& colors)
-{
-    const auto set = [&](int side, auto setWidth, auto setStyle, auto setBrush) {
-        const Border& border = BorderOf(cell, row, grid, side);
-        if (!border.IsSet())
-            return;
-        const QColor color = colors.At(border.color);
-        (format.*setWidth)(BorderPixels(border));
-        (format.*setStyle)(BorderStyleOf(border.line));
-        (format.*setBrush)(QBrush(color.isValid() ? color : QColor(Qt::black)));
-    };
-    using Format = QTextTableCellFormat;
-    set(SideTop, &Format::setTopBorder, &Format::setTopBorderStyle, &Format::setTopBorderBrush);
-    set(SideLeft, &Format::setLeftBorder, &Format::setLeftBorderStyle, &Format::setLeftBorderBrush);
-    set(SideBottom, &Format::setBottomBorder, &Format::setBottomBorderStyle, &Format::setBottomBorderBrush);
-    set(SideRight, &Format::setRightBorder, &Format::setRightBorderStyle, &Format::setRightBorderBrush);
-}
-
 QTextTableCellFormat CellFormat(const GridCell& cell, const RowStyle& row, const TableGrid& grid,
                                 const ColorTable& colors)
 {
@@ -92,7 +73,8 @@ QTextTableCellFormat CellFormat(const GridCell& cell, const RowStyle& row, const
         format.setVerticalAlignment(QTextCharFormat::AlignMiddle);
     else if (style.verticalAlignment == 2)
         format.setVerticalAlignment(QTextCharFormat::AlignBottom);
-    SetBorders(format, cell, row, grid, colors);
+    SetCellBorders(
+        format, [&](int side) -> const Border& { return BorderOf(cell, row, grid, side); }, colors);
     return format;
 }
 
@@ -119,7 +101,7 @@ int WriteTable(WritingContext& context, const QTextCursor& where, const Table& t
         QTextCharFormat format = place.format();
         format.merge(CellFormat(cell, row, grid, context.formats.Colors()));
         place.setFormat(format);
-        FlowWriter flow(context, place.firstCursorPosition());
+        FlowWriter flow(context, place.firstCursorPosition(), FlowWriter::Room::Cell);
         for (const std::vector<Block>* blocks : cell.contents)
             flow.Write(*blocks);
     }
