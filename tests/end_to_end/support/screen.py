@@ -1,0 +1,88 @@
+"""A virtual screen with a window manager, and the hand of the user on it."""
+
+import os
+import subprocess
+
+from support.waiting import wait_until
+
+# Whatever happens to the script, what it started ends with it.
+_ENDS_WITH_US = ["setpriv", "--pdeathsig", "KILL"]
+
+
+class Screen:
+    """Measured in its own pixels, from the upper left corner."""
+
+    def __init__(self, width=800, height=600):
+        self.width, self.height = width, height
+        reading, writing = os.pipe()
+        self._server = subprocess.Popen(
+            [*_ENDS_WITH_US, "Xvfb", "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24",
+             "-nolisten", "tcp", "-noreset"],
+            pass_fds=[writing], stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(writing)
+        with os.fdopen(reading) as answer:
+            number = answer.readline().strip()
+        if not number:
+            raise RuntimeError("Xvfb does not start")
+        self.environment = {**os.environ, "DISPLAY": f":{number}", "QT_QPA_PLATFORM": "xcb"}
+        self._manager = subprocess.Popen(
+            [*_ENDS_WITH_US, "openbox", "--sm-disable"], env=self.environment,
+            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(self._is_managed, "the window manager")
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        for process in (self._manager, self._server):
+            process.terminate()
+            process.wait()
+
+    def _is_managed(self):
+        answer = self._run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+        return "window id" in answer
+
+    def _run(self, *command):
+        return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, text=True,
+                              capture_output=True, check=True).stdout
+
+    def press_mouse(self, x, y, button=1):
+        self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", str(button))
+
+    def double_click(self, x, y):
+        self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", "--repeat", "2", "--delay", "40", "1")
+
+    def press_key(self, *keys):
+        """Keys by their X names: "period", "Escape", "alt+F4"."""
+        self._run("xdotool", "key", "--clearmodifiers", *keys)
+
+    def window_of(self, process):
+        """The number of a process's one visible window."""
+        def search():
+            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(process)], text=True,
+                                   env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, check=False)
+            return found.stdout.split()
+        windows = wait_until(search, "a visible window")
+        if len(windows) > 1:
+            raise RuntimeError(f"the process has the windows {windows}")
+        return windows[0]
+
+    def title_of(self, window):
+        return self._run("xdotool", "getwindowname", window).rstrip("\n")
+
+    def move_window(self, window, left, top):
+        """Moves the frame that the window manager has put around the window."""
+        self._run("xdotool", "windowmove", window, str(left), str(top))
+
+    def size_window(self, window, width, height):
+        self._run("xdotool", "windowsize", window, str(width), str(height))
+
+    def colour_at(self, x, y):
+        """Red, green and blue, 0 to 255."""
+        place = f"1x1+{round(x)}+{round(y)}"
+        pixel = subprocess.run(["import", "-silent", "-window", "root", "-crop", place, "-depth", "8", "rgb:-"],
+                               env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, check=True).stdout
+        return tuple(pixel[:3])
+
+    def save_picture(self, file):
+        self._run("import", "-silent", "-window", "root", str(file))
