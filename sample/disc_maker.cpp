@@ -1,0 +1,103 @@
+#include "disc_maker.h"
+
+#include "captions.h"
+#include "jpeg_file.h"
+#include "pass_by_sound.h"
+#include "photographer.h"
+#include "title_art.h"
+
+#include <QBuffer>
+
+#include <atomic>
+#include <exception>
+#include <mutex>
+#include <stdexcept>
+#include <thread>
+
+namespace torvik::sample {
+
+namespace {
+
+void MakePhoto(const QString& disc, const PlannedPhoto& photo)
+{
+    QImage picture = TakePhoto(photo);
+    QByteArray bytes;
+    if (photo.storing == Storing::TurnedWithTag)
+        bytes = WithTurnTag(JpegBytes(picture.transformed(QTransform().rotate(-90)), 84));
+    else
+        bytes = JpegBytes(picture, photo.size.width() > 2000 ? 80 : 84);
+    WriteFile(disc + QStringLiteral("/Torviks/") + photo.file, bytes);
+}
+
+void WritePng(const QString& path, const QImage& picture)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!picture.save(&buffer, "PNG"))
+        throw std::runtime_error("The artwork cannot be encoded.");
+    WriteFile(path, bytes);
+}
+
+} // namespace
+
+void MakePhotos(const QString& disc)
+{
+    std::vector<PlannedPhoto> photos = PlanPhotos();
+    // The large ones first, so that no worker is left alone with one at the end.
+    std::stable_sort(photos.begin(), photos.end(), [](const PlannedPhoto& a, const PlannedPhoto& b) {
+        return a.size.width() * a.size.height() > b.size.width() * b.size.height();
+    });
+    std::atomic<std::size_t> next{0};
+    std::exception_ptr failure;
+    std::mutex guard;
+    const auto work = [&] {
+        try {
+            for (std::size_t i = next++; i < photos.size(); i = next++)
+                MakePhoto(disc, photos[i]);
+        } catch (...) {
+            const std::lock_guard lock(guard);
+            failure = std::current_exception();
+            next = photos.size();
+        }
+    };
+    std::vector<std::thread> workers;
+    for (unsigned i = 0; i < std::max(1U, std::thread::hardware_concurrency()); ++i)
+        workers.emplace_back(work);
+    for (std::thread& worker : workers)
+        worker.join();
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+void MakeCaptions(const QString& disc)
+{
+    const QString folder = disc + QStringLiteral("/RichText/");
+    for (const PlannedPhoto& photo : PlanPhotos()) {
+        const Caption caption = CaptionOf(photo);
+        WriteFile(folder + caption.file, caption.text);
+    }
+    for (const Caption& note : PlanNotes())
+        WriteFile(folder + note.file, note.text);
+}
+
+void MakeOpeningPicture(const QString& disc, const QString& program)
+{
+    const QByteArray bytes = JpegBytes(PaintOpening({1280, 776}), 88);
+    WriteFile(disc + QStringLiteral("/graphics/ClassicTorviks.jpg"), bytes);
+    WriteFile(program + QStringLiteral("/graphics/ClassicTorviks.jpg"), bytes);
+}
+
+void MakePassBySound(const QString& program)
+{
+    WriteFile(program + QStringLiteral("/passby.wav"), PassBySound());
+}
+
+void MakeAssets(const QString& folder)
+{
+    WritePng(folder + QStringLiteral("/splash.png"), PaintSplash(1));
+    WritePng(folder + QStringLiteral("/splash@2x.png"), PaintSplash(2));
+    WritePng(folder + QStringLiteral("/icon.png"), PaintIcon(256));
+}
+
+} // namespace torvik::sample

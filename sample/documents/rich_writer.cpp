@@ -1,0 +1,21 @@
+#include "rich_writer.h"
+
+#include "bare_writer.h"
+#include "late_writer.h"
+
+namespace torvik::sample {
+
+QByteArray WriteRichText(const RichDocument& document)
+{
+    switch (document.dialect) {
+    case Dialect::Bare:
+        return BareWriter(document).Write();
+    case Dialect::Styled:
+        return StyledWriter(document).Write();
+    case Dialect::Late:
+        break;
+    }
+    return LateWriter(document).Write();
+}
+
+} // namespace torvik::sample

@@ -1,0 +1,99 @@
+#include "scenery.h"
+
+#include "blur.h"
+#include "noise.h"
+#include "tone.h"
+
+namespace torvik::sample {
+
+Scenery MakeScenery(Place place, std::uint32_t seed)
+{
+    switch (place) {
+    case Place::Coast:
+        return CoastScenery(seed);
+    case Place::Desert:
+        return DesertScenery(seed);
+    case Place::City:
+        return CityScenery(seed);
+    case Place::Strip:
+        return StripScenery(seed);
+    case Place::Showroom:
+        return ShowroomScenery(seed);
+    case Place::Snow:
+        return SnowScenery(seed);
+    case Place::Autumn:
+        return AutumnScenery(seed);
+    case Place::Studio:
+        break;
+    }
+    return StudioScenery(seed);
+}
+
+QImage PaintScenery(const Scenery& scenery, const Camera& camera, QSize size)
+{
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    const int width = size.width();
+    const int height = size.height();
+    const int horizon = std::clamp(Floor(camera.HorizonRow()) + 1, 0, height);
+    Environment sky = scenery.light;
+    sky.bandHeight = 0;
+    sky.lamps = nullptr;
+    sky.shadow = nullptr;
+    sky.Prepare();
+    // The sky is smooth: every second pixel of every second row is computed, the rest repeats it.
+    for (int y = 0; y < horizon; y += 2) {
+        auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < width; x += 2) {
+            Vec way = camera.Ray(x + 1.0, y + 1.0);
+            way.z = std::max(way.z, 0.0005);
+            const QRgb pixel = PixelOf(Shoulder(sky.Seen(camera.eye, way)));
+            line[x] = pixel;
+            if (x + 1 < width)
+                line[x + 1] = pixel;
+        }
+        if (y + 1 < height)
+            std::copy_n(line, width, reinterpret_cast<QRgb*>(picture.scanLine(y + 1)));
+    }
+    for (int y = horizon; y < height; ++y) {
+        auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < width; ++x) {
+            const Vec way = camera.Ray(x + 0.5, y + 0.5);
+            const double reach = camera.eye.z / std::max(1e-5, -way.z);
+            const Vec at = camera.eye + way * reach;
+            Rgb colour = scenery.ground(at.x, at.y, reach);
+            if (scenery.light.shadow)
+                colour = colour * (1.0 - 0.92 * scenery.light.shadow->At(at.x, at.y));
+            const double fade = 1.0 - std::exp(-reach / scenery.hazeReach);
+            line[x] = PixelOf(Shoulder(Mix(colour, scenery.haze, fade * fade)));
+        }
+    }
+    if (!scenery.backdrop)
+        return picture;
+    // The backdrop is out of focus, the ground near the car is not.
+    QImage far = picture.copy(0, 0, width, height);
+    QPainter painter(&far);
+    painter.setRenderHint(QPainter::Antialiasing);
+    scenery.backdrop(painter, camera);
+    painter.end();
+    const int keep = std::clamp(horizon + height / 14, 1, height);
+    const double scale = std::max(width, height) / 1280.0;
+    const QImage soft = Blurred(far.copy(0, 0, width, keep), scenery.backdropBlur * scale);
+    QPainter onto(&picture);
+    onto.drawImage(0, 0, soft);
+    onto.end();
+    // Things that reach down into the sharp part are laid over it, fading in with the depth of field.
+    for (int y = std::max(0, keep - height / 20); y < height; ++y) {
+        auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        const auto* sharp = reinterpret_cast<const QRgb*>(far.constScanLine(y));
+        const double share = SmoothStep(keep - height / 20.0, keep, y);
+        for (int x = 0; x < width; ++x) {
+            if (y >= keep)
+                line[x] = sharp[x];
+            else
+                line[x] = PixelOf(Mix(LinearOfPixel(line[x]), LinearOfPixel(sharp[x]), share));
+        }
+    }
+    return picture;
+}
+
+} // namespace torvik::sample
