@@ -1,0 +1,40 @@
+#include "rtf/symbol_font.h"
+
+#include <QTest>
+
+using namespace torvik::rtf;
+
+class SymbolFontTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_symbol_font_shows_greek_and_mathematics()
+    {
+        const QString family = QStringLiteral("Symbol");
+        QCOMPARE(QChar(SymbolCharacter(family, u'a')), QChar(u'α'));
+        QCOMPARE(QChar(SymbolCharacter(family, u'W')), QChar(u'Ω'));
+        QCOMPARE(QChar(SymbolCharacter(family, 0xb7)), QChar(u'•'));
+        QCOMPARE(QChar(SymbolCharacter(family, 0xa3)), QChar(u'≤'));
+        QCOMPARE(QChar(SymbolCharacter(family, 0xe5)), QChar(u'∑'));
+        QCOMPARE(QChar(SymbolCharacter(family, 0xfe)), QChar(u'⎭'));
+    }
+
+    void places_in_the_private_area_are_the_same()
+    {
+        QCOMPARE(QChar(SymbolCharacter(QStringLiteral("Symbol"), 0xf0b7)), QChar(u'•'));
+    }
+
+    void ornaments_have_a_table_of_their_own()
+    {
+        QCOMPARE(QChar(SymbolCharacter(QStringLiteral("Wingdings"), 0xfc)), QChar(u'✓'));
+        QCOMPARE(QChar(SymbolCharacter(QStringLiteral("Wingdings"), 0xa7)), QChar(u'▪'));
+    }
+
+    void ordinary_characters_stay()
+    {
+        QCOMPARE(QChar(SymbolCharacter(QStringLiteral("Symbol"), u'é' + 0x1000)), QChar(u'é' + 0x1000));
+    }
+};
+
+QTEST_GUILESS_MAIN(SymbolFontTest)
+#include "symbol_font_test.moc"
