@@ -129,13 +129,15 @@ private Q_SLOTS:
         RunningProcess process(QStringLiteral("sh -c \"read line < '%1'\"").arg(QString::fromUtf8(pipe)));
         ReleaseInstance();
         const Instance other;
-        QVERIFY(other.IsFirst());
-        QCOMPARE(process.ExitCode(), RunningProcess::stillActive);
+        const bool isRunning = process.ExitCode() == RunningProcess::stillActive;
+        // Whatever came out, the program must not wait for ever.
         QFile end(QString::fromUtf8(pipe));
         QVERIFY(end.open(QIODevice::WriteOnly));
         end.write("\n");
         end.close();
         QTRY_VERIFY(process.ExitCode() != RunningProcess::stillActive);
+        QVERIFY(isRunning);
+        QVERIFY(other.IsFirst());
     }
 
     void another_user_has_instances_of_his_own()
