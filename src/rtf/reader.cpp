@@ -12,6 +12,9 @@ namespace torvik::rtf {
 
 namespace {
 
+constexpr int DefaultTab = 720;
+constexpr int NoFont = -0x7fffffff - 1;
+
 WordScope ScopeOf(Destination destination)
 {
     switch (destination) {
@@ -52,7 +55,11 @@ Reader::Reader(const QByteArray& bytes, QTextDocument& into)
       body_(context_, cursor_, FlowWriter::Room::Body), flow_(context_, body_)
 {
     state_.page = &CodePage::Of(documentPage_);
-    formats_.Character(state_.character);
+    SetDefaultTab(DefaultTab);
+    // What looks plain must not wait for the table of fonts, so it has none.
+    CharacterState plain;
+    plain.font = NoFont;
+    formats_.Character(plain);
     formats_.Paragraph(state_.paragraph);
 }
 

@@ -100,7 +100,9 @@ void Reader::FlushBytes()
 void Reader::PutText(const QString& text)
 {
     QString shown = text;
-    if (state_.page->PageKind() == CodePage::Kind::Symbol) {
+    const bool isFontName =
+        state_.destination == Destination::Fonts || state_.destination == Destination::AlternativeFont;
+    if (state_.page->PageKind() == CodePage::Kind::Symbol && !isFontName) {
         const FontEntry* font = fonts_.Find(state_.character.font);
         for (QChar& c : shown)
             c = SymbolCharacter(font != nullptr ? font->family : QString(), c.unicode());
