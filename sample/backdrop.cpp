@@ -48,13 +48,13 @@ void PaintTree(QPainter& painter, const Standing& at, double tall, const QColor&
     trunk.lineTo(at.x + 0.08 * m, at.y - tall * 0.7 * m);
     trunk.quadTo(at.x + 0.12 * m, at.y - tall * 0.3 * m, at.x + 0.22 * m, at.y);
     painter.fillPath(trunk, Hazed(QColor(44, 34, 28), dark, 0.2));
-    const int blobs = std::clamp(static_cast<int>(tall * m * 1.1), 30, 420);
+    const int blobs = std::clamp(static_cast<int>(tall * m * 1.6), 40, 420);
     for (int i = 0; i < blobs; ++i) {
         const double angle = random.Between(0, 2 * kPi);
         const double away = std::sqrt(random.Unit());
         const double px = std::cos(angle) * away * tall * 0.34;
         const double pz = tall * 0.66 + std::sin(angle) * away * tall * 0.34;
-        const double size = tall * random.Between(0.020, 0.055);
+        const double size = tall * random.Between(0.014, 0.042);
         // Leaves are lit from above; the lower ones lie in the shade of the others.
         const double lit =
             Clamp01(0.25 + 0.55 * (pz / tall - 0.4) / 0.6 + random.Between(-0.15, 0.3) + px / tall * 0.3);

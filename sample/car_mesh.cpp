@@ -34,7 +34,7 @@ Section RoundedLine(const Section& corners, const std::vector<double>& radii,
         const SectionPoint end{Mix(corners[i - 1].y, to.y, share), Mix(corners[i - 1].z, to.z, share)};
         const double dy = end.y - from.y;
         const double dz = end.z - from.z;
-        constexpr int kSteps = 12;
+        constexpr int kSteps = 8;
         for (int k = 0; k < kSteps; ++k) {
             const double t = static_cast<double>(k) / kSteps;
             const double bow = bulges[i - 1] * 4 * t * (1 - t);
@@ -48,7 +48,7 @@ Section RoundedLine(const Section& corners, const std::vector<double>& radii,
         const double next = std::max(1e-9, std::hypot(corners[i + 1].y - to.y, corners[i + 1].z - to.z));
         const SectionPoint leave{Mix(to.y, corners[i + 1].y, cut / next),
                                  Mix(to.z, corners[i + 1].z, cut / next)};
-        constexpr int kBend = 7;
+        constexpr int kBend = 5;
         for (int k = 0; k < kBend; ++k) {
             const double t = static_cast<double>(k) / kBend;
             const double a = (1 - t) * (1 - t);
@@ -110,7 +110,7 @@ std::vector<double> Stations(const CarShape& c)
     std::vector<double> stations;
     for (const double step : {0.0, 0.004, 0.010, 0.018, 0.028, 0.042, 0.06, 0.08})
         stations.push_back(step);
-    for (double s = 0.105; s < c.length - 0.1; s += 0.026)
+    for (double s = 0.105; s < c.length - 0.1; s += 0.04)
         stations.push_back(s);
     for (const double step : {0.08, 0.06, 0.042, 0.028, 0.018, 0.010, 0.004, 0.0})
         stations.push_back(c.length - step);
@@ -136,10 +136,14 @@ std::vector<Vec> BodyRow(const CarShape& c, double s, double shrink)
     const double keepY = (1.0 - inset / c.halfWidth(s)) * shrink;
     const double keepZ = (1.0 - inset / tall) * shrink;
     std::vector<Vec> row;
+    // The floor closes the section, so that nobody looks into the body from below.
+    const double foot = middle + (half.front().z - middle) * keepZ;
+    row.push_back(Shaped(c, s, 0.0, foot));
     for (const SectionPoint& p : half)
         row.push_back(Shaped(c, s, -p.y * keepY, middle + (p.z - middle) * keepZ));
     for (std::size_t i = half.size() - 1; i-- > 0;)
         row.push_back(Shaped(c, s, half[i].y * keepY, middle + (half[i].z - middle) * keepZ));
+    row.push_back(Shaped(c, s, 0.0, foot));
     return row;
 }
 
@@ -187,7 +191,7 @@ Mesh Cabin(const CarShape& c)
     Mesh mesh;
     mesh.mayBeGlass = true;
     std::vector<std::vector<Vec>> rows;
-    const int steps = 110;
+    const int steps = 80;
     for (int i = 0; i <= steps; ++i)
         rows.push_back(CabinRow(c, Mix(c.cowl, c.cabinEnd, static_cast<double>(i) / steps)));
     AddGrid(mesh, rows, {(c.header + c.rearHeader) / 2 - c.length / 2, 0, 0.9});
@@ -296,6 +300,25 @@ void AddWing(const CarShape& c, std::vector<Mesh>& parts)
             Ellipsoid({x + 0.01, side * reach * 0.93, deck + 0.05}, {0.10, 0.025, 0.10}, Finish::Paint));
 }
 
+/// The number plates stand before the bumpers; the sheets of front and rear carry their lettering.
+void AddPlates(const CarShape& c, std::vector<Mesh>& parts)
+{
+    if (c.bumper == Bumper::Hidden)
+        return;
+    const double stand = c.bumper == Bumper::RubberStrip ? 0.125 : 0.10;
+    for (const bool front : {true, false}) {
+        const double z = front ? c.bumperHeight : c.bumperHeight - 0.045;
+        const double x =
+            front ? -c.length / 2 + c.noseSetBack(z) - stand : c.length / 2 - c.tailSetBack(z) + stand;
+        Mesh plate;
+        AddGrid(
+            plate,
+            {{{x, -0.17, z - 0.066}, {x, 0.17, z - 0.066}}, {{x, -0.17, z + 0.066}, {x, 0.17, z + 0.066}}},
+            {0, 0, z});
+        parts.push_back(plate);
+    }
+}
+
 void AddInterior(const CarShape& c, std::vector<Mesh>& parts)
 {
     const double half = c.length / 2;
@@ -377,6 +400,7 @@ std::vector<Mesh> BuildCar(const CarShape& c)
         parts.push_back(BumperBar(c, true, c.bumperHeight, 0.075, 0.04, Finish::Paint));
         parts.push_back(BumperBar(c, false, c.bumperHeight + 0.05, 0.075, 0.04, Finish::Paint));
     }
+    AddPlates(c, parts);
     AddInterior(c, parts);
     // Mirrors.
     const double mirrorX = c.windowFront + 0.08 - half;

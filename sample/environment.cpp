@@ -113,8 +113,8 @@ Rgb Environment::Sky(const Vec& way) const
 
 namespace {
 
-constexpr int kAround = 768; // steps of azimuth
-constexpr int kUp = 192;     // steps of height, closer together near the horizon
+constexpr int kAround = 512; // steps of azimuth
+constexpr int kUp = 128;     // steps of height, closer together near the horizon
 
 } // namespace
 

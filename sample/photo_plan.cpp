@@ -157,7 +157,8 @@ std::vector<PlannedPhoto> PlanPhotos()
 {
     std::vector<PlannedPhoto> photos;
     for (int year = kFirstYear; year <= kLastYear; ++year) {
-        const int count = 5 + (year * 2) % 3;
+        constexpr std::array kMore = {1, 0, 0, 2, 0, 1, 0};
+        const int count = 5 + kMore[static_cast<std::size_t>(year - kFirstYear) % kMore.size()];
         for (int number = 1; number <= count; ++number)
             photos.push_back(YearPhoto(year, number));
     }

@@ -116,6 +116,8 @@ QImage PhotographCar(const CarShape& shape, const Paint& paint, const Trim& trim
     subject.parts = BuildCar(shape);
     subject.shape = &shape;
     subject.skin = &skin;
+    if (camera.eye.y > 0)
+        scenery = TurnedRound(std::move(scenery));
     scenery.light.Prepare();
     scenery.light.shadow = std::make_shared<GroundShadow>(subject.parts, scenery.light.toSun,
                                                           scenery.shadowStrength, scenery.night ? 3 : 1);

@@ -29,6 +29,27 @@ Scenery MakeScenery(Place place, std::uint32_t seed)
     return StudioScenery(seed);
 }
 
+Scenery TurnedRound(Scenery scenery)
+{
+    scenery.light.toSun.x = -scenery.light.toSun.x;
+    scenery.light.toSun.y = -scenery.light.toSun.y;
+    if (scenery.backdrop) {
+        scenery.backdrop = [backdrop = scenery.backdrop](QPainter& painter, const Camera& camera) {
+            const auto turned = [](const Vec& v) { return Vec{-v.x, -v.y, v.z}; };
+            Camera other = camera;
+            other.eye = turned(camera.eye);
+            other.right = turned(camera.right);
+            other.up = turned(camera.up);
+            other.forward = turned(camera.forward);
+            backdrop(painter, other);
+        };
+    }
+    scenery.ground = [ground = scenery.ground](double x, double y, double distance) {
+        return ground(-x, -y, distance);
+    };
+    return scenery;
+}
+
 QImage PaintScenery(const Scenery& scenery, const Camera& camera, QSize size)
 {
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
@@ -69,30 +90,20 @@ QImage PaintScenery(const Scenery& scenery, const Camera& camera, QSize size)
     }
     if (!scenery.backdrop)
         return picture;
-    // The backdrop is out of focus, the ground near the car is not.
-    QImage far = picture.copy(0, 0, width, height);
+    // The backdrop is out of focus, so half the size is fine enough for it.
+    QImage far(size / 2, QImage::Format_ARGB32_Premultiplied);
+    far.fill(Qt::transparent);
     QPainter painter(&far);
     painter.setRenderHint(QPainter::Antialiasing);
-    scenery.backdrop(painter, camera);
+    painter.setPen(Qt::NoPen);
+    scenery.backdrop(painter, camera.Enlarged(0.5));
     painter.end();
-    const int keep = std::clamp(horizon + height / 14, 1, height);
     const double scale = std::max(width, height) / 1280.0;
-    const QImage soft = Blurred(far.copy(0, 0, width, keep), scenery.backdropBlur * scale);
+    far = Blurred(far, scenery.backdropBlur * scale / 2);
     QPainter onto(&picture);
-    onto.drawImage(0, 0, soft);
+    onto.setRenderHint(QPainter::SmoothPixmapTransform);
+    onto.drawImage(QRectF(picture.rect()), far);
     onto.end();
-    // Things that reach down into the sharp part are laid over it, fading in with the depth of field.
-    for (int y = std::max(0, keep - height / 20); y < height; ++y) {
-        auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        const auto* sharp = reinterpret_cast<const QRgb*>(far.constScanLine(y));
-        const double share = SmoothStep(keep - height / 20.0, keep, y);
-        for (int x = 0; x < width; ++x) {
-            if (y >= keep)
-                line[x] = sharp[x];
-            else
-                line[x] = PixelOf(Mix(LinearOfPixel(line[x]), LinearOfPixel(sharp[x]), share));
-        }
-    }
     return picture;
 }
 

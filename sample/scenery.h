@@ -35,6 +35,10 @@ Scenery SnowScenery(std::uint32_t seed);
 Scenery AutumnScenery(std::uint32_t seed);
 Scenery StudioScenery(std::uint32_t seed);
 
+/// The same place for a camera on the other side of the car (at positive y), which sees what lay behind the
+/// first one.
+Scenery TurnedRound(Scenery scenery);
+
 /// Sky, backdrop and ground as the camera sees them, without the car; the shadow of `scenery.light` lies on
 /// the ground.
 QImage PaintScenery(const Scenery& scenery, const Camera& camera, QSize size);

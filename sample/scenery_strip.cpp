@@ -54,20 +54,20 @@ Scenery StripScenery(std::uint32_t seed)
             const double z = 1.4 + row * 0.62;
             PaintBar(painter, camera, {-44, y, z - 0.35}, {44, y, z - 0.35}, 0.7,
                      QColor(92 + row * 3, 92 + row * 3, 96 + row * 3));
-            for (double x = -44; x < 44; x += 0.62) {
+            for (double x = -44; x < 44; x += 0.5) {
                 const double chance = random.Unit();
                 const int hue = random.Below(360);
-                const int strong = 30 + random.Below(120);
-                const int value = 110 + random.Below(120);
+                const int strong = 10 + random.Below(80);
+                const int value = 70 + random.Below(130);
                 if (chance < 0.18)
                     continue;
                 const Standing at = StandAt(camera, x + random.Between(-0.1, 0.1), y, z);
                 if (!at.visible)
                     continue;
                 painter.setBrush(QColor::fromHsv(hue, strong, value));
-                painter.drawEllipse(QPointF(at.x, at.y), 0.25 * at.metre, 0.36 * at.metre);
+                painter.drawEllipse(QPointF(at.x, at.y), 0.2 * at.metre, 0.3 * at.metre);
                 painter.setBrush(QColor(206, 164, 136));
-                painter.drawEllipse(QPointF(at.x, at.y - 0.45 * at.metre), 0.12 * at.metre, 0.14 * at.metre);
+                painter.drawEllipse(QPointF(at.x, at.y - 0.40 * at.metre), 0.11 * at.metre, 0.13 * at.metre);
             }
         }
         PaintBar(painter, camera, {-45, 19, 10.6}, {45, 19, 10.6}, 0.9, QColor(196, 44, 40));

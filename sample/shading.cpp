@@ -86,8 +86,8 @@ Rgb Shader::Lit(const Material& m, const Vec& at, const Vec& normal, double meta
     const Vec mirrored = Reflect(toEye * -1.0, normal);
     const double sunny = std::max(0.0, Dot(normal, light_.toSun));
     const Rgb soft = light_.Soft(normal) * open;
-    const Rgb diffuse = m.colour * (soft + light_.sun * (sunny * 0.62 * open));
-    const double fresnel = 0.045 + 0.955 * FifthPower(1.0 - facing);
+    const Rgb diffuse = m.colour * (soft + light_.sun * (sunny * 0.50 * open)) * 0.92;
+    const double fresnel = 0.06 + 0.94 * FifthPower(1.0 - facing);
     const double gloss = 1.0 - m.rough;
     Rgb seen;
     if (gloss > 0.02 || m.metal > 0.02)

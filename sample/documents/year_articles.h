@@ -1,0 +1,14 @@
+#pragma once
+
+#include "rich_document.h"
+
+namespace torvik::sample {
+
+/// The five articles of a model year, 1967 to 2001. Their figures come from one table, so that they agree.
+RichDocument YearDescription(int year);
+RichDocument YearStatistics(int year);
+RichDocument YearColours(int year);
+RichDocument YearOptions(int year);
+RichDocument YearNostalgia(int year);
+
+} // namespace torvik::sample

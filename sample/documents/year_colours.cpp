@@ -1,0 +1,103 @@
+#include "article.h"
+#include "colour_cards.h"
+#include "options.h"
+#include "year_articles.h"
+#include "year_style.h"
+
+#include <algorithm>
+
+namespace torvik::sample {
+
+namespace {
+
+QString ParagraphOnTaste(const std::vector<CardColour>& card, int year)
+{
+    const auto byShare = [](const CardColour& a, const CardColour& b) { return a.share < b.share; };
+    const CardColour& most = *std::max_element(card.begin(), card.end(), byShare);
+    const CardColour& least = *std::min_element(card.begin(), card.end(), byShare);
+    const auto metallic = std::count_if(card.begin(), card.end(), [](const CardColour& c) { return c.metallic; });
+    return QStringLiteral("The card of %1 held *%2* colours, %3 of them with metal flakes. Most buyers chose _%4_, which "
+                          "went on one car in %5; the rarest was _%6_, with %7 percent.")
+        .arg(year)
+        .arg(card.size())
+        .arg(metallic)
+        .arg(most.name)
+        .arg(qRound(100 / most.share))
+        .arg(least.name)
+        .arg(least.share, 0, 'f', 1);
+}
+
+/// A cell that is nothing but its colour.
+Cell Swatch(const Article& article, const QColor& colour)
+{
+    Cell cell = article.CellOf(QString(QChar(0x00A0)));
+    cell.shade = colour;
+    return cell;
+}
+
+void AddCard(Article& article, const std::vector<CardColour>& card, int year)
+{
+    Table table;
+    table.widths = {1300, 2900, 800, 1200, 1100};
+    Row head;
+    head.heading = true;
+    head.cells = {article.HeadCell(QStringLiteral("Colour")), article.HeadCell(QStringLiteral("Name")),
+                  article.HeadCell(QStringLiteral("Code"), Align::Centre), article.HeadCell(QStringLiteral("Finish")),
+                  article.HeadCell(QStringLiteral("Share"), Align::Right)};
+    table.rows.push_back(head);
+    for (const CardColour& colour : card) {
+        Row row;
+        QString name = u'*' + colour.name + u'*';
+        if (colour.extra)
+            name += QStringLiteral("\n_special colour, +%1_").arg(Dollars(PriceIn(year, 19)));
+        row.cells = {Swatch(article, colour.colour), article.CellOf(name), article.CellOf(colour.code, Align::Centre),
+                     article.CellOf(colour.metallic ? QStringLiteral("metallic") : QStringLiteral("plain")),
+                     article.CellOf(QStringLiteral("%1 %").arg(colour.share, 0, 'f', 1), Align::Right)};
+        table.rows.push_back(row);
+    }
+    article.Add(table);
+}
+
+void AddTrims(Article& article, int year)
+{
+    article.Heading(QStringLiteral("Seats and trim"));
+    Table table;
+    table.border = Border::Rules;
+    table.widths = {1300, 2600, 3400};
+    Row head;
+    head.heading = true;
+    head.cells = {article.HeadCell(QStringLiteral("Trim")), article.HeadCell(QStringLiteral("Name")),
+                  article.HeadCell(QStringLiteral("Material"))};
+    table.rows.push_back(head);
+    for (const SeatTrim& trim : SeatTrims(year)) {
+        Row row;
+        row.cells = {Swatch(article, QColor(QRgb(trim.colour))), article.CellOf(QString::fromUtf8(trim.name)),
+                     article.CellOf(QString::fromUtf8(trim.cloth))};
+        table.rows.push_back(row);
+    }
+    article.Add(table);
+}
+
+} // namespace
+
+RichDocument YearColours(int year)
+{
+    const std::vector<CardColour> card = ColourCard(year);
+    Article article = NewYearArticle(year, YearArticle::Colours, QStringLiteral("%1 colours").arg(year));
+    article.Title(QStringLiteral("Colours of %1").arg(year));
+    article.Text(ParagraphOnTaste(card, year));
+    AddCard(article, card, year);
+    AddTrims(article, year);
+    Paragraph hint = article.Plain(QStringLiteral(
+        "The code stands on the plate at the driver’s door, after the letter of the engine. Screens differ: hold the old "
+        "paint chip beside your own before you order a litre."));
+    hint.before = 160;
+    hint.boxed = true;
+    hint.shade = article.Tint();
+    hint.left = 120;
+    hint.right = 120;
+    article.Add(hint);
+    return article.Take();
+}
+
+} // namespace torvik::sample

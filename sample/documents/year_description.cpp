@@ -1,0 +1,115 @@
+#include "article_source.h"
+#include "drawings.h"
+#include "engines.h"
+#include "model_years.h"
+#include "options.h"
+#include "text_store.h"
+#include "year_articles.h"
+#include "year_style.h"
+
+#include "sample/car_shape.h"
+
+namespace torvik::sample {
+
+namespace {
+
+QString BodiesOf(const ModelYear& year)
+{
+    QString bodies = QStringLiteral("coupe");
+    if (year.fastbacks > 0)
+        bodies += QStringLiteral(", ") + FastbackName(year.year).toLower();
+    if (year.convertibles > 0)
+        bodies += QStringLiteral(", convertible");
+    return bodies;
+}
+
+QString EngineRange(int year)
+{
+    const std::vector<Engine> engines = EnginesOf(year);
+    int most = 0;
+    for (const Engine& engine : engines)
+        most = std::max(most, engine.power);
+    return QStringLiteral("%1, %2 to %3 bhp").arg(engines.size()).arg(engines.front().power).arg(most);
+}
+
+Paragraph Fact(const Article& article, const char* name, const QString& value)
+{
+    Paragraph fact = article.Plain(QStringLiteral("~*%1*~\t%2").arg(QString::fromLatin1(name), value));
+    fact.tabs = {{1150, TabStop::Kind::Left, false}};
+    fact.left = 1150;
+    fact.first = -1150;
+    fact.after = 40;
+    for (Run& run : fact.runs)
+        run.look.halfPoints = 19;
+    return fact;
+}
+
+/// Two columns of facts on a faint ground.
+Table FactsOf(const Article& article, const ModelYear& year)
+{
+    const Measures measures = MeasuresOf(year.year);
+    const auto inches = [](int millimetres) { return QString::number(millimetres / 25.4, 'f', 1) + u'″'; };
+    Table table;
+    table.border = Border::Rules;
+    table.widths = {3600, 3600};
+    Cell left{{Fact(article, "Bodies", BodiesOf(year)), Fact(article, "Engines", EngineRange(year.year)),
+               Fact(article, "Built", Grouped(year.Built()))},
+              article.Tint(),
+              1};
+    Cell right{{Fact(article, "Price", QStringLiteral("from ") + Dollars(year.price)),
+                Fact(article, "Length", QStringLiteral("%1 m (%2)").arg(measures.length / 1000.0, 0, 'f', 2).arg(inches(measures.length))),
+                Fact(article, "Weight", QStringLiteral("%1 kg, coupe").arg(Grouped(year.weight)))},
+               article.Tint(),
+               1};
+    Row row;
+    row.heading = true;
+    row.cells = {left, right};
+    table.rows.push_back(row);
+    return table;
+}
+
+QString ProductionSentence(const ModelYear& year)
+{
+    QString text = QStringLiteral("The works built *%1* cars of the %2 season").arg(Grouped(year.Built())).arg(year.year);
+    if (year.year > 1967) {
+        const double before = ModelYearOf(year.year - 1).Built();
+        const double change = 100.0 * (year.Built() - before) / before;
+        if (change > 1 || change < -1)
+            text += QStringLiteral(", %1% %2 than in the season before")
+                        .arg(qAbs(change), 0, 'f', 0)
+                        .arg(change > 0 ? QStringLiteral("more") : QStringLiteral("fewer"));
+        else
+            text += QStringLiteral(", about as many as in the season before");
+    }
+    if (year.convertibles > 0) {
+        text += QStringLiteral("; %1 of them left Port Averel with a folding top. ").arg(Grouped(year.convertibles));
+    } else {
+        text += QStringLiteral(". There was no convertible. ");
+    }
+    return text + QStringLiteral("A coupe with the standard engine cost %1 before tax and delivery.").arg(Dollars(year.price));
+}
+
+} // namespace
+
+RichDocument YearDescription(int year)
+{
+    const ModelYear& figures = ModelYearOf(year);
+    const std::map<QString, TextSection> texts = StoredSections(QStringLiteral("years_%1").arg(year / 10));
+    const std::map<QString, TextSection> shapes = StoredSections(QStringLiteral("shapes"));
+    const TextSection& text = texts.at(QString::number(year));
+    const TextSection& shape = shapes.at(QStringLiteral("g%1").arg(GenerationOfYear(year)));
+
+    Article article = NewYearArticle(year, YearArticle::Description, QStringLiteral("%1 Torvik Vollandry").arg(year));
+    article.Title(QStringLiteral("%1 Torvik Vollandry").arg(year));
+    article.Aligned(u'_' + text.title + u'_', Align::Centre);
+    article.Add(CarDrawing(year, 5300));
+    AddSource(article, text.body);
+    article.Add(FactsOf(article, figures));
+    article.Heading(shape.title);
+    AddSource(article, shape.body);
+    article.Heading(QStringLiteral("How many, and for how much"));
+    article.Text(ProductionSentence(figures));
+    return article.Take();
+}
+
+} // namespace torvik::sample

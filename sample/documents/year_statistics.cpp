@@ -1,0 +1,167 @@
+#include "article.h"
+#include "engines.h"
+#include "model_years.h"
+#include "options.h"
+#include "year_articles.h"
+#include "year_style.h"
+
+namespace torvik::sample {
+
+namespace {
+
+/// Adds rows to a table of text on the left and numbers on the right.
+class FigureTable {
+public:
+    FigureTable(Article& article, const std::vector<int>& widths) : article_(article)
+    {
+        table_.widths = widths;
+    }
+
+    void Head(const QStringList& parts) { AddRow(parts, true); }
+    void Add(const QStringList& parts) { AddRow(parts, false); }
+    /// A sum, set apart in bold.
+    void Sum(QStringList parts)
+    {
+        for (QString& part : parts)
+            part = u'*' + part + u'*';
+        AddRow(parts, false);
+        for (Cell& cell : table_.rows.back().cells)
+            cell.shade = QColor(217, 217, 217);
+    }
+    void Finish()
+    {
+        article_.Add(table_);
+        Paragraph space = article_.Plain({});
+        space.after = 40;
+        article_.Add(space);
+    }
+
+private:
+    void AddRow(const QStringList& parts, bool heading)
+    {
+        Row row;
+        row.heading = heading;
+        for (const QString& part : parts) {
+            const Align align = row.cells.empty() ? Align::Left : Align::Right;
+            Cell cell = heading ? article_.HeadCell(part, align) : article_.CellOf(part, align);
+            if (!heading && table_.rows.size() % 2 == 0)
+                cell.shade = article_.Tint();
+            row.cells.push_back(cell);
+        }
+        table_.rows.push_back(row);
+    }
+
+    Article& article_;
+    Table table_;
+};
+
+void AddProduction(Article& article, const ModelYear& year)
+{
+    article.Heading(QStringLiteral("Production"));
+    FigureTable table(article, {3200, 1800, 1300, 1000});
+    table.Head({QStringLiteral("Body"), QStringLiteral("Cars built"), QStringLiteral("Share"), QStringLiteral("Seats")});
+    const auto add = [&](const QString& name, int cars, const char* seats) {
+        if (cars > 0)
+            table.Add({name, Grouped(cars), QStringLiteral("%1 %").arg(100.0 * cars / year.Built(), 0, 'f', 1),
+                       QString::fromLatin1(seats)});
+    };
+    add(QStringLiteral("Coupe"), year.coupes, "2 + 2");
+    add(FastbackName(year.year), year.fastbacks, "2 + 2");
+    add(QStringLiteral("Convertible"), year.convertibles, "2 + 2");
+    table.Sum({QStringLiteral("All bodies"), Grouped(year.Built()), QStringLiteral("100.0 %"), QString()});
+    table.Finish();
+}
+
+void AddMeasures(Article& article, const ModelYear& year)
+{
+    const Measures measures = MeasuresOf(year.year);
+    article.Heading(QStringLiteral("Measures and weights"));
+    FigureTable table(article, {3800, 1800, 1700});
+    table.Head({QStringLiteral("Measure"), QStringLiteral("Metric"), QStringLiteral("Inches, pounds")});
+    const auto length = [&](const char* name, int millimetres) {
+        table.Add({QString::fromLatin1(name), Grouped(millimetres) + QStringLiteral(" mm"),
+                   QString::number(millimetres / 25.4, 'f', 1) + u'″'});
+    };
+    const auto weight = [&](const QString& name, int kilograms) {
+        table.Add({name, Grouped(kilograms) + QStringLiteral(" kg"),
+                   Grouped(static_cast<int>(kilograms * 2.20462 + 0.5)) + QStringLiteral(" lb")});
+    };
+    length("Overall length", measures.length);
+    length("Wheelbase", measures.wheelbase);
+    length("Overall width", measures.width);
+    length("Overall height", measures.height);
+    weight(QStringLiteral("Weight, coupe"), year.weight);
+    if (year.fastbacks > 0)
+        weight(QStringLiteral("Weight, ") + FastbackName(year.year).toLower(), year.weight + 18);
+    if (year.convertibles > 0)
+        weight(QStringLiteral("Weight, convertible"), year.weight + 72);
+    table.Finish();
+}
+
+void AddEngines(Article& article, int year)
+{
+    article.Heading(QStringLiteral("Engines"));
+    FigureTable table(article, {2400, 700, 1000, 1600, 900, 700});
+    table.Head({QStringLiteral("Engine"), QStringLiteral("Code"), QStringLiteral("Litres"), QStringLiteral("bhp at rpm"),
+                QStringLiteral("lb-ft"), QStringLiteral("Ratio")});
+    for (const Engine& engine : EnginesOf(year)) {
+        table.Add({EngineName(engine), QString(QLatin1Char(engine.code)), QString::number(engine.litres, 'f', 1),
+                   QStringLiteral("%1 at %2").arg(engine.power).arg(Grouped(engine.powerAt)),
+                   QString::number(engine.torque), QString::number(engine.compression, 'f', 1)});
+    }
+    table.Finish();
+}
+
+void AddPerformance(Article& article, const ModelYear& year)
+{
+    article.Heading(QStringLiteral("On the road"));
+    FigureTable table(article, {3200, 1300, 1300, 1500});
+    table.Head({QStringLiteral("Coupe with"), QStringLiteral("0 to 60"), QStringLiteral("Top speed"),
+                QStringLiteral("On order")});
+    for (const Engine& engine : EnginesOf(year.year)) {
+        table.Add({EngineName(engine), QStringLiteral("%1 s").arg(SecondsToSixty(engine, year.weight), 0, 'f', 1),
+                   QStringLiteral("%1 mph").arg(TopSpeed(engine)),
+                   engine.extra == 0 ? QStringLiteral("standard") : u'+' + Dollars(PriceIn(year.year, engine.extra))});
+    }
+    table.Finish();
+}
+
+void AddPrices(Article& article, const ModelYear& year)
+{
+    article.Heading(QStringLiteral("List prices"));
+    FigureTable table(article, {4300, 1500, 1500});
+    table.Head({QStringLiteral("Body with the standard engine"), QStringLiteral("Price"), QStringLiteral("A season ago")});
+    const ModelYear* before = year.year > 1967 ? &ModelYearOf(year.year - 1) : nullptr;
+    const auto add = [&](const QString& name, bool wasThere, int share) {
+        table.Add({name, Dollars(year.price * share / 100),
+                   before && wasThere ? Dollars(before->price * share / 100) : QStringLiteral("—")});
+    };
+    add(QStringLiteral("Coupe"), true, 100);
+    if (year.fastbacks > 0)
+        add(FastbackName(year.year), true, 105);
+    if (year.convertibles > 0)
+        add(QStringLiteral("Convertible"), before && before->convertibles > 0, year.year < 1980 ? 109 : 131);
+    table.Finish();
+}
+
+} // namespace
+
+RichDocument YearStatistics(int year)
+{
+    const ModelYear& figures = ModelYearOf(year);
+    Article article = NewYearArticle(year, YearArticle::Statistics, QStringLiteral("%1 statistics").arg(year));
+    article.Title(QStringLiteral("%1 in figures").arg(year));
+    AddProduction(article, figures);
+    AddMeasures(article, figures);
+    AddEngines(article, year);
+    AddPerformance(article, figures);
+    AddPrices(article, figures);
+    article.Text(QStringLiteral("_Power is stated %1, as the makers did in that year. Times and speeds are the editors’ "
+                                "reckoning from weight and power with two people aboard; prices are without tax and "
+                                "delivery._")
+                     .arg(year < 1972 ? QStringLiteral("gross, with the engine on a bench and nothing attached")
+                                      : QStringLiteral("net, with the engine as it sits in the car")));
+    return article.Take();
+}
+
+} // namespace torvik::sample

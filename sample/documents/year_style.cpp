@@ -1,0 +1,39 @@
+#include "year_style.h"
+
+#include "sample/car_shape.h"
+
+#include <array>
+
+namespace torvik::sample {
+
+Article NewYearArticle(int year, YearArticle kind, const QString& title)
+{
+    constexpr std::array<unsigned, 6> kAccents = {0x8B1A1A, 0x93500A, 0x5A6418, 0x1F3F77, 0x0C5C62, 0x4A2A6A};
+    const int generation = GenerationOfYear(year);
+    ArticleStyle style;
+    style.accent = QColor(QRgb(kAccents.at(static_cast<std::size_t>(generation - 1))));
+    switch (kind) {
+    case YearArticle::Description:
+        style.justified = generation % 2 == 0;
+        break;
+    case YearArticle::Statistics:
+    case YearArticle::Colours:
+        style.body = Typeface::Sans;
+        style.bodySize = 20;
+        break;
+    case YearArticle::Options:
+        style.body = Typeface::Sans;
+        style.bodySize = 20;
+        style.heading = Typeface::Roman;
+        break;
+    case YearArticle::Nostalgia:
+        style.heading = Typeface::Roman;
+        break;
+    }
+    const Dialect dialects[] = {Dialect::Styled, Dialect::Bare, Dialect::Late};
+    const Dialect dialect = dialects[(static_cast<int>(kind) + generation + 2) % 3];
+    const int written = dialect == Dialect::Bare ? 1996 + year % 2 : dialect == Dialect::Styled ? 1998 : 2001;
+    return Article(title, dialect, written, style);
+}
+
+} // namespace torvik::sample
