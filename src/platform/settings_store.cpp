@@ -9,8 +9,8 @@ namespace torvik {
 
 namespace {
 
-/// The store takes slashes and backslashes in a name as its own separators, knows no empty name, and mixes
-/// the section "general" in any letter case up with its unnamed one. Such names are written in another way.
+/// The store takes slashes and backslashes in a name as its own separators and knows no empty name. Such
+/// names are written in another way.
 QString StoredName(const QString& name)
 {
     if (name.isEmpty())
@@ -19,8 +19,6 @@ QString StoredName(const QString& name)
     stored.replace(u'%', QStringLiteral("%25"));
     stored.replace(u'/', QStringLiteral("%2F"));
     stored.replace(u'\\', QStringLiteral("%5C"));
-    if (stored.compare(u"general", Qt::CaseInsensitive) == 0)
-        stored.append(u'%');
     return stored;
 }
 

@@ -1,0 +1,41 @@
+#include "platform/print_jobs.h"
+
+#include "platform/failure.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace torvik {
+
+QString DocumentsFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+QString NextJobFile(const QString& hostFolder)
+{
+    const QDir folder(QDir::current().absoluteFilePath(hostFolder));
+    if (!folder.mkpath(QStringLiteral(".")))
+        Fail(failure::pathNotFound);
+    for (int number = 1;; ++number) {
+        const QString path = folder.filePath(QStringLiteral("job-%1.pdf").arg(number));
+        const QFileInfo taken(path);
+        if (!taken.exists() && !taken.isSymLink())
+            return path;
+    }
+}
+
+bool IsWholeJobFile(const QString& hostPath)
+{
+    constexpr qint64 tail = 32; // bytes
+    QFile file(hostPath);
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(std::max<qint64>(0, file.size() - tail)))
+        return false;
+    return file.readAll().trimmed().endsWith("%%EOF");
+}
+
+} // namespace torvik

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace torvik {
+
+/// The folder of the host for this user's documents.
+QString DocumentsFolder();
+
+/// The host path for the next print job of a folder of the host: "job-1.pdf", or the first number behind it
+/// that is not taken. The folder is made when it is missing. Failure 76, Path not found, when it cannot be
+/// made.
+QString NextJobFile(const QString& hostFolder);
+
+/// Whether a job's file on the host is complete. A full disk cuts it short without a word.
+bool IsWholeJobFile(const QString& hostPath);
+
+} // namespace torvik
