@@ -21,9 +21,19 @@ struct Corner {
 struct Cell {
     float inverse = 0;
     std::int32_t part = -1;
-    Vec at;
-    Vec normal;
+    std::array<float, 3> at = {};
+    std::array<float, 3> normal = {};
 };
+
+std::array<float, 3> Packed(const Vec& v)
+{
+    return {static_cast<float>(v.x), static_cast<float>(v.y), static_cast<float>(v.z)};
+}
+
+Vec Unpacked(const std::array<float, 3>& v)
+{
+    return {static_cast<double>(v[0]), static_cast<double>(v[1]), static_cast<double>(v[2])};
+}
 
 struct Light4 {
     float red = 0;
@@ -35,11 +45,12 @@ struct Light4 {
 /// A horizontal part of the picture at twice its size.
 class Strip {
 public:
-    Strip(int width, int top, int rows)
-        : width_(width), top_(top), rows_(rows), cells_(Count()), light_(Count())
+    Strip(int left, int width, int top, int rows)
+        : left_(left), width_(width), top_(top), rows_(rows), cells_(Count()), light_(Count())
     {}
 
-    int Width() const { return width_; }
+    int Left() const { return left_; }
+    int Right() const { return left_ + width_; }
     int Top() const { return top_; }
     int Bottom() const { return top_ + rows_; }
     Cell& CellAt(int x, int y) { return cells_[Index(x, y)]; }
@@ -50,9 +61,10 @@ private:
     std::size_t Index(int x, int y) const
     {
         return static_cast<std::size_t>(y - top_) * static_cast<std::size_t>(width_) +
-               static_cast<std::size_t>(x);
+               static_cast<std::size_t>(x - left_);
     }
 
+    int left_;
     int width_;
     int top_;
     int rows_;
@@ -70,12 +82,12 @@ void Scan(Strip& strip, const Corner& c0, const Corner& c1, const Corner& c2, co
         return;
     const double lowX = std::min({c0.x, c1.x, c2.x});
     const double highX = std::max({c0.x, c1.x, c2.x});
-    if (highX < 0 || lowX > strip.Width())
+    if (highX < strip.Left() || lowX > strip.Right())
         return;
     const double lowY = std::min({c0.y, c1.y, c2.y});
     const double highY = std::max({c0.y, c1.y, c2.y});
-    const int x0 = std::max(0, Floor(lowX));
-    const int x1 = std::min(strip.Width() - 1, Floor(highX));
+    const int x0 = std::max(strip.Left(), Floor(lowX));
+    const int x1 = std::min(strip.Right() - 1, Floor(highX));
     const int y0 = std::max(strip.Top(), Floor(lowY));
     const int y1 = std::min(strip.Bottom() - 1, Floor(highY));
     const double inverseArea = 1.0 / area;
@@ -123,10 +135,11 @@ void ScanPart(Strip& strip, const Mesh& part, const std::vector<Corner>& corners
 void Render(QImage& picture, const Subject& subject, const Camera& camera, const Environment& light)
 {
     const Camera fine = camera.Enlarged(2.0);
-    const int width = picture.width() * 2;
     std::vector<std::vector<Corner>> corners;
     double top = std::numeric_limits<double>::max();
     double bottom = 0;
+    double left = std::numeric_limits<double>::max();
+    double right = 0;
     for (const Mesh& part : subject.parts) {
         std::vector<Corner> projected;
         projected.reserve(part.vertices.size());
@@ -137,21 +150,25 @@ void Render(QImage& picture, const Subject& subject, const Camera& camera, const
             if (spot.depth > 0.05) {
                 top = std::min(top, spot.y);
                 bottom = std::max(bottom, spot.y);
+                left = std::min(left, spot.x);
+                right = std::max(right, spot.x);
             }
         }
         corners.push_back(std::move(projected));
     }
     const int firstRow = std::clamp(Floor(top / 2) - 1, 0, picture.height());
     const int lastRow = std::clamp(Floor(bottom / 2) + 2, 0, picture.height());
+    const int firstColumn = std::clamp(Floor(left / 2) - 1, 0, picture.width());
+    const int lastColumn = std::clamp(Floor(right / 2) + 2, 0, picture.width());
     const Shader shader(subject, light, camera.eye);
 
     constexpr int kRows = 96;
     for (int row = firstRow; row < lastRow; row += kRows) {
         const int rows = std::min(kRows, lastRow - row);
-        Strip strip(width, row * 2, rows * 2);
+        Strip strip(firstColumn * 2, (lastColumn - firstColumn) * 2, row * 2, rows * 2);
         for (int y = row; y < row + rows; ++y) {
             const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-            for (int x = 0; x < picture.width(); ++x) {
+            for (int x = firstColumn; x < lastColumn; ++x) {
                 const Rgb c = LinearOfPixel(line[x]);
                 const Light4 value{static_cast<float>(c.x), static_cast<float>(c.y), static_cast<float>(c.z),
                                    static_cast<float>(qAlpha(line[x])) / 255.0F};
@@ -166,18 +183,18 @@ void Render(QImage& picture, const Subject& subject, const Camera& camera, const
                          if (part.finish == Finish::Skin &&
                              (part.mayBeGlass ? shader.IsGlass(at, normal) : shader.IsWheelArch(at)))
                              return;
-                         strip.CellAt(x, y) = {static_cast<float>(inverse), static_cast<std::int32_t>(i), at,
-                                               normal};
+                         strip.CellAt(x, y) = {static_cast<float>(inverse), static_cast<std::int32_t>(i),
+                                               Packed(at), Packed(normal)};
                      });
         }
         const auto shade = [&](int x, int y) {
             const Cell& cell = strip.CellAt(x, y);
-            const Rgb c =
-                shader.Shade(subject.parts[static_cast<std::size_t>(cell.part)], cell.at, cell.normal);
+            const Rgb c = shader.Shade(subject.parts[static_cast<std::size_t>(cell.part)], Unpacked(cell.at),
+                                       Unpacked(cell.normal));
             return Light4{static_cast<float>(c.x), static_cast<float>(c.y), static_cast<float>(c.z), 1.0F};
         };
         for (int y = strip.Top(); y < strip.Bottom(); y += 2) {
-            for (int x = 0; x < width; x += 2) {
+            for (int x = strip.Left(); x < strip.Right(); x += 2) {
                 const std::int32_t part = strip.CellAt(x, y).part;
                 const bool whole = part >= 0 && strip.CellAt(x + 1, y).part == part &&
                                    strip.CellAt(x, y + 1).part == part &&
@@ -217,7 +234,7 @@ void Render(QImage& picture, const Subject& subject, const Camera& camera, const
         }
         for (int y = row; y < row + rows; ++y) {
             auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
-            for (int x = 0; x < picture.width(); ++x) {
+            for (int x = firstColumn; x < lastColumn; ++x) {
                 bool touched = false;
                 Rgb sum;
                 double cover = 0;
