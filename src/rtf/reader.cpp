@@ -225,7 +225,8 @@ void Reader::CloseGroup()
         --overflowDepth_;
         return;
     }
-    if (groups_.empty()) {
+    if (groups_.size() <= 1) {
+        // The last paragraph may end with the document, and still has the looks of the group that ends here.
         ended_ = true;
         return;
     }
@@ -236,8 +237,6 @@ void Reader::CloseGroup()
         EndDestination(ended);
     if (ended.opensField)
         EndField();
-    if (groups_.empty())
-        ended_ = true;
 }
 
 void Reader::Enter(Destination destination)
