@@ -25,8 +25,8 @@ QApplication* MakeApplication(int& argc, char** argv)
 
 Application::Application(int& argc, char** argv) : application_(MakeApplication(argc, argv))
 {
+    // No display name: the platform would append it to the title of every window and box.
     QApplication::setApplicationName(QStringLiteral("torvik2001"));
-    QApplication::setApplicationDisplayName(applicationTitle);
     QApplication::setDesktopFileName(QStringLiteral("torvik2001"));
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyLook(*application_);

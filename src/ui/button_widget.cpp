@@ -5,9 +5,6 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
-
-#include <algorithm>
 
 namespace torvik {
 
@@ -15,29 +12,18 @@ namespace {
 
 constexpr int bevelDepth = 2; // pixels
 
-QPainterPath Arrow(ButtonWidget::Symbol symbol, const QPointF& centre, double size)
+int DegreesOf(ButtonWidget::Symbol symbol)
 {
-    const double half = size / 2;
-    QPainterPath path;
-    path.moveTo(-size, half);
-    path.lineTo(size, half);
-    path.lineTo(0, -half);
-    path.closeSubpath();
-    double angle = 0;
     switch (symbol) {
     case ButtonWidget::Symbol::Right:
-        angle = 90;
-        break;
+        return 90;
     case ButtonWidget::Symbol::Down:
-        angle = 180;
-        break;
+        return 180;
     case ButtonWidget::Symbol::Left:
-        angle = 270;
-        break;
+        return 270;
     default:
-        break;
+        return 0;
     }
-    return QTransform().translate(centre.x(), centre.y()).rotate(angle).map(path);
 }
 
 } // namespace
@@ -53,37 +39,38 @@ void ButtonWidget::SetSymbol(Symbol symbol)
     update();
 }
 
+/// The button with the focus has a dark line around itself besides the dotted one, as seen from across a
+/// room.
 void ButtonWidget::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const QRectF area = rect();
-    painter.fillRect(area, isDown() ? look::halfLight : look::face);
-    DrawBevel(painter, area, isDown() ? Bevel::Sunken : Bevel::Raised, bevelDepth);
+    const double thin = ThinLine(painter);
+    painter.fillRect(area, look::face);
+    QRectF raised = area;
+    if (hasFocus()) {
+        DrawOutline(painter, area, look::text);
+        raised.adjust(thin, thin, -thin, -thin);
+    }
+    DrawBevel(painter, raised, isDown() ? Bevel::Sunken : Bevel::Raised, bevelDepth);
 
-    QRectF content = area.adjusted(bevelDepth + 1, bevelDepth, -bevelDepth - 1, -bevelDepth);
+    QRectF content = area.adjusted(bevelDepth + 2, bevelDepth, -bevelDepth - 2, -bevelDepth);
     if (isDown())
         content.translate(1, 1);
     PaintContent(painter, content);
-    if (hasFocus()) {
-        painter.setPen(QPen(look::text, 1, Qt::DotLine));
-        painter.drawRect(area.adjusted(bevelDepth + 1.5, bevelDepth + 1.5, -bevelDepth - 1.5, -bevelDepth - 1.5));
-    }
+    if (hasFocus())
+        DrawFocus(painter, area.adjusted(4, 4, -4, -4));
 }
 
 void ButtonWidget::PaintContent(QPainter& painter, const QRectF& area) const
 {
-    if (symbol_ != Symbol::None) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        const double size = std::clamp(std::min(area.width(), area.height()) / 3, 2.0, 8.0);
-        painter.fillPath(Arrow(symbol_, area.center(), size), isEnabled() ? look::text : look::faded);
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        return;
-    }
-    if (!icon().isNull()) {
+    if (symbol_ != Symbol::None)
+        DrawArrow(painter, area, DegreesOf(symbol_), isEnabled());
+    else if (!icon().isNull())
         icon().paint(&painter, area.toRect(), Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-        return;
-    }
-    DrawCaption(painter, area, text(), Qt::AlignCenter | Qt::TextSingleLine, isEnabled());
+    else
+        DrawCaption(painter, area, text(), Qt::AlignCenter | Qt::TextSingleLine | Qt::TextShowMnemonic,
+                    isEnabled());
 }
 
 void ButtonWidget::keyPressEvent(QKeyEvent* event)

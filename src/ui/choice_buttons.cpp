@@ -5,8 +5,8 @@
 
 namespace torvik {
 
-ChoiceButton::ChoiceButton(Container& container, const QString& name, QAbstractButton* button, const Twips& design,
-                           const QString& caption)
+ChoiceButton::ChoiceButton(Container& container, const QString& name, QAbstractButton* button,
+                           const Twips& design, const QString& caption)
     : Control(container, name, button, design), button_(button)
 {
     SetCaption(caption);
@@ -33,8 +33,13 @@ void ChoiceButton::SetValue(bool value)
 {
     if (value == Value())
         return;
+    const bool exclusive =
+        button_->autoExclusive(); // the platform keeps the last choice of a group otherwise
+    button_->setAutoExclusive(exclusive && value);
     button_->setChecked(value);
-    Click.Call();
+    button_->setAutoExclusive(exclusive);
+    if (value || !exclusive)
+        Click.Call();
 }
 
 QString ChoiceButton::AccessibleText() const
@@ -42,14 +47,13 @@ QString ChoiceButton::AccessibleText() const
     return Caption().isEmpty() ? Control::AccessibleText() : Caption();
 }
 
-OptionButton::OptionButton(Container& container, const QString& name, const Twips& design, const QString& caption)
+OptionButton::OptionButton(Container& container, const QString& name, const Twips& design,
+                           const QString& caption)
     : ChoiceButton(container, name, new QRadioButton, design, caption)
-{
-}
+{}
 
 CheckBox::CheckBox(Container& container, const QString& name, const Twips& design, const QString& caption)
     : ChoiceButton(container, name, new QCheckBox, design, caption)
-{
-}
+{}
 
 } // namespace torvik

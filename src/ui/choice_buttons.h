@@ -12,7 +12,8 @@ public:
     QString Caption() const;
     void SetCaption(const QString& caption);
     bool Value() const;
-    /// Sets the state. A change runs Click, as if the user had made it.
+    /// Sets the state. A change runs Click, as if the user had made it; only an option that loses the choice,
+    /// to another one or to none, runs nothing.
     void SetValue(bool value);
 
 protected:

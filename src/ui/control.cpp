@@ -37,6 +37,12 @@ int ButtonNumber(Qt::MouseButton button)
     }
 }
 
+bool IsMouse(QEvent::Type type)
+{
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+           type == QEvent::MouseButtonDblClick;
+}
+
 QHash<const QWidget*, Control*>& AllControls()
 {
     static QHash<const QWidget*, Control*> controls;
@@ -52,6 +58,8 @@ Control::Control(Container& container, const QString& name, QWidget* widget, con
     widget_->setObjectName(name);
     widget_->setAccessibleName(name);
     widget_->installEventFilter(this);
+    // What happens on a control is the control's alone, not that of the panel or picture that it lies on.
+    widget_->setAttribute(Qt::WA_NoMousePropagation);
     ApplyGeometry();
     widget_->show();
     AllControls().insert(widget_, this);
@@ -199,12 +207,15 @@ void Control::WatchInput(QWidget* inner)
 {
     inner_ = inner;
     inner_->installEventFilter(this);
+    inner_->setAttribute(Qt::WA_NoMousePropagation);
 }
 
 bool Control::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != widget_ && watched != inner_)
         return QObject::eventFilter(watched, event);
+    if (IsMouse(event->type()) && !widget_->isEnabled())
+        return true;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         return MousePressed(ButtonNumber(static_cast<QMouseEvent*>(event)->button()));

@@ -42,6 +42,7 @@ public:
     double Height() const;
     void SetLeft(double left);
     void SetTop(double top);
+    /// Failure 380 for a width or height below 0.
     void SetWidth(double width);
     void SetHeight(double height);
     void Move(double left, double top);
@@ -67,10 +68,11 @@ public:
     Form& OwnerForm() const { return container_.OwnerForm(); }
     QWidget& Widget() const { return *widget_; }
 
-    Event<> Click;         ///< left button pressed and released on the control, or its key
-    Event<> DblClick;      ///< left button pressed twice
-    Event<int> MouseDown;  ///< the button: mouse::left, ...
-    Event<int, int> KeyDown; ///< key code; shift state: 1 Shift, 2 Ctrl, 4 Alt
+    /// A control that is disabled has no events; what happens on one is no event of its container.
+    Event<> Click;    ///< left button pressed and released on the control, or its key
+    Event<> DblClick; ///< left button pressed twice; where it is not bound, quick clicking is just clicking
+    Event<int> MouseDown;    ///< the button: mouse::left, ...
+    Event<int, int> KeyDown; ///< key code; shift state: 1 Shift, 2 Ctrl, 4 Alt; not for keys without a code
 
 protected:
     /// `widget` becomes a child of the container.

@@ -35,15 +35,31 @@ bool IsInput(QEvent::Type type)
     }
 }
 
+/// The form that input to an object is meant for: that of its window, and for an open menu or an entry of one
+/// the form whose menu bar it hangs from.
+const Form* FormOf(const QObject* object)
+{
+    for (; object != nullptr; object = object->parent()) {
+        const auto* widget = qobject_cast<const QWidget*>(object);
+        if (widget == nullptr || !widget->isWindow())
+            continue;
+        if (const Form* form = FormHandleBase::FormOfWindow(widget))
+            return form;
+        if (widget->windowType() != Qt::Popup)
+            return nullptr;
+    }
+    return nullptr;
+}
+
 class InputGuard : public QObject {
 public:
     using QObject::QObject;
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (!IsInput(event->type()) || !watched->isWidgetType())
+        if (!IsInput(event->type()))
             return false;
-        const Form* form = FormHandleBase::FormOfWindow(static_cast<QWidget*>(watched)->window());
+        const Form* form = FormOf(watched);
         return form != nullptr && !form->Enabled();
     }
 };

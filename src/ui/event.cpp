@@ -4,7 +4,10 @@
 #include "ui/message_box.h"
 #include "ui/program_end.h"
 
+#include <exception>
 #include <new>
+#include <utility>
+#include <vector>
 
 namespace torvik {
 
@@ -20,12 +23,45 @@ void ReportUntrapped(const RunTimeError& error)
     }
 }
 
+constexpr int internalError = 51;
+
+int runningHandlers = 0;
+
+std::vector<std::function<void()>>& WorkAfterHandlers()
+{
+    static std::vector<std::function<void()>> work;
+    return work;
+}
+
 } // namespace
+
+HandlerScope::HandlerScope()
+{
+    ++runningHandlers;
+}
+
+HandlerScope::~HandlerScope()
+{
+    if (--runningHandlers > 0)
+        return;
+    const auto waiting = std::exchange(WorkAfterHandlers(), {});
+    for (const auto& work : waiting)
+        work();
+}
+
+void HandlerScope::WhenAllAreDone(std::function<void()> work)
+{
+    if (runningHandlers == 0)
+        work();
+    else
+        WorkAfterHandlers().push_back(std::move(work));
+}
 
 void RunHandler(const std::function<void()>& handler)
 {
     if (ProgramIsEnding())
         return;
+    const HandlerScope running;
     try {
         handler();
     } catch (const ProgramEnd&) { // NOLINT(bugprone-empty-catch): the event loops are already told to end
@@ -33,6 +69,8 @@ void RunHandler(const std::function<void()>& handler)
         ReportUntrapped(error);
     } catch (const std::bad_alloc&) {
         ReportUntrapped(RunTimeError(failure::outOfMemory));
+    } catch (const std::exception&) {
+        ReportUntrapped(RunTimeError(internalError));
     }
 }
 

@@ -5,6 +5,20 @@
 
 namespace torvik {
 
+/// Stands on the stack while a handler runs. What a handler ends (a form that it unloads) must not go away
+/// under the handlers that are still running, its own or those below it.
+class HandlerScope {
+public:
+    HandlerScope();
+    ~HandlerScope();
+    HandlerScope(const HandlerScope&) = delete;
+    HandlerScope& operator=(const HandlerScope&) = delete;
+
+    /// Runs `work`, which must not throw, when the last of the running handlers is done; at once while none
+    /// runs.
+    static void WhenAllAreDone(std::function<void()> work);
+};
+
 /// Runs a handler at the edge between the toolkit and the program. A failure that no trap of the handler met
 /// is shown with its number and ends the program; while the program is ending no handler runs any more.
 void RunHandler(const std::function<void()>& handler);
@@ -31,8 +45,10 @@ public:
     /// Runs the handler as a part of the caller's own statement: its failures are the caller's.
     void Call(Args... args) const
     {
-        if (handler_)
-            handler_(args...);
+        if (!handler_)
+            return;
+        const HandlerScope running;
+        handler_(args...);
     }
 
 private:

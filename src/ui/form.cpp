@@ -10,41 +10,19 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QPointer>
-#include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace torvik {
 
-namespace {
-
-constexpr int captionHeight = 19; // pixels
-
-/// Enough of a window stays on the desktop to be taken hold of, whatever place was asked for.
-QPoint KeptInReach(const QPoint& wanted, const QSize& size)
-{
-    constexpr int grip = 64;
-    const QScreen* screen = QApplication::primaryScreen();
-    const QRect desktop = screen != nullptr ? screen->virtualGeometry() : QRect(wanted, size);
-    const int x = std::clamp(wanted.x(), desktop.left() - std::max(0, size.width() - grip), desktop.right() - grip);
-    const int y = std::clamp(wanted.y(), desktop.top(), std::max(desktop.top(), desktop.bottom() - grip));
-    return {x, y};
-}
-
-int RoundPixels(double twips)
-{
-    constexpr double reach = 16'000'000;
-    return static_cast<int>(std::lround(std::clamp(twips / twipsPerPixel, -reach, reach)));
-}
-
-} // namespace
-
-Form::Form(FormDesign design) : design_(std::move(design)), window_(new FormWindow(*this))
+Form::Form(FormDesign design)
+    : design_(std::move(design)), settling_(new QTimer(this)), window_(new FormWindow(*this))
 {
     WatchDisabledForms();
+    settling_->setSingleShot(true);
+    connect(settling_, &QTimer::timeout, this, &Form::Settle);
     place_.Width = design_.ClientWidth;
     place_.Height = design_.ClientHeight + FrameTwips();
     ApplySize();
@@ -70,126 +48,6 @@ void Form::SetCaption(const QString& caption)
 {
     window_->setWindowTitle(caption);
     window_->setAccessibleName(caption);
-}
-
-/// Twips that the form's height holds beside the client area.
-double Form::FrameTwips() const
-{
-    const double caption = design_.Border == FormBorder::None ? 0 : captionHeight;
-    const double menu = design_.HasMenu ? FormWindow::menuHeight : 0;
-    return (caption + menu) * twipsPerPixel;
-}
-
-double Form::Left() const
-{
-    return place_.Left;
-}
-
-double Form::Top() const
-{
-    return place_.Top;
-}
-
-double Form::Width() const
-{
-    return place_.Width;
-}
-
-double Form::Height() const
-{
-    return place_.Height;
-}
-
-void Form::SetLeft(double left)
-{
-    place_.Left = left;
-    ApplyPlace();
-}
-
-void Form::SetTop(double top)
-{
-    place_.Top = top;
-    ApplyPlace();
-}
-
-void Form::SetWidth(double width)
-{
-    const bool changes = RoundPixels(width) != RoundPixels(place_.Width);
-    place_.Width = width;
-    ApplySize();
-    if (changes)
-        Resize.Call();
-}
-
-void Form::SetHeight(double height)
-{
-    const bool changes = RoundPixels(height) != RoundPixels(place_.Height);
-    place_.Height = height;
-    ApplySize();
-    if (changes)
-        Resize.Call();
-}
-
-double Form::ScaleWidth() const
-{
-    return place_.Width / TwipsPerUnit();
-}
-
-double Form::ScaleHeight() const
-{
-    return (place_.Height - FrameTwips()) / TwipsPerUnit();
-}
-
-void Form::ApplySize()
-{
-    const int menu = design_.HasMenu ? FormWindow::menuHeight : 0;
-    const int width = std::max(1, RoundPixels(place_.Width));
-    const int height = std::max(1, RoundPixels(place_.Height - FrameTwips())) + menu;
-    const QSize size(std::min(width, QWIDGETSIZE_MAX), std::min(height, QWIDGETSIZE_MAX));
-    if (covering_)
-        return;
-    if (design_.Border == FormBorder::Sizable)
-        window_->resize(size);
-    else
-        window_->setFixedSize(size);
-}
-
-void Form::ApplyPlace()
-{
-    if (covering_)
-        return;
-    const QPoint wanted(RoundPixels(place_.Left), RoundPixels(place_.Top));
-    window_->move(KeptInReach(wanted, window_->size()));
-}
-
-/// The desktop moved the window: from now on that is the form's place.
-void Form::WindowMoved()
-{
-    if (covering_ || uncovering_ || !window_->isVisible() || WindowState() != State::Normal)
-        return;
-    const QPoint wanted(RoundPixels(place_.Left), RoundPixels(place_.Top));
-    const QPoint now = window_->pos();
-    if (now == KeptInReach(wanted, window_->size()))
-        return;
-    place_.Left = now.x() * twipsPerPixel;
-    place_.Top = now.y() * twipsPerPixel;
-}
-
-/// The desktop or the user sized the window; the program's own sizing has told its measures before.
-void Form::WindowResized()
-{
-    const int menu = design_.HasMenu ? FormWindow::menuHeight : 0;
-    const QSize known(std::max(1, RoundPixels(place_.Width)),
-                      std::max(1, RoundPixels(place_.Height - FrameTwips())) + menu);
-    if (window_->size() == known) {
-        uncovering_ = false;
-        return;
-    }
-    if (covering_ || uncovering_ || !window_->isVisible() || window_->isMinimized())
-        return;
-    place_.Width = window_->width() * twipsPerPixel;
-    place_.Height = (window_->height() - menu) * twipsPerPixel + FrameTwips();
-    Resize.Fire();
 }
 
 Form::State Form::WindowState() const
@@ -221,18 +79,21 @@ void Form::CoverScreen(bool cover)
     if (cover == covering_)
         return;
     covering_ = cover;
-    uncovering_ = !cover;
     window_->setWindowState(cover ? Qt::WindowFullScreen : Qt::WindowNoState);
-    if (!cover) {
+    if (!cover)
         ApplySize();
-        ApplyPlace();
-        WindowResized();
-    }
 }
 
 bool Form::Visible() const
 {
     return window_->isVisible();
+}
+
+void Form::SetEnabled(bool enabled)
+{
+    enabled_ = enabled;
+    if (!enabled)
+        window_->ReleaseButtons();
 }
 
 void Form::ShowWindow()
@@ -241,25 +102,29 @@ void Form::ShowWindow()
     window_->show();
     window_->raise();
     window_->activateWindow();
+    Unsettle();
 }
 
 void Form::Show()
 {
-    if (!Visible())
+    if (!Visible()) {
+        window_->setWindowModality(Qt::NonModal);
         ShowWindow();
+    }
     QueueActivate();
     LeaveIfEnding();
 }
 
 void Form::ShowModal()
 {
-    if (leaveModal_)
+    if (Visible() || leaveModal_)
         Fail(failure::alreadyModal);
     const QPointer<FormWindow> below(dynamic_cast<FormWindow*>(QApplication::activeWindow()));
+    const QPointer<Form> self(this);
     QEventLoop loop;
     leaveModal_ = [&loop] { loop.quit(); };
-    window_->hide();
     window_->setWindowModality(Qt::ApplicationModal);
+    ApplyPlace();
     window_->winId();
     if (below != nullptr && below != window_ && below->windowHandle() != nullptr)
         window_->windowHandle()->setTransientParent(below->windowHandle());
@@ -267,11 +132,13 @@ void Form::ShowModal()
     QueueActivate();
 
     loop.exec(); // this form may be gone from here on
+    if (self != nullptr)
+        self->leaveModal_ = nullptr;
+    LeaveIfEnding();
     if (below != nullptr && below->Owner() != nullptr) {
         below->activateWindow();
         below->Owner()->QueueActivate();
     }
-    LeaveIfEnding();
 }
 
 void Form::Hide()
@@ -292,8 +159,10 @@ void Form::SetTopmost(bool topmost)
         return;
     const bool shown = Visible();
     window_->setWindowFlag(Qt::WindowStaysOnTopHint, topmost); // takes the window off the screen
-    if (shown)
-        window_->show();
+    if (!shown)
+        return;
+    window_->show();
+    Unsettle();
 }
 
 void Form::Refresh()
@@ -301,12 +170,15 @@ void Form::Refresh()
     const QDeadlineTimer patience(250);
     do
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
-    while (!patience.hasExpired() && window_->windowHandle() != nullptr && !window_->windowHandle()->isExposed());
+    while (!patience.hasExpired() && window_->windowHandle() != nullptr &&
+           !window_->windowHandle()->isExposed());
     LeaveIfEnding();
 }
 
 void Form::WindowActivated()
 {
+    if (!Visible())
+        return; // hidden again before the desktop answered
     const QWidget* modal = QApplication::activeModalWidget();
     if (modal == nullptr || modal == window_)
         Activate.Fire();
@@ -315,12 +187,7 @@ void Form::WindowActivated()
 void Form::QueueActivate()
 {
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (Visible())
-                WindowActivated();
-        },
-        Qt::QueuedConnection);
+        this, [this] { WindowActivated(); }, Qt::QueuedConnection);
 }
 
 void Form::EscapePressed()
@@ -335,16 +202,18 @@ void Form::CloseRequested()
         RunHandler([this] { handle_->Unload(); });
 }
 
-/// The form is over: it leaves the screen and its name now, and goes when the handler that ended it is done.
+/// The form is over: it leaves the screen and its name now, and goes when the handlers that are running are
+/// done.
 void Form::Retire()
 {
     window_->setObjectName({});
+    window_->ReleaseButtons();
     window_->hide();
     window_->LetGo();
     handle_ = nullptr;
     if (leaveModal_)
         std::exchange(leaveModal_, nullptr)();
-    deleteLater();
+    HandlerScope::WhenAllAreDone([this] { deleteLater(); });
 }
 
 } // namespace torvik

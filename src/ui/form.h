@@ -4,13 +4,17 @@
 #include "ui/event.h"
 #include "ui/units.h"
 
+#include <QDeadlineTimer>
 #include <QObject>
+#include <QPoint>
+#include <QSize>
 #include <QString>
 
 #include <functional>
 #include <memory>
 #include <vector>
 
+class QTimer;
 class QWidget;
 
 namespace torvik {
@@ -42,7 +46,8 @@ struct FormDesign {
 /// another 19: measures of the program's own, whatever the desktop draws around the window.
 class Form : public QObject, public Container {
 public:
-    /// Minimized and maximized are the user's doing; full screen covers panels and docks and keeps the measures.
+    /// Minimized and maximized are the user's doing; full screen covers panels and docks and keeps the
+    /// measures.
     enum class State { Normal, Minimized, Maximized };
 
     ~Form() override;
@@ -50,7 +55,8 @@ public:
     QString Caption() const;
     void SetCaption(const QString& caption);
 
-    /// All four in twips.
+    /// All four in twips. Left and Top are those of the corner of the window with its frame: what the program
+    /// said last, or where the user put the window since.
     double Left() const;
     double Top() const;
     double Width() const;
@@ -70,37 +76,43 @@ public:
     bool CoversScreen() const { return covering_; }
 
     bool Visible() const;
-    /// Shows the form beside the others.
+    /// Shows the form beside the others; one that is on the screen already only comes up again.
     void Show();
-    /// Shows the form, lets it alone take input, and returns when it was unloaded or hidden.
+    /// Shows the form, lets it alone take input, and returns when it was unloaded or hidden. Failure 400 when
+    /// it is on the screen already.
     void ShowModal();
+    /// Takes the form off the screen; it stays loaded.
     void Hide();
     /// Brings the window to the front.
     void ZOrder();
     /// Keeps the window above the others of the desktop, or no longer; a request that a desktop may refuse.
     void SetTopmost(bool topmost);
-    /// Has the window on the screen before the next statement runs, with no other handler in between.
+    /// Has the window on the screen before the next statement runs; what the user does meanwhile waits.
     void Refresh();
 
     /// A disabled form takes no input; it does not turn grey.
     bool Enabled() const { return enabled_; }
-    void SetEnabled(bool enabled) { enabled_ = enabled; }
+    void SetEnabled(bool enabled);
 
-    /// The button that answers Escape while it is visible and enabled; null for none.
+    /// The button that answers Escape while its own flags say visible and enabled; null for none.
     void SetCancelButton(Button* button) { cancelButton_ = button; }
 
-    Event<> Load;                 ///< runs as part of the first touch
-    Event<> Activate;             ///< the form came up, or is the active one again
-    Event<> Resize;               ///< the form's measures changed
-    Event<bool&> QueryUnload;     ///< may set its argument to keep the form
-    Event<> Unload;               ///< the form is about to go
+    Event<> Load;     ///< runs as part of the first touch
+    Event<> Activate; ///< the form came up, or is the active one again; may come twice for one showing
+    Event<> Resize;   ///< the form's measures changed, by the program or by the user
+    Event<bool&> QueryUnload; ///< may set its argument to keep the form
+    Event<> Unload;           ///< the form is about to go
 
     QWidget& Host() override;
     Scale ScaleMode() const override { return design_.ScaleMode; }
     Form& OwnerForm() override { return *this; }
     FormWindow& Window() { return *window_; }
     const FormDesign& Design() const { return design_; }
-    /// True once the form was unloaded, although it lives on until the handler that ended it is done.
+    /// True while the program's placing of the window is still on its way through the desktop; its steps
+    /// become no measures of the form.
+    bool IsSettling() const { return !settled_; }
+    /// True once the form was unloaded, although it lives on until the handlers that were running then are
+    /// done.
     bool Retired() const { return handle_ == nullptr; }
 
 protected:
@@ -111,8 +123,12 @@ private:
     friend class FormWindow;
 
     double FrameTwips() const;
+    QSize WantedSize() const;
+    QPoint WantedPlace() const;
     void ApplySize();
     void ApplyPlace();
+    void Unsettle();
+    void Settle();
     void WindowMoved();
     void WindowResized();
     void WindowActivated();
@@ -124,12 +140,16 @@ private:
 
     FormDesign design_;
     FormHandleBase* handle_ = nullptr;
+    QTimer* settling_;
     FormWindow* window_;
     Button* cancelButton_ = nullptr;
     Twips place_;
     bool enabled_ = true;
     bool covering_ = false;
-    bool uncovering_ = false;
+    bool settled_ = true;
+    int corrections_ = 0;
+    QDeadlineTimer unsettledUntil_;
+    QPoint restsAt_; // where the settled window's frame was seen last
     std::function<void()> leaveModal_;
 };
 
@@ -166,8 +186,8 @@ private:
 };
 
 /// `Form1->panYear` loads Form1 when it is not loaded yet: its handlers are bound and its Load runs at that
-/// moment. While the Load runs, a touch gives the form as it is; if the Load itself unloaded the form, the next
-/// touch in it makes the form anew without a second Load.
+/// moment. While the Load runs, a touch gives the form as it is; if the Load itself unloaded the form, the
+/// next touch in it makes the form anew without a second Load.
 template <typename T>
 class FormHandle : public FormHandleBase {
 public:

@@ -1,7 +1,9 @@
-#include "ui/form.h"
-
 #include "platform/failure.h"
+#include "ui/form.h"
 #include "ui/form_window.h"
+
+#include <QCoreApplication>
+#include <QEvent>
 
 #include <algorithm>
 
@@ -81,6 +83,8 @@ void FormHandleBase::DiscardAll()
         handle->loading_ = false;
         handle->unloading_ = false;
     }
+    // Those that were unloaded and wait for their end go as well.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 Form* FormHandleBase::FormOfWindow(const QWidget* window)

@@ -2,11 +2,23 @@
 
 #include "ui/form.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QPointer>
 
 namespace torvik {
+
+namespace {
+
+QPointer<FormWindow>& LastActiveWindow()
+{
+    static QPointer<FormWindow> window;
+    return window;
+}
+
+} // namespace
 
 FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
 {
@@ -19,7 +31,8 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
         break;
     case FormBorder::Fixed:
-        setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+        setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                       Qt::WindowCloseButtonHint);
         break;
     case FormBorder::Sizable:
         setWindowFlags(Qt::Window);
@@ -30,6 +43,26 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
         menuBar_->setNativeMenuBar(false);
         menuBar_->setFixedHeight(menuHeight);
     }
+}
+
+FormWindow* FormWindow::LastActive()
+{
+    return LastActiveWindow();
+}
+
+void FormWindow::ReleaseButtons()
+{
+    const auto buttons = findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons)
+        button->setDown(false);
+}
+
+/// A box that comes up while a button is held takes the release: an arrow would go on stepping behind it.
+bool FormWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked)
+        ReleaseButtons();
+    return QWidget::event(event);
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event)
@@ -70,8 +103,10 @@ void FormWindow::keyPressEvent(QKeyEvent* event)
 void FormWindow::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && form_ != nullptr)
-        form_->WindowActivated();
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || form_ == nullptr)
+        return;
+    LastActiveWindow() = this;
+    form_->WindowActivated();
 }
 
 } // namespace torvik

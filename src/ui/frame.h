@@ -4,7 +4,8 @@
 
 namespace torvik {
 
-/// A plain area that groups controls, measured in twips; with a caption it draws an etched line around itself.
+/// A plain area that groups controls, measured in twips; with a caption it draws an etched line around
+/// itself.
 class Frame : public Control, public Container {
 public:
     Frame(Container& container, const QString& name, const Twips& design, const QString& caption = {});

@@ -7,8 +7,8 @@ class QLabel;
 
 namespace torvik {
 
-/// Shows a picture inside its own rectangle, as large as fits, proportions kept, centred, and sharp at any scale
-/// factor of the screen.
+/// Shows a picture inside its own rectangle, as large as fits, proportions kept, centred, and sharp at any
+/// scale factor of the screen.
 class Image : public Control {
 public:
     Image(Container& container, const QString& name, const Twips& design);

@@ -9,6 +9,7 @@ namespace torvik {
 ListBox::ListBox(Container& container, const QString& name, const Twips& design)
     : Control(container, name, new QListWidget, design), list_(static_cast<QListWidget*>(&Widget()))
 {
+    WatchInput(list_->viewport());
     connect(list_, &QListWidget::itemClicked, this, [this] { Click.Fire(); });
 }
 

@@ -6,7 +6,8 @@ class QListWidget;
 
 namespace torvik {
 
-/// A list of texts of which one can be selected. Entries count from 0; -1 stands for no selection.
+/// A list of texts of which one can be selected. Entries count from 0; -1 stands for no selection. Click is a
+/// click on an entry; a selection that the program makes runs no event.
 class ListBox : public Control {
 public:
     ListBox(Container& container, const QString& name, const Twips& design);
@@ -22,6 +23,9 @@ public:
     void SetSelected(int index, bool selected);
     /// The text of the selected entry, empty when none is.
     QString Text() const;
+
+protected:
+    bool ClicksByMouse() const override { return false; }
 
 private:
     QListWidget* list_;

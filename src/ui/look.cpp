@@ -1,11 +1,17 @@
 #include "ui/look.h"
 
+#include "ui/look_style.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
 
 namespace torvik {
 
@@ -22,15 +28,15 @@ QFont ProgramFont()
 
 QPalette ProgramPalette()
 {
-    QPalette palette(look::text, look::face, look::light, look::darkShadow, look::shadow, look::text, look::light,
-                     look::paper, look::face);
+    QPalette palette(look::text, look::face, look::light, look::darkShadow, look::shadow, look::text,
+                     look::light, look::paper, look::face);
     palette.setColor(QPalette::Midlight, look::halfLight);
     palette.setColor(QPalette::Shadow, look::darkShadow);
     palette.setColor(QPalette::ButtonText, look::text);
     palette.setColor(QPalette::AlternateBase, look::halfLight);
     palette.setColor(QPalette::Highlight, look::accent);
     palette.setColor(QPalette::HighlightedText, look::accentText);
-    palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfb, 0xe6));
+    palette.setColor(QPalette::ToolTipBase, look::tip);
     palette.setColor(QPalette::ToolTipText, look::text);
     palette.setColor(QPalette::Link, QColor(0x1b, 0x3f, 0x8e));
     for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
@@ -38,27 +44,48 @@ QPalette ProgramPalette()
     return palette;
 }
 
+/// The four sides of a ring of thin lines just inside `area`.
 void DrawEdges(QPainter& painter, const QRectF& area, const QColor& upperLeft, const QColor& lowerRight)
 {
-    painter.fillRect(QRectF(area.left(), area.top(), area.width(), 1), upperLeft);
-    painter.fillRect(QRectF(area.left(), area.top(), 1, area.height()), upperLeft);
-    painter.fillRect(QRectF(area.left(), area.bottom() - 1, area.width(), 1), lowerRight);
-    painter.fillRect(QRectF(area.right() - 1, area.top(), 1, area.height()), lowerRight);
+    const double thin = ThinLine(painter);
+    painter.fillRect(QRectF(area.left(), area.top(), area.width(), thin), upperLeft);
+    painter.fillRect(QRectF(area.left(), area.top(), thin, area.height()), upperLeft);
+    painter.fillRect(QRectF(area.left(), area.bottom() - thin, area.width(), thin), lowerRight);
+    painter.fillRect(QRectF(area.right() - thin, area.top(), thin, area.height()), lowerRight);
 }
 
 } // namespace
 
 void ApplyLook(QApplication& application)
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Windows")));
+    QApplication::setStyle(new LookStyle);
     application.setPalette(ProgramPalette());
     application.setFont(ProgramFont());
+    QToolTip::setPalette(ProgramPalette());
+    QToolTip::setFont(ProgramFont());
+}
+
+QRectF Snapped(const QPainter& painter, const QRectF& area)
+{
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF device = toDevice.mapRect(area);
+    const QRectF whole(QPointF(std::round(device.left()), std::round(device.top())),
+                       QPointF(std::round(device.right()), std::round(device.bottom())));
+    return toDevice.inverted().mapRect(whole);
+}
+
+double ThinLine(const QPainter& painter)
+{
+    constexpr double towardsThin = 0.25; // a display scaled by 1.5 gets lines of one pixel, not two
+    const double scale = painter.deviceTransform().m11();
+    return scale > 0 ? std::max(1.0, std::floor(scale + towardsThin)) / scale : 1;
 }
 
 void DrawBevel(QPainter& painter, const QRectF& area, Bevel bevel, int depth)
 {
-    QRectF ring = area;
-    for (int step = 0; step < depth; ++step, ring.adjust(1, 1, -1, -1)) {
+    const double thin = ThinLine(painter);
+    QRectF ring = Snapped(painter, area);
+    for (int step = 0; step < depth; ++step, ring.adjust(thin, thin, -thin, -thin)) {
         const bool outer = step == 0;
         switch (bevel) {
         case Bevel::None:
@@ -68,7 +95,8 @@ void DrawBevel(QPainter& painter, const QRectF& area, Bevel bevel, int depth)
                       outer ? look::darkShadow : look::shadow);
             break;
         case Bevel::Sunken:
-            DrawEdges(painter, ring, outer ? look::shadow : look::darkShadow, outer ? look::light : look::halfLight);
+            DrawEdges(painter, ring, outer ? look::shadow : look::darkShadow,
+                      outer ? look::light : look::halfLight);
             break;
         case Bevel::Frame:
             DrawEdges(painter, ring, outer ? look::shadow : look::light, outer ? look::light : look::shadow);
@@ -77,23 +105,68 @@ void DrawBevel(QPainter& painter, const QRectF& area, Bevel bevel, int depth)
     }
 }
 
-void DrawCaption(QPainter& painter, const QRectF& area, const QString& caption, int alignment, bool enabled,
+void DrawOutline(QPainter& painter, const QRectF& area, const QColor& colour)
+{
+    DrawEdges(painter, Snapped(painter, area), colour, colour);
+}
+
+void DrawFocus(QPainter& painter, const QRectF& area, const QColor& colour)
+{
+    const double half = ThinLine(painter) / 2;
+    QPen dots(colour, ThinLine(painter));
+    dots.setDashPattern({1, 1});
+    dots.setCapStyle(Qt::FlatCap);
+    const QRectF ring = Snapped(painter, area).adjusted(half, half, -half, -half);
+    if (ring.width() < 2 || ring.height() < 2)
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(dots);
+    painter.drawLine(ring.topLeft(), ring.topRight());
+    painter.drawLine(ring.bottomLeft(), ring.bottomRight());
+    painter.drawLine(ring.topLeft(), ring.bottomLeft());
+    painter.drawLine(ring.topRight(), ring.bottomRight());
+    painter.restore();
+}
+
+void DrawArrow(QPainter& painter, const QRectF& area, int degrees, bool enabled)
+{
+    constexpr double smallest = 2;
+    constexpr double largest = 8;
+    const double half =
+        std::clamp(std::min(area.width(), area.height()) / 3, smallest, largest); // of the base
+    QPainterPath triangle;
+    triangle.moveTo(-half, half / 2);
+    triangle.lineTo(half, half / 2);
+    triangle.lineTo(0, -half / 2);
+    triangle.closeSubpath();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(area.center());
+    painter.rotate(degrees);
+    painter.fillPath(triangle, enabled ? look::text : look::shadow);
+    painter.restore();
+}
+
+void DrawCaption(QPainter& painter, const QRectF& area, const QString& caption, int flags, bool enabled,
                  const QColor& colour)
 {
     constexpr int smallest = 9; // pixels
+    painter.save();
     QFont font = painter.font();
+    const int measured = flags & Qt::TextShowMnemonic;
     while (font.pixelSize() > smallest &&
-           QFontMetricsF(font).boundingRect(QRectF(), Qt::TextIncludeTrailingSpaces, caption.trimmed()).width() >
-               area.width())
+           QFontMetricsF(font).boundingRect(QRectF(), measured, caption.trimmed()).width() > area.width())
         font.setPixelSize(font.pixelSize() - 1);
     painter.setFont(font);
-    const int flags = alignment | Qt::TextDontClip;
+    flags |= Qt::TextDontClip;
     if (!enabled) {
-        painter.setPen(look::light);
+        painter.setPen(look::halfLight);
         painter.drawText(area.translated(1, 1), flags, caption);
     }
-    painter.setPen(enabled ? colour : look::shadow);
+    painter.setPen(enabled ? colour : look::faded);
     painter.drawText(area, flags, caption);
+    painter.restore();
 }
 
 } // namespace torvik

@@ -11,8 +11,8 @@ namespace torvik {
 
 class Form;
 
-/// An entry of a form's menu bar or of another entry, which thereby becomes a submenu. The caption "-" makes a
-/// separator line; an ampersand marks the next letter as the mnemonic, a doubled one shows as one.
+/// An entry of a form's menu bar or of another entry, which thereby becomes a submenu. The caption "-" makes
+/// a separator line; an ampersand marks the next letter as the mnemonic, a doubled one shows as one.
 class Menu : public QObject {
 public:
     Menu(Form& form, const QString& name, const QString& caption);

@@ -34,7 +34,8 @@ QList<ButtonChoice> ButtonsOf(int style)
     case msgbox::okCancel:
         return {okButton, cancelButton};
     case msgbox::yesNo:
-        return {{"Yes", QMessageBox::YesRole, msgbox::answerYes}, {"No", QMessageBox::NoRole, msgbox::answerNo}};
+        return {{"Yes", QMessageBox::YesRole, msgbox::answerYes},
+                {"No", QMessageBox::NoRole, msgbox::answerNo}};
     case msgbox::retryCancel:
         return {{"Retry", QMessageBox::AcceptRole, msgbox::answerRetry}, cancelButton};
     default:

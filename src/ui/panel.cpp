@@ -8,7 +8,8 @@
 
 namespace torvik {
 
-Panel::Panel(Container& container, const QString& name, const Twips& design, const QString& caption, Bevel bevel)
+Panel::Panel(Container& container, const QString& name, const Twips& design, const QString& caption,
+             Bevel bevel)
     : Control(container, name, new PanelWidget(bevel), design), panel_(static_cast<PanelWidget*>(&Widget())),
       designWidth_(design.Width)
 {

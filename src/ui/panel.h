@@ -19,7 +19,8 @@ public:
     /// The number as decimal text.
     void SetCaption(int number);
 
-    /// How much of a gauge is filled, 0 to 100. Setting it makes the panel a gauge; a value outside is failure 380.
+    /// How much of a gauge is filled, 0 to 100. Setting it makes the panel a gauge; a value outside is
+    /// failure 380.
     int FloodPercent() const { return floodPercent_; }
     void SetFloodPercent(double percent);
 

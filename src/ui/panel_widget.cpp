@@ -30,11 +30,12 @@ void PanelWidget::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const QRectF area = rect();
-    const int rim = bevel_ == Bevel::None ? 0 : bevelDepth;
-    const QRectF face = area.adjusted(rim, rim, -rim, -rim);
+    const double rim = bevel_ == Bevel::None ? 0 : bevelDepth * ThinLine(painter);
+    const QRectF face = Snapped(painter, area).adjusted(rim, rim, -rim, -rim);
     painter.fillRect(area, look::face);
     DrawBevel(painter, area, bevel_, bevelDepth);
-    DrawCaption(painter, face.adjusted(2, 0, -2, 0), text(), static_cast<int>(alignment()), isEnabled(), colour_);
+    DrawCaption(painter, face.adjusted(2, 0, -2, 0), text(), static_cast<int>(alignment()), isEnabled(),
+                colour_);
     if (flood_ > 0)
         PaintFlood(painter, face);
 }
@@ -42,12 +43,13 @@ void PanelWidget::paintEvent(QPaintEvent* /*event*/)
 /// The filled part shows the caption in the colour of the bare one, so the number stays readable at its edge.
 void PanelWidget::PaintFlood(QPainter& painter, const QRectF& face) const
 {
-    const QRectF filled(face.left(), face.top(), face.width() * flood_ / 100, face.height());
+    const QRectF filled =
+        Snapped(painter, QRectF(face.left(), face.top(), face.width() * flood_ / 100, face.height()));
     painter.save();
     painter.setClipRect(filled);
     painter.fillRect(filled, look::accent);
-    painter.setFont(font());
-    DrawCaption(painter, face.adjusted(2, 0, -2, 0), text(), static_cast<int>(alignment()), true, look::accentText);
+    DrawCaption(painter, face.adjusted(2, 0, -2, 0), text(), static_cast<int>(alignment()), true,
+                look::accentText);
     painter.restore();
 }
 

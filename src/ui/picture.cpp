@@ -42,7 +42,8 @@ Picture Picture::FromResource(const QString& resource)
     return {file.readAll(), NameWithoutFolder(resource)};
 }
 
-Picture::Picture(QByteArray bytes, QString fileName) : bytes_(std::move(bytes)), fileName_(std::move(fileName))
+Picture::Picture(QByteArray bytes, QString fileName)
+    : bytes_(std::move(bytes)), fileName_(std::move(fileName))
 {
     QBuffer buffer(&bytes_);
     QImageReader reader(&buffer);

@@ -76,7 +76,9 @@ bool BmpHasItsEnd(const Byte* data, qint64 size)
     const qint64 offset = qFromLittleEndian<quint32>(data + 10);
     const quint32 header = qFromLittleEndian<quint32>(data + 14);
     if (header == 12) {
-        const qint64 row = (qint64{qFromLittleEndian<quint16>(data + 18)} * qFromLittleEndian<quint16>(data + 24) + 31) / 32 * 4;
+        const qint64 row =
+            (qint64{qFromLittleEndian<quint16>(data + 18)} * qFromLittleEndian<quint16>(data + 24) + 31) /
+            32 * 4;
         return size >= offset + row * qFromLittleEndian<quint16>(data + 20);
     }
     if (size < 54)
@@ -85,8 +87,13 @@ bool BmpHasItsEnd(const Byte* data, qint64 size)
     const qint64 height = std::abs(qint64{qFromLittleEndian<qint32>(data + 22)});
     const int bits = qFromLittleEndian<quint16>(data + 28);
     const quint32 compression = qFromLittleEndian<quint32>(data + 30);
+    constexpr qint64 most =
+        1'000'000'000; // pixels; none that large is shown, and no product below can overflow
+    if (height > 0 && width > most / height)
+        return false;
     const bool plain = compression == 0 || compression == 3;
-    const qint64 needed = plain ? (width * bits + 31) / 32 * 4 * height : qint64{qFromLittleEndian<quint32>(data + 34)};
+    const qint64 needed =
+        plain ? (width * bits + 31) / 32 * 4 * height : qint64{qFromLittleEndian<quint32>(data + 34)};
     return size >= offset + needed;
 }
 

@@ -5,6 +5,7 @@
 #include "rtf/rtf_reader.h"
 
 #include <QDesktopServices>
+#include <QPointer>
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QUrl>
@@ -18,7 +19,8 @@ namespace {
 void OpenOutside(const QUrl& address)
 {
     const QString scheme = address.scheme().toLower();
-    if (scheme == QStringLiteral("http") || scheme == QStringLiteral("https") || scheme == QStringLiteral("mailto"))
+    if (scheme == QStringLiteral("http") || scheme == QStringLiteral("https") ||
+        scheme == QStringLiteral("mailto"))
         QDesktopServices::openUrl(address);
 }
 
@@ -44,10 +46,9 @@ void RichTextBox::SetFileName(const QString& path)
 
     QTextDocument* shown = document.release();
     shown->setParent(pane_);
-    QTextDocument* earlier = pane_->document();
+    const QPointer<QTextDocument> earlier = pane_->document(); // the pane's own first one it deletes itself
     pane_->setDocument(shown);
-    if (earlier->parent() == pane_)
-        delete earlier;
+    delete earlier;
     fileName_ = path;
     UpdateAccessibleText();
 }
@@ -55,6 +56,11 @@ void RichTextBox::SetFileName(const QString& path)
 QString RichTextBox::Text() const
 {
     return pane_->toPlainText();
+}
+
+const QTextDocument& RichTextBox::Document() const
+{
+    return *pane_->document();
 }
 
 QString RichTextBox::AccessibleText() const

@@ -3,6 +3,7 @@
 #include "ui/control.h"
 
 class QTextBrowser;
+class QTextDocument;
 
 namespace torvik {
 
@@ -12,12 +13,14 @@ class RichTextBox : public Control {
 public:
     RichTextBox(Container& container, const QString& name, const Twips& design);
 
-    /// Loads a file. Failures: those of reading a file (53, 76, 68, 70, 75, 57), and 321, Invalid file format,
-    /// for an empty one. On a failure the earlier text stays.
+    /// Loads a file. Failures: those of reading a file (53, 76, 68, 70, 75, 57), and 321, Invalid file
+    /// format, for an empty one. On a failure the earlier text stays.
     void SetFileName(const QString& path);
     const QString& FileName() const { return fileName_; }
     /// The plain text of what is shown.
     QString Text() const;
+    /// What is shown, with its formats; for printing. It goes with the next file.
+    const QTextDocument& Document() const;
 
 protected:
     QString AccessibleText() const override;

@@ -1,6 +1,7 @@
 #include "ui/screen.h"
 
 #include "ui/control.h"
+#include "ui/form_window.h"
 #include "ui/units.h"
 
 #include <QApplication>
@@ -37,7 +38,12 @@ void ScreenObject::SetMousePointer(MousePointer pointer)
 
 Control* ScreenObject::ActiveControl() const
 {
-    return Control::OfWidget(QApplication::focusWidget());
+    const QWidget* focused = QApplication::focusWidget();
+    // Right after a box closed, the desktop has not made the form's window the active one again.
+    const FormWindow* window = FormWindow::LastActive();
+    if (focused == nullptr && window != nullptr && window->isVisible())
+        focused = window->focusWidget();
+    return Control::OfWidget(focused);
 }
 
 } // namespace torvik

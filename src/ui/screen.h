@@ -25,7 +25,8 @@ public:
     /// The control that has the keyboard focus; null when it is none of the program's forms' controls.
     Control* ActiveControl() const;
 
-    /// Puts another size (pixels) in place of the machine's, for the tests; nothing brings the machine's back.
+    /// Puts another size (pixels) in place of the machine's, for the tests; nothing brings the machine's
+    /// back.
     void Pretend(std::optional<QSize> pixels) { pretended_ = pixels; }
 
 private:

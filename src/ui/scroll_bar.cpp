@@ -9,7 +9,8 @@
 namespace torvik {
 
 ScrollBar::ScrollBar(Container& container, const QString& name, const Twips& design)
-    : Control(container, name, new QScrollBar(design.Width >= design.Height ? Qt::Horizontal : Qt::Vertical), design),
+    : Control(container, name, new QScrollBar(design.Width >= design.Height ? Qt::Horizontal : Qt::Vertical),
+              design),
       bar_(static_cast<QScrollBar*>(&Widget()))
 {
     bar_->setRange(0, max_);

@@ -11,8 +11,8 @@ namespace torvik {
 
 class Form;
 
-/// A timer of a form: ticks every Interval milliseconds, never while the interval is 0 and never once its form is
-/// unloaded. It runs on the Clock.
+/// A timer of a form: ticks every Interval milliseconds, never while the interval is 0 and never once its
+/// form is unloaded. It runs on the Clock.
 class Timer : public QObject {
 public:
     Timer(Form& form, const QString& name, int interval = 0);

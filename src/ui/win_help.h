@@ -11,8 +11,9 @@ namespace winHelp {
 inline constexpr int quit = 2;
 } // namespace winHelp
 
-/// Gives the help system a command on behalf of a window. `quit` closes the help windows that are open; without
-/// one it does nothing. Returns whether the command was carried out. `data` belongs to commands that search.
+/// Gives the help system a command on behalf of a window. `quit` closes the help windows that are open;
+/// without one it does nothing. Returns whether the command was carried out. `data` belongs to commands that
+/// search.
 bool WinHelp(std::int32_t window, const QString& helpFile, int command, const QString& data);
 
 } // namespace torvik

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace torvik {
+
+/// Draws the platform's own widgets (text boxes, lists, scroll bars, choices, menus, boxes) with the
+/// program's bevels, so that they stand beside its 3-D buttons and panels as one family.
+class LookStyle : public QProxyStyle {
+public:
+    LookStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
+};
+
+} // namespace torvik
