@@ -121,6 +121,14 @@ Rgb Shader::Shade(const Mesh& part, const Vec& at, const Vec& rawNormal) const
         Material clay;
         clay.colour = subject_.clayColour * (0.9 + 0.2 * Noise(at.x * 9 + at.y * 5, at.z * 14, 3));
         clay.rough = 0.93;
+        if (part.finish == Finish::Skin && subject_.skin) {
+            // The modellers cut the joints into the clay and lay dark foil where the panes will be.
+            const Sheet sheet = SheetAt(at, normal);
+            const Material drawn = sheet.map->At(sheet.u, sheet.v);
+            normal = Unit(normal - sheet.axisU * drawn.slopeU - sheet.axisV * drawn.slopeV);
+            clay.colour = Mix(clay.colour, Rgb{0.03, 0.03, 0.035}, Clamp01(drawn.glass));
+            clay.rough = Mix(0.93, 0.35, Clamp01(drawn.glass));
+        }
         return Lit(clay, at, normal, 0.0, open);
     }
     Material m;

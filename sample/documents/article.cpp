@@ -44,7 +44,8 @@ std::vector<Run> RunsOf(const QString& text, const Look& base, const QColor& acc
     return runs;
 }
 
-Article::Article(const QString& title, Dialect dialect, int written, const ArticleStyle& style) : style_(style)
+Article::Article(const QString& title, Dialect dialect, int written, const ArticleStyle& style)
+    : style_(style)
 {
     document_.title = title;
     document_.dialect = dialect;

@@ -25,7 +25,8 @@ public:
     }
 
 private:
-    static constexpr const char* kKinds[] = {">< ", ">> ", "|= ", "== ", "= ", "- ", "+ ", "> ", "% ", ": ", "| ", "@"};
+    static constexpr const char* kKinds[] = {">< ", ">> ", "|= ", "== ", "= ", "- ",
+                                             "+ ",  "> ",  "% ",  ": ",  "| ", "@"};
 
     void ReadLine(const QString& line)
     {
@@ -143,7 +144,9 @@ private:
             }
         } else if (words[0] == u"table" && words.size() > 2) {
             table_ = Table();
-            table_.border = words[1] == u"grid" ? Border::Grid : words[1] == u"rules" ? Border::Rules : Border::None;
+            table_.border = words[1] == u"grid"    ? Border::Grid
+                            : words[1] == u"rules" ? Border::Rules
+                                                   : Border::None;
             aligns_.clear();
             for (const QString& word : words.mid(2)) {
                 table_.widths.push_back(Twips(word));
@@ -198,9 +201,13 @@ RichDocument ArticleOfSource(const QString& source)
         else if (key == u"accent")
             style.accent = QColor(u'#' + value);
         else if (key == u"body")
-            style.body = value == u"sans" ? Typeface::Sans : value == u"mono" ? Typeface::Mono : Typeface::Roman;
+            style.body = value == u"sans"   ? Typeface::Sans
+                         : value == u"mono" ? Typeface::Mono
+                                            : Typeface::Roman;
         else if (key == u"heading")
-            style.heading = value == u"roman" ? Typeface::Roman : value == u"mono" ? Typeface::Mono : Typeface::Sans;
+            style.heading = value == u"roman"  ? Typeface::Roman
+                            : value == u"mono" ? Typeface::Mono
+                                               : Typeface::Sans;
         else if (key == u"size")
             style.bodySize = value.toInt();
         else if (key == u"justified")

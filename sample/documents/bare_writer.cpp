@@ -36,16 +36,15 @@ void Switch(QByteArray& words, const char* name, bool before, bool now)
 
 } // namespace
 
-BareWriter::BareWriter(const RichDocument& document) : DialectWriter(document, {})
-{
-}
+BareWriter::BareWriter(const RichDocument& document) : DialectWriter(document, {}) {}
 
 void BareWriter::WriteHead()
 {
-    out_ += "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deftab720"
-            "{\\fonttbl{\\f0\\froman\\fprq2\\fcharset0 Times New Roman;}{\\f1\\fswiss\\fprq2\\fcharset0 Arial;}"
-            "{\\f2\\fmodern\\fprq1\\fcharset0 Courier New;}{\\f3\\froman\\fprq2\\fcharset2 Symbol;}}\r\n" +
-            ColourTable() + "\r\n\\viewkind4\\uc1\\pard\\lang1033\\f0\\fs22 ";
+    out_ +=
+        "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deftab720"
+        "{\\fonttbl{\\f0\\froman\\fprq2\\fcharset0 Times New Roman;}{\\f1\\fswiss\\fprq2\\fcharset0 Arial;}"
+        "{\\f2\\fmodern\\fprq1\\fcharset0 Courier New;}{\\f3\\froman\\fprq2\\fcharset2 Symbol;}}\r\n" +
+        ColourTable() + "\r\n\\viewkind4\\uc1\\pard\\lang1033\\f0\\fs22 ";
     current_ = Look();
 }
 

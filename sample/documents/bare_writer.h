@@ -4,8 +4,8 @@
 
 namespace torvik::sample {
 
-/// Rich text as a small desktop editor of the middle nineties writes it: no styles, formats switched on and off in
-/// the running text, list marks repeated as text, pictures as bitmaps.
+/// Rich text as a small desktop editor of the middle nineties writes it: no styles, formats switched on and
+/// off in the running text, list marks repeated as text, pictures as bitmaps.
 class BareWriter : public DialectWriter {
 public:
     explicit BareWriter(const RichDocument& document);

@@ -12,8 +12,8 @@ struct CardColour {
     QString name;
     QColor colour;
     bool metallic = false;
-    QString code;     ///< two characters, as on the plate
-    double share = 0; ///< percent of the year's cars
+    QString code;       ///< two characters, as on the plate
+    double share = 0;   ///< percent of the year's cars
     bool extra = false; ///< at an extra price, or only in spring
 };
 

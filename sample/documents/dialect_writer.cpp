@@ -4,8 +4,7 @@ namespace torvik::sample {
 
 DialectWriter::DialectWriter(const RichDocument& document, const std::vector<QColor>& standardColours)
     : document_(document), colours_(document, standardColours)
-{
-}
+{}
 
 QByteArray DialectWriter::Write()
 {
@@ -46,7 +45,8 @@ QByteArray DialectWriter::ColourTable() const
 {
     QByteArray table = "{\\colortbl;";
     for (const QColor& colour : colours_.All())
-        table += Word("red", colour.red()) + Word("green", colour.green()) + Word("blue", colour.blue()) + ';';
+        table +=
+            Word("red", colour.red()) + Word("green", colour.green()) + Word("blue", colour.blue()) + ';';
     return table + '}';
 }
 

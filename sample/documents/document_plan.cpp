@@ -1,12 +1,12 @@
 #include "document_plan.h"
 
 #include "article_source.h"
+#include "library_statistics.h"
 #include "model_years.h"
 #include "rich_writer.h"
+#include "sample/jpeg_file.h"
 #include "text_store.h"
 #include "year_articles.h"
-
-#include "sample/jpeg_file.h"
 
 #include <algorithm>
 #include <array>
@@ -82,11 +82,14 @@ std::vector<PlannedDocument> PlanDocuments()
         add(prefix + QStringLiteral("desc.rtf"), YearDescription(year));
         add(prefix + QStringLiteral("stats.rtf"), YearStatistics(year));
         add(prefix + QStringLiteral("colors.rtf"), YearColours(year));
-        add(prefix + (year < 2000 ? QStringLiteral("opts.rtf") : QStringLiteral("OPTS.rtf")), YearOptions(year));
+        add(prefix + (year < 2000 ? QStringLiteral("opts.rtf") : QStringLiteral("OPTS.rtf")),
+            YearOptions(year));
         add(QStringLiteral("nostalgia%1.rtf").arg(year % 100, 2, 10, QLatin1Char('0')), YearNostalgia(year));
     }
     for (const LibraryFile& library : kLibrary)
-        add(QString::fromLatin1(library.file), ArticleOfSource(StoredText(QString::fromLatin1(library.text))));
+        add(QString::fromLatin1(library.file),
+            ArticleOfSource(StoredText(QString::fromLatin1(library.text))));
+    add(QStringLiteral("stats.rtf"), LibraryStatistics());
     std::sort(documents.begin(), documents.end(),
               [](const PlannedDocument& a, const PlannedDocument& b) { return a.file < b.file; });
     return documents;

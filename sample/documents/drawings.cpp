@@ -22,8 +22,11 @@ void AddMixtures(QList<QRgb>& table, const QColor& from, const QColor& to, int c
 {
     for (int i = 0; i < count; ++i) {
         const double share = count == 1 ? 0 : double(i) / (count - 1);
-        const auto mixed = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
-        table.append(qRgb(mixed(from.red(), to.red()), mixed(from.green(), to.green()), mixed(from.blue(), to.blue())));
+        const auto mixed = [share](int a, int b) {
+            return static_cast<int>(std::lround(a + (b - a) * share));
+        };
+        table.append(qRgb(mixed(from.red(), to.red()), mixed(from.green(), to.green()),
+                          mixed(from.blue(), to.blue())));
     }
 }
 
@@ -50,8 +53,7 @@ class SidePainter {
 public:
     SidePainter(QPainter& painter, const CarShape& shape, const QColor& body)
         : painter_(painter), shape_(shape), body_(body)
-    {
-    }
+    {}
 
     void Paint()
     {
@@ -66,7 +68,10 @@ public:
 private:
     static constexpr double kStep = 0.04;
 
-    double Top(double s) const { return s > shape_.cowl && s < shape_.cabinEnd ? shape_.roof(s) : shape_.centre(s); }
+    double Top(double s) const
+    {
+        return s > shape_.cowl && s < shape_.cabinEnd ? shape_.roof(s) : shape_.centre(s);
+    }
 
     void Ground()
     {
@@ -81,7 +86,8 @@ private:
         path.quadTo(0.0, shape_.centre(0), 0.09, shape_.centre(0.09));
         for (double s = 0.12; s < shape_.length - 0.08; s += kStep)
             path.lineTo(s, Top(s));
-        path.quadTo(shape_.length, shape_.centre(shape_.length), shape_.length, shape_.centre(shape_.length) - 0.1);
+        path.quadTo(shape_.length, shape_.centre(shape_.length), shape_.length,
+                    shape_.centre(shape_.length) - 0.1);
         path.lineTo(shape_.length - 0.05, shape_.bottom(shape_.length));
         for (double s = shape_.length - 0.08; s > 0.1; s -= kStep)
             path.lineTo(s, shape_.bottom(s));
@@ -156,13 +162,15 @@ private:
         painter_.drawRect(QRectF(shape_.length - 0.07, shape_.centre(shape_.length) - 0.22, 0.05, 0.13));
         if (shape_.bumper == Bumper::ChromeBlade || shape_.bumper == Bumper::RubberStrip) {
             painter_.drawRoundedRect(QRectF(-0.07, shape_.bumperHeight - 0.05, 0.3, 0.1), 0.04, 0.04);
-            painter_.drawRoundedRect(QRectF(shape_.length - 0.24, shape_.bumperHeight - 0.05, 0.3, 0.1), 0.04, 0.04);
+            painter_.drawRoundedRect(QRectF(shape_.length - 0.24, shape_.bumperHeight - 0.05, 0.3, 0.1), 0.04,
+                                     0.04);
         }
         if (shape_.wing) {
             const double base = shape_.centre(shape_.length - 0.2);
             painter_.setBrush(body_);
             painter_.drawRoundedRect(QRectF(shape_.length - 0.36, base + 0.05, 0.36, 0.05), 0.02, 0.02);
-            painter_.drawLine(QPointF(shape_.length - 0.22, base), QPointF(shape_.length - 0.22, base + 0.05));
+            painter_.drawLine(QPointF(shape_.length - 0.22, base),
+                              QPointF(shape_.length - 0.22, base + 0.05));
         }
         if (shape_.bonnetScoop) {
             painter_.setBrush(body_);
@@ -180,7 +188,9 @@ private:
         painter_.drawEllipse(hub, shape_.wheelRadius, shape_.wheelRadius);
         painter_.setBrush(Qt::white);
         painter_.drawEllipse(hub, shape_.rimRadius, shape_.rimRadius);
-        const int spokes = shape_.wheel == WheelFace::TenSpoke ? 10 : shape_.wheel == WheelFace::Turbine ? 14 : 5;
+        const int spokes = shape_.wheel == WheelFace::TenSpoke  ? 10
+                           : shape_.wheel == WheelFace::Turbine ? 14
+                                                                : 5;
         painter_.setPen(QPen(kInk, shape_.wheel == WheelFace::FiveStar ? 0.05 : 0.024));
         if (shape_.wheel != WheelFace::ChromeCap) {
             for (int i = 0; i < spokes; ++i) {

@@ -10,8 +10,8 @@ namespace torvik::sample {
 Drawing CarDrawing(int year, int width);
 /// An engine from the front: `layout` is "v8", "v6", "i6" or "i4".
 Drawing EngineDrawing(const QString& layout, int width);
-/// By the words of an article: "car" and a year (or "harwell", "kestra1", "kestra3", "super"), or "engine" and a
-/// layout. Throws std::runtime_error for other names.
+/// By the words of an article: "car" and a year (or "harwell", "kestra1", "kestra3", "super"), or "engine"
+/// and a layout. Throws std::runtime_error for other names.
 Drawing DrawingNamed(const QString& kind, const QString& name, int width);
 
 } // namespace torvik::sample

@@ -20,8 +20,7 @@ int NumberOfText(const QByteArray& text)
 
 LateWriter::LateWriter(const RichDocument& document)
     : StyledWriter(document), revision_(NumberOfText(document.title.toUtf8()))
-{
-}
+{}
 
 QByteArray LateWriter::Spelled(const QString& text) const
 {
@@ -47,21 +46,25 @@ QByteArray LateWriter::RunWords() const
 
 void LateWriter::WriteHead()
 {
-    out_ += "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\\stshfdbch0\\stshfloch0\\stshfhich0\\stshfbi0\\deflang1033"
-            "\\deflangfe1033" +
-            Fonts() + "\r\n" + ColourTable() + "\r\n" + StyleSheet() + "\r\n" + ListTable() + "\r\n{\\*\\rsidtbl \\rsid" +
-            QByteArray::number(revision_ / 2) + Word("rsid", revision_) + "}\r\n{\\info{\\title " +
-            Spelled(Document().title) + "}{\\author Brenmoor Owners' Library}{\\operator Editors}{" + Dates() +
-            "}\r\n\\widowctrl\\ftnbj\\aenddoc\\noxlattoyen\\expshrtn\\noultrlspc\\dntblnsbdb\\nospaceforul\\formshade"
-            "\\viewkind4\\viewscale100\\nolnhtadjtbl" +
-            Word("rsidroot", revision_) + " \\fet0\\sectd \\linex0\\endnhere\\sectlinegrid360\\sectdefaultcl\r\n";
+    out_ +=
+        "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\\stshfdbch0\\stshfloch0\\stshfhich0\\stshfbi0\\deflang1033"
+        "\\deflangfe1033" +
+        Fonts() + "\r\n" + ColourTable() + "\r\n" + StyleSheet() + "\r\n" + ListTable() +
+        "\r\n{\\*\\rsidtbl \\rsid" + QByteArray::number(revision_ / 2) + Word("rsid", revision_) +
+        "}\r\n{\\info{\\title " + Spelled(Document().title) +
+        "}{\\author Brenmoor Owners' Library}{\\operator Editors}{" + Dates() +
+        "}\r\n\\widowctrl\\ftnbj\\aenddoc\\noxlattoyen\\expshrtn\\noultrlspc\\dntblnsbdb\\nospaceforul\\forms"
+        "hade"
+        "\\viewkind4\\viewscale100\\nolnhtadjtbl" +
+        Word("rsidroot", revision_) + " \\fet0\\sectd \\linex0\\endnhere\\sectlinegrid360\\sectdefaultcl\r\n";
 }
 
 QByteArray LateWriter::CellShade(const Cell& cell) const
 {
     if (!cell.shade.isValid())
         return "\\clshdrawnil";
-    return Word("clcbpat", Colours().NumberOf(cell.shade)) + Word("clcbpatraw", Colours().NumberOf(cell.shade));
+    return Word("clcbpat", Colours().NumberOf(cell.shade)) +
+           Word("clcbpatraw", Colours().NumberOf(cell.shade));
 }
 
 QByteArray LateWriter::RowWords(const Table& table, const Row& row, bool last) const
@@ -101,15 +104,18 @@ void LateWriter::WriteDrawing(const Drawing& drawing)
     const QByteArray png = PngOfDrawing(drawing.image);
     const QByteArray metafile = MetafileOfDrawing(drawing.image);
     const QByteArray digest = QCryptographicHash::hash(png, QCryptographicHash::Md5).toHex();
-    const QByteArray size = Word("picw", drawing.width * 2540 / 1440) + Word("pich", drawing.height * 2540 / 1440) +
-                            Word("picwgoal", drawing.width) + Word("pichgoal", drawing.height);
+    const QByteArray size = Word("picw", drawing.width * 2540 / 1440) +
+                            Word("pich", drawing.height * 2540 / 1440) + Word("picwgoal", drawing.width) +
+                            Word("pichgoal", drawing.height);
     const QByteArray tag = Word("bliptag", digest.left(7).toInt(nullptr, 16));
     out_ += "\\pard\\plain " + ParagraphWords(around) +
-            "\\widctlpar\\adjustright \\fs22\\cgrid {{\\*\\shppict{\\pict{\\*\\picprop\\shplid1025{\\sp{\\sn shapeType}"
+            "\\widctlpar\\adjustright \\fs22\\cgrid {{\\*\\shppict{\\pict{\\*\\picprop\\shplid1025{\\sp{\\sn "
+            "shapeType}"
             "{\\sv 75}}}\\picscalex100\\picscaley100\\piccropl0\\piccropr0\\piccropt0\\piccropb0" +
             size + "\\pngblip" + tag + "{\\*\\blipuid " + digest + '}' + HexLines(png) +
-            "}}{\\nonshppict{\\pict\\picscalex100\\picscaley100\\piccropl0\\piccropr0\\piccropt0\\piccropb0" + size +
-            "\\wmetafile8" + tag + "\\blipupi96{\\*\\blipuid " + digest + '}' + HexLines(metafile) + "}}}{\\par }\r\n";
+            "}}{\\nonshppict{\\pict\\picscalex100\\picscaley100\\piccropl0\\piccropr0\\piccropt0\\piccropb0" +
+            size + "\\wmetafile8" + tag + "\\blipupi96{\\*\\blipuid " + digest + '}' + HexLines(metafile) +
+            "}}}{\\par }\r\n";
 }
 
 } // namespace torvik::sample

@@ -4,8 +4,8 @@
 
 namespace torvik::sample {
 
-/// Rich text as the word processor of the years after the turn of the century writes it: revision numbers, Unicode
-/// beside the code page, rows defined before and after their cells, pictures in two forms.
+/// Rich text as the word processor of the years after the turn of the century writes it: revision numbers,
+/// Unicode beside the code page, rows defined before and after their cells, pictures in two forms.
 class LateWriter : public StyledWriter {
 public:
     explicit LateWriter(const RichDocument& document);

@@ -30,7 +30,8 @@ QByteArray RunsOf(const QImage& drawing)
         for (int x = 0; x < drawing.width();) {
             const int colour = drawing.pixelIndex(x, y);
             int length = 1;
-            while (x + length < drawing.width() && length < 255 && drawing.pixelIndex(x + length, y) == colour)
+            while (x + length < drawing.width() && length < 255 &&
+                   drawing.pixelIndex(x + length, y) == colour)
                 ++length;
             runs += static_cast<char>(length);
             runs += static_cast<char>(colour << 4 | colour);

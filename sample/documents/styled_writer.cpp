@@ -10,9 +10,21 @@ namespace {
 /// The colours that the word processor always lists.
 std::vector<QColor> OfficeColours()
 {
-    return {Qt::black,    QColor(0, 0, 255),   QColor(0, 255, 255), QColor(0, 255, 0),     QColor(255, 0, 255),
-            Qt::red,      QColor(255, 255, 0), Qt::white,           QColor(0, 0, 128),     QColor(0, 128, 128),
-            QColor(0, 128, 0), QColor(128, 0, 128), QColor(128, 0, 0), QColor(128, 128, 0), QColor(128, 128, 128),
+    return {Qt::black,
+            QColor(0, 0, 255),
+            QColor(0, 255, 255),
+            QColor(0, 255, 0),
+            QColor(255, 0, 255),
+            Qt::red,
+            QColor(255, 255, 0),
+            Qt::white,
+            QColor(0, 0, 128),
+            QColor(0, 128, 128),
+            QColor(0, 128, 0),
+            QColor(128, 0, 128),
+            QColor(128, 0, 0),
+            QColor(128, 128, 0),
+            QColor(128, 128, 128),
             QColor(192, 192, 192)};
 }
 
@@ -47,9 +59,7 @@ const char* WordOf(QChar ch)
 
 } // namespace
 
-StyledWriter::StyledWriter(const RichDocument& document) : DialectWriter(document, OfficeColours())
-{
-}
+StyledWriter::StyledWriter(const RichDocument& document) : DialectWriter(document, OfficeColours()) {}
 
 QByteArray StyledWriter::Spelled(const QString& text) const
 {
@@ -85,7 +95,8 @@ QByteArray StyledWriter::StyleSheet() const
            "\\sbasedon0 \\snext0 heading 1;}\r\n"
            "{\\s2\\sb240\\sa60\\keepn\\widctlpar\\outlinelevel1\\adjustright \\b\\f1\\fs24\\cgrid "
            "\\sbasedon0 \\snext0 heading 2;}\r\n"
-           "{\\*\\cs10 \\additive Default Paragraph Font;}{\\*\\cs15 \\additive \\ul\\cf2 \\sbasedon10 Hyperlink;}}";
+           "{\\*\\cs10 \\additive Default Paragraph Font;}{\\*\\cs15 \\additive \\ul\\cf2 \\sbasedon10 "
+           "Hyperlink;}}";
 }
 
 QByteArray StyledWriter::ListTable() const
@@ -98,12 +109,13 @@ QByteArray StyledWriter::ListTable() const
                        level("23", "{\\leveltext\\'01\\u-3913 ?;}{\\levelnumbers;}\\f3\\fbias0 "
                                    "\\fi-360\\li720\\jclisttab\\tx720 }") +
                        "{\\listname ;}" + Word("listid", ListId(0)) + '}';
-    QByteArray overrides = "{\\*\\listoverridetable{\\listoverride" + Word("listid", ListId(0)) +
-                           "\\listoverridecount0\\ls1}";
+    QByteArray overrides =
+        "{\\*\\listoverridetable{\\listoverride" + Word("listid", ListId(0)) + "\\listoverridecount0\\ls1}";
     for (int list = 1; list <= NumberedListsIn(Document()); ++list) {
-        lists += "\r\n{\\list\\listtemplateid67698703\\listsimple" +
-                 level("0", "{\\leveltext\\'02\\'00.;}{\\levelnumbers\\'01;}\\fi-360\\li720\\jclisttab\\tx720 }") +
-                 "{\\listname ;}" + Word("listid", ListId(list)) + '}';
+        lists +=
+            "\r\n{\\list\\listtemplateid67698703\\listsimple" +
+            level("0", "{\\leveltext\\'02\\'00.;}{\\levelnumbers\\'01;}\\fi-360\\li720\\jclisttab\\tx720 }") +
+            "{\\listname ;}" + Word("listid", ListId(list)) + '}';
         overrides += "{\\listoverride" + Word("listid", ListId(list)) + "\\listoverridecount0" +
                      Word("ls", list + 1) + '}';
     }
@@ -127,9 +139,10 @@ QByteArray StyledWriter::HeadEnd() const
 
 void StyledWriter::WriteHead()
 {
-    out_ += "{\\rtf1\\ansi\\ansicpg1252\\uc1 \\deff0\\deflang1033\\deflangfe1033" + Fonts() + "\r\n" + ColourTable() +
-            "\r\n" + StyleSheet() + "\r\n" + ListTable() + "\r\n{\\info{\\title " + Spelled(Document().title) +
-            "}{\\author Brenmoor Owners' Library}{\\operator Editors}{" + Dates() + "}\r\n" + HeadEnd();
+    out_ += "{\\rtf1\\ansi\\ansicpg1252\\uc1 \\deff0\\deflang1033\\deflangfe1033" + Fonts() + "\r\n" +
+            ColourTable() + "\r\n" + StyleSheet() + "\r\n" + ListTable() + "\r\n{\\info{\\title " +
+            Spelled(Document().title) + "}{\\author Brenmoor Owners' Library}{\\operator Editors}{" +
+            Dates() + "}\r\n" + HeadEnd();
 }
 
 QByteArray StyledWriter::LookWords(const Look& look) const
@@ -157,8 +170,8 @@ QByteArray StyledWriter::WrittenRun(const Run& run) const
     const QByteArray words = LookWords(run.look) + RunWords();
     if (run.link.isEmpty())
         return '{' + words + (words.isEmpty() ? "" : " ") + Spelled(run.text) + '}';
-    return "{\\field{\\*\\fldinst {" + words + " HYPERLINK \"" + Spelled(run.link) + "\" }}{\\fldrslt {\\cs15\\ul\\cf2" +
-           RunWords() + ' ' + Spelled(run.text) + "}}}";
+    return "{\\field{\\*\\fldinst {" + words + " HYPERLINK \"" + Spelled(run.link) +
+           "\" }}{\\fldrslt {\\cs15\\ul\\cf2" + RunWords() + ' ' + Spelled(run.text) + "}}}";
 }
 
 void StyledWriter::WriteParagraph(const Paragraph& paragraph, Stand stand)
@@ -223,10 +236,10 @@ void StyledWriter::WriteDrawing(const Drawing& drawing)
     around.align = drawing.align;
     const QByteArray png = PngOfDrawing(drawing.image);
     out_ += "\\pard\\plain " + ParagraphWords(around) + "\\widctlpar\\adjustright \\fs22\\cgrid {{\\pict" +
-            Word("picscalex", 100) + Word("picscaley", 100) +
-            "\\piccropl0\\piccropr0\\piccropt0\\piccropb0" + Word("picw", drawing.width * 2540 / 1440) +
-            Word("pich", drawing.height * 2540 / 1440) + Word("picwgoal", drawing.width) +
-            Word("pichgoal", drawing.height) + "\\pngblip" + HexLines(png) + "}}{\\par }\r\n";
+            Word("picscalex", 100) + Word("picscaley", 100) + "\\piccropl0\\piccropr0\\piccropt0\\piccropb0" +
+            Word("picw", drawing.width * 2540 / 1440) + Word("pich", drawing.height * 2540 / 1440) +
+            Word("picwgoal", drawing.width) + Word("pichgoal", drawing.height) + "\\pngblip" + HexLines(png) +
+            "}}{\\par }\r\n";
 }
 
 } // namespace torvik::sample

@@ -4,8 +4,9 @@
 
 namespace torvik::sample {
 
-/// Rich text as a large word processor of the late nineties writes it: a style sheet, list tables, runs in groups,
-/// rows that are defined once and characters of the Western code page. The later dialect builds on it.
+/// Rich text as a large word processor of the late nineties writes it: a style sheet, list tables, runs in
+/// groups, rows that are defined once and characters of the Western code page. The later dialect builds on
+/// it.
 class StyledWriter : public DialectWriter {
 public:
     explicit StyledWriter(const RichDocument& document);

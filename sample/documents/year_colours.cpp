@@ -15,8 +15,10 @@ QString ParagraphOnTaste(const std::vector<CardColour>& card, int year)
     const auto byShare = [](const CardColour& a, const CardColour& b) { return a.share < b.share; };
     const CardColour& most = *std::max_element(card.begin(), card.end(), byShare);
     const CardColour& least = *std::min_element(card.begin(), card.end(), byShare);
-    const auto metallic = std::count_if(card.begin(), card.end(), [](const CardColour& c) { return c.metallic; });
-    return QStringLiteral("The card of %1 held *%2* colours, %3 of them with metal flakes. Most buyers chose _%4_, which "
+    const auto metallic =
+        std::count_if(card.begin(), card.end(), [](const CardColour& c) { return c.metallic; });
+    return QStringLiteral("The card of %1 held *%2* colours, %3 of them with metal flakes. Most buyers chose "
+                          "_%4_, which "
                           "went on one car in %5; the rarest was _%6_, with %7 percent.")
         .arg(year)
         .arg(card.size())
@@ -42,7 +44,8 @@ void AddCard(Article& article, const std::vector<CardColour>& card, int year)
     Row head;
     head.heading = true;
     head.cells = {article.HeadCell(QStringLiteral("Colour")), article.HeadCell(QStringLiteral("Name")),
-                  article.HeadCell(QStringLiteral("Code"), Align::Centre), article.HeadCell(QStringLiteral("Finish")),
+                  article.HeadCell(QStringLiteral("Code"), Align::Centre),
+                  article.HeadCell(QStringLiteral("Finish")),
                   article.HeadCell(QStringLiteral("Share"), Align::Right)};
     table.rows.push_back(head);
     for (const CardColour& colour : card) {
@@ -50,7 +53,8 @@ void AddCard(Article& article, const std::vector<CardColour>& card, int year)
         QString name = u'*' + colour.name + u'*';
         if (colour.extra)
             name += QStringLiteral("\n_special colour, +%1_").arg(Dollars(PriceIn(year, 19)));
-        row.cells = {Swatch(article, colour.colour), article.CellOf(name), article.CellOf(colour.code, Align::Centre),
+        row.cells = {Swatch(article, colour.colour), article.CellOf(name),
+                     article.CellOf(colour.code, Align::Centre),
                      article.CellOf(colour.metallic ? QStringLiteral("metallic") : QStringLiteral("plain")),
                      article.CellOf(QStringLiteral("%1 %").arg(colour.share, 0, 'f', 1), Align::Right)};
         table.rows.push_back(row);
@@ -88,9 +92,9 @@ RichDocument YearColours(int year)
     article.Text(ParagraphOnTaste(card, year));
     AddCard(article, card, year);
     AddTrims(article, year);
-    Paragraph hint = article.Plain(QStringLiteral(
-        "The code stands on the plate at the driver’s door, after the letter of the engine. Screens differ: hold the old "
-        "paint chip beside your own before you order a litre."));
+    Paragraph hint = article.Plain(QStringLiteral("The code stands on the plate at the driver’s door, after "
+                                                  "the letter of the engine. Screens differ: hold the old "
+                                                  "paint chip beside your own before you order a litre."));
     hint.before = 160;
     hint.boxed = true;
     hint.shade = article.Tint();

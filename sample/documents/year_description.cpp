@@ -3,11 +3,10 @@
 #include "engines.h"
 #include "model_years.h"
 #include "options.h"
+#include "sample/car_shape.h"
 #include "text_store.h"
 #include "year_articles.h"
 #include "year_style.h"
-
-#include "sample/car_shape.h"
 
 namespace torvik::sample {
 
@@ -57,7 +56,10 @@ Table FactsOf(const Article& article, const ModelYear& year)
               article.Tint(),
               1};
     Cell right{{Fact(article, "Price", QStringLiteral("from ") + Dollars(year.price)),
-                Fact(article, "Length", QStringLiteral("%1 m (%2)").arg(measures.length / 1000.0, 0, 'f', 2).arg(inches(measures.length))),
+                Fact(article, "Length",
+                     QStringLiteral("%1 m (%2)")
+                         .arg(measures.length / 1000.0, 0, 'f', 2)
+                         .arg(inches(measures.length))),
                 Fact(article, "Weight", QStringLiteral("%1 kg, coupe").arg(Grouped(year.weight)))},
                article.Tint(),
                1};
@@ -70,7 +72,9 @@ Table FactsOf(const Article& article, const ModelYear& year)
 
 QString ProductionSentence(const ModelYear& year)
 {
-    QString text = QStringLiteral("The works built *%1* cars of the %2 season").arg(Grouped(year.Built())).arg(year.year);
+    QString text = QStringLiteral("The works built *%1* cars of the %2 season")
+                       .arg(Grouped(year.Built()))
+                       .arg(year.year);
     if (year.year > 1967) {
         const double before = ModelYearOf(year.year - 1).Built();
         const double change = 100.0 * (year.Built() - before) / before;
@@ -82,11 +86,13 @@ QString ProductionSentence(const ModelYear& year)
             text += QStringLiteral(", about as many as in the season before");
     }
     if (year.convertibles > 0) {
-        text += QStringLiteral("; %1 of them left Port Averel with a folding top. ").arg(Grouped(year.convertibles));
+        text += QStringLiteral("; %1 of them left Port Averel with a folding top. ")
+                    .arg(Grouped(year.convertibles));
     } else {
         text += QStringLiteral(". There was no convertible. ");
     }
-    return text + QStringLiteral("A coupe with the standard engine cost %1 before tax and delivery.").arg(Dollars(year.price));
+    return text + QStringLiteral("A coupe with the standard engine cost %1 before tax and delivery.")
+                      .arg(Dollars(year.price));
 }
 
 } // namespace
@@ -99,7 +105,8 @@ RichDocument YearDescription(int year)
     const TextSection& text = texts.at(QString::number(year));
     const TextSection& shape = shapes.at(QStringLiteral("g%1").arg(GenerationOfYear(year)));
 
-    Article article = NewYearArticle(year, YearArticle::Description, QStringLiteral("%1 Torvik Vollandry").arg(year));
+    Article article =
+        NewYearArticle(year, YearArticle::Description, QStringLiteral("%1 Torvik Vollandry").arg(year));
     article.Title(QStringLiteral("%1 Torvik Vollandry").arg(year));
     article.Aligned(u'_' + text.title + u'_', Align::Centre);
     article.Add(CarDrawing(year, 5300));

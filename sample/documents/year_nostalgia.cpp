@@ -44,7 +44,8 @@ void AddCosts(Article& article, const ModelYear& year)
 
 RichDocument YearNostalgia(int year)
 {
-    const std::map<QString, TextSection> texts = StoredSections(QStringLiteral("nostalgia_%1").arg(year / 10));
+    const std::map<QString, TextSection> texts =
+        StoredSections(QStringLiteral("nostalgia_%1").arg(year / 10));
     const TextSection& text = texts.at(QString::number(year));
     Article article = NewYearArticle(year, YearArticle::Nostalgia, QStringLiteral("Nostalgia %1").arg(year));
     article.Title(QStringLiteral("_%1_").arg(year));

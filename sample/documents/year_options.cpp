@@ -40,13 +40,16 @@ RichDocument YearOptions(int year)
 {
     Article article = NewYearArticle(year, YearArticle::Options, QStringLiteral("%1 options").arg(year));
     article.Title(QStringLiteral("Options of %1").arg(year));
-    article.Text(QStringLiteral("Every buyer put a car together from the dealer’s order sheet. These are the lines of the "
-                                "sheet, with the prices of the autumn before the season; a coupe with nothing ticked cost "
-                                "*%1*.")
-                     .arg(Dollars(ModelYearOf(year).price)));
+    article.Text(
+        QStringLiteral(
+            "Every buyer put a car together from the dealer’s order sheet. These are the lines of the "
+            "sheet, with the prices of the autumn before the season; a coupe with nothing ticked cost "
+            "*%1*.")
+            .arg(Dollars(ModelYearOf(year).price)));
     int most = AddEngines(article, year);
     int lines = 0;
-    for (const OptionGroup group : {OptionGroup::Drive, OptionGroup::Comfort, OptionGroup::Looks, OptionGroup::Sound}) {
+    for (const OptionGroup group :
+         {OptionGroup::Drive, OptionGroup::Comfort, OptionGroup::Looks, OptionGroup::Sound}) {
         article.Heading(GroupName(group));
         for (const Option& option : OptionsOf(year, group)) {
             const int price = PriceIn(year, option.price);
@@ -57,7 +60,9 @@ RichDocument YearOptions(int year)
     }
     article.Rule();
     Paragraph sum = article.Plain(
-        QStringLiteral("*Everything at once*, the largest engine included: %1 lines of the sheet\t*%2*").arg(lines + 1).arg(Dollars(most)));
+        QStringLiteral("*Everything at once*, the largest engine included: %1 lines of the sheet\t*%2*")
+            .arg(lines + 1)
+            .arg(Dollars(most)));
     sum.tabs = {{7000, TabStop::Kind::Right, true}};
     article.Add(sum);
     const std::map<QString, TextSection> advice = StoredSections(QStringLiteral("order_advice"));

@@ -59,10 +59,12 @@ void AddProduction(Article& article, const ModelYear& year)
 {
     article.Heading(QStringLiteral("Production"));
     FigureTable table(article, {3200, 1800, 1300, 1000});
-    table.Head({QStringLiteral("Body"), QStringLiteral("Cars built"), QStringLiteral("Share"), QStringLiteral("Seats")});
+    table.Head({QStringLiteral("Body"), QStringLiteral("Cars built"), QStringLiteral("Share"),
+                QStringLiteral("Seats")});
     const auto add = [&](const QString& name, int cars, const char* seats) {
         if (cars > 0)
-            table.Add({name, Grouped(cars), QStringLiteral("%1 %").arg(100.0 * cars / year.Built(), 0, 'f', 1),
+            table.Add({name, Grouped(cars),
+                       QStringLiteral("%1 %").arg(100.0 * cars / year.Built(), 0, 'f', 1),
                        QString::fromLatin1(seats)});
     };
     add(QStringLiteral("Coupe"), year.coupes, "2 + 2");
@@ -102,10 +104,11 @@ void AddEngines(Article& article, int year)
 {
     article.Heading(QStringLiteral("Engines"));
     FigureTable table(article, {2400, 700, 1000, 1600, 900, 700});
-    table.Head({QStringLiteral("Engine"), QStringLiteral("Code"), QStringLiteral("Litres"), QStringLiteral("bhp at rpm"),
-                QStringLiteral("lb-ft"), QStringLiteral("Ratio")});
+    table.Head({QStringLiteral("Engine"), QStringLiteral("Code"), QStringLiteral("Litres"),
+                QStringLiteral("bhp at rpm"), QStringLiteral("lb-ft"), QStringLiteral("Ratio")});
     for (const Engine& engine : EnginesOf(year)) {
-        table.Add({EngineName(engine), QString(QLatin1Char(engine.code)), QString::number(engine.litres, 'f', 1),
+        table.Add({EngineName(engine), QString(QLatin1Char(engine.code)),
+                   QString::number(engine.litres, 'f', 1),
                    QStringLiteral("%1 at %2").arg(engine.power).arg(Grouped(engine.powerAt)),
                    QString::number(engine.torque), QString::number(engine.compression, 'f', 1)});
     }
@@ -119,9 +122,11 @@ void AddPerformance(Article& article, const ModelYear& year)
     table.Head({QStringLiteral("Coupe with"), QStringLiteral("0 to 60"), QStringLiteral("Top speed"),
                 QStringLiteral("On order")});
     for (const Engine& engine : EnginesOf(year.year)) {
-        table.Add({EngineName(engine), QStringLiteral("%1 s").arg(SecondsToSixty(engine, year.weight), 0, 'f', 1),
+        table.Add({EngineName(engine),
+                   QStringLiteral("%1 s").arg(SecondsToSixty(engine, year.weight), 0, 'f', 1),
                    QStringLiteral("%1 mph").arg(TopSpeed(engine)),
-                   engine.extra == 0 ? QStringLiteral("standard") : u'+' + Dollars(PriceIn(year.year, engine.extra))});
+                   engine.extra == 0 ? QStringLiteral("standard")
+                                     : u'+' + Dollars(PriceIn(year.year, engine.extra))});
     }
     table.Finish();
 }
@@ -130,7 +135,8 @@ void AddPrices(Article& article, const ModelYear& year)
 {
     article.Heading(QStringLiteral("List prices"));
     FigureTable table(article, {4300, 1500, 1500});
-    table.Head({QStringLiteral("Body with the standard engine"), QStringLiteral("Price"), QStringLiteral("A season ago")});
+    table.Head({QStringLiteral("Body with the standard engine"), QStringLiteral("Price"),
+                QStringLiteral("A season ago")});
     const ModelYear* before = year.year > 1967 ? &ModelYearOf(year.year - 1) : nullptr;
     const auto add = [&](const QString& name, bool wasThere, int share) {
         table.Add({name, Dollars(year.price * share / 100),
@@ -149,18 +155,21 @@ void AddPrices(Article& article, const ModelYear& year)
 RichDocument YearStatistics(int year)
 {
     const ModelYear& figures = ModelYearOf(year);
-    Article article = NewYearArticle(year, YearArticle::Statistics, QStringLiteral("%1 statistics").arg(year));
+    Article article =
+        NewYearArticle(year, YearArticle::Statistics, QStringLiteral("%1 statistics").arg(year));
     article.Title(QStringLiteral("%1 in figures").arg(year));
     AddProduction(article, figures);
     AddMeasures(article, figures);
     AddEngines(article, year);
     AddPerformance(article, figures);
     AddPrices(article, figures);
-    article.Text(QStringLiteral("_Power is stated %1, as the makers did in that year. Times and speeds are the editors’ "
-                                "reckoning from weight and power with two people aboard; prices are without tax and "
-                                "delivery._")
-                     .arg(year < 1972 ? QStringLiteral("gross, with the engine on a bench and nothing attached")
-                                      : QStringLiteral("net, with the engine as it sits in the car")));
+    article.Text(QStringLiteral(
+                     "_Power is stated %1, as the makers did in that year. Times and speeds are the editors’ "
+                     "reckoning from weight and power with two people aboard; prices are without tax and "
+                     "delivery._")
+                     .arg(year < 1972
+                              ? QStringLiteral("gross, with the engine on a bench and nothing attached")
+                              : QStringLiteral("net, with the engine as it sits in the car")));
     return article.Take();
 }
 

@@ -1,0 +1,104 @@
+#include "library_statistics.h"
+
+#include "article.h"
+#include "engines.h"
+#include "model_years.h"
+#include "options.h"
+#include "sample/car_shape.h"
+
+#include <algorithm>
+
+namespace torvik::sample {
+
+namespace {
+
+Row RowOf(const Article& article, const QStringList& parts, const QColor& shade)
+{
+    Row row;
+    for (const QString& part : parts) {
+        Cell cell = article.CellOf(part, row.cells.empty() ? Align::Left : Align::Right);
+        cell.paragraphs.front().before = 10;
+        cell.paragraphs.front().after = 10;
+        cell.shade = shade;
+        row.cells.push_back(cell);
+    }
+    return row;
+}
+
+Row HeadOf(const Article& article, const QStringList& parts)
+{
+    Row row;
+    row.heading = true;
+    for (const QString& part : parts)
+        row.cells.push_back(article.HeadCell(part, row.cells.empty() ? Align::Left : Align::Right));
+    return row;
+}
+
+QString OrDash(int number)
+{
+    return number > 0 ? Grouped(number) : QStringLiteral("–");
+}
+
+int MostPower(int year)
+{
+    int most = 0;
+    for (const Engine& engine : EnginesOf(year))
+        most = std::max(most, engine.power);
+    return most;
+}
+
+} // namespace
+
+RichDocument LibraryStatistics()
+{
+    ArticleStyle style;
+    style.body = Typeface::Sans;
+    style.bodySize = 20;
+    style.accent = QColor(31, 63, 119);
+    Article article(QStringLiteral("Torvik statistics"), Dialect::Late, 2001, style);
+    article.Title(QStringLiteral("All years in figures"));
+    article.Text(QStringLiteral(
+        "Cars built by season and body, the price of the simplest coupe, and the power of the strongest "
+        "engine on the order sheet. The ground changes its shade with the generation of the body."));
+    Table table;
+    table.widths = {850, 1150, 1150, 1250, 1250, 950, 700};
+    table.rows.push_back(
+        HeadOf(article, {QStringLiteral("Season"), QStringLiteral("Coupe"), QStringLiteral("Fastback"),
+                         QStringLiteral("Convertible"), QStringLiteral("All"), QStringLiteral("Price"),
+                         QStringLiteral("bhp")}));
+    ModelYear sum{};
+    const ModelYear* best = &ModelYearOf(1967);
+    const ModelYear* least = best;
+    for (const ModelYear& year : ModelYears()) {
+        const QColor shade = GenerationOfYear(year.year) % 2 == 1 ? article.Tint() : QColor();
+        table.rows.push_back(RowOf(article,
+                                   {QString::number(year.year), Grouped(year.coupes), OrDash(year.fastbacks),
+                                    OrDash(year.convertibles), u'*' + Grouped(year.Built()) + u'*',
+                                    Dollars(year.price), QString::number(MostPower(year.year))},
+                                   shade));
+        sum.coupes += year.coupes;
+        sum.fastbacks += year.fastbacks;
+        sum.convertibles += year.convertibles;
+        best = year.Built() > best->Built() ? &year : best;
+        least = year.Built() < least->Built() ? &year : least;
+    }
+    table.rows.push_back(
+        HeadOf(article, {QStringLiteral("All"), Grouped(sum.coupes), Grouped(sum.fastbacks),
+                         Grouped(sum.convertibles), Grouped(sum.Built()), QString(), QString()}));
+    article.Add(table);
+    article.Heading(QStringLiteral("High and low"));
+    article.Bullet(QStringLiteral("The best season was *%1* with %2 cars, the weakest *%3* with %4.")
+                       .arg(best->year)
+                       .arg(Grouped(best->Built()))
+                       .arg(least->year)
+                       .arg(Grouped(least->Built())));
+    article.Bullet(QStringLiteral("One car in %1 was a convertible, though there was none in nine seasons.")
+                       .arg(sum.Built() / sum.convertibles));
+    article.Bullet(QStringLiteral("From %1 to %2 the coupe’s price rose to %3 times what it had been.")
+                       .arg(1967)
+                       .arg(2001)
+                       .arg(double(ModelYearOf(2001).price) / ModelYearOf(1967).price, 0, 'f', 1));
+    return article.Take();
+}
+
+} // namespace torvik::sample

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "rich_document.h"
+
+namespace torvik::sample {
+
+/// The figures of all years side by side.
+RichDocument LibraryStatistics();
+
+} // namespace torvik::sample
