@@ -1,7 +1,9 @@
 """The real program on a virtual screen, used as a person uses it."""
 
 import os
+import signal
 import subprocess
+from contextlib import contextmanager
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -153,6 +155,15 @@ class Program:
     def start_browsing(self):
         """Waits through the splash until the first photo is on show."""
         return self.wait_for_view(title="1967", number="1", focus="68")
+
+    @contextmanager
+    def held(self):
+        """What is on show stays so, however slow the machine is; the program sleeps meanwhile."""
+        self._process.send_signal(signal.SIGSTOP)
+        try:
+            yield
+        finally:
+            self._process.send_signal(signal.SIGCONT)
 
     def kill(self):
         """Ends the program as a power failure would."""

@@ -79,10 +79,17 @@ class Screen:
 
     def colour_at(self, x, y):
         """Red, green and blue, 0 to 255."""
-        place = f"1x1+{round(x)}+{round(y)}"
-        pixel = subprocess.run(["import", "-silent", "-window", "root", "-crop", place, "-depth", "8", "rgb:-"],
-                               env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, check=True).stdout
+        pixel = subprocess.run([*self._picture_of(x, y, 1, 1), "-depth", "8", "rgb:-"], env=self.environment,
+                               stdin=subprocess.DEVNULL, capture_output=True, check=True).stdout
         return tuple(pixel[:3])
+
+    def count_colours(self, left, top, width, height):
+        return int(self._run(*self._picture_of(left, top, width, height), "-format", "%k", "info:-"))
+
+    @staticmethod
+    def _picture_of(left, top, width, height):
+        place = f"{round(width)}x{round(height)}+{round(left)}+{round(top)}"
+        return ["import", "-silent", "-window", "root", "-crop", place, "+repage"]
 
     def save_picture(self, file):
         self._run("import", "-silent", "-window", "root", str(file))
