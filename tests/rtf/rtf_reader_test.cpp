@@ -1,0 +1,98 @@
+#include "documents.h"
+
+#include <QTest>
+#include <QUrl>
+
+using namespace torvik::rtf;
+
+class RtfReaderTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rich_text_is_known_by_its_start()
+    {
+        QVERIFY(LooksLikeRtf("{\\rtf1 x}"));
+        QVERIFY(LooksLikeRtf("\xef\xbb\xbf \r\n{\\rtf}"));
+        QVERIFY(!LooksLikeRtf("{\\rt"));
+        QVERIFY(!LooksLikeRtf("x{\\rtf1}"));
+        QVERIFY(!LooksLikeRtf({}));
+    }
+
+    void other_text_is_shown_as_it_is()
+    {
+        const Reading read = ReadBytes("Caf\xc3\xa9\r\nsecond\tline <b>&amp;");
+        QVERIFY(!read.result.wasRtf);
+        QCOMPARE(read.Text(), QStringLiteral("Café\nsecond\tline <b>&amp;"));
+        QCOMPARE(read.result.paragraphs, 2);
+    }
+
+    void text_that_is_not_unicode_is_western()
+    {
+        QCOMPARE(ReadBytes("Caf\xe9 \x80").Text(), QStringLiteral("Café €"));
+    }
+
+    void text_with_a_byte_order_mark()
+    {
+        QCOMPARE(ReadBytes(QByteArray("\xff\xfe"
+                                      "a\0b\0",
+                                      6))
+                     .Text(),
+                 QStringLiteral("ab"));
+    }
+
+    void an_empty_file_is_told()
+    {
+        const Reading read = ReadBytes({});
+        QVERIFY(read.result.wasEmpty);
+        QVERIFY(!read.result.wasRtf);
+        QVERIFY(!ReadBytes("x").result.wasEmpty);
+    }
+
+    void former_contents_go()
+    {
+        QTextDocument document;
+        ReadRichText(Wrapped("{\\pict\\dibitmap0 00}old\\par"), document);
+        ReadRichText(Wrapped("new\\par"), document);
+        QCOMPARE(document.toPlainText(), QStringLiteral("new"));
+    }
+
+    void plain_text_of_a_document()
+    {
+        QCOMPARE(PlainText(Wrapped("one \\b two\\par three\\par")), QStringLiteral("one two\nthree"));
+    }
+
+    void the_result_tells_what_was_read()
+    {
+        const ReadResult result =
+            ReadBody("a\\par\\trowd\\cellx1000\\intbl c\\cell\\row\\pard b\\par").result;
+        QVERIFY(result.wasRtf);
+        QVERIFY(!result.wasDamaged);
+        QVERIFY(!result.wasCut);
+        QCOMPARE(result.tables, 1);
+        QCOMPARE(result.paragraphs, 3);
+    }
+
+    void a_document_that_ends_early_shows_what_is_there()
+    {
+        const Reading read = ReadBytes("{\\rtf1{\\fonttbl{\\f0 Arial;}}one\\par {\\b two");
+        QVERIFY(read.result.wasDamaged);
+        QCOMPARE(read.Text(), QStringLiteral("one\ntwo"));
+        QCOMPARE(read.Format("two").fontWeight(), int(QFont::Bold));
+    }
+
+    void what_follows_the_document_is_not_of_it()
+    {
+        QCOMPARE(ReadBytes(QByteArray("{\\rtf1 a\\par}\r\n\0 rubbish", 24)).Text(), QStringLiteral("a"));
+    }
+
+    void a_document_never_asks_for_other_files()
+    {
+        const Reading read =
+            ReadBody("{\\field{\\*\\fldinst INCLUDEPICTURE \"/etc/hostname\"}{\\fldrslt x}}\\par");
+        QCOMPARE(read.Text(), QStringLiteral("x"));
+        QVERIFY(read.document->baseUrl().isEmpty());
+    }
+};
+
+QTEST_MAIN(RtfReaderTest)
+#include "rtf_reader_test.moc"
