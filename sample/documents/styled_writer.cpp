@@ -101,7 +101,7 @@ QByteArray StyledWriter::StyleSheet() const
 
 QByteArray StyledWriter::ListTable() const
 {
-    const auto level = [](const char* kind, const char* text) {
+    const auto level = [](const char* kind, const char* text) -> QByteArray {
         return QByteArray("{\\listlevel\\levelnfc") + kind +
                "\\leveljc0\\levelfollow0\\levelstartat1\\levelspace0\\levelindent0" + text;
     };

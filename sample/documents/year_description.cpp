@@ -47,7 +47,7 @@ Paragraph Fact(const Article& article, const char* name, const QString& value)
 Table FactsOf(const Article& article, const ModelYear& year)
 {
     const Measures measures = MeasuresOf(year.year);
-    const auto inches = [](int millimetres) { return QString::number(millimetres / 25.4, 'f', 1) + u'″'; };
+    const auto inches = [](int millimetres) -> QString { return QString::number(millimetres / 25.4, 'f', 1) + u'″'; };
     Table table;
     table.border = Border::Rules;
     table.widths = {3600, 3600};
