@@ -4,7 +4,11 @@
 #include "browser/photo_stepping.h"
 #include "browser/photo_walk.h"
 #include "browser/year_selection.h"
+#include "documents/document_viewer.h"
+#include "documents/library_documents.h"
 #include "documents/library_topics.h"
+#include "documents/year_documents.h"
+#include "documents/year_statistics.h"
 #include "local/play_list_form.h"
 #include "shell/form1_life.h"
 #include "shell/start_up.h"
@@ -21,6 +25,10 @@ void BindHandlers()
     BindPhotoWalk();
     BindFileNames();
     BindLibraryTopics();
+    BindLibraryDocuments();
+    BindYearDocuments();
+    BindYearStatistics();
+    BindDocumentViewer();
     BindPlayListForm();
     BindTaskBarToggle();
 }

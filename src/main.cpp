@@ -5,6 +5,7 @@
 #include "shell/command_line.h"
 #include "shell/form2.h"
 #include "ui/application.h"
+#include "ui/printer.h"
 #include "version.h"
 
 #include <QStringList>
@@ -61,6 +62,7 @@ int main(int argc, char** argv)
         return Complain(line.Problem);
     if (const QString problem = TakeFolders(line); !problem.isEmpty())
         return Complain(problem);
+    Printer.PrintTo(line.PrintFolder);
 
     BindHandlers();
     return application.Run([] { Form2.LoadForm(); });

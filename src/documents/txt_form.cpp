@@ -16,6 +16,11 @@ FormDesign DesignOfViewer()
 
 } // namespace
 
-txtFormControls::txtFormControls() : Form(DesignOfViewer()) {}
+txtFormControls::txtFormControls() : Form(DesignOfViewer())
+{
+    cmdPrint.SetPicture(QStringLiteral(":/assets/button_print.png"), QStringLiteral("Print"));
+    SSCommand2.SetPicture(QStringLiteral(":/assets/button_play.png"), QStringLiteral("Play the narration"));
+    SSCommand3.SetPicture(QStringLiteral(":/assets/button_stop.png"), QStringLiteral("Stop the narration"));
+}
 
 } // namespace torvik

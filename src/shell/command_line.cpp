@@ -45,6 +45,8 @@ void TakeArgument(CommandLine& read, QStringList& rest)
             TakeDrive(read, value);
     } else if (valueOf(QStringLiteral("--program-folder"), value)) {
         read.ProgramFolder = value;
+    } else if (valueOf(QStringLiteral("--print-to"), value)) {
+        read.PrintFolder = value;
     } else if (argument.startsWith(u'-') && argument.size() > 1) {
         read.Problem = QStringLiteral("There is no option %1.").arg(argument);
     } else {
@@ -73,6 +75,7 @@ QString HelpText()
                           "  FOLDER                    a folder that holds a disc; it takes the first free drive letter\n"
                           "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
                           "  --program-folder FOLDER   where copied photos, the start-up sound and the help file are\n"
+                          "  --print-to FOLDER         each print job becomes a file job-1.pdf, job-2.pdf, ... there\n"
                           "  -h, --help                shows this text\n"
                           "  -v, --version             shows the version\n");
 }

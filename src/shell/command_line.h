@@ -12,6 +12,7 @@ namespace torvik {
 struct CommandLine {
     QList<DriveOption> Drives; ///< --drive LETTER=FOLDER, and bare folders without a letter
     QString ProgramFolder;     ///< --program-folder FOLDER; empty when it was not given
+    QString PrintFolder;       ///< --print-to FOLDER; empty when it was not given
     bool Help = false;
     bool Version = false;
     QString Problem; ///< what is wrong with it, in words for the user; empty when nothing is

@@ -1,0 +1,126 @@
+#include "documents/document_viewer.h"
+
+#include "browser/next_year_button.h"
+#include "documents/txt_form.h"
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/text.h"
+#include "printing/rich_text_printing.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "shell/report_error.h"
+#include "ui/message_box.h"
+#include "ui/screen.h"
+
+namespace torvik {
+
+namespace {
+
+const QString boxTitle = QStringLiteral("The Torvik Vollandry");
+
+constexpr int printMargin = 1440; // twips
+
+void txtForm_Load()
+{
+    txtForm->SetTop((Screen.Height() - txtForm->Height()) / 2);
+    txtForm->SetLeft((Screen.Width() - txtForm->Width()) / 2);
+    txtForm->SetCaption(state.DocumentTitle);
+    PutWaveButtonsAway();
+    WidenOkButton();
+}
+
+/// The window goes in the middle of this, so its buttons are set to rights before it does.
+void CloseViewer()
+{
+    txtForm->SSCommand2.SetWidth(353);
+    txtForm->SSCommand2.SetEnabled(true);
+    txtForm->SSCommand3.SetEnabled(true);
+    txtForm.Unload();
+    Form1->SetEnabled(true);
+    FocusNextYearButton();
+}
+
+void cmdPrint_Click()
+{
+    state.MessageText =
+        QStringLiteral("Would you like to print the \r\n\r\n") + txtForm->Caption() + QStringLiteral("?");
+    state.MessageAnswer =
+        QString::number(MsgBox(state.MessageText, msgbox::question | msgbox::yesNo, boxTitle));
+    if (ToNumber(state.MessageAnswer) != msgbox::answerYes)
+        return;
+    PrintRichText(txtForm->rtbText, printMargin, printMargin, printMargin, printMargin);
+    MsgBox(QStringLiteral("Printing complete!"), msgbox::exclamation, boxTitle);
+}
+
+/// The narration of what the main window shows. The second test asks for a document although a folder stands
+/// there, so it never holds.
+QString NarrationFile()
+{
+    QString file = state.DiscRoot + QStringLiteral("\\wav\\");
+    const QString title = Form1->panYear.Caption();
+    if (title == nothingChosen || file == QStringLiteral("intro.rtf"))
+        file += QStringLiteral("intro.wav");
+    else
+        file += title + QStringLiteral(".wav");
+    return file;
+}
+
+void PlayNarration()
+{
+    state.SoundFile = NarrationFile();
+    state.LoopIndex = static_cast<int>(state.SoundFile.size());
+    if (PendingErrorNumber() != 0 || FindFile(Left(state.SoundFile, state.LoopIndex)).isEmpty()) {
+        ReportError();
+        return;
+    }
+    MediaControl& device = Form1->MMControl1;
+    device.Command(QStringLiteral("close"));
+    device.SetDeviceType(QStringLiteral("WaveAudio"));
+    device.SetFileName(state.SoundFile);
+    device.Command(QStringLiteral("open"));
+    device.Command(QStringLiteral("play"));
+}
+
+void SSCommand2_Click()
+{
+    state.ErrorCode = QStringLiteral("ER032");
+    OnError(PlayNarration, ReportError);
+}
+
+} // namespace
+
+void PutWaveButtonsAway()
+{
+    txtForm->SSCommand2.SetEnabled(false);
+    txtForm->SSCommand3.SetEnabled(false);
+    txtForm->SSCommand2.Hide();
+    txtForm->SSCommand3.Hide();
+}
+
+void WidenOkButton()
+{
+    txtForm->SSCommand1.SetWidth(txtForm->rtbText.Width() - txtForm->cmdPrint.Width() - 4);
+}
+
+void OpenViewer()
+{
+    txtForm->rtbText.SetFileName(state.DocumentFile);
+    PutWaveButtonsAway();
+    WidenOkButton();
+    txtForm->ShowModal();
+}
+
+void BindDocumentViewer()
+{
+    txtForm.Bind([](txtFormControls& form) {
+        form.Load = txtForm_Load;
+        form.Activate = [] { txtForm->SSCommand1.SetFocus(); };
+        form.SSCommand1.Click = CloseViewer;
+        form.rtbText.DblClick = CloseViewer;
+        form.cmdPrint.Click = cmdPrint_Click;
+        form.SSCommand2.Click = SSCommand2_Click;
+        form.SSCommand3.Click = [] { Form1->MMControl1.Command(QStringLiteral("close")); };
+    });
+}
+
+} // namespace torvik

@@ -1,0 +1,90 @@
+#include "printing/paged_text.h"
+
+#include "printing/picture_fitting.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QScreen>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <cmath>
+
+namespace torvik {
+
+namespace {
+
+/// A font in pixels is measured for the screen; on paper it would shrink to a speck.
+QFont FontForPaper(QFont font)
+{
+    constexpr double pointsPerPixel = 72.0 / 96.0;
+    if (font.pixelSize() > 0)
+        font.setPointSizeF(font.pixelSize() * pointsPerPixel);
+    return font;
+}
+
+/// The layout brings all lengths from the screen's resolution to the device's, but leaves these three as they
+/// are.
+void ScaleIndents(QTextDocument& text, double scale)
+{
+    QTextCursor cursor(&text);
+    cursor.beginEditBlock();
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        const QTextBlockFormat format = block.blockFormat();
+        QTextBlockFormat scaled;
+        scaled.setLeftMargin(format.leftMargin() * scale);
+        scaled.setRightMargin(format.rightMargin() * scale);
+        scaled.setTextIndent(format.textIndent() * scale);
+        cursor.setPosition(block.position());
+        cursor.mergeBlockFormat(scaled);
+    }
+    cursor.endEditBlock();
+}
+
+double ScreenResolution()
+{
+    constexpr double usual = 96; // pixels to the inch
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? std::round(screen->logicalDotsPerInchY()) : usual;
+}
+
+} // namespace
+
+PagedText::PagedText(const QTextDocument& text, QPaintDevice& device, const QSizeF& page)
+    : text_(text.clone()), page_(page)
+{
+    const double scale = device.logicalDpiY() / ScreenResolution();
+    text_->setUndoRedoEnabled(false);
+    text_->setDefaultFont(FontForPaper(text.defaultFont()));
+    text_->setDocumentMargin(0);
+    ScaleIndents(*text_, scale);
+    text_->documentLayout()->setPaintDevice(&device);
+    text_->setPageSize(page_);
+    FitPicturesToPages(*text_, scale);
+}
+
+PagedText::~PagedText() = default;
+
+int PagedText::PageCount() const
+{
+    return std::max(1, text_->pageCount());
+}
+
+void PagedText::PaintPage(int number, QPainter& painter, const QPointF& corner) const
+{
+    const double top = (number - 1) * page_.height();
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.clip = QRectF(QPointF(0, top), page_);
+    context.palette.setColor(QPalette::Text, Qt::black);
+    painter.save();
+    painter.translate(corner.x(), corner.y() - top);
+    painter.setClipRect(context.clip);
+    text_->documentLayout()->draw(&painter, context);
+    painter.restore();
+}
+
+} // namespace torvik

@@ -1,0 +1,120 @@
+#include "printing/picture_fitting.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QImage>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <QUrl>
+#include <QVariant>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace torvik {
+
+namespace {
+
+/// A picture and the line that it stands on, in the pixels of the layout.
+struct PlacedPicture {
+    int Position = 0; ///< of its character in the document
+    QTextImageFormat Format;
+    QSizeF Size;
+    QRectF Line;
+    double Ascent = 0; ///< of the line
+};
+
+QSizeF SizeOf(const QTextImageFormat& format, const QTextDocument& document)
+{
+    const QSizeF size(format.width(), format.height());
+    if (size.width() > 0 && size.height() > 0)
+        return size;
+    const QVariant resource = document.resource(QTextDocument::ImageResource, QUrl(format.name()));
+    return resource.value<QImage>().size();
+}
+
+void AddPictures(const QTextBlock& block, double scale, std::vector<PlacedPicture>& pictures)
+{
+    const QTextDocument& document = *block.document();
+    const QPointF corner = document.documentLayout()->blockBoundingRect(block).topLeft();
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+        const QTextFragment fragment = part.fragment();
+        const QTextImageFormat format = fragment.charFormat().toImageFormat();
+        if (!format.isValid())
+            continue;
+        // Equal pictures in a row are one fragment of several characters.
+        for (int position = fragment.position(); position < fragment.position() + fragment.length();
+             ++position) {
+            const QTextLine line = block.layout()->lineForTextPosition(position - block.position());
+            if (line.isValid())
+                pictures.push_back({position, format, SizeOf(format, document) * scale,
+                                    line.rect().translated(corner), line.ascent()});
+        }
+    }
+}
+
+std::vector<PlacedPicture> PicturesOf(const QTextDocument& document, double scale)
+{
+    std::vector<PlacedPicture> pictures;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        AddPictures(block, scale, pictures);
+    return pictures;
+}
+
+/// By how much a picture must shrink; 1 where it stands well.
+double ShrinkingOf(const PlacedPicture& picture, const QSizeF& page)
+{
+    constexpr double rounding = 1;   // pixels
+    constexpr double oneStep = 0.97; // where only a new layout can tell whether it is enough
+    if (picture.Size.isEmpty())
+        return 1;
+
+    double factor = 1;
+    const double widthRoom = page.width() - picture.Line.left();
+    if (picture.Size.width() > widthRoom + rounding && widthRoom > rounding)
+        factor = widthRoom / picture.Size.width();
+
+    // Only the tallest of a line's pictures can make it too tall.
+    if (picture.Size.height() < picture.Ascent - rounding)
+        return factor;
+    const double beside = picture.Line.height() - picture.Size.height();
+    const double heightRoom = page.height() - beside;
+    if (picture.Line.height() > page.height() + rounding && heightRoom > rounding)
+        return std::min(factor, heightRoom / picture.Size.height());
+    const bool cut = std::floor(picture.Line.top() / page.height()) !=
+                     std::floor((picture.Line.bottom() - rounding) / page.height());
+    return cut ? std::min(factor, oneStep) : factor;
+}
+
+void Shrink(QTextDocument& document, const PlacedPicture& picture, double factor, double scale)
+{
+    QTextImageFormat format = picture.Format;
+    format.setWidth(picture.Size.width() * factor / scale);
+    format.setHeight(picture.Size.height() * factor / scale);
+    QTextCursor cursor(&document);
+    cursor.setPosition(picture.Position);
+    cursor.setPosition(picture.Position + 1, QTextCursor::KeepAnchor);
+    cursor.setCharFormat(format);
+}
+
+} // namespace
+
+void FitPicturesToPages(QTextDocument& document, double scale)
+{
+    constexpr int mostRounds = 30; // 0.97 to this power is less than a half: nothing needs more
+    bool changed = true;
+    for (int round = 0; changed && round < mostRounds; ++round) {
+        changed = false;
+        for (const PlacedPicture& picture : PicturesOf(document, scale)) {
+            const double factor = ShrinkingOf(picture, document.pageSize());
+            if (factor >= 1)
+                continue;
+            Shrink(document, picture, factor, scale);
+            changed = true;
+        }
+    }
+}
+
+} // namespace torvik

@@ -1,0 +1,231 @@
+#include "documents/txt_form.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "support/program.h"
+#include "support/viewer_visit.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+/// The statistics behind cmdStats: an article in the viewer, or a note of the photo over the photo.
+class YearStatisticsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        for (const QString& prefix : {QStringLiteral("67"), QStringLiteral("69"), QStringLiteral("A1")})
+            program_->Disc.AddGroup(prefix, 2);
+        program_->StartBrowsing();
+        program_->Click(Form1->cmdYR(3));
+    }
+    void cleanup() { program_.reset(); }
+
+    void a_topic_with_notes_shows_the_note_of_the_photo_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<int>("photo");
+        QTest::addColumn<QString>("file");
+        const auto row = [](const char* title, int photo, const char* file) {
+            QTest::addRow("%s%d", title, photo)
+                << QString::fromLatin1(title) << photo << QString::fromLatin1(file);
+        };
+        row("Early Torvik Prototypes ", 1, "pt002.rtf");
+        row("Early Torvik Prototypes ", 5, "pt010.rtf");
+        row("Torvik Kestra I ", 4, "m1008.rtf");
+        row("Torvik Kestra I ", 5, "m1010.rtf");
+        row("Arlen Mercer Art Print ", 4, "glsj08.rtf");
+        row("Arlen Mercer Art Print ", 5, "glsj010.rtf");
+        row("Torvik Cookies ", 4, "usa008.rtf");
+        row("Torvik Cookies ", 5, "usa0010.rtf");
+        row("The Torvik Monopoly Game ", 4, "vck008.rtf");
+        row("The Torvik Monopoly Game ", 5, "vck0010.rtf");
+        row("Torvik Metal Signs ", 4, "vms08.rtf");
+        row("Torvik Metal Signs ", 5, "vms010.rtf");
+        row("Torvik Postage Stamps ", 4, "zz008.rtf");
+        row("Torvik Postage Stamps ", 5, "zz010.rtf");
+        row("Franklin Mint Collector Knives ", 4, "tek008.rtf");
+        row("Franklin Mint Collector Knives ", 5, "tek010.rtf");
+        row("Franklin Mint Die Cast Models ", 4, "tfm008.rtf");
+        row("Franklin Mint Die Cast Models ", 5, "tfm010.rtf");
+        row("Danbury Mint Die Cast Models ", 4, "tdm008.rtf");
+        row("Danbury Mint Die Cast Models ", 12, "tdm024.rtf");
+    }
+    void a_topic_with_notes_shows_the_note_of_the_photo()
+    {
+        QFETCH(QString, title);
+        QFETCH(int, photo);
+        QFETCH(QString, file);
+        program_->Disc.AddDocument(file, QStringLiteral("Note ") + file);
+        const Viewed viewed = ClickStats(title, photo);
+        QVERIFY(!viewed.Came);
+        QVERIFY2(program_->Messages.Shown().isEmpty(), qPrintable(program_->Messages.Last().Text));
+        QVERIFY(Form1->rtbDetails.Visible());
+        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\richtext\\") + file);
+        QCOMPARE(Form1->rtbDetails.FileName(), state.DocumentFile);
+        QCOMPARE(Form1->rtbDetails.Text(), QStringLiteral("Note ") + file);
+        QVERIFY(!txtForm.IsLoaded());
+        CheckNotePlace();
+    }
+
+    void all_else_opens_an_article_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("window");
+        const auto row = [](const char* title, const char* file, const char* window) {
+            QTest::newRow(title) << QString::fromLatin1(title) << QString::fromLatin1(file)
+                                 << QString::fromLatin1(window);
+        };
+        row("1969", "69stats.rtf", "The Torvik Vollandry       1969 Statistics");
+        row("2000", "a0stats.rtf", "The Torvik Vollandry     2000 Statistics");
+        row("2001", "a1stats.rtf", "The Torvik Vollandry     2001 Statistics");
+        row("The Classic Harwell ", "sbstats.rtf",
+            "The Torvik Vollandry       The Classic Harwell  Specifications");
+        row("Torvik Kestra III ", "m3stats.rtf",
+            "The Torvik Vollandry       Torvik Kestra III  Specifications");
+        row("Torvik Super Stallion ", "msstats.rtf",
+            "The Torvik Vollandry       Torvik Super Stallion  Specifications");
+    }
+    void all_else_opens_an_article()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, file);
+        QFETCH(QString, window);
+        program_->Disc.AddDocument(file, QStringLiteral("Article ") + file);
+        const Viewed viewed = ClickStats(title);
+        QVERIFY2(viewed.Came, qPrintable(program_->Messages.Last().Text));
+        QCOMPARE(viewed.Caption, window);
+        QCOMPARE(state.DocumentTitle, window);
+        QCOMPARE(viewed.File, QStringLiteral("G:\\richtext\\") + file);
+        QCOMPARE(viewed.Text, QStringLiteral("Article ") + file);
+        QVERIFY(!Form1->rtbDetails.Visible());
+        CheckNotePlace();
+    }
+
+    void the_first_Kestra_has_notes_and_so_never_its_article()
+    {
+        program_->Disc.AddDocument(QStringLiteral("m1stats.rtf"), QStringLiteral("Article"));
+        program_->Disc.AddDocument(QStringLiteral("m1002.rtf"), QStringLiteral("Note"));
+        QVERIFY(!ClickStats(QStringLiteral("Torvik Kestra I ")).Came);
+        QCOMPARE(Form1->rtbDetails.Text(), QStringLiteral("Note"));
+    }
+
+    void with_nothing_chosen_nothing_happens()
+    {
+        state.ErrorCode = QStringLiteral("ER999");
+        Form1->cmdStats.SetFocus();
+        QVERIFY(!ClickStats(QStringLiteral("panYear")).Came);
+        QCOMPARE(state.ErrorCode, QStringLiteral("ER999"));
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdStats"));
+        QVERIFY(program_->Messages.Shown().isEmpty());
+        QCOMPARE(Form1->rtbDetails.Height(), 65.0);
+    }
+
+    void a_second_click_hides_the_note_and_moves_the_focus_once_more()
+    {
+        program_->Disc.AddDocument(QStringLiteral("vms02.rtf"), QStringLiteral("Note"));
+        ClickStats(QStringLiteral("Torvik Metal Signs "));
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        QVERIFY(Form1->rtbDetails.Visible());
+        Form1->cmdStats.SetFocus();
+        ClickStats(QStringLiteral("Torvik Metal Signs "));
+        QVERIFY(!Form1->rtbDetails.Visible());
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+    }
+
+    void a_visible_note_is_only_hidden_although_a_year_is_on_show()
+    {
+        program_->Disc.AddDocument(QStringLiteral("69stats.rtf"), QStringLiteral("Article"));
+        Form1->rtbDetails.Show();
+        QVERIFY(!ClickStats(QStringLiteral("1969")).Came);
+        QVERIFY(!Form1->rtbDetails.Visible());
+    }
+
+    void a_click_on_the_note_hides_it_and_moves_the_focus()
+    {
+        program_->Disc.AddDocument(QStringLiteral("vms02.rtf"), QStringLiteral("Note"));
+        ClickStats(QStringLiteral("Torvik Metal Signs "));
+        Form1->cmdStats.SetFocus();
+        QTest::mouseClick(
+            Form1->rtbDetails.Widget().findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport")),
+            Qt::LeftButton);
+        program_->Settle();
+        QVERIFY(!Form1->rtbDetails.Visible());
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+    }
+
+    void the_note_comes_in_front_of_the_photo()
+    {
+        program_->Disc.AddDocument(QStringLiteral("vms02.rtf"), QStringLiteral("Note"));
+        Form1->Image4.ZOrder();
+        ClickStats(QStringLiteral("Torvik Metal Signs "));
+        const QWidget& note = Form1->rtbDetails.Widget();
+        QWidget* const window = &Form1->Host();
+        const QWidget* atItsCentre = window->childAt(note.geometry().center());
+        QVERIFY(atItsCentre == &note || note.isAncestorOf(atItsCentre));
+    }
+
+    void a_missing_note_is_reported_and_stays_hidden_in_its_new_place()
+    {
+        Form1->cmdStats.SetFocus();
+        QVERIFY(!ClickStats(QStringLiteral("Torvik Metal Signs ")).Came);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(
+            QStringLiteral("Error number: ER027\r\n\r\n Unable to load the text file.")));
+        QVERIFY(!Form1->rtbDetails.Visible());
+        CheckNotePlace();
+        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\richtext\\vms02.rtf"));
+    }
+
+    void a_missing_article_is_reported()
+    {
+        QVERIFY(!ClickStats(QStringLiteral("1969")).Came);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER027\r")));
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        QVERIFY(!txtForm.IsLoaded());
+    }
+
+    void a_disc_that_is_gone_is_reported()
+    {
+        program_->PutDiscIn(QChar());
+        QVERIFY(!ClickStats(QStringLiteral("1969")).Came);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(state.ErrorCode, QStringLiteral("ER027"));
+    }
+
+    void a_focus_that_cannot_move_is_reported_before_anything_is_shown()
+    {
+        program_->Disc.AddDocument(QStringLiteral("69stats.rtf"), QStringLiteral("Article"));
+        Form1->cmdYR(4).SetEnabled(false);
+        QVERIFY(!ClickStats(QStringLiteral("1969")).Came);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER027\r")));
+        QCOMPARE(Form1->rtbDetails.Height(), 65.0);
+    }
+
+private:
+    Viewed ClickStats(const QString& title, int photo = 1)
+    {
+        Form1->panYear.SetCaption(title);
+        Form1->panPhoto.SetCaption(photo);
+        return ViewerOf(*program_, [&] { program_->Click(Form1->cmdStats); });
+    }
+
+    static void CheckNotePlace()
+    {
+        const Form1Controls& form = *Form1;
+        QCOMPARE(form.rtbDetails.Width(), 329.0);
+        QCOMPARE(form.rtbDetails.Height(), 106.0);
+        QCOMPARE(form.rtbDetails.Left(), form.cmdAd.Left() + form.cmdAd.Width() - 329 - 10);
+        QCOMPARE(form.rtbDetails.Top(), form.Image4.Top() + 9);
+    }
+
+    std::unique_ptr<Program> program_;
+};
+
+QTEST_MAIN(YearStatisticsTest)
+#include "year_statistics_test.moc"

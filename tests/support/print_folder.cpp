@@ -1,0 +1,72 @@
+#include "support/print_folder.h"
+
+#include "ui/printer.h"
+
+#include <QDir>
+#include <QProcess>
+
+namespace torvik {
+
+namespace {
+
+QByteArray OutputOf(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        qFatal("%s does not read the printed file", qPrintable(program));
+    return process.readAllStandardOutput();
+}
+
+} // namespace
+
+PrintFolder::PrintFolder()
+{
+    Printer.PrintTo(folder_.path());
+}
+
+PrintFolder::~PrintFolder()
+{
+    Printer.EndDoc();
+    Printer.PrintTo({});
+}
+
+QStringList PrintFolder::Files() const
+{
+    return QDir(folder_.path()).entryList(QDir::Files, QDir::Name);
+}
+
+QString PrintFolder::FileOf(int job) const
+{
+    return folder_.filePath(QStringLiteral("job-%1.pdf").arg(job));
+}
+
+QStringList PrintFolder::Pages(int job) const
+{
+    QStringList pages =
+        QString::fromUtf8(OutputOf(QStringLiteral("pdftotext"),
+                                   {QStringLiteral("-layout"), FileOf(job), QStringLiteral("-")}))
+            .split(u'\f');
+    pages.removeLast(); // each page ends with a form feed
+    return pages;
+}
+
+QImage PrintFolder::Image(int job, int page) const
+{
+    const QString number = QString::number(page);
+    return QImage::fromData(OutputOf(QStringLiteral("pdftoppm"),
+                                     {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-f"),
+                                      number, QStringLiteral("-l"), number, FileOf(job)}));
+}
+
+QSizeF PrintFolder::Paper(int job) const
+{
+    return QSizeF(Image(job, 1).size()) * twipsPerPixel;
+}
+
+QRectF InkOf(const QImage& image)
+{
+    return InkOf(image, [](const QColor& colour) { return colour != QColor(Qt::white); });
+}
+
+} // namespace torvik

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "documents/txt_form.h"
+#include "support/modal_visit.h"
+#include "support/program.h"
+
+namespace torvik {
+
+/// What the document viewer shows while it is open.
+struct Viewed {
+    bool Came = false;
+    QString Caption;
+    QString File;
+    QString Text;
+};
+
+/// Does something that opens the document viewer, keeps what it shows and closes it with OK. `Came` stays
+/// false when no viewer came up.
+template <typename Opening>
+Viewed ViewerOf(Program& program, Opening&& opening)
+{
+    Viewed viewed;
+    const ModalVisit visit(
+        [&] {
+            program.Settle();
+            viewed = {true, txtForm->Caption(), txtForm->rtbText.FileName(), txtForm->rtbText.Text()};
+            program.Click(txtForm->SSCommand1);
+        },
+        [] { txtForm.Unload(); });
+    opening();
+    program.Settle();
+    return viewed;
+}
+
+} // namespace torvik
