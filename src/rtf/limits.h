@@ -12,8 +12,8 @@ inline constexpr int MaxGroupDepth = 1000;
 inline constexpr int MaxTableNesting = 6;
 /// Columns of the grid of one table.
 inline constexpr int MaxTableColumns = 64;
-/// Cell ends in one row.
-inline constexpr int MaxRowCells = 256;
+/// Cell ends and cell definitions in one row.
+inline constexpr int MaxRowCells = MaxTableColumns;
 /// A longer table continues as a second one directly below, so that the cost of a table stays linear.
 inline constexpr int MaxTableCells = 4096;
 /// Distinct character formats and distinct paragraph formats of one document.

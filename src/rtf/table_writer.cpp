@@ -82,7 +82,9 @@ QTextTableCellFormat CellFormat(const GridCell& cell, const RowStyle& row, const
 
 int WriteTable(WritingContext& context, const QTextCursor& where, const Table& table)
 {
-    if (table.rows.empty())
+    // The grid is work too, so it is not made in vain.
+    const qint64 least = TableCost + CellCost * static_cast<qint64>(table.rows.size());
+    if (table.rows.empty() || context.budget.Left() < least)
         return -1;
     const TableGrid grid = MakeGrid(table);
     const auto columns = static_cast<int>(grid.columnWidths.size());
