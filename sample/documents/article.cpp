@@ -182,6 +182,24 @@ void Article::Rule()
     Add(paragraph);
 }
 
+void Article::AddTable(const Table& table)
+{
+    // The spaces of paragraphs do not reach a table, so a short empty line stands for them.
+    const auto* before =
+        document_.blocks.empty() ? nullptr : std::get_if<Paragraph>(&document_.blocks.back());
+    if (!before || before->heading == 0)
+        AddRoom();
+    Add(table);
+    AddRoom();
+}
+
+void Article::AddRoom()
+{
+    Paragraph room = Plain({});
+    room.runs.front().look.halfPoints = 10;
+    Add(room);
+}
+
 void Article::Add(Block block)
 {
     document_.blocks.push_back(std::move(block));

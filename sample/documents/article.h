@@ -32,6 +32,8 @@ public:
     /// A line whose parts stand at tab stops.
     void Tabbed(const QString& text, const std::vector<TabStop>& tabs);
     void Rule();
+    /// The table with a little room above and below.
+    void AddTable(const Table& table);
     void Add(Block block);
 
     /// The text in the style of the article, without space around it.
@@ -47,6 +49,7 @@ public:
 
 private:
     Paragraph Body(const QString& text) const;
+    void AddRoom();
 
     RichDocument document_;
     ArticleStyle style_;

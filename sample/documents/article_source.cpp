@@ -38,10 +38,17 @@ private:
         for (const char* kind : kKinds) {
             const QString sign = QString::fromLatin1(kind);
             if (line.startsWith(sign)) {
+                const QString begun = line.mid(sign.size()).trimmed();
+                if (sign == u"> " && kind_ == u">" && !SentenceEnds()) {
+                    text_ += u' ' + begun;
+                    return;
+                }
                 FinishText();
                 kind_ = sign.trimmed();
-                text_ = line.mid(sign.size()).trimmed();
-                if (kind_ == u"@" || kind_.startsWith(u'|') || kind_ == u":")
+                text_ = begun;
+                const bool endsWithTheLine =
+                    kind_ == u"@" || kind_ == u":" || kind_[0] == u'|' || kind_[0] == u'=';
+                if (endsWithTheLine)
                     FinishText();
                 return;
             }
@@ -50,6 +57,8 @@ private:
             text_ += u' ';
         text_ += line.trimmed();
     }
+
+    bool SentenceEnds() const { return text_.isEmpty() || QStringLiteral(".?!”").contains(text_.back()); }
 
     void FinishText()
     {
@@ -115,11 +124,8 @@ private:
     {
         if (table_.rows.empty())
             return;
-        article_.Add(table_);
+        article_.AddTable(table_);
         table_.rows.clear();
-        Paragraph space = article_.Plain({});
-        space.after = 60;
-        article_.Add(space);
     }
 
     static int Twips(const QString& word)

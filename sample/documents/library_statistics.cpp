@@ -55,12 +55,13 @@ RichDocument LibraryStatistics()
     style.body = Typeface::Sans;
     style.bodySize = 20;
     style.accent = QColor(31, 63, 119);
-    Article article(QStringLiteral("Torvik statistics"), Dialect::Late, 2001, style);
+    Article article(QStringLiteral("Torvik statistics"), Dialect::Styled, 1998, style);
     article.Title(QStringLiteral("All years in figures"));
     article.Text(QStringLiteral(
         "Cars built by season and body, the price of the simplest coupe, and the power of the strongest "
         "engine on the order sheet. The ground changes its shade with the generation of the body."));
     Table table;
+    table.border = Border::Rules;
     table.widths = {850, 1150, 1150, 1250, 1250, 950, 700};
     table.rows.push_back(
         HeadOf(article, {QStringLiteral("Season"), QStringLiteral("Coupe"), QStringLiteral("Fastback"),
@@ -85,7 +86,7 @@ RichDocument LibraryStatistics()
     table.rows.push_back(
         HeadOf(article, {QStringLiteral("All"), Grouped(sum.coupes), Grouped(sum.fastbacks),
                          Grouped(sum.convertibles), Grouped(sum.Built()), QString(), QString()}));
-    article.Add(table);
+    article.AddTable(table);
     article.Heading(QStringLiteral("High and low"));
     article.Bullet(QStringLiteral("The best season was *%1* with %2 cars, the weakest *%3* with %4.")
                        .arg(best->year)

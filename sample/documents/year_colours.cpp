@@ -59,7 +59,7 @@ void AddCard(Article& article, const std::vector<CardColour>& card, int year)
                      article.CellOf(QStringLiteral("%1 %").arg(colour.share, 0, 'f', 1), Align::Right)};
         table.rows.push_back(row);
     }
-    article.Add(table);
+    article.AddTable(table);
 }
 
 void AddTrims(Article& article, int year)
@@ -79,7 +79,7 @@ void AddTrims(Article& article, int year)
                      article.CellOf(QString::fromUtf8(trim.cloth))};
         table.rows.push_back(row);
     }
-    article.Add(table);
+    article.AddTable(table);
 }
 
 } // namespace

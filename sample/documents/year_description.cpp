@@ -47,7 +47,9 @@ Paragraph Fact(const Article& article, const char* name, const QString& value)
 Table FactsOf(const Article& article, const ModelYear& year)
 {
     const Measures measures = MeasuresOf(year.year);
-    const auto inches = [](int millimetres) -> QString { return QString::number(millimetres / 25.4, 'f', 1) + u'″'; };
+    const auto inches = [](int millimetres) -> QString {
+        return QString::number(millimetres / 25.4, 'f', 1) + u'″';
+    };
     Table table;
     table.border = Border::Rules;
     table.widths = {3600, 3600};
@@ -111,7 +113,7 @@ RichDocument YearDescription(int year)
     article.Aligned(u'_' + text.title + u'_', Align::Centre);
     article.Add(CarDrawing(year, 5300));
     AddSource(article, text.body);
-    article.Add(FactsOf(article, figures));
+    article.AddTable(FactsOf(article, figures));
     article.Heading(shape.title);
     AddSource(article, shape.body);
     article.Heading(QStringLiteral("How many, and for how much"));

@@ -28,13 +28,7 @@ public:
         for (Cell& cell : table_.rows.back().cells)
             cell.shade = QColor(217, 217, 217);
     }
-    void Finish()
-    {
-        article_.Add(table_);
-        Paragraph space = article_.Plain({});
-        space.after = 40;
-        article_.Add(space);
-    }
+    void Finish() { article_.AddTable(table_); }
 
 private:
     void AddRow(const QStringList& parts, bool heading)
