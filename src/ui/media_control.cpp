@@ -34,9 +34,12 @@ void MediaControl::Command(const QString& word)
 void MediaControl::Open()
 {
     Close();
+    QString hostPath;
+    if (ResumeNext([&] { hostPath = HostPath(fileName_); }) != 0)
+        hostPath.clear(); // a drive that is not there is a device without a medium
     player_ = std::make_unique<QMediaPlayer>();
     connect(player_.get(), &QMediaPlayer::errorOccurred, this, [player = player_.get()] { player->stop(); });
-    player_->setSource(QUrl::fromLocalFile(HostPath(fileName_)));
+    player_->setSource(hostPath.isEmpty() ? QUrl() : QUrl::fromLocalFile(hostPath));
 }
 
 /// Without a device a sound would be "playing" for ever, so it is not begun.

@@ -11,7 +11,7 @@ class QMediaPlayer;
 namespace torvik {
 
 /// A media device that is driven by commands. It plays without being waited for; without an audio device, or
-/// with a file that is damaged or of another kind, it stays silent.
+/// with a file that is missing, damaged or of another kind, or on a drive that is not there, it stays silent.
 class MediaControl : public QObject {
 public:
     explicit MediaControl(const QString& name);

@@ -27,7 +27,8 @@ inline constexpr int answerNo = 7;
 
 /// Shows a modal box and returns the number of the answer. `style` is the sum of buttons, icon and modality;
 /// without a title of its own the box bears the application title. The text is shown as it stands, blanks and
-/// line ends included.
+/// line ends included. The first button is the default one; Escape and the close box answer Cancel, or No, or
+/// what the only button answers.
 int MsgBox(const QString& text, int style = msgbox::ok, const QString& title = {});
 
 /// A box that was asked for.

@@ -17,7 +17,7 @@ public:
     int LargeChange() const;
     /// A value outside 0 to Max is failure 380.
     void SetValue(Integer value);
-    /// A Max of zero or below leaves nothing to scroll.
+    /// A Max of zero or below leaves nothing to scroll. A value above it comes down to it.
     void SetMax(Integer max);
     /// The step of a click beside the thumb, 1 to 32767; anything else is failure 380.
     void SetLargeChange(Integer step);

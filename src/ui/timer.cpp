@@ -102,7 +102,7 @@ void Clock::Turn(int milliseconds)
 {
     const QDateTime end = StoppedAt().value().addMSecs(milliseconds);
     const auto runs = [](const Timer* timer) { return timer->interval_ > 0 && !timer->form_.Retired(); };
-    for (;;) {
+    while (IsStopped()) {
         Timer* next = nullptr;
         for (Timer* timer : AllTimers()) {
             if (runs(timer) && (next == nullptr || timer->dueAt_ < next->dueAt_))
@@ -114,7 +114,8 @@ void Clock::Turn(int milliseconds)
         next->dueAt_ += next->interval_;
         next->Due();
     }
-    StoppedAt() = end;
+    if (IsStopped() && Now() < end) // unless a tick turned it itself
+        StoppedAt() = end;
 }
 
 } // namespace torvik
