@@ -1,0 +1,117 @@
+#include "ui/application.h"
+#include "ui/button.h"
+#include "ui_room.h"
+
+#include <QImageReader>
+#include <QStyle>
+
+using namespace torvik;
+
+namespace {
+
+struct MainForm : Form {
+    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
+    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}};
+};
+
+FormHandle<MainForm> Main;
+
+} // namespace
+
+/// The application object: the start, the event loop, the end.
+class ApplicationTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        ForgetProgramEnd();
+        application_ = std::make_unique<Application>(argc_, argv_);
+    }
+    void cleanup() { application_.reset(); }
+
+    void it_bears_the_programs_name_and_look()
+    {
+        QCOMPARE(QApplication::applicationName(), QStringLiteral("torvik2001"));
+        // A display name of its own would be appended to every title.
+        QCOMPARE(QApplication::applicationDisplayName(), QApplication::applicationName());
+        QCOMPARE(QApplication::palette().color(QPalette::Window), look::face);
+        QVERIFY(QImageReader::allocationLimit() >= 1145); // MiB of 300 million pixels
+    }
+
+    void closing_windows_does_not_end_the_program() { QVERIFY(!QApplication::quitOnLastWindowClosed()); }
+
+    void run_begins_with_the_start_and_ends_with_the_program()
+    {
+        QStringList order;
+        const int code = application_->Run([&] {
+            Main->Show();
+            order.append(QStringLiteral("start"));
+            UiRoom::Soon([&] {
+                order.append(QStringLiteral("event"));
+                RunHandler([] { EndProgram(); });
+            });
+        });
+        QCOMPARE(code, 0);
+        QCOMPARE(order, (QStringList{QStringLiteral("start"), QStringLiteral("event")}));
+    }
+
+    void a_start_that_ends_the_program_runs_nothing_else()
+    {
+        bool event = false;
+        UiRoom::Soon([&] { RunHandler([&] { event = true; }); });
+        QCOMPARE(application_->Run([] { EndProgram(); }), 0);
+        QVERIFY(!event);
+    }
+
+    void the_end_takes_loaded_forms_along()
+    {
+        Main->Show();
+        Main->Unload = [] { QFAIL("a form is asked at the end"); };
+        application_.reset();
+        QVERIFY(!Main.IsLoaded());
+    }
+
+    void do_events_lets_what_is_pending_happen_and_returns()
+    {
+        int happened = 0;
+        UiRoom::Soon([&] { ++happened; });
+        DoEvents();
+        QCOMPARE(happened, 1);
+        DoEvents();
+        QCOMPARE(happened, 1);
+    }
+
+    void wait_for_events_returns_when_nothing_comes()
+    {
+        int happened = 0;
+        UiRoom::Soon([&] { ++happened; });
+        while (happened == 0)
+            WaitForEvents();
+        WaitForEvents();
+        QCOMPARE(happened, 1);
+    }
+
+    void a_program_can_begin_again()
+    {
+        application_->Run([] { EndProgram(); });
+        application_.reset();
+        ForgetProgramEnd();
+        application_ = std::make_unique<Application>(argc_, argv_);
+        bool started = false;
+        application_->Run([&] {
+            started = true;
+            EndProgram();
+        });
+        QVERIFY(started);
+    }
+
+private:
+    int argc_ = 1;
+    char name_[11] = "torvik2001";
+    char* argv_[2] = {name_, nullptr};
+    std::unique_ptr<Application> application_;
+};
+
+QTEST_APPLESS_MAIN(ApplicationTest)
+#include "application_test.moc"

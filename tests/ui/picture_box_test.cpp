@@ -1,0 +1,104 @@
+#include "picture_bytes.h"
+#include "ui/picture_box.h"
+#include "ui_room.h"
+
+using namespace torvik;
+
+namespace {
+
+struct MainForm : Form {
+    MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels)) {}
+    PictureBox picParent{*this, QStringLiteral("picParent"), {0, 0, 3000, 1500}};
+    PictureBox picChild{picParent, QStringLiteral("picChild"), {0, 0, 1500, 750}};
+};
+
+FormHandle<MainForm> Main;
+
+} // namespace
+
+/// A pane that takes the size of its picture.
+class PictureBoxTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        room_ = std::make_unique<UiRoom>();
+        QVERIFY(UiRoom::Open(*Main));
+    }
+    void cleanup() { room_.reset(); }
+
+    void it_takes_the_size_of_the_picture_a_pixel_for_a_pixel()
+    {
+        Main->picParent.Load(folder_.Add(QStringLiteral("a.jpg"), Encoded(FourCorners({120, 80}), "jpg")));
+        QCOMPARE(Main->picParent.Width(), 120.0);
+        QCOMPARE(Main->picParent.Height(), 80.0);
+        QCOMPARE(Main->picParent.Left(), 0.0);
+        const QImage shown = Main->picParent.Widget().grab().toImage();
+        QCOMPARE(shown.size(), QSize(120, 80));
+        QVERIFY(Alike(shown.pixelColor(100, 70), Qt::white));
+    }
+
+    void inside_another_pane_its_size_is_in_twips()
+    {
+        Main->picChild.Load(folder_.Add(QStringLiteral("a.bmp"), Encoded(FourCorners({300, 200}), "bmp")));
+        QCOMPARE(Main->picChild.Width(), 4500.0);
+        QCOMPARE(Main->picChild.Height(), 3000.0);
+        QCOMPARE(Main->picChild.Widget().size(), QSize(300, 200));
+    }
+
+    void the_outer_pane_clips_the_inner_one()
+    {
+        Main->picChild.Load(folder_.Add(QStringLiteral("a.bmp"), Encoded(FourCorners({600, 400}), "bmp")));
+        Main->picChild.SetLeft(-350 * 15.0);
+        const QImage shown = Main->Host().grab().toImage();
+        QVERIFY(Alike(shown.pixelColor(100, 50), Qt::green));
+        QVERIFY(Alike(shown.pixelColor(205, 50), look::face));
+    }
+
+    void picture_and_size_stay_when_the_next_one_fails()
+    {
+        Main->picParent.Load(folder_.Add(QStringLiteral("a.jpg"), Encoded(FourCorners({120, 80}), "jpg")));
+        const QImage before = Main->picParent.Widget().grab().toImage();
+        const QString fake = folder_.Add(QStringLiteral("fake.jpg"), "text");
+        QCOMPARE(ResumeNext([&] { Main->picParent.Load(fake); }), 481);
+        QCOMPARE(ResumeNext([&] { Main->picParent.Load(folder_.PathOf(QStringLiteral("none.jpg"))); }), 53);
+        QCOMPARE(Main->picParent.Widget().grab().toImage(), before);
+        QCOMPARE(Main->picParent.Picture().FileName(), QStringLiteral("a.jpg"));
+    }
+
+    void clearing_takes_the_picture_away_and_leaves_the_size()
+    {
+        Main->picParent.Load(folder_.Add(QStringLiteral("a.jpg"), Encoded(FourCorners({120, 80}), "jpg")));
+        Main->picParent.Clear();
+        QVERIFY(Main->picParent.Picture().IsEmpty());
+        QCOMPARE(Main->picParent.Width(), 120.0);
+        QCOMPARE(Main->picParent.Widget().accessibleName(), QStringLiteral("picParent"));
+    }
+
+    void it_says_the_file_name()
+    {
+        Main->picParent.Load(folder_.Add(QStringLiteral("97clip.jpg"), Encoded(FourCorners({12, 8}), "jpg")));
+        QCOMPARE(Main->picParent.Widget().accessibleName(), QStringLiteral("97clip.jpg"));
+    }
+
+    void a_press_on_the_inner_pane_is_nothing_to_the_outer_one()
+    {
+        int outer = 0;
+        QList<int> inner;
+        Main->picParent.MouseDown = [&](int) { ++outer; };
+        Main->picParent.Click = [&] { ++outer; };
+        Main->picChild.MouseDown = [&](int button) { inner.append(button); };
+        QTest::mouseClick(&Main->picChild.Widget(), Qt::RightButton);
+        QTest::mouseClick(&Main->picChild.Widget(), Qt::LeftButton);
+        QCOMPARE(outer, 0);
+        QCOMPARE(inner, (QList<int>{mouse::right, mouse::left}));
+    }
+
+private:
+    std::unique_ptr<UiRoom> room_;
+    PictureFolder folder_;
+};
+
+QTEST_MAIN(PictureBoxTest)
+#include "picture_box_test.moc"

@@ -1,0 +1,118 @@
+#include "ui/button.h"
+#include "ui/picture_box.h"
+#include "ui/screen.h"
+#include "ui/text_box.h"
+#include "ui_room.h"
+
+#include <QLineEdit>
+#include <QScreen>
+
+using namespace torvik;
+
+namespace {
+
+struct MainForm : Form {
+    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
+    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}};
+    PictureBox Pane{*this, QStringLiteral("Pane"), {0, 600, 1200, 600}};
+    TextBox Text1{*this, QStringLiteral("Text1"), {0, 1500, 1200, 375}, QStringLiteral("67A.JPG")};
+};
+
+FormHandle<MainForm> Main;
+
+} // namespace
+
+/// The screen, its mouse pointer and its active control.
+class ScreenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { room_ = std::make_unique<UiRoom>(); }
+    void cleanup() { room_.reset(); }
+
+    void the_size_is_15_twips_to_the_pixel()
+    {
+        const QSize pixels = QApplication::primaryScreen()->size();
+        QCOMPARE(Screen.Width(), pixels.width() * 15.0);
+        QCOMPARE(Screen.Height(), pixels.height() * 15.0);
+    }
+
+    void a_pretended_size_takes_the_place_of_the_machines()
+    {
+        Screen.Pretend(QSize(1024, 768));
+        QCOMPARE(Screen.Width(), 15360.0);
+        QCOMPARE(Screen.Height(), 11520.0);
+        Screen.Pretend(std::nullopt);
+        QCOMPARE(Screen.Width(), QApplication::primaryScreen()->size().width() * 15.0);
+    }
+
+    void the_hourglass_is_the_pointer_of_all_windows()
+    {
+        QCOMPARE(Screen.Pointer(), MousePointer::Default);
+        Screen.SetMousePointer(MousePointer::Hourglass);
+        Screen.SetMousePointer(MousePointer::Hourglass);
+        QCOMPARE(Screen.Pointer(), MousePointer::Hourglass);
+        QVERIFY(QApplication::overrideCursor() != nullptr);
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        Screen.SetMousePointer(MousePointer::Default); // once takes back what was set twice
+        QCOMPARE(QApplication::overrideCursor(), nullptr);
+        Screen.SetMousePointer(MousePointer::Default);
+        QCOMPARE(QApplication::overrideCursor(), nullptr);
+    }
+
+    void the_active_control_has_the_focus()
+    {
+        QCOMPARE(Screen.ActiveControl(), nullptr);
+        QVERIFY(UiRoom::Open(*Main));
+        Main->Text1.SetFocus();
+        QCOMPARE(Screen.ActiveControl(), &Main->Text1);
+    }
+
+    void any_press_on_a_picture_pane_makes_it_the_active_control()
+    {
+        QVERIFY(UiRoom::Open(*Main));
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+            Main->Go.SetFocus();
+            const Control* active = nullptr;
+            Main->Pane.MouseDown = [&](int) { active = Screen.ActiveControl(); };
+            QTest::mouseClick(&Main->Pane.Widget(), button);
+            QCOMPARE(active, &Main->Pane);
+        }
+    }
+
+    void a_box_that_was_up_leaves_the_active_control()
+    {
+        QVERIFY(UiRoom::Open(*Main));
+        Main->Text1.SetFocus();
+        QWidget box;
+        box.show();
+        box.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        box.hide(); // and the form is not active again yet
+        QCOMPARE(Screen.ActiveControl(), &Main->Text1);
+    }
+
+    void a_widget_of_no_form_is_no_active_control()
+    {
+        QLineEdit stranger;
+        stranger.show();
+        stranger.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&stranger));
+        stranger.setFocus();
+        QCOMPARE(Screen.ActiveControl(), nullptr);
+    }
+
+    void an_unloaded_form_has_no_active_control()
+    {
+        QVERIFY(UiRoom::Open(*Main));
+        Main->Go.SetFocus();
+        Main.Unload();
+        QCOMPARE(Screen.ActiveControl(), nullptr);
+    }
+
+private:
+    std::unique_ptr<UiRoom> room_;
+};
+
+QTEST_MAIN(ScreenTest)
+#include "screen_test.moc"
