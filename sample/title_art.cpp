@@ -113,8 +113,8 @@ QImage PaintOpening(QSize size)
         double angle;
     };
     // The farthest first.
-    static const Guest guests[] = {{1993, 0, 9.4, 1.9, 0.22},    {1984, 1, 5.6, 1.6, 0.16},
-                                   {1975, 0, 1.9, 1.7, 0.10},    {1971, 7, -1.6, 1.3, 0.02},
+    static const Guest guests[] = {{1993, 0, 9.4, 1.9, 0.22},    {1984, 3, 5.6, 1.6, 0.16},
+                                   {1975, 0, 1.9, 1.7, 0.10},    {1971, 4, -1.6, 1.3, 0.02},
                                    {1967, 0, -1.2, -1.9, -0.08}, {1999, 3, 4.6, -1.9, 0.10}};
     for (const Guest& guest : guests) {
         Trim trim;
