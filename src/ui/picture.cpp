@@ -5,8 +5,8 @@
 #include "ui/picture_end.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImageReader>
+#include <QResource>
 
 #include <utility>
 
@@ -36,10 +36,10 @@ Picture Picture::Load(const QString& path)
 
 Picture Picture::FromResource(const QString& resource)
 {
-    QFile file(resource);
-    if (!file.open(QIODevice::ReadOnly))
+    const QResource artwork(resource);
+    if (!artwork.isValid())
         Fail(failure::fileNotFound);
-    return {file.readAll(), NameWithoutFolder(resource)};
+    return {artwork.uncompressedData(), NameWithoutFolder(resource)};
 }
 
 Picture::Picture(QByteArray bytes, QString fileName)
