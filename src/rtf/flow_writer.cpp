@@ -13,6 +13,7 @@ namespace {
 constexpr qint64 BlockCost = 240;
 constexpr qint64 RunCost = 70;
 constexpr qint64 CharacterCost = 4;
+constexpr qint64 ListCost = 900;
 constexpr qint64 BoxCost = 4000;
 
 } // namespace
@@ -107,7 +108,9 @@ void FlowWriter::TakeFreshBlock(const QTextBlockFormat& format, const QTextCharF
 void FlowWriter::OpenBlock(const Paragraph& paragraph)
 {
     const QTextCharFormat& endFormat = context_.formats.CharacterFormat(paragraph.endFormat);
-    const ListWriter::Place place = lists_.Join(paragraph.mark);
+    ListWriter::Place place = lists_.Join(paragraph.mark);
+    if (place == ListWriter::Place::Starts && !context_.budget.Take(ListCost))
+        place = ListWriter::Place::Outside;
     const bool isItem = place != ListWriter::Place::Outside;
     QTextBlockFormat format = context_.formats.BlockFormat(isItem ? paragraph.itemFormat : paragraph.format);
     if (paragraph.breakBefore)

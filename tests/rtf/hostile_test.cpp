@@ -11,9 +11,13 @@ class HostileTest : public QObject {
 
     static QByteArray Repeated(const QByteArray& piece, int times) { return piece.repeated(times); }
 
-    /// Bytes of memory that the process holds now; 0 where the system does not tell.
+    /// Bytes of memory that the process holds now; 0 where the system does not tell, and under the address
+    /// sanitizer, which keeps freed memory back.
     static qint64 MemoryInUse()
     {
+#ifdef __SANITIZE_ADDRESS__
+        return 0;
+#endif
         QFile file(QStringLiteral("/proc/self/statm"));
         if (!file.open(QIODevice::ReadOnly))
             return 0;
@@ -103,10 +107,10 @@ private Q_SLOTS:
         QFETCH(QByteArray, piece);
         QByteArray body;
         if (piece.isEmpty()) {
-            for (int i = 0; i < 200000; ++i)
+            for (int i = 0; i < 100000; ++i)
                 body += "\\fs" + QByteArray::number(i % 3000) + "\\cf" + QByteArray::number(i) + " a";
         } else {
-            body = Repeated(piece, int(4000000 / piece.size()));
+            body = Repeated(piece, int(1600000 / piece.size()));
         }
         const qint64 before = MemoryInUse();
         const Reading read = ReadBytes("{\\rtf1 " + body + "}");

@@ -73,6 +73,17 @@ private Q_SLOTS:
         QCOMPARE(At(image, 5, 5).alpha(), 0);
     }
 
+    void the_sides_of_a_rectangle_are_not_mixed_up()
+    {
+        // Lower, right, upper, left.
+        const QImage image =
+            Draw(Filled(0x0000ff) + WmfRecord(0x041b, Bytes().Words({40, 90, 10, 20}).Data()));
+        QCOMPARE(At(image, 85, 15), QColor(Qt::red));
+        QCOMPARE(At(image, 25, 35), QColor(Qt::red));
+        QCOMPARE(At(image, 15, 25).alpha(), 0);
+        QCOMPARE(At(image, 50, 60).alpha(), 0);
+    }
+
     void an_ellipse_leaves_its_corners()
     {
         const QImage image =
