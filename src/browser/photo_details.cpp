@@ -15,7 +15,8 @@ QString CaptionDocumentOf(const QString& photo)
     const int point = InStr(photo, QStringLiteral("."));
     const int folder = state.TorviksPathPos;
     const int stem = folder + 8;
-    return Left(photo, folder) + QStringLiteral("RichText") + Mid(photo, stem, point - stem) + QStringLiteral(".rtf");
+    return Left(photo, folder) + QStringLiteral("RichText") + Mid(photo, stem, point - stem) +
+           QStringLiteral(".rtf");
 }
 
 } // namespace

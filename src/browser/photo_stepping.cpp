@@ -23,7 +23,8 @@ struct Cursor {
 
     static Cursor Now()
     {
-        return {state.PhotoIndex, state.SkipFirstPhoto, state.SteppedForward, state.SteppedBackward, state.YearCode};
+        return {state.PhotoIndex, state.SkipFirstPhoto, state.SteppedForward, state.SteppedBackward,
+                state.YearCode};
     }
     void PutBack() const
     {

@@ -16,8 +16,8 @@ void SetDocumentButtons(const Topic* topic)
 {
     Form1Controls& form = *Form1;
     const bool ownTopic = topic != nullptr && QLatin1String(topic->Title) != classicHarwell;
-    for (Button* button : {&form.cmdColors, &form.cmdOptions, &form.cmdClipArt, &form.cmdEmblem, &form.cmdScript,
-                           &form.cmdAd, &form.cmdNostalgia})
+    for (Button* button : {&form.cmdColors, &form.cmdOptions, &form.cmdClipArt, &form.cmdEmblem,
+                           &form.cmdScript, &form.cmdAd, &form.cmdNostalgia})
         button->SetEnabled(!ownTopic);
     form.cmdStats.SetEnabled(!ownTopic || topic->HasStatistics);
     if (ownTopic)

@@ -6,12 +6,12 @@ namespace torvik {
 
 /// A special topic: what its title in panYear stands for.
 struct Topic {
-    const char* Title;         ///< with its trailing blank
-    const char* Code;          ///< the prefix of its photos
-    bool RenamesStatistics;    ///< cmdStats reads "Details" while it is selected
-    bool HasDescription;       ///< cmdDesc is enabled
-    bool HasStatistics;        ///< cmdStats is enabled
-    bool DropsOverlays;        ///< emblem, script and clip art make way for it
+    const char* Title;      ///< with its trailing blank
+    const char* Code;       ///< the prefix of its photos
+    bool RenamesStatistics; ///< cmdStats reads "Details" while it is selected
+    bool HasDescription;    ///< cmdDesc is enabled
+    bool HasStatistics;     ///< cmdStats is enabled
+    bool DropsOverlays;     ///< emblem, script and clip art make way for it
 };
 
 /// The topic of a title; null for a year and for a title that the catalogue does not hold.

@@ -15,7 +15,8 @@ QString PlayListEntry()
     if (Form1->panYear.Caption() == nothingChosen)
         return folder + QStringLiteral("ClassicTorviks.jpg");
     state.TorviksPathPos = InStr(state.CurrentPhotoFile, torviksFolder);
-    return folder + Mid(state.CurrentPhotoFile, state.TorviksPathPos + static_cast<int>(torviksFolder.size()));
+    return folder +
+           Mid(state.CurrentPhotoFile, state.TorviksPathPos + static_cast<int>(torviksFolder.size()));
 }
 
 void UpdatePlayListButtons()

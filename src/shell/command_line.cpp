@@ -13,8 +13,10 @@ void TakeDrive(CommandLine& read, const QString& value)
     if (match.hasMatch())
         read.Drives.append({match.captured(1).at(0).toUpper(), match.captured(2)});
     else
-        read.Problem = QStringLiteral("--drive takes a letter from D to Z and a folder, such as E=/media/disc; not \"%1\".")
-                           .arg(value);
+        read.Problem =
+            QStringLiteral(
+                "--drive takes a letter from D to Z and a folder, such as E=/media/disc; not \"%1\".")
+                .arg(value);
 }
 
 /// Takes one argument off the front of `rest`, with its value where it has one.
@@ -67,17 +69,18 @@ CommandLine ReadCommandLine(const QStringList& arguments)
 
 QString HelpText()
 {
-    return QStringLiteral("Usage: torvik2001 [options] [FOLDER]\n"
-                          "\n"
-                          "Shows the disc of The Torvik Vollandry 2001. Without a FOLDER the disc is looked for on\n"
-                          "all mounted media.\n"
-                          "\n"
-                          "  FOLDER                    a folder that holds a disc; it takes the first free drive letter\n"
-                          "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
-                          "  --program-folder FOLDER   where copied photos, the start-up sound and the help file are\n"
-                          "  --print-to FOLDER         each print job becomes a file job-1.pdf, job-2.pdf, ... there\n"
-                          "  -h, --help                shows this text\n"
-                          "  -v, --version             shows the version\n");
+    return QStringLiteral(
+        "Usage: torvik2001 [options] [FOLDER]\n"
+        "\n"
+        "Shows the disc of The Torvik Vollandry 2001. Without a FOLDER the disc is looked for on\n"
+        "all mounted media.\n"
+        "\n"
+        "  FOLDER                    a folder that holds a disc; it takes the first free drive letter\n"
+        "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
+        "  --program-folder FOLDER   where copied photos, the start-up sound and the help file are\n"
+        "  --print-to FOLDER         each print job becomes a file job-1.pdf, job-2.pdf, ... there\n"
+        "  -h, --help                shows this text\n"
+        "  -v, --version             shows the version\n");
 }
 
 } // namespace torvik

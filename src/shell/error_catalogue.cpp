@@ -92,7 +92,8 @@ CatalogueEntry CatalogueEntryOf(const QString& code)
 {
     CatalogueEntry entry;
     entry.Text = TextOf(code);
-    entry.Retry = code == QStringLiteral("ER001") || code == QStringLiteral("ER037") || code == QStringLiteral("ER055");
+    entry.Retry =
+        code == QStringLiteral("ER001") || code == QStringLiteral("ER037") || code == QStringLiteral("ER055");
     entry.DiscHint = code != QStringLiteral("ER034") && code != QStringLiteral("ER036");
     return entry;
 }

@@ -46,7 +46,8 @@ struct Form1Controls : Form, Form1Menu, SaverPanel, ProgressPanel, PrintPanel, S
     Button cmdEmblem{*this, QStringLiteral("cmdEmblem"), {6600, 0, 1335, 330}, QStringLiteral("Emblem")};
     Button cmdClipArt{*this, QStringLiteral("cmdClipArt"), {7920, 0, 1335, 330}, QStringLiteral("ClipArt ")};
     Button cmdAd{*this, QStringLiteral("cmdAd"), {9240, 0, 1455, 330}, QStringLiteral("Advertisement")};
-    Button cmdNostalgia{*this, QStringLiteral("cmdNostalgia"), {10680, 0, 1215, 330}, QStringLiteral("Nostalgia")};
+    Button cmdNostalgia{
+        *this, QStringLiteral("cmdNostalgia"), {10680, 0, 1215, 330}, QStringLiteral("Nostalgia")};
 
     SpinButton SpinButton1{*this, QStringLiteral("SpinButton1"), {120, 360, 615, 300}};
     Panel panPhoto{*this, QStringLiteral("panPhoto"), {720, 360, 390, 300}};

@@ -9,7 +9,8 @@ SaverPanel::SaverPanel(Form& form) : pnlSSaver(form, QStringLiteral("pnlSSaver")
     pnlSSaver.Hide();
 }
 
-ProgressPanel::ProgressPanel(Form& form) : pnlProgress(form, QStringLiteral("pnlProgress"), {3000, 1200, 6300, 3300})
+ProgressPanel::ProgressPanel(Form& form)
+    : pnlProgress(form, QStringLiteral("pnlProgress"), {3000, 1200, 6300, 3300})
 {
     pnlProgress.Hide();
 }

@@ -25,9 +25,9 @@ struct HelpWindowRecord {
 /// the program. Positions and indices count from 1.
 struct ProgramState {
     // Where the content is
-    QString DiscRoot;      ///< "E:", the drive on which the disc was found
-    QString PhotoRoot;     ///< what "\Torviks\" is read under: the program folder or DiscRoot
-    QString DriveLetters;  ///< the letters that are tried, in order
+    QString DiscRoot;     ///< "E:", the drive on which the disc was found
+    QString PhotoRoot;    ///< what "\Torviks\" is read under: the program folder or DiscRoot
+    QString DriveLetters; ///< the letters that are tried, in order
 
     // Messages and failures
     QString ErrorCode;     ///< code of the operation under way, "ER001"
@@ -44,7 +44,7 @@ struct ProgramState {
     // The main window
     bool FirstActivation = false;
     bool ShowFileNames = false;
-    bool YearChosen = false; ///< a year was chosen by mouse or space bar; never set back
+    bool YearChosen = false;   ///< a year was chosen by mouse or space bar; never set back
     Integer CurrentYearButton; ///< 1 to 35; 0 for a topic
     Integer NextYearButton;    ///< where the left click on the photo goes
     QString YearCode;          ///< two characters: the name prefix of the year or topic
@@ -58,7 +58,8 @@ struct ProgramState {
     QString PreviousPrefix;
     QString CurrentPhotoFile; ///< full path of the photo on show
     Integer TorviksPathPos;   ///< position of "\Torviks\" inside a photo's path
-    bool SkipFirstPhoto = false; ///< the first photo of the group is on show: the next forward step passes over it
+    bool SkipFirstPhoto =
+        false; ///< the first photo of the group is on show: the next forward step passes over it
     bool SteppedForward = false;
     bool SteppedBackward = false;
 

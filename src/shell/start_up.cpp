@@ -23,7 +23,8 @@ void RefuseSecondInstance()
 {
     if (!PreviousInstance())
         return;
-    MsgBox(QStringLiteral("The Torvik Vollandry is already running!"), msgbox::systemModal | msgbox::critical);
+    MsgBox(QStringLiteral("The Torvik Vollandry is already running!"),
+           msgbox::systemModal | msgbox::critical);
     EndProgram();
 }
 
@@ -56,7 +57,8 @@ void Form2_Load()
     BuildPhotoSet();
 }
 
-/// Where the screen is not the one that the window was drawn for, the window takes a size that suits it anywhere.
+/// Where the screen is not the one that the window was drawn for, the window takes a size that suits it
+/// anywhere.
 void FitForm1ToScreen()
 {
     if (IsScreenSize(800, 600))

@@ -66,6 +66,68 @@ private Q_SLOTS:
         QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
     }
 
+    void a_click_from_a_topic_returns_to_a_year()
+    {
+        Form1->mnuSpecialty(1).Click.Fire();
+        Form1->cmdStats.SetCaption(QStringLiteral("Details"));
+        program_->Click(Form1->cmdYR(2));
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1968"));
+        QCOMPARE(Form1->cmdStats.Caption(), QStringLiteral("Details"));
+        for (const Button* button :
+             {&Form1->cmdDesc, &Form1->cmdOptions, &Form1->cmdStats, &Form1->cmdColors, &Form1->cmdScript,
+              &Form1->cmdEmblem, &Form1->cmdClipArt, &Form1->cmdAd, &Form1->cmdNostalgia})
+            QVERIFY(button->Enabled());
+    }
+
+    void every_button_selects_its_year_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int index = 1; index <= 35; ++index)
+            QTest::addRow("%d", 1966 + index) << index;
+    }
+
+    void every_button_selects_its_year()
+    {
+        QFETCH(int, index);
+        Form1->cmdYR(index).SetEnabled(true);
+        program_->Click(Form1->cmdYR(index));
+        QCOMPARE(Form1->panYear.Caption(), QString::number(1966 + index));
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(%1)").arg(index == 35 ? 1 : index + 1));
+        QCOMPARE(int(state.CurrentYearButton), index);
+    }
+
+    void a_year_without_photos_leaves_the_focus_behind_the_clicked_button()
+    {
+        program_->Click(Form1->cmdYR(10));
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(11)"));
+        QVERIFY(!Form1->Image4.Visible());
+    }
+
+    void the_space_bar_with_no_position_yet_takes_the_first_year()
+    {
+        state.TorviksPathPos = 0;
+        program_->Press(Qt::Key_Space);
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+    }
+
+    void after_a_click_the_space_bar_only_clicks()
+    {
+        program_->Click(Form1->cmdYR(2));
+        program_->Press(Qt::Key_Space);
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1969"));
+        QCOMPARE(int(state.CurrentYearButton), 3);
+    }
+
+    void other_keys_do_nothing()
+    {
+        for (const Qt::Key key : {Qt::Key_A, Qt::Key_5, Qt::Key_Slash, Qt::Key_Semicolon})
+            program_->Press(key);
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
+        QVERIFY(!state.YearChosen);
+    }
+
     void comma_and_period_step_the_photos()
     {
         program_->Press(Qt::Key_Period);

@@ -14,7 +14,8 @@ public:
     MessageScript(const MessageScript&) = delete;
     MessageScript& operator=(const MessageScript&) = delete;
 
-    /// Queues an answer for the next box that has none yet. A box without one gets OK, or Cancel where it has it.
+    /// Queues an answer for the next box that has none yet. A box without one gets OK, or Cancel where it has
+    /// it.
     void Answer(int answer) { answers_.append(answer); }
     /// Runs when the next box comes up, before it is answered.
     void WhenAsked(std::function<void()> action) { action_ = std::move(action); }

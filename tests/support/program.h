@@ -9,8 +9,9 @@
 
 namespace torvik {
 
-/// The whole program in a test: its handlers bound, a record as at the start, a disc in drive G:, a program folder
-/// of its own, a screen of 800 by 600 pixels, a clock that is turned by hand, and scripted message boxes.
+/// The whole program in a test: its handlers bound, a record as at the start, a disc in drive G:, a program
+/// folder of its own, a screen of 800 by 600 pixels, a clock that is turned by hand, and scripted message
+/// boxes.
 class Program {
 public:
     Program();

@@ -1,0 +1,171 @@
+#include "browser/restore_main_window.h"
+#include "documents/txt_form.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "slides/frm_slide.h"
+#include "support/program.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+/// Rebuilding the main window. What each title does to the buttons is told in the test of the catalogue.
+class RestoreMainWindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        for (const char* file :
+             {"emblems/emb69.jpg", "emblems/EMBpt.jpg", "emblems/embsb.jpg", "SCRIPTS/scri69.jpg",
+              "SCRIPTS/SCRIpt.jpg", "SCRIPTS/SCRISB.jpg", "Clipart/69clip.jpg"})
+            program_->Disc.AddFile(QString::fromLatin1(file), TestDisc::Jpeg(Qt::blue, {90, 30}));
+        program_->StartBrowsing();
+    }
+    void cleanup() { program_.reset(); }
+
+    void with_nothing_chosen_only_the_window_and_the_description_are_enabled()
+    {
+        Form1->panYear.SetCaption(nothingChosen);
+        Form1->SetEnabled(false);
+        Form1->cmdDesc.SetEnabled(false);
+        Form1->cmdColors.SetEnabled(false);
+        Form1->SpinButton1.Hide();
+        state.SlideRestorePending = true;
+        state.YearCode = QStringLiteral("xx");
+        RestoreMainWindow();
+        QVERIFY(!state.SlideRestorePending);
+        QVERIFY(Form1->Enabled());
+        QVERIFY(Form1->cmdDesc.Enabled());
+        QVERIFY(!Form1->cmdColors.Enabled());
+        QVERIFY(!Form1->SpinButton1.Visible());
+        QVERIFY(!Form1->cmdYR(1).Enabled());
+        QCOMPARE(state.YearCode, QStringLiteral("xx"));
+    }
+
+    void with_a_year_the_caption_panels_and_all_buttons_come_back()
+    {
+        Form1->panYear.SetCaption(QStringLiteral("1969"));
+        for (Control* control :
+             std::initializer_list<Control*>{&Form1->SpinButton1, &Form1->panPhoto, &Form1->panYear})
+            control->Hide();
+        for (int index = 1; index <= 35; ++index)
+            Form1->cmdYR(index).SetEnabled(false);
+        RestoreMainWindow();
+        for (const Control* control :
+             std::initializer_list<const Control*>{&Form1->SpinButton1, &Form1->panPhoto, &Form1->panYear})
+            QVERIFY(control->Visible());
+        for (int index = 1; index <= 35; ++index)
+            QVERIFY(Form1->cmdYR(index).Enabled());
+        QCOMPARE(state.YearCode, QStringLiteral("69"));
+    }
+
+    void the_code_of_2000_is_left_raw()
+    {
+        Form1->panYear.SetCaption(QStringLiteral("2000"));
+        RestoreMainWindow();
+        QCOMPARE(state.YearCode, QStringLiteral("00"));
+    }
+
+    void side_forms_are_unloaded()
+    {
+        frmSlide.LoadForm();
+        txtForm.LoadForm();
+        Form1->panYear.SetCaption(nothingChosen);
+        RestoreMainWindow();
+        QVERIFY(!frmSlide.IsLoaded());
+        QVERIFY(!txtForm.IsLoaded());
+    }
+
+    void overlays_that_are_open_are_loaded_for_the_new_year()
+    {
+        ShowOverlays();
+        Form1->panYear.SetCaption(QStringLiteral("1969"));
+        RestoreMainWindow();
+        QCOMPARE(Form1->picEmblem.Picture().FileName(), QStringLiteral("emb69.jpg"));
+        QCOMPARE(Form1->picScript.Picture().FileName(), QStringLiteral("scri69.jpg"));
+        QCOMPARE(Form1->picClipArt.Picture().FileName(), QStringLiteral("69clip.jpg"));
+        QVERIFY(OverlaysVisible());
+        QVERIFY(program_->Messages.Shown().isEmpty());
+    }
+
+    void overlays_that_are_closed_stay_closed()
+    {
+        Form1->panYear.SetCaption(QStringLiteral("1970"));
+        RestoreMainWindow();
+        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(!Form1->picEmblem.Visible());
+    }
+
+    void most_topics_close_the_overlays_data()
+    {
+        QTest::addColumn<QString>("title");
+        for (const char* title : {"Torvik Kestra I ", "Torvik Kestra III ", "Torvik Super Stallion ",
+                                  "Danbury Mint Die Cast Models ", "Franklin Mint Collector Knives ",
+                                  "Franklin Mint Die Cast Models ", "Torvik Metal Signs ", "Torvik Cookies ",
+                                  "The Torvik Monopoly Game ", "Torvik Postage Stamps "})
+            QTest::newRow(title) << QString::fromLatin1(title);
+    }
+
+    void most_topics_close_the_overlays()
+    {
+        QFETCH(QString, title);
+        ShowOverlays();
+        Form1->panYear.SetCaption(title);
+        RestoreMainWindow();
+        QVERIFY(!Form1->picEmblem.Visible());
+        QVERIFY(!Form1->picScript.Visible());
+        QVERIFY(!Form1->picClipArt.Visible());
+        QVERIFY(program_->Messages.Shown().isEmpty());
+    }
+
+    void the_prototypes_reload_them_as_a_year_does()
+    {
+        Form1->picEmblem.Show();
+        Form1->picScript.Show();
+        Form1->panYear.SetCaption(QStringLiteral("Early Torvik Prototypes "));
+        RestoreMainWindow();
+        QCOMPARE(Form1->picEmblem.Picture().FileName(), QStringLiteral("EMBpt.jpg"));
+        QCOMPARE(Form1->picScript.Picture().FileName(), QStringLiteral("SCRIpt.jpg"));
+        QVERIFY(Form1->picEmblem.Visible());
+    }
+
+    void the_harwell_closes_the_clip_art_and_reloads_the_others()
+    {
+        ShowOverlays();
+        Form1->panYear.SetCaption(QStringLiteral("The Classic Harwell "));
+        RestoreMainWindow();
+        QVERIFY(!Form1->picClipArt.Visible());
+        QCOMPARE(Form1->picEmblem.Picture().FileName(), QStringLiteral("embsb.jpg"));
+        QCOMPARE(Form1->picScript.Picture().FileName(), QStringLiteral("SCRISB.jpg"));
+    }
+
+    void a_missing_overlay_is_reported_by_its_code()
+    {
+        Form1->picEmblem.Show();
+        Form1->panYear.SetCaption(QStringLiteral("1970"));
+        RestoreMainWindow();
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER022")));
+        QVERIFY(!Form1->picEmblem.Visible());
+    }
+
+private:
+    void ShowOverlays()
+    {
+        Form1->picEmblem.Show();
+        Form1->picScript.Show();
+        Form1->picClipArt.Show();
+    }
+    bool OverlaysVisible() const
+    {
+        return Form1->picEmblem.Visible() && Form1->picScript.Visible() && Form1->picClipArt.Visible();
+    }
+
+    std::unique_ptr<Program> program_;
+};
+
+QTEST_MAIN(RestoreMainWindowTest)
+#include "restore_main_window_test.moc"

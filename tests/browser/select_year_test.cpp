@@ -1,0 +1,163 @@
+#include "browser/select_year.h"
+#include "local/frm_ss_photo.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "support/program.h"
+#include "ui/screen.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+/// Putting a title on show.
+class SelectYearTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        for (const char* prefix : {"67", "69", "A0", "VM"})
+            program_->Disc.AddGroup(QString::fromLatin1(prefix), 2);
+        program_->StartBrowsing();
+        Form1->cmdYR(1).SetEnabled(true);
+    }
+    void cleanup() { program_.reset(); }
+
+    void the_first_photo_of_the_year_is_shown()
+    {
+        Form1->Image4.Hide();
+        Form1->rtbDetails.Show();
+        Form1->mnuNames.SetVisible(false);
+        Select(QStringLiteral("1969"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("69A.JPG"));
+        QVERIFY(Form1->Image4.Visible());
+        QVERIFY(!Form1->rtbDetails.Visible());
+        QVERIFY(Form1->mnuNames.Visible());
+        QVERIFY(state.SkipFirstPhoto);
+        QCOMPARE(int(state.PhotoIndex), 3);
+        QCOMPARE(int(state.ShownPhotoIndex), 3);
+        QCOMPARE(int(state.TorviksPathPos), 3);
+        QCOMPARE(state.CurrentPhotoFile, QStringLiteral("G:\\Torviks\\69A.JPG"));
+    }
+
+    void the_file_name_follows_only_when_it_is_wanted()
+    {
+        Select(QStringLiteral("1969"));
+        QCOMPARE(Form1->txtFile.Text(), QString());
+        state.ShowFileNames = true;
+        Select(QStringLiteral("1967"));
+        QCOMPARE(Form1->txtFile.Text(), QStringLiteral("67A.JPG"));
+    }
+
+    void a_file_name_is_shown_by_its_first_twelve_characters()
+    {
+        program_->Disc.AddPhoto(QStringLiteral("68LONGNAME0001.JPG"));
+        program_->DoubleClick(Form1->panPhoto);
+        state.ShowFileNames = true;
+        Select(QStringLiteral("1968"));
+        QCOMPARE(Form1->txtFile.Text(), QStringLiteral("68LONGNAME00"));
+    }
+
+    void a_year_without_photos_is_ER023_and_keeps_its_title()
+    {
+        state.CurrentYearButton = 3;
+        Select(QStringLiteral("1970"));
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(
+            program_->Messages.Last().Text,
+            QStringLiteral("Error number: ER023\r\n\r\n Torvik photo not found for year selected.\r\n\r\n"
+                           "Make sure that the Torvik Vollandry is in the CDROM drive."));
+        QVERIFY(!Form1->Image4.Visible());
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1970"));
+        QCOMPARE(int(state.PhotoIndex), int(state.PhotoCount) + 1);
+        QCOMPARE(int(state.ShownPhotoIndex), int(state.PhotoCount) + 1);
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+    }
+
+    void a_photo_that_cannot_be_loaded_is_ER023_and_the_focus_stays()
+    {
+        program_->Disc.AddFile(QStringLiteral("Torviks/69A.JPG"), "no picture");
+        Form1->cmdYR(20).SetFocus();
+        Select(QStringLiteral("1969"));
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER023")));
+        QVERIFY(!Form1->Image4.Visible());
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(20)"));
+        QCOMPARE(int(state.ShownPhotoIndex), 3);
+    }
+
+    void the_next_good_year_shows_its_photo_again()
+    {
+        Select(QStringLiteral("1970"));
+        Select(QStringLiteral("1969"));
+        QVERIFY(Form1->Image4.Visible());
+    }
+
+    void the_code_is_compared_with_its_letter_case()
+    {
+        program_->Disc.AddPhoto(QStringLiteral("MUA.JPG"));
+        program_->DoubleClick(Form1->panPhoto);
+        program_->Messages.Clear();
+        Select(QStringLiteral("Lemuel Ostrand Art Print "));
+        QCOMPARE(state.YearCode, QStringLiteral("mu"));
+        QCOMPARE(program_->Messages.Count(), 1);
+    }
+
+    void the_play_list_follows()
+    {
+        program_->AddToProgramFolder(QStringLiteral("ssTorviks/69A.JPG"), "x");
+        Select(QStringLiteral("1969"));
+        QVERIFY(!frmSSPhoto->SSCommand7.Enabled());
+        QVERIFY(frmSSPhoto->SSCommand8.Enabled());
+        Select(QStringLiteral("1967"));
+        QVERIFY(frmSSPhoto->SSCommand7.Enabled());
+        QVERIFY(!frmSSPhoto->SSCommand8.Enabled());
+    }
+
+    void a_special_topic_turns_to_its_own_buttons()
+    {
+        state.SteppedForward = true;
+        state.SteppedBackward = true;
+        Form1->panYear.SetCaption(QStringLiteral("Torvik Metal Signs "));
+        ShowSpecialTopic();
+        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("VMA.JPG"));
+        QCOMPARE(Form1->cmdStats.Caption(), QStringLiteral("Details"));
+        for (const Button* button : {&Form1->cmdOptions, &Form1->cmdColors, &Form1->cmdScript,
+                                     &Form1->cmdEmblem, &Form1->cmdAd, &Form1->cmdNostalgia})
+            QVERIFY(!button->Enabled());
+        QCOMPARE(int(state.CurrentYearButton), 0);
+        QCOMPARE(int(state.PhotoIndex), 0);
+        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
+        QVERIFY(!state.SteppedForward);
+        QVERIFY(!state.SteppedBackward);
+        QVERIFY(Form1->cmdYR(1).Enabled());
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(1)"));
+        QCOMPARE(Screen.Pointer(), MousePointer::Default);
+    }
+
+    void back_in_a_year_the_statistics_button_keeps_its_topic_caption()
+    {
+        Form1->panYear.SetCaption(QStringLiteral("Torvik Metal Signs "));
+        ShowSpecialTopic();
+        program_->Click(Form1->cmdYR(3));
+        QCOMPARE(Form1->cmdStats.Caption(), QStringLiteral("Details"));
+        for (const Button* button :
+             {&Form1->cmdOptions, &Form1->cmdColors, &Form1->cmdScript, &Form1->cmdEmblem, &Form1->cmdAd,
+              &Form1->cmdNostalgia, &Form1->cmdClipArt})
+            QVERIFY(button->Enabled());
+    }
+
+private:
+    void Select(const QString& title)
+    {
+        program_->Messages.Clear();
+        Form1->panYear.SetCaption(title);
+        SelectYear();
+    }
+
+    std::unique_ptr<Program> program_;
+};
+
+QTEST_MAIN(SelectYearTest)
+#include "select_year_test.moc"
