@@ -31,11 +31,8 @@ constexpr IndexedTitle stuffTitles[] = {
 };
 
 constexpr IndexedTitle specialtyTitles[] = {
-    {0, "The Classic Harwell "},
-    {1, "Early Torvik Prototypes "},
-    {2, "Torvik Kestra I "},
-    {3, "Torvik Kestra III "},
-    {4, "Torvik Super Stallion "},
+    {0, "The Classic Harwell "}, {1, "Early Torvik Prototypes "}, {2, "Torvik Kestra I "},
+    {3, "Torvik Kestra III "},   {4, "Torvik Super Stallion "},
 };
 
 void SetTitle(std::span<const IndexedTitle> titles, int index)
@@ -98,7 +95,8 @@ void BindLibraryTopics()
     Form1.Bind([](Form1Controls& form) {
         form.mnuArt.Each([](int index, Menu& entry) { entry.Click = [index] { ShowArtTopic(index); }; });
         form.mnuStuff.Each([](int index, Menu& entry) { entry.Click = [index] { ShowStuffTopic(index); }; });
-        form.mnuSpecialty.Each([](int index, Menu& entry) { entry.Click = [index] { ShowSpecialtyTopic(index); }; });
+        form.mnuSpecialty.Each(
+            [](int index, Menu& entry) { entry.Click = [index] { ShowSpecialtyTopic(index); }; });
     });
 }
 

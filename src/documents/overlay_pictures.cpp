@@ -31,7 +31,8 @@ void LoadEmblem()
             PictureBox& pane = Form1->picEmblem;
             pane.Hide();
             state.ErrorCode = QStringLiteral("ER022");
-            pane.Load(PictureOfTitle(QStringLiteral("\\emblems\\embsb.jpg"), QStringLiteral("\\emblems\\EMBpt.jpg"),
+            pane.Load(PictureOfTitle(QStringLiteral("\\emblems\\embsb.jpg"),
+                                     QStringLiteral("\\emblems\\EMBpt.jpg"),
                                      QStringLiteral("\\emblems\\emb")));
             pane.SetTop(Form1->Frame1.Top() - pane.Height() - 1);
             pane.SetLeft(Form1->Image4.Width() - pane.Width() + 9);
@@ -48,7 +49,8 @@ void LoadScript()
         [] {
             PictureBox& pane = Form1->picScript;
             pane.Hide();
-            pane.Load(PictureOfTitle(QStringLiteral("\\SCRIPTS\\SCRISB.jpg"), QStringLiteral("\\SCRIPTS\\SCRIpt.jpg"),
+            pane.Load(PictureOfTitle(QStringLiteral("\\SCRIPTS\\SCRISB.jpg"),
+                                     QStringLiteral("\\SCRIPTS\\SCRIpt.jpg"),
                                      QStringLiteral("\\scripts\\scri")));
             pane.SetTop(Form1->Image4.Top() + 25);
             pane.SetLeft(Form1->Image4.Left() + 1);
@@ -64,7 +66,8 @@ void LoadClipArt()
         [] {
             state.ErrorCode = QStringLiteral("ER024");
             PictureBox& pane = Form1->picClipArt;
-            pane.Load(state.DiscRoot + QStringLiteral("\\ClipArt\\") + state.YearCode + QStringLiteral("clip.jpg"));
+            pane.Load(state.DiscRoot + QStringLiteral("\\ClipArt\\") + state.YearCode +
+                      QStringLiteral("clip.jpg"));
             pane.SetTop(Form1->Image4.Top());
             pane.SetLeft(Form1->Image4.Width() - pane.Width() + 6);
         },
