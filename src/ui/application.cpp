@@ -1,5 +1,6 @@
 #include "ui/application.h"
 
+#include "platform/environment.h"
 #include "ui/event.h"
 #include "ui/form.h"
 #include "ui/look.h"
@@ -16,8 +17,7 @@ namespace {
 QApplication* MakeApplication(int& argc, char** argv)
 {
     // The media back end answers at once and needs no second process; a choice of the user's own wins.
-    if (qEnvironmentVariableIsEmpty("QT_MEDIA_BACKEND"))
-        qputenv("QT_MEDIA_BACKEND", "ffmpeg");
+    SetEnvironmentDefault("QT_MEDIA_BACKEND", "ffmpeg");
     return new QApplication(argc, argv);
 }
 
