@@ -1,4 +1,5 @@
 #include "disc_maker.h"
+#include "documents/document_plan.h"
 
 #include <QGuiApplication>
 #include <QStringList>
@@ -25,6 +26,7 @@ int main(int argc, char** argv)
         const QString& program = arguments[2];
         torvik::sample::MakePhotos(disc);
         torvik::sample::MakeCaptions(disc);
+        torvik::sample::MakeDocuments(disc);
         torvik::sample::MakeOpeningPicture(disc, program);
         torvik::sample::MakePassBySound(program);
     } catch (const std::exception& failure) {

@@ -85,6 +85,7 @@ void Article::Title(const QString& text)
     paragraph.after = 160;
     paragraph.ruleBelow = true;
     Add(paragraph);
+    AddRoom();
 }
 
 void Article::Heading(const QString& text)
@@ -195,7 +196,7 @@ void Article::AddTable(const Table& table)
 
 void Article::AddRoom()
 {
-    Paragraph room = Plain({});
+    Paragraph room = Plain(QString(QChar(0x00A0)));
     room.runs.front().look.halfPoints = 10;
     Add(room);
 }

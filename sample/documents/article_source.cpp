@@ -46,8 +46,8 @@ private:
                 FinishText();
                 kind_ = sign.trimmed();
                 text_ = begun;
-                const bool endsWithTheLine =
-                    kind_ == u"@" || kind_ == u":" || kind_[0] == u'|' || kind_[0] == u'=';
+                const bool endsWithTheLine = kind_ == u"@" || kind_ == u":" || kind_[0] == u'|' ||
+                                             kind_[0] == u'=' || kind_ == u">>" || kind_ == u"><";
                 if (endsWithTheLine)
                     FinishText();
                 return;

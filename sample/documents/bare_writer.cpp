@@ -66,7 +66,11 @@ void BareWriter::WriteParagraph(const Paragraph& paragraph, Stand stand)
             out_ += "{\\*\\pn\\pnlvlblt\\pnf3\\pnindent0{\\pntxtb\\'B7}}";
         else if (paragraph.mark == Mark::Number)
             out_ += "{\\*\\pn\\pnlvlbody\\pnf0\\pnindent0\\pnstart1\\pndec{\\pntxta.}}";
-        out_ += ParagraphWords(paragraph) + ' ';
+        const QByteArray words = ParagraphWords(paragraph);
+        // Words of a border end with their own blank; a second one would be text.
+        out_ += words;
+        if (!words.endsWith(' '))
+            out_ += ' ';
     } else {
         out_ += mark;
     }
@@ -105,7 +109,7 @@ void BareWriter::BeginRow(const Table& table, const Row& row, bool)
     out_ += "\\trowd\\trgaph70" + Word("trleft", table.left);
     const std::vector<int> edges = CellEdges(table, row);
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        out_ += "\\clvertalc";
+        out_ += CellStand(row.cells[i]);
         for (const char side : {'t', 'l', 'b', 'r'})
             out_ += BorderWords(table, row.heading, side);
         if (row.cells[i].shade.isValid())

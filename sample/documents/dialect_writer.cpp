@@ -132,6 +132,11 @@ std::vector<int> CellEdges(const Table& table, const Row& row)
     return edges;
 }
 
+QByteArray CellStand(const Cell& cell)
+{
+    return cell.paragraphs.size() > 1 ? "\\clvertalt" : "\\clvertalc";
+}
+
 QByteArray BorderWords(const Table& table, bool rowIsHeading, char side)
 {
     const QByteArray name = QByteArray("\\clbrdr") + side;

@@ -53,6 +53,8 @@ QByteArray Word(const char* name, qint64 number);
 QByteArray HexLines(const QByteArray& bytes);
 /// The right edges of the cells of a row, in twips.
 std::vector<int> CellEdges(const Table& table, const Row& row);
+/// Where the text of a cell stands: one line in the middle, several from the top.
+QByteArray CellStand(const Cell& cell);
 /// One word for a border's line, where there is one.
 QByteArray BorderWords(const Table& table, bool rowIsHeading, char side);
 

@@ -242,7 +242,15 @@ void PaintBank(QPainter& painter, const QColor& cover)
 
 Drawing CarDrawing(int year, int width)
 {
-    return SideOf(ShapeOfYear(year), PaintsOfYear(year).at(static_cast<std::size_t>(year % 5)).colour, width);
+    // A dark paint would swallow the lines.
+    const std::vector<Paint>& paints = PaintsOfYear(year);
+    const auto at = [&](std::size_t i) {
+        return paints.at((static_cast<std::size_t>(year) + i) % paints.size()).colour;
+    };
+    std::size_t i = 0;
+    while (i < paints.size() && (at(i).lightness() < 80 || at(i).lightness() > 235))
+        ++i;
+    return SideOf(ShapeOfYear(year), at(i), width);
 }
 
 Drawing EngineDrawing(const QString& layout, int width)

@@ -79,7 +79,7 @@ QByteArray LateWriter::RowWords(const Table& table, const Row& row, bool last) c
     const std::vector<int> edges = CellEdges(table, row);
     int before = table.left;
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        words += "\\clvertalc";
+        words += CellStand(row.cells[i]);
         for (const char side : {'t', 'l', 'b', 'r'})
             words += BorderWords(table, row.heading, side);
         words += CellShade(row.cells[i]) + "\\cltxlrtb\\clftsWidth3" + Word("clwWidth", edges[i] - before) +

@@ -212,7 +212,7 @@ QByteArray StyledWriter::RowWords(const Table& table, const Row& row, bool) cons
         words += "\\trhdr";
     const std::vector<int> edges = CellEdges(table, row);
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        words += "\\clvertalc";
+        words += CellStand(row.cells[i]);
         for (const char side : {'t', 'l', 'b', 'r'})
             words += BorderWords(table, row.heading, side);
         words += CellShade(row.cells[i]) + "\\cltxlrtb" + Word("cellx", edges[i]);

@@ -196,7 +196,7 @@ void DocumentsTest::EveryDocumentIsReadWhole()
         const rtf::ReadResult result = rtf::ReadRichText(document.text, text);
         const bool whole = result.wasRtf && !result.wasDamaged && !result.wasCut && result.lostPictures == 0;
         QVERIFY2(whole, qPrintable(document.file));
-        QVERIFY2(text.toPlainText().size() > 500, qPrintable(document.file));
+        QVERIFY2(text.toPlainText().size() > 300, qPrintable(document.file));
         const bool isDescription = document.file.size() == 10 && document.file.endsWith(u"desc.rtf") &&
                                    document.file != u"ptdesc.rtf";
         if (isDescription)
