@@ -1,0 +1,151 @@
+// A photo step, from the key press to the painted photo, against a bare decode at a reduced size and one
+// smooth scale to the same rectangle.
+
+#include "bind_handlers.h"
+#include "measure.h"
+#include "platform/drives.h"
+#include "platform/program_folder.h"
+#include "shell/form1.h"
+#include "shell/form2.h"
+#include "ui/clock.h"
+#include "ui/form_window.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QKeyEvent>
+#include <QTemporaryDir>
+
+#include <turbojpeg.h>
+#include <vector>
+
+namespace {
+
+constexpr int photoCount = 6;
+constexpr int rounds = 12;
+constexpr double limit = 1.3;
+
+/// Something with as much detail as a photograph: slow waves and a grain over them.
+QImage Scene(const QSize& size, int seed)
+{
+    QImage image(size, QImage::Format_RGB32);
+    unsigned grain = static_cast<unsigned>(seed) * 2654435761U + 1;
+    for (int y = 0; y < size.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < size.width(); ++x) {
+            grain = grain * 1664525U + 1013904223U;
+            const int noise = static_cast<int>(grain >> 28);
+            line[x] = qRgb((x * 255 / size.width() + noise) & 255, (y * 255 / size.height() + noise) & 255,
+                           ((x / 40 + y / 30 + seed) * 16 + noise) & 255);
+        }
+    }
+    return image;
+}
+
+QStringList MakePhotos(const QString& folder, const QSize& size)
+{
+    QStringList paths;
+    QDir().mkpath(folder);
+    for (int number = 0; number < photoCount; ++number) {
+        paths.append(folder + QStringLiteral("/67TOR00%1.JPG").arg(number));
+        if (!Scene(size, number).save(paths.last(), "JPG", 85))
+            return {};
+    }
+    return paths;
+}
+
+/// The smallest eighth at which the picture still covers the target.
+tjscalingfactor Reduction(const QSize& whole, const QSize& target)
+{
+    tjscalingfactor best{1, 1};
+    int count = 0;
+    const tjscalingfactor* factors = tjGetScalingFactors(&count);
+    for (int index = 0; index < count; ++index) {
+        const bool covers = TJSCALED(whole.width(), factors[index]) >= target.width() &&
+                            TJSCALED(whole.height(), factors[index]) >= target.height();
+        if (covers && factors[index].num * best.denom < best.num * factors[index].denom)
+            best = factors[index];
+    }
+    return best;
+}
+
+QImage BareDecode(tjhandle decoder, const QString& path, const QSize& area)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray bytes = file.readAll();
+    auto* data = reinterpret_cast<unsigned char*>(bytes.data());
+    const auto size = static_cast<unsigned long>(bytes.size());
+    int width = 0;
+    int height = 0;
+    int sampling = 0;
+    int space = 0;
+    if (tjDecompressHeader3(decoder, data, size, &width, &height, &sampling, &space) != 0)
+        return {};
+    const QSize target = QSize(width, height).scaled(area, Qt::KeepAspectRatio);
+    const tjscalingfactor factor = Reduction({width, height}, target);
+    QImage reduced(TJSCALED(width, factor), TJSCALED(height, factor), QImage::Format_RGB32);
+    if (tjDecompress2(decoder, data, size, reduced.bits(), reduced.width(),
+                      static_cast<int>(reduced.bytesPerLine()), reduced.height(), TJPF_BGRX, 0) != 0)
+        return {};
+    return reduced.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+void PressPeriod()
+{
+    QWidget* focused = QApplication::focusWidget();
+    if (focused == nullptr)
+        focused = &torvik::Form1->cmdYR(2).Widget();
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, QStringLiteral("."));
+    QApplication::sendEvent(focused, &press);
+    torvik::Form1->Window().repaint();
+}
+
+bool Measure(const char* name, const QSize& size)
+{
+    using namespace torvik;
+    const QTemporaryDir disc;
+    const QTemporaryDir program;
+    const QStringList photos = MakePhotos(disc.filePath(QStringLiteral("Torviks")), size);
+    if (photos.isEmpty())
+        return false;
+    SetProgramFolder(program.path());
+    SetDriveOptions({{u'E', disc.path()}});
+    Clock::StopAt(QDateTime::currentDateTime());
+    Form2.LoadForm();
+    Clock::Turn(5000);
+    QCoreApplication::processEvents();
+    const QSize area = Form1->Image4.Widget().size();
+
+    tjhandle decoder = tjInitDecompress();
+    std::vector<double> figures;
+    std::vector<double> baselines;
+    PressPeriod(); // the first time is not counted
+    bool whole = true;
+    for (int round = 0; round < rounds; ++round) {
+        const QString& photo = photos[round % photoCount];
+        baselines.push_back(
+            bench::Milliseconds([&] { whole = !BareDecode(decoder, photo, area).isNull() && whole; }));
+        figures.push_back(bench::Milliseconds(PressPeriod));
+    }
+    tjDestroy(decoder);
+    FormHandleBase::DiscardAll();
+    return bench::Report(name, "ms", bench::Median(figures), bench::Median(baselines), limit) && whole;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const QApplication application(argc, argv);
+    torvik::BindHandlers();
+    const bool small = Measure("photo step, 1280 x 776", {1280, 776});
+    const bool large = Measure("photo step, 4000 x 3000", {4000, 3000});
+    return small && large ? 0 : 1;
+}
