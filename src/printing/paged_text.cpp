@@ -77,12 +77,13 @@ int PagedText::PageCount() const
 void PagedText::PaintPage(int number, QPainter& painter, const QPointF& corner) const
 {
     const double top = (number - 1) * page_.height();
+    const QRectF page(QPointF(0, top), page_);
     QAbstractTextDocumentLayout::PaintContext context;
-    context.clip = QRectF(QPointF(0, top), page_);
+    context.clip = page.adjusted(0, 1, 0, -1); // else a line that only touches the page's edge is painted too
     context.palette.setColor(QPalette::Text, Qt::black);
     painter.save();
     painter.translate(corner.x(), corner.y() - top);
-    painter.setClipRect(context.clip);
+    painter.setClipRect(page);
     text_->documentLayout()->draw(&painter, context);
     painter.restore();
 }

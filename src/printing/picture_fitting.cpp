@@ -63,28 +63,28 @@ std::vector<PlacedPicture> PicturesOf(const QTextDocument& document, double scal
     return pictures;
 }
 
-/// By how much a picture must shrink; 1 where it stands well.
-double ShrinkingOf(const PlacedPicture& picture, const QSizeF& page)
+/// By how much a picture must shrink; 1 where it stands well. The layout rounds a picture to whole units of
+/// its format, `unit` pixels each, so it is given one less than there is room for.
+double ShrinkingOf(const PlacedPicture& picture, const QSizeF& page, double unit)
 {
-    constexpr double rounding = 1;   // pixels
     constexpr double oneStep = 0.97; // where only a new layout can tell whether it is enough
     if (picture.Size.isEmpty())
         return 1;
 
     double factor = 1;
-    const double widthRoom = page.width() - picture.Line.left();
-    if (picture.Size.width() > widthRoom + rounding && widthRoom > rounding)
+    const double widthRoom = page.width() - picture.Line.left() - unit;
+    if (picture.Size.width() > widthRoom + unit && widthRoom > unit)
         factor = widthRoom / picture.Size.width();
 
     // Only the tallest of a line's pictures can make it too tall.
-    if (picture.Size.height() < picture.Ascent - rounding)
+    if (picture.Size.height() < picture.Ascent - unit)
         return factor;
-    const double beside = picture.Line.height() - picture.Size.height();
-    const double heightRoom = page.height() - beside;
-    if (picture.Line.height() > page.height() + rounding && heightRoom > rounding)
+    const double beside = std::max(0.0, picture.Line.height() - picture.Size.height());
+    const double heightRoom = page.height() - beside - unit;
+    if (picture.Line.height() > page.height() && heightRoom > unit)
         return std::min(factor, heightRoom / picture.Size.height());
     const bool cut = std::floor(picture.Line.top() / page.height()) !=
-                     std::floor((picture.Line.bottom() - rounding) / page.height());
+                     std::floor((picture.Line.bottom() - 1) / page.height());
     return cut ? std::min(factor, oneStep) : factor;
 }
 
@@ -108,7 +108,7 @@ void FitPicturesToPages(QTextDocument& document, double scale)
     for (int round = 0; changed && round < mostRounds; ++round) {
         changed = false;
         for (const PlacedPicture& picture : PicturesOf(document, scale)) {
-            const double factor = ShrinkingOf(picture, document.pageSize());
+            const double factor = ShrinkingOf(picture, document.pageSize(), scale);
             if (factor >= 1)
                 continue;
             Shrink(document, picture, factor, scale);

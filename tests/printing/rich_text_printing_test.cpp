@@ -1,0 +1,333 @@
+#include "documents/txt_form.h"
+#include "platform/failure.h"
+#include "printing/rich_text_printing.h"
+#include "support/print_folder.h"
+#include "support/program.h"
+#include "ui/printer.h"
+
+#include <QBuffer>
+#include <QTest>
+
+using namespace torvik;
+
+namespace {
+
+constexpr double inch = 1440;
+constexpr double pixel = PrintFolder::twipsPerPixel;
+
+bool IsRed(const QColor& colour)
+{
+    return colour.red() > 180 && colour.green() < 80 && colour.blue() < 80;
+}
+
+/// A red picture of that size in twips, as rich text carries it.
+QByteArray Picture(int width, int height)
+{
+    QImage image(30, 30, QImage::Format_RGB32);
+    image.fill(QColor(220, 20, 20));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return QByteArray("{\\pict\\pngblip\\picw30\\pich30\\picwgoal") + QByteArray::number(width) +
+           "\\pichgoal" + QByteArray::number(height) + " " + bytes.toHex() + "}";
+}
+
+QByteArray Lines(int from, int to)
+{
+    QByteArray lines;
+    for (int number = from; number <= to; ++number)
+        lines += "Line " + QByteArray::number(number) + "\\par\n";
+    return lines;
+}
+
+QStringList Words(const QString& page)
+{
+    return page.simplified().split(u' ');
+}
+
+} // namespace
+
+/// Printing of a rich-text pane, read back from the printed file.
+class RichTextPrintingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        printed_ = std::make_unique<PrintFolder>();
+    }
+    void cleanup()
+    {
+        printed_.reset();
+        program_.reset();
+    }
+
+    void a_short_text_is_one_page_and_one_job()
+    {
+        Print("Hello, road.");
+        QCOMPARE(printed_->Files(), QStringList(QStringLiteral("job-1.pdf")));
+        QCOMPARE(printed_->Pages(1).size(), 1);
+        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("Hello, road."));
+        QVERIFY(!Printer.HasJob());
+    }
+
+    void the_margins_count_from_the_edges_of_the_paper()
+    {
+        Print(Picture(1000, 1000), 2000, 3000, 1000, 1500);
+        const QRectF picture = InkOf(printed_->Image(1, 1), IsRed);
+        QVERIFY2(qAbs(picture.left() - 2000) <= pixel, qPrintable(QString::number(picture.left())));
+        QVERIFY2(qAbs(picture.top() - 3000) <= pixel, qPrintable(QString::number(picture.top())));
+        QVERIFY(qAbs(picture.width() - 1000) <= 2 * pixel);
+        QVERIFY(qAbs(picture.height() - 1000) <= 2 * pixel);
+    }
+
+    void no_ink_is_nearer_to_an_edge_than_its_margin()
+    {
+        QByteArray text;
+        for (int number = 0; number < 400; ++number)
+            text +=
+                "A long paragraph that is broken into lines as wide as the margins allow, again and again. ";
+        Print(text, 2000, 3000, 1000, 1500);
+        const QSizeF paper = printed_->Paper(1);
+        const int pages = static_cast<int>(printed_->Pages(1).size());
+        QVERIFY(pages > 2);
+        for (int page = 1; page <= pages; ++page) {
+            const QRectF ink = InkOf(printed_->Image(1, page));
+            QVERIFY(ink.left() >= 2000 - pixel);
+            QVERIFY(ink.top() >= 3000 - pixel);
+            QVERIFY(ink.right() <= paper.width() - 1000 + pixel);
+            QVERIFY(ink.bottom() <= paper.height() - 1500 + pixel);
+        }
+        // The room is used up: the lines reach to the right margin, and a full page to the one below.
+        const QRectF first = InkOf(printed_->Image(1, 1));
+        QVERIFY(first.right() > paper.width() - 1000 - inch);
+        QVERIFY(first.bottom() > paper.height() - 1500 - 400);
+    }
+
+    void pages_break_between_lines_and_lose_none()
+    {
+        Print(Lines(1, 200));
+        const QStringList pages = printed_->Pages(1);
+        QVERIFY(pages.size() >= 3);
+        QStringList expected;
+        for (int number = 1; number <= 200; ++number)
+            expected << QStringLiteral("Line") << QString::number(number);
+        QStringList all;
+        for (const QString& page : pages)
+            all += Words(page);
+        QCOMPARE(all, expected);
+        // Each page begins at the margin again, with a line as high as the first page's.
+        const double top = InkOf(printed_->Image(1, 1)).top();
+        for (int page = 2; page <= pages.size(); ++page)
+            QVERIFY(qAbs(InkOf(printed_->Image(1, page)).top() - top) <= pixel);
+    }
+
+    void a_text_without_a_character_is_one_empty_page()
+    {
+        Print("");
+        QCOMPARE(printed_->Pages(1).size(), 1);
+        QVERIFY(InkOf(printed_->Image(1, 1)).isNull());
+    }
+
+    void a_page_break_of_the_text_begins_a_page()
+    {
+        Print("First\\par\\page Second\\par");
+        const QStringList pages = printed_->Pages(1);
+        QCOMPARE(pages.size(), 2);
+        QCOMPARE(pages.at(0).simplified(), QStringLiteral("First"));
+        QCOMPARE(pages.at(1).simplified(), QStringLiteral("Second"));
+    }
+
+    void a_picture_that_fits_a_page_moves_to_the_next_as_a_whole()
+    {
+        Print(Lines(1, 40) + Picture(4000, 6000) + "\\par\n" + Lines(41, 42));
+        QCOMPARE(printed_->Pages(1).size(), 2);
+        QVERIFY(InkOf(printed_->Image(1, 1), IsRed).isNull());
+        const QRectF picture = InkOf(printed_->Image(1, 2), IsRed);
+        QVERIFY(qAbs(picture.top() - inch) <= pixel);
+        QVERIFY(qAbs(picture.width() - 4000) <= 2 * pixel);
+        QVERIFY(qAbs(picture.height() - 6000) <= 2 * pixel);
+    }
+
+    void a_picture_too_large_for_a_page_is_shrunk_onto_one_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<QByteArray>("before");
+        QTest::newRow("too high") << 4000 << 20000 << QByteArray();
+        QTest::newRow("too wide") << 20000 << 4000 << QByteArray();
+        QTest::newRow("both") << 20000 << 30000 << QByteArray();
+        QTest::newRow("many pages high") << 3000 << 31000 << QByteArray();
+        QTest::newRow("behind text") << 4000 << 20000 << Lines(1, 10);
+        QTest::newRow("in a line with text") << 4000 << 20000 << QByteArray("beside ");
+        QTest::newRow("indented") << 9000 << 9000 << QByteArray("\\li3000 ");
+        QTest::newRow("as high as the page") << 4000 << 16838 - 2880 << QByteArray();
+    }
+    void a_picture_too_large_for_a_page_is_shrunk_onto_one()
+    {
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QFETCH(QByteArray, before);
+        Print(before + Picture(width, height) + "\\par after");
+        const QSizeF paper = printed_->Paper(1);
+        QRectF picture;
+        int pagesWithPicture = 0;
+        const int pages = static_cast<int>(printed_->Pages(1).size());
+        for (int page = 1; page <= pages; ++page) {
+            const QRectF ink = InkOf(printed_->Image(1, page), IsRed);
+            if (ink.isNull())
+                continue;
+            ++pagesWithPicture;
+            picture = ink;
+        }
+        QCOMPARE(pagesWithPicture, 1);
+        QVERIFY(picture.left() >= inch - pixel);
+        QVERIFY(picture.top() >= inch - pixel);
+        QVERIFY(picture.right() <= paper.width() - inch + pixel);
+        QVERIFY(picture.bottom() <= paper.height() - inch + pixel);
+        const double ratio = picture.width() / picture.height();
+        QVERIFY2(qAbs(ratio * height / width - 1) < 0.03, qPrintable(QString::number(ratio)));
+        // It is no smaller than it must be.
+        const double room = paper.height() - 2 * inch;
+        const bool fillsOneWay =
+            picture.width() > (paper.width() - 2 * inch - 3000) * 0.9 || picture.height() > room * 0.9;
+        QVERIFY(fillsOneWay);
+        QVERIFY(printed_->Pages(1).join(QString()).contains(QStringLiteral("after")));
+    }
+
+    void a_picture_in_a_table_is_not_cut_either_data()
+    {
+        QTest::addColumn<int>("height");
+        QTest::newRow("fits the page") << 9000;
+        QTest::newRow("nearly a page") << 13800;
+        QTest::newRow("more than a page") << 16000;
+    }
+    void a_picture_in_a_table_is_not_cut_either()
+    {
+        QFETCH(int, height);
+        Print(Lines(1, 30) +
+              "\\trowd\\trgaph100\\clbrdrb\\brdrs\\cellx4500\\cellx9000\\pard\\intbl left\\cell " +
+              Picture(3000, height) + "\\cell\\row\\pard after");
+        int pagesWithPicture = 0;
+        for (int page = 1; page <= printed_->Pages(1).size(); ++page)
+            pagesWithPicture += InkOf(printed_->Image(1, page), IsRed).isNull() ? 0 : 1;
+        QCOMPARE(pagesWithPicture, 1);
+    }
+
+    void indents_keep_their_measure_on_paper()
+    {
+        Print("\\li1440\\fi720\\ri2880 " + Picture(300, 300) +
+              " first line that is long enough to be broken before "
+              "the right indent, and its second line\\par");
+        const QRectF picture = InkOf(printed_->Image(1, 1), IsRed);
+        QVERIFY2(qAbs(picture.left() - (inch + 1440 + 720)) <= pixel,
+                 qPrintable(QString::number(picture.left())));
+        const QRectF ink = InkOf(printed_->Image(1, 1));
+        QVERIFY2(qAbs(ink.left() - (inch + 1440)) <= 2 * pixel, qPrintable(QString::number(ink.left())));
+        QVERIFY(ink.right() <= printed_->Paper(1).width() - inch - 2880 + pixel);
+    }
+
+    void tabs_keep_their_measure_on_paper()
+    {
+        Print("\\tx4320\\tab " + Picture(300, 300) + "\\par");
+        const QRectF picture = InkOf(printed_->Image(1, 1), IsRed);
+        QVERIFY2(qAbs(picture.left() - (inch + 4320)) <= pixel, qPrintable(QString::number(picture.left())));
+    }
+
+    void letters_keep_their_size_on_paper()
+    {
+        Print("\\fs144 HHH\\par"); // 72 points: a capital is about 0.7 of that high
+        const QRectF ink = InkOf(printed_->Image(1, 1));
+        QVERIFY2(ink.height() > 900 && ink.height() < 1150, qPrintable(QString::number(ink.height())));
+    }
+
+    void a_file_that_is_no_rich_text_prints_in_readable_letters()
+    {
+        program_->Disc.AddFile(QStringLiteral("RichText/plain.rtf"), "HHH without any format");
+        PrintFile(QStringLiteral("plain.rtf"), 1440, 1440, 1440, 1440);
+        const QRectF ink = InkOf(printed_->Image(1, 1));
+        QVERIFY2(ink.height() >= 5 * pixel, qPrintable(QString::number(ink.height())));
+        QVERIFY(ink.width() > 1000);
+    }
+
+    void an_open_job_is_continued_and_ended()
+    {
+        Printer.Print(QStringLiteral("The cover"));
+        Printer.NewPage();
+        Print("The text");
+        QVERIFY(!Printer.HasJob());
+        QCOMPARE(printed_->Files().size(), 1);
+        const QStringList pages = printed_->Pages(1);
+        QCOMPARE(pages.size(), 2);
+        QCOMPARE(pages.at(0).simplified(), QStringLiteral("The cover"));
+        QCOMPARE(pages.at(1).simplified(), QStringLiteral("The text"));
+    }
+
+    void an_open_page_is_shared()
+    {
+        Printer.Print(QStringLiteral("The cover"));
+        Print("The text");
+        const QStringList pages = printed_->Pages(1);
+        QCOMPARE(pages.size(), 1);
+        QCOMPARE(pages.first().simplified(), QStringLiteral("The cover The text"));
+    }
+
+    void each_call_without_an_open_job_is_a_job()
+    {
+        Print("One");
+        Print("Two");
+        QCOMPARE(printed_->Files(), QStringList({QStringLiteral("job-1.pdf"), QStringLiteral("job-2.pdf")}));
+        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("One"));
+        QCOMPARE(printed_->Pages(2).first().simplified(), QStringLiteral("Two"));
+    }
+
+    void the_pane_stays_as_it_was()
+    {
+        Print(Lines(1, 5) + Picture(4000, 20000));
+        const QString text = txtForm->rtbText.Text();
+        const QImage before = txtForm->rtbText.Widget().grab().toImage();
+        PrintRichText(txtForm->rtbText, 1440, 1440, 1440, 1440);
+        QCOMPARE(txtForm->rtbText.Text(), text);
+        QCOMPARE(txtForm->rtbText.Widget().grab().toImage(), before);
+        QCOMPARE(printed_->Pages(2).join(QString()), printed_->Pages(1).join(QString()));
+    }
+
+    void a_printer_that_fails_is_the_callers_failure()
+    {
+        Printer.PrintTo(QStringLiteral("/proc/nothing/here"));
+        QCOMPARE(ResumeNext([&] { Print("Lost"); }), failure::printerError);
+        QVERIFY(!Printer.HasJob());
+        Printer.PrintTo(printed_->Path());
+        Print("Found");
+        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("Found"));
+    }
+
+    void margins_that_leave_no_room_are_refused()
+    {
+        QCOMPARE(ResumeNext([&] { Print("Text", 9000, 1440, 9000, 1440); }), failure::invalidCall);
+        QCOMPARE(ResumeNext([&] { Print("Text", 1440, 12000, 1440, 12000); }), failure::invalidCall);
+    }
+
+private:
+    void Print(const QByteArray& rtf, int left = 1440, int top = 1440, int right = 1440, int bottom = 1440)
+    {
+        program_->Disc.AddFile(QStringLiteral("RichText/text.rtf"),
+                               "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs24 " + rtf + "}");
+        PrintFile(QStringLiteral("text.rtf"), left, top, right, bottom);
+    }
+
+    void PrintFile(const QString& name, int left, int top, int right, int bottom)
+    {
+        txtForm->rtbText.SetFileName(QStringLiteral("G:\\RichText\\") + name);
+        PrintRichText(txtForm->rtbText, left, top, right, bottom);
+    }
+
+    std::unique_ptr<Program> program_;
+    std::unique_ptr<PrintFolder> printed_;
+};
+
+QTEST_MAIN(RichTextPrintingTest)
+#include "rich_text_printing_test.moc"
