@@ -1,5 +1,7 @@
 #include "local/frm_ss_photo.h"
 
+#include "ui/screen.h"
+
 namespace torvik {
 
 namespace {
@@ -18,6 +20,8 @@ FormDesign DesignOfPlayList()
 
 frmSSPhotoControls::frmSSPhotoControls() : Form(DesignOfPlayList())
 {
+    SetLeft((Screen.Width() - Width()) / 2);
+    SetTop((Screen.Height() - Height()) / 2);
     Picture1.Show(Picture::FromResource(QStringLiteral(":/assets/icon.png")));
     ProgressGuage.SetFloodPercent(0);
 }
