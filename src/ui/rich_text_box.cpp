@@ -6,6 +6,7 @@
 
 #include <QDesktopServices>
 #include <QPointer>
+#include <QScrollBar>
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QUrl>
@@ -49,6 +50,9 @@ void RichTextBox::SetFileName(const QString& path)
     const QPointer<QTextDocument> earlier = pane_->document(); // the pane's own first one it deletes itself
     pane_->setDocument(shown);
     delete earlier;
+    // The pane has brought its cursor into view, a little below the top.
+    pane_->verticalScrollBar()->setValue(0);
+    pane_->horizontalScrollBar()->setValue(0);
     fileName_ = path;
     UpdateAccessibleText();
 }

@@ -41,6 +41,14 @@ private Q_SLOTS:
                  QStringLiteral("/p"));
     }
 
+    void the_print_folder_is_taken_in_both_spellings()
+    {
+        QCOMPARE(ReadCommandLine({QStringLiteral("--print-to"), QStringLiteral("/p")}).PrintFolder,
+                 QStringLiteral("/p"));
+        QCOMPARE(ReadCommandLine({QStringLiteral("--print-to=/p")}).PrintFolder, QStringLiteral("/p"));
+        QVERIFY(ReadCommandLine({}).PrintFolder.isEmpty());
+    }
+
     void help_and_version_have_short_forms()
     {
         QVERIFY(ReadCommandLine({QStringLiteral("--help")}).Help);
@@ -57,6 +65,7 @@ private Q_SLOTS:
         QTest::newRow("no folder") << QStringList{QStringLiteral("--drive"), QStringLiteral("E=")};
         QTest::newRow("no value") << QStringList{QStringLiteral("--drive")};
         QTest::newRow("no program folder") << QStringList{QStringLiteral("--program-folder")};
+        QTest::newRow("no print folder") << QStringList{QStringLiteral("--print-to")};
         QTest::newRow("unknown option") << QStringList{QStringLiteral("--frobnicate")};
     }
 
@@ -69,8 +78,8 @@ private Q_SLOTS:
     void the_help_names_every_option()
     {
         for (const QString& option :
-             {QStringLiteral("--drive"), QStringLiteral("--program-folder"), QStringLiteral("--help"),
-              QStringLiteral("--version"), QStringLiteral("FOLDER")})
+             {QStringLiteral("--drive"), QStringLiteral("--program-folder"), QStringLiteral("--print-to"),
+              QStringLiteral("--help"), QStringLiteral("--version"), QStringLiteral("FOLDER")})
             QVERIFY(HelpText().contains(option));
     }
 };
