@@ -1,6 +1,6 @@
 #include "platform/environment.h"
 
-#include <QtGlobal>
+#include <QByteArray>
 
 namespace torvik {
 

@@ -22,7 +22,7 @@ QString NextJobFile(const QString& hostFolder)
     if (!folder.mkpath(QStringLiteral(".")))
         Fail(failure::pathNotFound);
     for (int number = 1;; ++number) {
-        const QString path = folder.filePath(QStringLiteral("job-%1.pdf").arg(number));
+        QString path = folder.filePath(QStringLiteral("job-%1.pdf").arg(number));
         const QFileInfo taken(path);
         if (!taken.exists() && !taken.isSymLink())
             return path;

@@ -53,7 +53,7 @@ bool IsPlainName(const QString& program)
 /// The host's file of a program. Failure 53 when there is none.
 QString ProgramFile(const QString& program)
 {
-    const QString file = IsPlainName(program) ? QStandardPaths::findExecutable(program) : HostPath(program);
+    QString file = IsPlainName(program) ? QStandardPaths::findExecutable(program) : HostPath(program);
     if (file.isEmpty() || !QFileInfo(file).isFile())
         Fail(failure::fileNotFound);
     return file;

@@ -69,7 +69,7 @@ QString WindowsFolder()
 QString UserDataFolder()
 {
     const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    const QString folder = base + QStringLiteral("/torvik2001");
+    QString folder = base + QStringLiteral("/torvik2001");
     Make(folder);
     return folder;
 }

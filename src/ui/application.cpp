@@ -29,7 +29,7 @@ Application::Application(int& argc, char** argv) : application_(MakeApplication(
     QApplication::setApplicationName(QStringLiteral("torvik2001"));
     QApplication::setDesktopFileName(QStringLiteral("torvik2001"));
     QApplication::setQuitOnLastWindowClosed(false);
-    ApplyLook(*application_);
+    ApplyLook();
     RaisePictureLimit();
 }
 

@@ -56,11 +56,11 @@ void DrawEdges(QPainter& painter, const QRectF& area, const QColor& upperLeft, c
 
 } // namespace
 
-void ApplyLook(QApplication& application)
+void ApplyLook()
 {
     QApplication::setStyle(new LookStyle);
-    application.setPalette(ProgramPalette());
-    application.setFont(ProgramFont());
+    QApplication::setPalette(ProgramPalette());
+    QApplication::setFont(ProgramFont());
     QToolTip::setPalette(ProgramPalette());
     QToolTip::setFont(ProgramFont());
 }

@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QRectF>
 
-class QApplication;
 class QFont;
 class QPainter;
 class QString;
@@ -34,7 +33,7 @@ enum class Bevel {
 };
 
 /// Gives the application its style, palette and fonts, whatever the desktop's own are.
-void ApplyLook(QApplication& application);
+void ApplyLook();
 
 /// `area` with its edges moved to the device's nearest pixels, so that what ends there is sharp at any scale
 /// factor.

@@ -209,9 +209,8 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_MenuBarHMargin:
     case PM_MenuBarVMargin:
     case PM_MenuBarPanelWidth:
-        return 0; // the bar is as high as one line of its entries
     case PM_MenuBarItemSpacing:
-        return 0;
+        return 0; // the bar is as high as one line of its entries
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:

@@ -28,7 +28,7 @@ class LookStyleTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { ApplyLook(*qApp); }
+    void initTestCase() { ApplyLook(); }
 
     void boxes_for_text_and_lists_are_sunken()
     {

@@ -58,7 +58,7 @@ class LookTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { ApplyLook(*qApp); }
+    void initTestCase() { ApplyLook(); }
 
     void every_text_stands_out_from_its_ground()
     {

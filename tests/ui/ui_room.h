@@ -20,7 +20,7 @@ public:
     UiRoom()
     {
         static const bool looks = [] {
-            ApplyLook(*qApp);
+            ApplyLook();
             return true;
         }();
         Q_UNUSED(looks)
