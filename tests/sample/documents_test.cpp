@@ -112,10 +112,10 @@ void DocumentsTest::EveryArticleOfTheLibraryIsThere_data()
     row("ptdesc.rtf", "Early prototypes");
     row("sbcolors.rtf", "Harwell Cream");
     row("sbopts.rtf", "Options of the Classic Harwell");
-    row("sbstats.rtf", "The Classic Harwell: specifications");
-    row("m1stats.rtf", "Torvik Kestra I: specifications");
-    row("m3stats.rtf", "Torvik Kestra III: specifications");
-    row("msstats.rtf", "Torvik Super Stallion: specifications");
+    row("sbstats.rtf", "The Classic Harwell: data sheet");
+    row("m1stats.rtf", "Torvik Kestra I: data sheet");
+    row("m3stats.rtf", "Torvik Kestra III: data sheet");
+    row("msstats.rtf", "Torvik Super Stallion: data sheet");
     row("books.rtf", "The Long Bonnet");
     row("catalogs.rtf", "67-C-1");
     row("magmi.rtf", "Torvik Illustrated");
