@@ -6,29 +6,65 @@
 
 #include <cstdio>
 #include <exception>
+#include <functional>
+#include <vector>
 
-/// Usage: make_sample DISC_FOLDER PROGRAM_FOLDER, or make_sample --assets FOLDER.
+namespace {
+
+using namespace torvik::sample;
+
+/// A part of the disc that can be made by itself.
+struct Part {
+    const char* Name;
+    std::function<void(const QString& disc, const QString& program)> Make;
+};
+
+const std::vector<Part>& Parts()
+{
+    static const std::vector<Part> parts{
+        {"photos", [](const QString& disc, const QString&) { MakePhotos(disc); }},
+        {"captions", [](const QString& disc, const QString&) { MakeCaptions(disc); }},
+        {"documents", [](const QString& disc, const QString&) { MakeDocuments(disc); }},
+        {"opening", MakeOpeningPicture},
+        {"passby", [](const QString&, const QString& program) { MakePassBySound(program); }},
+    };
+    return parts;
+}
+
+int ShowUsage()
+{
+    std::fputs("usage: make_sample DISC_FOLDER PROGRAM_FOLDER [PART...]\n"
+               "       make_sample --assets FOLDER\nparts:",
+               stderr);
+    for (const Part& part : Parts())
+        std::fprintf(stderr, " %s", part.Name);
+    std::fputs("\n", stderr);
+    return 2;
+}
+
+bool IsWanted(const Part& part, const QStringList& wanted)
+{
+    return wanted.isEmpty() || wanted.contains(QLatin1String(part.Name));
+}
+
+} // namespace
+
+/// Makes a whole disc, or the named parts of it.
 int main(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
-    const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() != 3) {
-        std::fputs("usage: make_sample DISC_FOLDER PROGRAM_FOLDER\n       make_sample --assets FOLDER\n",
-                   stderr);
-        return 2;
-    }
+    const QStringList arguments = QGuiApplication::arguments().mid(1);
+    if (arguments.size() < 2)
+        return ShowUsage();
     try {
-        if (arguments[1] == QLatin1String("--assets")) {
-            torvik::sample::MakeAssets(arguments[2]);
+        if (arguments[0] == QLatin1String("--assets")) {
+            MakeAssets(arguments[1]);
             return 0;
         }
-        const QString& disc = arguments[1];
-        const QString& program = arguments[2];
-        torvik::sample::MakePhotos(disc);
-        torvik::sample::MakeCaptions(disc);
-        torvik::sample::MakeDocuments(disc);
-        torvik::sample::MakeOpeningPicture(disc, program);
-        torvik::sample::MakePassBySound(program);
+        for (const Part& part : Parts()) {
+            if (IsWanted(part, arguments.mid(2)))
+                part.Make(arguments[0], arguments[1]);
+        }
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "make_sample: %s\n", failure.what());
         return 1;

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "shell/form1_menu.h"
-#include "shell/form1_panels.h"
+#include "shell/print_panel.h"
+#include "shell/progress_panel.h"
+#include "shell/saver_panel.h"
+#include "shell/sound_panel.h"
 #include "ui/button.h"
 #include "ui/control_array.h"
 #include "ui/form.h"
