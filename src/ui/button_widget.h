@@ -18,9 +18,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
-private:
-    void PaintContent(QPainter& painter, const QRectF& area) const;
+    /// Draws what stands on the button, in the area inside its bevel.
+    virtual void PaintContent(QPainter& painter, const QRectF& area) const;
 
+private:
     Symbol symbol_ = Symbol::None;
 };
 
