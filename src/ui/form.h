@@ -129,6 +129,7 @@ private:
     void ApplyPlace();
     void Unsettle();
     void Settle();
+    void TakePlace();
     void WindowMoved();
     void WindowResized();
     void WindowActivated();

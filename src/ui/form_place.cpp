@@ -14,7 +14,7 @@ namespace torvik {
 namespace {
 
 constexpr int captionHeight = 19; // pixels
-constexpr int calm = 120;         // milliseconds without news after which a window is taken to be settled
+constexpr int calm = 60;          // milliseconds without news after which a window is taken to be settled
 constexpr int longestUnsettled = 2000; // milliseconds
 constexpr int mostCorrections = 2;
 
@@ -148,7 +148,9 @@ void Form::ApplyPlace()
 }
 
 /// Right after the program placed a window, the desktop frames and moves it in steps of its own. None of them
-/// is the user's doing, so none becomes the form's measure; when it is calm again, the result is looked at.
+/// is the user's doing, so none becomes the form's measure; when it is calm again, the result is looked at: a
+/// place that went wrong on the way is put right, but a size that differs then was given by the user or is
+/// one that the desktop insists on.
 void Form::Unsettle()
 {
     settled_ = false;
@@ -165,14 +167,15 @@ void Form::Settle()
             settling_->start(calm);
             return;
         }
-        const bool right = window_->pos() == WantedPlace() && window_->size() == WantedSize();
-        if (!right && corrections_ > 0) {
+        const bool sized = window_->size() != WantedSize();
+        if (!sized && window_->pos() != WantedPlace() && corrections_ > 0) {
             --corrections_;
-            window_->resize(WantedSize());
             window_->move(WantedPlace());
             settling_->start(calm);
             return;
         }
+        if (sized)
+            TakePlace();
     }
     settled_ = true;
     restsAt_ = window_->pos(); // a desktop may insist on a place; the form's own stays what the program said
@@ -190,8 +193,13 @@ void Form::WindowMoved()
     if (covering_ || !window_->isVisible() || WindowState() != State::Normal || now == restsAt_)
         return;
     restsAt_ = now;
-    place_.Left = now.x() * twipsPerPixel;
-    place_.Top = now.y() * twipsPerPixel;
+    TakePlace();
+}
+
+void Form::TakePlace()
+{
+    place_.Left = window_->pos().x() * twipsPerPixel;
+    place_.Top = window_->pos().y() * twipsPerPixel;
 }
 
 /// The desktop or the user sized the window; the program's own sizing has told its measures before.

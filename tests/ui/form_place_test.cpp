@@ -85,6 +85,25 @@ private Q_SLOTS:
         QCOMPARE(FrameCorner(), QPoint(100, 100));
     }
 
+    void a_size_that_comes_while_the_window_settles_is_kept_with_its_place()
+    {
+        Main->SetLeft(1500);
+        Main->SetTop(1500);
+        Main->Show();
+        int resizes = 0;
+        Main->Resize = [&] { ++resizes; };
+        Main->Window().resize(500, 400);
+        Main->Window().move(40, 30);
+        QVERIFY(Main->IsSettling());
+        QTRY_VERIFY(!Main->IsSettling());
+        QCOMPARE(Main->Window().size(), QSize(500, 400));
+        QCOMPARE(FrameCorner(), QPoint(40, 30));
+        QCOMPARE(Main->Width(), 7500.0);
+        QCOMPARE(Main->Left(), 600.0);
+        QCOMPARE(Main->Top(), 450.0);
+        QCOMPARE(resizes, 1);
+    }
+
     void a_size_that_the_user_gave_is_the_forms_own_and_runs_resize()
     {
         Main->Show();
