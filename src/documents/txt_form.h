@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/button.h"
+#include "ui/common_dialog.h"
 #include "ui/form.h"
 #include "ui/rich_text_box.h"
 
@@ -24,6 +25,8 @@ struct txtFormControls : Form {
     Button cmdPrint{*this, QStringLiteral("cmdPrint"), {7440, 6360, 375, 375}};
     Button SSCommand2{*this, QStringLiteral("SSCommand2"), {6480, 6360, 390, 375}};
     Button SSCommand3{*this, QStringLiteral("SSCommand3"), {6960, 6360, 375, 375}};
+
+    CommonDialog CommonDialog1{QStringLiteral("CommonDialog1")};
 };
 
 inline FormHandle<txtFormControls> txtForm;

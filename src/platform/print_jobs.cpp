@@ -29,6 +29,22 @@ QString NextJobFile(const QString& hostFolder)
     }
 }
 
+QString UnfinishedJobFile(const QString& hostPath)
+{
+    return hostPath + QStringLiteral(".part");
+}
+
+bool KeepJobFile(const QString& hostPath)
+{
+    const QString unfinished = UnfinishedJobFile(hostPath);
+    return IsWholeJobFile(unfinished) && QFile::rename(unfinished, hostPath);
+}
+
+void DropJobFile(const QString& hostPath)
+{
+    QFile::remove(UnfinishedJobFile(hostPath));
+}
+
 bool IsWholeJobFile(const QString& hostPath)
 {
     constexpr qint64 tail = 32; // bytes

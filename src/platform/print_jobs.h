@@ -12,6 +12,15 @@ QString DocumentsFolder();
 /// made.
 QString NextJobFile(const QString& hostFolder);
 
+/// Where a job's file is written until it is whole, so that none that is cut off bears the job's name.
+QString UnfinishedJobFile(const QString& hostPath);
+
+/// Gives the unfinished file of a job the job's name. False when it is not whole or the name is taken.
+bool KeepJobFile(const QString& hostPath);
+
+/// Removes the unfinished file of a job.
+void DropJobFile(const QString& hostPath);
+
 /// Whether a job's file on the host is complete. A full disk cuts it short without a word.
 bool IsWholeJobFile(const QString& hostPath);
 

@@ -39,6 +39,13 @@ FormDesign DesignOfForm1()
     return design;
 }
 
+/// Nothing opens a file with this dialog, so what it was once drawn with is never seen.
+CommonDialogDesign DesignOfCommonDialog()
+{
+    return {QStringLiteral("cbl"), QStringLiteral("Select COBOL Source File"),
+            QStringLiteral("*.cbl|*.cbl|*.cob|*.cob|All (*.*)|*.*")};
+}
+
 } // namespace
 
 Form1Controls::Form1Controls()
@@ -46,7 +53,8 @@ Form1Controls::Form1Controls()
       ProgressPanel(static_cast<Form&>(*this)), PrintPanel(static_cast<Form&>(*this)),
       SoundPanel(static_cast<Form&>(*this)),
       cmdSlide(Frame1, QStringLiteral("cmdSlide"), {6360, 360, 2685, 375}, QStringLiteral("SlideShow")),
-      cmdExit(Frame1, QStringLiteral("cmdExit"), {9000, 360, 2685, 375}, QStringLiteral("Exit"))
+      cmdExit(Frame1, QStringLiteral("cmdExit"), {9000, 360, 2685, 375}, QStringLiteral("Exit")),
+      dlgCommon1(QStringLiteral("dlgCommon1"), DesignOfCommonDialog())
 {
     for (int index = 1; index <= yearCount; ++index)
         cmdYR.Add(index, Frame1, PlaceOfYearButton(index), CaptionOfYearButton(index));

@@ -6,6 +6,7 @@
 #include "shell/saver_panel.h"
 #include "shell/sound_panel.h"
 #include "ui/button.h"
+#include "ui/common_dialog.h"
 #include "ui/control_array.h"
 #include "ui/form.h"
 #include "ui/frame.h"
@@ -70,6 +71,8 @@ struct Form1Controls : Form, Form1Menu, SaverPanel, ProgressPanel, PrintPanel, S
     Button cmdExit;
 
     MediaControl MMControl1{QStringLiteral("MMControl1")};
+    CommonDialog dlgCommon1;
+    CommonDialog dlgPrint{QStringLiteral("dlgPrint")};
 };
 
 inline FormHandle<Form1Controls> Form1;

@@ -2,15 +2,13 @@
 
 #include "platform/failure.h"
 #include "platform/print_jobs.h"
-#include "ui/application.h"
+#include "ui/picture.h"
+#include "ui/print_job.h"
+#include "ui/printer_dialog.h"
+#include "ui/units.h"
 
 #include <QCoreApplication>
-#include <QFontMetricsF>
 #include <QLocale>
-#include <QPageLayout>
-#include <QPageSize>
-#include <QPainter>
-#include <QPrinter>
 #include <QPrinterInfo>
 
 namespace torvik {
@@ -18,9 +16,6 @@ namespace torvik {
 namespace {
 
 constexpr double twipsPerInch = 1440;
-constexpr int fileResolution = 600; // pixels to the inch
-constexpr double fileOffset = 18;   // points: a border that any printer leaves, a quarter of an inch
-constexpr double lineFontSize = 10; // points
 
 QPageSize UsualPaper()
 {
@@ -28,13 +23,16 @@ QPageSize UsualPaper()
     return QPageSize(american ? QPageSize::Letter : QPageSize::A4);
 }
 
-QFont LineFont()
+QList<QPageSize> PapersOfFiles()
 {
-    QFont font;
-    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial"), QStringLiteral("Helvetica"),
-                      QStringLiteral("DejaVu Sans")});
-    font.setPointSizeF(lineFontSize);
-    return font;
+    return {QPageSize(QPageSize::A4), QPageSize(QPageSize::Letter), QPageSize(QPageSize::Legal),
+            QPageSize(QPageSize::A3), QPageSize(QPageSize::A5)};
+}
+
+QList<QPageSize> PapersOf(const QPrinterInfo& printer)
+{
+    const QList<QPageSize> papers = printer.supportedPageSizes();
+    return papers.isEmpty() ? PapersOfFiles() : papers;
 }
 
 /// A job that is open when the program ends goes out as it is.
@@ -45,50 +43,6 @@ void EndOpenJob()
 
 } // namespace
 
-/// A printer that prints, and where it stands on the page. Lengths are the printer's pixels.
-struct PrinterObject::Job {
-    QPrinter Device;
-    QPainter Painter;
-    QMarginsF Offsets;
-    double LineTop = 0;
-
-    explicit Job(const QPrinterInfo& printer) : Device(printer, QPrinter::HighResolution) {}
-
-    explicit Job(const QString& file) : Device(QPrinter::HighResolution)
-    {
-        Device.setOutputFormat(QPrinter::PdfFormat);
-        Device.setOutputFileName(file);
-        Device.setResolution(fileResolution);
-        Device.setPageSize(UsualPaper());
-    }
-
-    bool Begin()
-    {
-        Device.setDocName(applicationTitle);
-        Device.setCreator(applicationTitle);
-        Device.setFullPage(true);
-        const bool toFile = Device.outputFormat() == QPrinter::PdfFormat;
-        const double pixelsPerPoint = Device.resolution() / 72.0;
-        const QMarginsF border = toFile ? QMarginsF(fileOffset, fileOffset, fileOffset, fileOffset)
-                                        : Device.pageLayout().minimumMargins();
-        Offsets = border * pixelsPerPoint;
-        if (!Painter.begin(&Device))
-            return false;
-        Painter.translate(Offsets.left(), Offsets.top());
-        Painter.setFont(LineFont());
-        return true;
-    }
-
-    bool End()
-    {
-        const bool sent = Painter.end() && Device.printerState() != QPrinter::Error;
-        return sent &&
-               (Device.outputFormat() != QPrinter::PdfFormat || IsWholeJobFile(Device.outputFileName()));
-    }
-
-    QSizeF Paper() const { return Device.paperRect(QPrinter::DevicePixel).size(); }
-};
-
 PrinterObject::PrinterObject() = default;
 PrinterObject::~PrinterObject() = default;
 
@@ -97,7 +51,44 @@ void PrinterObject::PrintTo(const QString& hostFolder)
     folder_ = hostFolder;
 }
 
-PrinterObject::Job& PrinterObject::OpenJob()
+QString PrinterObject::FileFolder() const
+{
+    return folder_.isEmpty() ? DocumentsFolder() : folder_;
+}
+
+PrinterSetup PrinterObject::Setup() const
+{
+    PrinterSetup setup = chosen_.value_or(PrinterSetup{QPrinterInfo::defaultPrinterName(), {}, {}});
+    if (!folder_.isEmpty())
+        setup.Name.clear();
+    if (!setup.Paper.isValid())
+        setup.Paper = QPrinterInfo::printerInfo(setup.Name).defaultPageSize();
+    if (!setup.Paper.isValid())
+        setup.Paper = UsualPaper();
+    return setup;
+}
+
+QList<PrinterOption> PrinterObject::Choices() const
+{
+    QList<PrinterOption> choices;
+    const QStringList names = folder_.isEmpty() ? QPrinterInfo::availablePrinterNames() : QStringList();
+    for (const QString& name : names)
+        choices.append({name, name, PapersOf(QPrinterInfo::printerInfo(name))});
+    choices.append({QString(), QStringLiteral("PDF files in ") + FileFolder(), PapersOfFiles()});
+    return choices;
+}
+
+std::unique_ptr<PrintJob> PrinterObject::MakeJob() const
+{
+    const PrinterSetup setup = Setup();
+    if (setup.Name.isEmpty())
+        return std::make_unique<PrintJob>(setup, NextJobFile(FileFolder()));
+    if (QPrinterInfo::printerInfo(setup.Name).isNull())
+        Fail(failure::printerError); // it has been taken away since it was chosen
+    return std::make_unique<PrintJob>(setup);
+}
+
+PrintJob& PrinterObject::OpenJob()
 {
     if (job_ != nullptr)
         return *job_;
@@ -107,16 +98,8 @@ PrinterObject::Job& PrinterObject::OpenJob()
     }();
     Q_UNUSED(watchesTheEnd)
 
-    const QPrinterInfo printer = folder_.isEmpty() ? QPrinterInfo::defaultPrinter() : QPrinterInfo();
-    if (!printer.isNull()) {
-        job_ = std::make_unique<Job>(printer);
-    } else {
-        QString file;
-        if (ResumeNext([&] { file = NextJobFile(folder_.isEmpty() ? DocumentsFolder() : folder_); }) != 0)
-            Fail(failure::printerError);
-        job_ = std::make_unique<Job>(file);
-    }
-    if (!job_->Begin())
+    const int error = ResumeNext([this] { job_ = MakeJob(); });
+    if (error != 0 || !job_->Begin())
         FailJob();
     return *job_;
 }
@@ -129,18 +112,22 @@ void PrinterObject::FailJob()
 
 void PrinterObject::Print(const QString& text)
 {
-    Job& job = OpenJob();
-    const QFontMetricsF metrics(job.Painter.font(), &job.Device);
-    job.Painter.drawText(QPointF(0, job.LineTop + metrics.ascent()), text);
-    job.LineTop += metrics.lineSpacing();
+    OpenJob().Print(text);
+}
+
+void PrinterObject::PaintPicture(const Picture& picture, double x, double y)
+{
+    PrintJob& job = OpenJob();
+    const double pixel = TwipsToPixel();
+    const QRectF place(QPointF(x, y) / pixel, QSizeF(picture.NaturalSize()) * twipsPerPixel / pixel);
+    if (!picture.IsEmpty())
+        job.Painter().drawImage(place, picture.Natural());
 }
 
 void PrinterObject::NewPage()
 {
-    Job& job = OpenJob();
-    if (!job.Device.newPage())
+    if (!OpenJob().NewPage())
         FailJob();
-    job.LineTop = 0;
 }
 
 void PrinterObject::EndDoc()
@@ -152,7 +139,7 @@ void PrinterObject::EndDoc()
 
 double PrinterObject::TwipsToPixel()
 {
-    return twipsPerInch / OpenJob().Device.resolution();
+    return twipsPerInch / OpenJob().Resolution();
 }
 
 double PrinterObject::Width()
@@ -167,29 +154,29 @@ double PrinterObject::Height()
 
 double PrinterObject::ScaleWidth()
 {
-    const Job& job = OpenJob();
-    return (job.Paper().width() - job.Offsets.left() - job.Offsets.right()) * TwipsToPixel();
+    const PrintJob& job = OpenJob();
+    return (job.Paper().width() - job.Offsets().left() - job.Offsets().right()) * TwipsToPixel();
 }
 
 double PrinterObject::ScaleHeight()
 {
-    const Job& job = OpenJob();
-    return (job.Paper().height() - job.Offsets.top() - job.Offsets.bottom()) * TwipsToPixel();
+    const PrintJob& job = OpenJob();
+    return (job.Paper().height() - job.Offsets().top() - job.Offsets().bottom()) * TwipsToPixel();
 }
 
 double PrinterObject::PhysicalOffsetX()
 {
-    return OpenJob().Offsets.left();
+    return OpenJob().Offsets().left();
 }
 
 double PrinterObject::PhysicalOffsetY()
 {
-    return OpenJob().Offsets.top();
+    return OpenJob().Offsets().top();
 }
 
 QPainter& PrinterObject::Painter()
 {
-    return OpenJob().Painter;
+    return OpenJob().Painter();
 }
 
 } // namespace torvik

@@ -21,7 +21,7 @@ bool IsRed(const QColor& colour)
 }
 
 /// A red picture of that size in twips, as rich text carries it.
-QByteArray Picture(int width, int height)
+QByteArray RtfPicture(int width, int height)
 {
     QImage image(30, 30, QImage::Format_RGB32);
     image.fill(QColor(220, 20, 20));
@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     void the_margins_count_from_the_edges_of_the_paper()
     {
-        Print(Picture(1000, 1000), 2000, 3000, 1000, 1500);
+        Print(RtfPicture(1000, 1000), 2000, 3000, 1000, 1500);
         const QRectF picture = InkOf(printed_->Image(1, 1), IsRed);
         QVERIFY2(qAbs(picture.left() - 2000) <= pixel, qPrintable(QString::number(picture.left())));
         QVERIFY2(qAbs(picture.top() - 3000) <= pixel, qPrintable(QString::number(picture.top())));
@@ -143,7 +143,7 @@ private Q_SLOTS:
 
     void a_picture_that_fits_a_page_moves_to_the_next_as_a_whole()
     {
-        Print(Lines(1, 40) + Picture(4000, 6000) + "\\par\n" + Lines(41, 42));
+        Print(Lines(1, 40) + RtfPicture(4000, 6000) + "\\par\n" + Lines(41, 42));
         QCOMPARE(printed_->Pages(1).size(), 2);
         QVERIFY(InkOf(printed_->Image(1, 1), IsRed).isNull());
         const QRectF picture = InkOf(printed_->Image(1, 2), IsRed);
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QFETCH(int, width);
         QFETCH(int, height);
         QFETCH(QByteArray, before);
-        Print(before + Picture(width, height) + "\\par after");
+        Print(before + RtfPicture(width, height) + "\\par after");
         const QSizeF paper = printed_->Paper(1);
         QRectF picture;
         int pagesWithPicture = 0;
@@ -210,7 +210,7 @@ private Q_SLOTS:
         QFETCH(int, height);
         Print(Lines(1, 30) +
               "\\trowd\\trgaph100\\clbrdrb\\brdrs\\cellx4500\\cellx9000\\pard\\intbl left\\cell " +
-              Picture(3000, height) + "\\cell\\row\\pard after");
+              RtfPicture(3000, height) + "\\cell\\row\\pard after");
         int pagesWithPicture = 0;
         for (int page = 1; page <= printed_->Pages(1).size(); ++page)
             pagesWithPicture += InkOf(printed_->Image(1, page), IsRed).isNull() ? 0 : 1;
@@ -219,7 +219,7 @@ private Q_SLOTS:
 
     void indents_keep_their_measure_on_paper()
     {
-        Print("\\li1440\\fi720\\ri2880 " + Picture(300, 300) +
+        Print("\\li1440\\fi720\\ri2880 " + RtfPicture(300, 300) +
               " first line that is long enough to be broken before "
               "the right indent, and its second line\\par");
         const QRectF picture = InkOf(printed_->Image(1, 1), IsRed);
@@ -232,7 +232,7 @@ private Q_SLOTS:
 
     void tabs_keep_their_measure_on_paper()
     {
-        Print("\\tx4320\\tab " + Picture(300, 300) + "\\par");
+        Print("\\tx4320\\tab " + RtfPicture(300, 300) + "\\par");
         const QRectF picture = InkOf(printed_->Image(1, 1), IsRed);
         QVERIFY2(qAbs(picture.left() - (inch + 4320)) <= pixel, qPrintable(QString::number(picture.left())));
     }
@@ -286,7 +286,7 @@ private Q_SLOTS:
 
     void the_pane_stays_as_it_was()
     {
-        Print(Lines(1, 5) + Picture(4000, 20000));
+        Print(Lines(1, 5) + RtfPicture(4000, 20000));
         const QString text = txtForm->rtbText.Text();
         const QImage before = txtForm->rtbText.Widget().grab().toImage();
         PrintRichText(txtForm->rtbText, 1440, 1440, 1440, 1440);

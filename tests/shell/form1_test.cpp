@@ -1,3 +1,4 @@
+#include "documents/txt_form.h"
 #include "shell/form1.h"
 #include "support/program.h"
 
@@ -149,6 +150,19 @@ private Q_SLOTS:
         QVERIFY(Form1->panYear.Width() > needed);
         Form1->panYear.SetCaption(QStringLiteral("1967"));
         QCOMPARE(Form1->panYear.Width(), 54.0);
+    }
+
+    void the_common_dialogs_are_there_with_their_stored_properties()
+    {
+        QCOMPARE(Form1->dlgPrint.objectName(), QStringLiteral("dlgPrint"));
+        QCOMPARE(Form1->dlgCommon1.objectName(), QStringLiteral("dlgCommon1"));
+        QCOMPARE(Form1->dlgCommon1.DefaultExt(), QStringLiteral("cbl"));
+        QCOMPARE(Form1->dlgCommon1.DialogTitle(), QStringLiteral("Select COBOL Source File"));
+        QCOMPARE(Form1->dlgCommon1.Filter(), QStringLiteral("*.cbl|*.cbl|*.cob|*.cob|All (*.*)|*.*"));
+        QCOMPARE(txtForm->CommonDialog1.objectName(), QStringLiteral("CommonDialog1"));
+        QCOMPARE(txtForm->CommonDialog1.DefaultExt() + txtForm->CommonDialog1.DialogTitle() +
+                     txtForm->CommonDialog1.Filter(),
+                 QString());
     }
 
 private:

@@ -1,0 +1,24 @@
+#include "ui/common_dialog.h"
+
+#include "platform/failure.h"
+#include "ui/printer.h"
+#include "ui/printer_dialog.h"
+
+#include <utility>
+
+namespace torvik {
+
+CommonDialog::CommonDialog(const QString& name, CommonDialogDesign design) : design_(std::move(design))
+{
+    setObjectName(name);
+}
+
+void CommonDialog::SetAction(int action)
+{
+    if (action != commonDialog::showPrinter)
+        Fail(failure::invalidProperty);
+    if (const auto chosen = AskForPrinter(Printer.Setup(), Printer.Choices()))
+        Printer.SetUp(*chosen);
+}
+
+} // namespace torvik
