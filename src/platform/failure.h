@@ -35,6 +35,7 @@ inline constexpr int deviceIo = 57;           ///< Device I/O error
 inline constexpr int fileExists = 58;         ///< File already exists
 inline constexpr int diskFull = 61;           ///< Disk full
 inline constexpr int deviceUnavailable = 68;  ///< Device unavailable
+inline constexpr int inputPastEnd = 62;       ///< Input past end of file
 inline constexpr int permissionDenied = 70;   ///< Permission denied
 inline constexpr int diskNotReady = 71;       ///< Disk not ready
 inline constexpr int pathFileAccess = 75;     ///< Path/File access error

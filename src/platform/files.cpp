@@ -2,8 +2,8 @@
 
 #include "platform/drives.h"
 #include "platform/failure.h"
-#include "platform/folder_reader.h"
 #include "platform/host_name.h"
+#include "platform/matching_names.h"
 #include "platform/name_pattern.h"
 #include "platform/open_file.h"
 #include "platform/path_lookup.h"
@@ -22,12 +22,6 @@ namespace {
 
 /// What fits into the address space of the machines that the program is made for.
 constexpr qint64 largestContent = std::numeric_limits<qint32>::max();
-
-/// Where the last component of a path begins.
-qsizetype BeginOfName(const QString& path)
-{
-    return std::max(path.lastIndexOf(u'\\'), path.lastIndexOf(u'/')) + 1;
-}
 
 bool Status(const std::string& path, struct stat& status)
 {
@@ -74,27 +68,7 @@ void DropCaseClashes(std::vector<std::string>& names)
 
 QStringList FilesMatching(const QString& pattern)
 {
-    const qsizetype begin = BeginOfName(pattern);
-    const std::string folder = HostPathBytes(pattern.left(begin));
-    const QStringView namePattern = QStringView(pattern).mid(begin);
-    const NamePattern wanted(namePattern);
-    const bool hiddenToo = namePattern.startsWith(u'.');
-
-    FolderReader reader(folder);
-    if (reader.Error() == ENOENT || reader.Error() == ENOTDIR)
-        return {};
-    std::vector<std::string> names;
-    reader.ForEach([&](std::string_view name, EntryKind kind) {
-        const bool isHidden = name.front() == '.' && !hiddenToo;
-        if (kind == EntryKind::Folder || kind == EntryKind::Other || isHidden || !wanted.Matches(name))
-            return;
-        std::string file(name);
-        if (kind == EntryKind::File || reader.Look(file) == EntryKind::File)
-            names.push_back(std::move(file));
-    });
-    if (reader.Error() != 0)
-        Fail(failure::pathFileAccess);
-
+    std::vector<std::string> names = NamesMatching(pattern).Names;
     DropCaseClashes(names);
     QStringList texts;
     texts.reserve(static_cast<qsizetype>(names.size()));

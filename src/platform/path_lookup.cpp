@@ -109,6 +109,11 @@ void NameAdded(const std::string& path)
         known->second.Add(folder, path.substr(slash + 1));
 }
 
+void NameRemoved(const std::string& path)
+{
+    indices.erase(path.substr(0, path.rfind('/')));
+}
+
 void ForgetFolders()
 {
     indices.clear();

@@ -18,6 +18,10 @@ std::string SpellingOnHost(const std::string& root, const std::string& path);
 /// files are made one after the other it saves the reading of their folder for each.
 void NameAdded(const std::string& path);
 
+/// Tells that the program has just removed the file or folder `path`: its folder may have changed under one
+/// time stamp, and what was learned about it does not hold any more.
+void NameRemoved(const std::string& path);
+
 /// Forgets all that was learned, as when other media come under the same folders.
 void ForgetFolders();
 
