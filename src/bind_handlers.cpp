@@ -10,6 +10,8 @@
 #include "documents/year_documents.h"
 #include "documents/year_statistics.h"
 #include "local/play_list_form.h"
+#include "printing/booklet_panel.h"
+#include "printing/print_commands.h"
 #include "shell/form1_life.h"
 #include "shell/start_up.h"
 #include "utilities/task_bar_toggle.h"
@@ -29,6 +31,8 @@ void BindHandlers()
     BindYearDocuments();
     BindYearStatistics();
     BindDocumentViewer();
+    BindBookletPanel();
+    BindPrintCommands();
     BindPlayListForm();
     BindTaskBarToggle();
 }

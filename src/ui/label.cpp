@@ -23,6 +23,17 @@ void Label::SetCaption(const QString& caption)
     UpdateAccessibleText();
 }
 
+void Label::SetCaptionFont(int pixels, bool bold, const QColor& colour)
+{
+    QFont font = label_->font();
+    font.setPixelSize(pixels);
+    font.setBold(bold);
+    label_->setFont(font);
+    QPalette palette = label_->palette();
+    palette.setColor(QPalette::WindowText, colour);
+    label_->setPalette(palette);
+}
+
 QString Label::AccessibleText() const
 {
     return Caption().isEmpty() ? Control::AccessibleText() : Caption();

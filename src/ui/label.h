@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/control.h"
+#include "ui/look.h"
 
 class QLabel;
 
@@ -13,6 +14,8 @@ public:
 
     QString Caption() const;
     void SetCaption(const QString& caption);
+    /// Size of the letters in pixels, and whether they are bold.
+    void SetCaptionFont(int pixels, bool bold, const QColor& colour = look::text);
 
 protected:
     QString AccessibleText() const override;

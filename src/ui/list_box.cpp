@@ -60,4 +60,15 @@ QString ListBox::Text() const
     return ListIndex() < 0 ? QString() : List(ListIndex());
 }
 
+void ListBox::SetSpokenAs(const QString& text)
+{
+    spokenAs_ = text;
+    UpdateAccessibleText();
+}
+
+QString ListBox::AccessibleText() const
+{
+    return spokenAs_.isEmpty() || !ToolTip().isEmpty() ? Control::AccessibleText() : spokenAs_;
+}
+
 } // namespace torvik

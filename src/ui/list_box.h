@@ -24,11 +24,16 @@ public:
     /// The text of the selected entry, empty when none is.
     QString Text() const;
 
+    /// What a screen reader calls the list, where it has no tool tip.
+    void SetSpokenAs(const QString& text);
+
 protected:
+    QString AccessibleText() const override;
     bool ClicksByMouse() const override { return false; }
 
 private:
     QListWidget* list_;
+    QString spokenAs_;
 };
 
 } // namespace torvik

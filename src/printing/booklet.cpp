@@ -1,0 +1,159 @@
+#include "printing/booklet.h"
+
+#include "platform/failure.h"
+#include "platform/text.h"
+#include "printing/rich_text_printing.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "shell/report_error.h"
+#include "ui/message_box.h"
+#include "ui/printer.h"
+#include "ui/screen.h"
+
+namespace torvik {
+
+namespace {
+
+const QString boxTitle = QStringLiteral("The Torvik Vollandry");
+const QString textFolder = QStringLiteral("\\RichText\\");
+
+constexpr int margin = 1440; // twips
+
+namespace box {
+constexpr int cover = 0;
+constexpr int introduction = 1;
+constexpr int firstByYear = 2;
+constexpr int description = 3;
+constexpr int details = 4;
+constexpr int lastByYear = 7;
+} // namespace box
+
+struct CoverPicture {
+    const char* File; ///< under the disc's root
+    double X;         ///< twips, like Y
+    double Y;
+};
+
+constexpr CoverPicture coverPictures[] = {
+    {"\\graphics\\logo.jpg", 1600, 1600},
+    {"\\clipart\\97clip.jpg", 2600, 4300},
+    {"\\graphics\\bklettxt.jpg", 500, 8800},
+    {"\\graphics\\quillon3.bmp", 2800, 12000},
+};
+
+bool IsTicked(int index)
+{
+    return Form1->Check1(index).Value();
+}
+
+bool WantsYears()
+{
+    for (state.LoopIndex = box::firstByYear; state.LoopIndex <= box::lastByYear; state.LoopIndex += 1) {
+        if (IsTicked(state.LoopIndex))
+            return true;
+    }
+    return false;
+}
+
+/// 67 to 99 for the years of the old century, 100 and 101 for those of the new one; 0 for no selection.
+int RangeNumber(const QString& year)
+{
+    if (IsNumeric(year) && ToNumber(year) > 1999)
+        return 100 + static_cast<int>(ToNumber(Mid(year, 4, 1)));
+    const QString digits = Mid(year, 3);
+    return digits.isEmpty() ? 0 : static_cast<int>(ToNumber(digits));
+}
+
+/// How the files of a year begin.
+QString YearPrefix(int number)
+{
+    return number < 100 ? QString::number(number) : QStringLiteral("A%1").arg(number - 100);
+}
+
+/// The job stays open: the first document behind the cover continues it.
+void PrintCover()
+{
+    for (const CoverPicture& picture : coverPictures) {
+        Form1->Picture3.Load(state.DiscRoot + QString::fromLatin1(picture.File));
+        Printer.PaintPicture(Form1->Picture3.Picture(), picture.X, picture.Y);
+    }
+    Printer.NewPage();
+}
+
+void PrintDocument(const QString& name)
+{
+    state.DocumentFile = state.DiscRoot + textFolder + name;
+    Form1->rtbText.SetFileName(state.DocumentFile);
+    PrintRichText(Form1->rtbText, margin, margin, margin, margin);
+}
+
+/// The other boxes by year print nothing of their own.
+void PrintYear(const QString& prefix)
+{
+    if (IsTicked(box::description))
+        PrintDocument(prefix + QStringLiteral("desc.rtf"));
+    if (!IsTicked(box::details))
+        return;
+    PrintDocument(prefix + QStringLiteral("opts.rtf"));
+    PrintDocument(prefix + QStringLiteral("stats.rtf"));
+    PrintDocument(prefix + QStringLiteral("colors.rtf"));
+}
+
+void Refuse(const QString& code)
+{
+    state.ErrorCode = code;
+    ReportError();
+    Screen.SetMousePointer(MousePointer::Default);
+}
+
+/// False when the range is none; the user knows then.
+bool PrintYears(int from, int to)
+{
+    if (from == 0 || to == 0) {
+        Refuse(QStringLiteral("ER034"));
+        return false;
+    }
+    if (to < from) {
+        Refuse(QStringLiteral("ER036"));
+        return false;
+    }
+    for (int number = from; number <= to; ++number)
+        PrintYear(YearPrefix(number));
+    return true;
+}
+
+void SayThatItIsPrinted()
+{
+    Screen.SetMousePointer(MousePointer::Default);
+    state.MessageText = QStringLiteral("Booklet printed!\r\n");
+    MsgBox(state.MessageText, msgbox::exclamation, boxTitle);
+    Form1->cmdPrint.SetCaption(QStringLiteral("Print Again"));
+    Form1->cmdOK.SetCaption(QStringLiteral("Exit"));
+}
+
+void PrintWhatIsTicked(int from, int to)
+{
+    if (IsTicked(box::cover))
+        PrintCover();
+    if (IsTicked(box::introduction))
+        PrintDocument(QStringLiteral("introduction.rtf"));
+    if (!WantsYears() || PrintYears(from, to))
+        SayThatItIsPrinted();
+}
+
+} // namespace
+
+void PrintBooklet()
+{
+    const int from = RangeNumber(Form1->List1(0).Text());
+    const int to = RangeNumber(Form1->List1(1).Text());
+    Screen.SetMousePointer(MousePointer::Hourglass);
+    state.ErrorCode = QStringLiteral("ER040");
+    OnError([&] { PrintWhatIsTicked(from, to); },
+            [] {
+                ReportError();
+                Screen.SetMousePointer(MousePointer::Default);
+            });
+}
+
+} // namespace torvik
