@@ -105,6 +105,10 @@ void Article::Heading(const QString& text)
 
 void Article::Text(const QString& text)
 {
+    // Lines with tabs stand close together; the text behind them keeps its distance.
+    auto* before = document_.blocks.empty() ? nullptr : std::get_if<Paragraph>(&document_.blocks.back());
+    if (before && before->mark == Mark::None && !before->tabs.empty())
+        before->after = 120;
     Add(Body(text));
 }
 

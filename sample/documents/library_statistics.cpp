@@ -62,7 +62,7 @@ RichDocument LibraryStatistics()
         "engine on the order sheet. The ground changes its shade with the generation of the body."));
     Table table;
     table.border = Border::Rules;
-    table.widths = {850, 1150, 1150, 1250, 1250, 950, 700};
+    table.widths = {850, 1100, 1150, 1200, 1250, 950, 700};
     table.rows.push_back(
         HeadOf(article, {QStringLiteral("Season"), QStringLiteral("Coupe"), QStringLiteral("Fastback"),
                          QStringLiteral("Convertible"), QStringLiteral("All"), QStringLiteral("Price"),

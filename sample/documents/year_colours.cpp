@@ -40,7 +40,7 @@ Cell Swatch(const Article& article, const QColor& colour)
 void AddCard(Article& article, const std::vector<CardColour>& card, int year)
 {
     Table table;
-    table.widths = {1300, 2900, 800, 1200, 1100};
+    table.widths = {1300, 2800, 800, 1200, 1100};
     Row head;
     head.heading = true;
     head.cells = {article.HeadCell(QStringLiteral("Colour")), article.HeadCell(QStringLiteral("Name")),
@@ -67,7 +67,7 @@ void AddTrims(Article& article, int year)
     article.Heading(QStringLiteral("Seats and trim"));
     Table table;
     table.border = Border::Rules;
-    table.widths = {1300, 2600, 3400};
+    table.widths = {1300, 2500, 3400};
     Row head;
     head.heading = true;
     head.cells = {article.HeadCell(QStringLiteral("Trim")), article.HeadCell(QStringLiteral("Name")),

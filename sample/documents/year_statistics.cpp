@@ -52,7 +52,7 @@ private:
 void AddProduction(Article& article, const ModelYear& year)
 {
     article.Heading(QStringLiteral("Production"));
-    FigureTable table(article, {3200, 1800, 1300, 1000});
+    FigureTable table(article, {3150, 1750, 1300, 1000});
     table.Head({QStringLiteral("Body"), QStringLiteral("Cars built"), QStringLiteral("Share"),
                 QStringLiteral("Seats")});
     const auto add = [&](const QString& name, int cars, const char* seats) {
@@ -72,7 +72,7 @@ void AddMeasures(Article& article, const ModelYear& year)
 {
     const Measures measures = MeasuresOf(year.year);
     article.Heading(QStringLiteral("Measures and weights"));
-    FigureTable table(article, {3800, 1800, 1700});
+    FigureTable table(article, {3700, 1800, 1700});
     table.Head({QStringLiteral("Measure"), QStringLiteral("Metric"), QStringLiteral("Inches, pounds")});
     const auto length = [&](const char* name, int millimetres) {
         table.Add({QString::fromLatin1(name), Grouped(millimetres) + QStringLiteral(" mm"),
@@ -97,7 +97,7 @@ void AddMeasures(Article& article, const ModelYear& year)
 void AddEngines(Article& article, int year)
 {
     article.Heading(QStringLiteral("Engines"));
-    FigureTable table(article, {2400, 700, 1000, 1600, 900, 700});
+    FigureTable table(article, {2350, 700, 950, 1600, 900, 700});
     table.Head({QStringLiteral("Engine"), QStringLiteral("Code"), QStringLiteral("Litres"),
                 QStringLiteral("bhp at rpm"), QStringLiteral("lb-ft"), QStringLiteral("Ratio")});
     for (const Engine& engine : EnginesOf(year)) {
@@ -112,7 +112,7 @@ void AddEngines(Article& article, int year)
 void AddPerformance(Article& article, const ModelYear& year)
 {
     article.Heading(QStringLiteral("On the road"));
-    FigureTable table(article, {3200, 1300, 1300, 1500});
+    FigureTable table(article, {3100, 1300, 1300, 1500});
     table.Head({QStringLiteral("Coupe with"), QStringLiteral("0 to 60"), QStringLiteral("Top speed"),
                 QStringLiteral("On order")});
     for (const Engine& engine : EnginesOf(year.year)) {
@@ -128,7 +128,7 @@ void AddPerformance(Article& article, const ModelYear& year)
 void AddPrices(Article& article, const ModelYear& year)
 {
     article.Heading(QStringLiteral("List prices"));
-    FigureTable table(article, {4300, 1500, 1500});
+    FigureTable table(article, {4200, 1500, 1500});
     table.Head({QStringLiteral("Body with the standard engine"), QStringLiteral("Price"),
                 QStringLiteral("A season ago")});
     const ModelYear* before = year.year > 1967 ? &ModelYearOf(year.year - 1) : nullptr;

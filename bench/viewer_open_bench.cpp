@@ -1,0 +1,86 @@
+// What it costs to open the viewer on an ordinary article of 20 KiB, as processor time until it is painted,
+// against the same viewer on an article of one word.
+
+#include "bind_handlers.h"
+#include "documents/txt_form.h"
+#include "measure.h"
+#include "platform/drives.h"
+#include "platform/program_folder.h"
+#include "shell/program_state.h"
+#include "ui/form_window.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <ctime>
+
+namespace {
+
+constexpr int articleBytes = 20 * 1024;
+constexpr int rounds = 9;
+constexpr double enough = 30; // milliseconds: what nobody notices
+constexpr double limit = 2;
+
+QByteArray Article(int bytes)
+{
+    QByteArray article =
+        R"({\rtf1\ansi{\fonttbl{\f0\froman Times New Roman;}{\f1\fswiss Arial;}}{\colortbl ;\red142\green27\blue31;})";
+    for (int number = 1; article.size() < bytes; ++number) {
+        const QByteArray n = QByteArray::number(number);
+        article += "\\pard\\sb200\\sa80\\f1\\fs28\\b\\cf1 Chapter " + n +
+                   "\\cf0\\b0\\par\\pard\\sa120\\f0\\fs22 The " + "works built \\b " + n +
+                   ",000\\b0  cars, \\i most\\i0  of them red, and sold all but two of " +
+                   "them before the snow came. What became of the two is told further down.\\par\r\n" +
+                   "\\trowd\\cellx3000\\cellx6000\\pard\\intbl Bore\\cell 4.0 in\\cell\\row\\pard\r\n";
+    }
+    return article + "}";
+}
+
+void Write(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(content);
+}
+
+/// Processor milliseconds from the first touch of the viewer until it is on the screen.
+double OpeningTime(const QString& document)
+{
+    using namespace torvik;
+    std::vector<double> times;
+    for (int round = 0; round < rounds; ++round) {
+        const std::clock_t before = std::clock();
+        txtForm->rtbText.SetFileName(document);
+        txtForm->Show();
+        QCoreApplication::processEvents();
+        txtForm->Window().repaint();
+        times.push_back(1000.0 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC);
+        txtForm.Unload();
+        QCoreApplication::processEvents();
+    }
+    return bench::Median(times);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    using namespace torvik;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir disc;
+    Write(disc.filePath(QStringLiteral("article.rtf")), Article(articleBytes));
+    Write(disc.filePath(QStringLiteral("word.rtf")), "{\\rtf1 word}");
+    const QApplication application(argc, argv);
+    BindHandlers();
+    SetProgramFolder(disc.path());
+    SetDriveOptions({{u'E', disc.path()}});
+
+    const double empty = OpeningTime(QStringLiteral("E:\\word.rtf"));
+    const double article = OpeningTime(QStringLiteral("E:\\article.rtf"));
+    // Below what nobody notices the ratio to an almost empty viewer says nothing.
+    const bool isOk =
+        bench::Report("opening the viewer", "ms", article, empty, std::max(limit, enough / empty));
+    FormHandleBase::DiscardAll();
+    return isOk ? 0 : 1;
+}
