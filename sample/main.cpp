@@ -1,3 +1,4 @@
+#include "artwork/art_maker.h"
 #include "disc_maker.h"
 #include "documents/document_plan.h"
 
@@ -26,6 +27,7 @@ const std::vector<Part>& Parts()
         {"captions", [](const QString& disc, const QString&) { MakeCaptions(disc); }},
         {"documents", [](const QString& disc, const QString&) { MakeDocuments(disc); }},
         {"opening", MakeOpeningPicture},
+        {"booklet", [](const QString& disc, const QString&) { MakeBookletArt(disc); }},
         {"passby", [](const QString&, const QString& program) { MakePassBySound(program); }},
     };
     return parts;

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace torvik::sample {
+
+/// The steps that draw what is no photo; each writes its own folder and throws std::runtime_error where it
+/// cannot. Every run writes the same bytes.
+
+/// "graphics": the cover of the printed booklet.
+void MakeBookletArt(const QString& disc);
+
+} // namespace torvik::sample

@@ -1,0 +1,133 @@
+#include "booklet_art.h"
+
+#include "lettering.h"
+#include "pen_script.h"
+#include "relief.h"
+#include "sample/tabletop.h"
+
+#include <QPainter>
+
+namespace torvik::sample {
+
+namespace {
+
+const QColor kInk(34, 30, 34);
+const QColor kWine(128, 18, 30);
+
+QImage Paper(QSize size)
+{
+    QImage paper(size, QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    return paper;
+}
+
+/// The publisher's mark: a sword that points to the right, with a broad cross guard.
+QPainterPath Sword(double length, double height)
+{
+    QPainterPath sword;
+    sword.setFillRule(Qt::WindingFill);
+    const double guard = length * 0.27;
+    sword.addEllipse(QPointF(height * 0.15, 0), height * 0.13, height * 0.13);
+    sword.addRoundedRect(QRectF(height * 0.2, -height * 0.055, guard - height * 0.2, height * 0.11), 3, 3);
+    QPainterPath cross;
+    cross.moveTo(guard - height * 0.07, -height * 0.40);
+    cross.quadTo(guard + height * 0.02, 0, guard - height * 0.07, height * 0.40);
+    cross.quadTo(guard + height * 0.03, height * 0.54, guard + height * 0.13, height * 0.40);
+    cross.quadTo(guard + height * 0.06, 0, guard + height * 0.13, -height * 0.40);
+    cross.quadTo(guard + height * 0.03, -height * 0.54, guard - height * 0.07, -height * 0.40);
+    sword.addPath(cross);
+    QPainterPath blade;
+    blade.moveTo(guard + height * 0.08, -height * 0.085);
+    blade.lineTo(length * 0.93, -height * 0.05);
+    blade.lineTo(length, 0);
+    blade.lineTo(length * 0.93, height * 0.05);
+    blade.lineTo(guard + height * 0.08, height * 0.085);
+    blade.closeSubpath();
+    sword.addPath(blade);
+    return sword;
+}
+
+} // namespace
+
+QImage PaintBookletLogo()
+{
+    const QSize size(560, 160);
+    Relief relief(size);
+    const QPointF middle(82, 74);
+    relief.Add(ShieldPath(middle, 60), Chrome(), {0, 5, 6, 3});
+    Coat red = Enamel(QColor(158, 16, 28));
+    red.rays = 56;
+    red.rayFrom = middle + QPointF(0, 60);
+    relief.Add(ShieldPath(middle, 51), red, {4, -1.5, 4, 0});
+    relief.Add(WingedT(middle + QPointF(0, 2), 40), Chrome(), {4, 3.5, 5, 2});
+    Pen pen;
+    pen.xHeight = 37;
+    pen.spread = 1.22;
+    pen.broad = 0.25;
+    pen.fine = 0.15;
+    const QPainterPath word = WriteWord(QStringLiteral("Vollandry"), pen).translated(176, 95);
+    Pen wide = pen;
+    wide.broad += 0.2;
+    wide.fine += 0.2;
+    relief.Add(WriteWord(QStringLiteral("Vollandry"), wide).translated(176, 95), Enamel(QColor(40, 6, 12)),
+               {0, 3, 4, 3});
+    relief.Add(word, Chrome(), {3, 4, 4, 1});
+    const QPainterPath maker =
+        Lettering(QStringLiteral("TORVIK"), 17, {QStringLiteral("Liberation Serif"), true, false, 210, 1.0})
+            .translated(362, 152);
+    relief.Add(maker, Enamel(kWine), {0, 2, 2, 0});
+    return relief.Over(Paper(size));
+}
+
+QImage PaintBookletTitle()
+{
+    const QSize size(700, 190);
+    QImage picture = Paper(size);
+    QPainter p(&picture);
+    p.setRenderHint(QPainter::Antialiasing);
+    const auto line = [&](const QString& text, double y, double height, const Type& type, const QColor& ink) {
+        QPainterPath path = Lettering(text, height, type);
+        path.translate(350 - path.boundingRect().center().x(), y);
+        p.fillPath(path, ink);
+    };
+    p.fillRect(QRectF(40, 8, 620, 3), kWine);
+    p.fillRect(QRectF(40, 14, 620, 1), kWine);
+    const Type title{QStringLiteral("Liberation Serif"), true, true, 102, 1.0};
+    line(QStringLiteral("The Torvik Vollandry"), 76, 42, title, kInk);
+    const Type years{QStringLiteral("Liberation Serif"), false, false, 150, 1.0};
+    line(QStringLiteral("1967 – 2001"), 120, 24, years, kWine);
+    const Type words{QStringLiteral("Liberation Sans"), false, false, 112, 1.0};
+    line(QStringLiteral("Thirty-five model years in words and figures"), 157, 14, words, kInk);
+    p.fillRect(QRectF(40, 175, 620, 1), kWine);
+    p.fillRect(QRectF(40, 179, 620, 3), kWine);
+    return picture;
+}
+
+QImage PaintPublisherMark()
+{
+    const QSize size(420, 130);
+    QImage picture = Paper(size);
+    QPainter p(&picture);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.fillPath(Sword(396, 84).translated(12, 46), kInk);
+    // The blade's middle rib, and the winding of the grip.
+    p.setPen(QPen(Qt::white, 1.2));
+    p.drawLine(QPointF(134, 46), QPointF(372, 46));
+    p.setPen(QPen(Qt::white, 1.6));
+    for (int i = 0; i < 8; ++i)
+        p.drawLine(QPointF(40 + i * 9.0, 51), QPointF(45 + i * 9.0, 41));
+    QPainterPath jewel;
+    jewel.addEllipse(QPointF(24.6, 46), 5, 5);
+    p.fillPath(jewel, kWine);
+    p.fillPath(Centred(Lettering(QStringLiteral("QUILLON"), 21,
+                                 {QStringLiteral("Liberation Serif"), true, false, 160, 1.0}),
+                       {256, 80}),
+               kInk);
+    p.fillPath(Centred(Lettering(QStringLiteral("SOFTWARE"), 10,
+                                 {QStringLiteral("Liberation Sans"), false, false, 260, 1.0}),
+                       {256, 108}),
+               kWine);
+    return picture;
+}
+
+} // namespace torvik::sample
