@@ -74,7 +74,7 @@ QImage PaintBookletLogo()
     relief.Add(word, Chrome(), {3, 4, 4, 1});
     const QPainterPath maker =
         Lettering(QStringLiteral("TORVIK"), 17, {QStringLiteral("Liberation Serif"), true, false, 210, 1.0})
-            .translated(362, 152);
+            .translated(252, 150);
     relief.Add(maker, Enamel(kWine), {0, 2, 2, 0});
     return relief.Over(Paper(size));
 }
