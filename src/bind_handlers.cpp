@@ -9,9 +9,11 @@
 #include "documents/library_topics.h"
 #include "documents/year_documents.h"
 #include "documents/year_statistics.h"
+#include "local/copy_panel.h"
 #include "local/play_list_form.h"
 #include "printing/booklet_panel.h"
 #include "printing/print_commands.h"
+#include "local/remove_copies.h"
 #include "shell/form1_life.h"
 #include "shell/start_up.h"
 #include "utilities/task_bar_toggle.h"
@@ -33,6 +35,8 @@ void BindHandlers()
     BindDocumentViewer();
     BindBookletPanel();
     BindPrintCommands();
+    BindCopyPanel();
+    BindRemoveCopies();
     BindPlayListForm();
     BindTaskBarToggle();
 }

@@ -175,6 +175,19 @@ void Form::Refresh()
     LeaveIfEnding();
 }
 
+MousePointer Form::Pointer() const
+{
+    return window_->cursor().shape() == Qt::WaitCursor ? MousePointer::Hourglass : MousePointer::Default;
+}
+
+void Form::SetMousePointer(MousePointer pointer)
+{
+    if (pointer == MousePointer::Hourglass)
+        window_->setCursor(Qt::WaitCursor);
+    else
+        window_->unsetCursor();
+}
+
 void Form::WindowActivated()
 {
     if (!Visible())

@@ -2,6 +2,7 @@
 
 #include "ui/container.h"
 #include "ui/event.h"
+#include "ui/screen.h"
 #include "ui/units.h"
 
 #include <QDeadlineTimer>
@@ -89,6 +90,10 @@ public:
     void SetTopmost(bool topmost);
     /// Has the window on the screen before the next statement runs; what the user does meanwhile waits.
     void Refresh();
+
+    /// The mouse pointer over this form; that of the screen goes before it.
+    MousePointer Pointer() const;
+    void SetMousePointer(MousePointer pointer);
 
     /// A disabled form takes no input; it does not turn grey.
     bool Enabled() const { return enabled_; }

@@ -1,0 +1,102 @@
+#include "local/copy_all.h"
+
+#include "browser/photo_set.h"
+#include "local/copy_file.h"
+#include "local/copy_job.h"
+#include "local/movie_list.h"
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/program_folder.h"
+#include "platform/text.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "ui/message_box.h"
+#include "ui/screen.h"
+
+namespace torvik {
+
+namespace {
+
+const QString boxTitle = QStringLiteral("The Torvik Vollandry");
+
+QString NameOfPhoto(int index)
+{
+    const QString& path = state.PhotoFiles(index);
+    constexpr int behindFolder = 8; // from the position of "\Torviks\" to its closing backslash
+    const int position = InStr(path, torviksFolder) + behindFolder;
+    return Right(path, static_cast<int>(path.size()) - position);
+}
+
+QString NameOfMovie(int index)
+{
+    return state.MovieFiles(index);
+}
+
+void BeginCopying()
+{
+    Screen.SetMousePointer(MousePointer::Hourglass);
+    state.CopyRemaining = PresentCopyJob().Size;
+    Form1->SetEnabled(false);
+}
+
+/// Copies the file that has the number `state.LoopIndex` in its list. Where the disc was changed and holds
+/// nothing of the kind, the count is still that of the earlier disc and leads behind the end of the list:
+/// then the failure is shown like that of a file.
+void CopyFileOfList(QString (*nameOf)(int index))
+{
+    const QString& folder = PresentCopyJob().Folder;
+    const auto workOut = [&] {
+        state.CopySource = nameOf(state.LoopIndex);
+        state.CopyTarget = ProgramFolder() + folder + state.CopySource;
+        state.CopySource = state.DiscRoot + folder + state.CopySource;
+    };
+    if (OnError(workOut, [] { MsgBox(RunTimeErrorText(PendingErrorNumber())); }))
+        CopyFileWithGauges();
+}
+
+void EndCopying()
+{
+    Form1->ProgressGuage2.SetFloodPercent(100);
+    Form1->ProgressGuage2.SetCaption(100);
+    Screen.SetMousePointer(MousePointer::Default);
+    state.MessageText = PresentCopyJob().Done;
+    state.MessageAnswer = QString::number(MsgBox(state.MessageText, msgbox::exclamation, boxTitle));
+    Form1->SetEnabled(true);
+}
+
+} // namespace
+
+void MakeCopyFolder(const QString& path)
+{
+    OnError([&] { MakeFolder(path); },
+            [] {
+                state.MessageResult = MsgBox(QStringLiteral("These files have already been copied\r\n"
+                                                            "to your hard drive.\r\n"
+                                                            "\r\n"
+                                                            "Would you like to copy them again?"),
+                                             msgbox::question + msgbox::okCancel);
+                if (state.MessageResult != msgbox::answerOk)
+                    state.CopyDeclined = true;
+            });
+}
+
+void CopyAllPhotos()
+{
+    BeginCopying();
+    state.PhotoRoot = state.DiscRoot;
+    BuildPhotoSet();
+    for (state.LoopIndex = 1; state.LoopIndex <= state.PhotoCount; state.LoopIndex += 1)
+        CopyFileOfList(NameOfPhoto);
+    EndCopying();
+}
+
+void CopyAllMovies()
+{
+    BeginCopying();
+    BuildMovieList();
+    for (state.LoopIndex = 1; state.LoopIndex <= state.MovieCount; state.LoopIndex += 1)
+        CopyFileOfList(NameOfMovie);
+    EndCopying();
+}
+
+} // namespace torvik

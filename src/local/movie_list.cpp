@@ -1,0 +1,39 @@
+#include "local/movie_list.h"
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "shell/program_state.h"
+#include "shell/report_error.h"
+
+namespace torvik {
+
+namespace {
+
+template <typename Statement>
+void Reporting(Statement&& statement)
+{
+    OnError(std::forward<Statement>(statement), ReportError);
+}
+
+} // namespace
+
+void BuildMovieList()
+{
+    state.ErrorCode = QStringLiteral("ER055");
+    state.MovieListIndex = 1;
+    state.MovieFiles.Resize(0);
+    state.MovieFiles.Resize(1);
+    QStringList names;
+    Reporting([&] { names = FilesMatching(state.DiscRoot + QStringLiteral("\\movies\\*.avi")); });
+    state.MovieFiles(1) = names.value(0).toUpper();
+
+    for (qsizetype next = 1; !state.MovieFiles(state.MovieListIndex).isEmpty(); ++next) {
+        Reporting([] { state.MovieListIndex += 1; });
+        state.MovieFiles.Resize(state.MovieListIndex);
+        state.MovieFiles(state.MovieListIndex) = names.value(next).toUpper();
+        if (next >= names.size())
+            state.MovieCount = state.MovieListIndex - 1;
+    }
+}
+
+} // namespace torvik
