@@ -1,6 +1,7 @@
 #include "disc_maker.h"
 
 #include "captions.h"
+#include "in_parallel.h"
 #include "jpeg_file.h"
 #include "pass_by_sound.h"
 #include "photographer.h"
@@ -8,11 +9,8 @@
 
 #include <QBuffer>
 
-#include <atomic>
-#include <exception>
-#include <mutex>
+#include <algorithm>
 #include <stdexcept>
-#include <thread>
 
 namespace torvik::sample {
 
@@ -48,26 +46,7 @@ void MakePhotos(const QString& disc)
     std::stable_sort(photos.begin(), photos.end(), [](const PlannedPhoto& a, const PlannedPhoto& b) {
         return a.size.width() * a.size.height() > b.size.width() * b.size.height();
     });
-    std::atomic<std::size_t> next{0};
-    std::exception_ptr failure;
-    std::mutex guard;
-    const auto work = [&] {
-        try {
-            for (std::size_t i = next++; i < photos.size(); i = next++)
-                MakePhoto(disc, photos[i]);
-        } catch (...) {
-            const std::lock_guard lock(guard);
-            failure = std::current_exception();
-            next = photos.size();
-        }
-    };
-    std::vector<std::thread> workers;
-    for (unsigned i = 0; i < std::max(1U, std::thread::hardware_concurrency()); ++i)
-        workers.emplace_back(work);
-    for (std::thread& worker : workers)
-        worker.join();
-    if (failure)
-        std::rethrow_exception(failure);
+    InParallel(photos.size(), [&](std::size_t i) { MakePhoto(disc, photos[i]); });
 }
 
 void MakeCaptions(const QString& disc)

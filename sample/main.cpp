@@ -27,6 +27,8 @@ const std::vector<Part>& Parts()
         {"captions", [](const QString& disc, const QString&) { MakeCaptions(disc); }},
         {"documents", [](const QString& disc, const QString&) { MakeDocuments(disc); }},
         {"opening", MakeOpeningPicture},
+        {"emblems", [](const QString& disc, const QString&) { MakeEmblems(disc); }},
+        {"scripts", [](const QString& disc, const QString&) { MakeScripts(disc); }},
         {"booklet", [](const QString& disc, const QString&) { MakeBookletArt(disc); }},
         {"passby", [](const QString&, const QString& program) { MakePassBySound(program); }},
     };

@@ -1,10 +1,14 @@
 #include "art_maker.h"
 
 #include "booklet_art.h"
+#include "emblem_art.h"
+#include "sample/in_parallel.h"
 #include "sample/jpeg_file.h"
+#include "script_art.h"
 
 #include <QBuffer>
 
+#include <functional>
 #include <stdexcept>
 
 namespace torvik::sample {
@@ -21,7 +25,25 @@ QByteArray BmpBytes(const QImage& picture)
     return bytes;
 }
 
+void MakeEach(const QString& disc, const std::vector<SmallPicture>& pictures,
+              const std::function<QImage(const SmallPicture&)>& paint)
+{
+    InParallel(pictures.size(), [&](std::size_t i) {
+        WriteFile(disc + QLatin1Char('/') + pictures[i].file, JpegBytes(paint(pictures[i]), 92));
+    });
+}
+
 } // namespace
+
+void MakeEmblems(const QString& disc)
+{
+    MakeEach(disc, PlanEmblems(), PaintEmblem);
+}
+
+void MakeScripts(const QString& disc)
+{
+    MakeEach(disc, PlanScripts(), PaintScript);
+}
 
 void MakeBookletArt(const QString& disc)
 {

@@ -7,6 +7,10 @@ namespace torvik::sample {
 /// The steps that draw what is no photo; each writes its own folder and throws std::runtime_error where it
 /// cannot. Every run writes the same bytes.
 
+/// "emblems": the emblem of each year and topic that has one.
+void MakeEmblems(const QString& disc);
+/// "SCRIPTS": the lettering likewise.
+void MakeScripts(const QString& disc);
 /// "graphics": the cover of the printed booklet.
 void MakeBookletArt(const QString& disc);
 

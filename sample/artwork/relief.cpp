@@ -13,10 +13,10 @@ namespace {
 /// it. `up` is the height of the direction, -1 to 1.
 Rgb Mirrored(double up, double aside)
 {
-    const double skyline = up + 0.05 * std::sin(aside * 5.0);
+    const double skyline = up + 0.03 * std::sin(aside * 5.0);
     if (skyline > 0)
         return Mix(Rgb{1.05, 1.05, 1.05}, Rgb{0.16, 0.22, 0.32}, SmoothStep(0.0, 0.95, skyline));
-    return Mix(Rgb{0.012, 0.013, 0.016}, Rgb{0.42, 0.38, 0.33}, SmoothStep(0.0, -0.75, skyline));
+    return Mix(Rgb{0.012, 0.013, 0.016}, Rgb{0.42, 0.38, 0.33}, SmoothStep(0.0, -0.5, skyline));
 }
 
 } // namespace
@@ -68,7 +68,7 @@ void Relief::Add(const QPainterPath& shape, const Coat& coat, const Rise& rise)
         const double inside = Clamp01(static_cast<double>(value) / (rise.edge * kFine));
         value = static_cast<float>(rise.height * kFine * std::sqrt(1.0 - (1.0 - inside) * (1.0 - inside)));
     }
-    Soften(profile, fine, 2);
+    Soften(profile, fine, std::max(1, Floor(rise.edge * kFine / 5)));
     if (rise.lift > 0) {
         Field shadow(mask.size(), 0.0F);
         const int down = Floor(rise.lift * kFine * 0.9);
@@ -107,7 +107,7 @@ Rgb Relief::ColourAt(int x, int y) const
     const double across = static_cast<double>(x) / width_;
     const double down = static_cast<double>(y) / height_;
     // Flat faces are a little bowed, so that they run from sky to skyline instead of being one grey.
-    const double up = mirror.y + (0.62 - down) * 0.9;
+    const double up = mirror.y + (0.86 - down) * 0.8;
     const Rgb seen = Mirrored(std::clamp(up, -1.0, 1.0), across * 2 + mirror.x);
     const Vec toLight = Unit({-0.45, 0.62, 0.65});
     const double lamp = std::pow(std::max(0.0, Dot(mirror, toLight)), 26.0);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+
+namespace torvik::sample {
+
+/// Calls `work` with 0 to `count` - 1 on all processors, in this order as far as they are free. Throws what
+/// the last failing call threw, after the others under way have ended.
+void InParallel(std::size_t count, const std::function<void(std::size_t)>& work);
+
+} // namespace torvik::sample
