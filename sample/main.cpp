@@ -29,6 +29,7 @@ const std::vector<Part>& Parts()
         {"opening", MakeOpeningPicture},
         {"emblems", [](const QString& disc, const QString&) { MakeEmblems(disc); }},
         {"scripts", [](const QString& disc, const QString&) { MakeScripts(disc); }},
+        {"clipart", [](const QString& disc, const QString&) { MakeClipArt(disc); }},
         {"booklet", [](const QString& disc, const QString&) { MakeBookletArt(disc); }},
         {"passby", [](const QString&, const QString& program) { MakePassBySound(program); }},
     };

@@ -1,6 +1,7 @@
 #include "art_maker.h"
 
 #include "booklet_art.h"
+#include "clip_art.h"
 #include "emblem_art.h"
 #include "sample/in_parallel.h"
 #include "sample/jpeg_file.h"
@@ -43,6 +44,11 @@ void MakeEmblems(const QString& disc)
 void MakeScripts(const QString& disc)
 {
     MakeEach(disc, PlanScripts(), PaintScript);
+}
+
+void MakeClipArt(const QString& disc)
+{
+    MakeEach(disc, PlanClipArt(), PaintClipArt);
 }
 
 void MakeBookletArt(const QString& disc)

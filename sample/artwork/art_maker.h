@@ -11,6 +11,8 @@ namespace torvik::sample {
 void MakeEmblems(const QString& disc);
 /// "SCRIPTS": the lettering likewise.
 void MakeScripts(const QString& disc);
+/// "Clipart": the strip of small drawings of each year.
+void MakeClipArt(const QString& disc);
 /// "graphics": the cover of the printed booklet.
 void MakeBookletArt(const QString& disc);
 
