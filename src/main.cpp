@@ -1,4 +1,5 @@
 #include "bind_handlers.h"
+#include "platform/arguments_of.h"
 #include "platform/drives.h"
 #include "platform/failure.h"
 #include "platform/program_folder.h"
@@ -8,21 +9,11 @@
 #include "ui/printer.h"
 #include "version.h"
 
-#include <QStringList>
-
 #include <cstdio>
 
 namespace {
 
 constexpr int badUsage = 2;
-
-QStringList Arguments(int argc, char** argv)
-{
-    QStringList arguments;
-    for (int index = 1; index < argc; ++index)
-        arguments.append(QString::fromLocal8Bit(argv[index]));
-    return arguments;
-}
 
 int Complain(const QString& problem)
 {
@@ -46,7 +37,7 @@ QString TakeFolders(const torvik::CommandLine& line)
 int main(int argc, char** argv)
 {
     using namespace torvik;
-    const CommandLine early = ReadCommandLine(Arguments(argc, argv));
+    const CommandLine early = ReadCommandLine(ArgumentsOf(argc, argv));
     if (early.Help) {
         std::fputs(qPrintable(HelpText()), stdout);
         return 0;
@@ -57,7 +48,7 @@ int main(int argc, char** argv)
     }
 
     Application application(argc, argv);
-    const CommandLine line = ReadCommandLine(Arguments(argc, argv));
+    const CommandLine line = ReadCommandLine(ArgumentsOf(argc, argv));
     if (!line.Problem.isEmpty())
         return Complain(line.Problem);
     if (const QString problem = TakeFolders(line); !problem.isEmpty())

@@ -1,6 +1,6 @@
 #include "shell/command_line.h"
 
-#include <QRegularExpression>
+#include "platform/drive_option.h"
 
 namespace torvik {
 
@@ -8,15 +8,10 @@ namespace {
 
 void TakeDrive(CommandLine& read, const QString& value)
 {
-    static const QRegularExpression form(QStringLiteral("^([D-Zd-z]):?=(.+)$"));
-    const QRegularExpressionMatch match = form.match(value);
-    if (match.hasMatch())
-        read.Drives.append({match.captured(1).at(0).toUpper(), match.captured(2)});
+    if (const auto drive = ReadDriveOption(value))
+        read.Drives.append(*drive);
     else
-        read.Problem =
-            QStringLiteral(
-                "--drive takes a letter from D to Z and a folder, such as E=/media/disc; not \"%1\".")
-                .arg(value);
+        read.Problem = DriveOptionProblem(value);
 }
 
 /// Takes one argument off the front of `rest`, with its value where it has one.

@@ -49,6 +49,14 @@ class LintTest(unittest.TestCase):
             "src/slides/b.cpp": '#include "shell/form1.h"\n#include "ui/form.h"\n#include "platform/text.h"\n',
             "src/main.cpp": '#include "shell/form1.h"\n#include "version.h"\n'})
 
+    def test_the_screen_saver_stands_on_the_lower_floors_alone(self):
+        self.assert_clean({"src/saver/a.cpp": '#include "platform/text.h"\n#include "saver/b.h"\n#include "ui/form.h"\n',
+                           "src/saver_main.cpp": '#include "saver/b.h"\n'})
+        self.assert_caught("src/saver/a.cpp", '#include "shell/form1.h"\n', "saver may not include shell")
+        self.assert_caught("src/local/a.cpp", '#include "saver/b.h"\n', "local may not include saver")
+        self.assert_caught("src/ui/a.cpp", '#include "saver/b.h"\n', "ui may not include saver")
+        self.assert_caught("src/saver/a.cpp", "#include <QLabel>\n", "only ui includes")
+
     def test_a_cycle_of_files_is_caught(self):
         offences = self.offences({
             "src/shell/a.h": '#pragma once\n#include "slides/b.h"\n',

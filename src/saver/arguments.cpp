@@ -1,0 +1,162 @@
+#include "saver/arguments.h"
+
+#include "platform/drive_option.h"
+
+#include <QRegularExpression>
+
+#include <optional>
+
+namespace torvik {
+
+namespace {
+
+/// One argument taken apart: "/P:1234" is "p" with the value "1234".
+struct Argument {
+    QString Name; ///< lower case, without the signs in front
+    std::optional<QString> Value;
+};
+
+std::optional<Argument> TakeApart(const QString& text)
+{
+    static const QRegularExpression form(QStringLiteral("^(?:--|-|/)([A-Za-z?][A-Za-z-]*)(?:[:=](.*))?$"));
+    const QRegularExpressionMatch match = form.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    Argument argument{match.captured(1).toLower(), std::nullopt};
+    if (match.capturedStart(2) >= 0)
+        argument.Value = match.captured(2);
+    return argument;
+}
+
+/// The number of a window, decimal or hexadecimal ("0x1a00007"); 0 when the text is none.
+quint64 WindowNumber(const QString& text)
+{
+    const bool isHexadecimal = text.startsWith(QStringLiteral("0x"), Qt::CaseInsensitive);
+    return isHexadecimal ? text.mid(2).toULongLong(nullptr, 16) : text.toULongLong();
+}
+
+class Reader {
+public:
+    explicit Reader(const QStringList& arguments) : rest_(arguments) {}
+
+    SaverArguments Read()
+    {
+        while (!rest_.isEmpty() && read_.Problem.isEmpty())
+            Take(rest_.takeFirst());
+        return read_;
+    }
+    /// Whether the arguments say what the saver is started for.
+    bool HasTask() const { return hasTask_; }
+
+private:
+    void Take(const QString& text)
+    {
+        const auto argument = TakeApart(text);
+        const QString name = argument ? argument->Name : QString();
+        if (name == QStringLiteral("s"))
+            Choose(SaverTask::Show);
+        else if (name == QStringLiteral("c"))
+            TakeInform();
+        else if (name == QStringLiteral("p") || name == QStringLiteral("window-id"))
+            TakeWindow(text, ValueOf(text, *argument));
+        else if (name == QStringLiteral("root"))
+            Choose(SaverTask::Desktop);
+        else if (name == QStringLiteral("drive"))
+            TakeDrive(ValueOf(text, *argument));
+        else if (name == QStringLiteral("program-folder"))
+            read_.ProgramFolder = ValueOf(text, *argument);
+        else if (name == QStringLiteral("help") || name == QStringLiteral("h") || name == QStringLiteral("?"))
+            read_.Help = true;
+        else if (name == QStringLiteral("version") || name == QStringLiteral("v"))
+            read_.Version = true;
+        else
+            read_.Problem = QStringLiteral("There is no option %1.").arg(text);
+    }
+
+    /// A window that is named stays, whatever else is said.
+    void Choose(SaverTask task)
+    {
+        hasTask_ = true;
+        if (read_.Task != SaverTask::Embed)
+            read_.Task = task;
+    }
+
+    /// A window may be named behind it, for a box in front of that window; the box stands for itself here.
+    void TakeInform()
+    {
+        Choose(SaverTask::Inform);
+        if (!rest_.isEmpty() && WindowNumber(rest_.first()) != 0)
+            rest_.removeFirst();
+    }
+
+    void TakeWindow(const QString& option, const QString& number)
+    {
+        if (!read_.Problem.isEmpty())
+            return;
+        read_.Window = WindowNumber(number);
+        if (read_.Window == 0)
+            read_.Problem =
+                QStringLiteral("%1 takes the number of a window; not \"%2\".").arg(option, number);
+        hasTask_ = true;
+        read_.Task = SaverTask::Embed;
+    }
+
+    void TakeDrive(const QString& value)
+    {
+        if (!read_.Problem.isEmpty())
+            return;
+        if (const auto drive = ReadDriveOption(value))
+            read_.Drives.append(*drive);
+        else
+            read_.Problem = DriveOptionProblem(value);
+    }
+
+    QString ValueOf(const QString& option, const Argument& argument)
+    {
+        if (argument.Value)
+            return *argument.Value;
+        if (!rest_.isEmpty())
+            return rest_.takeFirst();
+        read_.Problem = QStringLiteral("%1 needs a value.").arg(option);
+        return {};
+    }
+
+    QStringList rest_;
+    SaverArguments read_;
+    bool hasTask_ = false;
+};
+
+} // namespace
+
+SaverArguments ReadSaverArguments(const QStringList& arguments, const QString& screenSaverWindow)
+{
+    Reader reader(arguments);
+    SaverArguments read = reader.Read();
+    const quint64 given = WindowNumber(screenSaverWindow);
+    if (given != 0 && (!reader.HasTask() || read.Task == SaverTask::Desktop)) {
+        read.Task = SaverTask::Embed;
+        read.Window = given;
+    }
+    return read;
+}
+
+QString SaverHelpText()
+{
+    return QStringLiteral(
+        "Usage: Torvik2001.scr [task] [options]\n"
+        "\n"
+        "Shows the photos that File, Install Screen saver of The Torvik Vollandry 2001 has chosen.\n"
+        "\n"
+        "  /s, -s                    shows them on all screens until a key, a click or the mouse ends it\n"
+        "  /p WINDOW                 shows them inside the window of that number\n"
+        "  /c, or no task            tells which photos are shown and how that is changed\n"
+        "  -root                     for X screen savers: shows them in the window of $XSCREENSAVER_WINDOW,\n"
+        "                            without one behind all windows of the desktop\n"
+        "  -window-id WINDOW         the same as /p\n"
+        "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
+        "  --program-folder FOLDER   where the folder \"disc\" lies that stands for drive Z\n"
+        "  -h, --help                shows this text\n"
+        "  -v, --version             shows the version\n");
+}
+
+} // namespace torvik

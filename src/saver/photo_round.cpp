@@ -1,0 +1,34 @@
+#include "saver/photo_round.h"
+
+#include "platform/drives.h"
+#include "platform/failure.h"
+#include "platform/files.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace torvik {
+
+PhotoRound::PhotoRound(QString folder, double start) : folder_(std::move(folder)), start_(start) {}
+
+QString PhotoRound::Next()
+{
+    if (next_ >= names_.size())
+        Begin();
+    return names_.isEmpty() ? QString() : folder_ + names_[next_++];
+}
+
+void PhotoRound::Begin()
+{
+    names_.clear();
+    ResumeNext([this] {
+        RefreshDrives();
+        names_ = FilesMatching(folder_ + QStringLiteral("*.jpg"));
+    });
+    std::sort(names_.begin(), names_.end(), [](const QString& one, const QString& other) {
+        return QString::compare(one, other, Qt::CaseInsensitive) < 0;
+    });
+    next_ = static_cast<qsizetype>(std::exchange(start_, 0) * static_cast<double>(names_.size()));
+}
+
+} // namespace torvik

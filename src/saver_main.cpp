@@ -1,0 +1,121 @@
+#include "platform/arguments_of.h"
+#include "platform/drives.h"
+#include "platform/failure.h"
+#include "platform/foreign_windows.h"
+#include "platform/program_folder.h"
+#include "saver/arguments.h"
+#include "saver/information.h"
+#include "saver/saver_settings.h"
+#include "saver/show_places.h"
+#include "saver/show_runner.h"
+#include "ui/application.h"
+#include "ui/message_box.h"
+#include "ui/program_end.h"
+#include "version.h"
+
+#include <QCoreApplication>
+#include <QRandomGenerator>
+#include <QTimer>
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+using namespace torvik;
+
+constexpr int badUsage = 2;
+
+int Complain(const QString& problem)
+{
+    std::fprintf(stderr, "Torvik2001.scr: %s\nTry Torvik2001.scr --help.\n", qPrintable(problem));
+    return badUsage;
+}
+
+/// Takes the folders of the command line over; returns what is wrong with them. The saver is mostly installed
+/// one folder below a program folder, where the embedded disc is looked for as well.
+QString TakeFolders(const SaverArguments& arguments)
+{
+    const int error = ResumeNext([&] {
+        SetProgramFolder(arguments.ProgramFolder);
+        SetDriveOptions(arguments.Drives);
+        RefreshDrives();
+        if (arguments.ProgramFolder.isEmpty() && DriveFolder(u'Z').isEmpty())
+            SetProgramFolder(QCoreApplication::applicationDirPath() + QStringLiteral("/.."));
+    });
+    return error == 0 ? QString() : RunTimeErrorText(error) + QStringLiteral(".");
+}
+
+/// Lets the show inside a window follow the window's size, and ends it with the window.
+void Follow(const HostWindow& host, const ShowRunner& runner, QTimer& timer)
+{
+    constexpr int twiceASecond = 500; // milliseconds
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&host, &runner] {
+        if (const auto size = host.Size())
+            runner.Windows().front()->resize(*size);
+        else
+            QCoreApplication::quit();
+    });
+    timer.start(twiceASecond);
+}
+
+int Embed(Application& application, quint64 window)
+{
+    HostWindow host(window);
+    if (!host.Size())
+        return Complain(QStringLiteral("There is no window %1.").arg(window));
+    std::optional<ShowRunner> runner;
+    QTimer timer;
+    return application.Run([&] {
+        runner.emplace(
+            ReadSaverSettings(), QRandomGenerator::global()->generateDouble(),
+            [&host] { return host.Open(); }, nullptr);
+        Follow(host, *runner, timer);
+    });
+}
+
+int Run(Application& application, const SaverArguments& arguments)
+{
+    const double start = QRandomGenerator::global()->generateDouble();
+    std::optional<ShowRunner> runner;
+    switch (arguments.Task) {
+    case SaverTask::Show:
+        return application.Run(
+            [&] { runner.emplace(ReadSaverSettings(), start, OpenOnAllScreens, QCoreApplication::quit); });
+    case SaverTask::Desktop:
+        return application.Run([&] { runner.emplace(ReadSaverSettings(), start, OpenBehindAll, nullptr); });
+    case SaverTask::Embed:
+        return Embed(application, arguments.Window);
+    case SaverTask::Inform:
+        break;
+    }
+    return application.Run([] {
+        MsgBox(InformationText(ReadSaverSettings()), msgbox::information);
+        EndProgram();
+    });
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const SaverArguments early = ReadSaverArguments(ArgumentsOf(argc, argv), WindowOfScreenSaver());
+    if (early.Help) {
+        std::fputs(qPrintable(SaverHelpText()), stdout);
+        return 0;
+    }
+    if (early.Version) {
+        std::printf("Torvik2001.scr %s\n", programVersion);
+        return 0;
+    }
+    if (early.Task == SaverTask::Embed || early.Task == SaverTask::Desktop)
+        PreferForeignWindows();
+
+    Application application(argc, argv);
+    const SaverArguments arguments = ReadSaverArguments(ArgumentsOf(argc, argv), WindowOfScreenSaver());
+    if (!arguments.Problem.isEmpty())
+        return Complain(arguments.Problem);
+    if (const QString problem = TakeFolders(arguments); !problem.isEmpty())
+        return Complain(problem);
+    return Run(application, arguments);
+}
