@@ -67,6 +67,40 @@ private Q_SLOTS:
 
     void a_missing_file_is_not_whole() { QVERIFY(!IsWholeJobFile(QStringLiteral("/nowhere/job.pdf"))); }
 
+    void a_whole_job_takes_its_name()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("job-1.pdf"));
+        QVERIFY(UnfinishedJobFile(file) != file);
+        Write(UnfinishedJobFile(file), "%PDF-1.4\nmuch\n%%EOF\n");
+        QVERIFY(KeepJobFile(file));
+        QVERIFY(QFile::exists(file));
+        QVERIFY(!QFile::exists(UnfinishedJobFile(file)));
+    }
+
+    void a_job_that_is_cut_short_takes_no_name_and_is_dropped()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("job-1.pdf"));
+        Write(UnfinishedJobFile(file), "%PDF-1.4\nmuch");
+        QVERIFY(!KeepJobFile(file));
+        QVERIFY(!QFile::exists(file));
+        DropJobFile(file);
+        QVERIFY(!QFile::exists(UnfinishedJobFile(file)));
+    }
+
+    void a_job_never_takes_a_name_from_another_file()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("job-1.pdf"));
+        Write(file, "kept");
+        Write(UnfinishedJobFile(file), "%PDF-1.4\n%%EOF\n");
+        QVERIFY(!KeepJobFile(file));
+        QFile kept(file);
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), QByteArray("kept"));
+    }
+
 private:
     static void Write(const QString& path, const QByteArray& content)
     {

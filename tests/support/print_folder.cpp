@@ -1,5 +1,6 @@
 #include "support/print_folder.h"
 
+#include "platform/failure.h"
 #include "ui/printer.h"
 
 #include <QDir>
@@ -27,8 +28,9 @@ PrintFolder::PrintFolder()
 
 PrintFolder::~PrintFolder()
 {
-    Printer.EndDoc();
+    ResumeNext([] { Printer.EndDoc(); });
     Printer.PrintTo({});
+    Printer.SetUp(std::nullopt);
 }
 
 QStringList PrintFolder::Files() const
@@ -39,6 +41,11 @@ QStringList PrintFolder::Files() const
 QString PrintFolder::FileOf(int job) const
 {
     return folder_.filePath(QStringLiteral("job-%1.pdf").arg(job));
+}
+
+int PrintFolder::Jobs() const
+{
+    return static_cast<int>(QDir(folder_.path()).entryList({QStringLiteral("job-*.pdf")}).size());
 }
 
 QStringList PrintFolder::Pages(int job) const

@@ -9,7 +9,7 @@
 namespace torvik {
 
 /// A folder that the program prints to for as long as this lives, and what lies in it, read back from the PDF
-/// files.
+/// files. At the end the printer is as it was at the start of the program.
 class PrintFolder {
 public:
     PrintFolder();
@@ -21,6 +21,8 @@ public:
     /// The file names, in order.
     QStringList Files() const;
     QString FileOf(int job) const;
+    /// How many jobs have gone out.
+    int Jobs() const;
 
     /// The text of each page of a job, as it is read from top to bottom.
     QStringList Pages(int job) const;

@@ -42,6 +42,18 @@ private Q_SLOTS:
         QCOMPARE(widget.text(), QStringLiteral("<b>Fords</b> & Torviks"));
     }
 
+    void its_letters_take_size_weight_and_colour()
+    {
+        Main->Label1.SetCaptionFont(20, true, look::accent);
+        const QWidget& widget = Main->Label1.Widget();
+        QCOMPARE(widget.font().pixelSize(), 20);
+        QVERIFY(widget.font().bold());
+        QCOMPARE(widget.palette().color(QPalette::WindowText), look::accent);
+        Main->Label1.SetCaptionFont(12, false);
+        QVERIFY(!widget.font().bold());
+        QCOMPARE(widget.palette().color(QPalette::WindowText), look::text);
+    }
+
     void a_click_on_it_is_its_own()
     {
         QVERIFY(UiRoom::Open(*Main));

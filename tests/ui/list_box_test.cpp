@@ -53,6 +53,15 @@ private Q_SLOTS:
         QCOMPARE(ResumeNext([] { Main->List1.SetSelected(-1, false); }), 381);
     }
 
+    void it_is_spoken_of_as_told_or_by_its_name()
+    {
+        QCOMPARE(Main->List1.Widget().accessibleName(), QStringLiteral("List1"));
+        Main->List1.SetSpokenAs(QStringLiteral("From:"));
+        QCOMPARE(Main->List1.Widget().accessibleName(), QStringLiteral("From:"));
+        Main->List1.SetToolTip(QStringLiteral("The first year"));
+        QCOMPARE(Main->List1.Widget().accessibleName(), QStringLiteral("The first year"));
+    }
+
     void nothing_is_selected_at_first()
     {
         QCOMPARE(Main->List1.ListIndex(), -1);
