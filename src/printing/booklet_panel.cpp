@@ -38,6 +38,7 @@ void mnuPrnt_Click()
     form.pnlPrint.ZOrder();
     ResetPanel();
     form.pnlPrint.Show();
+    form.SetCancelButton(&form.cmdCancel);
     form.cmdOK.ZOrder();
 }
 

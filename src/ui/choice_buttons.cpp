@@ -5,6 +5,17 @@
 
 namespace torvik {
 
+namespace {
+
+/// A button that is pressed anywhere on its area, not only on its mark and its letters.
+template <typename Base>
+class WholeArea : public Base {
+protected:
+    bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
+};
+
+} // namespace
+
 ChoiceButton::ChoiceButton(Container& container, const QString& name, QAbstractButton* button,
                            const Twips& design, const QString& caption)
     : Control(container, name, button, design), button_(button)
@@ -49,11 +60,11 @@ QString ChoiceButton::AccessibleText() const
 
 OptionButton::OptionButton(Container& container, const QString& name, const Twips& design,
                            const QString& caption)
-    : ChoiceButton(container, name, new QRadioButton, design, caption)
+    : ChoiceButton(container, name, new WholeArea<QRadioButton>, design, caption)
 {}
 
 CheckBox::CheckBox(Container& container, const QString& name, const Twips& design, const QString& caption)
-    : ChoiceButton(container, name, new QCheckBox, design, caption)
+    : ChoiceButton(container, name, new WholeArea<QCheckBox>, design, caption)
 {}
 
 } // namespace torvik

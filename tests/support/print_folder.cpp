@@ -66,6 +66,21 @@ QImage PrintFolder::Image(int job, int page) const
                                       number, QStringLiteral("-l"), number, FileOf(job)}));
 }
 
+QList<QSize> PrintFolder::PictureSizes(int job) const
+{
+    constexpr int heading = 2; // lines
+    QList<QSize> sizes;
+    const QStringList lines =
+        QString::fromUtf8(OutputOf(QStringLiteral("pdfimages"), {QStringLiteral("-list"), FileOf(job)}))
+            .split(u'\n', Qt::SkipEmptyParts)
+            .mid(heading);
+    for (const QString& line : lines) {
+        const QStringList columns = line.split(u' ', Qt::SkipEmptyParts);
+        sizes.append({columns.at(3).toInt(), columns.at(4).toInt()});
+    }
+    return sizes;
+}
+
 QSizeF PrintFolder::Paper(int job) const
 {
     return QSizeF(Image(job, 1).size()) * twipsPerPixel;

@@ -28,6 +28,8 @@ public:
     QStringList Pages(int job) const;
     /// A page (from 1) as a picture of 72 pixels to the inch, so that a pixel is 20 twips.
     QImage Image(int job, int page) const;
+    /// The pictures of a job in the order in which they were painted, in their own pixels.
+    QList<QSize> PictureSizes(int job) const;
     /// The size of the paper in twips.
     QSizeF Paper(int job) const;
 

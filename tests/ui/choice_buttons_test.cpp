@@ -46,6 +46,18 @@ private Q_SLOTS:
         QCOMPARE(clicks_, (QStringList{QStringLiteral("All"), QStringLiteral("Chosen")}));
     }
 
+    void the_whole_area_takes_the_press()
+    {
+        for (const ChoiceButton* button : std::initializer_list<ChoiceButton*>{&Main->All, &Main->Cover}) {
+            const QRect area = button->Widget().rect();
+            QTest::mouseClick(&button->Widget(), Qt::LeftButton, {}, area.center());
+            QVERIFY(button->Value());
+        }
+        QTest::mouseClick(&Main->Cover.Widget(), Qt::LeftButton, {},
+                          Main->Cover.Widget().rect().bottomRight());
+        QVERIFY(!Main->Cover.Value());
+    }
+
     void another_container_has_a_choice_of_its_own()
     {
         Main->All.SetValue(true);

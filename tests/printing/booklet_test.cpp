@@ -1,0 +1,261 @@
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "support/booklet_run.h"
+#include "ui/printer.h"
+#include "ui/screen.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+/// What the booklet holds, read back from the printed files.
+class BookletTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { run_ = std::make_unique<BookletRun>(); }
+    void cleanup() { run_.reset(); }
+
+    // What is printed
+
+    void a_description_is_one_document_for_each_year()
+    {
+        run_->Print({box::description}, "1967", "1969");
+        ExpectPrinted(*run_, {QStringLiteral("Description of 67."), QStringLiteral("Description of 68."),
+                              QStringLiteral("Description of 69.")});
+    }
+
+    void the_details_are_options_statistics_and_colors_in_this_order()
+    {
+        run_->Print({box::details}, "1967", "1967");
+        ExpectPrinted(*run_, {QStringLiteral("Options of 67."), QStringLiteral("Statistics of 67."),
+                              QStringLiteral("Colors of 67.")});
+    }
+
+    void a_year_is_complete_before_the_next_one_begins()
+    {
+        run_->Print({box::description, box::details}, "1968", "1969");
+        QStringList expected;
+        for (const char* year : {"68", "69"})
+            expected += DocumentsOf(year);
+        ExpectPrinted(*run_, expected);
+    }
+
+    void one_year_can_be_both_ends()
+    {
+        run_->Print({box::description}, "1968", "1968");
+        ExpectPrinted(*run_, {QStringLiteral("Description of 68.")});
+    }
+
+    void the_range_runs_over_the_turn_of_the_century()
+    {
+        run_->Print({box::description, box::details}, "1998", "2001");
+        QStringList expected;
+        for (const char* year : {"98", "99", "A0", "A1"})
+            expected += DocumentsOf(year);
+        ExpectPrinted(*run_, expected);
+    }
+
+    void one_year_of_the_new_century_is_a_range_data()
+    {
+        QTest::addColumn<QString>("prefix");
+        QTest::newRow("2000") << QStringLiteral("A0");
+        QTest::newRow("2001") << QStringLiteral("A1");
+    }
+    void one_year_of_the_new_century_is_a_range()
+    {
+        QFETCH(QString, prefix);
+        const char* year = QTest::currentDataTag();
+        run_->Print({box::description}, year, year);
+        ExpectPrinted(*run_, {QStringLiteral("Description of ") + prefix + u'.'});
+        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\RichText\\") + prefix + QStringLiteral("desc.rtf"));
+    }
+
+    void long_documents_take_the_pages_that_they_need()
+    {
+        run_->User.Disc.AddDocument(QStringLiteral("99desc.rtf"),
+                                    QStringLiteral("One.\\page Two.\\page Three."));
+        run_->User.Disc.AddDocument(QStringLiteral("A1desc.rtf"), QStringLiteral("One.\\page Two."));
+        run_->Print({box::description}, "1999", "2001");
+        QCOMPARE(run_->Printed.Jobs(), 3);
+        QCOMPARE(run_->Printed.Pages(1).size(), 3);
+        QCOMPARE(run_->Printed.Pages(2).size(), 1);
+        QCOMPARE(run_->Printed.Pages(3).size(), 2);
+    }
+
+    void the_boxes_do_not_mind_the_order_in_which_they_are_ticked()
+    {
+        run_->Print({box::details, box::introduction, box::description}, "1967", "1967");
+        ExpectPrinted(*run_, QStringList(QStringLiteral("Introduction.")) + DocumentsOf("67"));
+    }
+
+    void the_introduction_needs_no_year()
+    {
+        run_->Print({box::introduction});
+        ExpectPrinted(*run_, {QStringLiteral("Introduction.")});
+        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\RichText\\introduction.rtf"));
+    }
+
+    void a_box_without_documents_of_its_own_prints_nothing_data() { AddBoxesWithoutDocuments(); }
+    void a_box_without_documents_of_its_own_prints_nothing()
+    {
+        QFETCH(int, box);
+        run_->Print({box}, "1967", "2001");
+        ExpectPrinted(*run_, {});
+        QVERIFY(!Printer.HasJob());
+    }
+
+    void every_document_keeps_an_inch_from_the_edges()
+    {
+        QString long_;
+        for (int count = 0; count < 300; ++count)
+            long_ += QStringLiteral("Words enough to fill lines and pages. ");
+        run_->User.Disc.AddDocument(QStringLiteral("67desc.rtf"), long_);
+        run_->Print({box::description}, "1967", "1967");
+        const QSizeF paper = run_->Printed.Paper(1);
+        const QRectF ink = InkOf(run_->Printed.Image(1, 1));
+        constexpr double millimetre = 56.7;
+        QVERIFY(qAbs(ink.left() - 1440) < millimetre);
+        QVERIFY(ink.top() >= 1440 - millimetre && ink.top() < 1440 + 200);
+        QVERIFY(ink.right() <= paper.width() - 1440 + millimetre);
+        QVERIFY(ink.bottom() <= paper.height() - 1440 + millimetre);
+    }
+
+    // The cover
+
+    void each_cover_picture_stands_at_its_place_in_its_natural_size_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int index = 0; index < 4; ++index)
+            QTest::newRow(coverArt.at(static_cast<std::size_t>(index)).File) << index;
+    }
+    void each_cover_picture_stands_at_its_place_in_its_natural_size()
+    {
+        QFETCH(int, index);
+        constexpr double border = 360;      // twips from the paper's edge to the printable area
+        constexpr double millimetre = 56.7; // twips
+        run_->Print({box::cover, box::introduction});
+        const CoverArt& art = coverArt.at(static_cast<std::size_t>(index));
+        const QRectF ink = InkOf(run_->Printed.Image(1, 1), [&](const QColor& colour) {
+            return qAbs(colour.red() - art.Colour.red()) < 40 &&
+                   qAbs(colour.green() - art.Colour.green()) < 40 &&
+                   qAbs(colour.blue() - art.Colour.blue()) < 40;
+        });
+        QVERIFY(qAbs(ink.left() - (border + art.Place.x())) < millimetre);
+        QVERIFY(qAbs(ink.top() - (border + art.Place.y())) < millimetre);
+        QVERIFY(qAbs(ink.width() - art.Size.width() * 15) < millimetre);
+        QVERIFY(qAbs(ink.height() - art.Size.height() * 15) < millimetre);
+    }
+
+    void the_cover_pictures_are_printed_in_order()
+    {
+        run_->Print({box::cover, box::introduction});
+        QList<QSize> expected;
+        for (const CoverArt& art : coverArt)
+            expected.append(art.Size);
+        QCOMPARE(run_->Printed.PictureSizes(1), expected);
+    }
+
+    void the_cover_rides_in_the_job_of_the_first_document()
+    {
+        run_->Print({box::cover, box::introduction, box::description}, "1967", "1968");
+        QCOMPARE(run_->Printed.Jobs(), 3);
+        QCOMPARE(run_->Printed.Pages(1).size(), 2);
+        QCOMPARE(run_->Printed.Pages(1).at(0).simplified(), QString());
+        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), QStringLiteral("Introduction."));
+        QCOMPARE(run_->Printed.Pages(2).size(), 1);
+    }
+
+    void without_an_introduction_the_cover_rides_with_the_first_year()
+    {
+        run_->Print({box::cover, box::details}, "1967", "1967");
+        QCOMPARE(run_->Printed.Jobs(), 3);
+        QCOMPARE(run_->Printed.Pages(1).size(), 2);
+        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), QStringLiteral("Options of 67."));
+    }
+
+    void a_cover_alone_needs_no_year_and_leaves_its_job_open()
+    {
+        run_->Print({box::cover});
+        ExpectSuccess(*run_);
+        QVERIFY(Printer.HasJob());
+        QCOMPARE(run_->Printed.Jobs(), 0);
+        Printer.EndDoc(); // as the end of the program does
+        QCOMPARE(run_->Printed.Jobs(), 1);
+        QCOMPARE(run_->Printed.Pages(1).size(), 2);
+        QVERIFY(!InkOf(run_->Printed.Image(1, 1)).isNull());
+        QVERIFY(InkOf(run_->Printed.Image(1, 2)).isNull());
+    }
+
+    void the_next_document_continues_the_job_of_a_cover_that_stood_alone()
+    {
+        run_->Print({box::cover});
+        run_->User.Click(Form1->Check1(box::cover));
+        run_->User.Click(Form1->Check1(box::introduction));
+        run_->User.Click(Form1->cmdPrint);
+        QVERIFY(!Printer.HasJob());
+        QCOMPARE(run_->Printed.Jobs(), 1);
+        QCOMPARE(run_->Printed.Pages(1).size(), 2);
+        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), QStringLiteral("Introduction."));
+    }
+
+    // What the user is told
+
+    void success_is_told_and_the_buttons_say_so_afterwards()
+    {
+        run_->Print({box::cover, box::description}, "1967", "1968");
+        ExpectSuccess(*run_);
+        QCOMPARE(run_->User.Messages.Count(), 1);
+        QCOMPARE(state.MessageText, QStringLiteral("Booklet printed!\r\n"));
+        QVERIFY(Form1->pnlPrint.Visible());
+        QVERIFY(Form1->Check1(box::cover).Value() && Form1->Check1(box::description).Value());
+        QCOMPARE(Form1->List1(0).Text(), QStringLiteral("1967"));
+        QCOMPARE(Form1->List1(1).Text(), QStringLiteral("1968"));
+        QVERIFY(Form1->cmdPrint.Enabled());
+    }
+
+    void the_captions_change_only_after_the_message()
+    {
+        run_->User.Messages.WhenAsked([this] {
+            seen_ = {Form1->cmdPrint.Caption(), Form1->cmdOK.Caption()};
+            QCOMPARE(Screen.Pointer(), MousePointer::Default);
+        });
+        run_->Print({box::introduction});
+        QCOMPARE(seen_, QStringList({QStringLiteral("Print"), QStringLiteral("Cancel")}));
+    }
+
+    void printing_again_prints_the_same_again()
+    {
+        run_->Print({box::introduction, box::description}, "1967", "1968");
+        run_->User.Messages.Clear();
+        run_->User.Click(Form1->cmdPrint);
+        ExpectSuccess(*run_);
+        const QStringList booklet{QStringLiteral("Introduction."), QStringLiteral("Description of 67."),
+                                  QStringLiteral("Description of 68.")};
+        ExpectPrinted(*run_, booklet + booklet);
+    }
+
+    void clear_begins_anew_after_a_booklet()
+    {
+        run_->Print({box::introduction});
+        run_->User.Click(Form1->SSCommand7);
+        QCOMPARE(Form1->cmdPrint.Caption(), QStringLiteral("Print"));
+        QCOMPARE(Form1->cmdOK.Caption(), QStringLiteral("Cancel"));
+        QVERIFY(!Form1->cmdPrint.Enabled());
+    }
+
+    void exit_hides_the_panel_after_a_booklet()
+    {
+        run_->Print({box::introduction});
+        QCOMPARE(Form1->cmdOK.Caption(), QStringLiteral("Exit"));
+        run_->User.Click(Form1->cmdOK);
+        QVERIFY(!Form1->pnlPrint.Visible());
+    }
+
+private:
+    QStringList seen_;
+    std::unique_ptr<BookletRun> run_;
+};
+
+QTEST_MAIN(BookletTest)
+#include "booklet_test.moc"

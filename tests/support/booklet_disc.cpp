@@ -1,0 +1,38 @@
+#include "support/booklet_disc.h"
+
+#include <QBuffer>
+#include <QImage>
+
+namespace torvik {
+
+void AddCover(TestDisc& disc)
+{
+    for (const CoverArt& art : coverArt) {
+        QImage image(art.Size, QImage::Format_RGB32);
+        image.fill(art.Colour);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, art.Format, 95);
+        disc.AddFile(QString::fromLatin1(art.File), bytes);
+    }
+}
+
+void AddIntroduction(TestDisc& disc)
+{
+    disc.AddDocument(QStringLiteral("introduction.rtf"), QStringLiteral("Introduction."));
+}
+
+void AddYear(TestDisc& disc, const QString& prefix)
+{
+    const auto add = [&](const char* ending, const char* subject) {
+        disc.AddDocument(prefix + QString::fromLatin1(ending),
+                         QString::fromLatin1(subject) + QStringLiteral(" of ") + prefix + u'.');
+    };
+    add("desc.rtf", "Description");
+    add("opts.rtf", "Options");
+    add("stats.rtf", "Statistics");
+    add("colors.rtf", "Colors");
+}
+
+} // namespace torvik

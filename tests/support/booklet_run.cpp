@@ -1,0 +1,109 @@
+#include "support/booklet_run.h"
+
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "support/menu_choice.h"
+#include "ui/screen.h"
+
+#include <QTest>
+
+namespace torvik {
+
+namespace {
+
+const QString boxTitle = QStringLiteral("The Torvik Vollandry");
+
+void SelectYearIn(int list, const char* year)
+{
+    if (year != nullptr && *year != '\0')
+        Form1->List1(list).SetListIndex(QByteArray(year).toInt() - 1967);
+}
+
+} // namespace
+
+BookletRun::BookletRun()
+{
+    User.Disc.AddGroup(QStringLiteral("67"), 1);
+    for (const char* prefix : {"67", "68", "69", "98", "99", "A0", "A1"})
+        AddYear(User.Disc, QString::fromLatin1(prefix));
+    AddIntroduction(User.Disc);
+    AddCover(User.Disc);
+    User.StartBrowsing();
+    ChooseMenu(*Form1, QStringLiteral("mnuPrnt"));
+    User.Settle();
+}
+
+void BookletRun::Print(const QList<int>& boxes, const char* from, const char* to)
+{
+    for (const int box : boxes)
+        User.Click(Form1->Check1(box));
+    SelectYearIn(0, from);
+    SelectYearIn(1, to);
+    User.Click(Form1->cmdPrint);
+}
+
+QStringList BookletRun::Texts() const
+{
+    QStringList texts;
+    for (int job = 1; job <= Printed.Jobs(); ++job)
+        texts.append(Printed.Pages(job).join(u'|').simplified());
+    return texts;
+}
+
+QStringList DocumentsOf(const char* prefix)
+{
+    const QString ending = QStringLiteral(" of ") + QString::fromLatin1(prefix) + u'.';
+    return {QStringLiteral("Description") + ending, QStringLiteral("Options") + ending,
+            QStringLiteral("Statistics") + ending, QStringLiteral("Colors") + ending};
+}
+
+void AddBoxesWithoutDocuments()
+{
+    QTest::addColumn<int>("box");
+    QTest::newRow(" Clip art") << box::clipArt;
+    QTest::newRow(" Engines") << box::engines;
+    QTest::newRow(" Options") << box::options;
+    QTest::newRow(" Colors") << box::colors;
+}
+
+void ExpectSuccess(const BookletRun& run)
+{
+    QCOMPARE(run.User.Messages.Last().Text, QStringLiteral("Booklet printed!\r\n"));
+    QCOMPARE(run.User.Messages.Last().Style, 48);
+    QCOMPARE(run.User.Messages.Last().Title, boxTitle);
+    QCOMPARE(Form1->cmdPrint.Caption(), QStringLiteral("Print Again"));
+    QCOMPARE(Form1->cmdOK.Caption(), QStringLiteral("Exit"));
+    QCOMPARE(Screen.Pointer(), MousePointer::Default);
+}
+
+void ExpectRefusal(const BookletRun& run, const char* code, const char* text, bool discHint)
+{
+    QString message = QStringLiteral("Error number: ") + QString::fromLatin1(code) +
+                      QStringLiteral("\r\n\r\n") + QString::fromLatin1(text);
+    if (discHint)
+        message += QStringLiteral("\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive.");
+    QCOMPARE(run.User.Messages.Count(), 1);
+    QCOMPARE(run.User.Messages.Last().Text, message);
+    QCOMPARE(run.User.Messages.Last().Style, 16);
+    QCOMPARE(run.User.Messages.Last().Title, boxTitle);
+    QCOMPARE(state.ErrorCode, QString::fromLatin1(code));
+    QVERIFY(Form1->pnlPrint.Visible());
+    QVERIFY(Form1->cmdPrint.Enabled());
+    QCOMPARE(Form1->cmdPrint.Caption(), QStringLiteral("Print"));
+    QCOMPARE(Form1->cmdOK.Caption(), QStringLiteral("Cancel"));
+    QCOMPARE(Screen.Pointer(), MousePointer::Default);
+    QVERIFY(Form1->Enabled());
+}
+
+void ExpectTexts(const BookletRun& run, const QStringList& texts)
+{
+    QCOMPARE(run.Texts(), texts);
+}
+
+void ExpectPrinted(const BookletRun& run, const QStringList& texts)
+{
+    ExpectSuccess(run);
+    ExpectTexts(run, texts);
+}
+
+} // namespace torvik
