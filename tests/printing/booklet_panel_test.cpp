@@ -151,6 +151,41 @@ private Q_SLOTS:
         QVERIFY(Form1->Enabled());
     }
 
+    void escape_answers_the_copy_panel_and_not_this_one_data()
+    {
+        QTest::addColumn<QString>("focus");
+        for (const char* name : {"cmdYR(2)", "SSCommand7", "Check1(0)", "List1(0)"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void escape_answers_the_copy_panel_and_not_this_one()
+    {
+        QFETCH(QString, focus);
+        Form1->pnlProgress.Show();
+        Open();
+        Control::OfWidget(Form1->Host().findChild<QWidget*>(focus))->SetFocus();
+        program_->Press(Qt::Key_Escape);
+        QVERIFY(Form1->pnlPrint.Visible());
+        QVERIFY(!Form1->pnlProgress.Visible());
+    }
+
+    void escape_does_nothing_before_the_panel_was_opened()
+    {
+        Form1->pnlProgress.Show();
+        Form1->cmdYR(2).SetFocus();
+        program_->Press(Qt::Key_Escape);
+        QVERIFY(Form1->pnlProgress.Visible());
+    }
+
+    void escape_does_nothing_while_the_copy_panels_button_is_disabled()
+    {
+        Form1->pnlProgress.Show();
+        Form1->cmdCancel.SetEnabled(false);
+        Open();
+        program_->Press(Qt::Key_Escape);
+        QVERIFY(Form1->pnlProgress.Visible());
+        QVERIFY(Form1->pnlPrint.Visible());
+    }
+
     void the_browsing_view_under_the_panel_stays_as_it_was()
     {
         program_->Click(Form1->cmdYR(3));
