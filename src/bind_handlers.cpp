@@ -16,6 +16,10 @@
 #include "local/remove_copies.h"
 #include "shell/form1_life.h"
 #include "shell/start_up.h"
+#include "utilities/about_box.h"
+#include "utilities/display_check.h"
+#include "utilities/help_contents.h"
+#include "utilities/system_information.h"
 #include "utilities/task_bar_toggle.h"
 
 namespace torvik {
@@ -39,6 +43,10 @@ void BindHandlers()
     BindRemoveCopies();
     BindPlayListForm();
     BindTaskBarToggle();
+    BindDisplayCheck();
+    BindSystemInformation();
+    BindAboutBox();
+    BindHelpContents();
 }
 
 } // namespace torvik

@@ -185,6 +185,11 @@ QString NumberText(double value)
     return QString::number(value, 'G', significantDigits);
 }
 
+QString Str(double value)
+{
+    return value < 0 ? NumberText(value) : u' ' + NumberText(value);
+}
+
 long RoundHalfEven(double value)
 {
     const double below = std::floor(value);

@@ -26,6 +26,8 @@ double Val(const QString& text);
 double ToNumber(const QString& text);
 /// `value` as decimal text: no leading blank, no trailing zeros, a point as the separator.
 QString NumberText(double value);
+/// The same with a blank in front of a number that is not negative: the room of the sign.
+QString Str(double value);
 /// `value` rounded to a whole number, halves to the even neighbour.
 long RoundHalfEven(double value);
 

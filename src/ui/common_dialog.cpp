@@ -3,6 +3,7 @@
 #include "platform/failure.h"
 #include "ui/printer.h"
 #include "ui/printer_dialog.h"
+#include "ui/win_help.h"
 
 #include <utility>
 
@@ -19,6 +20,11 @@ void CommonDialog::SetAction(int action)
         Fail(failure::invalidProperty);
     if (const auto chosen = AskForPrinter(Printer.Setup(), Printer.Choices()))
         Printer.SetUp(*chosen);
+}
+
+void CommonDialog::ShowHelp() const
+{
+    WinHelp(0, helpFile_, helpCommand_, {});
 }
 
 } // namespace torvik

@@ -3,8 +3,8 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "rtf/rtf_reader.h"
+#include "ui/shell_execute.h"
 
-#include <QDesktopServices>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTextBrowser>
@@ -15,24 +15,13 @@
 
 namespace torvik {
 
-namespace {
-
-void OpenOutside(const QUrl& address)
-{
-    const QString scheme = address.scheme().toLower();
-    if (scheme == QStringLiteral("http") || scheme == QStringLiteral("https") ||
-        scheme == QStringLiteral("mailto"))
-        QDesktopServices::openUrl(address);
-}
-
-} // namespace
-
 RichTextBox::RichTextBox(Container& container, const QString& name, const Twips& design)
     : Control(container, name, new QTextBrowser, design), pane_(static_cast<QTextBrowser*>(&Widget()))
 {
     pane_->setOpenLinks(false);
     pane_->setUndoRedoEnabled(false);
-    connect(pane_, &QTextBrowser::anchorClicked, this, &OpenOutside);
+    connect(pane_, &QTextBrowser::anchorClicked, this,
+            [](const QUrl& address) { ShellExecute(address.toString(QUrl::FullyEncoded)); });
     WatchInput(pane_->viewport());
 }
 

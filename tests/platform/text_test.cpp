@@ -188,6 +188,14 @@ private Q_SLOTS:
         QCOMPARE(RoundHalfEven(least), std::numeric_limits<long>::min());
         QCOMPARE(FailureOf([&] { RoundHalfEven(-least); }), failure::overflow);
     }
+
+    void str_keeps_room_for_the_sign()
+    {
+        QCOMPARE(Str(1024), QStringLiteral(" 1024"));
+        QCOMPARE(Str(0), QStringLiteral(" 0"));
+        QCOMPARE(Str(-5), QStringLiteral("-5"));
+        QCOMPARE(Str(0.5), QStringLiteral(" 0.5"));
+    }
 };
 
 QTEST_MAIN(TextTest)

@@ -1,8 +1,8 @@
 #include "picture_bytes.h"
+#include "support/desktop.h"
 #include "ui/rich_text_box.h"
 #include "ui_room.h"
 
-#include <QDesktopServices>
 #include <QTextBrowser>
 
 using namespace torvik;
@@ -22,34 +22,6 @@ QTextBrowser& Pane()
 }
 
 } // namespace
-
-/// Takes the addresses that the program would give to the desktop.
-class Desktop : public QObject {
-    Q_OBJECT
-
-public:
-    Desktop()
-    {
-        for (const QString& scheme : Schemes())
-            QDesktopServices::setUrlHandler(scheme, this, "Open");
-    }
-    ~Desktop() override
-    {
-        for (const QString& scheme : Schemes())
-            QDesktopServices::unsetUrlHandler(scheme);
-    }
-    QStringList Opened;
-
-public Q_SLOTS:
-    void Open(const QUrl& address) { Opened.append(address.toString()); }
-
-private:
-    static QStringList Schemes()
-    {
-        return {QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("mailto"),
-                QStringLiteral("file")};
-    }
-};
 
 /// The pane that shows a rich-text file.
 class RichTextBoxTest : public QObject {

@@ -1,0 +1,49 @@
+#include "utilities/about_box.h"
+
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "ui/shell_execute.h"
+#include "utilities/frm_about.h"
+#include "utilities/maker.h"
+#include "utilities/task_bar.h"
+
+namespace torvik {
+
+namespace {
+
+const QString lineEnd = QStringLiteral("\r\n");
+
+/// In the middle of Form1's size, wherever Form1 stands.
+void frmAbout_Load()
+{
+    frmAboutControls& form = *frmAbout;
+    form.SetTop((Form1->Height() - form.Height()) / 2);
+    form.SetLeft((Form1->Width() - form.Width()) / 2);
+    form.panQuillon.SetCaption(maker::name + lineEnd + maker::street + lineEnd + maker::town + lineEnd +
+                               QStringLiteral("WEB: ") + maker::webAddress);
+    form.SSPanel2.SetCaption(maker::legalNotice);
+}
+
+/// The browser needs the task bar. The menu entry keeps its caption, so its next click goes by that alone.
+void VisitWebSite()
+{
+    state.ApiResult = ShowWindow(state.TrayWindow, showWindow::normal);
+    ShellExecute(maker::webAddress);
+}
+
+} // namespace
+
+void BindAboutBox()
+{
+    Form1.Bind([](Form1Controls& form) {
+        form.mnuAbout.Click = [] { frmAbout->ShowModal(); };
+        form.mnuQuillonSoftware.Click = VisitWebSite;
+    });
+    frmAbout.Bind([](frmAboutControls& form) {
+        form.Load = frmAbout_Load;
+        form.SSCommand1.Click = [] { frmAbout.Unload(); };
+        form.SSCommand2.Click = VisitWebSite;
+    });
+}
+
+} // namespace torvik

@@ -1,0 +1,26 @@
+#include "utilities/help_contents.h"
+
+#include "shell/form1.h"
+#include "shell/help_window.h"
+#include "ui/win_help.h"
+
+namespace torvik {
+
+namespace {
+
+void mnuContents_Click()
+{
+    CommonDialog& dialog = Form1->dlgCommon1;
+    dialog.SetHelpFile(HelpFile());
+    dialog.SetHelpCommand(winHelp::contents);
+    dialog.ShowHelp();
+}
+
+} // namespace
+
+void BindHelpContents()
+{
+    Form1.Bind([](Form1Controls& form) { form.mnuContents.Click = mnuContents_Click; });
+}
+
+} // namespace torvik

@@ -1,0 +1,87 @@
+#include "utilities/system_information.h"
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/process.h"
+#include "platform/registry.h"
+#include "shell/form1.h"
+#include "ui/message_box.h"
+
+#include <optional>
+
+namespace torvik {
+
+namespace {
+
+/// Command lines of the desktops' own tools, the most telling ones first.
+constexpr const char* desktopTools[] = {
+    "hardinfo2",
+    "hardinfo",
+    "kinfocenter",
+    "gnome-control-center info-overview",
+    "cinnamon-settings info",
+    "mate-system-monitor",
+    "gnome-system-monitor",
+    "xfce4-taskmanager",
+    "plasma-systemmonitor",
+};
+
+/// The tool's own entry in the registry, else the folder in which its like are.
+std::optional<QString> RegisteredTool()
+{
+    QString tool;
+    if (ReadRegistryValue(registry::localMachine, QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"),
+                          QStringLiteral("PATH"), tool))
+        return tool;
+    if (ReadRegistryValue(registry::localMachine,
+                          QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools Location"),
+                          QStringLiteral("MSINFO"), tool) &&
+        FileExists(tool + QStringLiteral("\\MSINFO32.EXE")))
+        return tool + QStringLiteral("\\MSINFO32.EXE");
+    return std::nullopt;
+}
+
+/// The program goes on by itself.
+void Start(const QString& commandLine)
+{
+    const RunningProcess started(commandLine);
+}
+
+/// False when none of the desktops' tools is installed.
+bool StartDesktopTool()
+{
+    for (const char* tool : desktopTools) {
+        const int error = ResumeNext([tool] { Start(QLatin1String(tool)); });
+        if (error == 0)
+            return true;
+        if (error != failure::fileNotFound)
+            Fail(error);
+    }
+    return false;
+}
+
+void SayUnavailable()
+{
+    MsgBox(QStringLiteral("System Information Is Unavailable At This Time"));
+}
+
+} // namespace
+
+void StartSystemInformation()
+{
+    OnError(
+        [] {
+            if (const auto tool = RegisteredTool())
+                Start(u'"' + *tool + u'"');
+            else if (!StartDesktopTool())
+                SayUnavailable();
+        },
+        SayUnavailable);
+}
+
+void BindSystemInformation()
+{
+    Form1.Bind([](Form1Controls& form) { form.mnuSysInfo.Click = StartSystemInformation; });
+}
+
+} // namespace torvik

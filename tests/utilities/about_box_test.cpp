@@ -1,0 +1,160 @@
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "support/desktop.h"
+#include "support/modal_visit.h"
+#include "support/program.h"
+#include "ui/form_window.h"
+#include "utilities/frm_about.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+/// The about box and the ways to the web site.
+class AboutBoxTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->StartBrowsing();
+    }
+    void cleanup() { program_.reset(); }
+
+    void it_says_what_the_product_is()
+    {
+        QVERIFY(Visit([] {
+            QCOMPARE(frmAbout->SSPanel5.Caption(), QStringLiteral("The"));
+            QCOMPARE(frmAbout->SSPanel1.Caption(), QStringLiteral("Torvik Vollandry   "));
+            QCOMPARE(frmAbout->SSPanel4.Caption(), QStringLiteral("2001"));
+            QCOMPARE(frmAbout->SSPanel6.Caption(), QStringLiteral("2001.03"));
+            QCOMPARE(frmAbout->panAbout.Caption(), QString());
+            QCOMPARE(frmAbout->SSCommand1.Caption(), QStringLiteral("OK"));
+        }));
+    }
+
+    void it_names_the_maker_in_four_lines()
+    {
+        QVERIFY(Visit([] {
+            const QStringList lines = frmAbout->panQuillon.Caption().split(QStringLiteral("\r\n"));
+            QCOMPARE(lines.size(), 4);
+            QCOMPARE(lines[0], QStringLiteral("Quillon Software"));
+            QVERIFY(!lines[1].isEmpty());
+            QVERIFY(!lines[2].isEmpty());
+            QCOMPARE(lines[3], QStringLiteral("WEB: ") + frmAbout->SSCommand2.Caption());
+        }));
+    }
+
+    void the_legal_notice_begins_with_the_copyright_sign()
+    {
+        QVERIFY(Visit([] {
+            QCOMPARE(frmAbout->SSPanel2.Caption().front().unicode(), ushort{169});
+            QVERIFY(frmAbout->SSPanel2.Caption().size() > 20);
+        }));
+    }
+
+    void the_web_address_is_under_the_domain_for_examples()
+    {
+        QVERIFY(Visit([] {
+            const QUrl address(frmAbout->SSCommand2.Caption());
+            QCOMPARE(address.scheme(), QStringLiteral("http"));
+            QVERIFY(address.host().endsWith(QStringLiteral(".example")));
+        }));
+    }
+
+    void it_stands_in_the_middle_of_the_main_windows_size_wherever_that_stands()
+    {
+        Form1->SetLeft(3000);
+        Form1->SetTop(1500);
+        QVERIFY(Visit([] {
+            QCOMPARE(frmAbout->Left(), (12000 - frmAbout->Width()) / 2);
+            QCOMPARE(frmAbout->Top(), (9000 - frmAbout->Height()) / 2);
+        }));
+    }
+
+    void escape_closes_it_like_ok()
+    {
+        bool stood = false;
+        const ModalVisit visit(
+            [&] {
+                program_->Settle();
+                stood = frmAbout->Visible();
+                QTest::keyClick(static_cast<QWidget*>(&frmAbout->Window()), Qt::Key_Escape);
+                program_->Settle();
+            },
+            [] { QVERIFY(!frmAbout.IsLoaded()); });
+        Form1->mnuAbout.Click.Fire();
+        QVERIFY(visit.Ran());
+        QVERIFY(stood);
+    }
+
+    void its_button_opens_the_web_site_and_leaves_it_open()
+    {
+        const Desktop desktop;
+        QString address;
+        QVERIFY(Visit([&] {
+            address = frmAbout->SSCommand2.Caption();
+            program_->Click(frmAbout->SSCommand2);
+            QVERIFY(frmAbout->Visible());
+        }));
+        QCOMPARE(desktop.Opened, QStringList{address});
+    }
+
+    void the_menu_entry_opens_the_same_site()
+    {
+        const Desktop desktop;
+        Form1->mnuQuillonSoftware.Click.Fire();
+        frmAbout.LoadForm();
+        QCOMPARE(desktop.Opened, QStringList{frmAbout->SSCommand2.Caption()});
+        QCOMPARE(program_->Messages.Count(), 0);
+    }
+
+    void a_hidden_task_bar_comes_back_but_the_entry_keeps_its_caption()
+    {
+        const Desktop desktop;
+        Form1->mnuHideStatus.Click.Fire();
+        program_->Settle();
+        QVERIFY(Form1->CoversScreen());
+        Form1->mnuQuillonSoftware.Click.Fire();
+        program_->Settle();
+        QVERIFY(!Form1->CoversScreen());
+        QCOMPARE(state.ApiResult, 0); // it was hidden before
+        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("ShowStatusBar"));
+        Form1->mnuHideStatus.Click.Fire(); // goes by the caption alone
+        QVERIFY(!Form1->CoversScreen());
+        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("HideStatusBar"));
+    }
+
+    void without_a_task_bar_looked_up_nothing_is_shown()
+    {
+        const Desktop desktop;
+        state.ApiResult = 99;
+        Form1->mnuQuillonSoftware.Click.Fire();
+        QCOMPARE(state.ApiResult, 0);
+        QCOMPARE(state.TrayWindow, 0);
+    }
+
+private:
+    /// Opens the box, looks at it and closes it with OK; false when it never came.
+    template <typename Look>
+    bool Visit(Look&& look)
+    {
+        const ModalVisit visit(
+            [&] {
+                program_->Settle();
+                look();
+                program_->Click(frmAbout->SSCommand1);
+            },
+            [] { frmAbout.Unload(); });
+        Form1->mnuAbout.Click.Fire();
+        program_->Settle();
+        return visit.Ran() && !frmAbout.IsLoaded();
+    }
+
+    std::unique_ptr<Program> program_;
+};
+
+QTEST_MAIN(AboutBoxTest)
+#include "about_box_test.moc"
