@@ -11,6 +11,7 @@
 #include "shell/form1.h"
 #include "shell/program_state.h"
 #include "ui/message_box.h"
+#include "ui/paint_pace.h"
 #include "ui/screen.h"
 
 namespace torvik {
@@ -54,6 +55,13 @@ void CopyFileOfList(QString (*nameOf)(int index))
         CopyFileWithGauges();
 }
 
+void CopyFilesOfList(QString (*nameOf)(int index), const Integer& count)
+{
+    const PaintPace pace(*Form1);
+    for (state.LoopIndex = 1; state.LoopIndex <= count; state.LoopIndex += 1)
+        CopyFileOfList(nameOf);
+}
+
 void EndCopying()
 {
     Form1->ProgressGuage2.SetFloodPercent(100);
@@ -85,8 +93,7 @@ void CopyAllPhotos()
     BeginCopying();
     state.PhotoRoot = state.DiscRoot;
     BuildPhotoSet();
-    for (state.LoopIndex = 1; state.LoopIndex <= state.PhotoCount; state.LoopIndex += 1)
-        CopyFileOfList(NameOfPhoto);
+    CopyFilesOfList(NameOfPhoto, state.PhotoCount);
     EndCopying();
 }
 
@@ -94,8 +101,7 @@ void CopyAllMovies()
 {
     BeginCopying();
     BuildMovieList();
-    for (state.LoopIndex = 1; state.LoopIndex <= state.MovieCount; state.LoopIndex += 1)
-        CopyFileOfList(NameOfMovie);
+    CopyFilesOfList(NameOfMovie, state.MovieCount);
     EndCopying();
 }
 

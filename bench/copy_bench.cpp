@@ -1,0 +1,129 @@
+// The copying of 42 MB of photos with both gauges and a look at the events after each block, against the
+// system's cp on the same files; and how often the window is painted meanwhile.
+
+#include "local/copy_all.h"
+#include "measure.h"
+#include "platform/drives.h"
+#include "platform/program_folder.h"
+#include "shell/form1.h"
+#include "shell/form2.h"
+#include "shell/program_state.h"
+#include "ui/application.h"
+#include "ui/event.h"
+#include "ui/form_window.h"
+#include "ui/message_box.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr int photoCount = 600;
+constexpr int photoSize = 70'000; // 42 MB in all
+constexpr int rounds = 7;
+constexpr double limit = 1 / 0.4;
+constexpr double longestPause = 100; // milliseconds: ten times a second
+
+bool MakePhotos(const QString& folder)
+{
+    QByteArray content(photoSize, Qt::Uninitialized);
+    quint32 number = 1;
+    for (char& byte : content) {
+        number = number * 1664525 + 1013904223;
+        byte = static_cast<char>(number >> 24);
+    }
+    if (!QDir().mkpath(folder))
+        return false;
+    for (int i = 0; i < photoCount; ++i) {
+        QFile photo(
+            QStringLiteral("%1/%2TOR%3.JPG").arg(folder).arg(67 + i % 33).arg(i, 3, 10, QLatin1Char('0')));
+        if (!photo.open(QIODevice::WriteOnly) || photo.write(content) != photoSize)
+            return false;
+    }
+    return true;
+}
+
+/// Watches when the window is painted.
+class PaintWatch : public QObject {
+public:
+    explicit PaintWatch(QObject& painted)
+    {
+        painted.installEventFilter(this);
+        since_.start();
+    }
+    double LongestPause() const { return longest_; }
+    int Count() const { return count_; }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            longest_ = std::max(longest_, static_cast<double>(since_.nsecsElapsed()) / 1e6);
+            since_.restart();
+            ++count_;
+        }
+        return false;
+    }
+
+private:
+    QElapsedTimer since_;
+    double longest_ = 0;
+    int count_ = 0;
+};
+
+double CopyBySystem(const QString& source, const QString& target)
+{
+    return torvik::bench::Milliseconds([&] {
+        QProcess::execute(QStringLiteral("cp"), {QStringLiteral("-r"), source, target});
+    });
+}
+
+double CopyByProgram()
+{
+    return torvik::bench::Milliseconds([] {
+        torvik::MakeCopyFolder(torvik::ProgramFolder() + torvik::torviksFolder);
+        torvik::CopyAllPhotos();
+    });
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    torvik::Application application(argc, argv);
+    torvik::SetMessageResponder([](const torvik::MessageRequest&) { return torvik::msgbox::answerOk; });
+    const QTemporaryDir disc;
+    const QTemporaryDir folder;
+    if (!MakePhotos(disc.filePath(QStringLiteral("Torviks"))))
+        return 2;
+    torvik::SetDriveOptions({{u'G', disc.path()}});
+    torvik::SetProgramFolder(folder.path());
+    torvik::state.DiscRoot = torvik::state.PhotoRoot = QStringLiteral("G:");
+    torvik::state.CopyingPhotos = true;
+    torvik::Form1->pnlProgress.Show();
+    torvik::Form1->Show();
+    torvik::DoEvents();
+
+    std::vector<double> figures;
+    std::vector<double> baselines;
+    double pause = 0;
+    for (int round = 0; round < rounds; ++round) {
+        baselines.push_back(
+            CopyBySystem(disc.filePath(QStringLiteral("Torviks")), folder.filePath(QStringLiteral("cp"))));
+        const PaintWatch watch(torvik::Form1->ProgressGuage.Widget());
+        figures.push_back(CopyByProgram());
+        pause = std::max({pause, watch.LongestPause()});
+        if (QDir(folder.filePath(QStringLiteral("Torviks"))).count() != photoCount + 2u)
+            return 2;
+        QDir(folder.filePath(QStringLiteral("cp"))).removeRecursively();
+        QDir(folder.filePath(QStringLiteral("Torviks"))).removeRecursively();
+    }
+    const bool isFast = torvik::bench::Report("copy of 42 MB", "ms", torvik::bench::Median(figures),
+                                              torvik::bench::Median(baselines), limit);
+    const bool isAlive =
+        torvik::bench::Report("longest pause between two paints", "ms", pause, longestPause, 1);
+    return isFast && isAlive ? 0 : 1;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QString>
+
+namespace torvik {
+
+/// The content of a file of the host; a text that no file of the tests holds when it cannot be read.
+inline QByteArray BytesOf(const QString& hostPath)
+{
+    QFile file(hostPath);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+}
+
+/// Bytes without a period that fits any block, so that a block in the wrong place shows.
+inline QByteArray MixedBytes(int count)
+{
+    QByteArray bytes(count, Qt::Uninitialized);
+    quint32 number = 12345;
+    for (char& byte : bytes) {
+        number = number * 1664525 + 1013904223;
+        byte = static_cast<char>(number >> 24);
+    }
+    return bytes;
+}
+
+/// How many files this process holds open.
+inline qsizetype OpenFileCount()
+{
+    return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size();
+}
+
+} // namespace torvik
