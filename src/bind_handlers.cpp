@@ -11,6 +11,7 @@
 #include "documents/year_statistics.h"
 #include "local/copy_panel.h"
 #include "local/play_list_form.h"
+#include "local/saver_installation.h"
 #include "printing/booklet_panel.h"
 #include "printing/print_commands.h"
 #include "local/remove_copies.h"
@@ -42,6 +43,7 @@ void BindHandlers()
     BindCopyPanel();
     BindRemoveCopies();
     BindPlayListForm();
+    BindSaverInstallation();
     BindTaskBarToggle();
     BindDisplayCheck();
     BindSystemInformation();

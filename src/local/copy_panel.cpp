@@ -4,6 +4,7 @@
 #include "local/copy_all.h"
 #include "local/copy_job.h"
 #include "local/free_space.h"
+#include "local/panel_place.h"
 #include "platform/program_folder.h"
 #include "shell/form1.h"
 #include "shell/program_state.h"
@@ -15,14 +16,11 @@ namespace {
 
 const QString boxTitle = QStringLiteral("The Torvik Vollandry");
 
-/// Centred over the year bar, whose buttons are measured in twips while the panel's place is in pixels.
 void PlacePanel()
 {
     constexpr float distance = 60; // pixels
-    Form1Controls& form = *Form1;
-    const auto rightEdge = static_cast<float>((form.cmdExit.Width() + form.cmdExit.Left()) / twipsPerPixel);
-    form.pnlProgress.SetTop(static_cast<float>(form.cmdDesc.Top()) + distance);
-    form.pnlProgress.SetLeft((rightEdge - static_cast<float>(form.pnlProgress.Width())) / 2);
+    Form1->pnlProgress.SetTop(static_cast<float>(Form1->cmdDesc.Top()) + distance);
+    CentreOverYearBar(Form1->pnlProgress);
 }
 
 QString TooLittleRoom(qint64 free, qint64 demanded)
