@@ -3,8 +3,8 @@
 #include "captions.h"
 #include "in_parallel.h"
 #include "jpeg_file.h"
-#include "pass_by_sound.h"
 #include "photographer.h"
+#include "sounds/effects.h"
 #include "title_art.h"
 
 #include <QBuffer>
@@ -67,9 +67,17 @@ void MakeOpeningPicture(const QString& disc, const QString& program)
     WriteFile(program + QStringLiteral("/graphics/ClassicTorviks.jpg"), bytes);
 }
 
+void MakeSounds(const QString& disc)
+{
+    const std::vector<Effect>& effects = SoundEffects();
+    InParallel(effects.size(), [&](std::size_t i) {
+        WriteFile(disc + QStringLiteral("/wav/") + QLatin1String(effects[i].file), MakeEffect(effects[i]));
+    });
+}
+
 void MakePassBySound(const QString& program)
 {
-    WriteFile(program + QStringLiteral("/passby.wav"), PassBySound());
+    WriteFile(program + QStringLiteral("/passby.wav"), EffectNamed("passby.wav"));
 }
 
 void MakeAssets(const QString& folder)

@@ -13,6 +13,8 @@ void MakePhotos(const QString& disc);
 void MakeCaptions(const QString& disc);
 /// "graphics/ClassicTorviks.jpg" on the disc and in the program folder.
 void MakeOpeningPicture(const QString& disc, const QString& program);
+/// "wav": the sound effects.
+void MakeSounds(const QString& disc);
 /// "passby.wav" in the program folder.
 void MakePassBySound(const QString& program);
 /// The artwork that the program itself carries.

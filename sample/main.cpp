@@ -31,6 +31,7 @@ const std::vector<Part>& Parts()
         {"scripts", [](const QString& disc, const QString&) { MakeScripts(disc); }},
         {"clipart", [](const QString& disc, const QString&) { MakeClipArt(disc); }},
         {"booklet", [](const QString& disc, const QString&) { MakeBookletArt(disc); }},
+        {"sounds", [](const QString& disc, const QString&) { MakeSounds(disc); }},
         {"passby", [](const QString&, const QString& program) { MakePassBySound(program); }},
     };
     return parts;

@@ -1,0 +1,83 @@
+#include "effects.h"
+
+#include "effect_voices.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <stdexcept>
+
+namespace torvik::sample {
+
+namespace {
+
+Effect One(const char* file, double seconds, SoundForm form, Sound (*voice)())
+{
+    return {file, seconds, 1, form, [voice] { return std::vector<Sound>{voice()}; }};
+}
+
+Effect Two(const char* file, double seconds, SoundForm form, TwoEars (*voice)())
+{
+    return {file, seconds, 2, form, [voice] {
+                TwoEars both = voice();
+                return std::vector<Sound>{std::move(both.left), std::move(both.right)};
+            }};
+}
+
+} // namespace
+
+const std::vector<Effect>& SoundEffects()
+{
+    // Discs of the time mixed what their makers had: most at 22 kHz, some older ones with fewer bits.
+    static constexpr SoundForm kUsual{22050, 16};
+    static constexpr SoundForm kOld{22050, 8};
+    static constexpr SoundForm kOldest{11025, 8};
+    static constexpr SoundForm kDull{11025, 16};
+    static const std::vector<Effect> effects{
+        One("backfrng.wav", 4.0, kUsual, Backfiring),     One("car_door.wav", 2.8, kUsual, CarDoor),
+        One("carhorns.wav", 4.6, kOld, CarHorns),         Two("horns.wav", 6.5, kUsual, Traffic),
+        Two("cop-car.wav", 6.5, kUsual, PoliceCar),       One("taxi.wav", 3.6, kOldest, TaxiHorns),
+        One("sportcar.wav", 5.5, kUsual, SportsCar),      Two("18wheelr.wav", 7.0, kUsual, EighteenWheeler),
+        One("peel-out.wav", 5.5, kUsual, DragStart),      Two("Track2.wav", 7.5, kUsual, AtTheTrack),
+        Two("nascar.wav", 4.5, kUsual, StockCarsPass),    One("racecar.wav", 5.0, kUsual, RacingLap),
+        Two("indy-car.wav", 4.0, kUsual, SpeedwayPass),   One("mcycle.wav", 6.0, kUsual, TwinMotorcycle),
+        One("batmoble.wav", 6.0, kUsual, TurbineCar),     One("62sellark.wav", 5.0, kOld, GentleSix),
+        One("63sellark.wav", 5.5, kUsual, SportyEight),   One("selstart.wav", 7.5, kUsual, ThreeStarts),
+        One("passby.wav", 3.2, kUsual, PassingEight),     One("selcar.wav", 6.0, kOldest, OldColumnShift),
+        One("qr7start.wav", 5.0, kUsual, BigEightStart),  One("motorcyc2.wav", 5.5, kUsual, FourMotorcycle),
+        One("hot_rod.wav", 6.0, kUsual, BlownHotRod),     One("red_lght.wav", 7.0, kUsual, RedLight),
+        One("porche.wav", 6.0, kUsual, AirCooledStart),   One("stealth.wav", 4.5, kUsual, OpenRoadster),
+        One("stuck.wav", 6.5, kDull, StuckOnIce),         One("revnrun.wav", 6.0, kUsual, RevAndRun),
+        Two("goingby.wav", 4.5, kUsual, GoingByInTheWet),
+    };
+    return effects;
+}
+
+QByteArray MakeEffect(const Effect& effect)
+{
+    constexpr double kPeak = 0.9;
+    constexpr double kRounding = 1.6;
+    std::vector<Sound> channels = effect.make();
+    double loudest = 1e-9;
+    for (Sound& channel : channels) {
+        channel = AtRate(Faded(Lasting(std::move(channel), effect.seconds), 0.004, 0.09), effect.form.rate);
+        loudest = std::max(loudest, Loudest(channel));
+    }
+    // The highest peaks are rounded a little, so that single bangs do not make all the rest faint.
+    for (Sound& channel : channels) {
+        for (double& value : channel)
+            value = kPeak * std::tanh(kRounding * value / loudest) / std::tanh(kRounding);
+    }
+    return WaveFile(channels, effect.form);
+}
+
+QByteArray EffectNamed(const char* file)
+{
+    for (const Effect& effect : SoundEffects()) {
+        if (std::strcmp(effect.file, file) == 0)
+            return MakeEffect(effect);
+    }
+    throw std::runtime_error("No sound effect of this name is planned.");
+}
+
+} // namespace torvik::sample

@@ -1,0 +1,154 @@
+#include "road.h"
+
+#include "../noise.h"
+#include "../vec.h"
+#include "filters.h"
+
+namespace torvik::sample {
+
+Sound TyreSqueal(double seconds, const Course& pressure, std::uint32_t seed)
+{
+    const Sound drift = SlowNoise(seconds, 9, seed);
+    const Sound flutter = SlowNoise(seconds, 63, seed + 1);
+    const auto at = [](const Sound& sound, double t) {
+        return sound.empty() ? 0.0 : sound[std::min(sound.size() - 1, SamplesIn(t))];
+    };
+    Sound squeal = Silence(seconds);
+    // Two wheels, never quite of one mind; rubber sticks and slips, so the tone is rough.
+    int wheel = 0;
+    for (const double base : {905.0, 1130.0}) {
+        const double turn = ++wheel;
+        const Course hertz = [=, &drift, &flutter, &pressure](double t) {
+            return base * (0.86 + 0.16 * pressure(t) + 0.05 * at(drift, t * (turn == 1 ? 1.0 : 0.93)) +
+                           0.035 * at(flutter, t));
+        };
+        Add(squeal, RichTone(seconds, hertz, 7, 1.25), 0, 0.5);
+    }
+    squeal = Driven(std::move(squeal), 1.6);
+    Sound scrub = Filtered(WhiteNoise(seconds, seed + 3), Filter::BandPass(1500, 0.9));
+    Add(squeal, scrub, 0, 0.9);
+    squeal = Filtered(std::move(squeal), Filter::HighPass(350));
+    return Shaped(std::move(squeal), [&](double t) { return std::pow(Clamp01(pressure(t)), 1.5); });
+}
+
+Sound TyreRoll(double seconds, const Course& speed, double wet, std::uint32_t seed)
+{
+    Sound low = Filtered(WhiteNoise(seconds, seed), Filter::BandPass(620, 0.5));
+    Sound high = Filtered(WhiteNoise(seconds, seed + 1), Filter::BandPass(3800, 0.5));
+    Sound roll = std::move(low);
+    Add(roll, high, 0, 0.12 + 0.9 * wet);
+    return Shaped(std::move(roll), [&](double t) { return std::pow(std::max(0.0, speed(t)) / 25.0, 1.4); });
+}
+
+Sound WheelOnIce(double seconds, const Course& spin, std::uint32_t seed)
+{
+    const Sound shiver = SlowNoise(seconds, 24, seed);
+    const Course hertz = [&](double t) {
+        const double now = shiver.empty() ? 0.0 : shiver[std::min(shiver.size() - 1, SamplesIn(t))];
+        return 120 + 640 * spin(t) + 25 * now;
+    };
+    Sound whirr = Filtered(RichTone(seconds, hertz, 9, 1.0), Filter::BandPass(900, 0.7));
+    Sound spray = Filtered(WhiteNoise(seconds, seed + 1), Filter::BandPass(4200, 0.7));
+    Sound grit = WhiteNoise(seconds, seed + 2);
+    Random random(seed + 3);
+    for (double& value : grit)
+        value = random.Unit() < 0.004 ? value * 3 : 0.0;
+    grit = Filtered(std::move(grit), Filter::BandPass(2600, 1.2));
+    Add(whirr, spray, 0, 0.5);
+    Add(whirr, grit, 0, 1.4);
+    return Shaped(std::move(whirr), [&](double t) { return std::pow(Clamp01(spin(t)), 1.2); });
+}
+
+Sound Backfire(std::uint32_t seed)
+{
+    constexpr double kSeconds = 0.55;
+    Random random(seed);
+    const double deep = random.Between(58, 84);
+    Sound bang = Shaped(WhiteNoise(kSeconds, seed), [](double t) { return std::exp(-t / 0.012) * 2.2; });
+    Sound body = Filtered(WhiteNoise(kSeconds, seed + 1), Filter::BandPass(random.Between(300, 420), 0.8));
+    Add(bang, Shaped(std::move(body), [](double t) { return std::exp(-t / 0.07) * 5; }));
+    Sound thump = PureTone(kSeconds, [=](double t) { return deep + 110 * std::exp(-t / 0.025); });
+    Add(bang, Shaped(std::move(thump), [](double t) { return std::exp(-t / 0.09) * 1.5; }));
+    return InRoom(Faded(Driven(std::move(bang), 1.2), 0.0005, 0.2), 0.7, 0.25);
+}
+
+Sound DoorLatch()
+{
+    Sound latch = Struck(0.12, {760, 1730, 2950, 4400}, 0.018);
+    Add(latch, Struck(0.10, {520, 1240, 3300}, 0.02), 0.055, 0.8);
+    Add(latch, Shaped(WhiteNoise(0.08, 41), [](double t) { return 0.5 * std::exp(-t / 0.006); }));
+    return Faded(std::move(latch), 0.0005, 0.03);
+}
+
+Sound DoorCreak(double seconds, std::uint32_t seed)
+{
+    const Sound drift = SlowNoise(seconds, 7, seed);
+    // A hinge sticks and lets go, quicker in the middle of the way.
+    Random random(seed + 1);
+    Sound creak = Silence(seconds);
+    double t = 0.02;
+    while (t < seconds - 0.03) {
+        const double pace = 38 + 75 * std::sin(kPi * t / seconds) + 14 * drift[SamplesIn(t)];
+        Add(creak, Struck(0.03, {480, 910, 1480, 2210}, 0.010), t, random.Between(0.5, 1.0));
+        t += 1.0 / std::max(12.0, pace);
+    }
+    return Faded(Lasting(std::move(creak), seconds), 0.05, 0.08);
+}
+
+Sound DoorSlam(double heavy, std::uint32_t seed)
+{
+    constexpr double kSeconds = 0.6;
+    Sound slam = Shaped(WhiteNoise(kSeconds, seed), [](double t) { return 1.3 * std::exp(-t / 0.008); });
+    Sound sheet = Filtered(WhiteNoise(kSeconds, seed + 1), Filter::BandPass(420 - 190 * heavy, 1.1));
+    Add(slam, Shaped(std::move(sheet), [](double t) { return 6 * std::exp(-t / 0.05); }));
+    Sound thump = PureTone(kSeconds, [=](double t) { return 72 - 14 * heavy + 60 * std::exp(-t / 0.02); });
+    Add(slam, Shaped(std::move(thump), [=](double t) { return (0.9 + heavy) * std::exp(-t / 0.085); }));
+    // The lock catches just after, and the window rattles in its frame.
+    Add(slam, Struck(0.1, {690, 1610, 2800}, 0.02), 0.022, 0.6);
+    for (int i = 0; i < 4; ++i)
+        Add(slam, Struck(0.04, {2350, 3620, 5100}, 0.008), 0.06 + 0.024 * i, 0.22 - 0.05 * i);
+    return Faded(Driven(std::move(slam), 0.9), 0.0005, 0.15);
+}
+
+Sound AirBrake(double seconds, std::uint32_t seed)
+{
+    Sound air = Filtered(WhiteNoise(seconds, seed), Filter::HighPass(1700));
+    Add(air, Filtered(WhiteNoise(seconds, seed + 1), Filter::BandPass(3100, 2.2)), 0, 1.2);
+    air = Shaped(std::move(air), [=](double t) { return std::exp(-t / (seconds * 0.28)); });
+    return Faded(std::move(air), 0.006, seconds * 0.3);
+}
+
+Sound IndicatorTick(bool tock)
+{
+    const double pitch = tock ? 0.82 : 1.0;
+    Sound tick = Struck(0.05, {1850 * pitch, 3100 * pitch, 5200 * pitch}, 0.007);
+    return Faded(std::move(tick), 0.0003, 0.02);
+}
+
+Sound Crowd(double seconds, std::uint32_t seed)
+{
+    Sound crowd = Silence(seconds);
+    std::uint32_t voice = seed;
+    for (const double hertz : {340.0, 560.0, 880.0, 1350.0, 2100.0}) {
+        voice += 10;
+        const Sound swell = SlowNoise(seconds, 3.5, voice);
+        Sound band = Filtered(WhiteNoise(seconds, voice + 1), Filter::BandPass(hertz, 3));
+        for (std::size_t i = 0; i < band.size(); ++i)
+            band[i] *= 0.5 + 0.5 * swell[i];
+        Add(crowd, band, 0, 1.0 - hertz / 4000);
+    }
+    return crowd;
+}
+
+Sound CityHum(double seconds, std::uint32_t seed)
+{
+    Sound hum = Filtered(WhiteNoise(seconds, seed), Filter::LowPass(180));
+    const Sound swell = SlowNoise(seconds, 0.9, seed + 1);
+    for (std::size_t i = 0; i < hum.size(); ++i)
+        hum[i] *= 2.2 + swell[i];
+    Sound air = Filtered(WhiteNoise(seconds, seed + 2), Filter::BandPass(750, 0.4));
+    Add(hum, air, 0, 0.16);
+    return hum;
+}
+
+} // namespace torvik::sample

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "sources.h"
+
+#include <cstdint>
+
+namespace torvik::sample {
+
+/// Tyres that slide and cry; `pressure` 0 to 1 says how hard at each second.
+Sound TyreSqueal(double seconds, const Course& pressure, std::uint32_t seed);
+/// Tyres that roll; `speed` in metres a second at each second, `wet` 0 to 1.
+Sound TyreRoll(double seconds, const Course& speed, double wet, std::uint32_t seed);
+/// A wheel that turns on ice: a whirr that rises with its speed (0 to 1), and spray.
+Sound WheelOnIce(double seconds, const Course& spin, std::uint32_t seed);
+/// A mixture that burns in the pipe: one bang.
+Sound Backfire(std::uint32_t seed);
+/// The latch of a door opens.
+Sound DoorLatch();
+/// A hinge that wants oil.
+Sound DoorCreak(double seconds, std::uint32_t seed);
+/// The door falls shut; `heavy` 0 (tinny) to 1.
+Sound DoorSlam(double heavy, std::uint32_t seed);
+/// Compressed air let go.
+Sound AirBrake(double seconds, std::uint32_t seed);
+/// A relay for the flashing lights: tick, tock.
+Sound IndicatorTick(bool tock);
+/// A crowd on a stand, far away.
+Sound Crowd(double seconds, std::uint32_t seed);
+/// A street from some way off.
+Sound CityHum(double seconds, std::uint32_t seed);
+
+} // namespace torvik::sample

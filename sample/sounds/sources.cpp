@@ -1,0 +1,78 @@
+#include "sources.h"
+
+#include "../noise.h"
+#include "../vec.h"
+
+namespace torvik::sample {
+
+Sound WhiteNoise(double seconds, std::uint32_t seed)
+{
+    Random random(seed);
+    Sound sound = Silence(seconds);
+    for (double& value : sound)
+        value = random.Between(-1, 1);
+    return sound;
+}
+
+Sound SlowNoise(double seconds, double hertz, std::uint32_t seed)
+{
+    Sound sound = Silence(seconds);
+    for (std::size_t i = 0; i < sound.size(); ++i)
+        sound[i] = Noise(static_cast<double>(i) / kSoundRate * hertz, 0.5, seed) * 2 - 1;
+    return sound;
+}
+
+Sound PureTone(double seconds, const Course& hertz)
+{
+    Sound sound = Silence(seconds);
+    double phase = 0;
+    for (std::size_t i = 0; i < sound.size(); ++i) {
+        phase += hertz(static_cast<double>(i) / kSoundRate) / kSoundRate;
+        sound[i] = std::sin(2 * kPi * phase);
+    }
+    return sound;
+}
+
+Sound RichTone(double seconds, const Course& hertz, int harmonics, double fall)
+{
+    std::vector<double> strengths;
+    for (int k = 1; k <= harmonics; ++k)
+        strengths.push_back(std::pow(k, -fall));
+    Sound sound = Silence(seconds);
+    double phase = 0;
+    for (std::size_t i = 0; i < sound.size(); ++i) {
+        const double pitch = hertz(static_cast<double>(i) / kSoundRate);
+        phase += pitch / kSoundRate;
+        phase -= std::floor(phase);
+        // Each harmonic is the one before it turned on by the angle of the first.
+        const double c = std::cos(2 * kPi * phase);
+        const double s = std::sin(2 * kPi * phase);
+        double re = c;
+        double im = s;
+        for (std::size_t k = 0; k < strengths.size(); ++k) {
+            if (pitch * static_cast<double>(k + 1) > kSoundRate * 0.42)
+                break;
+            sound[i] += im * strengths[k];
+            const double turned = re * c - im * s;
+            im = re * s + im * c;
+            re = turned;
+        }
+    }
+    return sound;
+}
+
+Sound Struck(double seconds, const std::vector<double>& partials, double ring)
+{
+    Sound sound = Silence(seconds);
+    for (std::size_t k = 0; k < partials.size(); ++k) {
+        const double lasting = ring * partials.front() / partials[k];
+        const double strength = 1.0 / (1.0 + 0.6 * static_cast<double>(k));
+        for (std::size_t i = 0; i < sound.size(); ++i) {
+            const double t = static_cast<double>(i) / kSoundRate;
+            sound[i] += strength * std::exp(-t / lasting) * std::sin(2 * kPi * partials[k] * t);
+        }
+    }
+    return sound;
+}
+
+} // namespace torvik::sample

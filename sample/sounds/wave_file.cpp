@@ -1,0 +1,78 @@
+#include "wave_file.h"
+
+#include "../noise.h"
+#include "../riff.h"
+#include "../vec.h"
+
+namespace torvik::sample {
+
+Sound AtRate(const Sound& sound, int rate)
+{
+    const int step = static_cast<int>(kSoundRate) / rate;
+    if (step == 1)
+        return sound;
+    // A low pass of 16 lobes on each side, in a window that ends in zero.
+    const int reach = 16 * step;
+    std::vector<double> weights;
+    double sum = 0;
+    for (int k = -reach; k <= reach; ++k) {
+        const double x = 0.92 * k / step;
+        const double wave = k == 0 ? 1.0 : std::sin(kPi * x) / (kPi * x);
+        const double window = 0.42 + 0.5 * std::cos(kPi * k / reach) + 0.08 * std::cos(2 * kPi * k / reach);
+        weights.push_back(wave * window);
+        sum += weights.back();
+    }
+    const int count = static_cast<int>(sound.size());
+    Sound thin;
+    thin.reserve(sound.size() / static_cast<std::size_t>(step) + 1);
+    for (int at = 0; at < count; at += step) {
+        double value = 0;
+        for (int k = std::max(-reach, -at); k <= std::min(reach, count - 1 - at); ++k)
+            value += sound[static_cast<std::size_t>(at + k)] * weights[static_cast<std::size_t>(k + reach)];
+        thin.push_back(value / sum);
+    }
+    return thin;
+}
+
+QByteArray PcmSamples(const std::vector<Sound>& channels, const SoundForm& form)
+{
+    Random random(8);
+    QByteArray bytes;
+    for (std::size_t i = 0; i < channels.front().size(); ++i) {
+        for (const Sound& channel : channels) {
+            const double value = std::clamp(channel[i], -1.0, 1.0);
+            if (form.bits == 8) {
+                // A little hiss hides the steps of so few bits, except where it is silent.
+                const double hiss = std::abs(value) > 0.002 ? random.Unit() - random.Unit() : 0.0;
+                const int whole = std::clamp(Floor(value * 127 + hiss * 0.5 + 0.5), -127, 127);
+                AppendNumber(bytes, static_cast<std::uint32_t>(whole + 128), 1);
+            } else {
+                AppendNumber(bytes, static_cast<std::uint32_t>(Floor(value * 32767 + 0.5)), 2);
+            }
+        }
+    }
+    return bytes;
+}
+
+QByteArray PcmFormat(int channels, const SoundForm& form)
+{
+    const auto frame = static_cast<std::uint32_t>(channels * form.bits / 8);
+    const auto rate = static_cast<std::uint32_t>(form.rate);
+    QByteArray format;
+    AppendNumber(format, 1, 2);
+    AppendNumber(format, static_cast<std::uint32_t>(channels), 2);
+    AppendNumber(format, rate, 4);
+    AppendNumber(format, rate * frame, 4);
+    AppendNumber(format, frame, 2);
+    AppendNumber(format, static_cast<std::uint32_t>(form.bits), 2);
+    return format;
+}
+
+QByteArray WaveFile(const std::vector<Sound>& channels, const SoundForm& form)
+{
+    QByteArray chunks = RiffChunk("fmt ", PcmFormat(static_cast<int>(channels.size()), form));
+    chunks += RiffChunk("data", PcmSamples(channels, form));
+    return RiffList("RIFF", "WAVE", chunks);
+}
+
+} // namespace torvik::sample
