@@ -82,7 +82,11 @@ public:
     Converter(const Converter&) = delete;
     Converter& operator=(const Converter&) = delete;
 
-    bool Usable() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+    /// The library's sign for a failure is a pointer that was a number.
+    bool Usable() const
+    {
+        return handle_ != reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr)
+    }
 
     void Append(std::string_view bytes, QString& text)
     {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace torvik::rtf {
 
@@ -252,9 +253,7 @@ void GdiCanvas::CloseFigure()
 
 void GdiCanvas::DrawPath(bool stroke, bool fill)
 {
-    const QPainterPath path = std::move(finished_);
-    finished_ = QPainterPath();
-    Draw(path, stroke, fill);
+    Draw(std::exchange(finished_, QPainterPath()), stroke, fill);
 }
 
 void GdiCanvas::ClipTo(const QRectF& rect, bool intersect)

@@ -6,6 +6,7 @@
 #include <QTextList>
 
 #include <map>
+#include <tuple>
 
 namespace torvik::rtf {
 
@@ -25,12 +26,7 @@ public:
     void Interrupt() { previousWasItem_ = false; }
 
 private:
-    struct Key {
-        int list;
-        int level;
-        int style;
-        auto operator<=>(const Key&) const = default;
-    };
+    using Key = std::tuple<int, int, int>; ///< list, level, style
     struct Open {
         QTextList* list = nullptr;
         int value = 0;

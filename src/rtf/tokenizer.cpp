@@ -23,8 +23,8 @@ bool IsDigit(char c)
 constexpr std::array<bool, 256> MakeStops()
 {
     std::array<bool, 256> stops{};
-    for (const unsigned char c : {'\\', '{', '}', '\r', '\n', '\t', '\0'})
-        stops[c] = true;
+    for (const char c : {'\\', '{', '}', '\r', '\n', '\t', '\0'})
+        stops[static_cast<unsigned char>(c)] = true;
     return stops;
 }
 

@@ -26,7 +26,7 @@ QString ScanDrives()
 {
     state.DriveLetters = QStringLiteral("DEFGHIJKLMNOPQRSTUVWXYZ");
     for (state.LoopIndex = 1; state.LoopIndex <= state.DriveLetters.size(); state.LoopIndex += 1) {
-        const QString letter = Mid(state.DriveLetters, state.LoopIndex, 1);
+        QString letter = Mid(state.DriveLetters, state.LoopIndex, 1);
         if (HoldsPhotos(letter + QStringLiteral(":")))
             return letter;
     }
