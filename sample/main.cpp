@@ -1,6 +1,7 @@
 #include "artwork/art_maker.h"
 #include "disc_maker.h"
 #include "documents/document_plan.h"
+#include "documents/help_file.h"
 
 #include <QGuiApplication>
 #include <QStringList>
@@ -26,6 +27,7 @@ const std::vector<Part>& Parts()
         {"photos", [](const QString& disc, const QString&) { MakePhotos(disc); }},
         {"captions", [](const QString& disc, const QString&) { MakeCaptions(disc); }},
         {"documents", [](const QString& disc, const QString&) { MakeDocuments(disc); }},
+        {"help", [](const QString&, const QString& program) { MakeHelpFile(program); }},
         {"opening", MakeOpeningPicture},
         {"emblems", [](const QString& disc, const QString&) { MakeEmblems(disc); }},
         {"scripts", [](const QString& disc, const QString&) { MakeScripts(disc); }},

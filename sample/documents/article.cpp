@@ -72,7 +72,7 @@ Paragraph Article::Body(const QString& text) const
     return paragraph;
 }
 
-void Article::Title(const QString& text)
+void Article::Title(const QString& text, const QString& bookmark)
 {
     Look look;
     look.face = style_.heading;
@@ -82,13 +82,18 @@ void Article::Title(const QString& text)
     Paragraph paragraph;
     paragraph.runs = RunsOf(text, look, style_.accent);
     paragraph.heading = 1;
+    paragraph.bookmark = bookmark;
     paragraph.after = 160;
     paragraph.ruleBelow = true;
+    if (!document_.blocks.empty()) { // the rule makes it a table, which paragraphs' spaces do not reach
+        AddRoom();
+        AddRoom();
+    }
     Add(paragraph);
     AddRoom();
 }
 
-void Article::Heading(const QString& text)
+void Article::Heading(const QString& text, const QString& bookmark)
 {
     Look look;
     look.face = style_.heading;
@@ -98,6 +103,7 @@ void Article::Heading(const QString& text)
     Paragraph paragraph;
     paragraph.runs = RunsOf(text, look, style_.accent);
     paragraph.heading = 2;
+    paragraph.bookmark = bookmark;
     paragraph.before = 200;
     paragraph.after = 80;
     Add(paragraph);

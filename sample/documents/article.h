@@ -19,8 +19,9 @@ class Article {
 public:
     Article(const QString& title, Dialect dialect, int written, const ArticleStyle& style);
 
-    void Title(const QString& text);
-    void Heading(const QString& text);
+    /// Both take the bookmark that links lead to.
+    void Title(const QString& text, const QString& bookmark = {});
+    void Heading(const QString& text, const QString& bookmark = {});
     void Text(const QString& text);
     void Quote(const QString& text);
     void Bullet(const QString& text);

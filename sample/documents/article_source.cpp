@@ -1,6 +1,7 @@
 #include "article_source.h"
 
 #include "drawings.h"
+#include "text_store.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -71,9 +72,9 @@ private:
         if (!kind.startsWith(u'|'))
             FinishTable();
         if (kind == u"=")
-            article_.Title(text);
+            article_.Title(WithoutBookmark(text), BookmarkOf(text));
         else if (kind == u"==")
-            article_.Heading(text);
+            article_.Heading(WithoutBookmark(text), BookmarkOf(text));
         else if (kind == u"-")
             article_.Bullet(text);
         else if (kind == u"+")
@@ -94,6 +95,30 @@ private:
             Obey(text.split(u' ', Qt::SkipEmptyParts));
         else
             article_.Text(text);
+    }
+
+    /// What stands in braces at the end of a heading.
+    static QString BookmarkOf(const QString& heading)
+    {
+        const qsizetype brace = heading.endsWith(u'}') ? heading.lastIndexOf(u'{') : -1;
+        return brace < 0 ? QString() : heading.mid(brace + 1).chopped(1);
+    }
+
+    static QString WithoutBookmark(const QString& heading)
+    {
+        return BookmarkOf(heading).isEmpty() ? heading : heading.left(heading.lastIndexOf(u'{')).trimmed();
+    }
+
+    static Drawing ScreenNamed(const QString& name, int width)
+    {
+        Drawing drawing;
+        drawing.png = StoredScreen(name);
+        const QSize pixels = QImage::fromData(drawing.png).size();
+        if (pixels.isEmpty())
+            throw std::runtime_error("A picture of a screen is damaged: " + name.toStdString());
+        drawing.width = width;
+        drawing.height = width * pixels.height() / pixels.width();
+        return drawing;
     }
 
     static QStringList PartsOf(const QString& text)
@@ -162,6 +187,8 @@ private:
             }
         } else if (words[0] == u"drawing" && words.size() == 4) {
             article_.Add(DrawingNamed(words[1], words[2], words[3].toInt()));
+        } else if (words[0] == u"screen" && words.size() == 3) {
+            article_.Add(ScreenNamed(words[1], words[2].toInt()));
         } else if (words[0] == u"rule") {
             article_.Rule();
         } else {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QColor>
 #include <QImage>
 #include <QString>
@@ -30,7 +31,7 @@ struct Look {
 struct Run {
     QString text;
     Look look;
-    QString link; ///< an address, or empty
+    QString link; ///< an address, "#" and a bookmark, or empty
 };
 
 struct TabStop {
@@ -56,7 +57,8 @@ struct Paragraph {
     std::vector<TabStop> tabs;
     bool ruleBelow = false;
     bool boxed = false;
-    QColor shade; ///< behind the lines; invalid: none
+    QColor shade;     ///< behind the lines; invalid: none
+    QString bookmark; ///< what links within the document call it; empty for none
 };
 
 struct Cell {
@@ -79,9 +81,11 @@ struct Table {
     int left = 0;
 };
 
-/// A drawing of at most 16 colours.
+/// A drawing of at most 16 colours, or a picture file.
 struct Drawing {
     QImage image;
+    QByteArray
+        png; ///< a file that is carried as it is, in place of `image`; only the styled dialect takes it
     int width = 0;
     int height = 0;
     Align align = Align::Centre;

@@ -7,6 +7,14 @@ namespace torvik::sample {
 
 namespace {
 
+/// A link has its own colour.
+Look LinkLook(Look look)
+{
+    look.underline = true;
+    look.colour = {};
+    return look;
+}
+
 /// The colours that the word processor always lists.
 std::vector<QColor> OfficeColours()
 {
@@ -170,8 +178,10 @@ QByteArray StyledWriter::WrittenRun(const Run& run) const
     const QByteArray words = LookWords(run.look) + RunWords();
     if (run.link.isEmpty())
         return '{' + words + (words.isEmpty() ? "" : " ") + Spelled(run.text) + '}';
-    return "{\\field{\\*\\fldinst {" + words + " HYPERLINK \"" + Spelled(run.link) +
-           "\" }}{\\fldrslt {\\cs15\\ul\\cf2" + RunWords() + ' ' + Spelled(run.text) + "}}}";
+    const bool isLocal = run.link.startsWith(u'#');
+    const QByteArray target = (isLocal ? "\\\\l \"" : "\"") + Spelled(isLocal ? run.link.mid(1) : run.link);
+    return "{\\field{\\*\\fldinst {" + words + " HYPERLINK " + target + "\" }}{\\fldrslt {\\cs15" +
+           LookWords(LinkLook(run.look)) + "\\cf2" + RunWords() + ' ' + Spelled(run.text) + "}}}";
 }
 
 void StyledWriter::WriteParagraph(const Paragraph& paragraph, Stand stand)
@@ -195,8 +205,13 @@ void StyledWriter::WriteParagraph(const Paragraph& paragraph, Stand stand)
         out_ += "\\jclisttab{\\*\\pn \\pnlvlbody\\ilvl0" + Word("ls", list + 1) +
                 "\\pnrnot0\\pndec\\pnstart1\\pnindent360\\pnhang{\\pntxta .}}" + Word("ls", list + 1);
     out_ += "\\adjustright \\fs22\\cgrid ";
+    const QByteArray bookmark = paragraph.bookmark.toLatin1();
+    if (!bookmark.isEmpty())
+        out_ += "{\\*\\bkmkstart " + bookmark + '}';
     for (const Run& run : paragraph.runs)
         out_ += WrittenRun(run);
+    if (!bookmark.isEmpty())
+        out_ += "{\\*\\bkmkend " + bookmark + '}';
     out_ += stand == Stand::LastInCell ? "{\\cell }\r\n" : "{\\par }\r\n";
 }
 
@@ -234,7 +249,7 @@ void StyledWriter::WriteDrawing(const Drawing& drawing)
 {
     Paragraph around;
     around.align = drawing.align;
-    const QByteArray png = PngOfDrawing(drawing.image);
+    const QByteArray png = drawing.png.isEmpty() ? PngOfDrawing(drawing.image) : drawing.png;
     out_ += "\\pard\\plain " + ParagraphWords(around) + "\\widctlpar\\adjustright \\fs22\\cgrid {{\\pict" +
             Word("picscalex", 100) + Word("picscaley", 100) + "\\piccropl0\\piccropr0\\piccropt0\\piccropb0" +
             Word("picw", drawing.width * 2540 / 1440) + Word("pich", drawing.height * 2540 / 1440) +

@@ -15,6 +15,14 @@ QString StoredText(const QString& name)
     return QString::fromUtf8(file.readAll());
 }
 
+QByteArray StoredScreen(const QString& name)
+{
+    QFile file(QStringLiteral(":/sample/screens/%1.png").arg(name));
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("A picture of a screen is missing: " + name.toStdString());
+    return file.readAll();
+}
+
 std::map<QString, TextSection> StoredSections(const QString& name)
 {
     std::map<QString, TextSection> sections;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <map>
@@ -10,6 +11,10 @@ namespace torvik::sample {
 
 /// The whole text of a file, by its name without ending. Throws std::runtime_error where there is none.
 QString StoredText(const QString& name);
+
+/// The file of a picture in screens/, by its name without ending. Throws std::runtime_error where there is
+/// none.
+QByteArray StoredScreen(const QString& name);
 
 /// A part of a text that begins with a line "[key] title".
 struct TextSection {
