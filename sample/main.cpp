@@ -32,6 +32,7 @@ const std::vector<Part>& Parts()
         {"emblems", [](const QString& disc, const QString&) { MakeEmblems(disc); }},
         {"scripts", [](const QString& disc, const QString&) { MakeScripts(disc); }},
         {"clipart", [](const QString& disc, const QString&) { MakeClipArt(disc); }},
+        {"ads", [](const QString& disc, const QString&) { MakeAds(disc); }},
         {"booklet", [](const QString& disc, const QString&) { MakeBookletArt(disc); }},
         {"sounds", [](const QString& disc, const QString&) { MakeSounds(disc); }},
         {"passby", [](const QString&, const QString& program) { MakePassBySound(program); }},

@@ -1,5 +1,6 @@
 #include "art_maker.h"
 
+#include "ad_art.h"
 #include "booklet_art.h"
 #include "clip_art.h"
 #include "emblem_art.h"
@@ -49,6 +50,14 @@ void MakeScripts(const QString& disc)
 void MakeClipArt(const QString& disc)
 {
     MakeEach(disc, PlanClipArt(), PaintClipArt);
+}
+
+void MakeAds(const QString& disc)
+{
+    const std::vector<PlannedAd>& ads = PlanAds();
+    InParallel(ads.size(), [&](std::size_t i) {
+        WriteFile(disc + QLatin1Char('/') + ads[i].File(), JpegBytes(PaintAd(ads[i]), 80));
+    });
 }
 
 void MakeBookletArt(const QString& disc)

@@ -13,6 +13,8 @@ void MakeEmblems(const QString& disc);
 void MakeScripts(const QString& disc);
 /// "Clipart": the strip of small drawings of each year.
 void MakeClipArt(const QString& disc);
+/// "ads": the advertisement of each year that has one.
+void MakeAds(const QString& disc);
 /// "graphics": the cover of the printed booklet.
 void MakeBookletArt(const QString& disc);
 

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "ad_plan.h"
+
+#include <QImage>
+
+namespace torvik::sample {
+
+/// The printed page.
+QImage PaintAd(const PlannedAd& plan);
+
+} // namespace torvik::sample

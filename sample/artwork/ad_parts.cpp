@@ -1,0 +1,151 @@
+#include "ad_parts.h"
+
+#include "ad_type.h"
+#include "car_drawing.h"
+#include "sample/documents/colour_cards.h"
+#include "sample/documents/engines.h"
+#include "sample/documents/model_years.h"
+#include "sample/documents/options.h"
+#include "sample/film.h"
+#include "sample/paints.h"
+#include "sample/photographer.h"
+#include "sample/tabletop.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace torvik::sample {
+
+namespace {
+
+Paint PaintNamed(int year, const QString& name)
+{
+    for (const CardColour& colour : ColourCard(year)) {
+        if (colour.name == name)
+            return {colour.name, colour.colour, colour.metallic ? 0.6 : 0.0};
+    }
+    throw std::runtime_error("The year had no such colour: " + name.toStdString());
+}
+
+Trim AdTrim(const PlannedAd& plan)
+{
+    Trim trim;
+    trim.plate = QString::number(plan.year);
+    trim.script = QStringLiteral("Vollandry");
+    trim.lampsLit = plan.place == Place::City;
+    trim.whiteWalls = plan.year <= 1968;
+    trim.redLine = plan.year == 1969 || plan.year == 1970;
+    if (plan.year == 1976) {
+        trim.stripe = Trim::Stripe::Racing;
+        trim.stripeColour = QColor(36, 86, 176);
+    }
+    if (plan.year == 1978) {
+        trim.stripe = Trim::Stripe::Rocker;
+        trim.stripeColour = QColor(24, 20, 18);
+    }
+    return trim;
+}
+
+void DrawText(QPainter& p, const QRectF& box, const QString& text, const Type& type, double size,
+              const QColor& ink, Qt::Alignment alignment)
+{
+    p.setFont(FontOf(type, size));
+    p.setPen(ink);
+    p.drawText(box, static_cast<int>(alignment | Qt::TextWordWrap), text);
+}
+
+} // namespace
+
+QImage AdPhoto(const PlannedAd& plan, QSize size)
+{
+    const CarShape shape = ShapeOfYear(plan.year);
+    const auto seed = static_cast<std::uint32_t>(plan.year * 7 + 3);
+    const Camera camera = CameraFor(shape, plan.view, size, seed);
+    QImage picture = PhotographCar(shape, PaintNamed(plan.year, plan.paint), AdTrim(plan),
+                                   MakeScenery(plan.place, seed), camera, size, SideOf(plan.view));
+    Develop(picture, plan.year, seed);
+    return picture;
+}
+
+void DrawPriceBox(const AdPage& page, const QRectF& box, const QColor& ground, const QColor& ink)
+{
+    QPainter& p = page.painter;
+    p.fillRect(box, ground);
+    p.setPen(QPen(ink, 2));
+    p.setBrush(Qt::NoBrush);
+    p.drawRect(box.adjusted(6, 6, -6, -6));
+    const QRectF inner = box.adjusted(16, 14, -16, -12);
+    const ModelYear& model = ModelYearOf(page.plan.year);
+    const QString price = Dollars(model.price);
+    const QRectF top(inner.left(), inner.top(), inner.width(), inner.height() * 0.42);
+    p.fillPath(
+        Centred(FittedHeadline(price, top, page.plan.headline, 1, top.height() * 0.78, Qt::AlignHCenter),
+                top.center()),
+        ink);
+    const QString words =
+        QStringLiteral("Vollandry coupe, %1, at Gate One, Port Averel. Plates, petrol and patience are "
+                       "not included.")
+            .arg(EngineName(EnginesOf(page.plan.year).front()));
+    const QRectF rest(inner.left(), top.bottom() + 4, inner.width(), inner.bottom() - top.bottom() - 4);
+    SetColumns(p, {words}, {rest}, {page.plan.body, ink, 19, false});
+}
+
+void DrawEngines(const AdPage& page, const QRectF& box, const QColor& ink)
+{
+    QPainter& p = page.painter;
+    const std::vector<Engine> engines = EnginesOf(page.plan.year);
+    const double line = std::min(34.0, box.height() / static_cast<double>(engines.size()));
+    double y = box.top();
+    for (const Engine& engine : engines) {
+        const QRectF row(box.left(), y, box.width(), line);
+        p.setPen(QPen(page.plan.accent, 1));
+        p.drawLine(row.topLeft(), row.topRight());
+        DrawText(p, row, EngineName(engine), page.plan.body, line * 0.60, ink,
+                 Qt::AlignLeft | Qt::AlignVCenter);
+        DrawText(p, row, QStringLiteral("%1 bhp").arg(engine.power), page.plan.body, line * 0.60, ink,
+                 Qt::AlignRight | Qt::AlignVCenter);
+        y += line;
+    }
+    p.setPen(QPen(page.plan.accent, 1));
+    p.drawLine(QPointF(box.left(), y), QPointF(box.right(), y));
+}
+
+void DrawColourRow(const AdPage& page, const QRectF& box, const QColor& ink)
+{
+    const CarShape shape = ShapeOfYear(page.plan.year);
+    const std::vector<CardColour> card = ColourCard(page.plan.year);
+    const int count = std::max(1, std::min(static_cast<int>(card.size()), Floor(box.width() / 170)));
+    const double width = box.width() / count;
+    const double scale = std::min((width - 18) / shape.length, (box.height() - 26) / 1.45);
+    for (int i = 0; i < count; ++i) {
+        const CardColour& colour = card[static_cast<std::size_t>(i)];
+        const double left = box.left() + i * width;
+        DrawCarSide(page.painter, shape, colour.colour,
+                    {left + (width - shape.length * scale) / 2, box.bottom() - 26}, scale);
+        DrawText(page.painter, QRectF(left, box.bottom() - 22, width, 22), colour.name, page.plan.body, 15,
+                 ink, Qt::AlignHCenter | Qt::AlignTop);
+    }
+}
+
+void DrawSignature(const AdPage& page, const QRectF& box, const QColor& ink)
+{
+    QPainter& p = page.painter;
+    const double size = std::min(30.0, box.height() * 0.36);
+    const QPointF shield(box.left() + size, box.top() + size * 1.05);
+    p.fillPath(ShieldPath(shield, size), page.plan.accent);
+    p.fillPath(WingedT(shield + QPointF(0, size * 0.05), size * 0.62), Qt::white);
+    const double left = box.left() + size * 2.6;
+    p.fillPath(Lettering(QStringLiteral("Torvik Vollandry"), size * 0.72, page.plan.headline)
+                   .translated(left, box.top() + size * 1.0),
+               ink);
+    DrawText(p, QRectF(left, box.top() + size * 1.28, box.right() - left, size),
+             QStringLiteral("Brenmoor Motor Works, Port Averel · Model year %1").arg(page.plan.year),
+             page.plan.body, 17, ink, Qt::AlignLeft | Qt::AlignTop);
+    QColor faint = ink;
+    faint.setAlpha(170);
+    DrawText(p, QRectF(box.left(), box.bottom() - 18, box.width(), 20),
+             QStringLiteral("Cars, works and prices on this page are invented. Please do not send money."),
+             page.plan.body, 13, faint, Qt::AlignLeft | Qt::AlignTop);
+}
+
+} // namespace torvik::sample
