@@ -24,6 +24,13 @@ void SetLead(const AdPage& page, const QRectF& box, const QColor& ink, double la
     SetColumns(page.painter, {page.copy.lead}, {box}, {type, ink, largest, false});
 }
 
+/// The page's colour where it can be read on the paper, else that of the text.
+QColor LeadInk(const AdPage& page)
+{
+    const int contrast = std::abs(qGray(page.plan.accent.rgb()) - qGray(page.plan.paper.rgb()));
+    return contrast > 105 ? page.plan.accent : page.plan.ink;
+}
+
 /// A soft veil, so that words can be read on a picture.
 void DrawVeil(QPainter& p, const QRectF& box, const QColor& colour, bool fromTop)
 {
@@ -31,8 +38,10 @@ void DrawVeil(QPainter& p, const QRectF& box, const QColor& colour, bool fromTop
     QColor clear = colour;
     clear.setAlpha(0);
     QColor dense = colour;
-    dense.setAlpha(205);
+    dense.setAlpha(225);
     veil.setColorAt(fromTop ? 0 : 1, dense);
+    dense.setAlpha(165);
+    veil.setColorAt(fromTop ? 0.6 : 0.4, dense);
     veil.setColorAt(fromTop ? 1 : 0, clear);
     p.fillRect(box, veil);
 }
@@ -49,12 +58,12 @@ void SetPictureOverText(const AdPage& page)
         FittedHeadline(page.copy.headline, head, page.plan.headline, 1, 72, Qt::AlignHCenter);
     p.fillPath(headline, page.plan.ink);
     const double below = headline.boundingRect().bottom() + 18;
-    SetLead(page, QRectF(56 + 140, below, kWidth - 112 - 280, 74), page.plan.accent, 28);
+    SetLead(page, QRectF(56 + 140, below, kWidth - 112 - 280, 74), LeadInk(page), 28);
     const QRectF text(56, below + 96, kWidth - 112, 1430 - below - 96);
     std::vector<QRectF> columns = ColumnsIn(text, 3, 34);
     const QRectF last = columns.back();
     columns.back().setHeight(last.height() - 176);
-    SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 25));
+    SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 27));
     DrawPriceBox(page, QRectF(last.left(), last.bottom() - 156, last.width(), 156), page.plan.paper,
                  page.plan.ink);
     p.fillRect(QRectF(56, 1452, kWidth - 112, 2), page.plan.accent);
@@ -78,7 +87,7 @@ void SetFullPicture(const AdPage& page)
     std::vector<QRectF> columns = ColumnsIn(QRectF(70, band + 50, kWidth - 140, 280), 3, 36);
     const QRectF last = columns.back();
     columns.pop_back();
-    SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 25, page.plan.year < 1979));
+    SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 27, page.plan.year < 1979));
     DrawPriceBox(page, QRectF(last.left(), last.top(), last.width(), 138), page.plan.accent,
                  qGray(page.plan.accent.rgb()) > 140 ? QColor(20, 20, 22) : QColor(255, 255, 255));
     DrawEngines(page, QRectF(last.left(), last.top() + 152, last.width(), 128), page.plan.ink);
@@ -94,9 +103,9 @@ void SetStripes(const AdPage& page)
     for (std::size_t i = 0; i < tones.size(); ++i) {
         const double inset = static_cast<double>(i) * 26;
         QPainterPath stripe(QPointF(70 + inset, 0));
-        stripe.lineTo(70 + inset, 1000 - inset);
-        stripe.quadTo(70 + inset, 1116 - inset, 190, 1116 - inset);
-        stripe.lineTo(kWidth, 1116 - inset);
+        stripe.lineTo(70 + inset, 954 - inset);
+        stripe.quadTo(70 + inset, 1070 - inset, 190, 1070 - inset);
+        stripe.lineTo(kWidth, 1070 - inset);
         p.strokePath(stripe, QPen(tones[i], 20, Qt::SolidLine, Qt::FlatCap));
     }
     const double left = 206;
@@ -106,7 +115,7 @@ void SetStripes(const AdPage& page)
     p.fillPath(headline, page.plan.ink);
     const double below = std::max(200.0, headline.boundingRect().bottom() + 20);
     SetLead(page, QRectF(left, below, kWidth - left - 60, 76), page.plan.ink, 28);
-    const QRectF picture(left, below + 92, kWidth - left - 60, 986 - below - 92);
+    const QRectF picture(left, below + 92, kWidth - left - 60, 940 - below - 92);
     QPainterPath frame;
     frame.addRoundedRect(picture, 46, 46);
     p.save();
@@ -114,10 +123,10 @@ void SetStripes(const AdPage& page)
     p.drawImage(picture, AdPhoto(page.plan, picture.size().toSize()));
     p.restore();
     p.strokePath(frame, QPen(page.plan.ink, 5));
-    std::vector<QRectF> columns = ColumnsIn(QRectF(60, 1150, kWidth - 120, 220), 3, 34);
+    std::vector<QRectF> columns = ColumnsIn(QRectF(60, 1106, kWidth - 120, 262), 3, 34);
     const QRectF last = columns.back();
     columns.pop_back();
-    SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 25));
+    SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 27));
     DrawPriceBox(page, QRectF(last.left(), last.top() + 6, last.width(), 150), page.plan.ink,
                  page.plan.paper);
     DrawColourRow(page, QRectF(60, 1376, kWidth - 120, 96), page.plan.ink);
@@ -132,7 +141,7 @@ void SetGrid(const AdPage& page)
                                                  page.plan.headline, 1, 124, Qt::AlignLeft);
     p.fillPath(headline, page.plan.ink);
     const double below = headline.boundingRect().bottom() + 24;
-    SetLead(page, QRectF(60, below, kWidth - 120, 46), page.plan.accent, 31);
+    SetLead(page, QRectF(60, below, kWidth - 120, 46), LeadInk(page), 31);
     const QRectF picture(0, below + 66, kWidth, 1010 - below - 66);
     p.drawImage(picture, AdPhoto(page.plan, picture.size().toSize()));
     p.fillRect(QRectF(0, 1010, kWidth, 8), page.plan.accent);
@@ -163,7 +172,7 @@ void SetSpread(const AdPage& page)
                                                      page.plan.headline, 1, 88, Qt::AlignLeft);
         p.fillPath(headline, page.plan.ink);
         p.fillRect(QRectF(0, 800, width, 6), page.plan.accent);
-        SetLead(page, QRectF(64, 832, width - 128, 42), page.plan.accent, 30);
+        SetLead(page, QRectF(64, 832, width - 128, 42), LeadInk(page), 30);
         const std::vector<QRectF> columns = ColumnsIn(QRectF(64, 888, width - 128, 208), 4, 36);
         SetColumns(p, page.copy.paragraphs, {columns[0], columns[1], columns[2]}, BodyLook(page, 24, false));
         DrawPriceBox(page, QRectF(columns[3].left(), 888, columns[3].width(), 140), page.plan.paper,
@@ -180,9 +189,9 @@ void SetSpread(const AdPage& page)
                        page.plan.headline, 3, 92, Qt::AlignLeft);
     p.fillPath(headline, page.plan.ink);
     const double below = headline.boundingRect().bottom() + 24;
-    SetLead(page, QRectF(side.left(), below, side.width(), 84), page.plan.accent, 27);
+    SetLead(page, QRectF(side.left(), below, side.width(), 84), LeadInk(page), 27);
     SetColumns(p, page.copy.paragraphs, {QRectF(side.left(), below + 100, side.width(), 810 - below - 100)},
-               BodyLook(page, 25, false));
+               BodyLook(page, 27, false));
     DrawPriceBox(page, QRectF(side.left(), 820, side.width(), 130), page.plan.paper, page.plan.ink);
     DrawEngines(page, QRectF(side.left(), 966, side.width(), 110), page.plan.ink);
     DrawSignature(page, QRectF(side.left(), 1092, side.width(), 92), page.plan.ink);

@@ -60,7 +60,10 @@ QImage AdPhoto(const PlannedAd& plan, QSize size)
 {
     const CarShape shape = ShapeOfYear(plan.year);
     const auto seed = static_cast<std::uint32_t>(plan.year * 7 + 3);
-    const Camera camera = CameraFor(shape, plan.view, size, seed);
+    Camera camera = CameraFor(shape, plan.view, size, seed);
+    // Pictures that are not broad would show more road than car.
+    const double broadness = static_cast<double>(size.width()) / size.height();
+    camera.focal *= plan.view == View::HeadOn ? 1.7 : broadness < 1 ? 1.26 : broadness < 1.3 ? 1.1 : 1.0;
     QImage picture = PhotographCar(shape, PaintNamed(plan.year, plan.paint), AdTrim(plan),
                                    MakeScenery(plan.place, seed), camera, size, SideOf(plan.view));
     Develop(picture, plan.year, seed);
@@ -83,8 +86,7 @@ void DrawPriceBox(const AdPage& page, const QRectF& box, const QColor& ground, c
                 top.center()),
         ink);
     const QString words =
-        QStringLiteral("Vollandry coupe, %1, at Gate One, Port Averel. Plates, petrol and patience are "
-                       "not included.")
+        QStringLiteral("Vollandry coupe, %1, at Gate One, Port Averel. Plates and petrol are extra.")
             .arg(EngineName(EnginesOf(page.plan.year).front()));
     const QRectF rest(inner.left(), top.bottom() + 4, inner.width(), inner.bottom() - top.bottom() - 4);
     SetColumns(p, {words}, {rest}, {page.plan.body, ink, 19, false});
@@ -114,7 +116,7 @@ void DrawColourRow(const AdPage& page, const QRectF& box, const QColor& ink)
 {
     const CarShape shape = ShapeOfYear(page.plan.year);
     const std::vector<CardColour> card = ColourCard(page.plan.year);
-    const int count = std::max(1, std::min(static_cast<int>(card.size()), Floor(box.width() / 170)));
+    const int count = std::max(1, std::min({7, static_cast<int>(card.size()), Floor(box.width() / 125)}));
     const double width = box.width() / count;
     const double scale = std::min((width - 18) / shape.length, (box.height() - 26) / 1.45);
     for (int i = 0; i < count; ++i) {
@@ -139,8 +141,8 @@ void DrawSignature(const AdPage& page, const QRectF& box, const QColor& ink)
                    .translated(left, box.top() + size * 1.0),
                ink);
     DrawText(p, QRectF(left, box.top() + size * 1.28, box.right() - left, size),
-             QStringLiteral("Brenmoor Motor Works, Port Averel · Model year %1").arg(page.plan.year),
-             page.plan.body, 17, ink, Qt::AlignLeft | Qt::AlignTop);
+             QStringLiteral("Brenmoor Motor Works, Port Averel · %1").arg(page.plan.year), page.plan.body, 17,
+             ink, Qt::AlignLeft | Qt::AlignTop);
     QColor faint = ink;
     faint.setAlpha(170);
     DrawText(p, QRectF(box.left(), box.bottom() - 18, box.width(), 20),
