@@ -11,17 +11,24 @@ namespace {
 constexpr double kWidth = 1232;  // of a standing page
 constexpr double kHeight = 1600; // of a standing page
 
-TextLook BodyLook(const AdPage& page, double largest, bool justified = true)
+TextLook BodyLook(const AdPage& page, double largest, Qt::Alignment alignment = Qt::AlignJustify)
 {
-    return {page.plan.body, page.plan.ink, largest, justified};
+    return {page.plan.body, page.plan.ink, largest, alignment};
 }
 
-void SetLead(const AdPage& page, const QRectF& box, const QColor& ink, double largest)
+/// Fashion: columns with two straight edges to the end of the seventies, with one since.
+Qt::Alignment EdgeOf(const AdPage& page)
+{
+    return page.plan.year < 1979 ? Qt::AlignJustify : Qt::AlignLeft;
+}
+
+void SetLead(const AdPage& page, const QRectF& box, const QColor& ink, double largest,
+             Qt::Alignment alignment = Qt::AlignLeft)
 {
     Type type = page.plan.body;
     type.italic = page.plan.year < 1979;
     type.bold = page.plan.year >= 1979;
-    SetColumns(page.painter, {page.copy.lead}, {box}, {type, ink, largest, false});
+    SetColumns(page.painter, {page.copy.lead}, {box}, {type, ink, largest, alignment});
 }
 
 /// The page's colour where it can be read on the paper, else that of the text.
@@ -58,17 +65,16 @@ void SetPictureOverText(const AdPage& page)
         FittedHeadline(page.copy.headline, head, page.plan.headline, 1, 72, Qt::AlignHCenter);
     p.fillPath(headline, page.plan.ink);
     const double below = headline.boundingRect().bottom() + 18;
-    SetLead(page, QRectF(56 + 140, below, kWidth - 112 - 280, 74), LeadInk(page), 28);
-    const QRectF text(56, below + 96, kWidth - 112, 1430 - below - 96);
-    std::vector<QRectF> columns = ColumnsIn(text, 3, 34);
-    const QRectF last = columns.back();
-    columns.back().setHeight(last.height() - 176);
-    SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 27));
-    DrawPriceBox(page, QRectF(last.left(), last.bottom() - 156, last.width(), 156), page.plan.paper,
+    SetLead(page, QRectF(56, below, kWidth - 112, 40), LeadInk(page), 29, Qt::AlignHCenter);
+    const QRectF text(56, below + 66, kWidth - 112, 1440 - below - 66);
+    const std::vector<QRectF> columns = ColumnsIn(text, 3, 34);
+    SetColumns(p, page.copy.paragraphs, {columns[0], columns[1]}, BodyLook(page, 28, EdgeOf(page)));
+    const QRectF last = columns[2];
+    DrawEngines(page, QRectF(last.left(), last.top() + 6, last.width(), last.height() - 180), page.plan.ink);
+    DrawPriceBox(page, QRectF(last.left(), last.bottom() - 156, last.width(), 150), page.plan.paper,
                  page.plan.ink);
-    p.fillRect(QRectF(56, 1452, kWidth - 112, 2), page.plan.accent);
-    DrawSignature(page, QRectF(56, 1466, 700, 96), page.plan.ink);
-    DrawEngines(page, QRectF(770, 1466, kWidth - 56 - 770, 96), page.plan.ink);
+    p.fillRect(QRectF(56, 1462, kWidth - 112, 2), page.plan.accent);
+    DrawSignature(page, QRectF(56, 1480, kWidth - 112, 92), page.plan.ink);
 }
 
 void SetFullPicture(const AdPage& page)
@@ -87,7 +93,7 @@ void SetFullPicture(const AdPage& page)
     std::vector<QRectF> columns = ColumnsIn(QRectF(70, band + 50, kWidth - 140, 280), 3, 36);
     const QRectF last = columns.back();
     columns.pop_back();
-    SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 27, page.plan.year < 1979));
+    SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 27, EdgeOf(page)));
     DrawPriceBox(page, QRectF(last.left(), last.top(), last.width(), 138), page.plan.accent,
                  qGray(page.plan.accent.rgb()) > 140 ? QColor(20, 20, 22) : QColor(255, 255, 255));
     DrawEngines(page, QRectF(last.left(), last.top() + 152, last.width(), 128), page.plan.ink);
@@ -127,8 +133,9 @@ void SetStripes(const AdPage& page)
     const QRectF last = columns.back();
     columns.pop_back();
     SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 27));
-    DrawPriceBox(page, QRectF(last.left(), last.top() + 6, last.width(), 150), page.plan.ink,
+    DrawPriceBox(page, QRectF(last.left(), last.top() + 6, last.width(), 136), page.plan.ink,
                  page.plan.paper);
+    DrawEngines(page, QRectF(last.left(), last.top() + 154, last.width(), 102), page.plan.ink);
     DrawColourRow(page, QRectF(60, 1376, kWidth - 120, 96), page.plan.ink);
     DrawSignature(page, QRectF(60, 1488, kWidth - 120, 92), page.plan.ink);
 }
@@ -149,7 +156,7 @@ void SetGrid(const AdPage& page)
     for (const double x : {kWidth * 0.355, kWidth * 0.655})
         p.drawLine(QPointF(x, 1046), QPointF(x, 1452));
     const std::vector<QRectF> columns = ColumnsIn(QRectF(60, 1046, kWidth - 120, 400), 3, 44);
-    SetColumns(p, page.copy.paragraphs, {columns[0], columns[1]}, BodyLook(page, 27, false));
+    SetColumns(p, page.copy.paragraphs, {columns[0], columns[1]}, BodyLook(page, 27, Qt::AlignLeft));
     const QRectF last = columns[2];
     DrawPriceBox(page, QRectF(last.left(), last.top(), last.width(), 150), page.plan.accent,
                  qGray(page.plan.accent.rgb()) > 140 ? QColor(20, 20, 22) : QColor(255, 255, 255));
@@ -174,7 +181,8 @@ void SetSpread(const AdPage& page)
         p.fillRect(QRectF(0, 800, width, 6), page.plan.accent);
         SetLead(page, QRectF(64, 832, width - 128, 42), LeadInk(page), 30);
         const std::vector<QRectF> columns = ColumnsIn(QRectF(64, 888, width - 128, 208), 4, 36);
-        SetColumns(p, page.copy.paragraphs, {columns[0], columns[1], columns[2]}, BodyLook(page, 24, false));
+        SetColumns(p, page.copy.paragraphs, {columns[0], columns[1], columns[2]},
+                   BodyLook(page, 24, Qt::AlignLeft));
         DrawPriceBox(page, QRectF(columns[3].left(), 888, columns[3].width(), 140), page.plan.paper,
                      page.plan.ink);
         DrawEngines(page, QRectF(columns[3].left(), 1046, columns[3].width(), 118), page.plan.ink);
@@ -191,7 +199,7 @@ void SetSpread(const AdPage& page)
     const double below = headline.boundingRect().bottom() + 24;
     SetLead(page, QRectF(side.left(), below, side.width(), 84), LeadInk(page), 27);
     SetColumns(p, page.copy.paragraphs, {QRectF(side.left(), below + 100, side.width(), 810 - below - 100)},
-               BodyLook(page, 27, false));
+               BodyLook(page, 27, Qt::AlignLeft));
     DrawPriceBox(page, QRectF(side.left(), 820, side.width(), 130), page.plan.paper, page.plan.ink);
     DrawEngines(page, QRectF(side.left(), 966, side.width(), 110), page.plan.ink);
     DrawSignature(page, QRectF(side.left(), 1092, side.width(), 92), page.plan.ink);

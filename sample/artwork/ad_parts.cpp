@@ -63,7 +63,7 @@ QImage AdPhoto(const PlannedAd& plan, QSize size)
     Camera camera = CameraFor(shape, plan.view, size, seed);
     // Pictures that are not broad would show more road than car.
     const double broadness = static_cast<double>(size.width()) / size.height();
-    camera.focal *= plan.view == View::HeadOn ? 1.7 : broadness < 1 ? 1.26 : broadness < 1.3 ? 1.1 : 1.0;
+    camera.focal *= plan.view == View::HeadOn ? 1.7 : broadness < 1 ? 1.26 : 1.0;
     QImage picture = PhotographCar(shape, PaintNamed(plan.year, plan.paint), AdTrim(plan),
                                    MakeScenery(plan.place, seed), camera, size, SideOf(plan.view));
     Develop(picture, plan.year, seed);
@@ -89,7 +89,7 @@ void DrawPriceBox(const AdPage& page, const QRectF& box, const QColor& ground, c
         QStringLiteral("Vollandry coupe, %1, at Gate One, Port Averel. Plates and petrol are extra.")
             .arg(EngineName(EnginesOf(page.plan.year).front()));
     const QRectF rest(inner.left(), top.bottom() + 4, inner.width(), inner.bottom() - top.bottom() - 4);
-    SetColumns(p, {words}, {rest}, {page.plan.body, ink, 19, false});
+    SetColumns(p, {words}, {rest}, {page.plan.body, ink, 22, Qt::AlignLeft});
 }
 
 void DrawEngines(const AdPage& page, const QRectF& box, const QColor& ink)

@@ -41,7 +41,7 @@ bool Flow(QPainter* painter, const QStringList& paragraphs, const std::vector<QR
     double y = columns[0].top();
     for (const QString& paragraph : paragraphs) {
         QTextLayout layout(paragraph, font);
-        QTextOption option(look.justified ? Qt::AlignJustify : Qt::AlignLeft);
+        QTextOption option(look.alignment);
         option.setWrapMode(QTextOption::WordWrap);
         layout.setTextOption(option);
         layout.beginLayout();

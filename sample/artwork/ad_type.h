@@ -19,7 +19,7 @@ struct TextLook {
     Type type;
     QColor ink;
     double largest = 27; ///< pixels; smaller where the text needs it
-    bool justified = true;
+    Qt::Alignment alignment = Qt::AlignJustify;
 };
 
 /// Sets paragraphs into columns, one after the other, as large as they fit; returns the size that was used.
