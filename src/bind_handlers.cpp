@@ -4,9 +4,11 @@
 #include "browser/photo_stepping.h"
 #include "browser/photo_walk.h"
 #include "browser/year_selection.h"
+#include "documents/advertisement.h"
 #include "documents/document_viewer.h"
 #include "documents/library_documents.h"
 #include "documents/library_topics.h"
+#include "documents/overlay_buttons.h"
 #include "documents/year_documents.h"
 #include "documents/year_statistics.h"
 #include "local/copy_panel.h"
@@ -21,6 +23,7 @@
 #include "utilities/display_check.h"
 #include "utilities/help_contents.h"
 #include "utilities/system_information.h"
+#include "slides/zoom_viewer.h"
 #include "utilities/task_bar_toggle.h"
 
 namespace torvik {
@@ -42,6 +45,9 @@ void BindHandlers()
     BindPrintCommands();
     BindCopyPanel();
     BindRemoveCopies();
+    BindOverlayButtons();
+    BindZoomViewer();
+    BindAdvertisement();
     BindPlayListForm();
     BindSaverInstallation();
     BindTaskBarToggle();

@@ -65,13 +65,18 @@ void LoadClipArt()
     OnError(
         [] {
             state.ErrorCode = QStringLiteral("ER024");
-            PictureBox& pane = Form1->picClipArt;
-            pane.Load(state.DiscRoot + QStringLiteral("\\ClipArt\\") + state.YearCode +
-                      QStringLiteral("clip.jpg"));
-            pane.SetTop(Form1->Image4.Top());
-            pane.SetLeft(Form1->Image4.Width() - pane.Width() + 6);
+            Form1->picClipArt.Load(state.DiscRoot + QStringLiteral("\\ClipArt\\") + state.YearCode +
+                                   QStringLiteral("clip.jpg"));
+            PlaceClipArt();
         },
         ReportError);
+}
+
+void PlaceClipArt()
+{
+    PictureBox& pane = Form1->picClipArt;
+    pane.SetTop(Form1->Image4.Top());
+    pane.SetLeft(Form1->Image4.Width() - pane.Width() + 6);
 }
 
 } // namespace torvik

@@ -9,4 +9,7 @@ void LoadEmblem();
 void LoadScript();
 void LoadClipArt();
 
+/// Puts the clip art that is loaded in its place, the upper right corner of the photo.
+void PlaceClipArt();
+
 } // namespace torvik

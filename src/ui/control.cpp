@@ -4,6 +4,7 @@
 #include "ui/form.h"
 #include "ui/keys.h"
 #include "ui/program_end.h"
+#include "ui/screen.h"
 
 #include <QHash>
 #include <QKeyEvent>
@@ -135,6 +136,14 @@ void Control::Move(double left, double top)
     ApplyGeometry();
 }
 
+void Control::Move(double left, double top, double width, double height)
+{
+    if (width < 0 || height < 0)
+        Fail(failure::invalidProperty);
+    place_ = {left * Unit(), top * Unit(), width * Unit(), height * Unit()};
+    ApplyGeometry();
+}
+
 void Control::TakePixelSize(double width, double height)
 {
     place_.Width = width * twipsPerPixel;
@@ -173,6 +182,7 @@ void Control::SetFocus()
     const QWidget* window = widget_->window();
     if (!OwnerForm().Visible() || !widget_->isVisibleTo(window) || !widget_->isEnabledTo(window))
         Fail(failure::invalidCall);
+    Screen.ActivatePicture(nullptr);
     widget_->setFocus(Qt::OtherFocusReason);
     LeaveIfEnding();
 }
@@ -248,6 +258,7 @@ bool Control::eventFilter(QObject* watched, QEvent* event)
 
 bool Control::MousePressed(int button)
 {
+    Screen.ActivatePicture(IsPicture() ? this : nullptr);
     pressed_ = button == mouse::left;
     if (!MouseDown.IsBound())
         return false;
@@ -266,6 +277,7 @@ void Control::MouseReleased(int button, bool inside)
 /// A handler that moved the focus away has used the key up: it must not act on this control as well.
 bool Control::KeyPressed(int code, int shift)
 {
+    Screen.ActivatePicture(nullptr);
     if (!KeyDown.IsBound() || code == 0)
         return false;
     KeyDown.Fire(code, shift);

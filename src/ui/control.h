@@ -46,6 +46,8 @@ public:
     void SetWidth(double width);
     void SetHeight(double height);
     void Move(double left, double top);
+    /// All four at once; failure 380 for a width or height below 0, and then nothing changes.
+    void Move(double left, double top, double width, double height);
 
     /// The control's own flag, whatever becomes of its container.
     bool Visible() const;
@@ -60,7 +62,7 @@ public:
     /// Takes the keyboard focus. Failure 5 when the control or what it lies on is disabled or not visible.
     void SetFocus();
     /// Brings the control in front of its siblings.
-    void ZOrder();
+    virtual void ZOrder();
 
     QString ToolTip() const;
     void SetToolTip(const QString& text);
@@ -88,6 +90,9 @@ protected:
     virtual void SizeChanged() {}
     /// Whether a press and release of the left button is this control's Click; buttons have their own way.
     virtual bool ClicksByMouse() const { return true; }
+
+    /// Whether a press of a mouse button makes this the screen's active control although it takes no focus.
+    virtual bool IsPicture() const { return false; }
 
     /// Mouse events are looked for on `inner` too, where a part of the widget takes them.
     void WatchInput(QWidget* inner);

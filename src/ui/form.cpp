@@ -10,6 +10,7 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QPointer>
+#include <QScreen>
 #include <QTimer>
 #include <QWindow>
 
@@ -99,10 +100,16 @@ void Form::SetEnabled(bool enabled)
 void Form::ShowWindow()
 {
     ApplyPlace();
+    if (FillsScreen())
+        window_->move(QApplication::primaryScreen()->geometry().topLeft());
+    window_->setWindowState(window_->windowState().setFlag(Qt::WindowFullScreen, covering_ || FillsScreen()));
     window_->show();
     window_->raise();
     window_->activateWindow();
     Unsettle();
+    if (!std::exchange(shownBefore_, true))
+        QMetaObject::invokeMethod(
+            this, [this] { Resize.Fire(); }, Qt::QueuedConnection);
 }
 
 void Form::Show()

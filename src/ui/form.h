@@ -25,7 +25,7 @@ class FormHandleBase;
 class FormWindow;
 
 enum class FormBorder {
-    None,    ///< no caption, no frame: the splash
+    None,    ///< no caption, no frame: the splash; with the screen's size it covers panels and docks too
     Fixed,   ///< a dialog
     Sizable, ///< a window that the user can size
 };
@@ -104,7 +104,8 @@ public:
 
     Event<> Load;     ///< runs as part of the first touch
     Event<> Activate; ///< the form came up, or is the active one again; may come twice for one showing
-    Event<> Resize;   ///< the form's measures changed, by the program or by the user
+    Event<>
+        Resize; ///< the form's measures changed, by the program or by the user, or it is shown the first time
     Event<bool&> QueryUnload; ///< may set its argument to keep the form
     Event<> Unload;           ///< the form is about to go
 
@@ -128,6 +129,7 @@ private:
     friend class FormWindow;
 
     double FrameTwips() const;
+    bool FillsScreen() const;
     QSize WantedSize() const;
     QPoint WantedPlace() const;
     void ApplySize();
@@ -152,6 +154,7 @@ private:
     Twips place_;
     bool enabled_ = true;
     bool covering_ = false;
+    bool shownBefore_ = false;
     bool settled_ = true;
     int corrections_ = 0;
     QDeadlineTimer unsettledUntil_;

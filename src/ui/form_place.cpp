@@ -46,6 +46,14 @@ double Form::FrameTwips() const
     return (caption + menu) * twipsPerPixel;
 }
 
+/// Whether this is a form without a frame that takes the whole screen. Only the full-screen state of its
+/// window then covers what the desktop keeps at the edges.
+bool Form::FillsScreen() const
+{
+    const QScreen* screen = QApplication::primaryScreen();
+    return design_.Border == FormBorder::None && screen != nullptr && WantedSize() == screen->size();
+}
+
 double Form::Left() const
 {
     return place_.Left;
@@ -127,10 +135,15 @@ void Form::ApplySize()
 {
     if (covering_)
         return;
-    if (design_.Border == FormBorder::Sizable)
+    if (design_.Border == FormBorder::Sizable) {
         window_->resize(WantedSize());
-    else
+    } else if (FillsScreen()) {
+        window_->setMinimumSize(0, 0); // the full-screen state may need another size
+        window_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        window_->resize(WantedSize());
+    } else {
         window_->setFixedSize(WantedSize());
+    }
     if (window_->isVisible())
         ApplyPlace();
 }
@@ -161,7 +174,7 @@ void Form::Unsettle()
 
 void Form::Settle()
 {
-    const bool ordinary = window_->isVisible() && !covering_ && WindowState() == State::Normal;
+    const bool ordinary = window_->isVisible() && !window_->isFullScreen() && WindowState() == State::Normal;
     if (ordinary && !unsettledUntil_.hasExpired()) {
         if (!window_->windowHandle()->isExposed()) {
             settling_->start(calm);
@@ -190,7 +203,7 @@ void Form::WindowMoved()
         return;
     }
     const QPoint now = window_->pos();
-    if (covering_ || !window_->isVisible() || WindowState() != State::Normal || now == restsAt_)
+    if (window_->isFullScreen() || !window_->isVisible() || WindowState() != State::Normal || now == restsAt_)
         return;
     restsAt_ = now;
     TakePlace();

@@ -7,11 +7,13 @@ class QLabel;
 
 namespace torvik {
 
-/// Shows a picture inside its own rectangle, as large as fits, proportions kept, centred, and sharp at any
-/// scale factor of the screen.
+/// Shows a picture inside its own rectangle, sharp at any scale factor of the screen: as large as fits with
+/// its proportions kept, centred, or drawn out to the whole rectangle.
 class Image : public Control {
 public:
-    Image(Container& container, const QString& name, const Twips& design);
+    enum class Fit { Proportions, Stretch };
+
+    Image(Container& container, const QString& name, const Twips& design, Fit fit = Fit::Proportions);
 
     /// Shows a file. On a failure (see Picture::Load) the earlier picture stays.
     void Load(const QString& path);
@@ -20,15 +22,23 @@ public:
     void Clear();
     const class Picture& Picture() const { return picture_; }
 
+    /// Images and labels lie in a layer of their own below all other controls: brings the image to the front
+    /// of that layer.
+    void ZOrder() override;
+
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     QString AccessibleText() const override;
     void SizeChanged() override;
+    bool IsPicture() const override { return true; }
 
 private:
-    void Fit(const class Picture& picture);
+    void Draw(const class Picture& picture);
 
     QLabel* label_;
+    Fit fit_;
     class Picture picture_;
+    bool outgrown_ = false; // what the label holds was drawn for another size
 };
 
 } // namespace torvik

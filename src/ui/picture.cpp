@@ -82,4 +82,9 @@ QImage Picture::Fitted(const QSize& area) const
     return Decode(size_.scaled(area, Qt::KeepAspectRatio).expandedTo({1, 1}));
 }
 
+QImage Picture::Stretched(const QSize& area) const
+{
+    return IsEmpty() || area.isEmpty() ? QImage() : Decode(area);
+}
+
 } // namespace torvik

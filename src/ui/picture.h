@@ -29,6 +29,8 @@ public:
     QImage Natural() const;
     /// The picture as large as fits into `area` pixels with its proportions kept. Failure 481 as above.
     QImage Fitted(const QSize& area) const;
+    /// The picture drawn out to `area` pixels, proportions or not. Failure 481 as above.
+    QImage Stretched(const QSize& area) const;
 
 private:
     Picture(QByteArray bytes, QString fileName);

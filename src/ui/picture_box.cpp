@@ -7,10 +7,10 @@
 
 namespace torvik {
 
-PictureBox::PictureBox(Container& container, const QString& name, const Twips& design)
-    : Control(container, name, new QLabel, design), label_(static_cast<QLabel*>(&Widget()))
+PictureBox::PictureBox(Container& container, const QString& name, const Twips& design, Scale scale)
+    : Control(container, name, new QLabel, design), label_(static_cast<QLabel*>(&Widget())), scale_(scale)
 {
-    label_->setFocusPolicy(Qt::ClickFocus);
+    label_->setAutoFillBackground(true);
 }
 
 void PictureBox::Load(const QString& path)

@@ -36,8 +36,19 @@ void ScreenObject::SetMousePointer(MousePointer pointer)
         QApplication::restoreOverrideCursor();
 }
 
+void ScreenObject::ActivatePicture(Control* picture)
+{
+    picture_ = picture;
+    focusAtPress_ = picture != nullptr ? picture->Widget().window()->focusWidget() : nullptr;
+}
+
 Control* ScreenObject::ActiveControl() const
 {
+    if (auto* picture = static_cast<Control*>(picture_.data())) {
+        const QWidget& widget = picture->Widget();
+        if (widget.isVisible() && widget.window()->focusWidget() == focusAtPress_)
+            return picture;
+    }
     const QWidget* focused = QApplication::focusWidget();
     // Right after a box closed, the desktop has not made the form's window the active one again.
     const FormWindow* window = FormWindow::LastActive();

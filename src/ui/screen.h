@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QPointer>
 #include <QSize>
 
 #include <optional>
+
+class QWidget;
 
 namespace torvik {
 
@@ -22,8 +25,12 @@ public:
     /// Sets the mouse pointer of all the program's windows.
     void SetMousePointer(MousePointer pointer);
 
-    /// The control that has the keyboard focus; null when it is none of the program's forms' controls.
+    /// The control that the user is at: the picture on which a mouse button was pressed last, until another
+    /// control is pressed, typed on or given the focus, and before and after that the one with the keyboard
+    /// focus; null when that is none of the program's forms' controls.
     Control* ActiveControl() const;
+    /// Makes a picture the active control; the keyboard focus stays where it is. Null takes that back.
+    void ActivatePicture(Control* picture);
 
     /// Puts another size (pixels) in place of the machine's, for the tests; nothing brings the machine's
     /// back.
@@ -33,6 +40,8 @@ private:
     QSize Pixels() const;
 
     MousePointer pointer_ = MousePointer::Default;
+    QPointer<QObject> picture_;
+    QPointer<QWidget> focusAtPress_; // in the picture's window
     std::optional<QSize> pretended_;
 };
 

@@ -37,6 +37,7 @@ ScrollBar::ScrollBar(Container& container, const QString& name, const Twips& des
       bar_(static_cast<QScrollBar*>(&Widget()))
 {
     bar_->setRange(0, max_);
+    bar_->setPageStep(1);
     bar_->setFocusPolicy(Qt::StrongFocus);
     connect(bar_, &QScrollBar::valueChanged, this, [this] { Change.Fire(); });
 }
@@ -71,6 +72,18 @@ void ScrollBar::SetLargeChange(Integer step)
     if (step < 1)
         Fail(failure::invalidProperty);
     bar_->setPageStep(step);
+}
+
+int ScrollBar::SmallChange() const
+{
+    return bar_->singleStep();
+}
+
+void ScrollBar::SetSmallChange(Integer step)
+{
+    if (step < 1)
+        Fail(failure::invalidProperty);
+    bar_->setSingleStep(step);
 }
 
 } // namespace torvik

@@ -15,12 +15,15 @@ public:
     int Value() const;
     int Max() const { return max_; }
     int LargeChange() const;
+    int SmallChange() const;
     /// A value outside 0 to Max is failure 380.
     void SetValue(Integer value);
     /// A Max of zero or below leaves nothing to scroll. A value above it comes down to it.
     void SetMax(Integer max);
     /// The step of a click beside the thumb, 1 to 32767; anything else is failure 380.
     void SetLargeChange(Integer step);
+    /// The step of an arrow, 1 to 32767; anything else is failure 380.
+    void SetSmallChange(Integer step);
 
     Event<> Change; ///< the value changed, by the user or by the program
 

@@ -81,6 +81,20 @@ private Q_SLOTS:
         QCOMPARE(Pixels->Panel1.Widget().x(), 11);
     }
 
+    void all_four_measures_move_at_once_or_not_at_all()
+    {
+        Pixels->Panel1.Move(30, 40, 50.5, 60);
+        QCOMPARE(Pixels->Panel1.Left(), 30.0);
+        QCOMPARE(Pixels->Panel1.Top(), 40.0);
+        QCOMPARE(Pixels->Panel1.Width(), 50.5);
+        QCOMPARE(Pixels->Panel1.Height(), 60.0);
+        QCOMPARE(ResumeNext([] { Pixels->Panel1.Move(1, 2, -1, 4); }), 380);
+        QCOMPARE(ResumeNext([] { Pixels->Panel1.Move(1, 2, 3, -1); }), 380);
+        QCOMPARE(Pixels->Panel1.Left(), 30.0);
+        QCOMPARE(Pixels->Panel1.Width(), 50.5);
+        QCOMPARE(Pixels->Panel1.Height(), 60.0);
+    }
+
     void a_negative_size_is_failure_380_and_changes_nothing()
     {
         QCOMPARE(ResumeNext([] { Pixels->Panel1.SetWidth(-1); }), 380);

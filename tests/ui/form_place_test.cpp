@@ -1,5 +1,7 @@
 #include "ui_room.h"
 
+#include <QScreen>
+
 using namespace torvik;
 
 namespace {
@@ -8,7 +10,12 @@ struct MainForm : Form {
     MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels, FormBorder::Sizable, true)) {}
 };
 
+struct PageForm : Form {
+    PageForm() : Form(DesignOf(QStringLiteral("Page"), Scale::Pixels, FormBorder::None)) {}
+};
+
 FormHandle<MainForm> Main;
+FormHandle<PageForm> Page;
 
 QPoint FrameCorner()
 {
@@ -90,6 +97,7 @@ private Q_SLOTS:
         Main->SetLeft(1500);
         Main->SetTop(1500);
         Main->Show();
+        UiRoom::Settle();
         int resizes = 0;
         Main->Resize = [&] { ++resizes; };
         Main->Window().resize(500, 400);
@@ -120,6 +128,7 @@ private Q_SLOTS:
     void the_programs_own_sizing_runs_resize_once()
     {
         Main->Show();
+        UiRoom::Settle();
         int resizes = 0;
         Main->Resize = [&] { ++resizes; };
         Main->SetWidth(7500);
@@ -178,6 +187,41 @@ private Q_SLOTS:
         QTRY_VERIFY(!Main->IsSettling());
         QCOMPARE(Main->Host().width(), 500);
         QCOMPARE(FrameCorner().x(), 30);
+    }
+
+    void a_form_without_a_frame_that_has_the_screens_size_is_shown_in_the_full_screen_state()
+    {
+        Page->SetWidth(Screen.Width());
+        Page->SetHeight(Screen.Height());
+        Page->SetTop(0);
+        Page->SetLeft(0);
+        Page->Show();
+        QTRY_VERIFY(!Page->IsSettling());
+        QVERIFY(Page->Window().isFullScreen());
+        QCOMPARE(Page->ScaleHeight(), Screen.Height() / 15);
+        QCOMPARE(Page->Window().geometry(), QApplication::primaryScreen()->geometry());
+    }
+
+    void a_smaller_form_without_a_frame_is_an_ordinary_window()
+    {
+        Page->Show();
+        QTRY_VERIFY(!Page->IsSettling());
+        QVERIFY(!Page->Window().isFullScreen());
+        QCOMPARE(Page->Window().size(), QSize(400, 300));
+        QCOMPARE(Page->Window().minimumSize(), QSize(400, 300));
+    }
+
+    void the_first_showing_runs_resize_and_the_next_does_not()
+    {
+        int resizes = 0;
+        Main->Resize = [&] { ++resizes; };
+        Main->Show();
+        UiRoom::Settle();
+        QCOMPARE(resizes, 1);
+        Main->Hide();
+        Main->Show();
+        UiRoom::Settle();
+        QCOMPARE(resizes, 1);
     }
 
     void hiding_a_window_that_settles_is_safe()

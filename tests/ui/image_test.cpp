@@ -1,5 +1,6 @@
 #include "picture_bytes.h"
 #include "ui/image.h"
+#include "ui/picture_box.h"
 #include "ui_room.h"
 
 #include <QLabel>
@@ -11,6 +12,8 @@ namespace {
 struct MainForm : Form {
     MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
     Image Image4{*this, QStringLiteral("Image4"), {150, 150, 3000, 1500}}; // 200 by 100 pixels
+    Image Stretched{*this, QStringLiteral("Stretched"), {150, 150, 3000, 1500}, Image::Fit::Stretch};
+    PictureBox Pane{*this, QStringLiteral("Pane"), {150, 150, 1500, 1500}};
 };
 
 FormHandle<MainForm> Main;
@@ -115,6 +118,56 @@ private Q_SLOTS:
         Main->Image4.Clear();
         QCOMPARE(Main->Image4.Widget().accessibleName(),
                  QStringLiteral("Click the Right mouse button to copy"));
+    }
+
+    void a_stretched_picture_fills_its_rectangle_whatever_its_proportions()
+    {
+        for (const QSize& size : {QSize(400, 100), QSize(100, 400), QSize(8, 8)}) {
+            Main->Stretched.Load(folder_.Add(QStringLiteral("a.bmp"), Encoded(FourCorners(size), "bmp")));
+            const QImage shown = Main->Stretched.Widget().grab().toImage();
+            QVERIFY(Alike(shown.pixelColor(3, 3), Qt::red));
+            QVERIFY(Alike(shown.pixelColor(196, 3), Qt::green));
+            QVERIFY(Alike(shown.pixelColor(3, 96), Qt::blue));
+            QVERIFY(Alike(shown.pixelColor(196, 96), Qt::white));
+        }
+    }
+
+    void a_stretched_picture_follows_a_new_size()
+    {
+        Main->Stretched.Load(folder_.Add(QStringLiteral("a.jpg"), Encoded(FourCorners({400, 100}), "jpg")));
+        Main->Stretched.SetWidth(1500);
+        Main->Stretched.SetHeight(3000);
+        const QImage shown = Main->Stretched.Widget().grab().toImage();
+        QCOMPARE(shown.size(), QSize(100, 200));
+        QVERIFY(Alike(shown.pixelColor(5, 90), Qt::red));
+        QVERIFY(Alike(shown.pixelColor(95, 195), Qt::white));
+    }
+
+    void a_stretched_picture_stands_upright_by_its_tag()
+    {
+        const QByteArray turned = WithOrientation(Encoded(FourCorners({120, 80}), "jpg"), 6);
+        Main->Stretched.Load(folder_.Add(QStringLiteral("turned.jpg"), turned));
+        const QImage shown = Main->Stretched.Widget().grab().toImage();
+        QVERIFY(Alike(shown.pixelColor(10, 10), Qt::blue));
+        QVERIFY(Alike(shown.pixelColor(190, 10), Qt::red));
+    }
+
+    void an_image_that_comes_to_the_front_stays_behind_the_other_controls()
+    {
+        const auto order = [] {
+            QStringList names;
+            const QObjectList& children = Main->Host().children();
+            for (const QObject* each : children)
+                names.append(each->objectName());
+            return names;
+        };
+        Main->Image4.ZOrder();
+        QCOMPARE(order(), (QStringList{QStringLiteral("Stretched"), QStringLiteral("Image4"),
+                                       QStringLiteral("Pane")}));
+        Main->Pane.ZOrder();
+        Main->Stretched.ZOrder();
+        QCOMPARE(order(), (QStringList{QStringLiteral("Image4"), QStringLiteral("Stretched"),
+                                       QStringLiteral("Pane")}));
     }
 
     void a_pane_without_extent_takes_a_picture_and_shows_it_later()

@@ -9,6 +9,9 @@ namespace {
 struct MainForm : Form {
     MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels)) {}
     PictureBox picParent{*this, QStringLiteral("picParent"), {0, 0, 3000, 1500}};
+    PictureBox Behind{*this, QStringLiteral("Behind"), {4500, 3750, 900, 600}};
+    PictureBox Pixels{*this, QStringLiteral("Pixels"), {4500, 3750, 750, 300}, Scale::Pixels};
+    PictureBox InPixels{Pixels, QStringLiteral("InPixels"), {0, 0, 150, 150}};
     PictureBox picChild{picParent, QStringLiteral("picChild"), {0, 0, 1500, 750}};
 };
 
@@ -45,6 +48,34 @@ private Q_SLOTS:
         QCOMPARE(Main->picChild.Width(), 4500.0);
         QCOMPARE(Main->picChild.Height(), 3000.0);
         QCOMPARE(Main->picChild.Widget().size(), QSize(300, 200));
+    }
+
+    void what_lies_on_a_pane_is_measured_in_the_panes_own_scale()
+    {
+        Main->InPixels.Load(folder_.Add(QStringLiteral("a.bmp"), Encoded(FourCorners({300, 200}), "bmp")));
+        QCOMPARE(Main->InPixels.Width(), 300.0);
+        Main->InPixels.SetLeft(-20);
+        QCOMPARE(Main->InPixels.Widget().pos(), QPoint(-20, 0));
+    }
+
+    void an_empty_pane_hides_what_lies_behind_it()
+    {
+        Main->Behind.Load(folder_.Add(QStringLiteral("a.bmp"), Encoded(FourCorners({60, 40}), "bmp")));
+        const QImage shown = Main->Host().grab().toImage();
+        QVERIFY(Alike(shown.pixelColor(305, 255), look::face));
+        QVERIFY(Alike(shown.pixelColor(355, 285), Qt::white));
+    }
+
+    void a_picture_of_20000_pixels_can_be_moved_to_its_end()
+    {
+        Main->InPixels.Load(
+            folder_.Add(QStringLiteral("wide.jpg"), Encoded(FourCorners({20000, 100}), "jpg")));
+        Main->InPixels.SetLeft(-19900);
+        Main->Pixels.SetWidth(100);
+        Main->Pixels.SetHeight(100);
+        const QImage shown = Main->Pixels.Widget().grab().toImage();
+        QVERIFY(Alike(shown.pixelColor(50, 40), Qt::green));
+        QVERIFY(Alike(shown.pixelColor(50, 60), Qt::white));
     }
 
     void the_outer_pane_clips_the_inner_one()

@@ -49,6 +49,7 @@ private Q_SLOTS:
         QVERIFY(none.IsEmpty());
         QVERIFY(none.Natural().isNull());
         QVERIFY(none.Fitted({100, 100}).isNull());
+        QVERIFY(none.Stretched({100, 100}).isNull());
         QCOMPARE(none.FileName(), QString());
     }
 
@@ -139,6 +140,8 @@ private Q_SLOTS:
             Picture::Load(folder_.Add(QStringLiteral("wide.jpg"), Encoded(FourCorners({640, 480}), "jpg")));
         QCOMPARE(landscape.Fitted({776, 470}).size(), QSize(626, 470));
         QCOMPARE(landscape.Fitted({320, 1000}).size(), QSize(320, 240));
+        QCOMPARE(landscape.Stretched({320, 1000}).size(), QSize(320, 1000));
+        QVERIFY(landscape.Stretched({320, 0}).isNull());
         const Picture portrait =
             Picture::Load(folder_.Add(QStringLiteral("tall.jpg"), Encoded(FourCorners({300, 400}), "jpg")));
         QCOMPARE(portrait.Fitted({776, 400}).size(), QSize(300, 400));

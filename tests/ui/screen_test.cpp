@@ -1,4 +1,5 @@
 #include "ui/button.h"
+#include "ui/image.h"
 #include "ui/picture_box.h"
 #include "ui/screen.h"
 #include "ui/text_box.h"
@@ -15,6 +16,7 @@ struct MainForm : Form {
     MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
     Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}};
     PictureBox Pane{*this, QStringLiteral("Pane"), {0, 600, 1200, 600}};
+    Image Photo{*this, QStringLiteral("Photo"), {1500, 600, 1200, 600}};
     TextBox Text1{*this, QStringLiteral("Text1"), {0, 1500, 1200, 375}, QStringLiteral("67A.JPG")};
 };
 
@@ -78,6 +80,79 @@ private Q_SLOTS:
             QTest::mouseClick(&Main->Pane.Widget(), button);
             QCOMPARE(active, &Main->Pane);
         }
+    }
+
+    void a_press_on_an_image_makes_it_the_active_control_too()
+    {
+        QVERIFY(UiRoom::Open(*Main));
+        QTest::mouseClick(&Main->Photo.Widget(), Qt::RightButton);
+        QCOMPARE(Screen.ActiveControl(), &Main->Photo);
+    }
+
+    void the_keyboard_focus_stays_where_it_is_when_a_picture_is_pressed()
+    {
+        QVERIFY(UiRoom::Open(*Main));
+        Main->Go.SetFocus();
+        QTest::mouseClick(&Main->Pane.Widget(), Qt::RightButton);
+        QTest::mouseClick(&Main->Photo.Widget(), Qt::LeftButton);
+        QVERIFY(Main->Go.Widget().hasFocus());
+    }
+
+    void a_pressed_picture_stays_active_behind_a_box()
+    {
+        QVERIFY(UiRoom::Open(*Main));
+        Main->Go.SetFocus();
+        QTest::mouseClick(&Main->Pane.Widget(), Qt::RightButton);
+        QWidget box;
+        box.show();
+        box.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        box.hide();
+        QCOMPARE(Screen.ActiveControl(), &Main->Pane);
+        Main->Window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&Main->Window()));
+        QCOMPARE(Screen.ActiveControl(), &Main->Pane);
+    }
+
+    void a_pressed_picture_is_active_until_the_user_is_elsewhere_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::newRow("another control is pressed") << 0;
+        QTest::newRow("a key is pressed") << 1;
+        QTest::newRow("the program sets the focus where it is") << 2;
+        QTest::newRow("the focus moves on by Tab") << 3;
+        QTest::newRow("the picture is hidden") << 4;
+    }
+    void a_pressed_picture_is_active_until_the_user_is_elsewhere()
+    {
+        QFETCH(int, way);
+        QVERIFY(UiRoom::Open(*Main));
+        Main->Go.SetFocus();
+        QTest::mouseClick(&Main->Pane.Widget(), Qt::RightButton);
+        QCOMPARE(Screen.ActiveControl(), &Main->Pane);
+        const Control* expected = &Main->Go;
+        if (way == 0)
+            QTest::mouseClick(&Main->Go.Widget(), Qt::LeftButton);
+        else if (way == 1)
+            QTest::keyClick(&Main->Go.Widget(), Qt::Key_A);
+        else if (way == 2)
+            Main->Go.SetFocus();
+        else if (way == 4)
+            Main->Pane.Hide();
+        else {
+            Main->Text1.Widget().setFocus(Qt::TabFocusReason);
+            expected = &Main->Text1;
+        }
+        QCOMPARE(Screen.ActiveControl(), expected);
+    }
+
+    void a_pressed_picture_that_is_gone_is_no_active_control()
+    {
+        QVERIFY(UiRoom::Open(*Main));
+        QTest::mouseClick(&Main->Pane.Widget(), Qt::RightButton);
+        Main.Unload();
+        UiRoom::Settle();
+        QCOMPARE(Screen.ActiveControl(), nullptr);
     }
 
     void a_box_that_was_up_leaves_the_active_control()

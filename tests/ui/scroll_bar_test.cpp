@@ -108,6 +108,22 @@ private Q_SLOTS:
         QCOMPARE(Main->Flat.LargeChange(), 32767);
     }
 
+    void the_steps_are_one_until_they_are_set()
+    {
+        QCOMPARE(Main->Flat.LargeChange(), 1);
+        QCOMPARE(Main->Flat.SmallChange(), 1);
+    }
+
+    void a_small_change_is_the_step_of_an_arrow()
+    {
+        for (const int step : {0, -1, -32768})
+            QCOMPARE(ResumeNext([&] { Main->Flat.SetSmallChange(step); }), 380);
+        Main->Flat.SetSmallChange(40);
+        QCOMPARE(Main->Flat.SmallChange(), 40);
+        QTest::mouseClick(&Bar(), Qt::LeftButton, {}, {Bar().width() - 5, 8});
+        QCOMPARE(Main->Flat.Value(), 40);
+    }
+
     void a_disabled_bar_does_not_move()
     {
         Main->Flat.SetEnabled(false);

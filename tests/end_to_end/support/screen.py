@@ -52,6 +52,11 @@ class Screen:
     def double_click(self, x, y):
         self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", "--repeat", "2", "--delay", "40", "1")
 
+    def drag_mouse(self, start, end):
+        """Presses the left button at a place and lets go at another."""
+        at_start, at_end = ([str(round(value)) for value in place] for place in (start, end))
+        self._run("xdotool", "mousemove", *at_start, "mousedown", "1", "mousemove", *at_end, "mouseup", "1")
+
     def press_key(self, *keys):
         """Keys by their X names: "period", "Escape", "alt+F4"."""
         self._run("xdotool", "key", "--clearmodifiers", *keys)

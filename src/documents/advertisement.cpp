@@ -1,0 +1,84 @@
+#include "documents/advertisement.h"
+
+#include "local/frm_ss_photo.h"
+#include "platform/failure.h"
+#include "platform/text.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "slides/form_topmost.h"
+#include "slides/frm_scroll.h"
+#include "slides/zoom_viewer.h"
+#include "ui/message_box.h"
+#include "ui/screen.h"
+
+namespace torvik {
+
+namespace {
+
+void FillScreen()
+{
+    frmScroll->SetWidth(Screen.Width());
+    frmScroll->SetHeight(Screen.Height());
+    frmScroll->SetTop(0);
+    frmScroll->SetLeft(0);
+}
+
+/// There is no list of advertisements: a year without one is found out by trying to load it.
+void LoadPage()
+{
+    frmScrollControls& form = *frmScroll;
+    form.picParent.Hide();
+    form.picChild.Hide();
+    form.picChild.Move(0, 0);
+    state.DocumentFile = Mid(Form1->panYear.Caption(), 3, 2) + QStringLiteral("brto00.jpg");
+    state.DocumentFile = state.DiscRoot + QStringLiteral("\\ads\\") + state.DocumentFile;
+    form.HScroll1.Hide();
+    form.VScroll1.Hide();
+    form.picChild.Load(state.DocumentFile);
+    form.Image1.Load(state.DocumentFile);
+    form.Image1.Move(form.picChild.Left(), form.picChild.Top(), 620, form.picParent.Height());
+    form.Image1.ZOrder();
+}
+
+void ShowPage()
+{
+    ResumeNext([] {
+        frmScroll->SetCaption(QStringLiteral("The Torvik Vollandry    ") + Form1->panYear.Caption() +
+                              QStringLiteral(" Advertisement"));
+    });
+    ResumeNext(TurnFullSizeViewOver);
+    ResumeNext([] { frmScroll->ShowModal(); });
+}
+
+/// The viewer stays loaded and hidden, ready for the next page.
+void SaySorry()
+{
+    state.MessageText =
+        QStringLiteral("Sorry!\r\n\r\nThe Year 2001 ad has not yet been released by Brenmoor.\r\n");
+    state.MessageAnswer = QString::number(
+        MsgBox(state.MessageText, msgbox::exclamation, QStringLiteral("The Torvik Vollandry")));
+    Form1->SetEnabled(true);
+}
+
+void cmdAd_Click()
+{
+    SetFormTopmost(*frmSSPhoto, topmost::off);
+    frmSSPhoto.Unload();
+    const bool loaded = OnError(
+        [] {
+            FillScreen();
+            LoadPage();
+        },
+        SaySorry);
+    if (loaded)
+        ShowPage();
+}
+
+} // namespace
+
+void BindAdvertisement()
+{
+    Form1.Bind([](Form1Controls& form) { form.cmdAd.Click = cmdAd_Click; });
+}
+
+} // namespace torvik
