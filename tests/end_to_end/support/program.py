@@ -39,6 +39,7 @@ class Program:
 
     def __init__(self, screen, home, *arguments, scale=1):
         self.screen = screen
+        self.home = home
         self._scale = scale
         home.mkdir(exist_ok=True)
         surroundings = {**screen.environment, **home_variables(home), "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}

@@ -49,6 +49,10 @@ class Screen:
     def press_mouse(self, x, y, button=1):
         self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", str(button))
 
+    def nudge_mouse(self, right, down):
+        """Moves the mouse by so many pixels from where it is."""
+        self._run("xdotool", "mousemove_relative", "--sync", "--", str(right), str(down))
+
     def double_click(self, x, y):
         self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", "--repeat", "2", "--delay", "40", "1")
 
@@ -71,6 +75,18 @@ class Screen:
         if len(windows) > 1:
             raise RuntimeError(f"the process has the windows {windows}")
         return windows[0]
+
+    def find_window(self, title):
+        """The number of the visible window of that title; empty when there is none."""
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title], text=True,
+                               env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, check=False)
+        return found.stdout.split("\n")[0]
+
+    def place_of(self, window):
+        """The left upper corner of a window without its frame."""
+        answer = self._run("xwininfo", "-id", window)
+        lines = dict(line.strip().split(":", 1) for line in answer.splitlines() if ":" in line)
+        return int(lines["Absolute upper-left X"]), int(lines["Absolute upper-left Y"])
 
     def title_of(self, window):
         return self._run("xdotool", "getwindowname", window).rstrip("\n")
