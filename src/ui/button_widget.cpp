@@ -10,7 +10,8 @@ namespace torvik {
 
 namespace {
 
-constexpr int bevelDepth = 2; // pixels
+constexpr int bevelDepth = 2;      // pixels
+constexpr int lowestWithDots = 20; // pixels
 
 int DegreesOf(ButtonWidget::Symbol symbol)
 {
@@ -40,7 +41,7 @@ void ButtonWidget::SetSymbol(Symbol symbol)
 }
 
 /// The button with the focus has a dark line around itself besides the dotted one, as seen from across a
-/// room.
+/// room. On a low button the dotted one would run through the caption.
 void ButtonWidget::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
@@ -58,7 +59,7 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/)
     if (isDown())
         content.translate(1, 1);
     PaintContent(painter, content);
-    if (hasFocus())
+    if (hasFocus() && height() >= lowestWithDots)
         DrawFocus(painter, area.adjusted(4, 4, -4, -4));
 }
 

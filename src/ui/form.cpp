@@ -85,6 +85,11 @@ void Form::CoverScreen(bool cover)
         ApplySize();
 }
 
+std::int32_t Form::WindowNumber() const
+{
+    return static_cast<std::int32_t>(window_->winId());
+}
+
 bool Form::Visible() const
 {
     return window_->isVisible();

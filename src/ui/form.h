@@ -11,6 +11,7 @@
 #include <QSize>
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -75,6 +76,9 @@ public:
     /// Covers the whole screen, or goes back; the form's measures stay and no Resize comes of it.
     void CoverScreen(bool cover);
     bool CoversScreen() const { return covering_; }
+
+    /// The desktop's number for the window.
+    std::int32_t WindowNumber() const;
 
     bool Visible() const;
     /// Shows the form beside the others; one that is on the screen already only comes up again.

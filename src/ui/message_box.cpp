@@ -1,18 +1,38 @@
 #include "ui/message_box.h"
 
 #include "ui/application.h"
+#include "ui/form_window.h"
 #include "ui/program_end.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace torvik {
 
 namespace {
+
+/// The windows that were active when the boxes that stand came up.
+std::vector<QPointer<FormWindow>>& Asking()
+{
+    static std::vector<QPointer<FormWindow>> windows;
+    return windows;
+}
+
+/// Notes for the length of a scope which window asks.
+class AskingWindow {
+public:
+    AskingWindow() { Asking().emplace_back(FormWindow::LastActive()); }
+    ~AskingWindow() { Asking().pop_back(); }
+    AskingWindow(const AskingWindow&) = delete;
+    AskingWindow& operator=(const AskingWindow&) = delete;
+};
 
 MessageResponder& Responder()
 {
@@ -89,9 +109,20 @@ int Ask(const MessageRequest& request)
 int MsgBox(const QString& text, int style, const QString& title)
 {
     const MessageRequest request{text, style, title.isEmpty() ? applicationTitle : title};
-    const int answer = Responder() ? Responder()(request) : Ask(request);
+    int answer = 0;
+    {
+        const AskingWindow asking;
+        answer = Responder() ? Responder()(request) : Ask(request);
+    }
     LeaveIfEnding();
     return answer;
+}
+
+bool MessageBoxStandsOver(const Form& form)
+{
+    return std::any_of(Asking().begin(), Asking().end(), [&](const QPointer<FormWindow>& window) {
+        return window != nullptr && window->Owner() == &form;
+    });
 }
 
 void SetMessageResponder(MessageResponder responder)

@@ -6,6 +6,8 @@
 
 namespace torvik {
 
+class Form;
+
 /// The toolkit's numeric styles and answers of a message box.
 namespace msgbox {
 inline constexpr int ok = 0;
@@ -30,6 +32,10 @@ inline constexpr int answerNo = 7;
 /// line ends included. The first button is the default one; Escape and the close box answer Cancel, or No, or
 /// what the only button answers.
 int MsgBox(const QString& text, int style = msgbox::ok, const QString& title = {});
+
+/// Whether a box stands that came up while this form's window was the active one, so that one of its handlers
+/// waits for the answer.
+bool MessageBoxStandsOver(const Form& form);
 
 /// A box that was asked for.
 struct MessageRequest {

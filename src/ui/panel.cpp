@@ -23,6 +23,8 @@ QString Panel::Caption() const
 
 void Panel::SetCaption(const QString& caption)
 {
+    if (caption == Caption())
+        return; // a clock says the same a hundred times a second
     panel_->setText(caption);
     FitCaption();
     UpdateAccessibleText();

@@ -4,6 +4,7 @@
 #include "ui/clock.h"
 #include "ui/form.h"
 #include "ui/form_window.h"
+#include "ui/message_box.h"
 
 #include <QPointer>
 #include <QTimeZone>
@@ -70,7 +71,7 @@ void Timer::Due()
 {
     if (form_.Retired())
         timer_->stop();
-    else
+    else if (!MessageBoxStandsOver(form_))
         Tick.Fire();
 }
 

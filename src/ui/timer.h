@@ -12,7 +12,8 @@ namespace torvik {
 class Form;
 
 /// A timer of a form: ticks every Interval milliseconds, never while the interval is 0 and never once its
-/// form is unloaded. It runs on the Clock.
+/// form is unloaded. A handler of the form that waits for the answer to a message box is not interrupted by
+/// a tick. It runs on the Clock.
 class Timer : public QObject {
 public:
     Timer(Form& form, const QString& name, int interval = 0);

@@ -132,6 +132,19 @@ private Q_SLOTS:
         QVERIFY(PixelsOf(with, look::text) > PixelsOf(without, look::text) + 2 * with.width());
     }
 
+    void on_a_low_button_no_dots_run_through_the_caption()
+    {
+        Main->Go.SetHeight(240); // 16 pixels
+        Main->Go.SetCaption({});
+        Main->Go.SetFocus();
+        const QImage low = Grab(Main->Go);
+        QCOMPARE(low.pixelColor(0, 0), look::text);
+        QCOMPARE(PixelsOf(low.copy(1, 1, low.width() - 2, low.height() - 2), look::text), 0);
+        Main->Go.SetHeight(300);
+        const QImage high = Grab(Main->Go);
+        QVERIFY(PixelsOf(high.copy(1, 1, high.width() - 2, high.height() - 2), look::text) > 0);
+    }
+
     void a_disabled_caption_is_faded_and_readable()
     {
         Main->Go.SetEnabled(false);

@@ -77,6 +77,14 @@ private Q_SLOTS:
         QCOMPARE(Side->Width(), 0.0);
     }
 
+    void each_form_has_a_window_number_of_its_own()
+    {
+        QVERIFY(Main->WindowNumber() != 0);
+        QCOMPARE(Main->WindowNumber(), Main->WindowNumber());
+        QVERIFY(Main->WindowNumber() != Side->WindowNumber());
+        QVERIFY(!Main->Visible());
+    }
+
     void a_fixed_form_cannot_be_sized_by_the_user_but_by_the_program()
     {
         QCOMPARE(Side->Window().minimumSize(), Side->Window().maximumSize());

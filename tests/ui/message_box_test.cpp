@@ -266,6 +266,24 @@ private Q_SLOTS:
         QCOMPARE(steps, 1);
     }
 
+    void a_box_stands_over_the_form_that_was_active()
+    {
+        QVERIFY(UiRoom::Open(*Main));
+        QVERIFY(!MessageBoxStandsOver(*Main));
+        bool stood = false;
+        Answer(QStringLiteral("?"), msgbox::ok, QStringLiteral("OK"),
+               [&] { stood = MessageBoxStandsOver(*Main); });
+        QVERIFY(stood);
+        QVERIFY(!MessageBoxStandsOver(*Main));
+        bool stoodWithoutBox = false;
+        SetMessageResponder([&](const MessageRequest&) {
+            stoodWithoutBox = MessageBoxStandsOver(*Main);
+            return msgbox::answerOk;
+        });
+        MsgBox(QStringLiteral("?"));
+        QVERIFY(stoodWithoutBox);
+    }
+
     void a_responder_answers_in_place_of_the_box()
     {
         MessageRequest asked;

@@ -1,4 +1,5 @@
 #include "support/message_script.h"
+#include "ui/message_box.h"
 #include "ui/timer.h"
 #include "ui_room.h"
 
@@ -15,6 +16,13 @@ struct MainForm : Form {
 };
 
 FormHandle<MainForm> Main;
+
+struct OtherForm : Form {
+    OtherForm() : Form(DesignOf(QStringLiteral("Other"))) {}
+    Timer Timer1{*this, QStringLiteral("Timer1")};
+};
+
+FormHandle<OtherForm> Other;
 
 const QDateTime start(QDate(2001, 6, 17), QTime(14, 5, 9));
 
@@ -140,6 +148,27 @@ private Q_SLOTS:
         Clock::Turn(1000);
         QCOMPARE(ticks_, 1);
         QVERIFY(!Main.IsLoaded());
+    }
+
+    void no_tick_interrupts_a_handler_of_its_form_that_asks()
+    {
+        QVERIFY(UiRoom::Open(*Main));
+        Other->Timer1.SetInterval(100);
+        int others = 0;
+        Other->Timer1.Tick = [&] { ++others; };
+        MessageScript messages;
+        messages.WhenAsked([] { Clock::Turn(1000); });
+        Main->Timer1.SetInterval(100);
+        Main->Timer1.Tick = [this] {
+            ++ticks_;
+            MsgBox(QStringLiteral("no photo"));
+        };
+        Clock::Turn(100);
+        QCOMPARE(ticks_, 1);
+        QCOMPARE(messages.Count(), 1);
+        QVERIFY(others >= 10);
+        Clock::Turn(100);
+        QCOMPARE(ticks_, 2);
     }
 
     void a_failing_tick_ends_the_program()
