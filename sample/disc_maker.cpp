@@ -4,6 +4,7 @@
 #include "in_parallel.h"
 #include "jpeg_file.h"
 #include "photographer.h"
+#include "slide_show_art.h"
 #include "sounds/effects.h"
 #include "title_art.h"
 
@@ -85,6 +86,7 @@ void MakeAssets(const QString& folder)
     WritePng(folder + QStringLiteral("/splash.png"), PaintSplash(1));
     WritePng(folder + QStringLiteral("/splash@2x.png"), PaintSplash(2));
     WritePng(folder + QStringLiteral("/icon.png"), PaintIcon(256));
+    WriteFile(folder + QStringLiteral("/slide_show.jpg"), JpegBytes(PaintSlideShow({1568, 972}), 88));
 }
 
 } // namespace torvik::sample

@@ -71,6 +71,8 @@ void AddCar(QImage& picture, const CarShape& shape, const Paint& paint, const Tr
     Render(picture, subject, own, around);
 }
 
+} // namespace
+
 void TitleText(QPainter& p, const QString& text, const QPointF& middle, double height, const QString& family,
                bool italic, double spacing)
 {
@@ -97,8 +99,6 @@ void TitleText(QPainter& p, const QString& text, const QPointF& middle, double h
     p.fillPath(path, gold);
     p.strokePath(path, QPen(QColor(60, 34, 14, 150), height * 0.012));
 }
-
-} // namespace
 
 QImage PaintOpening(QSize size)
 {
