@@ -24,6 +24,12 @@
 #include "utilities/help_contents.h"
 #include "utilities/system_information.h"
 #include "slides/zoom_viewer.h"
+#include "slides/slide_clock.h"
+#include "slides/slide_exit.h"
+#include "slides/slide_focus.h"
+#include "slides/slide_player.h"
+#include "slides/slide_setup.h"
+#include "slides/slide_steps.h"
 #include "utilities/task_bar_toggle.h"
 
 namespace torvik {
@@ -50,6 +56,12 @@ void BindHandlers()
     BindAdvertisement();
     BindPlayListForm();
     BindSaverInstallation();
+    BindSlideSetup();
+    BindSlideSteps();
+    BindSlidePlayer();
+    BindSlideClock();
+    BindSlideFocus();
+    BindSlideExit();
     BindTaskBarToggle();
     BindDisplayCheck();
     BindSystemInformation();

@@ -8,6 +8,7 @@
 #include "shell/form1.h"
 #include "shell/form2.h"
 #include "shell/program_state.h"
+#include "slides/title_code.h"
 #include "ui/application.h"
 #include "ui/program_end.h"
 #include "ui/screen.h"
@@ -65,11 +66,14 @@ void ShowFirstYear()
     state.CurrentYearButton = state.NextYearButton;
 }
 
+/// The photos of a topic could not be stepped through with the characters that RestoreMainWindow takes from
+/// its title.
 void ReturnFromSlideShow()
 {
     if (Form1->panYear.Caption() != nothingChosen)
         Form1->Image4.Show();
     RestoreMainWindow();
+    TakeCodeOfTitle();
 }
 
 void Form1_Activate()

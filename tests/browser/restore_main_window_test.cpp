@@ -71,6 +71,7 @@ private Q_SLOTS:
 
     void side_forms_are_unloaded()
     {
+        state.SlideShowOpen = true; // else the slide show asks whether it may go
         frmSlide.LoadForm();
         txtForm.LoadForm();
         Form1->panYear.SetCaption(nothingChosen);

@@ -19,8 +19,8 @@ class ProgramTest(unittest.TestCase):
         self.folder = Path(folder.name)
         self.program_folder = self.folder / "program"
 
-    def make_disc(self):
-        return SmallDisc(self.folder / "disc")
+    def make_disc(self, further=()):
+        return SmallDisc(self.folder / "disc", further)
 
     def make_screen(self, width=800, height=600):
         screen = Screen(width, height)

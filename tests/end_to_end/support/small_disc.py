@@ -8,12 +8,12 @@ TOPICS = ["TD", "TF", "VM", "ZZ"]
 
 
 class SmallDisc:
-    """Two photos for each year and topic, five for 1969; all of 64 by 40 pixels."""
+    """Two photos for each year and topic, and for any further prefix; five for 1969; all of 64 by 40 pixels."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, further=()):
         self.folder = folder
         self.photos = {}
-        for prefix in YEARS + TOPICS:
+        for prefix in [*YEARS, *TOPICS, *further]:
             for letter in "ABCDE" if prefix == "69" else "AB":
                 self._plan(f"{prefix}{letter}.JPG")
         self._write()

@@ -1,0 +1,32 @@
+#include "slides/shown_slide.h"
+
+#include "platform/text.h"
+#include "shell/program_state.h"
+#include "shell/report_error.h"
+#include "slides/frm_slide.h"
+
+namespace torvik {
+
+void LoadSlide()
+{
+    frmSlide->Image1.Load(state.PhotoFiles(state.PhotoIndex));
+}
+
+void ShowSlidePosition()
+{
+    frmSlide->pnlPhotoNumber.SetCaption(
+        QStringLiteral("%1 of %2").arg(state.PhotoIndex).arg(state.PhotoCount));
+}
+
+void ReportSlideFailure(const QString& code)
+{
+    state.ErrorCode = code;
+    ReportError();
+}
+
+void RefreshPathPosition()
+{
+    state.TorviksPathPos = InStr(state.PhotoFiles(1), torviksFolder);
+}
+
+} // namespace torvik

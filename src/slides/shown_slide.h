@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace torvik {
+
+/// Shows the photo at `state.PhotoIndex`. Failure 9 when there is no such index, or one of loading a picture;
+/// the photo before stays then.
+void LoadSlide();
+
+/// Writes the position of `state.PhotoIndex`, "5 of 900".
+void ShowSlidePosition();
+
+/// Reports the failure that is being handled under a code of the slide show.
+void ReportSlideFailure(const QString& code);
+
+/// Finds out where the names begin in the paths of the photos. Failure 9 when there are no photos.
+void RefreshPathPosition();
+
+} // namespace torvik

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace torvik {
+
+/// Ties the clock strip of the slide show.
+void BindSlideClock();
+
+} // namespace torvik

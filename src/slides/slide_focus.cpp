@@ -1,0 +1,35 @@
+#include "slides/slide_focus.h"
+
+#include "shell/program_state.h"
+#include "slides/frm_slide.h"
+
+namespace torvik {
+
+namespace {
+
+/// Without a test: while the show runs "Beginning" is disabled and the call fails.
+void FocusKeys()
+{
+    frmSlide->SSCommand1.SetFocus();
+}
+
+void FocusKeysUnlessPlayed()
+{
+    if (!state.SlidePlayPressed)
+        frmSlide->SSCommand1.SetFocus();
+}
+
+} // namespace
+
+void BindSlideFocus()
+{
+    frmSlide.Bind([](frmSlideControls& form) {
+        for (Panel* panel :
+             {&form.panYear, &form.PnlCoStar, &form.StatusDate, &form.StatusDay, &form.StatusTime})
+            panel->Click = FocusKeys;
+        form.Image1.Click = FocusKeysUnlessPlayed;
+        form.Activate = FocusKeysUnlessPlayed;
+    });
+}
+
+} // namespace torvik

@@ -1,0 +1,136 @@
+#include "slides/slide_steps.h"
+
+#include "browser/topic_catalogue.h"
+#include "platform/failure.h"
+#include "platform/text.h"
+#include "shell/program_state.h"
+#include "slides/frm_slide.h"
+#include "slides/shown_slide.h"
+
+namespace torvik {
+
+namespace {
+
+constexpr int jump = 10; // photos
+
+void ShowSlideWithCaption()
+{
+    LoadSlide();
+    SetSlideCaption();
+    frmSlide->panYear.Show();
+}
+
+/// Whatever is left over, a jump before the first photo ends on the last one.
+void mmSlide_BackClick()
+{
+    frmSlide->pnlPhotoNumber.Show();
+    state.SlideRestorePending = false;
+    const int target = state.PhotoIndex - jump;
+    state.PhotoIndex = target < 1 ? int{state.PhotoCount} : target;
+    OnError(
+        [] {
+            RefreshPathPosition();
+            ShowSlideWithCaption();
+            ShowSlidePosition();
+        },
+        [] { ReportSlideFailure(QStringLiteral("ER013")); });
+    frmSlide->SSCommand1.SetFocus();
+}
+
+/// A jump that would end on the last photo goes to the first one already; it has always been so.
+void mmSlide_StepClick()
+{
+    state.SlideRestorePending = false;
+    const int target = state.PhotoIndex + jump;
+    state.PhotoIndex = target > state.PhotoCount - 1 ? 1 : target;
+    OnError(
+        [] {
+            RefreshPathPosition();
+            ShowSlideWithCaption();
+        },
+        [] { ReportSlideFailure(QStringLiteral("ER018")); });
+    frmSlide->SSCommand1.SetFocus();
+    ShowSlidePosition();
+}
+
+/// "Beginning". Its caption is that of the first year, whatever the first photo is.
+void SSCommand1_Click()
+{
+    frmSlide->pnlPhotoNumber.Show();
+    frmSlide->pnlPhotoNumber.SetCaption(QStringLiteral("1 of %1").arg(state.PhotoCount));
+    frmSlide->Image1.Show();
+    frmSlide->panYear.SetCaption(QStringLiteral("1967"));
+    frmSlide->panYear.Show();
+    state.PhotoIndex = 1;
+    LoadSlide();
+}
+
+/// "Middle". Its caption is a plain year, for the photo of a topic too.
+void SSCommand2_Click()
+{
+    frmSlide->Image1.Show();
+    frmSlide->panYear.Show();
+    state.PhotoIndex = static_cast<int>(RoundHalfEven(state.PhotoCount / 2.0));
+    ShowSlidePosition();
+    frmSlide->pnlPhotoNumber.Show();
+    LoadSlide();
+    const QString& photo = state.PhotoFiles(state.PhotoIndex);
+    state.TorviksPathPos = InStr(photo, torviksFolder);
+    frmSlide->panYear.SetCaption(QStringLiteral("19") + Mid(photo, state.TorviksPathPos + 9, 2));
+    frmSlide->SSCommand1.SetFocus();
+}
+
+void SSCommand1_KeyDown(int keyCode)
+{
+    if (keyCode == key::comma)
+        SlideStepBack();
+    else if (keyCode == key::period)
+        SlideStepForward();
+}
+
+} // namespace
+
+void SlideStepForward()
+{
+    frmSlide->pnlPhotoNumber.Show();
+    state.SlideRestorePending = false;
+    state.PhotoIndex = state.PhotoIndex == state.PhotoCount ? 1 : state.PhotoIndex + 1;
+    ShowSlidePosition();
+    OnError(
+        [] {
+            RefreshPathPosition();
+            ShowSlideWithCaption();
+        },
+        [] { ReportSlideFailure(QStringLiteral("ER014")); });
+    frmSlide->SSCommand1.SetFocus();
+}
+
+void SlideStepBack()
+{
+    state.SlideRestorePending = false;
+    frmSlide->pnlPhotoNumber.Show();
+    RefreshPathPosition();
+    OnError(
+        [] {
+            state.PhotoIndex = state.PhotoIndex >= 2 ? state.PhotoIndex - 1 : int{state.PhotoCount};
+            ShowSlideWithCaption();
+        },
+        [] { ReportSlideFailure(QStringLiteral("ER015")); });
+    frmSlide->SSCommand1.SetFocus();
+    ShowSlidePosition();
+}
+
+void BindSlideSteps()
+{
+    frmSlide.Bind([](frmSlideControls& form) {
+        form.mmSlide.ButtonClick(MediaButton::Prev) = SlideStepBack;
+        form.mmSlide.ButtonClick(MediaButton::Next) = SlideStepForward;
+        form.mmSlide.ButtonClick(MediaButton::Back) = mmSlide_BackClick;
+        form.mmSlide.ButtonClick(MediaButton::Step) = mmSlide_StepClick;
+        form.SSCommand1.Click = SSCommand1_Click;
+        form.SSCommand1.KeyDown = [](int keyCode, int /*shift*/) { SSCommand1_KeyDown(keyCode); };
+        form.SSCommand2.Click = SSCommand2_Click;
+    });
+}
+
+} // namespace torvik

@@ -1,0 +1,281 @@
+#include "support/slide_visit.h"
+#include "ui/program_end.h"
+
+using namespace torvik;
+
+/// Going to another photo of a show that is paused.
+class SlideStepsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(QStringLiteral("67"), 24); // 67A to 67X
+        program_->Disc.AddGroup(QStringLiteral("VC"), 1);
+        program_->StartBrowsing();
+    }
+    void cleanup() { program_.reset(); }
+
+    void each_step_goes_where_it_says_data()
+    {
+        QTest::addColumn<QString>("press");
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        const auto row = [](const char* press, int from, int to) {
+            QTest::addRow("%s from %d", press, from) << QString::fromLatin1(press) << from << to;
+        };
+        row("mmSlide(Next)", 5, 6);
+        row("mmSlide(Next)", 25, 1);
+        row("mmSlide(Next)", 0, 1);
+        row("mmSlide(Prev)", 5, 4);
+        row("mmSlide(Prev)", 2, 1);
+        row("mmSlide(Prev)", 1, 25);
+        row("mmSlide(Prev)", 0, 25);
+        row("mmSlide(Back)", 20, 10);
+        row("mmSlide(Back)", 11, 1);
+        row("mmSlide(Back)", 10, 25);
+        row("mmSlide(Back)", 7, 25);
+        row("mmSlide(Step)", 1, 11);
+        row("mmSlide(Step)", 14, 24);
+        row("mmSlide(Step)", 15, 1); // it would have ended on the last one
+        row("mmSlide(Step)", 16, 1);
+        row("mmSlide(Step)", 25, 1);
+        row("SSCommand1", 9, 1);
+        row("SSCommand2", 9, 12); // half of 25, halves to the even neighbour
+    }
+
+    void each_step_goes_where_it_says()
+    {
+        QFETCH(QString, press);
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QVERIFY(InSlideShow(*program_, [&] {
+            state.PhotoIndex = from;
+            ClickSlidePart(*program_, press);
+            QCOMPARE(int(state.PhotoIndex), to);
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), state.PhotoFiles(to).mid(11));
+            QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), QStringLiteral("%1 of 25").arg(to));
+            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+        }));
+        QCOMPARE(program_->Messages.Count(), 0);
+    }
+
+    void a_step_shows_the_caption_of_the_photo()
+    {
+        QVERIFY(InSlideShow(*program_, [&] {
+            ClickSlidePart(*program_, QStringLiteral("mmSlide(Prev)"));
+            QCOMPARE(ShownSlide(), QStringLiteral("VCA.JPG, 25 of 25, Torvik Cookies "));
+            ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
+            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 25, 1967 "));
+        }));
+    }
+
+    void what_a_step_leaves_behind_data()
+    {
+        QTest::addColumn<QString>("press");
+        QTest::addColumn<bool>("showsPosition");
+        QTest::newRow("forward") << QStringLiteral("mmSlide(Next)") << true;
+        QTest::newRow("back") << QStringLiteral("mmSlide(Prev)") << true;
+        QTest::newRow("jump back") << QStringLiteral("mmSlide(Back)") << true;
+        QTest::newRow("jump forward") << QStringLiteral("mmSlide(Step)") << false;
+    }
+
+    void what_a_step_leaves_behind()
+    {
+        QFETCH(QString, press);
+        QFETCH(bool, showsPosition);
+        QVERIFY(InSlideShow(*program_, [&] {
+            frmSlide->pnlPhotoNumber.Hide();
+            frmSlide->panYear.Hide();
+            state.SlideRestorePending = true;
+            state.TorviksPathPos = 0;
+            ClickSlidePart(*program_, press);
+            QCOMPARE(frmSlide->pnlPhotoNumber.Visible(), showsPosition);
+            QVERIFY(frmSlide->panYear.Visible());
+            QVERIFY(!state.SlideRestorePending);
+            QCOMPARE(int(state.TorviksPathPos), 3);
+        }));
+    }
+
+    void comma_and_period_step_with_and_without_shift()
+    {
+        QVERIFY(InSlideShow(*program_, [&] {
+            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            for (const auto& [key, shown] : {std::pair{Qt::Key_Period, "67B.JPG"},
+                                             {Qt::Key_Greater, "67C.JPG"},
+                                             {Qt::Key_Comma, "67B.JPG"},
+                                             {Qt::Key_Less, "67A.JPG"}}) {
+                program_->Press(key);
+                QCOMPARE(frmSlide->Image1.Picture().FileName(), QString::fromLatin1(shown));
+            }
+        }));
+    }
+
+    void other_keys_do_nothing()
+    {
+        QVERIFY(InSlideShow(*program_, [&] {
+            const QString before = ShownSlide();
+            for (const Qt::Key key : {Qt::Key_A, Qt::Key_5, Qt::Key_Slash, Qt::Key_F5, Qt::Key_Escape})
+                program_->Press(frmSlide->SSCommand1, key);
+            QCOMPARE(ShownSlide(), before);
+        }));
+    }
+
+    void the_beginning_is_always_captioned_1967()
+    {
+        Restart(QStringLiteral("72"), 2);
+        state.ShownPhotoIndex = 2;
+        QVERIFY(InSlideShow(*program_, [&] {
+            frmSlide->Image1.Hide();
+            frmSlide->panYear.Hide();
+            frmSlide->pnlPhotoNumber.Hide();
+            program_->Click(frmSlide->SSCommand1);
+            QCOMPARE(ShownSlide(), QStringLiteral("72A.JPG, 1 of 2, 1967"));
+            for (const Control* control : std::initializer_list<const Control*>{
+                     &frmSlide->Image1, &frmSlide->panYear, &frmSlide->pnlPhotoNumber})
+                QVERIFY(control->Visible());
+        }));
+    }
+
+    void the_middle_has_a_plain_caption_for_a_topic_too()
+    {
+        Restart(QStringLiteral("VC"), 5);
+        QVERIFY(InSlideShow(*program_, [&] {
+            frmSlide->Image1.Hide();
+            frmSlide->panYear.Hide();
+            frmSlide->pnlPhotoNumber.Hide();
+            state.TorviksPathPos = 0;
+            program_->Click(frmSlide->SSCommand2);
+            QCOMPARE(ShownSlide(), QStringLiteral("VCB.JPG, 2 of 5, 19VC")); // 5 / 2 gives 2
+            QCOMPARE(int(state.TorviksPathPos), 3);
+            for (const Control* control : std::initializer_list<const Control*>{
+                     &frmSlide->Image1, &frmSlide->panYear, &frmSlide->pnlPhotoNumber})
+                QVERIFY(control->Visible());
+        }));
+    }
+
+    void the_middle_of_seven_is_the_fourth()
+    {
+        Restart(QStringLiteral("67"), 7);
+        QVERIFY(InSlideShow(*program_, [&] {
+            program_->Click(frmSlide->SSCommand2);
+            QCOMPARE(ShownSlide(), QStringLiteral("67D.JPG, 4 of 7, 1967"));
+        }));
+    }
+
+    void the_middle_of_one_photo_asks_for_photo_0_and_ends_the_program()
+    {
+        Restart(QStringLiteral("67"), 1);
+        QVERIFY(InSlideShow(*program_, [&] { program_->Click(frmSlide->SSCommand2); }));
+        QCOMPARE(int(state.PhotoIndex), 0);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->Messages.Last().Text,
+                 QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range"));
+        QVERIFY(ProgramIsEnding());
+    }
+
+    void a_photo_that_is_gone_is_reported_and_the_old_one_stays_data()
+    {
+        QTest::addColumn<QString>("press");
+        QTest::addColumn<int>("from");
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("position");
+        QTest::newRow("jump back") << QStringLiteral("mmSlide(Back)") << 12 << QStringLiteral("ER013")
+                                   << QStringLiteral("1 of 25"); // not written anew
+        QTest::newRow("forward") << QStringLiteral("mmSlide(Next)") << 1 << QStringLiteral("ER014")
+                                 << QStringLiteral("2 of 25");
+        QTest::newRow("back") << QStringLiteral("mmSlide(Prev)") << 3 << QStringLiteral("ER015")
+                              << QStringLiteral("2 of 25");
+        QTest::newRow("jump forward")
+            << QStringLiteral("mmSlide(Step)") << -8 << QStringLiteral("ER018") << QStringLiteral("2 of 25");
+    }
+
+    void a_photo_that_is_gone_is_reported_and_the_old_one_stays()
+    {
+        QFETCH(QString, press);
+        QFETCH(int, from);
+        QFETCH(QString, code);
+        QFETCH(QString, position);
+        QVERIFY(InSlideShow(*program_, [&] {
+            program_->Disc.Remove(QStringLiteral("Torviks/67B.JPG"));
+            state.PhotoIndex = from;
+            ClickSlidePart(*program_, press);
+            QCOMPARE(program_->Messages.Count(), 1);
+            QCOMPARE(program_->Messages.Last().Text,
+                     QStringLiteral("Error number: %1\r\n\r\n Unable to load Slide Show photo.\r\n\r\n"
+                                    "Make sure that the Torvik Vollandry is in the CDROM drive.")
+                         .arg(code));
+            QCOMPARE(program_->Messages.Last().Style, 16);
+            QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry"));
+            QCOMPARE(int(state.PhotoIndex), 2);
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("67A.JPG"));
+            QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), position);
+            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            QVERIFY(!ProgramIsEnding());
+        }));
+    }
+
+    void a_cut_off_photo_is_reported_like_one_that_is_gone()
+    {
+        const QByteArray whole = TestDisc::Jpeg(Qt::red, {64, 48});
+        program_->Disc.AddFile(QStringLiteral("Torviks/67B.JPG"), whole.left(whole.size() - 20));
+        QVERIFY(InSlideShow(*program_, [&] {
+            ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
+            QCOMPARE(state.ErrorCode, QStringLiteral("ER014"));
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("67A.JPG"));
+            ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
+            QCOMPARE(ShownSlide(), QStringLiteral("67C.JPG, 3 of 25, 1967 "));
+        }));
+        QCOMPARE(program_->Messages.Count(), 1);
+    }
+
+    void a_step_that_succeeds_leaves_the_error_code_alone()
+    {
+        QVERIFY(InSlideShow(*program_, [&] {
+            state.ErrorCode = QStringLiteral("ER055");
+            for (const char* press : {"mmSlide(Next)", "mmSlide(Prev)", "mmSlide(Back)", "mmSlide(Step)"})
+                ClickSlidePart(*program_, QString::fromLatin1(press));
+            QCOMPARE(state.ErrorCode, QStringLiteral("ER055"));
+        }));
+    }
+
+    void beginning_and_middle_have_no_trap_data()
+    {
+        QTest::addColumn<QString>("press");
+        QTest::addColumn<QString>("gone");
+        QTest::newRow("Beginning") << QStringLiteral("SSCommand1") << QStringLiteral("Torviks/67A.JPG");
+        QTest::newRow("Middle") << QStringLiteral("SSCommand2") << QStringLiteral("Torviks/67L.JPG");
+    }
+
+    void beginning_and_middle_have_no_trap()
+    {
+        QFETCH(QString, press);
+        QFETCH(QString, gone);
+        QVERIFY(InSlideShow(*program_, [&] {
+            program_->Disc.Remove(gone);
+            ClickSlidePart(*program_, press);
+        }));
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->Messages.Last().Text,
+                 QStringLiteral("Run-time error '53':\r\n\r\nFile not found"));
+        QVERIFY(ProgramIsEnding());
+    }
+
+private:
+    /// The program anew, with a disc of one group.
+    void Restart(const QString& prefix, int count)
+    {
+        program_.reset();
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(prefix, count);
+        program_->StartBrowsing();
+        program_->Messages.Clear();
+        state.ShownPhotoIndex = 1;
+    }
+
+    std::unique_ptr<Program> program_;
+};
+
+QTEST_MAIN(SlideStepsTest)
+#include "slide_steps_test.moc"
