@@ -5,6 +5,7 @@
 #include "measure.h"
 #include "platform/drives.h"
 #include "platform/program_folder.h"
+#include "scene.h"
 #include "shell/form1.h"
 #include "shell/form2.h"
 #include "ui/clock.h"
@@ -26,30 +27,13 @@ constexpr int photoCount = 6;
 constexpr int rounds = 12;
 constexpr double limit = 1.3;
 
-/// Something with as much detail as a photograph: slow waves and a grain over them.
-QImage Scene(const QSize& size, int seed)
-{
-    QImage image(size, QImage::Format_RGB32);
-    unsigned grain = static_cast<unsigned>(seed) * 2654435761U + 1;
-    for (int y = 0; y < size.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < size.width(); ++x) {
-            grain = grain * 1664525U + 1013904223U;
-            const int noise = static_cast<int>(grain >> 28);
-            line[x] = qRgb((x * 255 / size.width() + noise) & 255, (y * 255 / size.height() + noise) & 255,
-                           ((x / 40 + y / 30 + seed) * 16 + noise) & 255);
-        }
-    }
-    return image;
-}
-
 QStringList MakePhotos(const QString& folder, const QSize& size)
 {
     QStringList paths;
     QDir().mkpath(folder);
     for (int number = 0; number < photoCount; ++number) {
         paths.append(folder + QStringLiteral("/67TOR00%1.JPG").arg(number));
-        if (!Scene(size, number).save(paths.last(), "JPG", 85))
+        if (!torvik::bench::Scene(size, number).save(paths.last(), "JPG", 85))
             return {};
     }
     return paths;
