@@ -89,4 +89,10 @@ void MakeAssets(const QString& folder)
     WriteFile(folder + QStringLiteral("/slide_show.jpg"), JpegBytes(PaintSlideShow({1568, 972}), 88));
 }
 
+void MakeIcons(const QString& folder)
+{
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512})
+        WritePng(folder + QStringLiteral("/%1.png").arg(size), PaintIcon(size));
+}
+
 } // namespace torvik::sample

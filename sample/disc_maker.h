@@ -19,5 +19,7 @@ void MakeSounds(const QString& disc);
 void MakePassBySound(const QString& program);
 /// The artwork that the program itself carries.
 void MakeAssets(const QString& folder);
+/// The icon as "16.png" and so on, in the sizes that desktops use, up to 512 pixels.
+void MakeIcons(const QString& folder);
 
 } // namespace torvik::sample

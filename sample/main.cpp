@@ -43,7 +43,8 @@ const std::vector<Part>& Parts()
 int ShowUsage()
 {
     std::fputs("usage: make_sample DISC_FOLDER PROGRAM_FOLDER [PART...]\n"
-               "       make_sample --assets FOLDER\nparts:",
+               "       make_sample --assets FOLDER\n"
+               "       make_sample --icons FOLDER\nparts:",
                stderr);
     for (const Part& part : Parts())
         std::fprintf(stderr, " %s", part.Name);
@@ -68,6 +69,10 @@ int main(int argc, char** argv)
     try {
         if (arguments[0] == QLatin1String("--assets")) {
             MakeAssets(arguments[1]);
+            return 0;
+        }
+        if (arguments[0] == QLatin1String("--icons")) {
+            MakeIcons(arguments[1]);
             return 0;
         }
         for (const Part& part : Parts()) {

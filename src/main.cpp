@@ -2,6 +2,7 @@
 #include "platform/arguments_of.h"
 #include "platform/drives.h"
 #include "platform/failure.h"
+#include "platform/program_files.h"
 #include "platform/program_folder.h"
 #include "shell/command_line.h"
 #include "shell/form2.h"
@@ -53,6 +54,7 @@ int main(int argc, char** argv)
         return Complain(line.Problem);
     if (const QString problem = TakeFolders(line); !problem.isEmpty())
         return Complain(problem);
+    SupplyProgramFolder();
     Printer.PrintTo(line.PrintFolder);
 
     BindHandlers();

@@ -6,6 +6,7 @@
 #include "platform/program_folder.h"
 #include "platform/volumes.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 #include <algorithm>
@@ -123,9 +124,14 @@ void RefreshDrives()
     std::string& last = drives.back();
     if (!last.empty())
         return;
-    const std::string embedded = HostPathBytes(ProgramFolder() + QStringLiteral("\\disc"));
-    if (QDir(HostText(embedded)).exists())
-        last = embedded;
+    // An installed disc lies beside the executable, where the program folder need not be.
+    for (const QString& folder : {ProgramFolder(), DrivePath(QCoreApplication::applicationDirPath())}) {
+        const std::string embedded = HostPathBytes(folder + QStringLiteral("\\disc"));
+        if (QDir(HostText(embedded)).exists()) {
+            last = embedded;
+            return;
+        }
+    }
 }
 
 QString DriveFolder(QChar letter)

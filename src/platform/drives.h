@@ -22,8 +22,9 @@ struct DriveOption {
 void SetDriveOptions(const QList<DriveOption>& options);
 
 /// Finds out anew which letter stands for which folder: the options first, then the mounted volumes that look
-/// like media (in the order of their mount points), last Z: for the folder "disc" in the program folder where
-/// there is one and Z is free. Called at the start of each scan for the disc, so that Retry sees a new disc.
+/// like media (in the order of their mount points), last Z: for the folder "disc" in the program folder or,
+/// else, beside the executable, where there is one and Z is free. Called at the start of each scan for the
+/// disc, so that Retry sees a new disc.
 void RefreshDrives();
 
 /// The host's folder behind a letter ('C' gives the root); empty when the letter stands for nothing.

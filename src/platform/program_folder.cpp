@@ -59,6 +59,11 @@ void SetProgramFolder(const QString& hostFolder)
     chosenFolder = absolute;
 }
 
+bool IsProgramFolderChosen()
+{
+    return !chosenFolder.isEmpty();
+}
+
 QString WindowsFolder()
 {
     const QString folder = UserDataFolder() + QStringLiteral("/windows");

@@ -16,6 +16,9 @@ QString ProgramFolderOf(const QString& executableFolder);
 /// An empty text brings the machine's own answer back. Failure 76 when the folder cannot be made.
 void SetProgramFolder(const QString& hostFolder);
 
+/// Whether SetProgramFolder has put a folder in its place.
+bool IsProgramFolderChosen();
+
 /// The counterpart of the Windows folder, as a drive path without a closing backslash; made on first use.
 QString WindowsFolder();
 
