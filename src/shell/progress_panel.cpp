@@ -18,7 +18,7 @@ ProgressPanel::ProgressPanel(Form& form)
 {
     pnlProgress.Hide();
     Image1.Show(Picture::FromResource(QStringLiteral(":/assets/icon.png")));
-    Label2.SetCaptionFont(17, true, look::accent);
+    Label2.SetCaptionFont(15, true, look::accent);
     ProgressGuage.SetToolTip(QStringLiteral("This file"));
     ProgressGuage2.SetToolTip(QStringLiteral("All files"));
     ProgressGuage.SetFloodPercent(0);

@@ -79,6 +79,15 @@ QMessageBox::Icon IconOf(int style)
     }
 }
 
+/// A box below such a window would hold the program up unseen.
+bool IsAnyWindowTopmost()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    });
+}
+
 int Ask(const MessageRequest& request)
 {
     QMessageBox box(QApplication::activeWindow());
@@ -88,7 +97,7 @@ int Ask(const MessageRequest& request)
     box.setTextFormat(Qt::PlainText);
     box.setText(request.Text);
     box.setIcon(IconOf(request.Style));
-    if ((request.Style & msgbox::systemModal) != 0)
+    if ((request.Style & msgbox::systemModal) != 0 || IsAnyWindowTopmost())
         box.setWindowFlag(Qt::WindowStaysOnTopHint);
 
     QHash<QAbstractButton*, int> answers;

@@ -47,6 +47,17 @@ private Q_SLOTS:
         }
     }
 
+    void the_mouse_pointer_is_the_forms_own()
+    {
+        QCOMPARE(Main->Pointer(), MousePointer::Default);
+        Main->SetMousePointer(MousePointer::Hourglass);
+        QCOMPARE(Main->Pointer(), MousePointer::Hourglass);
+        QCOMPARE(Main->Window().cursor().shape(), Qt::WaitCursor);
+        QCOMPARE(Side->Pointer(), MousePointer::Default);
+        Main->SetMousePointer(MousePointer::Default);
+        QCOMPARE(Main->Pointer(), MousePointer::Default);
+    }
+
     void scale_width_and_height_are_the_client_area_in_the_forms_scale()
     {
         QCOMPARE(Main->ScaleWidth(), 400.0);

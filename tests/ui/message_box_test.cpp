@@ -216,6 +216,20 @@ private Q_SLOTS:
         QVERIFY(!onTop);
     }
 
+    void a_box_is_never_hidden_below_a_form_that_stays_on_top()
+    {
+        const UiRoom room;
+        bool onTop = false;
+        const auto look = [&] { onTop = Box().windowFlags().testFlag(Qt::WindowStaysOnTopHint); };
+        Main->SetTopmost(true);
+        QVERIFY(UiRoom::Open(*Main));
+        Answer(QStringLiteral("!"), msgbox::ok, QStringLiteral("OK"), look);
+        QVERIFY(onTop);
+        Main->Hide();
+        Answer(QStringLiteral("!"), msgbox::ok, QStringLiteral("OK"), look);
+        QVERIFY(!onTop);
+    }
+
     void the_box_is_named_for_those_who_look_for_it()
     {
         QString name;

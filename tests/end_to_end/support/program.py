@@ -37,7 +37,8 @@ class View:
 class Program:
     """One run of the program. A home is a folder of the caller's: runs that share it are runs of one user."""
 
-    def __init__(self, screen, home, *arguments, scale=1):
+    def __init__(self, screen, home, *arguments, scale=1, folder=None):
+        """`folder` is the program's current directory, that of the caller unless given."""
         self.screen = screen
         self.home = home
         self._scale = scale
@@ -47,7 +48,7 @@ class Program:
             surroundings["QT_SCALE_FACTOR"] = str(scale)
         self._process = subprocess.Popen(
             ["setpriv", "--pdeathsig", "KILL", str(executable()), *map(str, arguments)],
-            env=surroundings, stdin=subprocess.DEVNULL)
+            env=surroundings, stdin=subprocess.DEVNULL, cwd=folder)
 
     def __enter__(self):
         return self
