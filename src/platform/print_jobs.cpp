@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
+#include <QProcessEnvironment>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -14,6 +16,18 @@ namespace torvik {
 QString DocumentsFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+bool TakesJobs(const QString& printer)
+{
+    constexpr int patience = 5000; // milliseconds
+    QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
+    surroundings.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    QProcess tool;
+    tool.setProcessEnvironment(surroundings);
+    tool.start(QStringLiteral("lpstat"), {QStringLiteral("-a"), printer});
+    return !tool.waitForFinished(patience) || !tool.readAllStandardOutput().startsWith(QByteArray(
+                                                  printer.toLocal8Bit() + " not accepting requests"));
 }
 
 QString NextJobFile(const QString& hostFolder)

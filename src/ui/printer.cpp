@@ -83,8 +83,9 @@ std::unique_ptr<PrintJob> PrinterObject::MakeJob() const
     const PrinterSetup setup = Setup();
     if (setup.Name.isEmpty())
         return std::make_unique<PrintJob>(setup, NextJobFile(FileFolder()));
-    if (QPrinterInfo::printerInfo(setup.Name).isNull())
-        Fail(failure::printerError); // it has been taken away since it was chosen
+    const bool isThere = !QPrinterInfo::printerInfo(setup.Name).isNull();
+    if (!isThere || !TakesJobs(setup.Name))
+        Fail(failure::printerError);
     return std::make_unique<PrintJob>(setup);
 }
 

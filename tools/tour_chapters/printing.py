@@ -50,8 +50,8 @@ def photo_question(program):
     program.answer("OK")
     program.click("Clear")
     program.click("Cancel")
-    program.click("85")
-    program.wait_for_view(title="1985", number="1")
+    program.click("69")
+    program.wait_for_view(title="1969", number="1")
     program.choose("File", "Print Photo")
     program.wait_for_window(SPLASH_TITLE)
 
