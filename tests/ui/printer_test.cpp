@@ -160,8 +160,7 @@ private Q_SLOTS:
 
     void without_a_printer_and_a_folder_jobs_go_to_the_documents()
     {
-        if (!QPrinterInfo::defaultPrinter().isNull())
-            QSKIP("this machine has a printer");
+        QVERIFY(QPrinterInfo::defaultPrinter().isNull()); // the tests see none, whatever the machine has
         Printer.PrintTo({});
         const QString file = NextJobFile(DocumentsFolder());
         Printer.Print(QStringLiteral("A line"));

@@ -15,6 +15,8 @@ MAIN_TITLE = "The Torvik Vollandry    2001"
 SPLASH_TITLE = "The Torvik Vollandry 2001"
 BOX_TITLE = "The Torvik Vollandry"
 
+NO_PRINTERS = "127.0.0.1:9"  # nobody answers there, so nothing is ever printed on paper
+
 
 def executable():
     """The program that is to be driven: TORVIK2001 names it, else it is the one in build/."""
@@ -43,7 +45,8 @@ class Program:
         self.home = home
         self._scale = scale
         home.mkdir(exist_ok=True)
-        surroundings = {**screen.environment, **home_variables(home), "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+        surroundings = {**screen.environment, **home_variables(home), "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+                        "CUPS_SERVER": NO_PRINTERS}
         if scale != 1:
             surroundings["QT_SCALE_FACTOR"] = str(scale)
         self._process = subprocess.Popen(
