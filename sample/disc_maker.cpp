@@ -3,6 +3,8 @@
 #include "captions.h"
 #include "in_parallel.h"
 #include "jpeg_file.h"
+#include "movies/cards.h"
+#include "movies/movie_plan.h"
 #include "photographer.h"
 #include "slide_show_art.h"
 #include "sounds/effects.h"
@@ -76,6 +78,12 @@ void MakeSounds(const QString& disc)
     });
 }
 
+void MakeMovies(const QString& disc)
+{
+    for (const MoviePlan& plan : Movies())
+        WriteFile(disc + QStringLiteral("/movies/") + QLatin1String(plan.file), MakeMovie(plan));
+}
+
 void MakePassBySound(const QString& program)
 {
     WriteFile(program + QStringLiteral("/passby.wav"), EffectNamed("passby.wav"));
@@ -86,6 +94,7 @@ void MakeAssets(const QString& folder)
     WritePng(folder + QStringLiteral("/splash.png"), PaintSplash(1));
     WritePng(folder + QStringLiteral("/splash@2x.png"), PaintSplash(2));
     WritePng(folder + QStringLiteral("/icon.png"), PaintIcon(256));
+    WritePng(folder + QStringLiteral("/movie_opening.png"), PaintMovieOpening({320, 217}));
     WriteFile(folder + QStringLiteral("/slide_show.jpg"), JpegBytes(PaintSlideShow({1568, 972}), 88));
 }
 

@@ -15,6 +15,8 @@ void MakeCaptions(const QString& disc);
 void MakeOpeningPicture(const QString& disc, const QString& program);
 /// "wav": the sound effects.
 void MakeSounds(const QString& disc);
+/// "movies": five of them.
+void MakeMovies(const QString& disc);
 /// "passby.wav" in the program folder.
 void MakePassBySound(const QString& program);
 /// The artwork that the program itself carries.

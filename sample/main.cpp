@@ -35,6 +35,7 @@ const std::vector<Part>& Parts()
         {"ads", [](const QString& disc, const QString&) { MakeAds(disc); }},
         {"booklet", [](const QString& disc, const QString&) { MakeBookletArt(disc); }},
         {"sounds", [](const QString& disc, const QString&) { MakeSounds(disc); }},
+        {"movies", [](const QString& disc, const QString&) { MakeMovies(disc); }},
         {"passby", [](const QString&, const QString& program) { MakePassBySound(program); }},
     };
     return parts;

@@ -60,7 +60,9 @@ QImage PaintScenery(const Scenery& scenery, const Camera& camera, QSize size)
     sky.bandHeight = 0;
     sky.lamps = nullptr;
     sky.shadow = nullptr;
-    sky.Prepare();
+    // A small picture looks into fewer directions than the sky would be reckoned for.
+    if (width * horizon > 50000)
+        sky.Prepare();
     // The sky is smooth: every second pixel of every second row is computed, the rest repeats it.
     for (int y = 0; y < horizon; y += 2) {
         auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "../curve.h"
+#include "../sounds/sound.h"
+#include "cards.h"
+#include "stage.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace torvik::sample {
+
+/// A piece of a movie between two cuts.
+struct Shot {
+    double seconds;
+    std::function<Look(double seconds)> look; ///< where the camera is after so many seconds of the shot
+};
+
+/// One of the movies of the disc: a title card, shots of one car in one place, an end card.
+struct MoviePlan {
+    const char* file;
+    Card title;
+    Card end;
+    std::function<std::unique_ptr<Stage>()> stage;
+    std::vector<Shot> shots;
+    std::function<Sound(double seconds)> sound; ///< for the whole movie; the cards are part of it
+
+    /// Seconds from the first frame of the title to the last of the end card.
+    double Seconds() const;
+};
+
+constexpr QSize kMovieSize{320, 240};
+constexpr int kFramesPerSecond = 12;
+constexpr double kTitleSeconds = 1.75;
+constexpr double kEndSeconds = 1.5;
+
+const std::vector<MoviePlan>& Movies();
+/// The whole file.
+QByteArray MakeMovie(const MoviePlan& plan);
+
+/// The sound tracks; time counts from the beginning of the title.
+Sound VolcanoSound(double seconds);
+Sound OpenRoadSound(double seconds);
+Sound GliderSound(double seconds);
+Sound ShadowsSound(double seconds);
+Sound RockSound(double seconds);
+
+} // namespace torvik::sample
