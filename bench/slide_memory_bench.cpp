@@ -25,7 +25,7 @@ bool MakePhotos(const QString& folder)
 {
     QDir().mkpath(folder);
     for (int number = 0; number < photoCount; ++number) {
-        const auto file = [&](int of) {
+        const auto file = [&](int of) -> QString {
             return folder + QStringLiteral("/%1TOR%2.JPG").arg(67 + of / 30).arg(of, 3, 10, QLatin1Char('0'));
         };
         if (number < differentPhotos) {
