@@ -111,7 +111,7 @@ const std::vector<MoviePlan>& Movies()
          {Text("The Q44 package"), Text("\"Shadows\""), Text("When the sun goes, it comes"),
           QColor(54, 34, 70)},
          EndCard("Good night, and dip your lamps", QColor(54, 34, 70)),
-         CarIn(1970, 5, Trim::Stripe::Rocker, LongShadows(), true),
+         CarIn(1970, 6, Trim::Stripe::Rocker, LongShadows(), true),
          {Tracking(3.75, {-6.8, -2.2, 0.55}, {-5.2, -4.2, 0.9}, 44, -20, 8),
           Tracking(3.25, {-2.6, -4.6, 0.5}, {2.6, -4.8, 0.7}, 34, -10, 10),
           Roadside(3.25, 1.6, 5.0, 1.0, 38, 13)},
