@@ -47,4 +47,10 @@ qsizetype OpenFile::Read(char* target, qsizetype room)
     }
 }
 
+void OpenFile::SeekTo(qint64 place)
+{
+    if (lseek(descriptor_, static_cast<off_t>(place), SEEK_SET) < 0)
+        Fail(FailureOfSystem(errno, path_));
+}
+
 } // namespace torvik

@@ -19,6 +19,8 @@ public:
     qint64 Length() const { return length_; }
     /// Reads up to `room` bytes; returns how many came, 0 at the end.
     qsizetype Read(char* target, qsizetype room);
+    /// Reads on from a byte, counted from 0; one behind the end is followed by nothing.
+    void SeekTo(qint64 place);
 
 private:
     [[noreturn]] void CloseAndFail(int number);

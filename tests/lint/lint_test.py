@@ -31,10 +31,12 @@ class LintTest(unittest.TestCase):
     def assert_clean(self, files):
         self.assertEqual(self.offences(files), [])
 
-    def test_platform_and_rtf_include_no_other_room(self):
+    def test_the_lowest_rooms_include_no_other_room(self):
         self.assert_caught("src/platform/a.cpp", '#include "ui/form.h"\n', "platform may not include ui")
         self.assert_caught("src/platform/a.cpp", '#include "rtf/a.h"\n', "platform may not include rtf")
         self.assert_caught("src/rtf/a.cpp", '#include "platform/text.h"\n', "rtf may not include platform")
+        self.assert_caught("src/av/a.cpp", '#include "ui/form.h"\n', "av may not include ui")
+        self.assert_caught("src/av/a.cpp", "#include <QWidget>\n", "av may not include <QWidget>")
 
     def test_ui_includes_no_subsystem(self):
         self.assert_caught("src/ui/a.cpp", '\n#include "shell/form1.h"\n', "ui may not include shell")

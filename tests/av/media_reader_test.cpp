@@ -1,0 +1,291 @@
+#include "av/media_reader.h"
+#include "bytes_in_memory.h"
+#include "support/test_movie.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <cmath>
+
+using namespace torvik;
+
+namespace {
+
+/// Everything that a file holds, read from where the reader stands.
+struct Contents {
+    QList<MediaPicture> Pictures;
+    QByteArray Sound;
+    qint64 SoundFrom = -1;
+    int Pieces = 0;
+};
+
+Contents ReadAll(MediaReader& reader)
+{
+    constexpr int tooMany = 100'000;
+    Contents contents;
+    for (; contents.Pieces < tooMany; ++contents.Pieces) {
+        MediaReader::Piece piece = reader.Next();
+        if (std::holds_alternative<MediaReader::End>(piece))
+            break;
+        if (auto* picture = std::get_if<MediaPicture>(&piece)) {
+            contents.Pictures.append(*picture);
+        } else {
+            const auto& samples = std::get<MediaSamples>(piece);
+            if (contents.SoundFrom < 0)
+                contents.SoundFrom = samples.Time;
+            contents.Sound += samples.Bytes;
+        }
+    }
+    return contents;
+}
+
+std::unique_ptr<MediaReader> Reader(const QByteArray& bytes)
+{
+    return MediaReader::Open(std::make_unique<BytesInMemory>(bytes), SoundFormat());
+}
+
+/// The sound's left channel: how loud it is (0 to 1) and how often it swings in a second.
+struct Heard {
+    double Loudness = 0;
+    double Hertz = 0;
+    double Seconds = 0;
+};
+
+Heard Listen(const QByteArray& sound)
+{
+    const SoundFormat format;
+    const auto* samples = reinterpret_cast<const qint16*>(sound.constData());
+    const qsizetype count = sound.size() / format.BytesPerFrame();
+    Heard heard;
+    double sum = 0;
+    int swings = 0;
+    bool high = false;
+    for (qsizetype index = 0; index < count; ++index) {
+        constexpr double clear = 0.1; // what codecs add is smaller
+        const double value = samples[index * format.Channels] / 32768.0;
+        sum += value * value;
+        if (!high && value > clear)
+            ++swings;
+        high = high ? value > -clear : value > clear;
+    }
+    heard.Seconds = static_cast<double>(count) / format.Rate;
+    heard.Loudness = count > 0 ? std::sqrt(sum / static_cast<double>(count)) : 0;
+    heard.Hertz = heard.Seconds > 0 ? swings / heard.Seconds : 0;
+    return heard;
+}
+
+void CheckTone(const QByteArray& sound)
+{
+    const Heard heard = Listen(sound);
+    QVERIFY2(std::abs(heard.Seconds - 2) < 0.15, qPrintable(QString::number(heard.Seconds)));
+    QVERIFY2(heard.Loudness > 0.1, qPrintable(QString::number(heard.Loudness)));
+    QVERIFY2(std::abs(heard.Hertz - 440) < 15, qPrintable(QString::number(heard.Hertz)));
+}
+
+void CheckBars(const QImage& image)
+{
+    QCOMPARE(image.size(), QSize(TestMovie::width, TestMovie::height));
+    const int barWidth = TestMovie::width / static_cast<int>(TestMovie::Bars().size());
+    for (int bar = 0; bar < TestMovie::Bars().size(); ++bar) {
+        const QColor seen = image.pixelColor(bar * barWidth + barWidth / 2, TestMovie::height / 4);
+        const QColor wanted = TestMovie::Bars()[bar];
+        const bool near = std::abs(seen.red() - wanted.red()) < 24 &&
+                          std::abs(seen.green() - wanted.green()) < 24 &&
+                          std::abs(seen.blue() - wanted.blue()) < 24;
+        QVERIFY2(
+            near,
+            qPrintable(QStringLiteral("bar %1 is %2 and not %3").arg(bar).arg(seen.name(), wanted.name())));
+    }
+}
+
+QStringList Codecs(const char* picture, const char* sound)
+{
+    return {QStringLiteral("-c:v"), QString::fromLatin1(picture), QStringLiteral("-q:v"),
+            QStringLiteral("2"),    QStringLiteral("-c:a"),       QString::fromLatin1(sound)};
+}
+
+} // namespace
+
+/// Movies and sounds in the formats that discs of the time hold.
+class MediaReaderTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_movie_gives_all_its_pictures_in_their_colours_and_its_sound_data()
+    {
+        QTest::addColumn<QStringList>("codecs");
+        QTest::newRow("Motion JPEG, PCM of 16 bits") << Codecs("mjpeg", "pcm_s16le");
+        QTest::newRow("Motion JPEG, PCM of 8 bits") << Codecs("mjpeg", "pcm_u8");
+        QTest::newRow("Cinepak, IMA ADPCM") << Codecs("cinepak", "adpcm_ima_wav");
+        QTest::newRow("Microsoft Video 1, Microsoft ADPCM") << Codecs("msvideo1", "adpcm_ms");
+        QTest::newRow("plain pictures of 24 bits")
+            << Codecs("rawvideo", "pcm_s16le") +
+                   QStringList{QStringLiteral("-pix_fmt"), QStringLiteral("bgr24")};
+        QTest::newRow("plain pictures with a palette")
+            << Codecs("rawvideo", "pcm_s16le") +
+                   QStringList{QStringLiteral("-pix_fmt"), QStringLiteral("pal8")};
+    }
+    void a_movie_gives_all_its_pictures_in_their_colours_and_its_sound()
+    {
+        QFETCH(const QStringList, codecs);
+        const auto reader = Reader(TestMovie::Avi(codecs));
+        QVERIFY(reader != nullptr);
+        QVERIFY(reader->Info().HasPictures);
+        QVERIFY(reader->Info().HasSound);
+        QVERIFY(std::abs(reader->Info().Duration - 2'000'000) < 100'000);
+        QVERIFY(std::abs(reader->Info().FrameDuration - TestMovie::pictureDuration) <= 1);
+        const Contents contents = ReadAll(*reader);
+        QCOMPARE(contents.Pictures.size(), TestMovie::pictures);
+        for (int index = 0; index < contents.Pictures.size(); ++index)
+            QVERIFY(std::abs(contents.Pictures[index].Time - index * 2'000'000LL / TestMovie::pictures) <
+                    1000);
+        CheckBars(contents.Pictures.first().Image);
+        CheckBars(contents.Pictures.last().Image);
+        QVERIFY(contents.Pictures.first().Image != contents.Pictures.last().Image);
+        CheckTone(contents.Sound);
+    }
+
+    void run_length_coded_pictures_have_the_colours_of_their_palette()
+    {
+        const auto reader = Reader(TestMovie::RunLengthAvi());
+        QVERIFY(reader != nullptr);
+        QVERIFY(!reader->Info().HasSound);
+        const Contents contents = ReadAll(*reader);
+        QCOMPARE(contents.Pictures.size(), TestMovie::pictures);
+        CheckBars(contents.Pictures.first().Image);
+        CheckBars(contents.Pictures.last().Image);
+    }
+
+    void a_sound_is_heard_whole_data()
+    {
+        QTest::addColumn<QString>("codec");
+        QTest::addColumn<int>("rate");
+        QTest::addColumn<int>("channels");
+        QTest::newRow("8 bits, mono") << QStringLiteral("pcm_u8") << 11025 << 1;
+        QTest::newRow("8 bits, stereo") << QStringLiteral("pcm_u8") << 22050 << 2;
+        QTest::newRow("16 bits, mono") << QStringLiteral("pcm_s16le") << 22050 << 1;
+        QTest::newRow("16 bits, stereo") << QStringLiteral("pcm_s16le") << 44100 << 2;
+        QTest::newRow("IMA ADPCM, mono") << QStringLiteral("adpcm_ima_wav") << 22050 << 1;
+        QTest::newRow("IMA ADPCM, stereo") << QStringLiteral("adpcm_ima_wav") << 22050 << 2;
+        QTest::newRow("Microsoft ADPCM, mono") << QStringLiteral("adpcm_ms") << 22050 << 1;
+        QTest::newRow("Microsoft ADPCM, stereo") << QStringLiteral("adpcm_ms") << 22050 << 2;
+        QTest::newRow("GSM") << QStringLiteral("libgsm_ms") << 8000 << 1;
+    }
+    void a_sound_is_heard_whole()
+    {
+        QFETCH(const QString, codec);
+        QFETCH(const int, rate);
+        QFETCH(const int, channels);
+        const auto reader = Reader(TestMovie::Wav(codec, rate, channels));
+        QVERIFY(reader != nullptr);
+        QVERIFY(!reader->Info().HasPictures);
+        QVERIFY(reader->Info().HasSound);
+        CheckTone(ReadAll(*reader).Sound);
+    }
+
+    void samples_come_in_the_format_that_is_wanted()
+    {
+        const SoundFormat wanted{8000, 1, SoundFormat::Sample::Float};
+        const auto reader = MediaReader::Open(std::make_unique<BytesInMemory>(TestMovie::Wav()), wanted);
+        QVERIFY(reader != nullptr);
+        const QByteArray sound = ReadAll(*reader).Sound;
+        QVERIFY(std::abs(static_cast<double>(sound.size()) / wanted.BytesPerSecond() - 2) < 0.1);
+        const auto* samples = reinterpret_cast<const float*>(sound.constData());
+        const float loudest = *std::max_element(samples, samples + sound.size() / 4);
+        QVERIFY(loudest > 0.3F && loudest <= 1.0F);
+    }
+
+    void a_place_is_found_to_the_picture_data()
+    {
+        QTest::addColumn<QStringList>("codecs");
+        QTest::newRow("each picture by itself") << Codecs("mjpeg", "pcm_s16le");
+        QTest::newRow("pictures that follow from others")
+            << Codecs("cinepak", "pcm_s16le") + QStringList{QStringLiteral("-g"), QStringLiteral("30")};
+    }
+    void a_place_is_found_to_the_picture()
+    {
+        QFETCH(const QStringList, codecs);
+        const auto reader = Reader(TestMovie::Avi(codecs));
+        QVERIFY(reader != nullptr);
+        const Contents whole = ReadAll(*reader);
+        for (const int picture : {20, 7, 0, 29, 8}) {
+            const qint64 begin = whole.Pictures[picture].Time;
+            for (const qint64 within : {0LL, TestMovie::pictureDuration / 2}) {
+                reader->Seek(begin + within);
+                const Contents rest = ReadAll(*reader);
+                QCOMPARE(rest.Pictures.size(), TestMovie::pictures - picture);
+                QCOMPARE(rest.Pictures.first().Time, begin);
+                QCOMPARE(rest.Pictures.first().Image, whole.Pictures[picture].Image);
+                QVERIFY(std::abs(rest.SoundFrom - (begin + within)) < 3000);
+            }
+        }
+    }
+
+    void behind_the_end_stands_the_last_picture()
+    {
+        const auto reader = Reader(TestMovie::Avi());
+        const Contents whole = ReadAll(*reader);
+        for (const qint64 place : {2'000'000LL, 90'000'000LL}) {
+            reader->Seek(place);
+            const Contents rest = ReadAll(*reader);
+            QCOMPARE(rest.Pictures.size(), 1);
+            QCOMPARE(rest.Pictures.first().Time, whole.Pictures.last().Time);
+            QVERIFY(rest.Sound.isEmpty());
+        }
+        reader->Seek(-5);
+        QCOMPARE(ReadAll(*reader).Pictures.size(), TestMovie::pictures);
+    }
+
+    void what_is_no_movie_is_refused_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("text") << QByteArray("There is no movie here.\n").repeated(200);
+        QTest::newRow("zeros") << QByteArray(20'000, '\0');
+        QTest::newRow("head alone") << TestMovie::Avi().left(300);
+        QTest::newRow("a play list") << QByteArray(
+            "#EXTM3U\n#EXT-X-TARGETDURATION:9\n#EXTINF:9,\n/etc/passwd\n");
+        QTest::newRow("a list of files") << QByteArray("ffconcat version 1.0\nfile /etc/passwd\n");
+        QTest::newRow("a picture") << QByteArray::fromHex("ffd8ffe000104a46494600010100000100010000ffd9");
+    }
+    void what_is_no_movie_is_refused()
+    {
+        QFETCH(const QByteArray, bytes);
+        QVERIFY(Reader(bytes) == nullptr);
+        QVERIFY(MediaReader::Open(nullptr, SoundFormat()) == nullptr);
+    }
+
+    void a_movie_that_ends_early_gives_what_it_has()
+    {
+        const QByteArray whole = TestMovie::Avi();
+        const auto reader = Reader(whole.left(whole.size() / 2));
+        QVERIFY(reader != nullptr);
+        const Contents contents = ReadAll(*reader);
+        QVERIFY(contents.Pictures.size() > 5);
+        QVERIFY(contents.Pictures.size() < TestMovie::pictures);
+    }
+
+    void damage_anywhere_never_keeps_it_from_ending()
+    {
+        QRandomGenerator random(1967);
+        for (const QByteArray& whole :
+             {TestMovie::Avi(), TestMovie::Avi(Codecs("cinepak", "adpcm_ima_wav")),
+              TestMovie::Avi(Codecs("msvideo1", "adpcm_ms")), TestMovie::RunLengthAvi(), TestMovie::Wav()}) {
+            for (int round = 0; round < 12; ++round) {
+                QByteArray damaged = whole;
+                const int reach = round % 2 == 0 ? 600 : static_cast<int>(damaged.size());
+                for (int hit = 0; hit < 20; ++hit)
+                    damaged[random.bounded(reach)] = static_cast<char>(random.bounded(256));
+                const auto reader = Reader(damaged);
+                if (reader == nullptr)
+                    continue;
+                QVERIFY(ReadAll(*reader).Pieces < 100'000);
+                reader->Seek(1'000'000);
+                QVERIFY(ReadAll(*reader).Pieces < 100'000);
+            }
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(MediaReaderTest)
+#include "media_reader_test.moc"
