@@ -16,7 +16,7 @@ namespace {
 
 QApplication* MakeApplication(int& argc, char** argv)
 {
-    // The media back end answers at once and needs no second process; a choice of the user's own wins.
+    // Only asked for the sound devices, and it answers at once; a choice of the user's own wins.
     SetEnvironmentDefault("QT_MEDIA_BACKEND", "ffmpeg");
     return new QApplication(argc, argv);
 }

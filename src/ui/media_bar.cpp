@@ -107,6 +107,12 @@ Event<>& MediaBar::ButtonClick(MediaButton button)
     return clicks_.at(static_cast<size_t>(button));
 }
 
+void MediaBar::SetFoot(int pixels)
+{
+    foot_ = pixels;
+    SizeChanged();
+}
+
 void MediaBar::SizeChanged()
 {
     std::vector<MediaBarButton*> row;
@@ -119,7 +125,7 @@ void MediaBar::SizeChanged()
     int left = 0;
     for (size_t place = 0; place < row.size(); ++place) {
         const int right = static_cast<int>(std::lround(share * static_cast<double>(place + 1)));
-        row[place]->setGeometry(left, 0, right - left, size.height());
+        row[place]->setGeometry(left, 0, right - left, size.height() - foot_);
         left = right;
     }
 }

@@ -33,6 +33,8 @@ public:
 protected:
     void SizeChanged() override;
     bool ClicksByMouse() const override { return false; }
+    /// Keeps the lowest pixels of the bar free of buttons, for what else a bar shows.
+    void SetFoot(int pixels);
 
 private:
     MediaBarButton* MakeButton(MediaButton button);
@@ -41,6 +43,7 @@ private:
 
     std::array<MediaBarButton*, mediaButtonCount> buttons_{};
     std::array<Event<>, mediaButtonCount> clicks_;
+    int foot_ = 0;
 };
 
 } // namespace torvik

@@ -1,35 +1,52 @@
 #include "picture_bytes.h"
 #include "platform/failure.h"
+#include "support/test_movie.h"
+#include "ui/clock.h"
+#include "ui/image.h"
 #include "ui/media_control.h"
+#include "ui/video_pane.h"
+#include "ui_room.h"
 
-#include <QGuiApplication>
-#include <QTest>
+#include <QElapsedTimer>
 
 using namespace torvik;
 
 namespace {
 
-/// Half a second of silence.
+using Mode = MediaControl::Mode;
+
+struct ScreenForm : Form {
+    ScreenForm() : Form(DesignOf(QStringLiteral("Cinema"))) {}
+    Image PicMovie{*this, QStringLiteral("PicMovie"), {0, 0, 2400, 1800}}; // 160 by 120 pixels
+    Image Other{*this, QStringLiteral("Other"), {2400, 0, 2400, 900}};     // 160 by 60
+    MediaControl Device{QStringLiteral("MMControl1")};
+};
+
+FormHandle<ScreenForm> Cinema;
+
+/// The pane with the movie's pictures on a control; null while there is none on show.
+VideoPane* PaneOn(const Control& control)
+{
+    auto* pane = dynamic_cast<VideoPane*>(
+        control.Widget().findChild<QWidget*>(control.Name() + QStringLiteral("(Video)")));
+    return pane == nullptr || pane->isHidden() ? nullptr : pane;
+}
+
+QImage Shown()
+{
+    const VideoPane* pane = PaneOn(Cinema->PicMovie);
+    return pane == nullptr ? QImage() : pane->Picture();
+}
+
+void Do(std::initializer_list<const char*> words)
+{
+    for (const char* word : words)
+        Cinema->Device.Command(QString::fromLatin1(word));
+}
+
 QByteArray Wave()
 {
-    constexpr quint32 rate = 8000;
-    constexpr quint32 size = rate / 2;
-    QByteArray bytes = "RIFF\0\0\0\0WAVEfmt ";
-    bytes.resize(44 + static_cast<int>(size));
-    std::fill(bytes.begin() + 44, bytes.end(), '\x80');
-    std::copy_n("RIFF", 4, bytes.begin());
-    qToLittleEndian<quint32>(36 + size, bytes.data() + 4);
-    std::copy_n("WAVEfmt ", 8, bytes.begin() + 8);
-    qToLittleEndian<quint32>(16, bytes.data() + 16);
-    qToLittleEndian<quint16>(1, bytes.data() + 20);
-    qToLittleEndian<quint16>(1, bytes.data() + 22);
-    qToLittleEndian<quint32>(rate, bytes.data() + 24);
-    qToLittleEndian<quint32>(rate, bytes.data() + 28);
-    qToLittleEndian<quint16>(1, bytes.data() + 32);
-    qToLittleEndian<quint16>(8, bytes.data() + 34);
-    std::copy_n("data", 4, bytes.begin() + 36);
-    qToLittleEndian<quint32>(size, bytes.data() + 40);
-    return bytes;
+    return TestMovie::Wav();
 }
 
 } // namespace
@@ -39,6 +56,317 @@ class MediaControlTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init()
+    {
+        room_ = std::make_unique<UiRoom>();
+        Clock::StopAt(QDateTime(QDate(2001, 6, 17), QTime(14, 5, 9)));
+        QVERIFY(UiRoom::Open(*Cinema));
+    }
+    void cleanup() { room_.reset(); }
+
+    // Movies
+
+    void an_open_movie_stands_at_its_beginning_and_shows_nothing_yet()
+    {
+        OpenMovie();
+        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(Cinema->Device.Position(), 0);
+        QVERIFY(std::abs(Cinema->Device.Length() - 2000) < 100);
+        Turn(500);
+        QCOMPARE(Cinema->Device.Position(), 0);
+        QVERIFY(Shown().isNull());
+    }
+
+    void a_playing_movie_shows_its_pictures_at_their_time_and_ends()
+    {
+        OpenMovie();
+        Do({"play"});
+        QCOMPARE(Cinema->Device.State(), Mode::Playing);
+        QTRY_VERIFY(!Shown().isNull());
+        const QImage first = Shown();
+        QCOMPARE(first.size(), QSize(TestMovie::width, TestMovie::height));
+        Turn(1000);
+        QTRY_COMPARE(Cinema->Device.Position(), 1000);
+        QTRY_VERIFY(Shown() != first);
+        Turn(1500);
+        QTRY_COMPARE(Cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+        Turn(1500);
+        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+    }
+
+    void every_picture_of_a_movie_comes_on_the_screen()
+    {
+        OpenMovie();
+        QList<QImage> seen;
+        Do({"play"});
+        for (int picture = 0; picture < TestMovie::pictures; ++picture) {
+            QTRY_VERIFY2(!Shown().isNull() && (seen.isEmpty() || Shown() != seen.last()),
+                         qPrintable(QString::number(picture)));
+            seen.append(Shown());
+            Clock::Turn(67);
+        }
+        QTRY_COMPARE((Clock::Turn(20), Cinema->Device.State()), Mode::Stopped);
+        QCOMPARE(seen.size(), TestMovie::pictures);
+    }
+
+    void stop_stands_still_and_prev_goes_back_to_the_first_picture()
+    {
+        OpenMovie();
+        Do({"play"});
+        QTRY_VERIFY(!Shown().isNull());
+        const QImage first = Shown();
+        Turn(1000);
+        QTRY_VERIFY(Cinema->Device.Position() == 1000 && Shown() != first);
+        Do({"stop"});
+        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        Turn(700);
+        QCOMPARE(Cinema->Device.Position(), 1000);
+        Do({"prev"});
+        QCOMPARE(Cinema->Device.Position(), 0);
+        QTRY_COMPARE(Shown(), first);
+        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+    }
+
+    void prev_while_it_plays_stops_it_at_the_beginning()
+    {
+        OpenMovie();
+        Do({"play"});
+        QTRY_VERIFY(!Shown().isNull());
+        Turn(500);
+        QTRY_COMPARE(Cinema->Device.Position(), 500);
+        Do({"prev"});
+        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(Cinema->Device.Position(), 0);
+    }
+
+    void pause_holds_the_movie_and_goes_on_with_it()
+    {
+        OpenMovie();
+        Do({"pause"});
+        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        Do({"play"});
+        QTRY_VERIFY(!Shown().isNull());
+        Turn(600);
+        QTRY_COMPARE(Cinema->Device.Position(), 600);
+        Do({"pause"});
+        QCOMPARE(Cinema->Device.State(), Mode::Paused);
+        Turn(400);
+        UiRoom::Settle();
+        QCOMPARE(Cinema->Device.Position(), 600);
+        Do({"pause"});
+        QCOMPARE(Cinema->Device.State(), Mode::Playing);
+        QTRY_VERIFY((Clock::Turn(10), Cinema->Device.Position() > 600));
+        Do({"pause", "play"});
+        QCOMPARE(Cinema->Device.State(), Mode::Playing);
+    }
+
+    void step_and_back_go_one_picture()
+    {
+        OpenMovie();
+        Do({"step"});
+        QTRY_VERIFY(!Shown().isNull());
+        const QImage second = Shown();
+        QVERIFY(std::abs(Cinema->Device.Position() - 67) <= 1);
+        Do({"step"});
+        QTRY_VERIFY(Shown() != second);
+        const QImage third = Shown();
+        QVERIFY(std::abs(Cinema->Device.Position() - 133) <= 1);
+        Do({"back"});
+        QTRY_COMPARE(Shown(), second);
+        Do({"step"});
+        QTRY_COMPARE(Shown(), third);
+        Do({"back"});
+        QTRY_COMPARE(Shown(), second);
+        Do({"back"});
+        QTRY_VERIFY(Shown() != second);
+        QCOMPARE(Cinema->Device.Position(), 0);
+        Do({"back"});
+        UiRoom::Settle();
+        QCOMPARE(Cinema->Device.Position(), 0);
+    }
+
+    void next_goes_to_the_last_picture_and_play_begins_again_from_there()
+    {
+        OpenMovie();
+        Do({"next"});
+        QCOMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+        QTRY_VERIFY(!Shown().isNull());
+        const QImage last = Shown();
+        Do({"step"});
+        UiRoom::Settle();
+        QCOMPARE(Shown(), last);
+        Do({"next", "play"});
+        QTRY_VERIFY(Shown() != last);
+        QCOMPARE(Cinema->Device.State(), Mode::Playing);
+        QVERIFY(Cinema->Device.Position() < 1000);
+    }
+
+    void a_command_given_before_the_file_is_known_is_carried_out_then()
+    {
+        SetMovie();
+        Do({"open", "next"});
+        QTRY_VERIFY(Cinema->Device.Length() > 0);
+        QTRY_COMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+        Do({"open", "play"});
+        QTRY_VERIFY(!Shown().isNull());
+        QCOMPARE(Cinema->Device.State(), Mode::Playing);
+    }
+
+    void a_place_is_sought_while_it_stands_and_while_it_plays()
+    {
+        OpenMovie();
+        Cinema->Device.Seek(1500);
+        QCOMPARE(Cinema->Device.Position(), 1500);
+        QTRY_VERIFY(!Shown().isNull());
+        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        Do({"play"});
+        Cinema->Device.Seek(200);
+        QCOMPARE(Cinema->Device.State(), Mode::Playing);
+        QTRY_VERIFY((Clock::Turn(10), Cinema->Device.Position() > 200));
+        QVERIFY(Cinema->Device.Position() < 1500);
+        Cinema->Device.Seek(-50);
+        QCOMPARE(Cinema->Device.Position(), 0);
+        Cinema->Device.Seek(1'000'000);
+        QCOMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+    }
+
+    void the_display_may_be_given_before_or_after_the_movie_was_opened()
+    {
+        SetMovie();
+        Cinema->Device.SetDisplay(nullptr);
+        Do({"open", "play"});
+        QTRY_VERIFY(Cinema->Device.Length() > 0);
+        Turn(100);
+        QVERIFY(Shown().isNull());
+        Cinema->Device.SetDisplay(&Cinema->PicMovie);
+        QTRY_VERIFY((Clock::Turn(20), !Shown().isNull()));
+    }
+
+    void the_display_may_change_while_pictures_are_on_show()
+    {
+        OpenMovie();
+        Do({"step"});
+        QTRY_VERIFY(!Shown().isNull());
+        const QImage picture = Shown();
+        Cinema->Device.SetDisplay(&Cinema->Other);
+        QVERIFY(PaneOn(Cinema->PicMovie) == nullptr);
+        QVERIFY(PaneOn(Cinema->Other) != nullptr);
+        QCOMPARE(PaneOn(Cinema->Other)->Picture(), picture);
+        QCOMPARE(PaneOn(Cinema->Other)->PlaceOfPicture(), QRect(40, 0, 80, 60));
+        Cinema->Device.SetDisplay(nullptr);
+        QVERIFY(PaneOn(Cinema->Other) == nullptr);
+        Do({"step"});
+        UiRoom::Settle();
+    }
+
+    void close_gives_the_display_back_its_own_picture()
+    {
+        OpenMovie();
+        Do({"play"});
+        QTRY_VERIFY(!Shown().isNull());
+        Do({"close"});
+        QVERIFY(Shown().isNull());
+        QCOMPARE(Cinema->Device.State(), Mode::NotOpen);
+        QCOMPARE(Cinema->Device.Position(), 0);
+        QCOMPARE(Cinema->Device.Length(), 0);
+    }
+
+    void a_sound_device_shows_no_pictures()
+    {
+        OpenMovie();
+        Cinema->Device.SetDeviceType(QStringLiteral("WaveAudio"));
+        Do({"play"});
+        QTRY_VERIFY((Clock::Turn(50), Cinema->Device.Position() > 500));
+        QVERIFY(Shown().isNull());
+    }
+
+    void a_sound_ends_without_an_audio_device()
+    {
+        MediaControl& device = Cinema->Device;
+        device.SetDeviceType(QStringLiteral("WaveAudio"));
+        device.SetFileName(folder_.Add(QStringLiteral("horns.wav"), Wave()));
+        Do({"open", "play"});
+        QTRY_VERIFY(device.Length() > 0);
+        QCOMPARE(device.State(), Mode::Playing);
+        QTRY_COMPARE((Clock::Turn(200), device.State()), Mode::Stopped);
+        QVERIFY(std::abs(device.Position() - 2000) < 100);
+        Do({"step", "back"}); // a sound has no pictures
+        QVERIFY(std::abs(device.Position() - 2000) < 100);
+    }
+
+    void a_movie_whose_file_is_deleted_while_it_plays_goes_on_to_an_end()
+    {
+        OpenMovie();
+        Do({"play"});
+        QTRY_VERIFY(!Shown().isNull());
+        folder_.Remove(QStringLiteral("movie.avi"));
+        QTRY_COMPARE((Clock::Turn(100), Cinema->Device.State()), Mode::Stopped);
+        Do({"prev", "play", "stop", "close", "open", "play"});
+        QTRY_COMPARE(Cinema->Device.State(), Mode::NotOpen);
+        QVERIFY(Cinema->Device.IsOpen());
+    }
+
+    void a_movie_that_ends_early_stops_where_it_ends()
+    {
+        const QByteArray whole = TestMovie::Avi();
+        OpenMovie(whole.left(whole.size() / 2));
+        Do({"play"});
+        QTRY_COMPARE((Clock::Turn(100), Cinema->Device.State()), Mode::Stopped);
+        QVERIFY(Cinema->Device.Position() < 1700);
+        QVERIFY(Cinema->Device.Position() > 300);
+        QCOMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+    }
+
+    void a_file_of_another_kind_is_not_open_soon_after_data()
+    {
+        a_missing_or_damaged_file_stays_silent_data();
+    }
+    void a_file_of_another_kind_is_not_open_soon_after()
+    {
+        QFETCH(const QByteArray, bytes);
+        MediaControl& device = Cinema->Device;
+        device.SetFileName(bytes.isEmpty() ? folder_.PathOf(QStringLiteral("none.avi"))
+                                           : folder_.Add(QStringLiteral("damaged.avi"), bytes.left(60)));
+        Do({"open", "play"});
+        QTRY_COMPARE((Clock::Turn(100), device.State()), Mode::NotOpen);
+        Do({"play", "pause", "stop", "prev", "next", "back", "step"});
+        QCOMPARE(device.State(), Mode::NotOpen);
+    }
+
+    void what_changes_is_told()
+    {
+        int told = 0;
+        Cinema->Device.Changed = [&told] { ++told; };
+        OpenMovie();
+        QVERIFY(told >= 2);
+        const int before = told;
+        Do({"play"});
+        QVERIFY(told > before);
+        QTRY_VERIFY((Clock::Turn(100), Cinema->Device.State() == Mode::Stopped));
+        QVERIFY(told > before + 2);
+    }
+
+    void the_flags_are_kept_as_they_are_set()
+    {
+        MediaControl& device = Cinema->Device;
+        device.Notify = device.Shareable = false;
+        device.Wait = true;
+        Do({"open"});
+        QVERIFY(device.Wait && !device.Notify && !device.Shareable);
+    }
+
+    void opening_does_not_keep_the_window_waiting()
+    {
+        SetMovie();
+        QElapsedTimer taken;
+        taken.start();
+        Do({"close", "open", "play", "stop", "prev", "close"});
+        QVERIFY2(taken.elapsed() < 1000, qPrintable(QString::number(taken.elapsed())));
+    }
+
+    // Any device
+
     void it_is_open_between_open_and_close()
     {
         MediaControl device(QStringLiteral("MMControl1"));
@@ -59,7 +387,9 @@ private Q_SLOTS:
         MediaControl device(QStringLiteral("MMControl1"));
         device.SetFileName(folder_.Add(QStringLiteral("horns.wav"), Wave()));
         for (const char* word :
-             {"play", "CLOSE", "Close", "OPEN", "Open", "Play", "PLAY", "close", "play", "close"})
+             {"play", "stop", "prev", "next",  "back",  "step", "pause", "CLOSE", "Close", "OPEN",
+              "Open", "Play", "PLAY", "pause", "Pause", "back", "BACK",  "step",  "next",  "next",
+              "prev", "Prev", "stop", "Stop",  "open",  "stop", "close", "play",  "close"})
             device.Command(QString::fromLatin1(word));
         QVERIFY(!device.IsOpen());
     }
@@ -133,14 +463,29 @@ private Q_SLOTS:
     }
 
 private:
+    void SetMovie(const QByteArray& bytes = TestMovie::Avi())
+    {
+        Cinema->Device.SetDeviceType(QStringLiteral("AVIVideo"));
+        Cinema->Device.SetFileName(folder_.Add(QStringLiteral("movie.avi"), bytes));
+        Cinema->Device.SetDisplay(&Cinema->PicMovie);
+    }
+    void OpenMovie(const QByteArray& bytes = TestMovie::Avi())
+    {
+        SetMovie(bytes);
+        Do({"open"});
+        QTRY_VERIFY(Cinema->Device.Length() > 0);
+    }
+    /// Lets the movie begin, then time pass.
+    static void Turn(int milliseconds)
+    {
+        UiRoom::Settle();
+        Clock::Turn(milliseconds);
+        UiRoom::Settle();
+    }
+
     PictureFolder folder_;
+    std::unique_ptr<UiRoom> room_;
 };
 
-int main(int argc, char** argv)
-{
-    qputenv("QT_MEDIA_BACKEND", "ffmpeg"); // what the program chooses
-    QGuiApplication application(argc, argv);
-    MediaControlTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(MediaControlTest)
 #include "media_control_test.moc"

@@ -78,6 +78,11 @@ public:
             qFatal("cannot write a picture");
         return PathOf(name);
     }
+    void Remove(const QString& name)
+    {
+        if (!QFile::remove(folder_.filePath(name)))
+            qFatal("cannot remove a file");
+    }
     /// The drive path of a file.
     QString PathOf(const QString& name) const
     {
