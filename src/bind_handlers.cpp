@@ -13,12 +13,16 @@
 #include "documents/year_statistics.h"
 #include "local/copy_panel.h"
 #include "local/play_list_form.h"
+#include "local/remove_copies.h"
 #include "local/saver_installation.h"
+#include "media/driver_offer.h"
+#include "media/movie_player.h"
+#include "media/sound_effects.h"
 #include "printing/booklet_panel.h"
 #include "printing/print_commands.h"
-#include "local/remove_copies.h"
 #include "shell/form1_life.h"
 #include "shell/start_up.h"
+#include "slides/zoom_viewer.h"
 #include "utilities/about_box.h"
 #include "utilities/display_check.h"
 #include "utilities/help_contents.h"
@@ -62,6 +66,9 @@ void BindHandlers()
     BindSlideClock();
     BindSlideFocus();
     BindSlideExit();
+    BindSoundEffects();
+    BindMoviePlayer();
+    BindDriverOffer();
     BindTaskBarToggle();
     BindDisplayCheck();
     BindSystemInformation();

@@ -100,9 +100,12 @@ class Screen:
 
     def colour_at(self, x, y):
         """Red, green and blue, 0 to 255."""
-        pixel = subprocess.run([*self._picture_of(x, y, 1, 1), "-depth", "8", "rgb:-"], env=self.environment,
-                               stdin=subprocess.DEVNULL, capture_output=True, check=True).stdout
-        return tuple(pixel[:3])
+        return tuple(self.pixels(x, y, 1, 1)[:3])
+
+    def pixels(self, left, top, width, height):
+        """A part of the screen as bytes, three to each pixel."""
+        return subprocess.run([*self._picture_of(left, top, width, height), "-depth", "8", "rgb:-"], env=self.environment,
+                              stdin=subprocess.DEVNULL, capture_output=True, check=True).stdout
 
     def count_colours(self, left, top, width, height):
         return int(self._run(*self._picture_of(left, top, width, height), "-format", "%k", "info:-"))

@@ -1,0 +1,160 @@
+#include "media/movie_player.h"
+
+#include "browser/next_year_button.h"
+#include "media/driver_offer.h"
+#include "media/frm_movie.h"
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/program_folder.h"
+#include "shell/form1.h"
+#include "shell/program_state.h"
+#include "shell/report_error.h"
+#include "ui/screen.h"
+
+#include <iterator>
+
+namespace torvik {
+
+namespace {
+
+constexpr double pictureHeight = 3255; // twips
+
+struct Movie {
+    const char* File;
+    const char* Title;
+};
+
+/// By the index of optMovie. The sixth option has no movie, and there are no options for the last two.
+constexpr Movie movies[] = {
+    {"Torvik67.avi", "Torvik Movies - The 1967 Torvik"},
+    {"Torvik69.avi", "Torvik Movies - The 1969 Torvik"},
+    {"TheSuperGlider.avi", "Torvik Movies - The Super Glider"},
+    {"Q44.avi", "Torvik Movies - Q44"},
+    {"RocknRoll.avi", "Torvik Movies - Rock and Roll"},
+    {"", "Torvik Movies - xxxx"},
+    {"", "Torvik Movies - 1968 Commercial"},
+    {"", "Torvik Movies - 1967 Commercial"},
+};
+
+void mnuMovies_Click()
+{
+    const QString copied = ProgramFolder() + QStringLiteral("\\movies\\");
+    QString found;
+    const int error = ResumeNext([&] { found = FindFile(copied + QStringLiteral("*.avi")); });
+    state.MovieFolder =
+        found.isEmpty() || error != 0 ? state.DiscRoot + QStringLiteral("\\movies\\") : copied;
+    frmMovie->ShowModal();
+}
+
+void OpenMovie(const QString& path)
+{
+    frmMovie->PicMovie.SetHeight(pictureHeight);
+    MMControl& player = frmMovie->MMControl1;
+    player.Device.Notify = false;
+    player.Device.Wait = true;
+    player.Device.Shareable = false;
+    player.Show();
+    player.Device.Command(QStringLiteral("close"));
+    player.Device.SetDeviceType(QStringLiteral("AVIVideo"));
+    player.Device.SetFileName(path);
+    player.Device.Command(QStringLiteral("open"));
+    Screen.SetMousePointer(MousePointer::Default);
+}
+
+/// The mouse pointer stays an hourglass.
+void ReportMovie()
+{
+    state.ErrorCode = QStringLiteral("ER045");
+    ReportError();
+}
+
+/// Asks the disc for the movie, but the code of the year decides whether it is opened.
+void ChooseMovie(int index)
+{
+    Screen.SetMousePointer(MousePointer::Hourglass);
+    QString path = state.MovieFolder;
+    frmMovie->PicMovie.Show();
+    if (index < static_cast<int>(std::size(movies))) {
+        path += QString::fromLatin1(movies[index].File);
+        frmMovie->SetCaption(QString::fromLatin1(movies[index].Title));
+    }
+    FindFile(path);
+    if (state.YearCode.isEmpty())
+        ReportMovie();
+    else
+        OpenMovie(path);
+}
+
+void optMovie_Click(int index)
+{
+    OnError([index] { ChooseMovie(index); }, ReportMovie);
+}
+
+/// The window of the pictures is given after the first movie was opened.
+void frmMovie_Load()
+{
+    frmMovieControls& form = *frmMovie;
+    form.SetLeft((Screen.Width() - form.Width()) * 0.5);
+    form.SetTop((Screen.Height() - form.Height()) * 0.5);
+    Form1->SetEnabled(false);
+    form.MMControl1.Hide();
+    form.PicMovie.Show();
+    form.optMovie(0).SetValue(true);
+    state.NextYearButton = 0;
+    form.MMControl1.Device.SetDisplay(&form.PicMovie);
+}
+
+/// The device goes with the form, not only when the last of its handlers is done.
+void frmMovie_Unload()
+{
+    frmMovie->MMControl1.Device.Command(QStringLiteral("close"));
+    Form1->SetEnabled(true);
+}
+
+void MMControl1_StopClick()
+{
+    MediaControl& device = frmMovie->MMControl1.Device;
+    device.Command(QStringLiteral("stop"));
+    device.Command(QStringLiteral("prev"));
+}
+
+void SSCommand1_Click()
+{
+    frmMovie.Unload();
+    Form1->SetEnabled(true);
+    FocusNextYearButton();
+}
+
+void SSCommand2_Click()
+{
+    OfferDriver([] {
+        frmMovie.Unload();
+        frmMovie->ShowModal();
+    });
+}
+
+} // namespace
+
+void BindMoviePlayer()
+{
+    Form1.Bind([](Form1Controls& form) { form.mnuMovies.Click = mnuMovies_Click; });
+    frmMovie.Bind([](frmMovieControls& form) {
+        form.Load = frmMovie_Load;
+        form.Unload = frmMovie_Unload;
+        form.optMovie.Each(
+            [](int index, OptionButton& option) { option.Click = [index] { optMovie_Click(index); }; });
+        MMControl& player = form.MMControl1;
+        const auto gives = [&player](const char* command) {
+            const QString word = QString::fromLatin1(command);
+            return [&player, word] { player.Device.Command(word); };
+        };
+        player.ButtonClick(MediaButton::Back) = gives("back");
+        player.ButtonClick(MediaButton::Next) = gives("next");
+        player.ButtonClick(MediaButton::Play) = gives("play");
+        player.ButtonClick(MediaButton::Stop) = MMControl1_StopClick;
+        form.SSCommand1.Click = SSCommand1_Click;
+        form.SSCommand2.Click = SSCommand2_Click;
+    });
+}
+
+} // namespace torvik

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "media/frm_movie.h"
+#include "shell/form1.h"
+#include "support/modal_visit.h"
+#include "support/program.h"
+
+namespace torvik {
+
+/// Chooses Movies from the main menu and does something while the movie player is on the screen; leaves it
+/// afterwards, if it is still there. Returns whether it came.
+template <typename Action>
+bool VisitMovies(Program& program, Action&& action)
+{
+    const ModalVisit visit(
+        [&] {
+            program.Settle();
+            action();
+        },
+        [] { frmMovie.Unload(); });
+    Form1->mnuMovies.Click.Fire();
+    program.Settle();
+    return visit.Ran();
+}
+
+} // namespace torvik
