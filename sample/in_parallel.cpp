@@ -14,15 +14,18 @@ void InParallel(std::size_t count, const std::function<void(std::size_t)>& work)
     std::atomic<std::size_t> next{0};
     std::exception_ptr failure;
     std::mutex guard;
-    const auto run = [&] {
+    const auto call = [&](std::size_t i) {
         try {
-            for (std::size_t i = next++; i < count; i = next++)
-                work(i);
+            work(i);
         } catch (...) {
             const std::lock_guard lock(guard);
             failure = std::current_exception();
             next = count;
         }
+    };
+    const auto run = [&] {
+        for (std::size_t i = next++; i < count; i = next++)
+            std::thread(call, i).join();
     };
     std::vector<std::thread> workers;
     for (unsigned i = 0; i < std::max(1U, std::thread::hardware_concurrency()); ++i)

@@ -8,8 +8,7 @@ namespace torvik::sample {
 
 namespace {
 
-constexpr double kWidth = 1232;  // of a standing page
-constexpr double kHeight = 1600; // of a standing page
+constexpr double kWidth = 1232; // of a standing page
 
 TextLook BodyLook(const AdPage& page, double largest, Qt::Alignment alignment = Qt::AlignJustify)
 {

@@ -115,6 +115,7 @@ const std::vector<PlannedAd>& PlanAds()
 {
     static const std::vector<PlannedAd> ads = [] {
         std::vector<PlannedAd> planned;
+        planned.reserve(kRows.size());
         for (const Row& row : kRows)
             planned.push_back({row.year, row.layout, row.view, row.place, QString::fromLatin1(row.paint),
                                QColor(row.paper), QColor(row.ink), QColor(row.accent), HeadlineOf(row.year),

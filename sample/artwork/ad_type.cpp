@@ -113,6 +113,7 @@ double SetColumns(QPainter& painter, const QStringList& paragraphs, const std::v
 std::vector<QRectF> ColumnsIn(const QRectF& box, int count, double gap)
 {
     std::vector<QRectF> columns;
+    columns.reserve(static_cast<std::size_t>(count));
     const double width = (box.width() - gap * (count - 1)) / count;
     for (int i = 0; i < count; ++i)
         columns.emplace_back(box.left() + i * (width + gap), box.top(), width, box.height());

@@ -10,6 +10,7 @@
 
 #include <QBuffer>
 
+#include <array>
 #include <functional>
 #include <stdexcept>
 
@@ -63,9 +64,11 @@ void MakeAds(const QString& disc)
 void MakeBookletArt(const QString& disc)
 {
     const QString folder = disc + QStringLiteral("/graphics/");
-    WriteFile(folder + QStringLiteral("logo.jpg"), JpegBytes(PaintBookletLogo(), 92));
-    WriteFile(folder + QStringLiteral("bklettxt.jpg"), JpegBytes(PaintBookletTitle(), 92));
-    WriteFile(folder + QStringLiteral("quillon3.bmp"), BmpBytes(PaintPublisherMark()));
+    const std::array<std::function<void()>, 3> pictures = {
+        [&] { WriteFile(folder + QStringLiteral("logo.jpg"), JpegBytes(PaintBookletLogo(), 92)); },
+        [&] { WriteFile(folder + QStringLiteral("bklettxt.jpg"), JpegBytes(PaintBookletTitle(), 92)); },
+        [&] { WriteFile(folder + QStringLiteral("quillon3.bmp"), BmpBytes(PaintPublisherMark())); }};
+    InParallel(pictures.size(), [&](std::size_t i) { pictures[i](); });
 }
 
 } // namespace torvik::sample

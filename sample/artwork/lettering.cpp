@@ -17,7 +17,7 @@ QFont FontOf(const Type& type, double size)
     font.setBold(type.bold);
     font.setItalic(type.italic);
     font.setLetterSpacing(QFont::PercentageSpacing, type.spacing);
-    font.setPixelSize(std::max(1, static_cast<int>(size + 0.5)));
+    font.setPixelSize(std::max(1, qRound(size)));
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

@@ -19,6 +19,17 @@ private Q_SLOTS:
             QCOMPARE(count.load(), 1);
     }
 
+    void each_piece_of_work_begins_on_a_thread_that_nothing_has_been_drawn_on()
+    {
+        std::atomic<int> used = 0;
+        InParallel(40, [&](std::size_t) {
+            thread_local bool fresh = true;
+            used += fresh ? 0 : 1;
+            fresh = false;
+        });
+        QCOMPARE(used.load(), 0);
+    }
+
     void no_work_is_done_at_once()
     {
         bool called = false;
