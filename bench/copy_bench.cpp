@@ -56,14 +56,12 @@ public:
         since_.start();
     }
     double LongestPause() const { return longest_; }
-    int Count() const { return count_; }
 
     bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {
         if (event->type() == QEvent::Paint) {
             longest_ = std::max(longest_, static_cast<double>(since_.nsecsElapsed()) / 1e6);
             since_.restart();
-            ++count_;
         }
         return false;
     }
@@ -71,7 +69,6 @@ public:
 private:
     QElapsedTimer since_;
     double longest_ = 0;
-    int count_ = 0;
 };
 
 double CopyBySystem(const QString& source, const QString& target)
@@ -93,6 +90,8 @@ double CopyByProgram()
 
 int main(int argc, char** argv)
 {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     torvik::Application application(argc, argv);
     torvik::SetMessageResponder([](const torvik::MessageRequest&) { return torvik::msgbox::answerOk; });
     const QTemporaryDir disc;
@@ -109,13 +108,13 @@ int main(int argc, char** argv)
 
     std::vector<double> figures;
     std::vector<double> baselines;
-    double pause = 0;
+    std::vector<double> pauses;
     for (int round = 0; round < rounds; ++round) {
         baselines.push_back(
             CopyBySystem(disc.filePath(QStringLiteral("Torviks")), folder.filePath(QStringLiteral("cp"))));
         const PaintWatch watch(torvik::Form1->ProgressGuage.Widget());
         figures.push_back(CopyByProgram());
-        pause = std::max({pause, watch.LongestPause()});
+        pauses.push_back(watch.LongestPause());
         if (QDir(folder.filePath(QStringLiteral("Torviks"))).count() != photoCount + 2u)
             return 2;
         QDir(folder.filePath(QStringLiteral("cp"))).removeRecursively();
@@ -123,7 +122,7 @@ int main(int argc, char** argv)
     }
     const bool isFast = torvik::bench::Report("copy of 42 MB", "ms", torvik::bench::Median(figures),
                                               torvik::bench::Median(baselines), limit);
-    const bool isAlive =
-        torvik::bench::Report("longest pause between two paints", "ms", pause, longestPause, 1);
+    const bool isAlive = torvik::bench::Report("longest pause between two paints", "ms",
+                                               torvik::bench::Median(pauses), longestPause, 1);
     return isFast && isAlive ? 0 : 1;
 }

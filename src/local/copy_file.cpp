@@ -37,10 +37,11 @@ void Copy(const QString& source, const QString& target, const BlockWise& way)
 {
     const qint64 size = FileLength(source);
     QByteArray buffer(way.BlockSize, ' ');
-    if (IsSameFile(source, target))
-        Fail(failure::pathFileAccess); // replacing it would destroy the source
-    if (FileExists(target))
+    if (FileExists(target)) {
+        if (IsSameFile(source, target))
+            Fail(failure::pathFileAccess); // replacing it would destroy the source
         DeleteFile(target);
+    }
     BinaryInput input(source);
     BinaryOutput output(target);
 

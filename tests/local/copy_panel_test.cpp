@@ -10,6 +10,7 @@
 #include "ui/application.h"
 #include "ui/program_end.h"
 
+#include <QApplication>
 #include <QTest>
 
 using namespace torvik;
@@ -203,6 +204,16 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo::exists(program_->InProgramFolder(QStringLiteral("Torviks"))));
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(!state.CopyForSaver);
+    }
+
+    void the_keyboard_goes_on_working_after_a_copy_and_after_cancel()
+    {
+        Form1->mnuCopy.Click.Fire();
+        program_->Click(Form1->cmdCancel);
+        QVERIFY(QApplication::focusWidget() != nullptr && QApplication::focusWidget()->isVisible());
+        Form1->mnuCopy.Click.Fire();
+        program_->Click(Form1->cmdCopy);
+        QVERIFY(QApplication::focusWidget() != nullptr && QApplication::focusWidget()->isVisible());
     }
 
     void both_buttons_are_off_while_files_move()
