@@ -58,10 +58,12 @@ QString PrinterObject::FileFolder() const
 
 PrinterSetup PrinterObject::Setup() const
 {
-    PrinterSetup setup = chosen_.value_or(PrinterSetup{QPrinterInfo::defaultPrinterName(), {}, {}});
+    PrinterSetup setup = chosen_.value_or(PrinterSetup());
     if (!folder_.isEmpty())
         setup.Name.clear();
-    if (!setup.Paper.isValid())
+    else if (!chosen_)
+        setup.Name = QPrinterInfo::defaultPrinterName();
+    if (!setup.Paper.isValid() && !setup.Name.isEmpty())
         setup.Paper = QPrinterInfo::printerInfo(setup.Name).defaultPageSize();
     if (!setup.Paper.isValid())
         setup.Paper = UsualPaper();

@@ -124,7 +124,7 @@ std::optional<PrinterSetup> Ask(const PrinterSetup& present, const QList<Printer
 
 std::optional<PrinterSetup> AskForPrinter(const PrinterSetup& present, const QList<PrinterOption>& choices)
 {
-    const auto chosen = Responder() ? Responder()(present, choices) : Ask(present, choices);
+    auto chosen = Responder() ? Responder()(present, choices) : Ask(present, choices);
     LeaveIfEnding();
     return chosen;
 }
