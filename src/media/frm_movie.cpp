@@ -18,15 +18,21 @@ FormDesign DesignOfMovie()
     return design;
 }
 
-} // namespace
-
-frmMovieControls::frmMovieControls() : Form(DesignOfMovie())
+ControlArray<OptionButton> MakeOptions(Form& form)
 {
+    ControlArray<OptionButton> options(QStringLiteral("optMovie"));
     for (int index = 0; index < movieOptionCount; ++index) {
         // Without a caption an option is no wider than its ring, so that all of it can be clicked.
         const double width = movieCaptions[index].isEmpty() ? 300 : 2460;
-        optMovie.Add(index, *this, Twips{5580, 240.0 + index * 480, width, 360}, movieCaptions[index]);
+        options.Add(index, form, Twips{5580, 240.0 + index * 480, width, 360}, movieCaptions[index]);
     }
+    return options;
+}
+
+} // namespace
+
+frmMovieControls::frmMovieControls() : Form(DesignOfMovie()), optMovie(MakeOptions(*this))
+{
     PicMovie.Show(Picture::FromResource(QStringLiteral(":/assets/movie_opening.png")));
     HScroll1.Hide(); // belongs to the form but moves nothing
 }

@@ -27,7 +27,7 @@ struct frmMovieControls : Form {
 
     Panel SSPanel1{*this, QStringLiteral("SSPanel1"), {180, 180, 5130, 3585}};
     Image PicMovie{SSPanel1, QStringLiteral("PicMovie"), {165, 165, 4800, 3255}};
-    ControlArray<OptionButton> optMovie{QStringLiteral("optMovie")};
+    ControlArray<OptionButton> optMovie;
     MMControl MMControl1{*this, QStringLiteral("MMControl1"), {180, 3900, 5130, 780}};
     Button SSCommand1{*this, QStringLiteral("SSCommand1"), {5520, 3900, 1200, 420}, QStringLiteral("Exit")};
     Button SSCommand2{*this, QStringLiteral("SSCommand2"), {6840, 3900, 1200, 420}, QStringLiteral("Help")};

@@ -1,0 +1,123 @@
+// How soon a press on a sound button answers and how long opening a movie keeps the window from anything
+// else, against a bare reader that opens the same file and decodes its first piece.
+
+#include "av/media_reader.h"
+#include "bind_handlers.h"
+#include "measure.h"
+#include "media/frm_movie.h"
+#include "platform/drives.h"
+#include "platform/program_folder.h"
+#include "shell/form1.h"
+#include "shell/form2.h"
+#include "shell/program_state.h"
+#include "support/test_movie.h"
+#include "ui/file_source.h"
+#include "ui/message_box.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <variant>
+#include <vector>
+
+namespace {
+
+using namespace torvik;
+
+constexpr int rounds = 15;
+constexpr double soundLimit = 50;  // milliseconds
+constexpr double movieLimit = 100; // milliseconds
+
+void Write(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+double BareOpening(const QString& path)
+{
+    return bench::Milliseconds([&] {
+        const auto reader = MediaReader::Open(FileSource::Open(path.toStdString()), SoundFormat());
+        if (reader == nullptr || std::holds_alternative<MediaReader::End>(reader->Next()))
+            qFatal("there is nothing to read");
+    });
+}
+
+/// From the click until time runs for the sound.
+double PressSound()
+{
+    MediaControl& device = Form1->MMControl1;
+    return bench::Milliseconds([&] {
+        Form1->SSCommand2(0).Click.Fire();
+        while (device.Position() == 0)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    });
+}
+
+/// The longest time in which nothing else could happen, from the choice until the movie's first picture is on
+/// show and some more have passed.
+double LongestBlock()
+{
+    MediaControl& device = frmMovie->MMControl1.Device;
+    double longest = bench::Milliseconds([] { frmMovie->optMovie(1).Click.Fire(); });
+    longest = std::max(longest, bench::Milliseconds([&] { device.Command(QStringLiteral("play")); }));
+    while (device.Position() < 200)
+        longest = std::max(longest, bench::Milliseconds([] { QCoreApplication::processEvents(); }));
+    return longest;
+}
+
+bool Measure()
+{
+    const QTemporaryDir disc;
+    const QTemporaryDir program;
+    Write(disc.filePath(QStringLiteral("Torviks/67A.JPG")), "no photo");
+    const QString sound = disc.filePath(QStringLiteral("wav/backfrng.wav"));
+    const QString movie = disc.filePath(QStringLiteral("movies/Torvik69.avi"));
+    Write(sound, TestMovie::Wav());
+    Write(movie, TestMovie::Avi());
+    SetProgramFolder(program.path());
+    SetDriveOptions({{u'E', disc.path()}});
+    SetMessageResponder([](const MessageRequest&) { return msgbox::answerOk; });
+    Form2.LoadForm();
+    state.YearCode = QStringLiteral("67");
+    state.MovieFolder = QStringLiteral("E:\\movies\\");
+
+    std::vector<double> presses;
+    std::vector<double> bareSounds;
+    std::vector<double> blocks;
+    std::vector<double> bareMovies;
+    PressSound(); // the first time is not counted
+    for (int round = 0; round < rounds; ++round) {
+        bareSounds.push_back(BareOpening(sound));
+        presses.push_back(PressSound());
+        bareMovies.push_back(BareOpening(movie));
+        blocks.push_back(LongestBlock());
+    }
+    const double bareSound = bench::Median(bareSounds);
+    const double bareMovie = bench::Median(bareMovies);
+    const bool soundIsOk = bench::Report("sound button, press to playing", "ms", bench::Median(presses),
+                                         bareSound, soundLimit / bareSound);
+    const bool movieIsOk = bench::Report("opening a movie, longest block of the window", "ms",
+                                         bench::Median(blocks), bareMovie, movieLimit / bareMovie);
+    FormHandleBase::DiscardAll();
+    return soundIsOk && movieIsOk;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const QApplication application(argc, argv);
+    BindHandlers();
+    return Measure() ? 0 : 1;
+}
