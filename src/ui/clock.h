@@ -9,6 +9,8 @@ class Clock {
 public:
     /// The date and time of day.
     static QDateTime Now();
+    /// The same as seconds since 1970. It needs no time zone, so it can be asked often.
+    static qint64 Second();
 
     /// From here on time stands still until it is turned; begins at `start`.
     static void StopAt(const QDateTime& start);

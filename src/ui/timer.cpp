@@ -77,7 +77,12 @@ void Timer::Due()
 
 QDateTime Clock::Now()
 {
-    return StoppedAt().value_or(QDateTime::currentDateTime());
+    return IsStopped() ? *StoppedAt() : QDateTime::currentDateTime();
+}
+
+qint64 Clock::Second()
+{
+    return IsStopped() ? Now().toSecsSinceEpoch() : QDateTime::currentSecsSinceEpoch();
 }
 
 bool Clock::IsStopped()

@@ -45,11 +45,13 @@ private Q_SLOTS:
     {
         QVERIFY(Clock::IsStopped());
         QCOMPARE(Clock::Now(), start);
+        QCOMPARE(Clock::Second(), start.toSecsSinceEpoch());
         Clock::Turn(1500);
         QCOMPARE(Clock::Now(), start.addMSecs(1500));
         Clock::Run();
         QVERIFY(!Clock::IsStopped());
         QVERIFY(Clock::Now() > start.addYears(1));
+        QVERIFY(qAbs(Clock::Second() - Clock::Now().toSecsSinceEpoch()) <= 1);
     }
 
     void a_timer_ticks_every_interval()
