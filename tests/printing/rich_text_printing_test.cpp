@@ -253,6 +253,18 @@ private Q_SLOTS:
         QVERIFY(ink.width() > 1000);
     }
 
+    void the_paper_that_was_set_up_holds_and_its_margins_count_from_its_edges()
+    {
+        Printer.SetUp(PrinterSetup{{}, QPageSize(QPageSize::A5), QPageLayout::Landscape});
+        Print(RtfPicture(1000, 1000), 2000, 1500, 1000, 1500);
+        const QSizeF paper = printed_->Paper(1);
+        QVERIFY(qAbs(paper.width() - 210 / 25.4 * inch) <= 2 * pixel);
+        QVERIFY(qAbs(paper.height() - 148 / 25.4 * inch) <= 2 * pixel);
+        const QRectF picture = InkOf(printed_->Image(1, 1), IsRed);
+        QVERIFY(qAbs(picture.left() - 2000) <= pixel);
+        QVERIFY(qAbs(picture.top() - 1500) <= pixel);
+    }
+
     void an_open_job_is_continued_and_ended()
     {
         Printer.Print(QStringLiteral("The cover"));
