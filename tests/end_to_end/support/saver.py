@@ -68,7 +68,7 @@ class Saver:
         def probe():
             nonlocal seen
             if not self.is_running():
-                raise AssertionError(f"the saver has ended with {self._process.returncode}")
+                raise AssertionError(f"the saver has ended: {self.wait_for_end()}")
             seen = self.screen.colour_at(*place)
             return [index for index, colour in enumerate(colours) if is_alike(seen, colour)]
 
