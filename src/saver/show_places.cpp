@@ -53,8 +53,8 @@ HostWindow::HostWindow(quint64 number) : number_(number), window_(QWindow::fromW
 
 HostWindow::~HostWindow() = default;
 
-/// The toolkit does not tell the size of a foreign window, but a picture of it has that size: one row gives the
-/// width, one column the height.
+/// The toolkit does not tell the size of a foreign window, but a picture of it has that size: one row gives
+/// the width, one column the height.
 std::optional<QSize> HostWindow::Size() const
 {
     QScreen* screen = QGuiApplication::primaryScreen();
@@ -67,8 +67,8 @@ std::optional<QSize> HostWindow::Size() const
     return QSize(qCeil(row.deviceIndependentSize().width()), qCeil(column.deviceIndependentSize().height()));
 }
 
-/// The toolkit puts no window on the screen whose parent, in its eyes, is not there. So it first shows one out
-/// of sight, of which the desktop is not told, and then moves it into the host.
+/// The toolkit puts no window on the screen whose parent, in its eyes, is not there. So it first shows one
+/// out of sight, of which the desktop is not told, and then moves it into the host.
 ShowWindows HostWindow::Open()
 {
     constexpr QPoint outOfSight(-10'000, -10'000);
