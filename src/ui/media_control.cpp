@@ -18,8 +18,8 @@ namespace torvik {
 
 namespace {
 
-constexpr int tickLength = 10;         // milliseconds
-constexpr qint64 tooLate = 150 * 1000; // microseconds behind the picture at which sound is left out
+constexpr int tickLength = 10;      // milliseconds
+constexpr qint64 tooLate = 150'000; // microseconds behind the picture at which sound is left out
 
 /// Microseconds from some beginning. A clock that is turned by hand turns movies as well.
 qint64 Now()
