@@ -19,14 +19,16 @@ namespace torvik::sample {
 
 namespace {
 
+constexpr int photoQuality = 74; // a disc of less than 60 MiB, and the grain of the film still to be seen
+
 void MakePhoto(const QString& disc, const PlannedPhoto& photo)
 {
     QImage picture = TakePhoto(photo);
     QByteArray bytes;
     if (photo.storing == Storing::TurnedWithTag)
-        bytes = WithTurnTag(JpegBytes(picture.transformed(QTransform().rotate(-90)), 84));
+        bytes = WithTurnTag(JpegBytes(picture.transformed(QTransform().rotate(-90)), photoQuality));
     else
-        bytes = JpegBytes(picture, photo.size.width() > 2000 ? 80 : 84);
+        bytes = JpegBytes(picture, photoQuality);
     WriteFile(disc + QStringLiteral("/Torviks/") + photo.file, bytes);
 }
 

@@ -57,7 +57,7 @@ void MakeAds(const QString& disc)
 {
     const std::vector<PlannedAd>& ads = PlanAds();
     InParallel(ads.size(), [&](std::size_t i) {
-        WriteFile(disc + QLatin1Char('/') + ads[i].File(), JpegBytes(PaintAd(ads[i]), 80));
+        WriteFile(disc + QLatin1Char('/') + ads[i].File(), JpegBytes(PaintAd(ads[i]), 74));
     });
 }
 

@@ -53,7 +53,7 @@ QByteArray MakeMovie(const MoviePlan& plan)
     movie.frames.resize(static_cast<std::size_t>(std::lround(seconds * kFramesPerSecond)));
     const std::unique_ptr<Stage> stage = plan.stage();
     InParallel(movie.frames.size(), [&](std::size_t i) {
-        movie.frames[i] = JpegBytes(DrawFrame(plan, *stage, static_cast<double>(i) / kFramesPerSecond), 78);
+        movie.frames[i] = JpegBytes(DrawFrame(plan, *stage, static_cast<double>(i) / kFramesPerSecond), 74);
     });
     const Sound track = Faded(Lasting(plan.sound(seconds), seconds), 0.05, 0.5);
     movie.sound = PcmSamples({Levelled(AtRate(track, kForm.rate), 0.9)}, kForm);
