@@ -31,13 +31,19 @@ void TakeYearCode()
         state.YearCode = QStringLiteral("A1");
 }
 
+/// On a disc that lost its photos while the list was built anew, the list is shorter than its count.
+QString PhotoAt(int index)
+{
+    return index <= state.PhotoFiles.Count() ? state.PhotoFiles(index) : QString();
+}
+
 /// Leaves PhotoIndex on the first photo of the code, or behind the last photo.
 void FindFirstPhoto()
 {
     state.TorviksPathPos = InStr(state.PhotoFiles(1), torviksFolder);
     const int start = state.TorviksPathPos + 9;
     for (state.PhotoIndex = 1; state.PhotoIndex <= state.PhotoCount; state.PhotoIndex += 1) {
-        const QString& photo = state.PhotoFiles(state.PhotoIndex);
+        const QString photo = PhotoAt(state.PhotoIndex);
         if (Mid(photo, start, 2) != state.YearCode)
             continue;
         state.CurrentPhotoFile = photo;

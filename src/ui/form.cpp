@@ -221,10 +221,15 @@ void Form::EscapePressed()
         cancelButton_->Click.Fire();
 }
 
+/// With its last form the program is over: without a window nobody could end it any more.
 void Form::CloseRequested()
 {
-    if (handle_ != nullptr)
-        RunHandler([this] { handle_->Unload(); });
+    if (handle_ == nullptr)
+        return;
+    RunHandler([this] {
+        if (handle_->Unload() && !FormHandleBase::IsAnyLoaded())
+            EndProgram();
+    });
 }
 
 /// The form is over: it leaves the screen and its name now, and goes when the handlers that are running are

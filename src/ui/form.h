@@ -178,6 +178,8 @@ public:
     /// Asks the form, then ends it. Nothing happens when it is not loaded. False when it refused.
     bool Unload();
 
+    /// Whether there is a form that is loaded, on the screen or not.
+    static bool IsAnyLoaded();
     /// Ends every form without asking it: the program is over.
     static void DiscardAll();
     /// The form whose window this is; null when it is none.

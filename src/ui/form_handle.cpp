@@ -76,6 +76,12 @@ bool FormHandleBase::Unload()
     return true;
 }
 
+bool FormHandleBase::IsAnyLoaded()
+{
+    return std::any_of(AllHandles().begin(), AllHandles().end(),
+                       [](const FormHandleBase* handle) { return handle->IsLoaded(); });
+}
+
 void FormHandleBase::DiscardAll()
 {
     for (FormHandleBase* handle : AllHandles()) {

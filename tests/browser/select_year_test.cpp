@@ -3,6 +3,7 @@
 #include "shell/form1.h"
 #include "shell/program_state.h"
 #include "support/program.h"
+#include "ui/program_end.h"
 #include "ui/screen.h"
 
 #include <QTest>
@@ -85,6 +86,21 @@ private Q_SLOTS:
         QVERIFY(!Form1->Image4.Visible());
         QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(20)"));
         QCOMPARE(int(state.ShownPhotoIndex), 3);
+    }
+
+    void on_a_disc_that_lost_its_photos_every_year_is_ER023_and_the_window_stays_usable()
+    {
+        program_->Disc.Remove(QStringLiteral("Torviks"));
+        program_->DoubleClick(Form1->panPhoto);
+        program_->Messages.Clear();
+        program_->Click(Form1->cmdYR(3));
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER023")));
+        QVERIFY(!ProgramIsEnding());
+        program_->Disc.AddGroup(QStringLiteral("69"), 2);
+        program_->DoubleClick(Form1->panPhoto);
+        program_->Click(Form1->cmdYR(3));
+        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("69A.JPG"));
     }
 
     void the_next_good_year_shows_its_photo_again()

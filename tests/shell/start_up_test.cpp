@@ -5,6 +5,7 @@
 #include "support/other_instance.h"
 #include "support/program.h"
 #include "ui/clock.h"
+#include "ui/form_window.h"
 #include "ui/program_end.h"
 
 #include <QTest>
@@ -61,6 +62,16 @@ private Q_SLOTS:
         QVERIFY(!Form2.IsLoaded());
         QVERIFY(Form1.IsLoaded());
         QVERIFY(Form1->Visible());
+    }
+
+    void closing_the_splash_ends_the_program()
+    {
+        program_->Start();
+        Form2->Window().close();
+        QVERIFY(ProgramIsEnding());
+        QVERIFY(!Form2.IsLoaded());
+        QVERIFY(!Form1.IsLoaded());
+        QVERIFY(program_->Messages.Shown().isEmpty());
     }
 
     void the_timer_runs_once()

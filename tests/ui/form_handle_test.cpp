@@ -173,6 +173,22 @@ private Q_SLOTS:
         QVERIFY(!Side.IsLoaded());
     }
 
+    void closing_the_last_form_ends_the_program_and_closing_another_one_does_not()
+    {
+        FormHandle<OtherForm> Other;
+        Other.LoadForm(); // not on the screen
+        FormHandle<SideForm>& Side = *side_;
+        QVERIFY(UiRoom::Open(*Side));
+        Side->Window().close();
+        QVERIFY(!Side.IsLoaded());
+        QVERIFY(!ProgramIsEnding());
+        QVERIFY(Other.Unload());
+        QVERIFY2(!ProgramIsEnding(), "between two forms the program may have none");
+        QVERIFY(UiRoom::Open(*Side));
+        Side->Window().close();
+        QVERIFY(ProgramIsEnding());
+    }
+
     void a_handler_may_unload_its_own_form_and_go_on()
     {
         FormHandle<SideForm>& Side = *side_;
