@@ -96,7 +96,7 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
     if (state.rightToLeft)
         format.setLayoutDirection(Qt::RightToLeft);
     const QColor back =
-        ShadedColor(colors_.At(state.patternColor), colors_.At(state.background), state.shading);
+        ShadedColor(colors_.ChosenAt(state.patternColor), colors_.ChosenAt(state.background), state.shading);
     if (back.isValid())
         format.setBackground(back);
     return format;

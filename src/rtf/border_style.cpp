@@ -52,7 +52,7 @@ void SetCellBorders(QTextTableCellFormat& format, const std::function<const Bord
         const Border& border = borderOf(side);
         if (!border.IsSet())
             return;
-        const QColor color = colors.At(border.color);
+        const QColor color = colors.ChosenAt(border.color);
         (format.*setWidth)(BorderPixels(border));
         (format.*setStyle)(BorderStyleOf(border.line));
         (format.*setBrush)(QBrush(color.isValid() ? color : QColor(Qt::black)));

@@ -80,7 +80,7 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
         format.setFontStrikeOut(true);
     if (state.underline != Underline::None) {
         format.setUnderlineStyle(UnderlineStyleOf(state.underline));
-        const QColor line = colors_.At(state.underlineColor);
+        const QColor line = colors_.ChosenAt(state.underlineColor);
         if (line.isValid())
             format.setUnderlineColor(line);
     }
@@ -88,7 +88,7 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
     if (front.isValid())
         format.setForeground(front);
     const QColor back =
-        ShadedColor(colors_.At(state.patternColor), colors_.At(state.background), state.shading);
+        ShadedColor(colors_.ChosenAt(state.patternColor), colors_.ChosenAt(state.background), state.shading);
     if (back.isValid())
         format.setBackground(back);
     SetPosition(format, state);

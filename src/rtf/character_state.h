@@ -15,7 +15,8 @@ struct CharacterState {
     int font = 0;
     /// Half points.
     int size = 24;
-    int foreground = 0;
+    /// -1 until the document chooses one: then the reader's own.
+    int foreground = -1;
     int background = 0;
     int underlineColor = 0;
     /// Pattern over the background, hundredths of a percent, and its colour.

@@ -17,6 +17,9 @@ public:
     void EndEntry();
     /// The colour with a number; an invalid colour where there is none or it is automatic.
     QColor At(int index) const;
+    /// The same for backgrounds, patterns and lines, where 0 chooses no colour: the oldest writers begin the
+    /// table with black in place of the automatic colour.
+    QColor ChosenAt(int index) const { return index > 0 ? At(index) : QColor(); }
 
 private:
     std::vector<QRgb> entries_;

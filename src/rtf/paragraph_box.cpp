@@ -21,7 +21,7 @@ QTextFrame* InsertFrame(QTextCursor& cursor, const ParagraphState& state, const 
     const auto* edge = std::find_if(std::begin(state.borders), std::end(state.borders),
                                     [](const Border& border) { return border.IsSet(); });
     QTextFrameFormat format;
-    const QColor color = colors.At(edge->color);
+    const QColor color = colors.ChosenAt(edge->color);
     format.setBorder(BorderPixels(*edge));
     format.setBorderStyle(BorderStyleOf(edge->line));
     format.setBorderBrush(color.isValid() ? color : QColor(Qt::black));
@@ -67,7 +67,7 @@ bool SharesBox(const ParagraphState& a, const ParagraphState& b)
 QTextFrame* InsertBox(QTextCursor& cursor, const ParagraphState& state, const ColorTable& colors)
 {
     const QColor back =
-        ShadedColor(colors.At(state.patternColor), colors.At(state.background), state.shading);
+        ShadedColor(colors.ChosenAt(state.patternColor), colors.ChosenAt(state.background), state.shading);
     return state.HasBox() ? InsertFrame(cursor, state, colors, back)
                           : InsertCell(cursor, state, colors, back);
 }

@@ -163,7 +163,7 @@ bool Reader::ConsumesFallback(const Token& token)
 void Reader::HandleWord(const Token& token)
 {
     // The two halves of a character beyond the first plane come as two words.
-    if (token.text == "u")
+    if (token.text == "u" || token.text == "uc")
         FlushBytes();
     else
         FlushText();

@@ -70,6 +70,8 @@ void Reader::PutBytes(std::string_view bytes)
             return;
         Paragraph& draft = flow_.Draft();
         state_.page->Decode(bytes, draft.text);
+        if (bytes.size() == 1) // only an escape gives out line ends
+            draft.text.back() = Harmless(draft.text.back().unicode());
         draft.CoverTail(CurrentFormat());
         return;
     }

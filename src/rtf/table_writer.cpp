@@ -66,7 +66,7 @@ QTextTableCellFormat CellFormat(const GridCell& cell, const RowStyle& row, const
     format.setRightPadding(gap);
     const CellStyle& style = *cell.style;
     const QColor back =
-        ShadedColor(colors.At(style.patternColor), colors.At(style.background), style.shading);
+        ShadedColor(colors.ChosenAt(style.patternColor), colors.ChosenAt(style.background), style.shading);
     if (back.isValid())
         format.setBackground(back);
     if (style.verticalAlignment == 1)

@@ -85,6 +85,31 @@ private Q_SLOTS:
         QCOMPARE(read.Format("grey").background().color(), QColor(127, 127, 127));
     }
 
+    void a_table_that_begins_with_black_blackens_nothing()
+    {
+        const Reading read = ReadBytes(
+            "{\\rtf1\\ansi\\deff0\\deftab720{\\fonttbl{\\f0\\froman Times New Roman;}}"
+            "{\\colortbl\\red0\\green0\\blue0;\\red255\\green255\\blue0;}"
+            "\\pard\\plain\\f0\\fs20 usual \\cf0 black {\\highlight1\\cb1 marked}{\\highlight0\\cb0 "
+            "unmarked}\\ul lined\\ulnone\\par}");
+        QCOMPARE(read.Format("usual").background().style(), Qt::NoBrush);
+        QCOMPARE(read.Format("usual").foreground().style(), Qt::NoBrush);
+        QCOMPARE(read.Format("black").foreground().color(), QColor(0, 0, 0));
+        QCOMPARE(read.Format("marked").background().color(), QColor(255, 255, 0));
+        QCOMPARE(read.Format("unmarked").background().style(), Qt::NoBrush);
+        QVERIFY(!read.Format("lined").underlineColor().isValid());
+        QCOMPARE(read.Block("usual").blockFormat().background().style(), Qt::NoBrush);
+    }
+
+    void text_without_a_chosen_colour_is_not_the_first_of_the_table()
+    {
+        const Reading read =
+            ReadBytes("{\\rtf1{\\colortbl\\red255\\green0\\blue0;}usual \\cf0 red\\plain  again\\par}");
+        QCOMPARE(read.Format("usual").foreground().style(), Qt::NoBrush);
+        QCOMPARE(read.Format("red").foreground().color(), QColor(255, 0, 0));
+        QCOMPARE(read.Format("again").foreground().style(), Qt::NoBrush);
+    }
+
     void superscript_subscript_and_raised_text()
     {
         const Reading read = ReadBody("{\\super up}{\\sub down}{\\up6 high}{\\dn6 low}\\par");
@@ -155,6 +180,7 @@ private Q_SLOTS:
     {
         QCOMPARE(ReadBody("\\u-10179?\\u-8704?\\par").Text(), QStringLiteral("😀"));
         QCOMPARE(ReadBody("\\uc0\\u55357\\u56832 x\\par").Text(), QStringLiteral("😀x"));
+        QCOMPARE(ReadBody("\\uc1\\u-10179?\\uc1\\u-8704?\\par").Text(), QStringLiteral("😀"));
         QCOMPARE(ReadBody("a\\u-10179?b\\u-8704?c\\par").Text(), QStringLiteral("a\ufffdb\ufffdc"));
     }
 
@@ -179,6 +205,13 @@ private Q_SLOTS:
         QCOMPARE(read.document->blockCount(), 1);
         QCOMPARE(read.document->firstBlock().text(),
                  QStringLiteral("a\ufdd0b").left(1) + QStringLiteral("\ufffdb\ufffdc\ufffdd\u2028e\ufffdf"));
+    }
+
+    void escaped_line_ends_stay_in_their_paragraph()
+    {
+        const Reading read = ReadBody("a\\'0db\\'0ac\\'00d\\par");
+        QCOMPARE(read.document->blockCount(), 1);
+        QCOMPARE(read.document->firstBlock().text(), QStringLiteral("a\u2028b\u2028c\ufffdd"));
     }
 
     void runs_that_look_the_same_are_one()

@@ -120,6 +120,16 @@ private Q_SLOTS:
         QCOMPARE(first.leftBorder(), 0.0);
     }
 
+    void a_colour_table_that_begins_with_black_blackens_no_cell()
+    {
+        const Reading read =
+            ReadBytes("{\\rtf1{\\colortbl\\red0\\green0\\blue0;}\\trowd\\cellx1000\\cellx2000"
+                      "\\intbl a\\cell b\\cell\\row\\pard\\par}");
+        const QTextTable* table = TableOf(read);
+        QVERIFY(table != nullptr);
+        QCOMPARE(table->cellAt(0, 0).format().background().style(), Qt::NoBrush);
+    }
+
     void place_and_header_of_the_table()
     {
         const Reading read = ReadBody(
