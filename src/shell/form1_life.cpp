@@ -3,12 +3,12 @@
 #include "browser/browsing_start.h"
 #include "browser/restore_main_window.h"
 #include "browser/select_year.h"
+#include "browser/topic_catalogue.h"
 #include "platform/settings_store.h"
 #include "platform/text.h"
 #include "shell/form1.h"
 #include "shell/form2.h"
 #include "shell/program_state.h"
-#include "slides/title_code.h"
 #include "ui/application.h"
 #include "ui/program_end.h"
 #include "ui/screen.h"
@@ -73,7 +73,8 @@ void ReturnFromSlideShow()
     if (Form1->panYear.Caption() != nothingChosen)
         Form1->Image4.Show();
     RestoreMainWindow();
-    TakeCodeOfTitle();
+    if (const Topic* topic = TopicOf(Form1->panYear.Caption()))
+        state.YearCode = QString::fromLatin1(topic->Code);
 }
 
 void Form1_Activate()

@@ -17,7 +17,7 @@ Image::Image(Container& container, const QString& name, const Twips& design, Fit
 
 void Image::Load(const QString& path)
 {
-    Show(Picture::Load(path));
+    Show(path.isEmpty() ? torvik::Picture() : Picture::Load(path));
 }
 
 void Image::Show(const class Picture& picture)

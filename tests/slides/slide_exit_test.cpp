@@ -303,6 +303,36 @@ private Q_SLOTS:
         QCOMPARE(state.YearCode, QStringLiteral("VC"));
     }
 
+    void a_title_without_photos_keeps_its_code_over_a_show()
+    {
+        Form1->mnuArt(1).Click.Fire();
+        QCOMPARE(state.YearCode, QStringLiteral("mu"));
+        const int reports = program_->Messages.Count();
+        QVERIFY(InSlideShow(*program_, [&] {
+            QCOMPARE(state.YearCode, QStringLiteral("67"));
+            program_->Click(frmSlide->cmdExit);
+        }));
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("Lemuel Ostrand Art Print "));
+        QCOMPARE(state.YearCode, QStringLiteral("mu"));
+        program_->Press(Form1->cmdYR(1), Qt::Key_Period); // it has no photo to step to
+        QVERIFY(Form1->Image4.Picture().IsEmpty());
+        QCOMPARE(program_->Messages.Count(), reports);
+    }
+
+    void stop_on_nothing_is_reported()
+    {
+        Form1->mnuArt(1).Click.Fire();
+        program_->Messages.Clear();
+        QVERIFY(InSlideShow(*program_, [&] { ClickSlidePart(*program_, stopButton); }));
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->Messages.Last().Text, reported);
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("19 "));
+        QVERIFY(Form1->Image4.Picture().IsEmpty());
+        QVERIFY(!ProgramIsEnding());
+        program_->Click(Form1->cmdYR(2));
+        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("68A.JPG"));
+    }
+
     void closing_the_window_asks_nothing_during_a_show()
     {
         QVERIFY(InSlideShow(*program_, [&] {

@@ -100,6 +100,36 @@ private Q_SLOTS:
         }));
     }
 
+    void behind_a_title_without_photos_the_show_opens_on_nothing()
+    {
+        program_->Click(Form1->cmdYR(4)); // no photo of 1970 is on the disc
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(int(state.ShownPhotoIndex), 8);
+        QVERIFY(InSlideShow(*program_, [&] {
+            QVERIFY(frmSlide->Image1.Picture().IsEmpty());
+            QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), QStringLiteral("8 of 7"));
+            QVERIFY(frmSlide->pnlPhotoNumber.Visible());
+            QCOMPARE(frmSlide->panYear.Caption(), QStringLiteral("19 "));
+            QCOMPARE(int(state.PhotoIndex), 8);
+            ClickSlidePart(*program_, QStringLiteral("mmSlide(Prev)"));
+            QCOMPARE(ShownSlide(), QStringLiteral("VCA.JPG, 7 of 7, Torvik Cookies "));
+        }));
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1970"));
+        QVERIFY(!ProgramIsEnding());
+    }
+
+    void a_show_that_opens_on_nothing_runs_from_the_first_photo()
+    {
+        program_->Click(Form1->cmdYR(4));
+        QVERIFY(InSlideShow(*program_, [&] {
+            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
+            Clock::Turn(2000); // the first tick goes back to the start
+            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 7, 1967 "));
+        }));
+        QCOMPARE(program_->Messages.Count(), 1);
+    }
+
     void a_code_that_is_no_number_becomes_67_data()
     {
         QTest::addColumn<QString>("code");

@@ -108,6 +108,15 @@ private Q_SLOTS:
         QVERIFY(Alike(Shown(50, 50), look::face));
     }
 
+    void an_empty_path_shows_nothing()
+    {
+        Main->Image4.Load(folder_.Add(QStringLiteral("67A.JPG"), Encoded(FourCorners({400, 200}), "jpg")));
+        Main->Image4.Load(QString());
+        QVERIFY(Main->Image4.Picture().IsEmpty());
+        QVERIFY(Alike(Shown(50, 50), look::face));
+        QCOMPARE(Main->Image4.Widget().accessibleName(), QStringLiteral("Image4"));
+    }
+
     void a_photo_says_its_file_name_and_the_tool_tip_without_one()
     {
         Main->Image4.SetToolTip(QStringLiteral("Click the Right mouse button to copy"));
