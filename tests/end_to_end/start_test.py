@@ -25,6 +25,18 @@ class Start(ProgramTest):
         photo = program.find("67A.JPG")
         self.assert_colour(screen, photo.middle, disc.photos["67A.JPG"])
 
+    def test_closing_the_splash_ends_the_program_and_the_next_start_is_not_refused(self):
+        disc = self.make_disc()
+        screen = self.make_screen()
+        closed = self.start(screen, disc.folder)
+        closed.wait_for_window(SPLASH_TITLE)
+        screen.window_of(closed.process)
+        closed.press("alt+F4")
+        self.assertEqual(closed.wait_for_end(), 0)
+
+        program = self.start(screen, disc.folder)
+        program.start_browsing()
+
     def test_a_second_instance_is_refused_and_the_first_goes_on(self):
         disc = self.make_disc()
         screen = self.make_screen()

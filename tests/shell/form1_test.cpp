@@ -1,6 +1,7 @@
 #include "documents/txt_form.h"
 #include "shell/form1.h"
 #include "support/program.h"
+#include "ui/form_window.h"
 
 #include <QTest>
 
@@ -120,6 +121,32 @@ private Q_SLOTS:
         for (const PictureBox* pane : {&Form1->picEmblem, &Form1->picEmbSide, &Form1->picEmbRear,
                                        &Form1->picScript, &Form1->picClipArt})
             QCOMPARE(pane->ToolTip(), QStringLiteral("Click the Right mouse button to copy"));
+    }
+
+    void every_control_says_something_to_a_screen_reader()
+    {
+        int named = 0;
+        const auto widgets = Form1->Host().findChildren<QWidget*>();
+        for (const QWidget* widget : widgets) {
+            if (Control::OfWidget(widget) == nullptr)
+                continue;
+            QVERIFY(!widget->objectName().isEmpty());
+            QVERIFY2(!widget->accessibleName().trimmed().isEmpty(), qPrintable(widget->objectName()));
+            ++named;
+        }
+        QVERIFY(named > 150);
+        QCOMPARE(Form1->Window().objectName(), QStringLiteral("Form1"));
+        QCOMPARE(Form1->MMControl1.objectName(), QStringLiteral("MMControl1"));
+    }
+
+    void the_arrows_are_parts_of_the_spin_button_with_names_of_their_own()
+    {
+        const auto arrow = [](const char* name) {
+            return Form1->SpinButton1.Widget().findChild<QWidget*>(QString::fromLatin1(name));
+        };
+        QCOMPARE(arrow("SpinButton1(Up)")->accessibleName(), QStringLiteral("Next photo"));
+        QCOMPARE(arrow("SpinButton1(Down)")->accessibleName(), QStringLiteral("Previous photo"));
+        QVERIFY(arrow("SpinButton1(Down)")->x() < arrow("SpinButton1(Up)")->x());
     }
 
     void overlays_panels_caption_and_file_name_are_hidden_at_first()

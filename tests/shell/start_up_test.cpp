@@ -4,6 +4,7 @@
 #include "shell/program_state.h"
 #include "support/other_instance.h"
 #include "support/program.h"
+#include "support/test_movie.h"
 #include "ui/clock.h"
 #include "ui/form_window.h"
 #include "ui/program_end.h"
@@ -97,12 +98,21 @@ private Q_SLOTS:
 
     void the_sound_is_played_when_it_is_there()
     {
-        program_->AddToProgramFolder(QStringLiteral("passby.wav"), "RIFF");
+        program_->AddToProgramFolder(QStringLiteral("passby.wav"), TestMovie::Wav());
         program_->Start();
         QCOMPARE(state.SoundFile, ProgramFolder() + QStringLiteral("\\passby.wav"));
         QVERIFY(Form2->MMControl1.IsOpen());
         QCOMPARE(Form2->MMControl1.FileName(), state.SoundFile);
+        QTRY_COMPARE(Form2->MMControl1.State(), MediaControl::Mode::Playing);
         QVERIFY(program_->Messages.Shown().isEmpty());
+    }
+
+    void a_damaged_sound_holds_nothing_up()
+    {
+        program_->AddToProgramFolder(QStringLiteral("passby.wav"), "RIFF");
+        program_->StartBrowsing();
+        QVERIFY(program_->Messages.Shown().isEmpty());
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
     }
 
     void without_the_sound_there_is_silence()
