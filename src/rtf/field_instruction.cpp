@@ -45,12 +45,13 @@ QString ValueOfSwitch(const QStringList& pieces, QLatin1StringView name)
 
 void ReadLink(const QStringList& pieces, FieldInstruction& read)
 {
-    if (pieces.size() > 1 && !pieces.at(1).startsWith(u'\\'))
-        read.target = SafeTarget(pieces.at(1));
     const QString bookmark = ValueOfSwitch(pieces, QLatin1StringView("\\l"));
+    const QString place = bookmark.isEmpty() ? QString() : u'#' + bookmark;
     const bool isLocal = pieces.size() > 1 && pieces.at(1).startsWith(u'\\');
-    if (isLocal && !bookmark.isEmpty())
-        read.target = u'#' + bookmark;
+    if (isLocal)
+        read.target = place;
+    else if (pieces.size() > 1)
+        read.target = SafeTarget(pieces.at(1) + place);
 }
 
 void ReadSymbol(const QStringList& pieces, FieldInstruction& read)

@@ -77,9 +77,13 @@ void GdiCanvas::Bitmap(const GdiBitmap& bitmap)
     const QPointF end = Map(bitmap.target.bottomRight());
     const QRectF place = QRectF(start, end).normalized();
     const QRect source = GdiSource(bitmap, size);
+    const bool isMirroredAcross = end.x() < start.x();
+    const bool isMirroredDown = end.y() < start.y();
     if (survey_.bitmaps++ == 0) {
         survey_.first = bitmap;
         survey_.firstPlace = place;
+        survey_.firstIsMirroredAcross = isMirroredAcross;
+        survey_.firstIsMirroredDown = isMirroredDown;
     }
     survey_.combines = survey_.combines || ModeOf(bitmap.operation) != QPainter::CompositionMode_SourceOver;
     if (place.width() > 0 && place.height() > 0) {
@@ -92,8 +96,8 @@ void GdiCanvas::Bitmap(const GdiBitmap& bitmap)
     QImage image = DecodeGdiBitmap(bitmap, mostBytes_);
     if (image.isNull())
         return;
-    if (end.x() < start.x() || end.y() < start.y())
-        image = image.mirrored(end.x() < start.x(), end.y() < start.y());
+    if (isMirroredAcross || isMirroredDown)
+        image = image.mirrored(isMirroredAcross, isMirroredDown);
     const bool isSameSize =
         std::abs(place.width() - image.width()) < 0.01 && std::abs(place.height() - image.height()) < 0.01;
     painter_->setRenderHint(QPainter::SmoothPixmapTransform, !isSameSize);

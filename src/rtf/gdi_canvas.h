@@ -41,6 +41,9 @@ struct GdiSurvey {
     /// The first bitmap, and its place on the canvas.
     GdiBitmap first;
     QRectF firstPlace;
+    /// Whether the first one is turned over, left for right and top for bottom.
+    bool firstIsMirroredAcross = false;
+    bool firstIsMirroredDown = false;
     QRectF bounds;
     /// The largest number of a bitmap's pixels that fall on one unit of the canvas.
     double densityX = 0;

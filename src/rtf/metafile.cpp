@@ -93,6 +93,8 @@ MetafileImage Draw(Drawing drawing, const QSizeF& shownSize, qint64 mostBytes)
         return result;
     if (survey.shapes == 0 && survey.bitmaps == 1 && FillsCanvas(survey.firstPlace)) {
         result.image = DecodeGdiBitmap(survey.first, mostBytes);
+        if (survey.firstIsMirroredAcross || survey.firstIsMirroredDown)
+            result.image = result.image.mirrored(survey.firstIsMirroredAcross, survey.firstIsMirroredDown);
         return result;
     }
     QSizeF shown = shownSize.isEmpty() ? drawing.naturalSize : shownSize;

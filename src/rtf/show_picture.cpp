@@ -55,6 +55,18 @@ QSizeF StatedSize(const PictureSource& source)
     return {width, height};
 }
 
+/// What the document leaves open follows from the picture itself, a single side from its proportions.
+QSizeF Completed(const QSizeF& stated, const QSizeF& natural)
+{
+    if (!stated.isEmpty() || natural.isEmpty())
+        return stated;
+    if (stated.width() > 0)
+        return {stated.width(), stated.width() * natural.height() / natural.width()};
+    if (stated.height() > 0)
+        return {stated.height() * natural.width() / natural.height(), stated.height()};
+    return natural;
+}
+
 /// The part of 1 that a crop leaves: from `start` on, `length` long.
 struct Kept {
     double start = 0;
@@ -104,8 +116,7 @@ QImage Decoded(const PictureSource& source, QSizeF& size, qint64 mostBytes)
     case PictureKind::Unknown:
         return DecodePackedDib(bytes, mostBytes);
     }
-    if (size.isEmpty())
-        size = drawn.naturalSize;
+    size = Completed(size, drawn.naturalSize);
     return drawn.image;
 }
 
@@ -120,8 +131,7 @@ ShownPicture ShowPicture(const PictureSource& source, Budget& budget)
         shown.image = QImage();
         return shown;
     }
-    if (size.isEmpty())
-        size = shown.image.size();
+    size = Completed(size, shown.image.size());
     const Kept across = KeptPart(source.cropLeft, source.cropRight, size.width());
     const Kept down = KeptPart(source.cropTop, source.cropBottom, size.height());
     shown.image = Cropped(shown.image, across, down);

@@ -32,6 +32,14 @@ private Q_SLOTS:
                  QStringLiteral("#wheels"));
     }
 
+    void a_place_on_a_page_belongs_to_its_address()
+    {
+        QCOMPARE(ReadInstruction(QStringLiteral("HYPERLINK \"http://www.torvik.example/67\" \\l \"wheels\""))
+                     .target,
+                 QStringLiteral("http://www.torvik.example/67#wheels"));
+        QVERIFY(ReadInstruction(QStringLiteral("HYPERLINK \"notes.rtf\" \\l \"wheels\"")).target.isEmpty());
+    }
+
     void a_symbol_gives_character_and_font()
     {
         const FieldInstruction read = ReadInstruction(QStringLiteral("SYMBOL 183 \\f \"Symbol\" \\s 10"));

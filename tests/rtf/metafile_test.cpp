@@ -53,6 +53,15 @@ private Q_SLOTS:
         QCOMPARE(At(image, 1, 1), QColor(Qt::white));
     }
 
+    void a_bitmap_that_fills_the_metafile_may_be_turned_over()
+    {
+        const QImage down = Draw(Strip(0, 100, 100, -100, FourColors()));
+        const QImage usual = Draw(Strip(0, 0, 100, 100, FourColors()));
+        QCOMPARE(down.size(), QSize(2, 2));
+        QCOMPARE(down, usual.mirrored(false, true));
+        QCOMPARE(Draw(Strip(100, 0, -100, 100, FourColors())), usual.mirrored(true, false));
+    }
+
     void strips_of_bitmaps_are_joined_without_scaling()
     {
         const QImage image = Draw(Strip(0, 0, 100, 50, FourColors()) + Strip(0, 50, 100, 50, FourColors()));

@@ -66,6 +66,16 @@ private Q_SLOTS:
         QCOMPARE(ImageFormat(read).width(), 40.0);
     }
 
+    void a_goal_for_one_side_keeps_the_proportions()
+    {
+        const Reading wide = ReadBody("{\\pict\\pngblip\\picwgoal1200 " + File("png").toHex() + "}\\par");
+        QCOMPARE(ImageFormat(wide).width(), 80.0); // of a picture of 40 by 20 pixels
+        QCOMPARE(ImageFormat(wide).height(), 40.0);
+        const Reading high = ReadBody("{\\pict\\pngblip\\pichgoal150 " + File("png").toHex() + "}\\par");
+        QCOMPARE(ImageFormat(high).width(), 20.0);
+        QCOMPARE(ImageFormat(high).height(), 10.0);
+    }
+
     void scaling_and_cropping()
     {
         // A quarter is cut off the left: half of what was red.
