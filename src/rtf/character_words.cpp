@@ -42,6 +42,7 @@ void SetCapitals(Reader& reader, const Argument& argument)
 
 constexpr WordEntry Entries[] = {
     {"plain", [](Reader& r, const Argument&) { r.ResetCharacter(); }},
+    {"cs", [](Reader& r, const Argument& a) { r.ApplyCharacterStyle(a.value); }},
     {"f", [](Reader& r, const Argument& a) { r.SetFont(a.value); }},
     {"fs", [](Reader& r, const Argument& a) { r.Character().size = a.Within(2, LargestSize, 24); }},
     {"b", SetFlag<&CharacterState::bold>},

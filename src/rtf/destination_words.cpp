@@ -23,6 +23,7 @@ void EnterGroup(Reader& reader, const Argument&)
 constexpr WordEntry Entries[] = {
     {"fonttbl", EnterGroup<Destination::Fonts>},
     {"colortbl", EnterGroup<Destination::Colors>},
+    {"stylesheet", EnterGroup<Destination::Styles>},
     {"listtable", EnterGroup<Destination::Lists>},
     {"listoverridetable", EnterGroup<Destination::ListOverrides>},
     {"fldinst", EnterGroup<Destination::FieldInstruction>},
@@ -46,7 +47,6 @@ constexpr WordEntry Entries[] = {
     {"ud", Nothing},
     {"nesttableprops", [](Reader& r, const Argument&) { r.State().isNestedTableProperties = true; }},
     {"nonesttables", SkipGroup},
-    {"stylesheet", SkipGroup},
     {"info", SkipGroup},
     {"header", SkipGroup},
     {"headerl", SkipGroup},

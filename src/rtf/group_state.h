@@ -14,6 +14,7 @@ enum class Destination : quint8 {
     Fonts,
     AlternativeFont,
     Colors,
+    Styles,
     Lists,
     ListOverrides,
     LevelText,

@@ -21,6 +21,7 @@ inline constexpr int MaxFormats = 12000;
 inline constexpr int MaxFonts = 4000;
 inline constexpr int MaxColors = 65536;
 inline constexpr int MaxLists = 4000;
+inline constexpr int MaxStyles = 4000;
 inline constexpr int MaxTabs = 64;
 /// Bytes of a field instruction, a font name, a list mark: all short texts that are gathered aside.
 inline constexpr int MaxAsideText = 8192;

@@ -83,6 +83,8 @@ struct ParagraphState {
     int list = 0;
     int listLevel = 0;
     ParagraphNumbering numbering;
+    /// Number of the style whose looks were taken on, 0 for none.
+    int style = 0;
     /// Depth of table that the paragraph stands in; 0 outside tables.
     int tableDepth = 0;
 

@@ -94,6 +94,7 @@ void SetBorderColor(Reader& reader, const Argument& argument)
 
 constexpr WordEntry Entries[] = {
     {"pard", [](Reader& r, const Argument&) { r.ResetParagraph(); }},
+    {"s", [](Reader& r, const Argument& a) { r.ApplyParagraphStyle(a.value); }},
     {"ql", SetAlignment<Alignment::Left>},
     {"qr", SetAlignment<Alignment::Right>},
     {"qc", SetAlignment<Alignment::Center>},

@@ -160,8 +160,17 @@ bool Reader::ConsumesFallback(const Token& token)
     return true;
 }
 
+void Reader::HandleStyleWord(const Token& token)
+{
+    const bool isOptional = std::exchange(starPending_, false);
+    if (!styles_.Take(token.text, {token.hasValue, token.value}) && isOptional)
+        Skip();
+}
+
 void Reader::HandleWord(const Token& token)
 {
+    if (state_.destination == Destination::Styles)
+        return HandleStyleWord(token);
     // The two halves of a character beyond the first plane come as two words.
     if (token.text == "u" || token.text == "uc")
         FlushBytes();
@@ -213,6 +222,8 @@ void Reader::OpenGroup()
         return;
     }
     groups_.push_back(state_);
+    if (state_.destination == Destination::Styles && state_.opensDestination)
+        styles_.BeginEntry();
     state_.opensDestination = false;
     state_.opensField = false;
 }
@@ -233,6 +244,8 @@ void Reader::CloseGroup()
     const GroupState ended = std::move(state_);
     state_ = std::move(groups_.back());
     groups_.pop_back();
+    if (state_.destination == Destination::Styles && state_.opensDestination)
+        styles_.EndEntry();
     if (ended.opensDestination)
         EndDestination(ended);
     if (ended.opensField)

@@ -9,6 +9,7 @@
 #include "rtf/list_table.h"
 #include "rtf/picture_source.h"
 #include "rtf/rtf_reader.h"
+#include "rtf/style_sheet.h"
 #include "rtf/tokenizer.h"
 
 #include <vector>
@@ -66,6 +67,10 @@ public:
     void SetDefaultTab(int twips);
     void ResetCharacter();
     void ResetParagraph();
+    /// Take on the looks of a style, unless they are spelled out behind its number: word processors do that,
+    /// and leave out what the text no longer shares with its style.
+    void ApplyParagraphStyle(int number);
+    void ApplyCharacterStyle(int number);
 
     void PutUnicode(int value);
     void PutCharacter(char16_t unit);
@@ -103,6 +108,7 @@ private:
 
     void Handle(const Token& token);
     void HandleWord(const Token& token);
+    void HandleStyleWord(const Token& token);
     void HandleSymbol(char symbol);
     void OpenGroup();
     void CloseGroup();
@@ -122,6 +128,9 @@ private:
     bool ConsumesFallback(const Token& token);
     QString* AsideText();
     int CurrentFormat();
+    bool SpellsLooksOut() const;
+    void ApplyStyle(const StyleWords& style);
+    void LeaveParagraphStyle();
     void FinishDraft();
     bool IsBody() const;
 
@@ -131,6 +140,7 @@ private:
     Budget budget_;
     FontTable fonts_;
     ColorTable colors_;
+    StyleSheet styles_;
     ListTable lists_;
     ListCounter counter_;
     Formats formats_;
@@ -152,6 +162,8 @@ private:
 
     int documentPage_ = 1252;
     int defaultFont_ = 0;
+    /// The characters as they were before the paragraph took on its style.
+    CharacterState beforeStyle_;
     CharacterState lastCharacter_;
     int lastFormat_ = -1;
     int bookmark_ = 0;

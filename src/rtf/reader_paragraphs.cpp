@@ -20,6 +20,7 @@ void Reader::FinishDraft()
     looks.list = 0;
     looks.listLevel = 0;
     looks.numbering = ParagraphNumbering();
+    looks.style = 0;
     looks.tableDepth = 0;
     draft.format = formats_.Paragraph(looks);
     draft.itemFormat = draft.format;
@@ -86,10 +87,61 @@ void Reader::ResetCharacter()
     state_.character = CharacterState();
     state_.character.link = before.link;
     SetFont(defaultFont_);
+    beforeStyle_ = state_.character;
+}
+
+void Reader::LeaveParagraphStyle()
+{
+    if (state_.paragraph.style == 0)
+        return;
+    const int link = state_.character.link;
+    state_.character = beforeStyle_;
+    state_.character.link = link;
+    SetFont(beforeStyle_.font);
+}
+
+void Reader::ApplyParagraphStyle(int number)
+{
+    LeaveParagraphStyle();
+    beforeStyle_ = state_.character;
+    const StyleWords* style = SpellsLooksOut() ? nullptr : styles_.OfParagraph(number);
+    state_.paragraph.style = style != nullptr ? number : 0;
+    if (style != nullptr)
+        ApplyStyle(*style);
+}
+
+/// Looks ahead as far as the words go that stand before the text.
+bool Reader::SpellsLooksOut() const
+{
+    constexpr int mostWords = 32;
+    Tokenizer ahead = tokens_;
+    for (int i = 0; i < mostWords; ++i) {
+        const Token token = ahead.Next();
+        if (token.kind != TokenKind::Word)
+            return false;
+        if (IsLook(FindWord(WordScope::Text, token.text)))
+            return true;
+    }
+    return false;
+}
+
+void Reader::ApplyStyle(const StyleWords& style)
+{
+    for (const StyleWord& look : style)
+        look.word->apply(*this, look.argument);
+    SelectBorder(nullptr);
+}
+
+void Reader::ApplyCharacterStyle(int number)
+{
+    const StyleWords* style = styles_.OfCharacter(number);
+    if (style != nullptr && !SpellsLooksOut())
+        ApplyStyle(*style);
 }
 
 void Reader::ResetParagraph()
 {
+    LeaveParagraphStyle();
     state_.paragraph = ParagraphState();
     SelectBorder(nullptr);
 }

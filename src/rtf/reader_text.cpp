@@ -55,6 +55,7 @@ void Reader::PutBytes(std::string_view bytes)
         }
         return;
     case Destination::Hidden:
+    case Destination::Styles:
         return;
     default:
         break;

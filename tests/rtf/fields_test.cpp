@@ -99,13 +99,6 @@ private Q_SLOTS:
                  QStringLiteral("anew€b"));
     }
 
-    void style_sheets_change_nothing_by_themselves()
-    {
-        const Reading read = ReadBody("{\\stylesheet{\\s1\\b\\fs40 heading 1;}}\\pard\\s1\\i text\\par");
-        QVERIFY(read.Format("text").fontWeight() != int(QFont::Bold));
-        QVERIFY(read.Format("text").fontItalic());
-    }
-
     void text_in_drawn_shapes_is_shown()
     {
         QVERIFY(
