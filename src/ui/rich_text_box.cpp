@@ -20,8 +20,12 @@ RichTextBox::RichTextBox(Container& container, const QString& name, const Twips&
 {
     pane_->setOpenLinks(false);
     pane_->setUndoRedoEnabled(false);
-    connect(pane_, &QTextBrowser::anchorClicked, this,
-            [](const QUrl& address) { ShellExecute(address.toString(QUrl::FullyEncoded)); });
+    connect(pane_, &QTextBrowser::anchorClicked, this, [this](const QUrl& address) {
+        if (address.isRelative() && address.path().isEmpty())
+            pane_->scrollToAnchor(address.fragment(QUrl::FullyDecoded));
+        else
+            ShellExecute(address.toString(QUrl::FullyEncoded));
+    });
     WatchInput(pane_->viewport());
 }
 

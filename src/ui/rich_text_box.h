@@ -8,7 +8,8 @@ class QTextDocument;
 namespace torvik {
 
 /// A pane that shows a rich-text file with its own fonts and pictures. Its text can be selected, copied and
-/// scrolled, not changed. A click on a web or mail address opens it in the desktop's own program.
+/// scrolled, not changed. A click on a web or mail address opens it in the desktop's own program, one on a
+/// link inside the document brings its place into view.
 class RichTextBox : public Control {
 public:
     RichTextBox(Container& container, const QString& name, const Twips& design);

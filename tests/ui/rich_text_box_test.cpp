@@ -3,6 +3,7 @@
 #include "ui/rich_text_box.h"
 #include "ui_room.h"
 
+#include <QScrollBar>
 #include <QTextBrowser>
 
 using namespace torvik;
@@ -99,6 +100,20 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("http://example.com/a"), QStringLiteral("https://example.com/b"),
                               QStringLiteral("mailto:a@example.com")}));
         QVERIFY(!Pane().source().isValid());
+    }
+
+    void a_link_inside_the_document_brings_its_place_into_view()
+    {
+        const Desktop desktop;
+        Main->rtbText.SetFileName(folder_.Add(
+            QStringLiteral("a.rtf"),
+            "{\\rtf1 {\\field{\\*\\fldinst HYPERLINK \\\\l \"rear wheels\"}{\\fldrslt go}}\\par " +
+                QByteArray("line\\par ").repeated(200) + "{\\*\\bkmkstart rear wheels}there\\par}"));
+        QScrollBar& bar = *Pane().verticalScrollBar();
+        QVERIFY(bar.maximum() > 0);
+        QTest::mouseClick(Pane().viewport(), Qt::LeftButton, {}, Pane().cursorRect().center() + QPoint(4, 0));
+        QCOMPARE(bar.value(), bar.maximum());
+        QVERIFY(desktop.Opened.isEmpty());
     }
 
 private:
