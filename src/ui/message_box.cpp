@@ -88,6 +88,26 @@ bool IsAnyWindowTopmost()
     });
 }
 
+/// On a display without a window manager nobody else hands the keyboard to a box and back.
+class KeyboardLoan {
+public:
+    explicit KeyboardLoan(QWidget& box) : lender_(QApplication::activeWindow())
+    {
+        QMetaObject::invokeMethod(
+            &box, [&box] { box.activateWindow(); }, Qt::QueuedConnection);
+    }
+    ~KeyboardLoan()
+    {
+        if (lender_ != nullptr && lender_->isVisible())
+            lender_->activateWindow();
+    }
+    KeyboardLoan(const KeyboardLoan&) = delete;
+    KeyboardLoan& operator=(const KeyboardLoan&) = delete;
+
+private:
+    QPointer<QWidget> lender_;
+};
+
 int Ask(const MessageRequest& request)
 {
     QMessageBox box(QApplication::activeWindow());
@@ -109,6 +129,7 @@ int Ask(const MessageRequest& request)
         answers.insert(button, choice.Answer);
     }
     const int onlyAnswer = answers.size() == 1 ? msgbox::answerOk : msgbox::answerCancel;
+    const KeyboardLoan loan(box);
     box.exec();
     return answers.value(box.clickedButton(), onlyAnswer);
 }

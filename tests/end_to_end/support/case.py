@@ -22,8 +22,8 @@ class ProgramTest(unittest.TestCase):
     def make_disc(self, further=()):
         return SmallDisc(self.folder / "disc", further)
 
-    def make_screen(self, width=800, height=600):
-        screen = Screen(width, height)
+    def make_screen(self, width=800, height=600, managed=True):
+        screen = Screen(width, height, managed)
         self.addCleanup(screen.__exit__)
         return screen
 

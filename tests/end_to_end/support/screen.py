@@ -12,7 +12,8 @@ _ENDS_WITH_US = ["setpriv", "--pdeathsig", "KILL"]
 class Screen:
     """Measured in its own pixels, from the upper left corner."""
 
-    def __init__(self, width=800, height=600):
+    def __init__(self, width=800, height=600, managed=True):
+        """`managed` says whether a window manager runs on it."""
         self.width, self.height = width, height
         reading, writing = os.pipe()
         self._server = subprocess.Popen(
@@ -25,18 +26,23 @@ class Screen:
         if not number:
             raise RuntimeError("Xvfb does not start")
         self.environment = {**os.environ, "DISPLAY": f":{number}", "QT_QPA_PLATFORM": "xcb"}
-        self._manager = subprocess.Popen(
-            [*_ENDS_WITH_US, "openbox", "--sm-disable"], env=self.environment,
-            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until(self._is_managed, "the window manager")
+        self._helpers = [self._server]
+        if managed:
+            self._start_manager()
 
     def __enter__(self):
         return self
 
     def __exit__(self, *_):
-        for process in (self._manager, self._server):
+        for process in reversed(self._helpers):
             process.terminate()
             process.wait()
+
+    def _start_manager(self):
+        self._helpers.append(subprocess.Popen(
+            [*_ENDS_WITH_US, "openbox", "--sm-disable"], env=self.environment,
+            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        wait_until(self._is_managed, "the window manager")
 
     def _is_managed(self):
         answer = self._run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
