@@ -61,12 +61,15 @@ Form1Controls::Form1Controls()
 
     panYear.SetAutoSize(true);
     panPhoto.SetToolTip(QStringLiteral("Double-click to show photo #1"));
+    panPhoto.SetTabStop();
+    Image4.SetTabStop();
     SpinButton1.SetSpokenAs(QStringLiteral("Next photo"), QStringLiteral("Previous photo"));
     Image4.SetToolTip(QStringLiteral("Click the Right mouse button to copy photo or add to Screen Saver"));
     txtFile.Hide();
     rtbDetails.Hide();
     for (PictureBox* pane : {&picEmblem, &picEmbSide, &picEmbRear, &picScript, &picClipArt}) {
         pane->SetToolTip(copyTip);
+        pane->SetTabStop();
         pane->Hide();
     }
 }

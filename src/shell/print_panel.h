@@ -34,8 +34,8 @@ struct PrintPanel {
     Panel pnlPrint;
     Image Image3;
     Label Label3;
-    ControlArray<CheckBox> Check1; ///< 0 and 1 without a year, 2 to 7 by year
     Frame Frame2;
+    ControlArray<CheckBox> Check1; ///< 0 and 1 without a year, 2 to 7 by year, in the frame
     Label Label5;
     Label Label4;
     ControlArray<ListBox> List1; ///< 0 the first year of the range, 1 the last

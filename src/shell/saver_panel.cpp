@@ -9,6 +9,14 @@ namespace {
 constexpr int titleSize = 20;   // pixels
 constexpr int headingSize = 15; // pixels
 
+ControlArray<OptionButton> MakeOptions(Panel& panel)
+{
+    ControlArray<OptionButton> options(QStringLiteral("Option1"));
+    options.Add(0, panel, Twips{360, 1890, 2700, 330}, QStringLiteral("All Photos"));
+    options.Add(1, panel, Twips{360, 2325, 2700, 330}, QStringLiteral("Selected Photos"));
+    return options;
+}
+
 } // namespace
 
 SaverPanel::SaverPanel(Form& form)
@@ -18,8 +26,8 @@ SaverPanel::SaverPanel(Form& form)
              QStringLiteral("The Torvik Vollandry")),
       Label8(pnlSSaver, QStringLiteral("Label8"), {2580, 870, 3480, 360},
              QStringLiteral("Install Screen Saver")),
-      Option1(QStringLiteral("Option1")), Label9(pnlSSaver, QStringLiteral("Label9"), {3300, 1920, 2760, 300},
-                                                 QStringLiteral("Select the photo delay:")),
+      Option1(MakeOptions(pnlSSaver)), Label9(pnlSSaver, QStringLiteral("Label9"), {3300, 1920, 2760, 300},
+                                              QStringLiteral("Select the photo delay:")),
       panInterval(pnlSSaver, QStringLiteral("panInterval"), {3300, 2310, 1950, 360},
                   QStringLiteral("1 Second"), Bevel::Sunken),
       SpinInterval(pnlSSaver, QStringLiteral("SpinInterval"), {5310, 2310, 750, 360}),
@@ -27,8 +35,6 @@ SaverPanel::SaverPanel(Form& form)
       SSCommand5(pnlSSaver, QStringLiteral("SSCommand5"), {2220, 3120, 1860, 420}, QStringLiteral("Help")),
       SSCommand6(pnlSSaver, QStringLiteral("SSCommand6"), {4200, 3120, 1860, 420}, QStringLiteral("Cancel"))
 {
-    Option1.Add(0, pnlSSaver, Twips{360, 1890, 2700, 330}, QStringLiteral("All Photos"));
-    Option1.Add(1, pnlSSaver, Twips{360, 2325, 2700, 330}, QStringLiteral("Selected Photos"));
     Option1(0).SetValue(true);
     Label7.SetCaptionFont(titleSize, true, look::accent);
     Label8.SetCaptionFont(headingSize, true);

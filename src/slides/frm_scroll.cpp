@@ -28,6 +28,8 @@ frmScrollControls::frmScrollControls() : Form(DesignOfScroll())
         QStringLiteral("Click the left mouse button to zoom in. Click the Right mouse button to close."));
     picParent.SetToolTip(zoomOutTip);
     picChild.SetToolTip(zoomOutTip);
+    Image1.SetTabStop();
+    picChild.SetTabStop();
     HScroll1.SetSmallChange(arrowStep);
     VScroll1.SetSmallChange(arrowStep);
     SSCommand1.SetPicture(QStringLiteral(":/assets/button_close.png"), QStringLiteral("Close"));

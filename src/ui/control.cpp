@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QWidget>
 
 #include <algorithm>
@@ -245,6 +246,8 @@ bool Control::eventFilter(QObject* watched, QEvent* event)
     }
     case QEvent::KeyPress: {
         const auto* pressed = static_cast<QKeyEvent*>(event);
+        if (tabStop_ && PressedByKey(*pressed))
+            return true;
         return KeyPressed(KeyCodeOf(*pressed), ShiftStateOf(*pressed));
     }
     case QEvent::Resize:
@@ -272,6 +275,32 @@ void Control::MouseReleased(int button, bool inside)
     pressed_ = pressed_ && button != mouse::left;
     if (click)
         Click.Fire();
+}
+
+void Control::SetTabStop()
+{
+    tabStop_ = true;
+    widget_->setFocusPolicy(Qt::TabFocus);
+}
+
+/// A key that is held is one press.
+bool Control::PressedByKey(const QKeyEvent& event)
+{
+    const bool isMenuKey = event.key() == Qt::Key_Menu ||
+                           (event.key() == Qt::Key_F10 && event.modifiers().testFlag(Qt::ShiftModifier));
+    const bool isLeft =
+        event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if ((!isMenuKey && !isLeft) || event.isAutoRepeat())
+        return isMenuKey || isLeft;
+    if (isLeft && DblClick.IsBound()) {
+        DblClick.Fire();
+        return true;
+    }
+    const QPointer<Control> self(this);
+    MousePressed(isLeft ? mouse::left : mouse::right);
+    if (self != nullptr)
+        MouseReleased(isLeft ? mouse::left : mouse::right, true);
+    return true;
 }
 
 /// A handler that moved the focus away has used the key up: it must not act on this control as well.

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 
+class QKeyEvent;
 class QWidget;
 
 namespace torvik {
@@ -67,6 +68,10 @@ public:
     QString ToolTip() const;
     void SetToolTip(const QString& text);
 
+    /// Lets the Tab key come to a control that is no button, such as a picture: there space and Enter are the
+    /// left click (the double click where that is bound), the Menu key or Shift+F10 the right mouse button.
+    void SetTabStop();
+
     Form& OwnerForm() const { return container_.OwnerForm(); }
     QWidget& Widget() const { return *widget_; }
 
@@ -105,12 +110,14 @@ private:
     bool MousePressed(int button);
     void MouseReleased(int button, bool inside);
     bool KeyPressed(int code, int shift);
+    bool PressedByKey(const QKeyEvent& event);
 
     Container& container_;
     QWidget* widget_;
     QWidget* inner_ = nullptr;
     Twips place_;
     bool pressed_ = false;
+    bool tabStop_ = false;
 };
 
 } // namespace torvik

@@ -5,6 +5,7 @@
 #include "ui/disabled_input.h"
 #include "ui/form_window.h"
 #include "ui/program_end.h"
+#include "ui/spoken_roles.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -22,6 +23,7 @@ Form::Form(FormDesign design)
     : design_(std::move(design)), settling_(new QTimer(this)), window_(new FormWindow(*this))
 {
     WatchDisabledForms();
+    InstallSpokenRoles();
     settling_->setSingleShot(true);
     connect(settling_, &QTimer::timeout, this, &Form::Settle);
     place_.Width = design_.ClientWidth;
@@ -48,7 +50,7 @@ QString Form::Caption() const
 void Form::SetCaption(const QString& caption)
 {
     window_->setWindowTitle(caption);
-    window_->setAccessibleName(caption);
+    window_->setAccessibleName(caption.isEmpty() ? design_.Name : caption);
 }
 
 Form::State Form::WindowState() const

@@ -2,6 +2,7 @@
 
 #include "platform/failure.h"
 #include "ui/label.h"
+#include "ui/picture_widget.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -10,7 +11,7 @@
 namespace torvik {
 
 Image::Image(Container& container, const QString& name, const Twips& design, Fit fit)
-    : Control(container, name, new QLabel, design), label_(static_cast<QLabel*>(&Widget())), fit_(fit)
+    : Control(container, name, new PictureWidget, design), label_(static_cast<QLabel*>(&Widget())), fit_(fit)
 {
     label_->setAlignment(Qt::AlignCenter);
 }

@@ -1,10 +1,10 @@
 #include "ui/media_bar.h"
 
 #include "ui/button_widget.h"
+#include "ui/group_widget.h"
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QWidget>
 
 #include <cmath>
 #include <functional>
@@ -51,7 +51,7 @@ private:
 };
 
 MediaBar::MediaBar(Container& container, const QString& name, const Twips& design)
-    : Control(container, name, new QWidget, design)
+    : Control(container, name, new GroupWidget, design)
 {
     for (int index = 0; index < mediaButtonCount; ++index)
         buttons_[static_cast<size_t>(index)] = MakeButton(static_cast<MediaButton>(index));

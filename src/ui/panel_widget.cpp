@@ -1,5 +1,6 @@
 #include "ui/panel_widget.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 namespace torvik {
@@ -18,6 +19,8 @@ void PanelWidget::SetFlood(int percent)
 {
     flood_ = percent;
     update();
+    QAccessibleValueChangeEvent event(this, percent);
+    QAccessible::updateAccessibility(&event);
 }
 
 void PanelWidget::SetCaptionColour(const QColor& colour)
@@ -38,6 +41,8 @@ void PanelWidget::paintEvent(QPaintEvent* /*event*/)
                 colour_);
     if (flood_ > 0)
         PaintFlood(painter, face);
+    if (hasFocus())
+        DrawFocus(painter, face);
 }
 
 /// The filled part shows the caption in the colour of the bare one, so the number stays readable at its edge.

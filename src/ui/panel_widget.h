@@ -13,6 +13,8 @@ public:
 
     /// Percent of the face that is filled; below 0 for a panel that is no gauge.
     void SetFlood(int percent);
+    int Flood() const { return flood_; }
+    bool IsGauge() const { return flood_ >= 0; }
     void SetCaptionColour(const QColor& colour);
 
 protected:

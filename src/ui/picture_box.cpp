@@ -1,6 +1,7 @@
 #include "ui/picture_box.h"
 
-#include <QLabel>
+#include "ui/picture_widget.h"
+
 #include <QPixmap>
 
 #include <utility>
@@ -8,7 +9,8 @@
 namespace torvik {
 
 PictureBox::PictureBox(Container& container, const QString& name, const Twips& design, Scale scale)
-    : Control(container, name, new QLabel, design), label_(static_cast<QLabel*>(&Widget())), scale_(scale)
+    : Control(container, name, new PictureWidget, design), label_(static_cast<QLabel*>(&Widget())),
+      scale_(scale)
 {
     label_->setAutoFillBackground(true);
 }

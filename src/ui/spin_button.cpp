@@ -1,13 +1,12 @@
 #include "ui/spin_button.h"
 
 #include "ui/button_widget.h"
-
-#include <QWidget>
+#include "ui/group_widget.h"
 
 namespace torvik {
 
 SpinButton::SpinButton(Container& container, const QString& name, const Twips& design)
-    : Control(container, name, new QWidget, design), up_(MakeArrow(QStringLiteral("Up"))),
+    : Control(container, name, new GroupWidget, design), up_(MakeArrow(QStringLiteral("Up"))),
       down_(MakeArrow(QStringLiteral("Down")))
 {
     connect(up_, &QAbstractButton::clicked, this, [this] { SpinUp.Fire(); });
