@@ -196,7 +196,7 @@ void MediaControl::Tick()
         const auto picture = stream_->TakeNextPicture();
         if (picture)
             ShowPicture(*picture);
-        if (picture || stream_->AtEnd())
+        if (picture || stream_->AtEnd() || !stream_->Info().HasPictures)
             wantsPicture_ = false;
     } else
         ticks_->stop();

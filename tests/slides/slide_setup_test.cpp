@@ -38,11 +38,13 @@ private Q_SLOTS:
     void the_show_starts_with_a_delay_of_one_second()
     {
         state.SlideDelay = 15000;
+        Form1->panInterval.SetCaption(QStringLiteral("15 Seconds"));
         QVERIFY(InSlideShow(*program_, [&] {
             QCOMPARE(state.SlideDelay, 1000);
             QCOMPARE(frmSlide->panInterval.Caption(), QStringLiteral(" 1 second"));
             QVERIFY(frmSlide->SpinInterval.Enabled());
         }));
+        QCOMPARE(Form1->panInterval.Caption(), QStringLiteral("15 Seconds")); // the panel of the screen saver
     }
 
     void a_delay_chosen_in_an_earlier_show_is_not_kept()

@@ -8,6 +8,7 @@
 #include "ui_room.h"
 
 #include <QElapsedTimer>
+#include <QTimer>
 
 using namespace torvik;
 
@@ -293,6 +294,19 @@ private Q_SLOTS:
         QVERIFY(std::abs(device.Position() - 2000) < 100);
         Do({"step", "back"}); // a sound has no pictures
         QVERIFY(std::abs(device.Position() - 2000) < 100);
+    }
+
+    void a_sound_that_stands_lets_the_machine_rest()
+    {
+        MediaControl& device = Cinema->Device;
+        device.SetFileName(folder_.Add(QStringLiteral("horns.wav"), Wave()));
+        Do({"open", "play"});
+        QTRY_VERIFY((Clock::Turn(50), device.Position() > 200));
+        const auto* ticks = device.findChild<QTimer*>();
+        QVERIFY(ticks->isActive());
+        Do({"stop", "prev"});
+        QCOMPARE(device.Position(), 0);
+        QTRY_VERIFY(!ticks->isActive());
     }
 
     void a_movie_whose_file_is_deleted_while_it_plays_goes_on_to_an_end()
