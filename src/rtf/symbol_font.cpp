@@ -56,9 +56,10 @@ char16_t SymbolCharacter(const QString& family, char16_t unit)
     if (unit > 0xff && !isPrivate)
         return unit;
     const auto place = static_cast<char16_t>(unit & 0xff);
-    const char16_t found = family.startsWith(QLatin1StringView("Wingdings"), Qt::CaseInsensitive)
-                               ? OrnamentSymbol(place)
-                               : GreekSymbol(place);
+    // The many fonts of ornaments agree in the most usual ones; none of them holds Greek letters.
+    const bool isGreek =
+        family.isEmpty() || family.contains(QLatin1StringView("Symbol"), Qt::CaseInsensitive);
+    const char16_t found = isGreek ? GreekSymbol(place) : OrnamentSymbol(place);
     return found == place && isPrivate ? unit : found;
 }
 

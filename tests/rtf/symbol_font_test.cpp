@@ -30,6 +30,18 @@ private Q_SLOTS:
         QCOMPARE(QChar(SymbolCharacter(QStringLiteral("Wingdings"), 0xa7)), QChar(u'▪'));
     }
 
+    void no_font_of_ornaments_is_taken_for_greek()
+    {
+        for (const char* family : {"Webdings", "Monotype Sorts", "ZapfDingbats"}) {
+            const QString name = QLatin1String(family);
+            QCOMPARE(QChar(SymbolCharacter(name, u'l')), QChar(u'●'));
+            QCOMPARE(QChar(SymbolCharacter(name, u'n')), QChar(u'■'));
+            QCOMPARE(QChar(SymbolCharacter(name, u'b')), QChar(u'b'));
+        }
+        QCOMPARE(QChar(SymbolCharacter(QStringLiteral("Euclid Symbol"), u'b')), QChar(u'β'));
+        QCOMPARE(QChar(SymbolCharacter(QString(), u'b')), QChar(u'β'));
+    }
+
     void ordinary_characters_stay()
     {
         QCOMPARE(QChar(SymbolCharacter(QStringLiteral("Symbol"), u'é' + 0x1000)), QChar(u'é' + 0x1000));
