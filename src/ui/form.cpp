@@ -5,7 +5,6 @@
 #include "ui/disabled_input.h"
 #include "ui/form_window.h"
 #include "ui/program_end.h"
-#include "ui/spoken_roles.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -23,7 +22,6 @@ Form::Form(FormDesign design)
     : design_(std::move(design)), settling_(new QTimer(this)), window_(new FormWindow(*this))
 {
     WatchDisabledForms();
-    InstallSpokenRoles();
     settling_->setSingleShot(true);
     connect(settling_, &QTimer::timeout, this, &Form::Settle);
     place_.Width = design_.ClientWidth;

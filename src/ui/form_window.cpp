@@ -1,6 +1,7 @@
 #include "ui/form_window.h"
 
 #include "ui/form.h"
+#include "ui/spoken_roles.h"
 
 #include <QAbstractButton>
 #include <QCloseEvent>
@@ -22,6 +23,7 @@ QPointer<FormWindow>& LastActiveWindow()
 
 FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
 {
+    InstallSpokenRoles();
     const FormDesign& design = form.Design();
     setObjectName(design.Name);
     setAccessibleName(design.Caption.isEmpty() ? design.Name : design.Caption);

@@ -1,5 +1,6 @@
 #include "ui/spoken_roles.h"
 
+#include "ui/form_window.h"
 #include "ui/group_widget.h"
 #include "ui/panel_widget.h"
 
@@ -9,10 +10,10 @@ namespace torvik {
 
 namespace {
 
-/// A group says its name and what lies in it.
-class SpokenGroup : public QAccessibleWidget {
+/// Something that says its name and what lies in it.
+class SpokenWidget : public QAccessibleWidget {
 public:
-    explicit SpokenGroup(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
+    SpokenWidget(QWidget* widget, QAccessible::Role role) : QAccessibleWidget(widget, role) {}
 };
 
 /// A panel becomes a gauge or a container only after a screen reader may have met it, so it is asked each
@@ -52,7 +53,9 @@ QAccessibleInterface* Speaking(const QString& /*className*/, QObject* object)
     if (auto* panel = dynamic_cast<PanelWidget*>(object))
         return new SpokenPanel(*panel);
     if (auto* group = dynamic_cast<GroupWidget*>(object))
-        return new SpokenGroup(group);
+        return new SpokenWidget(group, QAccessible::Grouping);
+    if (auto* window = dynamic_cast<FormWindow*>(object))
+        return new SpokenWidget(window, QAccessible::Window);
     return nullptr;
 }
 

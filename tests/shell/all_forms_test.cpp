@@ -131,7 +131,9 @@ private Q_SLOTS:
     void every_control_is_told_as_what_it_is_data() { AddRowForEachForm(); }
     void every_control_is_told_as_what_it_is()
     {
-        for (QWidget* widget : NamedWidgets(FormNamed(*program_, CurrentName()))) {
+        Form& form = FormNamed(*program_, CurrentName());
+        QCOMPARE(RoleOf(form.Window()), QAccessible::Window);
+        for (QWidget* widget : NamedWidgets(form)) {
             const QList<QAccessible::Role> fitting = RolesFor(widget->objectName());
             QVERIFY2(fitting.contains(RoleOf(*widget)),
                      qPrintable(QStringLiteral("%1 has role %2")

@@ -28,6 +28,7 @@ private Q_SLOTS:
         QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("ShowStatusBar"));
         QVERIFY(Form1->CoversScreen());
         QVERIFY(state.TrayWindow != 0);
+        QCOMPARE(state.ApiResult, 1); // it was showing before
         QCOMPARE(state.TrayClassName, QStringLiteral("Shell_TrayWnd"));
         QCOMPARE(Form1->Left(), 0.0);
         QCOMPARE(Form1->Top(), 0.0);
@@ -43,6 +44,7 @@ private Q_SLOTS:
         QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("HideStatusBar"));
         QVERIFY(!Form1->CoversScreen());
         QCOMPARE(Form1->Width(), 12000.0);
+        QCOMPARE(state.ApiResult, 0); // it was hidden before
     }
 
     void a_real_change_of_size_brings_the_bar_back()
