@@ -10,6 +10,7 @@
 #include "platform/text.h"
 #include "shell/form1.h"
 #include "shell/program_state.h"
+#include "ui/input_hold.h"
 #include "ui/message_box.h"
 #include "ui/paint_pace.h"
 #include "ui/screen.h"
@@ -55,8 +56,10 @@ void CopyFileOfList(QString (*nameOf)(int index))
         CopyFileWithGauges();
 }
 
+/// The play list enables Form1 when it is closed; that must let no second copy into this one.
 void CopyFilesOfList(QString (*nameOf)(int index), const Integer& count)
 {
+    const InputHold hold(*Form1);
     const PaintPace pace(*Form1);
     for (state.LoopIndex = 1; state.LoopIndex <= count; state.LoopIndex += 1)
         CopyFileOfList(nameOf);

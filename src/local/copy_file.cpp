@@ -10,6 +10,7 @@
 #include "shell/program_state.h"
 #include "ui/application.h"
 #include "ui/message_box.h"
+#include "ui/program_end.h"
 
 #include <algorithm>
 #include <functional>
@@ -33,6 +34,17 @@ Integer CountBlocks(qint64 size, qsizetype blockSize)
     return static_cast<int>(std::min<qint64>(size / blockSize, std::numeric_limits<int>::max()));
 }
 
+/// A program that ends meanwhile takes the half copy away: at the next start it would pass for a whole one.
+void LetEventsRun(const QString& target)
+{
+    try {
+        DoEvents();
+    } catch (const ProgramEnd&) {
+        ResumeNext([&] { DeleteFile(target); });
+        throw;
+    }
+}
+
 void Copy(const QString& source, const QString& target, const BlockWise& way)
 {
     const qint64 size = FileLength(source);
@@ -50,7 +62,7 @@ void Copy(const QString& source, const QString& target, const BlockWise& way)
         input.Read(buffer, way.BlockSize);
         way.BlockRead(static_cast<double>(block * way.BlockSize) / static_cast<double>(size) * 100);
         output.Write(buffer, way.BlockSize);
-        DoEvents();
+        LetEventsRun(target);
     }
     way.BlocksWritten();
     if (const qint64 rest = size - blocks * way.BlockSize; rest != 0) {

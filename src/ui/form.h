@@ -99,8 +99,9 @@ public:
     MousePointer Pointer() const;
     void SetMousePointer(MousePointer pointer);
 
-    /// A disabled form takes no input; it does not turn grey.
-    bool Enabled() const { return enabled_; }
+    /// A disabled form takes no input; it does not turn grey. While an InputHold stands the form is disabled,
+    /// and what is set takes effect behind it.
+    bool Enabled() const { return enabled_ && holds_ == 0; }
     void SetEnabled(bool enabled);
 
     /// The button that answers Escape while its own flags say visible and enabled; null for none.
@@ -131,6 +132,7 @@ protected:
 private:
     friend class FormHandleBase;
     friend class FormWindow;
+    friend class InputHold;
 
     double FrameTwips() const;
     bool FillsScreen() const;
@@ -157,6 +159,7 @@ private:
     Button* cancelButton_ = nullptr;
     Twips place_;
     bool enabled_ = true;
+    int holds_ = 0; ///< how many stand
     bool covering_ = false;
     bool shownBefore_ = false;
     bool settled_ = true;

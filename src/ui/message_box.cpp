@@ -6,6 +6,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -108,6 +110,18 @@ private:
     QPointer<QWidget> lender_;
 };
 
+/// Makes the box as wide as its title wants to be shown whole; around a short text it would be narrower. The
+/// desktop draws the title in a font of its own, mostly a bold one, between an icon and buttons.
+void MakeRoomForTitle(QMessageBox& box)
+{
+    constexpr int iconAndButtons = 160; // pixels
+    QFont font = box.font();
+    font.setBold(true);
+    const int width = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + iconAndButtons;
+    auto* rows = static_cast<QGridLayout*>(box.layout());
+    rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), 0, 1, rows->columnCount());
+}
+
 int Ask(const MessageRequest& request)
 {
     QMessageBox box(QApplication::activeWindow());
@@ -128,6 +142,7 @@ int Ask(const MessageRequest& request)
             box.setDefaultButton(button);
         answers.insert(button, choice.Answer);
     }
+    MakeRoomForTitle(box);
     const int onlyAnswer = answers.size() == 1 ? msgbox::answerOk : msgbox::answerCancel;
     const KeyboardLoan loan(box);
     box.exec();

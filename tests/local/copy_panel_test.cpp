@@ -1,4 +1,5 @@
 #include "local/copy_panel.h"
+#include "local/frm_ss_photo.h"
 #include "platform/disk_space.h"
 #include "platform/failure.h"
 #include "platform/program_folder.h"
@@ -301,7 +302,43 @@ private Q_SLOTS:
         QVERIFY(ProgramIsEnding());
         QCOMPARE(program_->Messages.Count(), 0);
         QCOMPARE(OpenFileCount(), before);
-        QVERIFY(!QFileInfo::exists(program_->InProgramFolder(QStringLiteral("Torviks/67B.JPG"))));
+        // Neither the rest of the photos nor the half of one.
+        QCOMPARE(QDir(program_->InProgramFolder(QStringLiteral("Torviks"))).entryList(QDir::Files),
+                 QStringList());
+    }
+
+    void closing_the_play_list_in_mid_copy_lets_nothing_overtake_the_copy()
+    {
+        for (const char* name : {"67A", "68A", "69A"})
+            program_->Disc.AddFile(QStringLiteral("Torviks/%1.JPG").arg(QString::fromLatin1(name)),
+                                   MixedBytes(75'000));
+        program_->Click(Form1->Image4, Qt::RightButton);
+        Form1->mnuCopy.Click.Fire();
+        int tries = 0;
+        {
+            const EachRound round([&] {
+                if (Form1->cmdCopy.Enabled() || !Form1->pnlProgress.Visible() || ++tries > 3)
+                    return;
+                if (frmSSPhoto.IsLoaded())
+                    QTest::mouseClick(&frmSSPhoto->SSCommand9.Widget(), Qt::LeftButton);
+                QTest::mouseClick(&Form1->cmdExit.Widget(), Qt::LeftButton);
+                QTest::mouseClick(&Form1->cmdYR(3).Widget(), Qt::LeftButton);
+                Form1->Host().window()->close();
+            });
+            program_->Click(Form1->cmdCopy);
+        }
+        QVERIFY(tries > 3);
+        QVERIFY(!frmSSPhoto.IsLoaded());
+        QVERIFY(!ProgramIsEnding());
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+        for (const char* name : {"67A", "68A", "69A"})
+            QCOMPARE(BytesOf(program_->InProgramFolder(
+                         QStringLiteral("Torviks/%1.JPG").arg(QString::fromLatin1(name)))),
+                     MixedBytes(75'000));
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(Form1->Enabled());
+        program_->Click(Form1->cmdExit);
+        QVERIFY(ProgramIsEnding());
     }
 
 private:

@@ -269,6 +269,39 @@ private Q_SLOTS:
         QVERIFY(!frmSSPhoto->Visible());
     }
 
+    void the_program_may_be_closed_in_mid_add_and_keeps_no_half_photo()
+    {
+        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), MixedBytes(5'000));
+        const qsizetype before = OpenFileCount();
+        {
+            const EachRound round([] {
+                if (frmSSPhoto->ProgressGuage.FloodPercent() == 40)
+                    Form1->mnuExit.Click.Fire();
+            });
+            program_->Click(frmSSPhoto->SSCommand7);
+        }
+        QVERIFY(ProgramIsEnding());
+        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(OpenFileCount(), before);
+        QCOMPARE(ListNames(), QStringList());
+    }
+
+    void add_pressed_again_in_mid_add_leaves_the_whole_photo()
+    {
+        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), MixedBytes(5'500));
+        bool again = false;
+        {
+            const EachRound round([&] {
+                if (!std::exchange(again, true))
+                    QTest::mouseClick(&frmSSPhoto->SSCommand7.Widget(), Qt::LeftButton);
+            });
+            program_->Click(frmSSPhoto->SSCommand7);
+        }
+        QCOMPARE(Listed(QStringLiteral("67A.JPG")), MixedBytes(5'500));
+        QVERIFY(!frmSSPhoto->SSCommand7.Enabled());
+        QVERIFY(frmSSPhoto->SSCommand8.Enabled());
+    }
+
 private:
     QByteArray Listed(const QString& name) const
     {

@@ -1,3 +1,4 @@
+#include "local/frm_ss_photo.h"
 #include "platform/disk_space.h"
 #include "platform/failure.h"
 #include "platform/program_folder.h"
@@ -388,6 +389,71 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(InstalledSaver()));
     }
 
+    void install_pressed_again_during_the_wait_installs_when_the_copy_is_done()
+    {
+        const WhileWaiting wait(WaitHasBegun, [&] {
+            program_->Messages.Answer(msgbox::answerYes);
+            const WhileWaiting inner(WaitHasBegun, [&] { program_->Click(Form1->cmdCopy); });
+            program_->Click(Form1->SSCommand4);
+            QVERIFY(inner.Ran());
+        });
+        InstallWithAYes();
+        QVERIFY(wait.Ran());
+        QVERIFY(!state.CopyForSaver);
+        QStringList texts;
+        for (const MessageRequest& box : program_->Messages.Shown())
+            texts.append(box.Text);
+        QCOMPARE(texts, (QStringList{question, question, QStringLiteral("Photos successfully copied!\r\n"),
+                                     success, success}));
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\Torviks\\"));
+        QCOMPARE(Content(InstalledSaver()), saverFile);
+    }
+
+    void install_pressed_again_with_a_no_installs_and_the_first_goes_on_waiting()
+    {
+        bool waits = false;
+        QString folder;
+        const WhileWaiting wait(WaitHasBegun, [&] {
+            program_->Messages.Answer(msgbox::answerNo);
+            program_->Click(Form1->SSCommand4);
+            folder = Setting("TorviksDir");
+            waits = state.CopyForSaver;
+            program_->Click(Form1->cmdCopy);
+        });
+        InstallWithAYes();
+        QVERIFY(wait.Ran());
+        QVERIFY(waits);
+        QCOMPARE(folder, QStringLiteral("G:\\Torviks\\"));
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\Torviks\\"));
+        QCOMPARE(program_->Messages.Last().Text, success);
+    }
+
+    void closing_the_program_ends_every_wait()
+    {
+        const WhileWaiting wait(WaitHasBegun, [&] {
+            program_->Messages.Answer(msgbox::answerYes);
+            const WhileWaiting inner(WaitHasBegun, [&] { Form1->Host().window()->close(); });
+            program_->Click(Form1->SSCommand4);
+        });
+        InstallWithAYes();
+        QVERIFY(ProgramIsEnding());
+        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(Setting("TorviksDir"), QStringLiteral("(none)"));
+    }
+
+    void closing_the_play_list_during_the_wait_leaves_the_copy_to_come()
+    {
+        program_->Click(Form1->Image4, Qt::RightButton);
+        const WhileWaiting wait(WaitHasBegun, [&] {
+            program_->Click(frmSSPhoto->SSCommand9);
+            program_->Click(Form1->cmdCopy);
+        });
+        InstallWithAYes();
+        QVERIFY(wait.Ran());
+        QVERIFY(!frmSSPhoto.IsLoaded());
+        QCOMPARE(program_->Messages.Last().Text, success);
+    }
+
     void a_copy_that_does_not_come_about_is_waited_for_without_an_end_data()
     {
         QTest::addColumn<QString>("reason");
@@ -602,6 +668,14 @@ private:
     {
         Form1->mnuSaver.Click.Fire();
         program_->Settle();
+    }
+
+    /// Opens the panel, presses Install and wants the photos copied; returns when that click is over.
+    void InstallWithAYes()
+    {
+        Open();
+        program_->Messages.Answer(msgbox::answerYes);
+        program_->Click(Form1->SSCommand4);
     }
 
     void Spin(const char* part)

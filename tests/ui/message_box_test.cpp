@@ -206,6 +206,26 @@ private Q_SLOTS:
         QCOMPARE(title, QStringLiteral("The Torvik Vollandry"));
     }
 
+    void a_box_with_a_short_text_is_wide_enough_for_its_title()
+    {
+        constexpr int iconAndButtons = 150; // pixels that a desktop takes of the caption
+        for (const QString& title :
+             {QString(), QStringLiteral("A title that is longer than any of ours is")}) {
+            int width = 0;
+            int wanted = 0;
+            Answer(
+                QStringLiteral("!"), msgbox::exclamation, QStringLiteral("OK"),
+                [&] {
+                    QFont bold = Box().font();
+                    bold.setBold(true);
+                    wanted = QFontMetrics(bold).horizontalAdvance(Box().windowTitle()) + iconAndButtons;
+                    width = Box().width();
+                },
+                title);
+            QVERIFY2(width >= wanted, qPrintable(QStringLiteral("%1 of %2").arg(width).arg(wanted)));
+        }
+    }
+
     void a_system_modal_box_stays_on_top()
     {
         bool onTop = false;
