@@ -1,6 +1,7 @@
 #include "shell/form1.h"
 #include "shell/program_state.h"
 #include "support/program.h"
+#include "support/test_movie.h"
 #include "ui/form_window.h"
 
 #include <QTest>
@@ -121,6 +122,19 @@ private Q_SLOTS:
         QCOMPARE(Form1->lblSound.Count(), 29);
     }
 
+    void a_sound_plays_at_once_and_stop_ends_it()
+    {
+        using Mode = MediaControl::Mode;
+        program_->Disc.AddFile(QStringLiteral("wav/taxi.wav"), TestMovie::Wav());
+        Open();
+        program_->Click(Form1->SSCommand2(5));
+        QCOMPARE(Form1->MMControl1.State(), Mode::Playing);
+        QTRY_VERIFY(Form1->MMControl1.Length() > 0);
+        QCOMPARE(Form1->MMControl1.State(), Mode::Playing);
+        program_->Click(Form1->SSCommand3);
+        QCOMPARE(Form1->MMControl1.State(), Mode::NotOpen);
+    }
+
     void a_second_sound_takes_the_place_of_the_first()
     {
         Open();
@@ -203,8 +217,8 @@ private Q_SLOTS:
     {
         Open();
         program_->Click(Form1->SSCommand2(0));
-        Form1->SetEnabled(true);
-        program_->Click(Form1->SSCommand1);
+        Form1->SetEnabled(false);
+        Form1->SSCommand1.Click.Fire();
         QVERIFY(!Form1->pnlSound.Visible());
         QVERIFY(Form1->Enabled());
         QVERIFY(Form1->MMControl1.IsOpen());

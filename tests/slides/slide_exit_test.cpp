@@ -119,6 +119,25 @@ private Q_SLOTS:
         QVERIFY(!Form1->cmdNostalgia.Enabled());
     }
 
+    void the_exit_itself_takes_the_code_of_the_topic()
+    {
+        QVERIFY(InSlideShow(*program_, [&] {
+            program_->Press(Qt::Key_Comma);
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("ZZB.JPG"));
+            ClickSlidePart(*program_, stopButton);
+            QCOMPARE(state.YearCode, QStringLiteral("ZZ"));
+        }));
+        QCOMPARE(state.YearCode, QStringLiteral("ZZ"));
+    }
+
+    void the_photos_of_2000_can_be_stepped_through_on_the_main_window()
+    {
+        QVERIFY(LeaveAt(QStringLiteral("A0B")));
+        program_->Press(Form1->cmdYR(35), Qt::Key_Comma);
+        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("A0A.JPG"));
+        QCOMPARE(state.YearCode, QStringLiteral("A0"));
+    }
+
     void the_photos_of_the_topic_can_be_stepped_through_on_the_main_window()
     {
         QVERIFY(LeaveAt(QStringLiteral("VCA")));
@@ -238,7 +257,9 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [&] {
             ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
             program_->Disc.Remove(QStringLiteral("Torviks/67B.JPG"));
+            state.SlideRestorePending = true;
             ClickSlidePart(*program_, stopButton);
+            QVERIFY(!state.SlideRestorePending);
             QCOMPARE(program_->Messages.Count(), 1);
             QCOMPARE(program_->Messages.Last().Text, reported);
             QVERIFY(frmSlide.IsLoaded() && frmSlide->Visible());
