@@ -1,5 +1,6 @@
 #include "printing/paged_text.h"
 
+#include "printing/keep_together.h"
 #include "printing/picture_fitting.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -65,6 +66,8 @@ PagedText::PagedText(const QTextDocument& text, QPaintDevice& device, const QSiz
     text_->documentLayout()->setPaintDevice(&device);
     text_->setPageSize(page_);
     FitPicturesToPages(*text_, scale);
+    KeepParagraphsTogether(*text_);
+    FitPicturesToPages(*text_, scale); // what moved may have brought a picture to a page's end
 }
 
 PagedText::~PagedText() = default;

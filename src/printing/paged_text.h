@@ -11,8 +11,9 @@ class QTextDocument;
 
 namespace torvik {
 
-/// A rich text laid out for a paint device on pages of one size. A page ends behind a whole line. A picture
-/// that fits a page stands on one page; a larger one is shrunk until it fits.
+/// A rich text laid out for a paint device on pages of one size. A page ends behind a whole line, and
+/// not inside a paragraph that is to be kept together. A picture that fits a page stands on one page; a
+/// larger one is shrunk until it fits.
 class PagedText {
 public:
     /// `page` is in the device's pixels. The device must live as long as this.

@@ -1,5 +1,6 @@
 #include "rtf/formats.h"
 #include "rtf/limits.h"
+#include "rtf/rtf_reader.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -90,7 +91,7 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
     SetLineHeight(format, state);
     SetTabs(format, state);
     if (state.keepTogether)
-        format.setNonBreakableLines(true);
+        format.setProperty(KeepTogetherProperty, true);
     if (state.breakBefore)
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     if (state.rightToLeft)

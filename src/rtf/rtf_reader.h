@@ -2,10 +2,15 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QTextFormat>
 
 class QTextDocument;
 
 namespace torvik::rtf {
+
+/// True in the block format of a paragraph that is to stand on one page. The toolkit itself knows nothing
+/// like it: lines that it calls unbreakable are never wrapped.
+inline constexpr int KeepTogetherProperty = QTextFormat::UserProperty + 1;
 
 /// What came of reading a document.
 struct ReadResult {

@@ -2,6 +2,7 @@
 
 #include <QTest>
 #include <QTextFrame>
+#include <QTextLayout>
 #include <QTextTable>
 
 using namespace torvik::rtf;
@@ -89,13 +90,22 @@ private Q_SLOTS:
 
     void keeping_together_and_page_breaks()
     {
-        QVERIFY(FormatOf("\\keep").nonBreakableLines());
+        QVERIFY(FormatOf("\\keep").property(KeepTogetherProperty).toBool());
+        QVERIFY(!FormatOf("\\keep\\keep0").property(KeepTogetherProperty).toBool());
         QCOMPARE(FormatOf("\\pagebb").pageBreakPolicy(), QTextFormat::PageBreak_AlwaysBefore);
         const Reading read = ReadBody("one\\par\\page two\\par three\\par");
         QCOMPARE(read.Block(QStringLiteral("two")).blockFormat().pageBreakPolicy(),
                  QTextFormat::PageBreak_AlwaysBefore);
         QCOMPARE(read.Block(QStringLiteral("three")).blockFormat().pageBreakPolicy(),
                  QTextFormat::PageBreak_Auto);
+    }
+
+    void a_paragraph_that_is_kept_together_is_wrapped_all_the_same()
+    {
+        const Reading read = ReadBody("\\pard\\keep " + QByteArray("some words ").repeated(60) + "\\par");
+        read.document->setTextWidth(400);
+        QVERIFY(read.document->size().width() <= 400);
+        QVERIFY(read.document->firstBlock().layout()->lineCount() > 5);
     }
 
     void a_page_break_inside_a_paragraph_ends_it()

@@ -1,0 +1,80 @@
+#include "printing/keep_together.h"
+#include "rtf/rtf_reader.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+
+using namespace torvik;
+
+/// Paragraphs that are to stand on one page.
+class KeepTogetherTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_page_never_ends_inside_a_kept_paragraph()
+    {
+        int moved = 0;
+        for (int before = 1; before < 60; ++before) {
+            const int kept = PagesOfParagraph(before, "\\keep", 6);
+            QCOMPARE(kept, 1);
+            moved += PagesOfParagraph(before, "", 6) - kept;
+        }
+        QVERIFY(moved > 0); // else no page ended there
+    }
+
+    void a_kept_paragraph_longer_than_a_page_stays_where_it_is()
+    {
+        QVERIFY(PagesOfParagraph(3, "\\keep", 90) > 1);
+        QCOMPARE(StartOfParagraph(3, "\\keep", 90), StartOfParagraph(3, "", 90));
+    }
+
+    void a_kept_paragraph_in_a_table_stays_in_its_cell()
+    {
+        QTextDocument document;
+        const QByteArray kept =
+            "\\pard\\intbl\\keep " + QByteArray("line\\line ").repeated(10) + "\\cell\\row";
+        Lay(document, "\\trowd\\cellx5000" + kept.repeated(12) + "\\pard end\\par");
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+            QCOMPARE(block.blockFormat().pageBreakPolicy(), QTextFormat::PageBreak_Auto);
+    }
+
+private:
+    static void Lay(QTextDocument& document, const QByteArray& body)
+    {
+        rtf::ReadRichText("{\\rtf1 " + body + "}", document);
+        document.setDocumentMargin(0);
+        document.setPageSize({500, 600});
+        KeepParagraphsTogether(document);
+    }
+    static void LayParagraph(QTextDocument& document, int before, const QByteArray& word, int lines)
+    {
+        Lay(document, QByteArray("line\\par ").repeated(before) + "\\pard" + word + " " +
+                          QByteArray("kept\\line ").repeated(lines - 1) + "kept\\par");
+    }
+    static double TopOf(const QTextDocument& document, int line)
+    {
+        const QTextBlock block = document.lastBlock();
+        const double top = document.documentLayout()->blockBoundingRect(block).top();
+        return top + block.layout()->lineAt(line).y();
+    }
+    /// On how many pages the last paragraph stands.
+    static int PagesOfParagraph(int before, const QByteArray& word, int lines)
+    {
+        QTextDocument document;
+        LayParagraph(document, before, word, lines);
+        const auto pageOf = [&](int line) { return static_cast<int>(TopOf(document, line) / 600); };
+        return pageOf(lines - 1) - pageOf(0) + 1;
+    }
+    static double StartOfParagraph(int before, const QByteArray& word, int lines)
+    {
+        QTextDocument document;
+        LayParagraph(document, before, word, lines);
+        return TopOf(document, 0);
+    }
+};
+
+QTEST_MAIN(KeepTogetherTest)
+#include "keep_together_test.moc"
