@@ -81,6 +81,21 @@ class Installation(SaverTest):
         self.assertEqual(saver.wait_for_end(), (0, "", ""))
 
 
+    def test_closing_the_window_while_an_installation_waits_for_copies_ends_the_program(self):
+        disc = self.make_disc()
+        program = self.start(self.make_screen(), disc.folder)
+        program.start_browsing()
+        program.choose("File", "Install Screen saver")
+        program.click("Install")
+        program.answer("Yes", title=SPLASH_TITLE)
+        program.wait_for("Copy Photos", role="push button")
+        program.click("69")
+        program.wait_for_view(title="1969", photo="69A.JPG")
+        program.click("Exit", window=MAIN_TITLE)
+        self.assertEqual(0, program.wait_for_end())
+        self.assertFalse(installed_saver(self.home).exists())
+
+
 class Show(SaverTest):
     def test_a_photo_covers_the_screen_with_its_proportions_kept(self):
         screen = self.make_screen()
