@@ -92,7 +92,8 @@ void FindDescription()
     } else if (Left(caption, 2) == QStringLiteral("20")) {
         state.DocumentTitle = FindArticleOfYear(descriptionRule);
     } else {
-        txtForm->SetCaption(FindArticleOfYear(descriptionRule));
+        const QString title = FindArticleOfYear(descriptionRule); // may fail before the viewer is touched
+        txtForm->SetCaption(title);
     }
 }
 

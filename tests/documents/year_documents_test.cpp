@@ -194,6 +194,13 @@ private Q_SLOTS:
         QCOMPARE(Program::Focus(), button); // a failure is pending, so the focus stays
     }
 
+    void a_disc_that_is_gone_leaves_the_viewer_of_a_description_untouched()
+    {
+        program_->PutDiscIn(QChar());
+        Click(QStringLiteral("cmdDesc"), QStringLiteral("1969"));
+        QVERIFY(!txtForm.IsLoaded());
+    }
+
     void with_nothing_chosen_only_the_description_does_something()
     {
         state.ErrorCode = QStringLiteral("ER999");
