@@ -2,6 +2,7 @@
 
 #include "rtf/emf.h"
 #include "rtf/gdi_canvas.h"
+#include "rtf/limits.h"
 #include "rtf/wmf.h"
 
 #include <algorithm>
@@ -55,7 +56,8 @@ QSize ImageSize(const GdiSurvey& survey, const QSizeF& shownSize, qint64 mostByt
         return {};
     if (wanted > most)
         size *= std::sqrt(most / wanted);
-    const QSize rounded = size.toSize().expandedTo({1, 1});
+    // What is a million times as long as wide is not drawn at its length.
+    const QSize rounded = size.boundedTo({MaxPictureSide, MaxPictureSide}).toSize().expandedTo({1, 1});
     return double(rounded.width()) * rounded.height() * 4 <= double(mostBytes) + 4096 ? rounded : QSize();
 }
 

@@ -240,6 +240,19 @@ private Q_SLOTS:
         QCOMPARE(At(image, 0, 1), QColor(Qt::blue));
     }
 
+    void a_bitmap_as_thin_as_a_hair_and_as_long_as_a_road_is_kept_in_bounds()
+    {
+        const QByteArray record =
+            Bytes()
+                .Longs({0, 0, 1, 100, 0, 0, 0, 0, 2, 2, 80, 40, 120, 16, 0, 0xcc0020, 1, 100'000'000})
+                .Raw(FourColors())
+                .Data();
+        const QImage image =
+            DrawEmf(ViewOf(Emf(200'000'000, 100, EmfRecord(81, record))), {50, 50}, Plenty).image;
+        QVERIFY(!image.isNull());
+        QVERIFY(image.width() <= 32767 && image.height() <= 32767);
+    }
+
     void records_of_no_size_and_of_all_sizes_end_the_drawing()
     {
         const QByteArray shape = Filled(0x0000ff) + WmfRecord(0x041b, Bytes().Words({50, 50, 0, 0}).Data());
