@@ -15,7 +15,8 @@ public:
 
     Image(Container& container, const QString& name, const Twips& design, Fit fit = Fit::Proportions);
 
-    /// Shows a file, or nothing for an empty path. On a failure (see Picture::Load) the earlier picture stays.
+    /// Shows a file, or nothing for an empty path. On a failure (see Picture::Load) the earlier picture
+    /// stays.
     void Load(const QString& path);
     void Show(const Picture& picture);
     using Control::Show;
