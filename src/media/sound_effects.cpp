@@ -53,12 +53,7 @@ void PlaySound(int index)
         ReportSound();
         return;
     }
-    MediaControl& device = Form1->MMControl1;
-    device.Command(QStringLiteral("close"));
-    device.SetDeviceType(QStringLiteral("WaveAudio"));
-    device.SetFileName(state.SoundFile);
-    device.Command(QStringLiteral("open"));
-    device.Command(QStringLiteral("play"));
+    PlayWave(Form1->MMControl1, state.SoundFile);
 }
 
 void SSCommand2_Click(int index)

@@ -34,12 +34,7 @@ void PlayPassby()
     state.SoundFile = ProgramFolder() + QStringLiteral("\\passby.wav");
     if (!FileExists(state.SoundFile))
         return;
-    MediaControl& device = Form2->MMControl1;
-    device.Command(QStringLiteral("close"));
-    device.SetDeviceType(QStringLiteral("WaveAudio"));
-    device.SetFileName(state.SoundFile);
-    device.Command(QStringLiteral("open"));
-    device.Command(QStringLiteral("play"));
+    PlayWave(Form2->MMControl1, state.SoundFile);
     state.ErrorCode = QStringLiteral("ER055");
 }
 

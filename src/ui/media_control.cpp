@@ -255,4 +255,13 @@ void MediaControl::SetDisplay(Control* where)
     pane_->ShowPicture(shown);
 }
 
+void PlayWave(MediaControl& device, const QString& path)
+{
+    device.Command(QStringLiteral("close"));
+    device.SetDeviceType(QStringLiteral("WaveAudio"));
+    device.SetFileName(path);
+    device.Command(QStringLiteral("open"));
+    device.Command(QStringLiteral("play"));
+}
+
 } // namespace torvik

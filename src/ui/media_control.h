@@ -99,4 +99,7 @@ private:
     qint64 startedAt_ = 0;
 };
 
+/// Cuts off what the device plays and begins with a wave file; does not wait for its end.
+void PlayWave(MediaControl& device, const QString& path);
+
 } // namespace torvik
