@@ -18,6 +18,7 @@ FormDesign DesignOfViewer()
 
 txtFormControls::txtFormControls() : Form(DesignOfViewer())
 {
+    Adopt(CommonDialog1);
     cmdPrint.SetPicture(QStringLiteral(":/assets/button_print.png"), QStringLiteral("Print"));
     SSCommand2.SetPicture(QStringLiteral(":/assets/button_play.png"), QStringLiteral("Play the narration"));
     SSCommand3.SetPicture(QStringLiteral(":/assets/button_stop.png"), QStringLiteral("Stop the narration"));

@@ -59,6 +59,9 @@ Form1Controls::Form1Controls()
     for (int index = 1; index <= yearCount; ++index)
         cmdYR.Add(index, Frame1, PlaceOfYearButton(index), CaptionOfYearButton(index));
 
+    Adopt(MMControl1);
+    Adopt(dlgCommon1);
+    Adopt(dlgPrint);
     panYear.SetAutoSize(true);
     panPhoto.SetToolTip(QStringLiteral("Double-click to show photo #1"));
     panPhoto.SetTabStop();

@@ -23,6 +23,7 @@ Form2Controls::Form2Controls() : Form(DesignOfForm2())
 {
     SetLeft((Screen.Width() - Width()) / 2);
     SetTop((Screen.Height() - Height()) / 2);
+    Adopt(MMControl1);
     SSPanel1.SetCaptionFont(14, true, look::accent);
     Image1.Show(Picture::FromResource(QStringLiteral(":/assets/splash.png")));
     Picture3.Show(Picture::FromResource(QStringLiteral(":/assets/icon.png")));

@@ -40,6 +40,11 @@ QWidget& Form::Host()
     return window_->Client();
 }
 
+void Form::Adopt(QObject& unseen)
+{
+    unseen.setParent(window_);
+}
+
 QString Form::Caption() const
 {
     return window_->windowTitle();

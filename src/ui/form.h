@@ -114,6 +114,10 @@ public:
     Event<bool&> QueryUnload; ///< may set its argument to keep the form
     Event<> Unload;           ///< the form is about to go
 
+    /// Puts a control that nobody sees (a device, a dialog) into the form's window, where it is found by
+    /// name.
+    void Adopt(QObject& unseen);
+
     QWidget& Host() override;
     Scale ScaleMode() const override { return design_.ScaleMode; }
     Form& OwnerForm() override { return *this; }
