@@ -1,5 +1,5 @@
-#include "sample/sounds/effects.h"
 #include "sample/in_parallel.h"
+#include "sample/sounds/effects.h"
 
 #include <QHash>
 #include <QSet>
