@@ -79,9 +79,8 @@ private Q_SLOTS:
         QTRY_VERIFY(stream.HasPicture());
         for (const int picture : {20, 3, 25, 0}) {
             stream.Seek(picture * TestMovie::pictureDuration + 1000);
-            QVERIFY(!stream.HasPicture());
             QVERIFY(!stream.AtEnd());
-            QTRY_VERIFY(stream.HasPicture());
+            QTRY_VERIFY(stream.HasPicture()); // the reader may have been quick enough to have it at once
             QVERIFY(std::abs(stream.TakeNextPicture()->Time - picture * TestMovie::pictureDuration) < 1000);
         }
     }
