@@ -93,7 +93,8 @@ QByteArray Article(qsizetype bytes)
     int pictures = 0;
     while (article.size() < bytes) {
         article += ParagraphNumber(number++);
-        if (pictures < Pictures && article.size() > bytes * (pictures + 1) / (Pictures + 1))
+        // As many in each mebibyte.
+        if (article.size() < bytes && article.size() > Mebibyte * (pictures + 1) / (Pictures + 1))
             article += Picture(++pictures);
     }
     return article + "}\r\n";
