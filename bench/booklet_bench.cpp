@@ -4,15 +4,15 @@
 // Usage: booklet_bench [DISC]    DISC is build/disc unless given
 
 #include "bind_handlers.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
 #include "ui/application.h"
-#include "ui/clock.h"
-#include "ui/event.h"
-#include "ui/message_box.h"
-#include "ui/printer.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/event.h"
+#include "ui/forms/message_box.h"
+#include "ui/printer/printer.h"
+#include "windows/form1.h"
+#include "windows/form2.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -1,17 +1,17 @@
 // The copying of 42 MB of photos with both gauges and a look at the events after each block, against the
 // system's cp on the same files; and how often the window is painted meanwhile.
 
-#include "local/copy_all.h"
+#include "hard_drive/copy_all.h"
 #include "measure.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "shell/program_state.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
 #include "ui/application.h"
-#include "ui/event.h"
-#include "ui/form_window.h"
-#include "ui/message_box.h"
+#include "ui/forms/event.h"
+#include "ui/forms/form_window.h"
+#include "ui/forms/message_box.h"
+#include "windows/form1.h"
+#include "windows/form2.h"
 
 #include <QApplication>
 #include <QDir>

@@ -4,15 +4,15 @@
 #include "av/media_reader.h"
 #include "bind_handlers.h"
 #include "measure.h"
-#include "media/frm_movie.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "shell/program_state.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
 #include "support/test_movie.h"
-#include "ui/file_source.h"
-#include "ui/message_box.h"
+#include "ui/forms/message_box.h"
+#include "ui/media/file_source.h"
+#include "windows/form1.h"
+#include "windows/form2.h"
+#include "windows/frm_movie.h"
 
 #include <QApplication>
 #include <QDir>

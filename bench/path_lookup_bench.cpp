@@ -1,7 +1,7 @@
 // Look-ups in a folder of 30,000 files under the wrong letter case against those under the right one.
 
 #include "measure.h"
-#include "platform/drives.h"
+#include "platform/paths/drives.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,8 +2,8 @@
 // a sort.
 
 #include "measure.h"
-#include "platform/drives.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
+#include "platform/paths/drives.h"
 
 #include <QDir>
 #include <QFile>

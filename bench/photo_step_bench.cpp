@@ -3,13 +3,13 @@
 
 #include "bind_handlers.h"
 #include "measure.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
 #include "scene.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "ui/clock.h"
-#include "ui/form_window.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/form_window.h"
+#include "windows/form1.h"
+#include "windows/form2.h"
 
 #include <QApplication>
 #include <QDir>

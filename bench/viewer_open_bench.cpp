@@ -2,12 +2,12 @@
 // against the same viewer on an article of one word.
 
 #include "bind_handlers.h"
-#include "documents/txt_form.h"
 #include "measure.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/program_state.h"
-#include "ui/form_window.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
+#include "ui/forms/form_window.h"
+#include "windows/txt_form.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,14 +1,14 @@
 #include "bind_handlers.h"
-#include "platform/arguments_of.h"
-#include "platform/drives.h"
-#include "platform/failure.h"
-#include "platform/program_files.h"
-#include "platform/program_folder.h"
-#include "shell/command_line.h"
-#include "shell/form2.h"
+#include "platform/files/program_files.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "platform/system/arguments_of.h"
+#include "runtime/failure.h"
+#include "start/command_line.h"
 #include "ui/application.h"
-#include "ui/printer.h"
+#include "ui/printer/printer.h"
 #include "version.h"
+#include "windows/form2.h"
 
 #include <cstdio>
 

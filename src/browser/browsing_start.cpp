@@ -1,7 +1,7 @@
 #include "browser/browsing_start.h"
 
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

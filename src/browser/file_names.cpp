@@ -1,8 +1,8 @@
 #include "browser/file_names.h"
 
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
+#include "runtime/text.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

@@ -1,13 +1,13 @@
 #include "browser/photo_stepping.h"
 
 #include "browser/photo_details.h"
-#include "browser/photo_set.h"
-#include "local/play_list_entry.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
+#include "program/photo_set.h"
+#include "program/play_list_entry.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

@@ -1,16 +1,16 @@
 #include "browser/photo_walk.h"
 
 #include "browser/browsing_start.h"
-#include "browser/next_year_button.h"
 #include "browser/select_year.h"
 #include "browser/year_selection.h"
-#include "local/frm_ss_photo.h"
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "ui/screen.h"
+#include "platform/files/files.h"
+#include "platform/paths/program_folder.h"
+#include "program/next_year_button.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
+#include "windows/frm_ss_photo.h"
 
 namespace torvik {
 

@@ -2,14 +2,14 @@
 
 #include "browser/browsing_start.h"
 #include "browser/restore_main_window.h"
-#include "browser/topic_catalogue.h"
-#include "local/play_list_entry.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "ui/screen.h"
+#include "program/play_list_entry.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "program/topic_catalogue.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

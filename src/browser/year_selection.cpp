@@ -1,12 +1,12 @@
 #include "browser/year_selection.h"
 
 #include "browser/browsing_start.h"
-#include "browser/next_year_button.h"
 #include "browser/photo_stepping.h"
 #include "browser/select_year.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "ui/screen.h"
+#include "program/next_year_button.h"
+#include "program/program_state.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

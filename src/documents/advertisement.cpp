@@ -1,15 +1,15 @@
 #include "documents/advertisement.h"
 
-#include "local/frm_ss_photo.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "slides/form_topmost.h"
-#include "slides/frm_scroll.h"
-#include "slides/zoom_viewer.h"
-#include "ui/message_box.h"
-#include "ui/screen.h"
+#include "documents/zoom_viewer.h"
+#include "program/form_topmost.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "ui/forms/message_box.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
+#include "windows/frm_scroll.h"
+#include "windows/frm_ss_photo.h"
 
 namespace torvik {
 

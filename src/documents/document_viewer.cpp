@@ -1,16 +1,16 @@
 #include "documents/document_viewer.h"
 
-#include "browser/next_year_button.h"
-#include "documents/txt_form.h"
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "platform/text.h"
+#include "platform/files/files.h"
 #include "printing/rich_text_printing.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "ui/message_box.h"
-#include "ui/screen.h"
+#include "program/next_year_button.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "ui/forms/message_box.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
+#include "windows/txt_form.h"
 
 namespace torvik {
 

@@ -1,11 +1,11 @@
 #include "documents/library_documents.h"
 
 #include "documents/document_viewer.h"
-#include "documents/txt_form.h"
-#include "platform/failure.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "windows/form1.h"
+#include "windows/txt_form.h"
 
 #include <span>
 

@@ -2,9 +2,9 @@
 
 #include "browser/browsing_start.h"
 #include "browser/select_year.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "ui/screen.h"
+#include "program/program_state.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
 
 #include <span>
 

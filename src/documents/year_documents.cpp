@@ -1,15 +1,15 @@
 #include "documents/year_documents.h"
 
-#include "browser/topic_catalogue.h"
 #include "documents/document_viewer.h"
-#include "documents/txt_form.h"
 #include "documents/year_rule.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "ui/screen.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "program/topic_catalogue.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
+#include "windows/txt_form.h"
 
 namespace torvik {
 

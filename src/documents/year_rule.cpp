@@ -1,9 +1,9 @@
 #include "documents/year_rule.h"
 
-#include "platform/files.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "platform/files/files.h"
+#include "program/program_state.h"
+#include "runtime/text.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

@@ -1,15 +1,15 @@
 #include "documents/year_statistics.h"
 
-#include "browser/next_year_button.h"
 #include "browser/photo_details.h"
-#include "browser/topic_catalogue.h"
 #include "documents/document_viewer.h"
 #include "documents/year_rule.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
+#include "program/next_year_button.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "program/topic_catalogue.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

@@ -1,11 +1,11 @@
 #include "media/driver_offer.h"
 
-#include "platform/failure.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "shell/run_and_wait.h"
-#include "ui/message_box.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "program/run_and_wait.h"
+#include "runtime/failure.h"
+#include "ui/forms/message_box.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

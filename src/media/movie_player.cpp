@@ -1,15 +1,15 @@
 #include "media/movie_player.h"
 
-#include "browser/next_year_button.h"
 #include "media/driver_offer.h"
-#include "media/frm_movie.h"
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "ui/screen.h"
+#include "platform/files/files.h"
+#include "platform/paths/program_folder.h"
+#include "program/next_year_button.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
+#include "windows/frm_movie.h"
 
 #include <iterator>
 

@@ -1,11 +1,11 @@
 #include "media/sound_effects.h"
 
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
+#include "platform/files/files.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

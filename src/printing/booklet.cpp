@@ -1,14 +1,14 @@
 #include "printing/booklet.h"
 
-#include "platform/failure.h"
-#include "platform/text.h"
 #include "printing/rich_text_printing.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "ui/message_box.h"
-#include "ui/printer.h"
-#include "ui/screen.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "ui/forms/message_box.h"
+#include "ui/forms/screen.h"
+#include "ui/printer/printer.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

@@ -1,9 +1,9 @@
 #include "printing/booklet_panel.h"
 
 #include "printing/booklet.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "ui/units.h"
+#include "program/program_state.h"
+#include "ui/forms/units.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

@@ -1,9 +1,9 @@
 #include "printing/print_commands.h"
 
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "ui/message_box.h"
-#include "ui/printer.h"
+#include "program/program_state.h"
+#include "ui/forms/message_box.h"
+#include "ui/printer/printer.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

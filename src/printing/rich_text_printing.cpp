@@ -1,9 +1,9 @@
 #include "printing/rich_text_printing.h"
 
-#include "platform/failure.h"
 #include "printing/paged_text.h"
-#include "ui/printer.h"
-#include "ui/rich_text_box.h"
+#include "runtime/failure.h"
+#include "ui/controls/rich_text_box.h"
+#include "ui/printer/printer.h"
 
 #include <QPainter>
 #include <QRectF>

@@ -1,6 +1,6 @@
 #include "saver/arguments.h"
 
-#include "platform/drive_option.h"
+#include "platform/paths/drive_option.h"
 
 #include <QRegularExpression>
 

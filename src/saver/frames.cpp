@@ -1,6 +1,6 @@
 #include "saver/frames.h"
 
-#include "ui/picture.h"
+#include "ui/pictures/picture.h"
 
 #include <QFont>
 #include <QFontMetrics>

@@ -1,6 +1,6 @@
 #include "saver/information.h"
 
-#include "platform/text.h"
+#include "runtime/text.h"
 
 namespace torvik {
 

@@ -1,8 +1,8 @@
 #include "saver/photo_round.h"
 
-#include "platform/drives.h"
-#include "platform/failure.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
+#include "platform/paths/drives.h"
+#include "runtime/failure.h"
 
 #include <algorithm>
 #include <utility>

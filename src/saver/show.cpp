@@ -1,6 +1,6 @@
 #include "saver/show.h"
 
-#include "platform/failure.h"
+#include "runtime/failure.h"
 #include "saver/fade.h"
 #include "saver/frames.h"
 

@@ -2,7 +2,7 @@
 
 #include "saver/photo_round.h"
 #include "saver/saver_settings.h"
-#include "ui/picture.h"
+#include "ui/pictures/picture.h"
 
 #include <QSize>
 

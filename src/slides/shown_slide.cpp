@@ -1,9 +1,9 @@
 #include "slides/shown_slide.h"
 
-#include "platform/text.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/text.h"
+#include "windows/frm_slide.h"
 
 namespace torvik {
 

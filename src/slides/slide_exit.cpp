@@ -1,16 +1,16 @@
 #include "slides/slide_exit.h"
 
 #include "browser/restore_main_window.h"
-#include "local/play_list_entry.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/help_window.h"
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/help_window.h"
+#include "program/play_list_entry.h"
+#include "program/program_state.h"
+#include "program/title_code.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
 #include "slides/shown_slide.h"
-#include "slides/title_code.h"
-#include "ui/message_box.h"
+#include "ui/forms/message_box.h"
+#include "windows/form1.h"
+#include "windows/frm_slide.h"
 
 #include <algorithm>
 #include <initializer_list>

@@ -1,7 +1,7 @@
 #include "slides/slide_focus.h"
 
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
+#include "windows/frm_slide.h"
 
 namespace torvik {
 

@@ -1,11 +1,11 @@
 #include "slides/slide_player.h"
 
-#include "browser/topic_catalogue.h"
-#include "platform/failure.h"
-#include "shell/program_state.h"
-#include "slides/delay_steps.h"
-#include "slides/frm_slide.h"
+#include "program/delay_steps.h"
+#include "program/program_state.h"
+#include "program/topic_catalogue.h"
+#include "runtime/failure.h"
 #include "slides/shown_slide.h"
+#include "windows/frm_slide.h"
 
 namespace torvik {
 

@@ -1,15 +1,15 @@
 #include "slides/slide_setup.h"
 
-#include "browser/topic_catalogue.h"
-#include "local/frm_ss_photo.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/screen_size.h"
-#include "slides/form_topmost.h"
-#include "slides/frm_slide.h"
+#include "program/form_topmost.h"
+#include "program/program_state.h"
+#include "program/screen_size.h"
+#include "program/topic_catalogue.h"
+#include "runtime/text.h"
 #include "slides/shown_slide.h"
 #include "slides/small_screen_layout.h"
+#include "windows/form1.h"
+#include "windows/frm_slide.h"
+#include "windows/frm_ss_photo.h"
 
 namespace torvik {
 

@@ -1,11 +1,11 @@
 #include "slides/slide_steps.h"
 
-#include "browser/topic_catalogue.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
+#include "program/topic_catalogue.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
 #include "slides/shown_slide.h"
+#include "windows/frm_slide.h"
 
 namespace torvik {
 

@@ -1,11 +1,11 @@
 #include "ui/application.h"
 
-#include "platform/environment.h"
-#include "ui/event.h"
-#include "ui/form.h"
-#include "ui/look.h"
-#include "ui/picture.h"
-#include "ui/program_end.h"
+#include "platform/system/environment.h"
+#include "ui/forms/event.h"
+#include "ui/forms/form.h"
+#include "ui/forms/program_end.h"
+#include "ui/look/look.h"
+#include "ui/pictures/picture.h"
 
 #include <QApplication>
 #include <QTimer>

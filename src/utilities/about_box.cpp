@@ -1,11 +1,11 @@
 #include "utilities/about_box.h"
 
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "ui/shell_execute.h"
-#include "utilities/frm_about.h"
-#include "utilities/maker.h"
-#include "utilities/task_bar.h"
+#include "program/program_state.h"
+#include "program/task_bar.h"
+#include "ui/desktop/shell_execute.h"
+#include "windows/form1.h"
+#include "windows/frm_about.h"
+#include "windows/maker.h"
 
 namespace torvik {
 

@@ -1,11 +1,11 @@
 #include "utilities/display_check.h"
 
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/screen_size.h"
-#include "ui/message_box.h"
-#include "ui/screen.h"
+#include "program/program_state.h"
+#include "program/screen_size.h"
+#include "runtime/text.h"
+#include "ui/forms/message_box.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

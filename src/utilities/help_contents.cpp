@@ -1,8 +1,8 @@
 #include "utilities/help_contents.h"
 
-#include "shell/form1.h"
-#include "shell/help_window.h"
-#include "ui/win_help.h"
+#include "program/help_window.h"
+#include "ui/help/win_help.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

@@ -1,11 +1,11 @@
 #include "utilities/system_information.h"
 
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "platform/process.h"
-#include "platform/registry.h"
-#include "shell/form1.h"
-#include "ui/message_box.h"
+#include "platform/files/files.h"
+#include "platform/system/process.h"
+#include "platform/system/registry.h"
+#include "runtime/failure.h"
+#include "ui/forms/message_box.h"
+#include "windows/form1.h"
 
 #include <optional>
 

@@ -1,9 +1,9 @@
 #include "utilities/task_bar_toggle.h"
 
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "ui/screen.h"
-#include "utilities/task_bar.h"
+#include "program/program_state.h"
+#include "program/task_bar.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
 
 namespace torvik {
 

@@ -1,10 +1,10 @@
 #include "browser/photo_details.h"
 #include "browser/photo_stepping.h"
-#include "platform/failure.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
 #include "support/program.h"
+#include "windows/form1.h"
 
 #include <QTest>
 

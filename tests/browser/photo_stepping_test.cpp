@@ -1,8 +1,8 @@
 #include "browser/photo_stepping.h"
 #include "browser/select_year.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/program.h"
+#include "windows/form1.h"
 
 #include <QTest>
 

@@ -1,9 +1,9 @@
-#include "local/frm_ss_photo.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
 #include "support/program.h"
-#include "ui/screen.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
+#include "windows/frm_ss_photo.h"
 
 #include <QFileInfo>
 #include <QTest>

@@ -1,9 +1,9 @@
 #include "browser/restore_main_window.h"
-#include "documents/txt_form.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
 #include "support/program.h"
+#include "windows/form1.h"
+#include "windows/frm_slide.h"
+#include "windows/txt_form.h"
 
 #include <QTest>
 

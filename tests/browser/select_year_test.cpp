@@ -1,10 +1,10 @@
 #include "browser/select_year.h"
-#include "local/frm_ss_photo.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/program.h"
-#include "ui/program_end.h"
-#include "ui/screen.h"
+#include "ui/forms/program_end.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
+#include "windows/frm_ss_photo.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/program.h"
+#include "windows/form1.h"
 
 #include <QTest>
 

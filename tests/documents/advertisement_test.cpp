@@ -1,11 +1,11 @@
-#include "local/frm_ss_photo.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "slides/frm_scroll.h"
+#include "program/program_state.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
-#include "ui/form_window.h"
-#include "ui/program_end.h"
+#include "ui/forms/form_window.h"
+#include "ui/forms/program_end.h"
+#include "windows/form1.h"
+#include "windows/frm_scroll.h"
+#include "windows/frm_ss_photo.h"
 
 #include <QDir>
 #include <QTest>

@@ -1,15 +1,15 @@
 #include "documents/document_viewer.h"
-#include "documents/txt_form.h"
-#include "platform/failure.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
 #include "support/modal_visit.h"
 #include "support/print_folder.h"
 #include "support/program.h"
 #include "support/viewer_visit.h"
-#include "ui/printer.h"
-#include "ui/program_end.h"
-#include "ui/screen.h"
+#include "ui/forms/program_end.h"
+#include "ui/forms/screen.h"
+#include "ui/printer/printer.h"
+#include "windows/form1.h"
+#include "windows/txt_form.h"
 
 #include <QApplication>
 #include <QTest>

@@ -1,10 +1,10 @@
 #include "documents/library_documents.h"
-#include "documents/txt_form.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/program.h"
 #include "support/viewer_visit.h"
-#include "ui/form_window.h"
+#include "ui/forms/form_window.h"
+#include "windows/form1.h"
+#include "windows/txt_form.h"
 
 #include <QAction>
 #include <QTest>

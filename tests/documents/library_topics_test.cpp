@@ -1,9 +1,9 @@
 #include "documents/library_topics.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/program.h"
-#include "ui/form_window.h"
-#include "ui/screen.h"
+#include "ui/forms/form_window.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
 
 #include <QAction>
 #include <QTest>

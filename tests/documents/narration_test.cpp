@@ -1,8 +1,8 @@
-#include "documents/txt_form.h"
-#include "platform/failure.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
 #include "support/program.h"
+#include "windows/form1.h"
+#include "windows/txt_form.h"
 
 #include <QTest>
 

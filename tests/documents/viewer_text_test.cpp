@@ -1,7 +1,7 @@
 #include "documents/document_viewer.h"
-#include "documents/txt_form.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/program.h"
+#include "windows/txt_form.h"
 
 #include <QAbstractScrollArea>
 #include <QAccessible>

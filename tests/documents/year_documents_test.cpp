@@ -1,9 +1,9 @@
-#include "documents/txt_form.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/program.h"
 #include "support/viewer_visit.h"
-#include "ui/screen.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
+#include "windows/txt_form.h"
 
 #include <QTest>
 

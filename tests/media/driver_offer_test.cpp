@@ -1,4 +1,4 @@
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/movie_visit.h"
 #include "support/test_movie.h"
 

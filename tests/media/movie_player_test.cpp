@@ -1,14 +1,14 @@
-#include "media/frm_movie.h"
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "platform/program_folder.h"
-#include "shell/program_state.h"
+#include "platform/files/files.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
 #include "support/movie_visit.h"
 #include "support/test_movie.h"
-#include "ui/clock.h"
-#include "ui/form_window.h"
-#include "ui/screen.h"
-#include "ui/video_pane.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/form_window.h"
+#include "ui/forms/screen.h"
+#include "ui/media/video_pane.h"
+#include "windows/frm_movie.h"
 
 #include <QAbstractButton>
 #include <QFile>

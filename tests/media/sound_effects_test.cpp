@@ -1,8 +1,8 @@
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/program.h"
 #include "support/test_movie.h"
-#include "ui/form_window.h"
+#include "ui/forms/form_window.h"
+#include "windows/form1.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/menu_choice.h"
 #include "support/print_folder.h"
 #include "support/program.h"
+#include "windows/form1.h"
 
 #include <QListWidget>
 #include <QTest>

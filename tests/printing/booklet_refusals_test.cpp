@@ -1,10 +1,10 @@
-#include "platform/failure.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
 #include "support/booklet_run.h"
 #include "support/full_disk.h"
-#include "ui/printer.h"
-#include "ui/screen.h"
+#include "ui/forms/screen.h"
+#include "ui/printer/printer.h"
+#include "windows/form1.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/booklet_run.h"
-#include "ui/printer.h"
-#include "ui/screen.h"
+#include "ui/forms/screen.h"
+#include "ui/printer/printer.h"
+#include "windows/form1.h"
 
 #include <QTest>
 

@@ -1,11 +1,11 @@
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/menu_choice.h"
 #include "support/print_folder.h"
 #include "support/program.h"
-#include "ui/printer.h"
-#include "ui/printer_dialog.h"
-#include "ui/program_end.h"
+#include "ui/forms/program_end.h"
+#include "ui/printer/printer.h"
+#include "ui/printer/printer_dialog.h"
+#include "windows/form1.h"
 
 #include <QProcess>
 #include <QTest>

@@ -1,9 +1,9 @@
-#include "documents/txt_form.h"
-#include "platform/failure.h"
 #include "printing/rich_text_printing.h"
+#include "runtime/failure.h"
 #include "support/print_folder.h"
 #include "support/program.h"
-#include "ui/printer.h"
+#include "ui/printer/printer.h"
+#include "windows/txt_form.h"
 
 #include <QBuffer>
 #include <QTest>

@@ -1,6 +1,6 @@
 #include "rtf/rtf_reader.h"
 #include "sample/documents/help_file.h"
-#include "ui/help_topics.h"
+#include "ui/help/help_topics.h"
 
 #include <QSet>
 #include <QTest>

@@ -1,7 +1,7 @@
-#include "platform/failure_of.h"
 #include "saver/frames.h"
-#include "ui/picture.h"
-#include "ui/picture_bytes.h"
+#include "support/failure_of.h"
+#include "support/picture_bytes.h"
+#include "ui/pictures/picture.h"
 
 #include <QTest>
 

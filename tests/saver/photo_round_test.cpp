@@ -1,5 +1,5 @@
-#include "platform/disc_folder.h"
 #include "saver/photo_round.h"
+#include "support/disc_folder.h"
 
 #include <QTest>
 

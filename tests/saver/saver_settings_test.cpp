@@ -1,4 +1,4 @@
-#include "platform/settings_store.h"
+#include "platform/system/settings_store.h"
 #include "saver/saver_settings.h"
 #include "ui/application.h"
 

@@ -1,6 +1,6 @@
-#include "platform/disc_folder.h"
 #include "saver/show_places.h"
 #include "saver/show_runner.h"
+#include "support/disc_folder.h"
 #include "support/test_disc.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
-#include "platform/disc_folder.h"
 #include "saver/fade.h"
 #include "saver/show.h"
+#include "support/disc_folder.h"
 #include "support/test_disc.h"
 
 #include <QTest>

@@ -1,5 +1,5 @@
 #include "support/slide_visit.h"
-#include "ui/clock.h"
+#include "ui/forms/clock.h"
 
 #include <QLocale>
 

@@ -1,8 +1,8 @@
-#include "local/frm_ss_photo.h"
-#include "shell/help_window.h"
+#include "program/help_window.h"
 #include "support/slide_visit.h"
-#include "ui/clock.h"
-#include "ui/program_end.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/program_end.h"
+#include "windows/frm_ss_photo.h"
 
 using namespace torvik;
 

@@ -1,5 +1,5 @@
 #include "support/slide_visit.h"
-#include "ui/program_end.h"
+#include "ui/forms/program_end.h"
 
 using namespace torvik;
 

@@ -1,6 +1,6 @@
 #include "support/slide_visit.h"
-#include "ui/clock.h"
-#include "ui/program_end.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/program_end.h"
 
 #include <QLabel>
 

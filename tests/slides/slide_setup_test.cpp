@@ -1,7 +1,7 @@
-#include "local/frm_ss_photo.h"
 #include "support/slide_visit.h"
-#include "ui/clock.h"
-#include "ui/program_end.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/program_end.h"
+#include "windows/frm_ss_photo.h"
 
 using namespace torvik;
 

@@ -1,8 +1,8 @@
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
 #include "slides/small_screen_layout.h"
 #include "support/program.h"
-#include "ui/form_window.h"
+#include "ui/forms/form_window.h"
+#include "windows/frm_slide.h"
 
 #include <QTest>
 

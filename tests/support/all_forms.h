@@ -1,15 +1,15 @@
 #pragma once
 
-#include "documents/txt_form.h"
-#include "local/frm_ss_photo.h"
-#include "media/frm_movie.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "slides/frm_scroll.h"
-#include "slides/frm_slide.h"
 #include "support/program.h"
-#include "ui/form_window.h"
-#include "utilities/frm_about.h"
+#include "ui/forms/form_window.h"
+#include "windows/form1.h"
+#include "windows/form2.h"
+#include "windows/frm_about.h"
+#include "windows/frm_movie.h"
+#include "windows/frm_scroll.h"
+#include "windows/frm_slide.h"
+#include "windows/frm_ss_photo.h"
+#include "windows/txt_form.h"
 
 #include <QTest>
 

@@ -1,9 +1,9 @@
 #include "support/booklet_run.h"
 
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/menu_choice.h"
-#include "ui/screen.h"
+#include "ui/forms/screen.h"
+#include "windows/form1.h"
 
 #include <QTest>
 

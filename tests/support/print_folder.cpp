@@ -1,7 +1,7 @@
 #include "support/print_folder.h"
 
-#include "platform/failure.h"
-#include "ui/printer.h"
+#include "runtime/failure.h"
+#include "ui/printer/printer.h"
 
 #include <QDir>
 #include <QProcess>

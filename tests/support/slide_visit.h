@@ -1,11 +1,11 @@
 #pragma once
 
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
-#include "ui/form_window.h"
+#include "ui/forms/form_window.h"
+#include "windows/form1.h"
+#include "windows/frm_slide.h"
 
 #include <QTest>
 

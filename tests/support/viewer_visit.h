@@ -1,8 +1,8 @@
 #pragma once
 
-#include "documents/txt_form.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
+#include "windows/txt_form.h"
 
 namespace torvik {
 

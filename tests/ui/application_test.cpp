@@ -1,6 +1,6 @@
+#include "support/ui_room.h"
 #include "ui/application.h"
-#include "ui/button.h"
-#include "ui_room.h"
+#include "ui/controls/button.h"
 
 #include <QImageReader>
 #include <QStyle>

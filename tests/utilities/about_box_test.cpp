@@ -1,10 +1,10 @@
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/desktop.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
-#include "ui/form_window.h"
-#include "utilities/frm_about.h"
+#include "ui/forms/form_window.h"
+#include "windows/form1.h"
+#include "windows/frm_about.h"
 
 #include <QTest>
 

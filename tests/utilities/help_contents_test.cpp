@@ -1,6 +1,6 @@
-#include "platform/program_folder.h"
-#include "shell/form1.h"
+#include "platform/paths/program_folder.h"
 #include "support/program.h"
+#include "windows/form1.h"
 
 #include <QApplication>
 #include <QTest>

@@ -1,6 +1,6 @@
-#include "platform/registry.h"
-#include "shell/form1.h"
+#include "platform/system/registry.h"
 #include "support/program.h"
+#include "windows/form1.h"
 
 #include <QFile>
 #include <QTest>

@@ -1,7 +1,7 @@
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
+#include "program/task_bar.h"
 #include "support/program.h"
-#include "utilities/task_bar.h"
+#include "windows/form1.h"
 
 #include <QTest>
 

@@ -1,0 +1,40 @@
+#include "hard_drive/copy_job.h"
+#include "program/program_state.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+class CopyJobTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { state = ProgramState(); }
+
+    void photos_have_their_own_sizes_folder_and_texts()
+    {
+        state.CopyingPhotos = true;
+        const CopyJob& job = PresentCopyJob();
+        QCOMPARE(job.Heading, QStringLiteral("Copy photos from CD-ROM to hard drive"));
+        QCOMPARE(job.Button, QStringLiteral("Copy Photos"));
+        QCOMPARE(job.Folder, QStringLiteral("\\Torviks\\"));
+        QCOMPARE(job.Done, QStringLiteral("Photos successfully copied!\r\n"));
+        QCOMPARE(job.RoomDemanded, 38'000'000);
+        QCOMPARE(job.Size, 42'000'000);
+    }
+
+    void movies_have_their_own_sizes_folder_and_texts()
+    {
+        state.CopyingPhotos = false;
+        const CopyJob& job = PresentCopyJob();
+        QCOMPARE(job.Heading, QStringLiteral("Copy Movies from CD-ROM to hard drive"));
+        QCOMPARE(job.Button, QStringLiteral("Copy Movies"));
+        QCOMPARE(job.Folder, QStringLiteral("\\movies\\"));
+        QCOMPARE(job.Done, QStringLiteral("Movies successfully copied!\r\n"));
+        QCOMPARE(job.RoomDemanded, 470'000'000);
+        QCOMPARE(job.Size, 432'000'000);
+    }
+};
+
+QTEST_MAIN(CopyJobTest)
+#include "copy_job_test.moc"

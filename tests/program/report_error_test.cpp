@@ -1,0 +1,156 @@
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "support/program.h"
+#include "ui/forms/program_end.h"
+#include "windows/form1.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+/// The one reporter of errors: its box, its focus move, its two ways out.
+class ReportErrorTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(QStringLiteral("67"), 2);
+        program_->StartBrowsing();
+        program_->Messages.Clear();
+    }
+    void cleanup() { program_.reset(); }
+
+    void an_ordinary_code_shows_number_text_and_disc_hint_in_a_critical_box()
+    {
+        state.ErrorCode = QStringLiteral("ER023");
+        ReportError();
+        const MessageRequest box = program_->Messages.Last();
+        QCOMPARE(box.Text, QStringLiteral(
+                               "Error number: ER023\r\n\r\n Torvik photo not found for year selected.\r\n\r\n"
+                               "Make sure that the Torvik Vollandry is in the CDROM drive."));
+        QCOMPARE(box.Style, 16);
+        QCOMPARE(box.Title, QStringLiteral("The Torvik Vollandry"));
+        QCOMPARE(state.MessageText, box.Text);
+    }
+
+    void the_codes_of_the_booklet_say_nothing_of_the_disc()
+    {
+        state.ErrorCode = QStringLiteral("ER034");
+        ReportError();
+        QCOMPARE(program_->Messages.Last().Text,
+                 QStringLiteral(
+                     "Error number: ER034\r\n\r\n You must select both a Start Year and an End Year. "));
+        state.ErrorCode = QStringLiteral("ER036");
+        ReportError();
+        QCOMPARE(
+            program_->Messages.Last().Text,
+            QStringLiteral("Error number: ER036\r\n\r\n 'TO' year may not be earlier than 'FROM' year."));
+    }
+
+    void a_code_that_nobody_knows_shows_its_number_and_the_hint()
+    {
+        state.ErrorCode = QStringLiteral("ER019");
+        ReportError();
+        QCOMPARE(
+            program_->Messages.Last().Text,
+            QStringLiteral("Error number: ER019\r\n\r\n\r\n\r\nMake sure that the Torvik Vollandry is in the "
+                           "CDROM drive."));
+    }
+
+    void the_sound_code_names_the_file()
+    {
+        state.ErrorCode = QStringLiteral("ER032");
+        state.SoundFile = QStringLiteral("E:\\wav\\1969.wav");
+        ReportError();
+        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral(
+            "Error number: ER032\r\n\r\n Unable to load sound file: v\\1969.wav\r\n\r\nMake sure")));
+    }
+
+    void retry_comes_back_and_keeps_its_answer_as_text()
+    {
+        for (const QString& code :
+             {QStringLiteral("ER001"), QStringLiteral("ER037"), QStringLiteral("ER055")}) {
+            Form1->SetEnabled(false);
+            program_->Messages.Answer(msgbox::answerRetry);
+            state.ErrorCode = code;
+            ReportError();
+            QCOMPARE(program_->Messages.Last().Style, 5);
+            QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry"));
+            QCOMPARE(state.MessageAnswer, QStringLiteral("4"));
+            QVERIFY2(!Form1->Enabled(), "the way of Retry does not touch the form");
+        }
+    }
+
+    void cancel_on_a_retry_box_ends_the_program_at_once()
+    {
+        program_->Messages.Answer(msgbox::answerCancel);
+        state.ErrorCode = QStringLiteral("ER037");
+        bool ended = false;
+        try {
+            ReportError();
+        } catch (const ProgramEnd&) {
+            ended = true;
+        }
+        QVERIFY(ended);
+        QVERIFY(ProgramIsEnding());
+        QCOMPARE(state.MessageAnswer, QStringLiteral("2"));
+    }
+
+    void the_focus_goes_to_the_year_behind_the_current_one_data()
+    {
+        QTest::addColumn<int>("current");
+        QTest::addColumn<QString>("focus");
+        QTest::newRow("a topic") << 0 << QStringLiteral("cmdYR(1)");
+        QTest::newRow("1969") << 3 << QStringLiteral("cmdYR(4)");
+        QTest::newRow("2000") << 34 << QStringLiteral("cmdYR(35)");
+        QTest::newRow("2001") << 35 << QStringLiteral("cmdYR(1)");
+    }
+
+    void the_focus_goes_to_the_year_behind_the_current_one()
+    {
+        QFETCH(int, current);
+        QFETCH(QString, focus);
+        Form1->cmdYR(1).SetEnabled(true);
+        Form1->cmdYR(20).SetFocus();
+        state.CurrentYearButton = current;
+        state.ErrorCode = QStringLiteral("ER002");
+        ReportError();
+        QCOMPARE(Program::Focus(), focus);
+    }
+
+    void a_pending_failure_leaves_the_focus_where_it_is()
+    {
+        Form1->cmdYR(20).SetFocus();
+        Form1->SetEnabled(false);
+        state.ErrorCode = QStringLiteral("ER012");
+        OnError([] { Fail(failure::fileNotFound); }, ReportError);
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(20)"));
+        QVERIFY(Form1->Enabled());
+    }
+
+    void without_a_pending_failure_the_form_is_enabled_too()
+    {
+        Form1->SetEnabled(false);
+        state.ErrorCode = QStringLiteral("ER002");
+        ReportError();
+        QVERIFY(Form1->Enabled());
+    }
+
+    void a_focus_that_cannot_move_is_the_callers_failure()
+    {
+        Form1->cmdYR(2).SetEnabled(false);
+        state.CurrentYearButton = 1;
+        state.ErrorCode = QStringLiteral("ER002");
+        QCOMPARE(ResumeNext(ReportError), 5);
+        QCOMPARE(program_->Messages.Count(), 1);
+    }
+
+private:
+    std::unique_ptr<Program> program_;
+};
+
+QTEST_MAIN(ReportErrorTest)
+#include "report_error_test.moc"

@@ -1,0 +1,43 @@
+#include "program/run_and_wait.h"
+#include "runtime/failure.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+using namespace torvik;
+
+/// Waiting for another program while the user interface lives on.
+class RunAndWaitTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void it_returns_when_the_program_has_ended()
+    {
+        const QTemporaryDir folder;
+        const QString made = folder.filePath(QStringLiteral("made"));
+        RunAndWait(QStringLiteral("C:\\bin\\touch \"%1\"").arg(made));
+        QVERIFY(QFile::exists(made));
+    }
+
+    void events_run_while_it_waits()
+    {
+        const QTemporaryDir folder;
+        const QString gate = folder.filePath(QStringLiteral("gate"));
+        QTimer::singleShot(0, this, [gate] {
+            QFile file(gate);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        });
+        // The program ends only once the event has run.
+        RunAndWait(QStringLiteral("C:\\bin\\sh -c \"until test -e '%1'; do :; done\"").arg(gate));
+        QVERIFY(QFile::exists(gate));
+    }
+
+    void a_program_that_is_not_there_is_failure_53()
+    {
+        QCOMPARE(ResumeNext([] { RunAndWait(QStringLiteral("C:\\no\\such\\iv5play.exe")); }), 53);
+    }
+};
+
+QTEST_MAIN(RunAndWaitTest)
+#include "run_and_wait_test.moc"

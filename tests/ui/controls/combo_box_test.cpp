@@ -1,0 +1,47 @@
+#include "support/ui_room.h"
+#include "ui/controls/combo_box.h"
+
+using namespace torvik;
+
+namespace {
+
+struct MainForm : Form {
+    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
+    ComboBox Combo{
+        *this, QStringLiteral("Combo"), {0, 0, 1500, 375}, {QStringLiteral("one "), QStringLiteral("two")}};
+    ComboBox Empty{*this, QStringLiteral("Empty"), {0, 600, 1500, 375}, {}};
+};
+
+FormHandle<MainForm> Main;
+
+} // namespace
+
+/// A drop-down list.
+class ComboBoxTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        room_ = std::make_unique<UiRoom>();
+        QVERIFY(UiRoom::Open(*Main));
+    }
+    void cleanup() { room_.reset(); }
+
+    void it_shows_its_first_text() { QCOMPARE(Main->Combo.Text(), QStringLiteral("one ")); }
+
+    void the_user_chooses_another()
+    {
+        Main->Combo.SetFocus();
+        QTest::keyClick(&Main->Combo.Widget(), Qt::Key_Down);
+        QCOMPARE(Main->Combo.Text(), QStringLiteral("two"));
+    }
+
+    void without_entries_its_text_is_empty() { QCOMPARE(Main->Empty.Text(), QString()); }
+
+private:
+    std::unique_ptr<UiRoom> room_;
+};
+
+QTEST_MAIN(ComboBoxTest)
+#include "combo_box_test.moc"

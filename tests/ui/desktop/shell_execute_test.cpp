@@ -1,0 +1,33 @@
+#include "support/desktop.h"
+#include "ui/desktop/shell_execute.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+/// Addresses that are given to the desktop.
+class ShellExecuteTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void web_and_mail_addresses_are_opened()
+    {
+        const Desktop desktop;
+        for (const char* address : {"http://example.com/a", "https://example.com/b", "mailto:a@example.com"})
+            QVERIFY(ShellExecute(QString::fromLatin1(address)) > 32);
+        QCOMPARE(desktop.Opened,
+                 (QStringList{QStringLiteral("http://example.com/a"), QStringLiteral("https://example.com/b"),
+                              QStringLiteral("mailto:a@example.com")}));
+    }
+
+    void nothing_else_is()
+    {
+        const Desktop desktop;
+        for (const char* address : {"file:///etc/passwd", "/bin/true", "calc.exe", ""})
+            QVERIFY(ShellExecute(QString::fromLatin1(address)) <= 32);
+        QVERIFY(desktop.Opened.isEmpty());
+    }
+};
+
+QTEST_MAIN(ShellExecuteTest)
+#include "shell_execute_test.moc"

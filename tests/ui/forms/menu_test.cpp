@@ -1,0 +1,199 @@
+#include "support/ui_room.h"
+#include "ui/forms/menu.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+using namespace torvik;
+
+namespace {
+
+struct MainForm : Form {
+    MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels, FormBorder::Sizable, true)) {}
+    Menu mnuFile{*this, QStringLiteral("mnuFile"), QStringLiteral("File")};
+    Menu mnuCopy{mnuFile, QStringLiteral("mnuCopy"), QStringLiteral("Copy CD-ROM photos to hard drive")};
+    Menu mnuDash{mnuFile, QStringLiteral("mnuDash"), QStringLiteral("-")};
+    Menu mnuNames{mnuFile, QStringLiteral("mnuNames"), QStringLiteral("Show File &Names")};
+    Menu mnuMag{mnuFile, QStringLiteral("mnuMag"), QStringLiteral("Torvik && Fords")};
+    Menu mnuMore{mnuFile, QStringLiteral("mnuMore"), QStringLiteral("More")};
+    Menu mnuLeaf{mnuMore, QStringLiteral("mnuLeaf"), QStringLiteral("Leaf")};
+    Menu mnuMovies{*this, QStringLiteral("mnuMovies"), QStringLiteral("Movies")};
+};
+
+struct BareForm : Form {
+    BareForm() : Form(DesignOf(QStringLiteral("Bare"))) {}
+};
+
+FormHandle<MainForm> Main;
+FormHandle<BareForm> Bare;
+
+QAction* ActionNamed(const QString& name)
+{
+    return Main->Window().findChild<QAction*>(name);
+}
+
+QMenu* FileMenu()
+{
+    return ActionNamed(QStringLiteral("mnuFile"))->menu();
+}
+
+/// What stands in the bar and in the File menu, worked by mouse and keys.
+void ClickIn(QMenu* menu, const QString& name)
+{
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(ActionNamed(name)).center());
+}
+
+} // namespace
+
+/// Menus of a form.
+class MenuTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        room_ = std::make_unique<UiRoom>();
+        QVERIFY(UiRoom::Open(*Main));
+        clicked_.clear();
+        for (Menu* menu : {&Main->mnuFile, &Main->mnuCopy, &Main->mnuDash, &Main->mnuNames, &Main->mnuMag,
+                           &Main->mnuMore, &Main->mnuLeaf, &Main->mnuMovies})
+            menu->Click = [this, menu] { clicked_.append(menu->Name()); };
+    }
+    void cleanup() { room_.reset(); }
+
+    void entries_stand_in_the_order_in_which_they_were_made()
+    {
+        const QList<QAction*> bar = Main->Window().MenuBar()->actions();
+        QCOMPARE(bar.size(), 2);
+        QCOMPARE(bar.at(0)->objectName(), QStringLiteral("mnuFile"));
+        QCOMPARE(bar.at(1)->objectName(), QStringLiteral("mnuMovies"));
+        QStringList names;
+        for (const QAction* action : FileMenu()->actions())
+            names.append(action->objectName());
+        QCOMPARE(names, (QStringList{QStringLiteral("mnuCopy"), QStringLiteral("mnuDash"),
+                                     QStringLiteral("mnuNames"), QStringLiteral("mnuMag"),
+                                     QStringLiteral("mnuMore")}));
+    }
+
+    void a_click_in_an_open_menu_runs_the_entry()
+    {
+        QMenuBar* bar = Main->Window().MenuBar();
+        QTest::mousePress(bar, Qt::LeftButton, {}, bar->actionGeometry(bar->actions().at(0)).center());
+        QCOMPARE(QApplication::activePopupWidget(), FileMenu());
+        ClickIn(FileMenu(), QStringLiteral("mnuCopy"));
+        QCOMPARE(clicked_, QStringList{QStringLiteral("mnuCopy")});
+    }
+
+    void an_entry_of_the_bar_itself_can_be_clicked()
+    {
+        QMenuBar* bar = Main->Window().MenuBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(bar->actions().at(1)).center());
+        QCOMPARE(clicked_, QStringList{QStringLiteral("mnuMovies")});
+    }
+
+    void an_entry_with_a_submenu_opens_it_and_is_no_click()
+    {
+        FileMenu()->popup({0, 0});
+        ClickIn(FileMenu(), QStringLiteral("mnuMore"));
+        QMenu* more = ActionNamed(QStringLiteral("mnuMore"))->menu();
+        QTRY_VERIFY(more->isVisible());
+        QVERIFY(clicked_.isEmpty());
+        ClickIn(more, QStringLiteral("mnuLeaf"));
+        QCOMPARE(clicked_, QStringList{QStringLiteral("mnuLeaf")});
+    }
+
+    void the_mnemonic_works_in_the_open_menu()
+    {
+        FileMenu()->popup({0, 0});
+        QTest::keyClick(FileMenu(), Qt::Key_N);
+        QCOMPARE(clicked_, QStringList{QStringLiteral("mnuNames")});
+    }
+
+    void a_doubled_ampersand_is_no_mnemonic_and_shows_as_one()
+    {
+        FileMenu()->popup({0, 0});
+        FileMenu()->setActiveAction(nullptr);
+        QCOMPARE(QKeySequence::mnemonic(Main->mnuMag.Caption()), QKeySequence());
+        QCOMPARE(Main->mnuMag.Caption(), QStringLiteral("Torvik && Fords"));
+        QCOMPARE(ActionNamed(QStringLiteral("mnuMag"))->iconText(), QStringLiteral("Torvik & Fords"));
+        FileMenu()->hide();
+    }
+
+    void a_dash_is_a_separator()
+    {
+        QVERIFY(ActionNamed(QStringLiteral("mnuDash"))->isSeparator());
+        QVERIFY(!ActionNamed(QStringLiteral("mnuCopy"))->isSeparator());
+        FileMenu()->popup({0, 0});
+        ClickIn(FileMenu(), QStringLiteral("mnuDash"));
+        QVERIFY(clicked_.isEmpty());
+        FileMenu()->hide();
+    }
+
+    void a_disabled_entry_does_nothing()
+    {
+        Main->mnuCopy.SetEnabled(false);
+        QVERIFY(!Main->mnuCopy.Enabled());
+        FileMenu()->popup({0, 0});
+        ClickIn(FileMenu(), QStringLiteral("mnuCopy"));
+        QVERIFY(clicked_.isEmpty());
+        Main->mnuCopy.SetEnabled(true);
+        ClickIn(FileMenu(), QStringLiteral("mnuCopy"));
+        QCOMPARE(clicked_.size(), 1);
+    }
+
+    void a_disabled_entry_of_the_bar_does_nothing()
+    {
+        Main->mnuMovies.SetEnabled(false);
+        QMenuBar* bar = Main->Window().MenuBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(bar->actions().at(1)).center());
+        QVERIFY(clicked_.isEmpty());
+    }
+
+    void a_hidden_entry_takes_no_room()
+    {
+        QVERIFY(Main->mnuMovies.Visible());
+        Main->mnuMovies.SetVisible(false);
+        QVERIFY(!Main->mnuMovies.Visible());
+        QMenuBar* bar = Main->Window().MenuBar();
+        QVERIFY(bar->actionGeometry(bar->actions().at(1)).isEmpty());
+        Main->mnuMovies.SetVisible(true);
+        QVERIFY(!bar->actionGeometry(bar->actions().at(1)).isEmpty());
+    }
+
+    void captions_can_be_changed_and_keep_their_ampersands()
+    {
+        Main->mnuNames.SetCaption(QStringLiteral("Hide File &Names"));
+        QCOMPARE(Main->mnuNames.Caption(), QStringLiteral("Hide File &Names"));
+        QCOMPARE(Main->mnuNames.Name(), QStringLiteral("mnuNames"));
+    }
+
+    void no_desktop_moves_an_entry()
+    {
+        for (const QString& name :
+             {QStringLiteral("mnuFile"), QStringLiteral("mnuCopy"), QStringLiteral("mnuLeaf")})
+            QCOMPARE(ActionNamed(name)->menuRole(), QAction::NoRole);
+        QVERIFY(!Main->Window().MenuBar()->isNativeMenuBar());
+    }
+
+    void a_menu_on_a_form_without_a_menu_bar_is_failure_5()
+    {
+        QCOMPARE(ResumeNext([] { const Menu menu(*Bare, QStringLiteral("mnu"), QStringLiteral("File")); }),
+                 5);
+    }
+
+    void a_menu_handler_may_unload_the_form()
+    {
+        Main->mnuCopy.Click = [] { Main.Unload(); };
+        FileMenu()->popup({0, 0});
+        ClickIn(FileMenu(), QStringLiteral("mnuCopy"));
+        QVERIFY(!Main.IsLoaded());
+        UiRoom::Settle();
+    }
+
+private:
+    std::unique_ptr<UiRoom> room_;
+    QStringList clicked_;
+};
+
+QTEST_MAIN(MenuTest)
+#include "menu_test.moc"
