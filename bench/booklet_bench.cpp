@@ -11,8 +11,8 @@
 #include "ui/forms/event.h"
 #include "ui/forms/message_box.h"
 #include "ui/printer/printer.h"
-#include "windows/form1.h"
-#include "windows/form2.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

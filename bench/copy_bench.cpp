@@ -1,7 +1,7 @@
 // The copying of 42 MB of photos with both gauges and a look at the events after each block, against the
 // system's cp on the same files; and how often the window is painted meanwhile.
 
-#include "hard_drive/copy_all.h"
+#include "hard_drive/copy_all_files.h"
 #include "measure.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
@@ -10,8 +10,8 @@
 #include "ui/forms/event.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/message_box.h"
-#include "windows/form1.h"
-#include "windows/form2.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>

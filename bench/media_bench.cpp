@@ -10,9 +10,9 @@
 #include "support/test_movie.h"
 #include "ui/forms/message_box.h"
 #include "ui/media/file_source.h"
-#include "windows/form1.h"
-#include "windows/form2.h"
-#include "windows/frm_movie.h"
+#include "windows/main_window.h"
+#include "windows/movie_window.h"
+#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>

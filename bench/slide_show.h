@@ -5,9 +5,9 @@
 #include "program/program_state.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
-#include "windows/form1.h"
-#include "windows/form2.h"
-#include "windows/frm_slide.h"
+#include "windows/main_window.h"
+#include "windows/slide_window.h"
+#include "windows/splash.h"
 
 #include <QCoreApplication>
 #include <QString>

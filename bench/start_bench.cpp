@@ -6,8 +6,8 @@
 #include "platform/paths/program_folder.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
-#include "windows/form1.h"
-#include "windows/form2.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>

@@ -7,7 +7,7 @@
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
 #include "ui/forms/form_window.h"
-#include "windows/txt_form.h"
+#include "windows/article_window.h"
 
 #include <QApplication>
 #include <QFile>

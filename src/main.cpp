@@ -8,7 +8,7 @@
 #include "ui/application.h"
 #include "ui/printer/printer.h"
 #include "version.h"
-#include "windows/form2.h"
+#include "windows/splash.h"
 
 #include <cstdio>
 

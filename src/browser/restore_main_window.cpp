@@ -1,12 +1,12 @@
 #include "browser/restore_main_window.h"
 
-#include "browser/overlay_pictures.h"
+#include "browser/emblem_and_script.h"
 #include "program/program_state.h"
 #include "program/topic_catalogue.h"
 #include "runtime/text.h"
-#include "windows/form1.h"
-#include "windows/frm_slide.h"
-#include "windows/txt_form.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
+#include "windows/slide_window.h"
 
 namespace torvik {
 

@@ -1,15 +1,15 @@
 #include "browser/select_year.h"
 
-#include "browser/browsing_start.h"
+#include "browser/browse_from_start.h"
 #include "browser/restore_main_window.h"
-#include "program/play_list_entry.h"
+#include "program/play_list_buttons.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 #include "ui/forms/screen.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

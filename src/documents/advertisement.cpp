@@ -1,15 +1,15 @@
 #include "documents/advertisement.h"
 
-#include "documents/zoom_viewer.h"
-#include "program/form_topmost.h"
+#include "documents/page_viewer.h"
+#include "program/keep_on_top.h"
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 #include "ui/forms/message_box.h"
 #include "ui/forms/screen.h"
-#include "windows/form1.h"
-#include "windows/frm_scroll.h"
-#include "windows/frm_ss_photo.h"
+#include "windows/main_window.h"
+#include "windows/page_window.h"
+#include "windows/play_list_window.h"
 
 namespace torvik {
 

@@ -3,7 +3,7 @@
 #include "platform/files/files.h"
 #include "program/program_state.h"
 #include "runtime/text.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

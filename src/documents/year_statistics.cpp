@@ -1,7 +1,7 @@
 #include "documents/year_statistics.h"
 
-#include "browser/photo_details.h"
-#include "documents/document_viewer.h"
+#include "browser/photo_caption.h"
+#include "documents/article_viewer.h"
 #include "documents/year_rule.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"
@@ -9,7 +9,7 @@
 #include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

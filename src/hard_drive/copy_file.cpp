@@ -10,7 +10,7 @@
 #include "ui/application.h"
 #include "ui/forms/message_box.h"
 #include "ui/forms/program_end.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <algorithm>
 #include <functional>

@@ -5,7 +5,7 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "ui/forms/message_box.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

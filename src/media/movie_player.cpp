@@ -1,6 +1,6 @@
 #include "media/movie_player.h"
 
-#include "media/driver_offer.h"
+#include "media/video_driver_offer.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
 #include "program/next_year_button.h"
@@ -8,8 +8,8 @@
 #include "program/report_error.h"
 #include "runtime/failure.h"
 #include "ui/forms/screen.h"
-#include "windows/form1.h"
-#include "windows/frm_movie.h"
+#include "windows/main_window.h"
+#include "windows/movie_window.h"
 
 #include <iterator>
 

@@ -8,7 +8,7 @@
 #include "ui/forms/message_box.h"
 #include "ui/forms/screen.h"
 #include "ui/printer/printer.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

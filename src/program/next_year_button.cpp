@@ -1,7 +1,7 @@
 #include "program/next_year_button.h"
 
 #include "program/program_state.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

@@ -6,7 +6,7 @@
 #include "runtime/failure.h"
 #include "ui/forms/message_box.h"
 #include "ui/forms/program_end.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

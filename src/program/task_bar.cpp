@@ -1,6 +1,6 @@
 #include "program/task_bar.h"
 
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

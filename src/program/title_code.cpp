@@ -1,7 +1,7 @@
 #include "program/title_code.h"
 
 #include "program/program_state.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

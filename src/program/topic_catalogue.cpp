@@ -2,7 +2,7 @@
 
 #include "program/program_state.h"
 #include "runtime/text.h"
-#include "windows/frm_slide.h"
+#include "windows/slide_window.h"
 
 namespace torvik {
 

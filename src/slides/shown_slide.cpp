@@ -3,7 +3,7 @@
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/text.h"
-#include "windows/frm_slide.h"
+#include "windows/slide_window.h"
 
 namespace torvik {
 

@@ -1,7 +1,7 @@
 #include "slides/slide_clock.h"
 
 #include "ui/forms/clock.h"
-#include "windows/frm_slide.h"
+#include "windows/slide_window.h"
 
 #include <QLocale>
 

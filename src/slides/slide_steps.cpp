@@ -5,7 +5,7 @@
 #include "runtime/failure.h"
 #include "runtime/text.h"
 #include "slides/shown_slide.h"
-#include "windows/frm_slide.h"
+#include "windows/slide_window.h"
 
 namespace torvik {
 

@@ -7,7 +7,7 @@
 #include "program/report_error.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
-#include "windows/form2.h"
+#include "windows/splash.h"
 
 namespace torvik {
 

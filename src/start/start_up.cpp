@@ -1,17 +1,17 @@
 #include "start/start_up.h"
 
-#include "browser/year_selection.h"
+#include "browser/year_buttons.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
 #include "platform/system/single_instance.h"
-#include "program/photo_set.h"
+#include "program/photo_list.h"
 #include "program/program_state.h"
 #include "program/screen_size.h"
 #include "start/disc_search.h"
 #include "ui/forms/message_box.h"
 #include "ui/forms/program_end.h"
-#include "windows/form1.h"
-#include "windows/form2.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 namespace torvik {
 

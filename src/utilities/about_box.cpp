@@ -3,8 +3,8 @@
 #include "program/program_state.h"
 #include "program/task_bar.h"
 #include "ui/desktop/shell_execute.h"
-#include "windows/form1.h"
-#include "windows/frm_about.h"
+#include "windows/about_window.h"
+#include "windows/main_window.h"
 #include "windows/maker.h"
 
 namespace torvik {

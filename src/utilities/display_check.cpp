@@ -5,7 +5,7 @@
 #include "runtime/text.h"
 #include "ui/forms/message_box.h"
 #include "ui/forms/screen.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 namespace torvik {
 

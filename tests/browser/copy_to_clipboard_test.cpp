@@ -5,7 +5,7 @@
 #include "ui/controls/image.h"
 #include "ui/controls/list_box.h"
 #include "ui/forms/form_window.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,9 +1,9 @@
 #include "browser/restore_main_window.h"
 #include "program/program_state.h"
 #include "support/program.h"
-#include "windows/form1.h"
-#include "windows/frm_slide.h"
-#include "windows/txt_form.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
+#include "windows/slide_window.h"
 
 #include <QTest>
 

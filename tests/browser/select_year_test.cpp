@@ -3,8 +3,8 @@
 #include "support/program.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/screen.h"
-#include "windows/form1.h"
-#include "windows/frm_ss_photo.h"
+#include "windows/main_window.h"
+#include "windows/play_list_window.h"
 
 #include <QTest>
 

@@ -3,9 +3,9 @@
 #include "support/program.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
-#include "windows/form1.h"
-#include "windows/frm_scroll.h"
-#include "windows/frm_ss_photo.h"
+#include "windows/main_window.h"
+#include "windows/page_window.h"
+#include "windows/play_list_window.h"
 
 #include <QDir>
 #include <QTest>

@@ -1,8 +1,8 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "support/program.h"
-#include "windows/form1.h"
-#include "windows/txt_form.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

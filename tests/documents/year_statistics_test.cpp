@@ -1,8 +1,8 @@
 #include "program/program_state.h"
 #include "support/program.h"
 #include "support/viewer_visit.h"
-#include "windows/form1.h"
-#include "windows/txt_form.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

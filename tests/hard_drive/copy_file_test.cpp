@@ -7,8 +7,8 @@
 #include "support/ordinary_user.h"
 #include "support/program.h"
 #include "ui/application.h"
-#include "windows/form1.h"
-#include "windows/frm_ss_photo.h"
+#include "windows/main_window.h"
+#include "windows/play_list_window.h"
 
 #include <QTest>
 

@@ -6,7 +6,7 @@
 #include "support/program.h"
 #include "ui/application.h"
 #include "ui/forms/program_end.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

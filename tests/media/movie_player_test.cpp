@@ -8,7 +8,7 @@
 #include "ui/forms/form_window.h"
 #include "ui/forms/screen.h"
 #include "ui/media/video_pane.h"
-#include "windows/frm_movie.h"
+#include "windows/movie_window.h"
 
 #include <QAbstractButton>
 #include <QFile>

@@ -4,7 +4,7 @@
 #include "support/full_disk.h"
 #include "ui/forms/screen.h"
 #include "ui/printer/printer.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

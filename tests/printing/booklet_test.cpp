@@ -2,7 +2,7 @@
 #include "support/booklet_run.h"
 #include "ui/forms/screen.h"
 #include "ui/printer/printer.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

@@ -3,7 +3,7 @@
 #include "support/print_folder.h"
 #include "support/program.h"
 #include "ui/printer/printer.h"
-#include "windows/txt_form.h"
+#include "windows/article_window.h"
 
 #include <QBuffer>
 #include <QTest>

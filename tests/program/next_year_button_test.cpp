@@ -2,7 +2,7 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "support/program.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

@@ -3,7 +3,7 @@
 #include "runtime/failure.h"
 #include "support/program.h"
 #include "ui/forms/program_end.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 #include "program/program_state.h"
 #include "program/title_code.h"
 #include "support/program.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

@@ -3,8 +3,8 @@
 #include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "support/program.h"
-#include "windows/form1.h"
-#include "windows/frm_slide.h"
+#include "windows/main_window.h"
+#include "windows/slide_window.h"
 
 #include <QTest>
 

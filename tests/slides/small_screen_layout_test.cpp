@@ -2,7 +2,7 @@
 #include "slides/small_screen_layout.h"
 #include "support/program.h"
 #include "ui/forms/form_window.h"
-#include "windows/frm_slide.h"
+#include "windows/slide_window.h"
 
 #include <QTest>
 

@@ -6,8 +6,8 @@
 #include "ui/application.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/program_end.h"
-#include "windows/form1.h"
-#include "windows/form2.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QTest>
 

@@ -2,14 +2,14 @@
 
 #include "support/program.h"
 #include "ui/forms/form_window.h"
-#include "windows/form1.h"
-#include "windows/form2.h"
-#include "windows/frm_about.h"
-#include "windows/frm_movie.h"
-#include "windows/frm_scroll.h"
-#include "windows/frm_slide.h"
-#include "windows/frm_ss_photo.h"
-#include "windows/txt_form.h"
+#include "windows/about_window.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
+#include "windows/movie_window.h"
+#include "windows/page_window.h"
+#include "windows/play_list_window.h"
+#include "windows/slide_window.h"
+#include "windows/splash.h"
 
 #include <QTest>
 

@@ -3,7 +3,7 @@
 #include "program/program_state.h"
 #include "support/menu_choice.h"
 #include "ui/forms/screen.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

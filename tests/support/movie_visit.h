@@ -2,8 +2,8 @@
 
 #include "support/modal_visit.h"
 #include "support/program.h"
-#include "windows/form1.h"
-#include "windows/frm_movie.h"
+#include "windows/main_window.h"
+#include "windows/movie_window.h"
 
 namespace torvik {
 

@@ -11,8 +11,8 @@
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/screen.h"
-#include "windows/form1.h"
-#include "windows/form2.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>

@@ -4,8 +4,8 @@
 #include "support/modal_visit.h"
 #include "support/program.h"
 #include "ui/forms/form_window.h"
-#include "windows/form1.h"
-#include "windows/frm_slide.h"
+#include "windows/main_window.h"
+#include "windows/slide_window.h"
 
 #include <QTest>
 

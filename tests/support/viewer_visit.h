@@ -2,7 +2,7 @@
 
 #include "support/modal_visit.h"
 #include "support/program.h"
-#include "windows/txt_form.h"
+#include "windows/article_window.h"
 
 namespace torvik {
 

@@ -1,6 +1,6 @@
 #include "program/program_state.h"
 #include "support/program.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

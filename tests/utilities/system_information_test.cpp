@@ -1,6 +1,6 @@
 #include "platform/system/registry.h"
 #include "support/program.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QFile>
 #include <QTest>

@@ -1,5 +1,5 @@
 #include "support/program.h"
-#include "windows/form1.h"
+#include "windows/main_window.h"
 
 #include <QTest>
 

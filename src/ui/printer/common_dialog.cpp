@@ -1,7 +1,7 @@
 #include "ui/printer/common_dialog.h"
 
 #include "runtime/failure.h"
-#include "ui/help/win_help.h"
+#include "ui/help/help_system.h"
 #include "ui/printer/printer.h"
 #include "ui/printer/printer_dialog.h"
 

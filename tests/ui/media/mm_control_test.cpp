@@ -54,7 +54,7 @@ QStringList Enabled()
 } // namespace
 
 /// A media device behind its bar of buttons.
-class MMControlTest : public QObject {
+class MmControlTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -209,5 +209,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(MMControlTest)
+QTEST_MAIN(MmControlTest)
 #include "mm_control_test.moc"

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace torvik {
+
+/// The year of a year button: 1 gives "1967", 35 gives "2001".
+QString YearOfButton(int index);
+
+/// Ties the year buttons to their handlers.
+void BindYearButtons();
+
+} // namespace torvik

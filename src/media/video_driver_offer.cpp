@@ -1,0 +1,52 @@
+#include "media/video_driver_offer.h"
+
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "program/run_and_wait.h"
+#include "runtime/failure.h"
+#include "ui/forms/message_box.h"
+#include "windows/main_window.h"
+
+namespace torvik {
+
+namespace {
+
+const QString question = QStringLiteral("If you are experiencing difficulties running the Torvik movies,\r\n"
+                                        "you may need to install the Intel Indeo Video Software.\r\n"
+                                        "\r\n"
+                                        "Would you like to install this software now?");
+
+void Install()
+{
+    Form1->SetEnabled(false);
+    RunAndWait(state.DiscRoot + QStringLiteral("\\IndeoVideo\\iv5play.exe"));
+    Form1->SetEnabled(true);
+}
+
+void ReportDriver()
+{
+    state.ErrorCode = QStringLiteral("ER003");
+    ReportError();
+}
+
+} // namespace
+
+void OfferDriver(const std::function<void()>& afterwards)
+{
+    state.MessageResult = MsgBox(question, msgbox::question | msgbox::yesNo);
+    if (state.MessageResult != msgbox::answerYes)
+        return;
+    OnError(
+        [&] {
+            Install();
+            afterwards();
+        },
+        ReportDriver);
+}
+
+void BindVideoDriverOffer()
+{
+    Form1.Bind([](Form1Controls& form) { form.mnuVideo.Click = [] { OfferDriver([] {}); }; });
+}
+
+} // namespace torvik

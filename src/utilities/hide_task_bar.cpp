@@ -1,0 +1,46 @@
+#include "utilities/hide_task_bar.h"
+
+#include "program/program_state.h"
+#include "program/task_bar.h"
+#include "ui/forms/screen.h"
+#include "windows/main_window.h"
+
+namespace torvik {
+
+namespace {
+
+void HideTaskBar()
+{
+    state.ApiResult = ShowWindow(state.TrayWindow, showWindow::hide);
+    Form1->SetWindowState(Form::State::Normal);
+    Form1->SetHeight(Screen.Height());
+    Form1->SetWidth(Screen.Width());
+    Form1->SetTop(0);
+    Form1->SetLeft(0);
+    Form1->mnuHideStatus.SetCaption(QStringLiteral("ShowStatusBar"));
+}
+
+void ShowTaskBar()
+{
+    state.ApiResult = ShowWindow(state.TrayWindow, showWindow::normal);
+    Form1->mnuHideStatus.SetCaption(QStringLiteral("HideStatusBar"));
+}
+
+void mnuHideStatus_Click()
+{
+    state.TrayClassName = QStringLiteral("Shell_TrayWnd");
+    state.TrayWindow = FindWindowByClass(state.TrayClassName);
+    if (Form1->mnuHideStatus.Caption() == QStringLiteral("HideStatusBar"))
+        HideTaskBar();
+    else
+        ShowTaskBar();
+}
+
+} // namespace
+
+void BindHideTaskBar()
+{
+    Form1.Bind([](Form1Controls& form) { form.mnuHideStatus.Click = mnuHideStatus_Click; });
+}
+
+} // namespace torvik

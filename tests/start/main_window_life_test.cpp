@@ -1,0 +1,287 @@
+#include "platform/system/settings_store.h"
+#include "program/program_state.h"
+#include "program/task_bar.h"
+#include "start/main_window_life.h"
+#include "support/program.h"
+#include "ui/application.h"
+#include "ui/forms/form_window.h"
+#include "ui/forms/program_end.h"
+#include "ui/forms/screen.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+namespace {
+
+void Save(const QString& key, const QString& value)
+{
+    SaveSetting(applicationTitle, QStringLiteral("Settings"), key, value);
+}
+
+QString Saved(const QString& key)
+{
+    return GetSetting(applicationTitle, QStringLiteral("Settings"), key, QStringLiteral("(none)"));
+}
+
+} // namespace
+
+/// The main window from its Load to its closing.
+class MainWindowLifeTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        ForgetSettings();
+        program_->Disc.AddGroup(QStringLiteral("67"), 3);
+        program_->Disc.AddGroup(QStringLiteral("68"), 2);
+    }
+    void cleanup()
+    {
+        program_.reset();
+        ForgetSettings();
+    }
+
+    void ampersands_are_doubled_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("doubled");
+        QTest::newRow("none") << QStringLiteral("Torvik") << QStringLiteral("Torvik");
+        QTest::newRow("one") << QStringLiteral("A & B") << QStringLiteral("A && B");
+        QTest::newRow("two together") << QStringLiteral("A && B") << QStringLiteral("A &&&& B");
+        QTest::newRow("at both ends") << QStringLiteral("&x&") << QStringLiteral("&&x&&");
+        QTest::newRow("empty") << QString() << QString();
+    }
+
+    void ampersands_are_doubled()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, doubled);
+        QCOMPARE(DoubleAmpersands(text), doubled);
+    }
+
+    void without_settings_the_window_covers_the_screen()
+    {
+        program_->StartBrowsing();
+        QCOMPARE(Form1->Left(), 0.0);
+        QCOMPARE(Form1->Top(), 0.0);
+        QCOMPARE(Form1->Width(), 12000.0);
+        QCOMPARE(Form1->Height(), 9000.0);
+        QVERIFY(Form1->Visible());
+    }
+
+    void the_placement_of_the_last_run_comes_back()
+    {
+        Save(QStringLiteral("MainLeft"), QStringLiteral("300"));
+        Save(QStringLiteral("MainTop"), QStringLiteral("150"));
+        Save(QStringLiteral("MainWidth"), QStringLiteral("10500"));
+        Save(QStringLiteral("MainHeight"), QStringLiteral("8250"));
+        program_->StartBrowsing();
+        QCOMPARE(Form1->Left(), 300.0);
+        QCOMPARE(Form1->Top(), 150.0);
+        QCOMPARE(Form1->Width(), 10500.0);
+        QCOMPARE(Form1->Height(), 8250.0);
+    }
+
+    void the_load_leaves_its_traces_in_the_record()
+    {
+        program_->StartBrowsing();
+        QVERIFY(!Form2.IsLoaded());
+        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\richtext\\desc.rtf"));
+        QCOMPARE(Form1->mnuMag(1).Caption(), QStringLiteral("Torvik Illustrated"));
+        QCOMPARE(Screen.Pointer(), MousePointer::Default);
+    }
+
+    void a_setting_that_holds_no_number_is_a_failure_without_a_trap()
+    {
+        Save(QStringLiteral("MainTop"), QStringLiteral("somewhere"));
+        program_->StartBrowsing();
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->Messages.Last().Text, QStringLiteral("Run-time error '13':\r\n\r\nType mismatch"));
+        QVERIFY(ProgramIsEnding());
+        QCOMPARE(Saved(QStringLiteral("MainTop")), QStringLiteral("somewhere"));
+    }
+
+    void the_first_activation_shows_the_first_photo_of_1967()
+    {
+        program_->StartBrowsing();
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("67A.JPG"));
+        QVERIFY(Form1->Image4.Visible());
+        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
+        QVERIFY(!Form1->cmdYR(1).Enabled());
+        QVERIFY(Form1->cmdYR(2).Enabled());
+        QCOMPARE(int(state.CurrentYearButton), 1);
+        QCOMPARE(int(state.NextYearButton), 1);
+        QCOMPARE(int(state.PhotoIndex), 0);
+        QCOMPARE(int(state.ShownPhotoIndex), 1);
+        QVERIFY(!state.FirstActivation);
+        QVERIFY(!state.SteppedForward);
+        QVERIFY(!state.SteppedBackward);
+        QCOMPARE(Screen.Pointer(), MousePointer::Default);
+    }
+
+    void the_first_year_button_comes_back_with_the_next_selection()
+    {
+        program_->StartBrowsing();
+        program_->Click(Form1->cmdYR(2));
+        QVERIFY(Form1->cmdYR(1).Enabled());
+    }
+
+    void a_second_activation_changes_nothing()
+    {
+        program_->StartBrowsing();
+        program_->Click(Form1->cmdYR(2));
+        Form1->Activate.Fire();
+        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1968"));
+        QVERIFY(Form1->cmdYR(1).Enabled());
+    }
+
+    void the_return_from_a_slide_show_rebuilds_the_window()
+    {
+        program_->StartBrowsing();
+        Form1->Image4.Hide();
+        Form1->cmdDesc.SetEnabled(false);
+        state.SlideRestorePending = true;
+        Form1->Activate.Fire();
+        QVERIFY(Form1->Image4.Visible());
+        QVERIFY(Form1->cmdDesc.Enabled());
+        QVERIFY(!state.SlideRestorePending);
+    }
+
+    void without_a_title_the_return_leaves_the_photo_hidden()
+    {
+        program_->StartBrowsing();
+        Form1->panYear.SetCaption(nothingChosen);
+        Form1->Image4.Hide();
+        state.SlideRestorePending = true;
+        Form1->Activate.Fire();
+        QVERIFY(!Form1->Image4.Visible());
+        QVERIFY(!state.SlideRestorePending);
+    }
+
+    void without_the_mark_an_activation_rebuilds_nothing()
+    {
+        program_->StartBrowsing();
+        Form1->Image4.Hide();
+        Form1->Activate.Fire();
+        QVERIFY(!Form1->Image4.Visible());
+    }
+
+    void a_resize_brings_a_hidden_task_bar_back()
+    {
+        program_->StartBrowsing();
+        state.TrayWindow = FindWindowByClass(QStringLiteral("Shell_TrayWnd"));
+        ShowWindow(state.TrayWindow, showWindow::hide);
+        Form1->mnuHideStatus.SetCaption(QStringLiteral("ShowStatusBar"));
+        Form1->SetWidth(11000);
+        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("HideStatusBar"));
+        QVERIFY(!Form1->CoversScreen());
+    }
+
+    void a_resize_with_the_task_bar_showing_changes_nothing()
+    {
+        program_->StartBrowsing();
+        state.ApiResult = 77;
+        Form1->SetWidth(11000);
+        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("HideStatusBar"));
+        QCOMPARE(state.ApiResult, 77);
+    }
+
+    void closing_saves_the_placement_and_ends_data()
+    {
+        QTest::addColumn<QString>("way");
+        for (const char* way : {"cmdExit", "mnuExit", "close box"})
+            QTest::newRow(way) << QString::fromLatin1(way);
+    }
+
+    void closing_saves_the_placement_and_ends()
+    {
+        QFETCH(QString, way);
+        program_->StartBrowsing();
+        Form1->SetLeft(450);
+        Form1->SetTop(600);
+        Form1->SetWidth(11250);
+        Form1->SetHeight(8400);
+        program_->Settle();
+        if (way == QStringLiteral("cmdExit"))
+            program_->Click(Form1->cmdExit);
+        else if (way == QStringLiteral("mnuExit"))
+            Form1->mnuExit.Click.Fire();
+        else
+            Form1->Window().close();
+        QVERIFY(ProgramIsEnding());
+        QVERIFY(program_->Messages.Shown().isEmpty());
+        QCOMPARE(Saved(QStringLiteral("MainLeft")), QStringLiteral("450"));
+        QCOMPARE(Saved(QStringLiteral("MainTop")), QStringLiteral("600"));
+        QCOMPARE(Saved(QStringLiteral("MainWidth")), QStringLiteral("11250"));
+        QCOMPARE(Saved(QStringLiteral("MainHeight")), QStringLiteral("8400"));
+    }
+
+    void closing_while_minimized_keeps_the_settings_of_the_run_before()
+    {
+        Save(QStringLiteral("MainLeft"), QStringLiteral("300"));
+        program_->StartBrowsing();
+        Form1->SetLeft(900);
+        Form1->SetWindowState(Form::State::Minimized);
+        program_->Settle();
+        QCOMPARE(Form1->WindowState(), Form::State::Minimized);
+        Form1->mnuExit.Click.Fire();
+        QVERIFY(ProgramIsEnding());
+        QCOMPARE(Saved(QStringLiteral("MainLeft")), QStringLiteral("300"));
+        QCOMPARE(Saved(QStringLiteral("MainWidth")), QStringLiteral("(none)"));
+    }
+
+    void closing_shows_a_hidden_task_bar_and_ends_the_sound()
+    {
+        program_->StartBrowsing();
+        state.TrayWindow = FindWindowByClass(QStringLiteral("Shell_TrayWnd"));
+        ShowWindow(state.TrayWindow, showWindow::hide);
+        program_->Disc.AddFile(QStringLiteral("wav/x.wav"), "RIFF");
+        Form1->MMControl1.SetFileName(QStringLiteral("G:\\wav\\x.wav"));
+        Form1->MMControl1.Command(QStringLiteral("open"));
+        Form1->mnuExit.Click.Fire();
+        QVERIFY(!Form1->CoversScreen());
+        QVERIFY(!Form1->MMControl1.IsOpen());
+        QCOMPARE(state.ApiResult, 0);
+    }
+
+    void the_end_by_cancel_saves_nothing_and_leaves_the_task_bar_hidden()
+    {
+        program_->StartBrowsing();
+        state.TrayWindow = FindWindowByClass(QStringLiteral("Shell_TrayWnd"));
+        ShowWindow(state.TrayWindow, showWindow::hide);
+        program_->Disc.Remove(QStringLiteral("Torviks"));
+        program_->PutDiscIn({});
+        program_->DoubleClick(Form1->panPhoto);
+        QVERIFY(ProgramIsEnding());
+        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER037")));
+        QVERIFY(Form1->CoversScreen());
+        QCOMPARE(Saved(QStringLiteral("MainLeft")), QStringLiteral("(none)"));
+    }
+
+    void the_progress_panel_can_be_hidden_from_outside()
+    {
+        program_->StartBrowsing();
+        Form1->pnlProgress.Show();
+        HideProgressPanel();
+        QVERIFY(!Form1->pnlProgress.Visible());
+    }
+
+private:
+    static void ForgetSettings()
+    {
+        QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") +
+                      QStringLiteral("/The Torvik Vollandry 2001.ini"));
+    }
+
+    std::unique_ptr<Program> program_;
+};
+
+QTEST_MAIN(MainWindowLifeTest)
+#include "main_window_life_test.moc"

@@ -1,0 +1,49 @@
+#include "support/program.h"
+#include "windows/main_window.h"
+
+#include <QTest>
+
+using namespace torvik;
+
+/// The controls of the work panel that shows the progress of a copy.
+class CopyPanelTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->StartBrowsing();
+    }
+    void cleanup() { program_.reset(); }
+
+    void every_control_lies_on_the_hidden_panel_under_its_name()
+    {
+        QVERIFY(!Form1->pnlProgress.Visible());
+        for (const char* name : {"ProgressGuage", "ProgressGuage2", "Text1", "cmdCopy", "cmdCancel"}) {
+            const QWidget* widget = Form1->pnlProgress.Widget().findChild<QWidget*>(
+                QString::fromLatin1(name), Qt::FindDirectChildrenOnly);
+            QVERIFY2(widget != nullptr, name);
+            QVERIFY2(!widget->accessibleName().isEmpty(), name);
+        }
+    }
+
+    void both_gauges_begin_at_0_and_say_their_percentage()
+    {
+        for (Panel* gauge : {&Form1->ProgressGuage, &Form1->ProgressGuage2}) {
+            QCOMPARE(gauge->FloodPercent(), 0);
+            QCOMPARE(gauge->Widget().accessibleName(), QStringLiteral("0%"));
+            gauge->SetFloodPercent(37);
+            QCOMPARE(gauge->Widget().accessibleName(), QStringLiteral("37%"));
+        }
+        QCOMPARE(Form1->ProgressGuage.ToolTip(), QStringLiteral("This file"));
+        QCOMPARE(Form1->ProgressGuage2.ToolTip(), QStringLiteral("All files"));
+    }
+
+private:
+    std::unique_ptr<Program> program_;
+};
+
+QTEST_MAIN(CopyPanelTest)
+#include "copy_panel_test.moc"

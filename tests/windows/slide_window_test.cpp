@@ -1,0 +1,140 @@
+#include "program/program_state.h"
+#include "support/slide_visit.h"
+#include "windows/slide_window.h"
+
+using namespace torvik;
+
+namespace {
+
+QString SpokenName(const QString& widget)
+{
+    const auto* found = frmSlide->Window().findChild<QWidget*>(widget);
+    return found == nullptr ? QStringLiteral("(missing)") : found->accessibleName();
+}
+
+} // namespace
+
+/// What the slide show's window is made of.
+class SlideWindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(QStringLiteral("67"), 2);
+        program_->StartBrowsing();
+        state.SlideShowOpen = true;
+    }
+    void cleanup() { program_.reset(); }
+
+    void captions_and_tool_tips()
+    {
+        QCOMPARE(frmSlide->Caption(), QStringLiteral("The Torvik Vollandry Slide Show"));
+        QCOMPARE(frmSlide->panYear.Caption(), QStringLiteral("panYear"));
+        QCOMPARE(frmSlide->panInterval.Caption(), QStringLiteral("SSPanel1"));
+        QCOMPARE(frmSlide->SSCommand1.Caption(), QStringLiteral("Beginning"));
+        QCOMPARE(frmSlide->SSCommand1.ToolTip(), QStringLiteral("Jump to Slide 1"));
+        QCOMPARE(frmSlide->SSCommand2.Caption(), QStringLiteral("Middle"));
+        QCOMPARE(frmSlide->SSCommand2.ToolTip(), QStringLiteral("Jump to Middle"));
+        QCOMPARE(frmSlide->SpinInterval.ToolTip(), QStringLiteral("Set Slide Show Delay"));
+        QCOMPARE(frmSlide->mmSlide.ToolTip(),
+                 QStringLiteral("[Bkwd] [Fwd] [Play] [Pause] [Jump Bkwd] [Jump Fwd] [Exit]"));
+        QCOMPARE(frmSlide->PnlCoStar.Caption(), QStringLiteral("The Torvik Vollandry   2001"));
+        QCOMPARE(frmSlide->StatusDate.Caption(), QStringLiteral("StatusDate"));
+        QCOMPARE(frmSlide->StatusDay.Caption(), QStringLiteral("StatusDay"));
+        QCOMPARE(frmSlide->StatusTime.Caption(), QStringLiteral("StatusTime"));
+        QCOMPARE(frmSlide->cmdExit.Caption(), QStringLiteral("Exit"));
+    }
+
+    void the_timers_as_they_are_at_design()
+    {
+        QCOMPARE(frmSlide->Timer1.Interval(), 750);
+        QCOMPARE(frmSlide->Timer3.Interval(), 10);
+    }
+
+    void the_bar_shows_seven_buttons_and_six_of_them_are_enabled()
+    {
+        const MediaBar& bar = frmSlide->mmSlide;
+        for (const MediaButton button : {MediaButton::Prev, MediaButton::Next, MediaButton::Play,
+                                         MediaButton::Back, MediaButton::Step, MediaButton::Stop}) {
+            QVERIFY(bar.ButtonVisible(button));
+            QVERIFY(bar.ButtonEnabled(button));
+        }
+        QVERIFY(bar.ButtonVisible(MediaButton::Pause));
+        QVERIFY(!bar.ButtonEnabled(MediaButton::Pause));
+        for (const MediaButton button : {MediaButton::Record, MediaButton::Eject}) {
+            QVERIFY(!bar.ButtonVisible(button));
+            QVERIFY(!bar.ButtonEnabled(button));
+        }
+    }
+
+    void the_photo_is_the_built_in_picture_sharp_on_dense_screens()
+    {
+        QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("slide_show.jpg"));
+        const QSize shown = frmSlide->Image1.Widget().size();
+        const QSize natural = frmSlide->Image1.Picture().NaturalSize();
+        QVERIFY(natural.width() >= 2 * shown.width() || natural.height() >= 2 * shown.height());
+        QVERIFY(!frmSlide->pnlPhotoNumber.Visible());
+    }
+
+    void every_part_says_what_it_does_data()
+    {
+        QTest::addColumn<QString>("spoken");
+        for (const auto& [name, spoken] : {std::pair{"mmSlide(Prev)", "Backward"},
+                                           {"mmSlide(Next)", "Forward"},
+                                           {"mmSlide(Play)", "Play"},
+                                           {"mmSlide(Pause)", "Pause"},
+                                           {"mmSlide(Back)", "Jump backward"},
+                                           {"mmSlide(Step)", "Jump forward"},
+                                           {"mmSlide(Stop)", "Exit with this photo"},
+                                           {"SpinInterval(Up)", "Longer delay"},
+                                           {"SpinInterval(Down)", "Shorter delay"},
+                                           {"SSCommand1", "Beginning"},
+                                           {"cmdExit", "Exit"},
+                                           {"Image1", "slide_show.jpg"}})
+            QTest::newRow(name) << QString::fromLatin1(spoken);
+    }
+
+    void every_part_says_what_it_does()
+    {
+        QFETCH(QString, spoken);
+        QCOMPARE(SpokenName(QString::fromLatin1(QTest::currentDataTag())), spoken);
+    }
+
+    void the_layout_holds_in_every_size_of_the_main_window_data()
+    {
+        QTest::addColumn<QSizeF>("twips");
+        QTest::newRow("on 800 by 600") << QSizeF(12000, 9000);
+        QTest::newRow("on larger screens") << QSizeF(11994, 9100);
+    }
+
+    void the_layout_holds_in_every_size_of_the_main_window()
+    {
+        QFETCH(QSizeF, twips);
+        Form1->SetWidth(twips.width());
+        Form1->SetHeight(twips.height());
+        QVERIFY(InSlideShow(*program_, [&] {
+            const QRect client(QPoint(), frmSlide->Window().Client().size());
+            QList<const Control*> controls;
+            for (const Control* control : std::initializer_list<const Control*>{
+                     &frmSlide->Image1, &frmSlide->panYear, &frmSlide->SSCommand1, &frmSlide->SSCommand2,
+                     &frmSlide->mmSlide, &frmSlide->SpinInterval, &frmSlide->panInterval,
+                     &frmSlide->PnlCoStar, &frmSlide->StatusDate, &frmSlide->StatusDay, &frmSlide->StatusTime,
+                     &frmSlide->cmdExit})
+                controls += control;
+            for (const Control* one : controls) {
+                QVERIFY2(client.contains(one->Widget().geometry()), qPrintable(one->Name()));
+                for (const Control* other : controls)
+                    QVERIFY2(one == other || !one->Widget().geometry().intersects(other->Widget().geometry()),
+                             qPrintable(one->Name() + QStringLiteral(" and ") + other->Name()));
+            }
+        }));
+    }
+
+private:
+    std::unique_ptr<Program> program_;
+};
+
+QTEST_MAIN(SlideWindowTest)
+#include "slide_window_test.moc"
