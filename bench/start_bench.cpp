@@ -17,6 +17,8 @@
 #include <cstdio>
 #include <ctime>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template <typename Work>
@@ -34,8 +36,7 @@ void MakeDisc(const QString& folder)
     QImage photo(1280, 776, QImage::Format_RGB32);
     photo.fill(Qt::darkCyan);
     for (int number = 0; number < photoCount; ++number)
-        photo.save(folder +
-                   QStringLiteral("/%1TOR%2.JPG").arg(67 + number % 33).arg(number, 3, 10, QLatin1Char('0')));
+        photo.save(folder + u"/%1TOR%2.JPG"_s.arg(67 + number % 33).arg(number, 3, 10, QLatin1Char('0')));
 }
 
 } // namespace
@@ -48,7 +49,7 @@ int main(int argc, char** argv)
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     const QTemporaryDir disc;
-    MakeDisc(disc.filePath(QStringLiteral("Torviks")));
+    MakeDisc(disc.filePath(u"Torviks"_s));
     const QApplication application(argc, argv);
 
     const double empty = ProcessorMilliseconds([] {

@@ -12,6 +12,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int badUsage = 2;
@@ -30,7 +32,7 @@ QString TakeFolders(const torvik::CommandLine& line)
         SetProgramFolder(line.ProgramFolder);
         SetDriveOptions(line.Drives);
     });
-    return error == 0 ? QString() : RunTimeErrorText(error) + QStringLiteral(".");
+    return error == 0 ? QString() : RunTimeErrorText(error) + u"."_s;
 }
 
 } // namespace

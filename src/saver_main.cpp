@@ -20,6 +20,8 @@
 #include <cstdio>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace torvik;
@@ -41,9 +43,9 @@ QString TakeFolders(const SaverArguments& arguments)
         SetDriveOptions(arguments.Drives);
         RefreshDrives();
         if (arguments.ProgramFolder.isEmpty() && DriveFolder(u'Z').isEmpty())
-            SetProgramFolder(QCoreApplication::applicationDirPath() + QStringLiteral("/.."));
+            SetProgramFolder(QCoreApplication::applicationDirPath() + u"/.."_s);
     });
-    return error == 0 ? QString() : RunTimeErrorText(error) + QStringLiteral(".");
+    return error == 0 ? QString() : RunTimeErrorText(error) + u"."_s;
 }
 
 /// Lets the show inside a window follow the window's size, and ends it with the window.
@@ -63,7 +65,7 @@ int Embed(Application& application, quint64 window)
 {
     HostWindow host(window);
     if (!host.Size())
-        return Complain(QStringLiteral("There is no window %1.").arg(window));
+        return Complain(u"There is no window %1."_s.arg(window));
     std::optional<ShowRunner> runner;
     QTimer timer;
     return application.Run([&] {

@@ -11,6 +11,8 @@
 #include "ui/forms/message_box.h"
 #include "ui/forms/screen.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -35,9 +37,8 @@ void CopyToClipboard()
 {
     if (Val(state.ClipboardRequest) != 2)
         return;
-    state.MessageResult =
-        MsgBox(QStringLiteral("Would you like to copy this image to the Windows Clipboard?"),
-               msgbox::question + msgbox::yesNo);
+    state.MessageResult = MsgBox(u"Would you like to copy this image to the Windows Clipboard?"_s,
+                                 msgbox::question + msgbox::yesNo);
     if (state.MessageResult != msgbox::answerYes)
         return;
     Clipboard.Clear();

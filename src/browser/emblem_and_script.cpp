@@ -7,6 +7,8 @@
 #include "runtime/text.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -17,9 +19,9 @@ QString PictureOfTitle(const QString& harwell, const QString& prototypes, const 
     const QString title = Form1->panYear.Caption();
     if (title == classicHarwell)
         return state.DiscRoot + harwell;
-    if (title == QStringLiteral("Early Torvik Prototypes "))
+    if (title == u"Early Torvik Prototypes "_s)
         return state.DiscRoot + prototypes;
-    return state.DiscRoot + stem + Mid(title, 3, 2) + QStringLiteral(".jpg");
+    return state.DiscRoot + stem + Mid(title, 3, 2) + u".jpg"_s;
 }
 
 } // namespace
@@ -30,10 +32,9 @@ void LoadEmblem()
         [] {
             PictureBox& pane = Form1->picEmblem;
             pane.Hide();
-            state.ErrorCode = QStringLiteral("ER022");
-            pane.Load(PictureOfTitle(QStringLiteral("\\emblems\\embsb.jpg"),
-                                     QStringLiteral("\\emblems\\EMBpt.jpg"),
-                                     QStringLiteral("\\emblems\\emb")));
+            state.ErrorCode = u"ER022"_s;
+            pane.Load(
+                PictureOfTitle(u"\\emblems\\embsb.jpg"_s, u"\\emblems\\EMBpt.jpg"_s, u"\\emblems\\emb"_s));
             pane.SetTop(Form1->Frame1.Top() - pane.Height() - 1);
             pane.SetLeft(Form1->Image4.Width() - pane.Width() + 9);
             pane.ZOrder();
@@ -44,14 +45,13 @@ void LoadEmblem()
 
 void LoadScript()
 {
-    state.ErrorCode = QStringLiteral("ER021");
+    state.ErrorCode = u"ER021"_s;
     OnError(
         [] {
             PictureBox& pane = Form1->picScript;
             pane.Hide();
-            pane.Load(PictureOfTitle(QStringLiteral("\\SCRIPTS\\SCRISB.jpg"),
-                                     QStringLiteral("\\SCRIPTS\\SCRIpt.jpg"),
-                                     QStringLiteral("\\scripts\\scri")));
+            pane.Load(
+                PictureOfTitle(u"\\SCRIPTS\\SCRISB.jpg"_s, u"\\SCRIPTS\\SCRIpt.jpg"_s, u"\\scripts\\scri"_s));
             pane.SetTop(Form1->Image4.Top() + 25);
             pane.SetLeft(Form1->Image4.Left() + 1);
             pane.ZOrder();
@@ -64,9 +64,8 @@ void LoadClipArt()
 {
     OnError(
         [] {
-            state.ErrorCode = QStringLiteral("ER024");
-            Form1->picClipArt.Load(state.DiscRoot + QStringLiteral("\\ClipArt\\") + state.YearCode +
-                                   QStringLiteral("clip.jpg"));
+            state.ErrorCode = u"ER024"_s;
+            Form1->picClipArt.Load(state.DiscRoot + u"\\ClipArt\\"_s + state.YearCode + u"clip.jpg"_s);
             PlaceClipArt();
         },
         ReportError);

@@ -9,6 +9,8 @@
 #include "runtime/text.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -29,12 +31,11 @@ void OpenClipArt()
 {
     FocusNextYearButton();
     state.YearCode = Mid(Form1->panYear.Caption(), 3, 2);
-    state.ErrorCode = QStringLiteral("ER035");
+    state.ErrorCode = u"ER035"_s;
     OnError(
         [] {
             PictureBox& pane = Form1->picClipArt;
-            pane.Load(state.DiscRoot + QStringLiteral("\\Clipart\\") + state.YearCode +
-                      QStringLiteral("clip.jpg"));
+            pane.Load(state.DiscRoot + u"\\Clipart\\"_s + state.YearCode + u"clip.jpg"_s);
             PlaceClipArt();
             pane.ZOrder();
             pane.Show();
@@ -59,17 +60,17 @@ void ClosePane(PictureBox& pane)
 void Pane_MouseDown(int button)
 {
     if (button == mouse::right) {
-        state.ClipboardRequest = QStringLiteral("2");
+        state.ClipboardRequest = u"2"_s;
         CopyToClipboard();
     } else {
-        state.ClipboardRequest = QStringLiteral(" ");
+        state.ClipboardRequest = u" "_s;
     }
 }
 
 /// A click tells no button, so this picture is never copied, whatever its tool tip says.
 void picEmbRear_Click()
 {
-    state.ClipboardRequest = QStringLiteral(" ");
+    state.ClipboardRequest = u" "_s;
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 #include "runtime/text.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -39,8 +41,8 @@ struct Cursor {
 /// RestoreMainWindow can leave the plain digits of 2000 and 2001.
 void CorrectYearCode()
 {
-    if (Left(state.YearCode, 1) == QStringLiteral("0"))
-        state.YearCode = QStringLiteral("A") + Mid(state.YearCode, 2, 1);
+    if (Left(state.YearCode, 1) == u"0"_s)
+        state.YearCode = u"A"_s + Mid(state.YearCode, 2, 1);
 }
 
 bool HasYearCode(int index)
@@ -85,11 +87,11 @@ void FocusAfterStep()
 {
     const QString& code = state.YearCode;
     int button = 1;
-    if (code == QStringLiteral("A0"))
+    if (code == u"A0"_s)
         button = yearCount;
-    else if (code <= QStringLiteral("99"))
+    else if (code <= u"99"_s)
         button = static_cast<int>(Val(code)) - 65;
-    if (code == QStringLiteral("A0") || code == QStringLiteral("A1"))
+    if (code == u"A0"_s || code == u"A1"_s)
         Form1->cmdYR(button).SetEnabled(true);
     Form1->cmdYR(button).SetFocus();
 }
@@ -128,7 +130,7 @@ void StepPhotoForward()
     state.SteppedForward = true;
     CorrectYearCode();
 
-    state.ErrorCode = QStringLiteral("ER012");
+    state.ErrorCode = u"ER012"_s;
     OnError(
         [&] {
             bool found = ScanForward();
@@ -162,7 +164,7 @@ void StepPhotoBackward()
         state.PhotoIndex = state.PhotoCount;
     CorrectYearCode();
 
-    state.ErrorCode = QStringLiteral("ER011");
+    state.ErrorCode = u"ER011"_s;
     bool found = true;
     OnError(
         [&] {

@@ -4,6 +4,8 @@
 #include "runtime/text.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -12,11 +14,10 @@ namespace {
 /// wherever it stands.
 QString CaptionDocumentOf(const QString& photo)
 {
-    const int point = InStr(photo, QStringLiteral("."));
+    const int point = InStr(photo, u"."_s);
     const int folder = state.TorviksPathPos;
     const int stem = folder + 8;
-    return Left(photo, folder) + QStringLiteral("RichText") + Mid(photo, stem, point - stem) +
-           QStringLiteral(".rtf");
+    return Left(photo, folder) + u"RichText"_s + Mid(photo, stem, point - stem) + u".rtf"_s;
 }
 
 } // namespace

@@ -12,6 +12,8 @@
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -78,7 +80,7 @@ void WalkOn()
 
 void OpenPlayList()
 {
-    ResumeNext([] { MakeFolder(ProgramFolder() + QStringLiteral("\\ssTorviks\\")); });
+    ResumeNext([] { MakeFolder(ProgramFolder() + u"\\ssTorviks\\"_s); });
     ResumeNext([] { frmSSPhoto->Show(); });
 }
 

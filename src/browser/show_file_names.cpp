@@ -4,13 +4,15 @@
 #include "runtime/text.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
 void HideFileName()
 {
-    Form1->mnuNames.SetCaption(QStringLiteral("Show File &Names"));
+    Form1->mnuNames.SetCaption(u"Show File &Names"_s);
     state.ShowFileNames = false;
     Form1->txtFile.Hide();
 }
@@ -18,7 +20,7 @@ void HideFileName()
 void ShowFileName()
 {
     state.ShowFileNames = true;
-    Form1->mnuNames.SetCaption(QStringLiteral("Hide File &Names"));
+    Form1->mnuNames.SetCaption(u"Hide File &Names"_s);
     if (state.PhotoIndex == 0)
         state.TorviksPathPos = InStr(state.CurrentPhotoFile, torviksFolder);
     Form1->txtFile.SetText(Mid(state.CurrentPhotoFile, state.TorviksPathPos + 9));

@@ -8,6 +8,8 @@
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -44,7 +46,7 @@ void SelectBySpaceBar(int index)
     BeginSelection();
     if (state.TorviksPathPos == 0)
         state.TorviksPathPos = 1;
-    Form1->panYear.SetCaption(QStringLiteral("19%1").arg(state.TorviksPathPos + 66));
+    Form1->panYear.SetCaption(u"19%1"_s.arg(state.TorviksPathPos + 66));
     FinishSelection(index);
 }
 
@@ -70,7 +72,7 @@ void cmdYR_KeyDown(int index, int keyCode)
 
 QString YearOfButton(int index)
 {
-    return index < 34 ? QStringLiteral("19%1").arg(index + 66) : QStringLiteral("200%1").arg(index - 34);
+    return index < 34 ? u"19%1"_s.arg(index + 66) : u"200%1"_s.arg(index - 34);
 }
 
 void BindYearButtons()

@@ -12,11 +12,13 @@
 #include "windows/article_window.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
-const QString boxTitle = QStringLiteral("The Torvik Vollandry");
+const QString boxTitle = u"The Torvik Vollandry"_s;
 
 constexpr int printMargin = 1440; // twips
 
@@ -42,26 +44,25 @@ void CloseViewer()
 
 void cmdPrint_Click()
 {
-    state.MessageText =
-        QStringLiteral("Would you like to print the \r\n\r\n") + txtForm->Caption() + QStringLiteral("?");
+    state.MessageText = u"Would you like to print the \r\n\r\n"_s + txtForm->Caption() + u"?"_s;
     state.MessageAnswer =
         QString::number(MsgBox(state.MessageText, msgbox::question | msgbox::yesNo, boxTitle));
     if (ToNumber(state.MessageAnswer) != msgbox::answerYes)
         return;
     PrintRichText(txtForm->rtbText, printMargin, printMargin, printMargin, printMargin);
-    MsgBox(QStringLiteral("Printing complete!"), msgbox::exclamation, boxTitle);
+    MsgBox(u"Printing complete!"_s, msgbox::exclamation, boxTitle);
 }
 
 /// The narration of what the main window shows. The second test asks for a document although a folder stands
 /// there, so it never holds.
 QString NarrationFile()
 {
-    QString file = state.DiscRoot + QStringLiteral("\\wav\\");
+    QString file = state.DiscRoot + u"\\wav\\"_s;
     const QString title = Form1->panYear.Caption();
-    if (title == nothingChosen || file == QStringLiteral("intro.rtf"))
-        file += QStringLiteral("intro.wav");
+    if (title == nothingChosen || file == u"intro.rtf"_s)
+        file += u"intro.wav"_s;
     else
-        file += title + QStringLiteral(".wav");
+        file += title + u".wav"_s;
     return file;
 }
 
@@ -78,7 +79,7 @@ void PlayNarration()
 
 void SSCommand2_Click()
 {
-    state.ErrorCode = QStringLiteral("ER032");
+    state.ErrorCode = u"ER032"_s;
     OnError(PlayNarration, ReportError);
 }
 
@@ -114,7 +115,7 @@ void BindArticleViewer()
         form.rtbText.DblClick = CloseViewer;
         form.cmdPrint.Click = cmdPrint_Click;
         form.SSCommand2.Click = SSCommand2_Click;
-        form.SSCommand3.Click = [] { Form1->MMControl1.Command(QStringLiteral("close")); };
+        form.SSCommand3.Click = [] { Form1->MMControl1.Command(u"close"_s); };
     });
 }
 

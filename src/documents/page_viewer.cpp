@@ -9,6 +9,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -104,10 +106,8 @@ void Image1_Click()
 /// In these years advertisements were printed across; all others stand upright.
 bool IsLandscape(const QString& title)
 {
-    static const QStringList years = {QStringLiteral("1979"), QStringLiteral("1980"), QStringLiteral("1986"),
-                                      QStringLiteral("1987"), QStringLiteral("1990"), QStringLiteral("1992"),
-                                      QStringLiteral("1993"), QStringLiteral("1994"), QStringLiteral("1995"),
-                                      QStringLiteral("1996")};
+    static const QStringList years = {u"1979"_s, u"1980"_s, u"1986"_s, u"1987"_s, u"1990"_s,
+                                      u"1992"_s, u"1993"_s, u"1994"_s, u"1995"_s, u"1996"_s};
     return years.contains(title);
 }
 

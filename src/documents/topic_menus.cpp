@@ -8,6 +8,8 @@
 
 #include <span>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -82,12 +84,12 @@ void ShowSpecialtyTopic(int index)
 
 void ShowCalendars()
 {
-    ShowTopicWithoutPhotos(QStringLiteral("Torvik Calendars "));
+    ShowTopicWithoutPhotos(u"Torvik Calendars "_s);
 }
 
 void ShowCollectorPlates()
 {
-    ShowTopicWithoutPhotos(QStringLiteral("Franklin Mint Collector Plates "));
+    ShowTopicWithoutPhotos(u"Franklin Mint Collector Plates "_s);
 }
 
 void BindTopicMenus()

@@ -11,6 +11,8 @@
 #include "windows/article_window.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -30,8 +32,7 @@ void ShowArticle(const YearRule& rule, const QString& harwellFile)
         [&] {
             if (caption == classicHarwell) {
                 FindArticle(harwellFile);
-                state.DocumentTitle =
-                    QStringLiteral("The Torvik Vollandry       ") + caption + QLatin1String(rule.Ending);
+                state.DocumentTitle = u"The Torvik Vollandry       "_s + caption + QLatin1String(rule.Ending);
             } else {
                 state.DocumentTitle = FindArticleOfYear(rule);
             }
@@ -39,7 +40,7 @@ void ShowArticle(const YearRule& rule, const QString& harwellFile)
                 ReportError();
                 return;
             }
-            CompleteArticlePath(QStringLiteral("\\RichText\\"));
+            CompleteArticlePath(u"\\RichText\\"_s);
             OpenViewer();
         },
         ReportError);
@@ -84,12 +85,12 @@ void FindDescription()
 {
     const QString caption = Form1->panYear.Caption();
     if (caption == nothingChosen) {
-        FindArticle(QStringLiteral("\\richtext\\Introduction.rtf"));
-        state.DocumentTitle = QStringLiteral("The Torvik Vollandry       Introduction");
+        FindArticle(u"\\richtext\\Introduction.rtf"_s);
+        state.DocumentTitle = u"The Torvik Vollandry       Introduction"_s;
     } else if (const TopicDescription* topic = DescriptionOf(caption)) {
         FindArticle(QLatin1String(topic->File));
         txtForm->SetCaption(QLatin1String(topic->Title));
-    } else if (Left(caption, 2) == QStringLiteral("20")) {
+    } else if (Left(caption, 2) == u"20"_s) {
         state.DocumentTitle = FindArticleOfYear(descriptionRule);
     } else {
         const QString title = FindArticleOfYear(descriptionRule); // may fail before the viewer is touched
@@ -107,7 +108,7 @@ void cmdDesc_Click()
                 ReportError();
                 return;
             }
-            CompleteArticlePath(QStringLiteral("\\richtext\\"));
+            CompleteArticlePath(u"\\richtext\\"_s);
             txtForm->SSCommand2.Hide();
             txtForm->SSCommand3.Hide();
             WidenOkButton();
@@ -123,9 +124,8 @@ void ShowNostalgia()
     if (caption == nothingChosen)
         return;
     state.YearCode = Mid(caption, 3, 2);
-    state.DocumentFile =
-        state.DiscRoot + QStringLiteral("\\richtext\\nostalgia") + state.YearCode + QStringLiteral(".rtf");
-    txtForm->SetCaption(QStringLiteral("The Torvik Vollandry     Nostalgia ") + Left(caption, 4));
+    state.DocumentFile = state.DiscRoot + u"\\richtext\\nostalgia"_s + state.YearCode + u".rtf"_s;
+    txtForm->SetCaption(u"The Torvik Vollandry     Nostalgia "_s + Left(caption, 4));
     txtForm->rtbText.SetFileName(state.DocumentFile);
     txtForm->ZOrder();
     PutWaveButtonsAway();
@@ -136,7 +136,7 @@ void ShowNostalgia()
 void cmdNostalgia_Click()
 {
     OnError(ShowNostalgia, [] {
-        state.ErrorCode = QStringLiteral("ER005");
+        state.ErrorCode = u"ER005"_s;
         ReportError();
         Screen.SetMousePointer(MousePointer::Default);
     });
@@ -148,8 +148,8 @@ void BindYearArticles()
 {
     Form1.Bind([](Form1Controls& form) {
         form.cmdDesc.Click = cmdDesc_Click;
-        form.cmdColors.Click = [] { ShowArticle(colorsRule, QStringLiteral("\\RichText\\sbcolors.rtf")); };
-        form.cmdOptions.Click = [] { ShowArticle(optionsRule, QStringLiteral("\\RichText\\sbopts.rtf")); };
+        form.cmdColors.Click = [] { ShowArticle(colorsRule, u"\\RichText\\sbcolors.rtf"_s); };
+        form.cmdOptions.Click = [] { ShowArticle(optionsRule, u"\\RichText\\sbopts.rtf"_s); };
         form.cmdNostalgia.Click = cmdNostalgia_Click;
     });
 }

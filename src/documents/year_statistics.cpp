@@ -11,6 +11,8 @@
 #include "runtime/text.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -73,8 +75,8 @@ void ShowNote(const TopicNotes& topic)
 {
     const double photo = Val(Form1->panPhoto.Caption());
     const char* prefix = photo < 5 ? topic.PrefixBelow5 : topic.PrefixFrom5;
-    state.DocumentFile = state.DiscRoot + QStringLiteral("\\richtext\\") + QLatin1String(prefix) +
-                         NumberText(photo * 2) + QStringLiteral(".rtf");
+    state.DocumentFile =
+        state.DiscRoot + u"\\richtext\\"_s + QLatin1String(prefix) + NumberText(photo * 2) + u".rtf"_s;
     Form1->rtbDetails.SetFileName(state.DocumentFile);
     Form1->rtbDetails.Show();
 }
@@ -83,8 +85,7 @@ void ShowStatisticsArticle(const QString& caption)
 {
     if (const TopicArticle* topic = EntryOf(topicArticles, caption)) {
         FindArticle(QLatin1String(topic->File));
-        state.DocumentTitle =
-            QStringLiteral("The Torvik Vollandry       ") + caption + QStringLiteral(" Specifications");
+        state.DocumentTitle = u"The Torvik Vollandry       "_s + caption + u" Specifications"_s;
     } else {
         state.DocumentTitle = FindArticleOfYear(statisticsRule);
     }
@@ -92,7 +93,7 @@ void ShowStatisticsArticle(const QString& caption)
         ReportError();
         return;
     }
-    CompleteArticlePath(QStringLiteral("\\richtext\\"));
+    CompleteArticlePath(u"\\richtext\\"_s);
     OpenViewer();
 }
 

@@ -15,11 +15,13 @@
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
-const QString boxTitle = QStringLiteral("The Torvik Vollandry");
+const QString boxTitle = u"The Torvik Vollandry"_s;
 
 QString NameOfPhoto(int index)
 {
@@ -81,10 +83,10 @@ void MakeCopyFolder(const QString& path)
 {
     OnError([&] { MakeFolder(path); },
             [] {
-                state.MessageResult = MsgBox(QStringLiteral("These files have already been copied\r\n"
-                                                            "to your hard drive.\r\n"
-                                                            "\r\n"
-                                                            "Would you like to copy them again?"),
+                state.MessageResult = MsgBox(u"These files have already been copied\r\n"
+                                             "to your hard drive.\r\n"
+                                             "\r\n"
+                                             "Would you like to copy them again?"_s,
                                              msgbox::question + msgbox::okCancel);
                 if (state.MessageResult != msgbox::answerOk)
                     state.CopyDeclined = true;

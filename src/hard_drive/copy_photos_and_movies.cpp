@@ -10,11 +10,13 @@
 #include "ui/forms/message_box.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
-const QString boxTitle = QStringLiteral("The Torvik Vollandry");
+const QString boxTitle = u"The Torvik Vollandry"_s;
 
 void PlacePanel()
 {
@@ -25,12 +27,11 @@ void PlacePanel()
 
 QString TooLittleRoom(qint64 free, qint64 demanded)
 {
-    return QStringLiteral("Not enough available hard disk space to copy photos.\r\n\r\n"
-                          "Free some up and try again.\r\n\r\n"
-                          "You have:  ") +
-           GroupedDigits(free) + QStringLiteral(" bytes\r\n\r\nYou need:   ") +
-           GroupedDigits(demanded - free) + QStringLiteral(" bytes more\r\n\r\nFor a total of:   ") +
-           GroupedDigits(demanded) + QStringLiteral(" bytes free.\r\n");
+    return u"Not enough available hard disk space to copy photos.\r\n\r\n"
+           "Free some up and try again.\r\n\r\n"
+           "You have:  "_s +
+           GroupedDigits(free) + u" bytes\r\n\r\nYou need:   "_s + GroupedDigits(demanded - free) +
+           u" bytes more\r\n\r\nFor a total of:   "_s + GroupedDigits(demanded) + u" bytes free.\r\n"_s;
 }
 
 void OpenPanel()
@@ -89,7 +90,7 @@ void cmdCancel_Click()
 
 void OpenFor(bool photos)
 {
-    Form1->Text1.SetText(QStringLiteral(" "));
+    Form1->Text1.SetText(u" "_s);
     state.CopyingPhotos = photos;
     ShowCopyPanel();
 }
@@ -105,7 +106,7 @@ void ShowCopyPanel()
 
     qint64 total = 0;
     qint64 free = 0;
-    QString drive = QStringLiteral("E");
+    QString drive = u"E"_s;
     GetDiskSpace(total, free, drive);
     constexpr int bytesInUnit = 1000;
     free *= bytesInUnit;

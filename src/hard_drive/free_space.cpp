@@ -5,6 +5,8 @@
 #include "runtime/text.h"
 #include "ui/forms/message_box.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 void GetDiskSpace(qint64& total, qint64& free, QString& drive)
@@ -21,7 +23,7 @@ void GetDiskSpace(qint64& total, qint64& free, QString& drive)
         total = clusters.Total / clustersInUnit * clusterSize;
         free = clusters.Free / clustersInUnit * clusterSize;
     };
-    OnError(measure, [] { MsgBox(QStringLiteral("Internal GetDisk error!")); });
+    OnError(measure, [] { MsgBox(u"Internal GetDisk error!"_s); });
 }
 
 QString DropLastCharacter(const QString& text)

@@ -5,6 +5,8 @@
 #include "program/report_error.h"
 #include "runtime/failure.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -19,12 +21,12 @@ void Reporting(Statement&& statement)
 
 void BuildMovieList()
 {
-    state.ErrorCode = QStringLiteral("ER055");
+    state.ErrorCode = u"ER055"_s;
     state.MovieListIndex = 1;
     state.MovieFiles.Resize(0);
     state.MovieFiles.Resize(1);
     QStringList names;
-    Reporting([&] { names = FilesMatching(state.DiscRoot + QStringLiteral("\\movies\\*.avi")); });
+    Reporting([&] { names = FilesMatching(state.DiscRoot + u"\\movies\\*.avi"_s); });
     state.MovieFiles(1) = names.value(0).toUpper();
 
     for (qsizetype next = 1; !state.MovieFiles(state.MovieListIndex).isEmpty(); ++next) {

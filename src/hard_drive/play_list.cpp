@@ -12,6 +12,8 @@
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -26,7 +28,7 @@ void frmSSPhoto_Load()
 QString ShownFile()
 {
     if (Form1->panYear.Caption() == nothingChosen)
-        return ProgramFolder() + QStringLiteral("\\graphics\\ClassicTorviks.jpg");
+        return ProgramFolder() + u"\\graphics\\ClassicTorviks.jpg"_s;
     return state.CurrentPhotoFile;
 }
 
@@ -37,7 +39,7 @@ void SSCommand7_Click()
     state.CopyTarget = PlayListEntry();
     CopyFileWithGauge(state.CopySource, state.CopyTarget, frmSSPhoto->ProgressGuage);
     frmSSPhoto->SetMousePointer(MousePointer::Default);
-    MsgBox(QStringLiteral("Photo Successfully Copied!"), msgbox::exclamation);
+    MsgBox(u"Photo Successfully Copied!"_s, msgbox::exclamation);
     frmSSPhoto->SSCommand7.SetEnabled(false);
     frmSSPhoto->SSCommand8.SetEnabled(true);
 }
@@ -48,7 +50,7 @@ void SSCommand8_Click()
     state.CopyTarget = PlayListEntry();
     DeleteFile(state.CopyTarget);
     frmSSPhoto->SetMousePointer(MousePointer::Default);
-    MsgBox(QStringLiteral("Photo Successfully Removed!"), msgbox::exclamation);
+    MsgBox(u"Photo Successfully Removed!"_s, msgbox::exclamation);
     frmSSPhoto->SSCommand7.SetEnabled(true);
     frmSSPhoto->SSCommand8.SetEnabled(false);
     frmSSPhoto->ProgressGuage.SetFloodPercent(0);
@@ -56,18 +58,18 @@ void SSCommand8_Click()
 
 void SSCommand2_Click()
 {
-    state.MessageResult = MsgBox(QStringLiteral("Would you like to remove all photos from the Torvik"
-                                                " Vollandry Screen Saver list?"),
+    state.MessageResult = MsgBox(u"Would you like to remove all photos from the Torvik"
+                                 " Vollandry Screen Saver list?"_s,
                                  msgbox::question + msgbox::yesNo);
     if (state.MessageResult != msgbox::answerYes)
         return;
     frmSSPhoto->SetMousePointer(MousePointer::Hourglass);
-    ResumeNext([] { DeleteFilesMatching(ProgramFolder() + QStringLiteral("\\ssTorviks\\*.jpg")); });
+    ResumeNext([] { DeleteFilesMatching(ProgramFolder() + u"\\ssTorviks\\*.jpg"_s); });
     frmSSPhoto->SetMousePointer(MousePointer::Default);
-    state.MessageText = QStringLiteral("All Photos Successfully Removed!\r\n"
-                                       "\r\n"
-                                       "You must re-install The Torvik Vollandry Screen Saver \r\n"
-                                       "if you have previously installed it to play Selected Photos.");
+    state.MessageText = u"All Photos Successfully Removed!\r\n"
+                        "\r\n"
+                        "You must re-install The Torvik Vollandry Screen Saver \r\n"
+                        "if you have previously installed it to play Selected Photos."_s;
     MsgBox(state.MessageText);
     frmSSPhoto->SSCommand7.SetEnabled(true);
     frmSSPhoto->SSCommand8.SetEnabled(false);
@@ -83,15 +85,15 @@ void SSCommand3_Click()
 
 void SSCommand1_Click()
 {
-    state.MessageText = QStringLiteral("Use this form to add or remove Torvik photos from the\r\n"
-                                       "Torvik Vollandry Screen Saver play list. Pick and choose\r\n"
-                                       "whatever photos that you would like to include.\r\n"
-                                       "\r\n"
-                                       "Select the Install Screen Saver option under the File menu\r\n"
-                                       "to configure the Screen Saver to recognize selected photos.\r\n"
-                                       "\r\n"
-                                       "If you remove all photos, remember to re-install the \r\n"
-                                       "Screen Saver and choose the Select All Photos option.");
+    state.MessageText = u"Use this form to add or remove Torvik photos from the\r\n"
+                        "Torvik Vollandry Screen Saver play list. Pick and choose\r\n"
+                        "whatever photos that you would like to include.\r\n"
+                        "\r\n"
+                        "Select the Install Screen Saver option under the File menu\r\n"
+                        "to configure the Screen Saver to recognize selected photos.\r\n"
+                        "\r\n"
+                        "If you remove all photos, remember to re-install the \r\n"
+                        "Screen Saver and choose the Select All Photos option."_s;
     MsgBox(state.MessageText);
 }
 

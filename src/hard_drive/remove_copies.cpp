@@ -7,15 +7,17 @@
 #include "ui/forms/message_box.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
 bool AskToRemove(const QString& what)
 {
-    state.MessageResult = MsgBox(
-        QStringLiteral("Would you like to remove all Torvik Vollandry %1 from your hard drive?").arg(what),
-        msgbox::question + msgbox::yesNo);
+    state.MessageResult =
+        MsgBox(u"Would you like to remove all Torvik Vollandry %1 from your hard drive?"_s.arg(what),
+               msgbox::question + msgbox::yesNo);
     return state.MessageResult == msgbox::answerYes;
 }
 
@@ -33,30 +35,30 @@ void RemoveCopies(const QString& folder, const QString& pattern)
 
 void mnuRemove_Click()
 {
-    if (!AskToRemove(QStringLiteral("photos")))
+    if (!AskToRemove(u"photos"_s))
         return;
     Form1->SetMousePointer(MousePointer::Hourglass);
-    RemoveCopies(torviksFolder, QStringLiteral("*.jpg"));
+    RemoveCopies(torviksFolder, u"*.jpg"_s);
     Form1->SetMousePointer(MousePointer::Default);
     state.PhotoRoot = state.DiscRoot;
-    state.MessageText = QStringLiteral("All Photos Successfully Removed!\r\n"
-                                       "\r\n"
-                                       "You must now exit and re-enter the Torvik Vollandry to allow \r\n"
-                                       "the software to find the photos on the cdrom drive.\r\n"
-                                       "\r\n"
-                                       "You must also re-install the Torvik Vollandry Screen Saver \r\n"
-                                       "if you have previously installed it.");
+    state.MessageText = u"All Photos Successfully Removed!\r\n"
+                        "\r\n"
+                        "You must now exit and re-enter the Torvik Vollandry to allow \r\n"
+                        "the software to find the photos on the cdrom drive.\r\n"
+                        "\r\n"
+                        "You must also re-install the Torvik Vollandry Screen Saver \r\n"
+                        "if you have previously installed it."_s;
     MsgBox(state.MessageText);
     Form1.Unload();
 }
 
 void mnuRemoveMovies_Click()
 {
-    if (!AskToRemove(QStringLiteral("movies")))
+    if (!AskToRemove(u"movies"_s))
         return;
     Form1->SetMousePointer(MousePointer::Hourglass);
-    RemoveCopies(QStringLiteral("\\movies\\"), QStringLiteral("*.avi"));
-    state.MessageText = QStringLiteral("All movies successfully removed!");
+    RemoveCopies(u"\\movies\\"_s, u"*.avi"_s);
+    state.MessageText = u"All movies successfully removed!"_s;
     MsgBox(state.MessageText);
     Form1->SetMousePointer(MousePointer::Default);
 }

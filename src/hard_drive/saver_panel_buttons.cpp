@@ -18,37 +18,37 @@
 #include "windows/article_window.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
 constexpr int selectedPhotos = 1;
 
-const QString playListFolder = QStringLiteral("\\ssTorviks\\");
-const QString anyPhoto = QStringLiteral("*.jpg");
+const QString playListFolder = u"\\ssTorviks\\"_s;
+const QString anyPhoto = u"*.jpg"_s;
 
-const QString copyQuestion =
-    QStringLiteral("To improve performance, the Torvik photos may be copied from\r\n"
-                   "the Torvik Vollandry CDROM to your hard drive before you install\r\n"
-                   "the Torvik Vollandry Screen Saver.\r\n"
-                   "\r\n"
-                   "Would you like to copy the photos now?");
+const QString copyQuestion = u"To improve performance, the Torvik photos may be copied from\r\n"
+                             "the Torvik Vollandry CDROM to your hard drive before you install\r\n"
+                             "the Torvik Vollandry Screen Saver.\r\n"
+                             "\r\n"
+                             "Would you like to copy the photos now?"_s;
 
-const QString installed =
-    QStringLiteral("The Torvik Vollandry Screen Saver has been installed!\r\n"
-                   "\r\n"
-                   "If you have not already done so, you must now activate \r\n"
-                   "the Torvik Vollandry Screen Saver.\r\n"
-                   "\r\n"
-                   "To do this follow these steps:\r\n"
-                   "    1) Click the Start button on the Windows desktop \r\n"
-                   "    2) Click the Settings button                    \r\n"
-                   "    3) Click on Control Panel                       \r\n"
-                   "    4) Double click on the Display icon             \r\n"
-                   "    5) Select the Screen Saver tab                  \r\n"
-                   "    6) Click the dropdown arrow to the left of the Settings button\r\n"
-                   "    7) Select Torvik2001                           \r\n"
-                   "    8) Click OK                            ");
+const QString installed = u"The Torvik Vollandry Screen Saver has been installed!\r\n"
+                          "\r\n"
+                          "If you have not already done so, you must now activate \r\n"
+                          "the Torvik Vollandry Screen Saver.\r\n"
+                          "\r\n"
+                          "To do this follow these steps:\r\n"
+                          "    1) Click the Start button on the Windows desktop \r\n"
+                          "    2) Click the Settings button                    \r\n"
+                          "    3) Click on Control Panel                       \r\n"
+                          "    4) Double click on the Display icon             \r\n"
+                          "    5) Select the Screen Saver tab                  \r\n"
+                          "    6) Click the dropdown arrow to the left of the Settings button\r\n"
+                          "    7) Select Torvik2001                           \r\n"
+                          "    8) Click OK                            "_s;
 
 bool HasPhotos(const QString& folder)
 {
@@ -70,14 +70,14 @@ void mnuSaver_Click()
     form.Option1(selectedPhotos).SetEnabled(HasPhotos(ProgramFolder() + playListFolder));
     form.pnlSSaver.Show();
     form.SSCommand6.ZOrder();
-    form.SSCommand6.SetCaption(QStringLiteral("Cancel"));
+    form.SSCommand6.SetCaption(u"Cancel"_s);
     constexpr int second = 1000; // milliseconds
     state.SlideDelay = second;   // whatever panInterval still shows
 }
 
 void ShowDelay()
 {
-    Form1->panInterval.SetCaption(DelayInSeconds(state.SlideDelay) + QStringLiteral(" Seconds"));
+    Form1->panInterval.SetCaption(DelayInSeconds(state.SlideDelay) + u" Seconds"_s);
 }
 
 void SpinInterval_SpinUp()
@@ -121,7 +121,7 @@ void Install(const QString& windowsFolder, const QString& photoFolder)
     ReplaceByCopy(state.CopySource, state.CopyTarget);
     state.MessageText = installed;
     MsgBox(state.MessageText);
-    Form1->SSCommand6.SetCaption(QStringLiteral("Exit"));
+    Form1->SSCommand6.SetCaption(u"Exit"_s);
 }
 
 void SSCommand4_Click()
@@ -135,15 +135,15 @@ void SSCommand4_Click()
             Install(windowsFolder, ask ? AskForPhotoFolder() : prepared);
         },
         [] {
-            state.ErrorCode = QStringLiteral("ER049");
+            state.ErrorCode = u"ER049"_s;
             ReportError();
         });
 }
 
 void ShowHelp()
 {
-    const QString folder = state.DiscRoot + QStringLiteral("\\richtext\\");
-    const QString document = FindFile(folder + QStringLiteral("sshelp.rtf"));
+    const QString folder = state.DiscRoot + u"\\richtext\\"_s;
+    const QString document = FindFile(folder + u"sshelp.rtf"_s);
     if (document.isEmpty()) {
         ReportError();
         return;
@@ -158,8 +158,8 @@ void ShowHelp()
 
 void SSCommand5_Click()
 {
-    state.ErrorCode = QStringLiteral("ER052");
-    state.DocumentTitle = QStringLiteral("The Torvik Vollandry       Install Screen Saver Help");
+    state.ErrorCode = u"ER052"_s;
+    state.DocumentTitle = u"The Torvik Vollandry       Install Screen Saver Help"_s;
     OnError(ShowHelp, ReportError);
 }
 

@@ -3,6 +3,8 @@
 #include "platform/paths/program_folder.h"
 #include "runtime/text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -23,7 +25,7 @@ QString WindowsFolderName()
     constexpr int bufferSize = 255;
     QString buffer(bufferSize, u' ');
     GetWindowsDirectory(buffer);
-    return Left(buffer, InStr(buffer, QStringLiteral(" ")) - 2);
+    return Left(buffer, InStr(buffer, u" "_s) - 2);
 }
 
 } // namespace torvik

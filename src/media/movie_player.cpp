@@ -13,6 +13,8 @@
 
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -38,11 +40,10 @@ constexpr Movie movies[] = {
 
 void mnuMovies_Click()
 {
-    const QString copied = ProgramFolder() + QStringLiteral("\\movies\\");
+    const QString copied = ProgramFolder() + u"\\movies\\"_s;
     QString found;
-    const int error = ResumeNext([&] { found = FindFile(copied + QStringLiteral("*.avi")); });
-    state.MovieFolder =
-        found.isEmpty() || error != 0 ? state.DiscRoot + QStringLiteral("\\movies\\") : copied;
+    const int error = ResumeNext([&] { found = FindFile(copied + u"*.avi"_s); });
+    state.MovieFolder = found.isEmpty() || error != 0 ? state.DiscRoot + u"\\movies\\"_s : copied;
     frmMovie->ShowModal();
 }
 
@@ -54,17 +55,17 @@ void OpenMovie(const QString& path)
     player.Device.Wait = true;
     player.Device.Shareable = false;
     player.Show();
-    player.Device.Command(QStringLiteral("close"));
-    player.Device.SetDeviceType(QStringLiteral("AVIVideo"));
+    player.Device.Command(u"close"_s);
+    player.Device.SetDeviceType(u"AVIVideo"_s);
     player.Device.SetFileName(path);
-    player.Device.Command(QStringLiteral("open"));
+    player.Device.Command(u"open"_s);
     Screen.SetMousePointer(MousePointer::Default);
 }
 
 /// The mouse pointer stays an hourglass.
 void ReportMovie()
 {
-    state.ErrorCode = QStringLiteral("ER045");
+    state.ErrorCode = u"ER045"_s;
     ReportError();
 }
 
@@ -107,15 +108,15 @@ void frmMovie_Load()
 /// The device goes with the form, not only when the last of its handlers is done.
 void frmMovie_Unload()
 {
-    frmMovie->MMControl1.Device.Command(QStringLiteral("close"));
+    frmMovie->MMControl1.Device.Command(u"close"_s);
     Form1->SetEnabled(true);
 }
 
 void MMControl1_StopClick()
 {
     MediaControl& device = frmMovie->MMControl1.Device;
-    device.Command(QStringLiteral("stop"));
-    device.Command(QStringLiteral("prev"));
+    device.Command(u"stop"_s);
+    device.Command(u"prev"_s);
 }
 
 void SSCommand1_Click()

@@ -7,6 +7,8 @@
 #include "runtime/text.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -35,14 +37,14 @@ void mnuSound_Click()
 
 void ReportSound()
 {
-    state.ErrorCode = QStringLiteral("ER038");
+    state.ErrorCode = u"ER038"_s;
     ReportError();
 }
 
 /// The code of the year holds the look-up, and keeps it: the next choice of a year sets it again.
 void PlaySound(int index)
 {
-    state.SoundFile = state.DiscRoot + QStringLiteral("\\wav\\");
+    state.SoundFile = state.DiscRoot + u"\\wav\\"_s;
     if (index < soundCount)
         state.SoundFile += QString::fromLatin1(soundFiles[index]);
     state.YearCode = QString::number(state.SoundFile.size());
@@ -64,8 +66,8 @@ void SSCommand2_Click(int index)
 /// There is nothing left to play.
 void SSCommand3_Click()
 {
-    Form1->MMControl1.Command(QStringLiteral("close"));
-    Form1->MMControl1.Command(QStringLiteral("play"));
+    Form1->MMControl1.Command(u"close"_s);
+    Form1->MMControl1.Command(u"play"_s);
 }
 
 void SSCommand1_Click()

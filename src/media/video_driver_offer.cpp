@@ -7,25 +7,27 @@
 #include "ui/forms/message_box.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
-const QString question = QStringLiteral("If you are experiencing difficulties running the Torvik movies,\r\n"
-                                        "you may need to install the Intel Indeo Video Software.\r\n"
-                                        "\r\n"
-                                        "Would you like to install this software now?");
+const QString question = u"If you are experiencing difficulties running the Torvik movies,\r\n"
+                         "you may need to install the Intel Indeo Video Software.\r\n"
+                         "\r\n"
+                         "Would you like to install this software now?"_s;
 
 void Install()
 {
     Form1->SetEnabled(false);
-    RunAndWait(state.DiscRoot + QStringLiteral("\\IndeoVideo\\iv5play.exe"));
+    RunAndWait(state.DiscRoot + u"\\IndeoVideo\\iv5play.exe"_s);
     Form1->SetEnabled(true);
 }
 
 void ReportDriver()
 {
-    state.ErrorCode = QStringLiteral("ER003");
+    state.ErrorCode = u"ER003"_s;
     ReportError();
 }
 

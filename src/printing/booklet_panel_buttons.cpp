@@ -5,6 +5,8 @@
 #include "ui/forms/units.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -18,8 +20,8 @@ void ResetPanel()
     for (state.LoopIndex = 0; state.LoopIndex <= lastBox; state.LoopIndex += 1)
         form.Check1(state.LoopIndex).SetValue(false);
     form.cmdPrint.SetEnabled(false);
-    form.cmdPrint.SetCaption(QStringLiteral("Print"));
-    form.cmdOK.SetCaption(QStringLiteral("Cancel"));
+    form.cmdPrint.SetCaption(u"Print"_s);
+    form.cmdOK.SetCaption(u"Cancel"_s);
     form.List1(0).SetListIndex(0);
     form.List1(1).SetListIndex(0);
     for (int entry = 0; entry <= form.List1(1).ListCount() - 1; ++entry) {

@@ -5,12 +5,14 @@
 #include "ui/printer/printer.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
-const QString blank = QStringLiteral(" ");
-const QString indent = QStringLiteral("            ");
+const QString blank = u" "_s;
+const QString indent = u"            "_s;
 
 constexpr int linesAbove = 8;
 constexpr double photoX = 1460; // twips, like photoY
@@ -18,13 +20,13 @@ constexpr double photoY = 3000;
 
 void mnuPrintPhoto_Click()
 {
-    state.MessageResult = MsgBox(QStringLiteral("Would you like to print this photograph?"),
-                                 msgbox::question | msgbox::okCancel);
+    state.MessageResult =
+        MsgBox(u"Would you like to print this photograph?"_s, msgbox::question | msgbox::okCancel);
     if (state.MessageResult != msgbox::answerOk)
         return;
     for (state.LoopIndex = 1; state.LoopIndex <= linesAbove; state.LoopIndex += 1)
         Printer.Print(blank);
-    Printer.Print(indent + QStringLiteral("The Torvik Vollandry 2001"));
+    Printer.Print(indent + u"The Torvik Vollandry 2001"_s);
     Printer.Print(blank);
     Printer.Print(indent + Form1->panYear.Caption());
     Printer.Print(blank);

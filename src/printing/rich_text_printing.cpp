@@ -8,11 +8,13 @@
 #include <QPainter>
 #include <QRectF>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
-const QString blank = QStringLiteral(" ");
+const QString blank = u" "_s;
 
 /// The room between margins that count from the edges of the paper, in the printer's pixels from the corner
 /// of the printable area.

@@ -3,6 +3,8 @@
 #include "program/program_state.h"
 #include "runtime/text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -70,14 +72,14 @@ constexpr CodeText catalogue[] = {
 QString SoundFileText()
 {
     state.LoopIndex = static_cast<int>(state.SoundFile.size()) - 5;
-    return QStringLiteral(" Unable to load sound file: ") + Mid(state.SoundFile, 6, state.LoopIndex);
+    return u" Unable to load sound file: "_s + Mid(state.SoundFile, 6, state.LoopIndex);
 }
 
 QString TextOf(const QString& code)
 {
-    if (code >= QStringLiteral("ER025") && code <= QStringLiteral("ER031"))
+    if (code >= u"ER025"_s && code <= u"ER031"_s)
         return QString::fromLatin1(noTextFile);
-    if (code == QStringLiteral("ER032"))
+    if (code == u"ER032"_s)
         return SoundFileText();
     for (const CodeText& entry : catalogue) {
         if (code == QLatin1String(entry.Code))
@@ -92,9 +94,8 @@ CatalogueEntry CatalogueEntryOf(const QString& code)
 {
     CatalogueEntry entry;
     entry.Text = TextOf(code);
-    entry.Retry =
-        code == QStringLiteral("ER001") || code == QStringLiteral("ER037") || code == QStringLiteral("ER055");
-    entry.DiscHint = code != QStringLiteral("ER034") && code != QStringLiteral("ER036");
+    entry.Retry = code == u"ER001"_s || code == u"ER037"_s || code == u"ER055"_s;
+    entry.DiscHint = code != u"ER034"_s && code != u"ER036"_s;
     return entry;
 }
 

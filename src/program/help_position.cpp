@@ -4,13 +4,15 @@
 #include "program/program_state.h"
 #include "ui/help/help_system.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 QString HelpFile()
 {
     const QString folder = ProgramFolder().trimmed();
-    const QString separator = folder.endsWith(u'\\') ? QString() : QStringLiteral("\\");
-    return ProgramFolder() + separator + QStringLiteral("Torvik2001.HLP");
+    const QString separator = folder.endsWith(u'\\') ? QString() : u"\\"_s;
+    return ProgramFolder() + separator + u"Torvik2001.HLP"_s;
 }
 
 void InitHelp(std::int32_t window)

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -32,9 +34,9 @@ bool ListNames(const QString& folder)
     state.PhotoIndex = 1;
     Resize(1);
     QStringList names;
-    Retrying([&] { names = FilesMatching(folder + QStringLiteral("*.jpg")); });
+    Retrying([&] { names = FilesMatching(folder + u"*.jpg"_s); });
     state.PhotoFiles(1) = names.isEmpty() ? QString() : names.first().toUpper();
-    state.PhotoNumbers(1) = QStringLiteral("1");
+    state.PhotoNumbers(1) = u"1"_s;
     if (names.isEmpty())
         return false;
 
@@ -75,7 +77,7 @@ void NumberPhotos(const QString& folder)
 
 void BuildPhotoSet()
 {
-    state.ErrorCode = QStringLiteral("ER037");
+    state.ErrorCode = u"ER037"_s;
     const QString folder = state.PhotoRoot + torviksFolder;
     if (!ListNames(folder))
         return;

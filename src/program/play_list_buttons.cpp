@@ -7,13 +7,15 @@
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 QString PlayListEntry()
 {
-    const QString folder = ProgramFolder() + QStringLiteral("\\ssTorviks\\");
+    const QString folder = ProgramFolder() + u"\\ssTorviks\\"_s;
     if (Form1->panYear.Caption() == nothingChosen)
-        return folder + QStringLiteral("ClassicTorviks.jpg");
+        return folder + u"ClassicTorviks.jpg"_s;
     state.TorviksPathPos = InStr(state.CurrentPhotoFile, torviksFolder);
     return folder +
            Mid(state.CurrentPhotoFile, state.TorviksPathPos + static_cast<int>(torviksFolder.size()));

@@ -10,6 +10,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// Placement of the help window, as the help system takes it.
 struct HelpWindowRecord {
     std::int32_t wStructSize = 0;
@@ -96,6 +98,6 @@ struct ProgramState {
 inline ProgramState state;
 
 /// A photo's path holds this in front of the file's name.
-inline const QString torviksFolder = QStringLiteral("\\Torviks\\");
+inline const QString torviksFolder = u"\\Torviks\\"_s;
 
 } // namespace torvik

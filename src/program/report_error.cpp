@@ -8,18 +8,20 @@
 #include "ui/forms/program_end.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
-const QString boxTitle = QStringLiteral("The Torvik Vollandry");
-const QString blankLine = QStringLiteral("\r\n\r\n");
+const QString boxTitle = u"The Torvik Vollandry"_s;
+const QString blankLine = u"\r\n\r\n"_s;
 
 QString MessageOf(const CatalogueEntry& entry)
 {
-    QString message = QStringLiteral("Error number: ") + state.ErrorCode + blankLine + entry.Text;
+    QString message = u"Error number: "_s + state.ErrorCode + blankLine + entry.Text;
     if (entry.DiscHint)
-        message += blankLine + QStringLiteral("Make sure that the Torvik Vollandry is in the CDROM drive.");
+        message += blankLine + u"Make sure that the Torvik Vollandry is in the CDROM drive."_s;
     return message;
 }
 

@@ -2,6 +2,8 @@
 
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -10,7 +12,7 @@ constexpr std::int32_t taskBarHandle = 1;
 
 std::int32_t FindWindowByClass(const QString& className)
 {
-    return className == QStringLiteral("Shell_TrayWnd") ? taskBarHandle : 0;
+    return className == u"Shell_TrayWnd"_s ? taskBarHandle : 0;
 }
 
 std::int32_t ShowWindow(std::int32_t window, int how)

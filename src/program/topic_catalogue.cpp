@@ -4,6 +4,8 @@
 #include "runtime/text.h"
 #include "windows/slide_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -65,7 +67,7 @@ QString SlideCaptionOf(const QString& prefix)
         if (prefix == QLatin1String(entry.Prefix))
             return QString::fromLatin1(entry.Caption);
     }
-    return QStringLiteral("19") + prefix + QStringLiteral(" ");
+    return u"19"_s + prefix + u" "_s;
 }
 
 void SetSlideCaption()

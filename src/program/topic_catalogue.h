@@ -4,6 +4,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// A special topic: what its title in panYear stands for.
 struct Topic {
     const char* Title;      ///< with its trailing blank
@@ -18,7 +20,7 @@ struct Topic {
 const Topic* TopicOf(const QString& title);
 
 /// The title of the coupe that keeps some of a year's buttons.
-inline const QString classicHarwell = QStringLiteral("The Classic Harwell ");
+inline const QString classicHarwell = u"The Classic Harwell "_s;
 
 /// The caption of the slide show for the prefix of a photo; a year's is followed by a blank.
 QString SlideCaptionOf(const QString& prefix);

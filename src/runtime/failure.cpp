@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -151,7 +153,7 @@ QString RunTimeErrorText(int number)
         std::lower_bound(entries.begin(), entries.end(), number,
                          [](const Entry& entry, int wanted) { return entry.number < wanted; });
     if (found == entries.end() || found->number != number)
-        return QStringLiteral("Application-defined or object-defined error");
+        return u"Application-defined or object-defined error"_s;
     return QString::fromLatin1(found->text);
 }
 

@@ -10,6 +10,8 @@
 #include <limits>
 #include <system_error>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -180,7 +182,7 @@ double ToNumber(const QString& text)
 QString NumberText(double value)
 {
     if (value == 0)
-        return QStringLiteral("0"); // also for the zero with a minus sign
+        return u"0"_s; // also for the zero with a minus sign
     constexpr int significantDigits = 15;
     return QString::number(value, 'G', significantDigits);
 }

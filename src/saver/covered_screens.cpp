@@ -6,6 +6,8 @@
 #include <QWindow>
 #include <QtMath>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -14,7 +16,7 @@ std::unique_ptr<SaverWindow> WindowOn(QScreen& screen, Qt::WindowFlags flags)
 {
     auto window = std::make_unique<SaverWindow>();
     window->setFlags(flags | Qt::FramelessWindowHint);
-    window->setTitle(QStringLiteral("The Torvik Vollandry Screen Saver"));
+    window->setTitle(u"The Torvik Vollandry Screen Saver"_s);
     window->setScreen(&screen);
     window->setGeometry(screen.geometry());
     return window;

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 PhotoRound::PhotoRound(QString folder, double start) : folder_(std::move(folder)), start_(start) {}
@@ -23,7 +25,7 @@ void PhotoRound::Begin()
     names_.clear();
     ResumeNext([this] {
         RefreshDrives();
-        names_ = FilesMatching(folder_ + QStringLiteral("*.jpg"));
+        names_ = FilesMatching(folder_ + u"*.jpg"_s);
     });
     std::sort(names_.begin(), names_.end(), [](const QString& one, const QString& other) {
         return QString::compare(one, other, Qt::CaseInsensitive) < 0;

@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <initializer_list>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -34,7 +36,7 @@ void CarryPhotoOver()
 void ShowAsTopic()
 {
     Form1Controls& main = *Form1;
-    main.cmdStats.SetCaption(QStringLiteral("Details"));
+    main.cmdStats.SetCaption(u"Details"_s);
     for (Button* button : {&main.cmdOptions, &main.cmdColors, &main.cmdScript, &main.cmdEmblem, &main.cmdAd,
                            &main.cmdNostalgia})
         button->SetEnabled(false);
@@ -68,7 +70,7 @@ void FitButtonsToTitle()
                         "Franklin Mint Die Cast Models ", "Franklin Mint Collector Knives "})) {
         main.cmdDesc.SetEnabled(true);
         ShowAsTopic();
-    } else if (title == QStringLiteral("2000")) {
+    } else if (title == u"2000"_s) {
         main.cmdYR(35).SetFocus();
         state.CurrentYearButton = 34;
     } else if (IsOneOf(title, {"2001", "The Classic Harwell "})) {
@@ -87,7 +89,7 @@ void LeaveWithPhoto()
     Form1->txtFile.SetText(Mid(state.PhotoFiles(state.PhotoIndex), state.TorviksPathPos + 9));
     UpdatePlayListButtons();
     RestoreMainWindow();
-    Form1->cmdStats.SetCaption(QStringLiteral("Engines"));
+    Form1->cmdStats.SetCaption(u"Engines"_s);
     state.CurrentYearButton = 0;
     FitButtonsToTitle();
     TakeCodeOfTitle();
@@ -107,7 +109,7 @@ void mmSlide_StopClick()
         state.PhotoIndex += 1;
     if (state.PhotoIndex < 2)
         state.PhotoIndex = 2;
-    OnError(LeaveWithPhoto, [] { ReportSlideFailure(QStringLiteral("ER017")); });
+    OnError(LeaveWithPhoto, [] { ReportSlideFailure(u"ER017"_s); });
 }
 
 void cmdExit_Click()
@@ -125,8 +127,7 @@ void frmSlide_QueryUnload(bool& cancel)
 {
     if (state.SlideShowOpen)
         return;
-    state.MessageResult =
-        MsgBox(QStringLiteral("Exit The Torvik Vollandry?"), msgbox::question + msgbox::okCancel);
+    state.MessageResult = MsgBox(u"Exit The Torvik Vollandry?"_s, msgbox::question + msgbox::okCancel);
     cancel = state.MessageResult != msgbox::answerOk;
 }
 

@@ -11,6 +11,8 @@
 #include "windows/play_list_window.h"
 #include "windows/slide_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -48,12 +50,12 @@ void cmdSlide_Click()
     state.SlideShowOpen = true;
     frmSlide->SpinInterval.SetEnabled(true);
     state.SlideDelay = 1000;
-    frmSlide->panInterval.SetCaption(QStringLiteral(" 1 second"));
+    frmSlide->panInterval.SetCaption(u" 1 second"_s);
     frmSlide->Timer1.SetInterval(0);
     TakePlaceOfForm1();
     ShowOpeningSlide();
     if (!IsNumeric(state.YearCode))
-        state.YearCode = QStringLiteral("67");
+        state.YearCode = u"67"_s;
     if (IsScreenSize(640, 480))
         LayOutForSmallScreen();
     frmSlide->ShowModal();

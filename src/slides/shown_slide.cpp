@@ -5,6 +5,8 @@
 #include "runtime/text.h"
 #include "windows/slide_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 void LoadSlide()
@@ -14,8 +16,7 @@ void LoadSlide()
 
 void ShowSlidePosition()
 {
-    frmSlide->pnlPhotoNumber.SetCaption(
-        QStringLiteral("%1 of %2").arg(state.PhotoIndex).arg(state.PhotoCount));
+    frmSlide->pnlPhotoNumber.SetCaption(u"%1 of %2"_s.arg(state.PhotoIndex).arg(state.PhotoCount));
 }
 
 void ReportSlideFailure(const QString& code)

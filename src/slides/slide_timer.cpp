@@ -7,6 +7,8 @@
 #include "slides/shown_slide.h"
 #include "windows/slide_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -66,12 +68,12 @@ void Timer1_Tick()
         return;
     if (state.PhotoIndex == 0)
         state.PhotoIndex = 1;
-    OnError(ShowNextSlide, [] { ReportSlideFailure(QStringLiteral("ER016")); });
+    OnError(ShowNextSlide, [] { ReportSlideFailure(u"ER016"_s); });
 }
 
 void ShowDelay()
 {
-    frmSlide->panInterval.SetCaption(DelayInSeconds(state.SlideDelay) + QStringLiteral(" seconds"));
+    frmSlide->panInterval.SetCaption(DelayInSeconds(state.SlideDelay) + u" seconds"_s);
     frmSlide->SSCommand1.SetFocus();
 }
 

@@ -2,6 +2,8 @@
 
 #include "platform/paths/drive_option.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -19,33 +21,33 @@ void TakeArgument(CommandLine& read, QStringList& rest)
 {
     const QString argument = rest.takeFirst();
     const auto valueOf = [&](const QString& option, QString& value) {
-        if (argument.startsWith(option + QStringLiteral("="))) {
+        if (argument.startsWith(option + u"="_s)) {
             value = argument.mid(option.size() + 1);
             return true;
         }
         if (argument != option)
             return false;
         if (rest.isEmpty())
-            read.Problem = QStringLiteral("%1 needs a value.").arg(option);
+            read.Problem = u"%1 needs a value."_s.arg(option);
         else
             value = rest.takeFirst();
         return true;
     };
 
     QString value;
-    if (argument == QStringLiteral("--help") || argument == QStringLiteral("-h")) {
+    if (argument == u"--help"_s || argument == u"-h"_s) {
         read.Help = true;
-    } else if (argument == QStringLiteral("--version") || argument == QStringLiteral("-v")) {
+    } else if (argument == u"--version"_s || argument == u"-v"_s) {
         read.Version = true;
-    } else if (valueOf(QStringLiteral("--drive"), value)) {
+    } else if (valueOf(u"--drive"_s, value)) {
         if (read.Problem.isEmpty())
             TakeDrive(read, value);
-    } else if (valueOf(QStringLiteral("--program-folder"), value)) {
+    } else if (valueOf(u"--program-folder"_s, value)) {
         read.ProgramFolder = value;
-    } else if (valueOf(QStringLiteral("--print-to"), value)) {
+    } else if (valueOf(u"--print-to"_s, value)) {
         read.PrintFolder = value;
     } else if (argument.startsWith(u'-') && argument.size() > 1) {
-        read.Problem = QStringLiteral("There is no option %1.").arg(argument);
+        read.Problem = u"There is no option %1."_s.arg(argument);
     } else {
         read.Drives.append({QChar(), argument});
     }
@@ -64,18 +66,17 @@ CommandLine ReadCommandLine(const QStringList& arguments)
 
 QString HelpText()
 {
-    return QStringLiteral(
-        "Usage: torvik2001 [options] [FOLDER]\n"
-        "\n"
-        "Shows the disc of The Torvik Vollandry 2001. Without a FOLDER the disc is looked for on\n"
-        "all mounted media.\n"
-        "\n"
-        "  FOLDER                    a folder that holds a disc; it takes the first free drive letter\n"
-        "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
-        "  --program-folder FOLDER   where copied photos, the start-up sound and the help file are\n"
-        "  --print-to FOLDER         each print job becomes a file job-1.pdf, job-2.pdf, ... there\n"
-        "  -h, --help                shows this text\n"
-        "  -v, --version             shows the version\n");
+    return u"Usage: torvik2001 [options] [FOLDER]\n"
+           "\n"
+           "Shows the disc of The Torvik Vollandry 2001. Without a FOLDER the disc is looked for on\n"
+           "all mounted media.\n"
+           "\n"
+           "  FOLDER                    a folder that holds a disc; it takes the first free drive letter\n"
+           "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
+           "  --program-folder FOLDER   where copied photos, the start-up sound and the help file are\n"
+           "  --print-to FOLDER         each print job becomes a file job-1.pdf, job-2.pdf, ... there\n"
+           "  -h, --help                shows this text\n"
+           "  -v, --version             shows the version\n"_s;
 }
 
 } // namespace torvik

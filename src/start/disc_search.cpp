@@ -9,6 +9,8 @@
 #include "runtime/text.h"
 #include "windows/splash.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -17,17 +19,17 @@ namespace {
 bool HoldsPhotos(const QString& root)
 {
     QString first;
-    const int error = ResumeNext([&] { first = FindFile(root + QStringLiteral("\\Torviks\\*.jpg")); });
+    const int error = ResumeNext([&] { first = FindFile(root + u"\\Torviks\\*.jpg"_s); });
     return error == 0 && !first.isEmpty();
 }
 
 /// The letter of the first drive that holds the disc; empty when none does.
 QString ScanDrives()
 {
-    state.DriveLetters = QStringLiteral("DEFGHIJKLMNOPQRSTUVWXYZ");
+    state.DriveLetters = u"DEFGHIJKLMNOPQRSTUVWXYZ"_s;
     for (state.LoopIndex = 1; state.LoopIndex <= state.DriveLetters.size(); state.LoopIndex += 1) {
         QString letter = Mid(state.DriveLetters, state.LoopIndex, 1);
-        if (HoldsPhotos(letter + QStringLiteral(":")))
+        if (HoldsPhotos(letter + u":"_s))
             return letter;
     }
     return {};
@@ -39,7 +41,7 @@ void FindDisc()
 {
     QString letter;
     for (;;) {
-        state.ErrorCode = QStringLiteral("ER001");
+        state.ErrorCode = u"ER001"_s;
         ResumeNext(RefreshDrives);
         if (HoldsPhotos(ProgramFolder()))
             state.PhotoRoot = ProgramFolder();
@@ -50,7 +52,7 @@ void FindDisc()
         Form2.Unload();
         ReportError();
     }
-    state.DiscRoot = letter + QStringLiteral(":");
+    state.DiscRoot = letter + u":"_s;
     if (state.PhotoRoot.isEmpty())
         state.PhotoRoot = state.DiscRoot;
 }

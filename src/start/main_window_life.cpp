@@ -8,17 +8,19 @@
 #include "program/task_bar.h"
 #include "program/topic_catalogue.h"
 #include "runtime/text.h"
-#include "ui/application.h"
 #include "ui/forms/program_end.h"
+#include "ui/forms/program_title.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
 namespace {
 
-const QString settingsSection = QStringLiteral("Settings");
+const QString settingsSection = u"Settings"_s;
 
 double Placement(const QString& key, double absent)
 {
@@ -34,16 +36,16 @@ void Form1_Load()
 {
     Form1Controls& form = *Form1;
     form.mnuMag(1).SetCaption(DoubleAmpersands(form.mnuMag(1).Caption()));
-    state.DocumentFile = state.DiscRoot + QStringLiteral("\\richtext\\desc.rtf");
+    state.DocumentFile = state.DiscRoot + u"\\richtext\\desc.rtf"_s;
     Screen.SetMousePointer(MousePointer::Default);
     Form2.Unload();
     form.Frame1.ZOrder();
     form.SetWidth(Screen.Width());
     form.SetHeight(Screen.Height());
-    form.SetLeft(Placement(QStringLiteral("MainLeft"), 0));
-    form.SetTop(Placement(QStringLiteral("MainTop"), 0));
-    form.SetWidth(Placement(QStringLiteral("MainWidth"), Screen.Width()));
-    form.SetHeight(Placement(QStringLiteral("MainHeight"), Screen.Height()));
+    form.SetLeft(Placement(u"MainLeft"_s, 0));
+    form.SetTop(Placement(u"MainTop"_s, 0));
+    form.SetWidth(Placement(u"MainWidth"_s, Screen.Width()));
+    form.SetHeight(Placement(u"MainHeight"_s, Screen.Height()));
     form.Show();
 }
 
@@ -57,7 +59,7 @@ void ShowFirstYear()
     state.NextYearButton = 1;
     form.cmdYR(2).SetEnabled(true);
     form.cmdYR(2).SetFocus();
-    form.panYear.SetCaption(QStringLiteral("1967"));
+    form.panYear.SetCaption(u"1967"_s);
     SelectYear();
     form.cmdYR(1).SetEnabled(false);
     form.cmdYR(2).SetFocus();
@@ -88,22 +90,22 @@ void Form1_Activate()
 /// A window that changes its size brings a hidden task bar back.
 void Form1_Resize()
 {
-    if (Form1->mnuHideStatus.Caption() == QStringLiteral("HideStatusBar"))
+    if (Form1->mnuHideStatus.Caption() == u"HideStatusBar"_s)
         return;
     state.ApiResult = ShowWindow(state.TrayWindow, showWindow::normal);
-    Form1->mnuHideStatus.SetCaption(QStringLiteral("HideStatusBar"));
+    Form1->mnuHideStatus.SetCaption(u"HideStatusBar"_s);
 }
 
 void Form1_QueryUnload()
 {
     Form1Controls& form = *Form1;
-    form.MMControl1.Command(QStringLiteral("close"));
+    form.MMControl1.Command(u"close"_s);
     state.ApiResult = ShowWindow(state.TrayWindow, showWindow::normal);
     if (form.WindowState() != Form::State::Minimized) {
-        SavePlacement(QStringLiteral("MainLeft"), form.Left());
-        SavePlacement(QStringLiteral("MainTop"), form.Top());
-        SavePlacement(QStringLiteral("MainWidth"), form.Width());
-        SavePlacement(QStringLiteral("MainHeight"), form.Height());
+        SavePlacement(u"MainLeft"_s, form.Left());
+        SavePlacement(u"MainTop"_s, form.Top());
+        SavePlacement(u"MainWidth"_s, form.Width());
+        SavePlacement(u"MainHeight"_s, form.Height());
     }
     EndProgram();
 }
@@ -117,7 +119,7 @@ void UnloadForm1()
 
 QString DoubleAmpersands(const QString& text)
 {
-    return QString(text).replace(u'&', QStringLiteral("&&"));
+    return QString(text).replace(u'&', u"&&"_s);
 }
 
 void HideProgressPanel()

@@ -13,6 +13,8 @@
 #include "windows/main_window.h"
 #include "windows/splash.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -23,19 +25,18 @@ void RefuseSecondInstance()
 {
     if (!PreviousInstance())
         return;
-    MsgBox(QStringLiteral("The Torvik Vollandry is already running!"),
-           msgbox::systemModal | msgbox::critical);
+    MsgBox(u"The Torvik Vollandry is already running!"_s, msgbox::systemModal | msgbox::critical);
     EndProgram();
 }
 
 /// Plays without being waited for; a program folder without the sound stays silent.
 void PlayPassby()
 {
-    state.SoundFile = ProgramFolder() + QStringLiteral("\\passby.wav");
+    state.SoundFile = ProgramFolder() + u"\\passby.wav"_s;
     if (!FileExists(state.SoundFile))
         return;
     PlayWave(Form2->MMControl1, state.SoundFile);
-    state.ErrorCode = QStringLiteral("ER055");
+    state.ErrorCode = u"ER055"_s;
 }
 
 void Form2_Load()

@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -26,8 +28,8 @@ QApplication* MakeApplication(int& argc, char** argv)
 Application::Application(int& argc, char** argv) : application_(MakeApplication(argc, argv))
 {
     // No display name: the platform would append it to the title of every window and box.
-    QApplication::setApplicationName(QStringLiteral("torvik2001"));
-    QApplication::setDesktopFileName(QStringLiteral("torvik2001"));
+    QApplication::setApplicationName(u"torvik2001"_s);
+    QApplication::setDesktopFileName(u"torvik2001"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyLook();
     RaisePictureLimit();

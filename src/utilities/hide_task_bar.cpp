@@ -5,6 +5,8 @@
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -17,20 +19,20 @@ void HideTaskBar()
     Form1->SetWidth(Screen.Width());
     Form1->SetTop(0);
     Form1->SetLeft(0);
-    Form1->mnuHideStatus.SetCaption(QStringLiteral("ShowStatusBar"));
+    Form1->mnuHideStatus.SetCaption(u"ShowStatusBar"_s);
 }
 
 void ShowTaskBar()
 {
     state.ApiResult = ShowWindow(state.TrayWindow, showWindow::normal);
-    Form1->mnuHideStatus.SetCaption(QStringLiteral("HideStatusBar"));
+    Form1->mnuHideStatus.SetCaption(u"HideStatusBar"_s);
 }
 
 void mnuHideStatus_Click()
 {
-    state.TrayClassName = QStringLiteral("Shell_TrayWnd");
+    state.TrayClassName = u"Shell_TrayWnd"_s;
     state.TrayWindow = FindWindowByClass(state.TrayClassName);
-    if (Form1->mnuHideStatus.Caption() == QStringLiteral("HideStatusBar"))
+    if (Form1->mnuHideStatus.Caption() == u"HideStatusBar"_s)
         HideTaskBar();
     else
         ShowTaskBar();

@@ -9,6 +9,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -30,14 +32,13 @@ constexpr const char* desktopTools[] = {
 std::optional<QString> RegisteredTool()
 {
     QString tool;
-    if (ReadRegistryValue(registry::localMachine, QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"),
-                          QStringLiteral("PATH"), tool))
+    if (ReadRegistryValue(registry::localMachine, u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"_s, u"PATH"_s,
+                          tool))
         return tool;
-    if (ReadRegistryValue(registry::localMachine,
-                          QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools Location"),
-                          QStringLiteral("MSINFO"), tool) &&
-        FileExists(tool + QStringLiteral("\\MSINFO32.EXE")))
-        return tool + QStringLiteral("\\MSINFO32.EXE");
+    if (ReadRegistryValue(registry::localMachine, u"SOFTWARE\\Microsoft\\Shared Tools Location"_s,
+                          u"MSINFO"_s, tool) &&
+        FileExists(tool + u"\\MSINFO32.EXE"_s))
+        return tool + u"\\MSINFO32.EXE"_s;
     return std::nullopt;
 }
 
@@ -62,7 +63,7 @@ bool StartDesktopTool()
 
 void SayUnavailable()
 {
-    MsgBox(QStringLiteral("System Information Is Unavailable At This Time"));
+    MsgBox(u"System Information Is Unavailable At This Time"_s);
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "windows/maker.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -9,8 +11,8 @@ namespace {
 FormDesign DesignOfAbout()
 {
     FormDesign design;
-    design.Name = QStringLiteral("frmAbout");
-    design.Caption = QStringLiteral("About The Torvik Vollandry 2001");
+    design.Name = u"frmAbout"_s;
+    design.Caption = u"About The Torvik Vollandry 2001"_s;
     design.ClientWidth = 6240;
     design.ClientHeight = 5070;
     return design;
@@ -20,8 +22,8 @@ FormDesign DesignOfAbout()
 
 frmAboutControls::frmAboutControls() : Form(DesignOfAbout())
 {
-    Picture2.Show(Picture::FromResource(QStringLiteral(":/assets/icon.png")));
-    Image1.Show(Picture::FromResource(QStringLiteral(":/assets/splash.png")));
+    Picture2.Show(Picture::FromResource(u":/assets/icon.png"_s));
+    Image1.Show(Picture::FromResource(u":/assets/splash.png"_s));
     SSPanel5.SetCaptionFont(18, false);
     SSPanel1.SetCaptionFont(30, true, look::accent);
     SSPanel4.SetCaptionFont(30, true, look::accent);

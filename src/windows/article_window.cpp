@@ -1,5 +1,7 @@
 #include "windows/article_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -7,8 +9,8 @@ namespace {
 FormDesign DesignOfViewer()
 {
     FormDesign design;
-    design.Name = QStringLiteral("txtForm");
-    design.Caption = QStringLiteral("txtForm");
+    design.Name = u"txtForm"_s;
+    design.Caption = u"txtForm"_s;
     design.ClientWidth = 7965;
     design.ClientHeight = 6840;
     return design;
@@ -19,9 +21,9 @@ FormDesign DesignOfViewer()
 txtFormControls::txtFormControls() : Form(DesignOfViewer())
 {
     Adopt(CommonDialog1);
-    cmdPrint.SetPicture(QStringLiteral(":/assets/button_print.png"), QStringLiteral("Print"));
-    SSCommand2.SetPicture(QStringLiteral(":/assets/button_play.png"), QStringLiteral("Play the narration"));
-    SSCommand3.SetPicture(QStringLiteral(":/assets/button_stop.png"), QStringLiteral("Stop the narration"));
+    cmdPrint.SetPicture(u":/assets/button_print.png"_s, u"Print"_s);
+    SSCommand2.SetPicture(u":/assets/button_play.png"_s, u"Play the narration"_s);
+    SSCommand3.SetPicture(u":/assets/button_stop.png"_s, u"Stop the narration"_s);
 }
 
 } // namespace torvik

@@ -5,6 +5,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// The menu tree of the main window, in its order.
 struct Form1Menu {
     explicit Form1Menu(Form& form);
@@ -36,22 +38,22 @@ struct Form1Menu {
     Menu mnuBooks;
     Menu mnuCatalogs;
     Menu mnuMagazines;
-    ControlArray<Menu> mnuMag{QStringLiteral("mnuMag")};
+    ControlArray<Menu> mnuMag{u"mnuMag"_s};
 
     Menu mnuMiscellaneous;
     Menu mnuAdsList;
-    ControlArray<Menu> mnuMisc0{QStringLiteral("mnuMisc0")};
-    ControlArray<Menu> mnuPR{QStringLiteral("mnuPR")};
-    ControlArray<Menu> mnuMisc{QStringLiteral("mnuMisc")};
+    ControlArray<Menu> mnuMisc0{u"mnuMisc0"_s};
+    ControlArray<Menu> mnuPR{u"mnuPR"_s};
+    ControlArray<Menu> mnuMisc{u"mnuMisc"_s};
 
     Menu mnuArtWork;
-    ControlArray<Menu> mnuArt{QStringLiteral("mnuArt")};
+    ControlArray<Menu> mnuArt{u"mnuArt"_s};
 
     Menu mnuTorvikStuff;
-    ControlArray<Menu> mnuStuff{QStringLiteral("mnuStuff")};
+    ControlArray<Menu> mnuStuff{u"mnuStuff"_s};
 
     ControlArray<Menu> mnuSpecial;
-    ControlArray<Menu> mnuSpecialty{QStringLiteral("mnuSpecialty")};
+    ControlArray<Menu> mnuSpecialty{u"mnuSpecialty"_s};
 
     Menu mnuHideStatus;
 

@@ -1,18 +1,20 @@
 #include "windows/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
-const QString copyTip = QStringLiteral("Click the Right mouse button to copy");
+const QString copyTip = u"Click the Right mouse button to copy"_s;
 
 QString CaptionOfYearButton(int index)
 {
     if (index == 1)
-        return QStringLiteral("1967");
+        return u"1967"_s;
     if (index == 24)
-        return QStringLiteral("1990");
-    return QStringLiteral("%1").arg((index + 66) % 100, 2, 10, QLatin1Char('0'));
+        return u"1990"_s;
+    return u"%1"_s.arg((index + 66) % 100, 2, 10, QLatin1Char('0'));
 }
 
 /// Two rows, each led by a button wide enough for four digits.
@@ -29,8 +31,8 @@ Twips PlaceOfYearButton(int index)
 FormDesign DesignOfForm1()
 {
     FormDesign design;
-    design.Name = QStringLiteral("Form1");
-    design.Caption = QStringLiteral("The Torvik Vollandry    2001");
+    design.Name = u"Form1"_s;
+    design.Caption = u"The Torvik Vollandry    2001"_s;
     design.ClientWidth = 12060;
     design.ClientHeight = 8385;
     design.Border = FormBorder::Sizable;
@@ -42,8 +44,7 @@ FormDesign DesignOfForm1()
 /// Nothing opens a file with this dialog, so what it was once drawn with is never seen.
 CommonDialogDesign DesignOfCommonDialog()
 {
-    return {QStringLiteral("cbl"), QStringLiteral("Select COBOL Source File"),
-            QStringLiteral("*.cbl|*.cbl|*.cob|*.cob|All (*.*)|*.*")};
+    return {u"cbl"_s, u"Select COBOL Source File"_s, u"*.cbl|*.cbl|*.cob|*.cob|All (*.*)|*.*"_s};
 }
 
 } // namespace
@@ -52,9 +53,9 @@ Form1Controls::Form1Controls()
     : Form(DesignOfForm1()), Form1Menu(static_cast<Form&>(*this)), SaverPanel(static_cast<Form&>(*this)),
       ProgressPanel(static_cast<Form&>(*this)), PrintPanel(static_cast<Form&>(*this)),
       SoundPanel(static_cast<Form&>(*this)),
-      cmdSlide(Frame1, QStringLiteral("cmdSlide"), {6360, 360, 2685, 375}, QStringLiteral("SlideShow")),
-      cmdExit(Frame1, QStringLiteral("cmdExit"), {9000, 360, 2685, 375}, QStringLiteral("Exit")),
-      dlgCommon1(QStringLiteral("dlgCommon1"), DesignOfCommonDialog())
+      cmdSlide(Frame1, u"cmdSlide"_s, {6360, 360, 2685, 375}, u"SlideShow"_s),
+      cmdExit(Frame1, u"cmdExit"_s, {9000, 360, 2685, 375}, u"Exit"_s),
+      dlgCommon1(u"dlgCommon1"_s, DesignOfCommonDialog())
 {
     for (int index = 1; index <= yearCount; ++index)
         cmdYR.Add(index, Frame1, PlaceOfYearButton(index), CaptionOfYearButton(index));
@@ -63,11 +64,11 @@ Form1Controls::Form1Controls()
     Adopt(dlgCommon1);
     Adopt(dlgPrint);
     panYear.SetAutoSize(true);
-    panPhoto.SetToolTip(QStringLiteral("Double-click to show photo #1"));
+    panPhoto.SetToolTip(u"Double-click to show photo #1"_s);
     panPhoto.SetTabStop();
     Image4.SetTabStop();
-    SpinButton1.SetSpokenAs(QStringLiteral("Next photo"), QStringLiteral("Previous photo"));
-    Image4.SetToolTip(QStringLiteral("Click the Right mouse button to copy photo or add to Screen Saver"));
+    SpinButton1.SetSpokenAs(u"Next photo"_s, u"Previous photo"_s);
+    Image4.SetToolTip(u"Click the Right mouse button to copy photo or add to Screen Saver"_s);
     txtFile.Hide();
     rtbDetails.Hide();
     for (PictureBox* pane : {&picEmblem, &picEmbSide, &picEmbRear, &picScript, &picClipArt}) {

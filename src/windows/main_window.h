@@ -20,11 +20,13 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// The year bar holds this many buttons, 1967 to 2001.
 inline constexpr int yearCount = 35;
 
 /// The caption of panYear while nothing has been chosen yet.
-inline const QString nothingChosen = QStringLiteral("panYear");
+inline const QString nothingChosen = u"panYear"_s;
 
 /// The main window: the photo, what is told about it, the year bar, and four work panels over them.
 ///
@@ -40,39 +42,38 @@ inline const QString nothingChosen = QStringLiteral("panYear");
 struct Form1Controls : Form, Form1Menu, SaverPanel, ProgressPanel, PrintPanel, SoundPanel {
     Form1Controls();
 
-    Image Image4{*this, QStringLiteral("Image4"), {120, 360, 11640, 7050}};
+    Image Image4{*this, u"Image4"_s, {120, 360, 11640, 7050}};
 
-    Button cmdDesc{*this, QStringLiteral("cmdDesc"), {120, 0, 1335, 330}, QStringLiteral("Description")};
-    Button cmdOptions{*this, QStringLiteral("cmdOptions"), {1440, 0, 1335, 330}, QStringLiteral("Options")};
-    Button cmdStats{*this, QStringLiteral("cmdStats"), {2760, 0, 1335, 330}, QStringLiteral("Statistics")};
-    Button cmdColors{*this, QStringLiteral("cmdColors"), {4080, 0, 1335, 330}, QStringLiteral("Colors")};
-    Button cmdScript{*this, QStringLiteral("cmdScript"), {5280, 0, 1335, 330}, QStringLiteral("Script")};
-    Button cmdEmblem{*this, QStringLiteral("cmdEmblem"), {6600, 0, 1335, 330}, QStringLiteral("Emblem")};
-    Button cmdClipArt{*this, QStringLiteral("cmdClipArt"), {7920, 0, 1335, 330}, QStringLiteral("ClipArt ")};
-    Button cmdAd{*this, QStringLiteral("cmdAd"), {9240, 0, 1455, 330}, QStringLiteral("Advertisement")};
-    Button cmdNostalgia{
-        *this, QStringLiteral("cmdNostalgia"), {10680, 0, 1215, 330}, QStringLiteral("Nostalgia")};
+    Button cmdDesc{*this, u"cmdDesc"_s, {120, 0, 1335, 330}, u"Description"_s};
+    Button cmdOptions{*this, u"cmdOptions"_s, {1440, 0, 1335, 330}, u"Options"_s};
+    Button cmdStats{*this, u"cmdStats"_s, {2760, 0, 1335, 330}, u"Statistics"_s};
+    Button cmdColors{*this, u"cmdColors"_s, {4080, 0, 1335, 330}, u"Colors"_s};
+    Button cmdScript{*this, u"cmdScript"_s, {5280, 0, 1335, 330}, u"Script"_s};
+    Button cmdEmblem{*this, u"cmdEmblem"_s, {6600, 0, 1335, 330}, u"Emblem"_s};
+    Button cmdClipArt{*this, u"cmdClipArt"_s, {7920, 0, 1335, 330}, u"ClipArt "_s};
+    Button cmdAd{*this, u"cmdAd"_s, {9240, 0, 1455, 330}, u"Advertisement"_s};
+    Button cmdNostalgia{*this, u"cmdNostalgia"_s, {10680, 0, 1215, 330}, u"Nostalgia"_s};
 
-    SpinButton SpinButton1{*this, QStringLiteral("SpinButton1"), {120, 360, 615, 300}};
-    Panel panPhoto{*this, QStringLiteral("panPhoto"), {720, 360, 390, 300}};
-    Panel panYear{*this, QStringLiteral("panYear"), {1080, 360, 810, 300}, nothingChosen};
-    TextBox txtFile{*this, QStringLiteral("txtFile"), {120, 660, 1770, 315}};
-    RichTextBox rtbDetails{*this, QStringLiteral("rtbDetails"), {6000, 840, 4935, 975}};
+    SpinButton SpinButton1{*this, u"SpinButton1"_s, {120, 360, 615, 300}};
+    Panel panPhoto{*this, u"panPhoto"_s, {720, 360, 390, 300}};
+    Panel panYear{*this, u"panYear"_s, {1080, 360, 810, 300}, nothingChosen};
+    TextBox txtFile{*this, u"txtFile"_s, {120, 660, 1770, 315}};
+    RichTextBox rtbDetails{*this, u"rtbDetails"_s, {6000, 840, 4935, 975}};
 
-    PictureBox picEmblem{*this, QStringLiteral("picEmblem"), {10200, 4320, 1455, 615}};
-    PictureBox picEmbSide{*this, QStringLiteral("picEmbSide"), {10200, 2160, 1455, 615}};
-    PictureBox picEmbRear{*this, QStringLiteral("picEmbRear"), {10200, 3600, 1455, 615}};
-    PictureBox picScript{*this, QStringLiteral("picScript"), {10200, 2880, 1455, 615}};
-    PictureBox picClipArt{*this, QStringLiteral("picClipArt"), {2280, 720, 7215, 615}};
+    PictureBox picEmblem{*this, u"picEmblem"_s, {10200, 4320, 1455, 615}};
+    PictureBox picEmbSide{*this, u"picEmbSide"_s, {10200, 2160, 1455, 615}};
+    PictureBox picEmbRear{*this, u"picEmbRear"_s, {10200, 3600, 1455, 615}};
+    PictureBox picScript{*this, u"picScript"_s, {10200, 2880, 1455, 615}};
+    PictureBox picClipArt{*this, u"picClipArt"_s, {2280, 720, 7215, 615}};
 
-    Frame Frame1{*this, QStringLiteral("Frame1"), {0, 7560, 12015, 855}};
-    ControlArray<Button> cmdYR{QStringLiteral("cmdYR")};
+    Frame Frame1{*this, u"Frame1"_s, {0, 7560, 12015, 855}};
+    ControlArray<Button> cmdYR{u"cmdYR"_s};
     Button cmdSlide;
     Button cmdExit;
 
-    MediaControl MMControl1{QStringLiteral("MMControl1")};
+    MediaControl MMControl1{u"MMControl1"_s};
     CommonDialog dlgCommon1;
-    CommonDialog dlgPrint{QStringLiteral("dlgPrint")};
+    CommonDialog dlgPrint{u"dlgPrint"_s};
 };
 
 inline FormHandle<Form1Controls> Form1;

@@ -1,18 +1,20 @@
 #include "windows/movie_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
-const QString movieCaptions[movieOptionCount] = {
-    QStringLiteral("1967 \"Volcano\""), QStringLiteral("1969 Torvik"),   QStringLiteral("The Super Glider"),
-    QStringLiteral("Q44 \"Shadows\""),  QStringLiteral("Rock and Roll"), QString()};
+const QString movieCaptions[movieOptionCount] = {u"1967 \"Volcano\""_s, u"1969 Torvik"_s,
+                                                 u"The Super Glider"_s, u"Q44 \"Shadows\""_s,
+                                                 u"Rock and Roll"_s,    QString()};
 
 FormDesign DesignOfMovie()
 {
     FormDesign design;
-    design.Name = QStringLiteral("frmMovie");
-    design.Caption = QStringLiteral("Torvik Movies");
+    design.Name = u"frmMovie"_s;
+    design.Caption = u"Torvik Movies"_s;
     design.ClientWidth = 8220;
     design.ClientHeight = 4860;
     return design;
@@ -20,7 +22,7 @@ FormDesign DesignOfMovie()
 
 ControlArray<OptionButton> MakeOptions(Form& form)
 {
-    ControlArray<OptionButton> options(QStringLiteral("optMovie"));
+    ControlArray<OptionButton> options(u"optMovie"_s);
     for (int index = 0; index < movieOptionCount; ++index) {
         // Without a caption an option is no wider than its ring, so that all of it can be clicked.
         const double width = movieCaptions[index].isEmpty() ? 300 : 2460;
@@ -33,7 +35,7 @@ ControlArray<OptionButton> MakeOptions(Form& form)
 
 frmMovieControls::frmMovieControls() : Form(DesignOfMovie()), optMovie(MakeOptions(*this))
 {
-    PicMovie.Show(Picture::FromResource(QStringLiteral(":/assets/movie_opening.png")));
+    PicMovie.Show(Picture::FromResource(u":/assets/movie_opening.png"_s));
     HScroll1.Hide(); // belongs to the form but moves nothing
 }
 

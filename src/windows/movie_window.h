@@ -11,6 +11,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// The options for a movie, the last one without a caption.
 inline constexpr int movieOptionCount = 6;
 
@@ -25,13 +27,13 @@ inline constexpr int movieOptionCount = 6;
 struct frmMovieControls : Form {
     frmMovieControls();
 
-    Panel SSPanel1{*this, QStringLiteral("SSPanel1"), {180, 180, 5130, 3585}};
-    Image PicMovie{SSPanel1, QStringLiteral("PicMovie"), {165, 165, 4800, 3255}};
+    Panel SSPanel1{*this, u"SSPanel1"_s, {180, 180, 5130, 3585}};
+    Image PicMovie{SSPanel1, u"PicMovie"_s, {165, 165, 4800, 3255}};
     ControlArray<OptionButton> optMovie;
-    MMControl MMControl1{*this, QStringLiteral("MMControl1"), {180, 3900, 5130, 780}};
-    Button SSCommand1{*this, QStringLiteral("SSCommand1"), {5520, 3900, 1200, 420}, QStringLiteral("Exit")};
-    Button SSCommand2{*this, QStringLiteral("SSCommand2"), {6840, 3900, 1200, 420}, QStringLiteral("Help")};
-    ScrollBar HScroll1{*this, QStringLiteral("HScroll1"), {180, 4740, 5130, 240}};
+    MMControl MMControl1{*this, u"MMControl1"_s, {180, 3900, 5130, 780}};
+    Button SSCommand1{*this, u"SSCommand1"_s, {5520, 3900, 1200, 420}, u"Exit"_s};
+    Button SSCommand2{*this, u"SSCommand2"_s, {6840, 3900, 1200, 420}, u"Help"_s};
+    ScrollBar HScroll1{*this, u"HScroll1"_s, {180, 4740, 5130, 240}};
 };
 
 inline FormHandle<frmMovieControls> frmMovie;

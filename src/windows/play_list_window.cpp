@@ -2,6 +2,8 @@
 
 #include "ui/forms/screen.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -9,8 +11,8 @@ namespace {
 FormDesign DesignOfPlayList()
 {
     FormDesign design;
-    design.Name = QStringLiteral("frmSSPhoto");
-    design.Caption = QStringLiteral("The Torvik Vollandry 2001");
+    design.Name = u"frmSSPhoto"_s;
+    design.Caption = u"The Torvik Vollandry 2001"_s;
     design.ClientWidth = 4680;
     design.ClientHeight = 3900;
     return design;
@@ -22,7 +24,7 @@ frmSSPhotoControls::frmSSPhotoControls() : Form(DesignOfPlayList())
 {
     SetLeft((Screen.Width() - Width()) / 2);
     SetTop((Screen.Height() - Height()) / 2);
-    Picture1.Show(Picture::FromResource(QStringLiteral(":/assets/icon.png")));
+    Picture1.Show(Picture::FromResource(u":/assets/icon.png"_s));
     ProgressGuage.SetFloodPercent(0);
 }
 

@@ -2,6 +2,8 @@
 
 #include "ui/look/look.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -10,8 +12,8 @@ namespace {
 FormDesign DesignOfSlide()
 {
     FormDesign design;
-    design.Name = QStringLiteral("frmSlide");
-    design.Caption = QStringLiteral("The Torvik Vollandry Slide Show");
+    design.Name = u"frmSlide"_s;
+    design.Caption = u"The Torvik Vollandry Slide Show"_s;
     design.ClientWidth = 12060;
     design.ClientHeight = 8670;
     return design;
@@ -19,12 +21,12 @@ FormDesign DesignOfSlide()
 
 void SetUpBar(MediaBar& bar)
 {
-    bar.SetToolTip(QStringLiteral("[Bkwd] [Fwd] [Play] [Pause] [Jump Bkwd] [Jump Fwd] [Exit]"));
-    bar.SetSpokenAs(MediaButton::Prev, QStringLiteral("Backward"));
-    bar.SetSpokenAs(MediaButton::Next, QStringLiteral("Forward"));
-    bar.SetSpokenAs(MediaButton::Back, QStringLiteral("Jump backward"));
-    bar.SetSpokenAs(MediaButton::Step, QStringLiteral("Jump forward"));
-    bar.SetSpokenAs(MediaButton::Stop, QStringLiteral("Exit with this photo"));
+    bar.SetToolTip(u"[Bkwd] [Fwd] [Play] [Pause] [Jump Bkwd] [Jump Fwd] [Exit]"_s);
+    bar.SetSpokenAs(MediaButton::Prev, u"Backward"_s);
+    bar.SetSpokenAs(MediaButton::Next, u"Forward"_s);
+    bar.SetSpokenAs(MediaButton::Back, u"Jump backward"_s);
+    bar.SetSpokenAs(MediaButton::Step, u"Jump forward"_s);
+    bar.SetSpokenAs(MediaButton::Stop, u"Exit with this photo"_s);
     for (const MediaButton button : {MediaButton::Pause, MediaButton::Record, MediaButton::Eject})
         bar.SetButtonEnabled(button, false);
     for (const MediaButton button : {MediaButton::Record, MediaButton::Eject})
@@ -36,14 +38,14 @@ void SetUpBar(MediaBar& bar)
 frmSlideControls::frmSlideControls() : Form(DesignOfSlide())
 {
     constexpr int titleSize = 16; // pixels
-    Image1.Show(Picture::FromResource(QStringLiteral(":/assets/slide_show.jpg")));
+    Image1.Show(Picture::FromResource(u":/assets/slide_show.jpg"_s));
     pnlPhotoNumber.Hide();
     panYear.SetCaptionFont(titleSize, true);
     PnlCoStar.SetCaptionFont(12, true, look::accent);
-    SSCommand1.SetToolTip(QStringLiteral("Jump to Slide 1"));
-    SSCommand2.SetToolTip(QStringLiteral("Jump to Middle"));
-    SpinInterval.SetToolTip(QStringLiteral("Set Slide Show Delay"));
-    SpinInterval.SetSpokenAs(QStringLiteral("Longer delay"), QStringLiteral("Shorter delay"));
+    SSCommand1.SetToolTip(u"Jump to Slide 1"_s);
+    SSCommand2.SetToolTip(u"Jump to Middle"_s);
+    SpinInterval.SetToolTip(u"Set Slide Show Delay"_s);
+    SpinInterval.SetSpokenAs(u"Longer delay"_s, u"Shorter delay"_s);
     SetUpBar(mmSlide);
 }
 

@@ -10,6 +10,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// The slide show's window.
 ///
 ///   +------------------------------------------------------------------------+
@@ -26,42 +28,25 @@ namespace torvik {
 struct frmSlideControls : Form {
     frmSlideControls();
 
-    Image Image1{*this, QStringLiteral("Image1"), {120, 120, 11760, 7290}};
-    Panel pnlPhotoNumber{*this, QStringLiteral("pnlPhotoNumber"), {120, 120, 1560, 330}};
-    Panel panYear{*this, QStringLiteral("panYear"), {120, 7500, 3300, 600}, QStringLiteral("panYear")};
+    Image Image1{*this, u"Image1"_s, {120, 120, 11760, 7290}};
+    Panel pnlPhotoNumber{*this, u"pnlPhotoNumber"_s, {120, 120, 1560, 330}};
+    Panel panYear{*this, u"panYear"_s, {120, 7500, 3300, 600}, u"panYear"_s};
 
     // The first that takes the focus, so that its keys work as soon as the form comes up.
-    Button SSCommand1{
-        *this, QStringLiteral("SSCommand1"), {3900, 7500, 2100, 240}, QStringLiteral("Beginning")};
-    Button SSCommand2{*this, QStringLiteral("SSCommand2"), {6000, 7500, 2100, 240}, QStringLiteral("Middle")};
-    MediaBar mmSlide{*this, QStringLiteral("mmSlide"), {3900, 7740, 4200, 360}};
-    SpinButton SpinInterval{*this, QStringLiteral("SpinInterval"), {10050, 7500, 330, 600}};
-    Panel panInterval{
-        *this, QStringLiteral("panInterval"), {10380, 7620, 1500, 360}, QStringLiteral("SSPanel1")};
+    Button SSCommand1{*this, u"SSCommand1"_s, {3900, 7500, 2100, 240}, u"Beginning"_s};
+    Button SSCommand2{*this, u"SSCommand2"_s, {6000, 7500, 2100, 240}, u"Middle"_s};
+    MediaBar mmSlide{*this, u"mmSlide"_s, {3900, 7740, 4200, 360}};
+    SpinButton SpinInterval{*this, u"SpinInterval"_s, {10050, 7500, 330, 600}};
+    Panel panInterval{*this, u"panInterval"_s, {10380, 7620, 1500, 360}, u"SSPanel1"_s};
 
-    Panel PnlCoStar{*this,
-                    QStringLiteral("PnlCoStar"),
-                    {120, 8220, 4560, 330},
-                    QStringLiteral("The Torvik Vollandry   2001")};
-    Panel StatusDate{*this,
-                     QStringLiteral("StatusDate"),
-                     {4680, 8220, 1800, 330},
-                     QStringLiteral("StatusDate"),
-                     Bevel::Sunken};
-    Panel StatusDay{*this,
-                    QStringLiteral("StatusDay"),
-                    {6480, 8220, 1800, 330},
-                    QStringLiteral("StatusDay"),
-                    Bevel::Sunken};
-    Panel StatusTime{*this,
-                     QStringLiteral("StatusTime"),
-                     {8280, 8220, 1800, 330},
-                     QStringLiteral("StatusTime"),
-                     Bevel::Sunken};
-    Button cmdExit{*this, QStringLiteral("cmdExit"), {10080, 8220, 1800, 330}, QStringLiteral("Exit")};
+    Panel PnlCoStar{*this, u"PnlCoStar"_s, {120, 8220, 4560, 330}, u"The Torvik Vollandry   2001"_s};
+    Panel StatusDate{*this, u"StatusDate"_s, {4680, 8220, 1800, 330}, u"StatusDate"_s, Bevel::Sunken};
+    Panel StatusDay{*this, u"StatusDay"_s, {6480, 8220, 1800, 330}, u"StatusDay"_s, Bevel::Sunken};
+    Panel StatusTime{*this, u"StatusTime"_s, {8280, 8220, 1800, 330}, u"StatusTime"_s, Bevel::Sunken};
+    Button cmdExit{*this, u"cmdExit"_s, {10080, 8220, 1800, 330}, u"Exit"_s};
 
-    Timer Timer1{*this, QStringLiteral("Timer1"), 750};
-    Timer Timer3{*this, QStringLiteral("Timer3"), 10};
+    Timer Timer1{*this, u"Timer1"_s, 750};
+    Timer Timer3{*this, u"Timer3"_s, 10};
 };
 
 inline FormHandle<frmSlideControls> frmSlide;

@@ -3,40 +3,42 @@
 #include "ui/forms/form.h"
 #include "ui/pictures/picture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
 const QString soundLabels[soundCount] = {
-    QStringLiteral("Backfiring"),
-    QStringLiteral("Car Door"),
-    QStringLiteral("Car Horns"),
-    QStringLiteral("Traffic"),
-    QStringLiteral("Police Car"),
-    QStringLiteral("Taxi Horns"),
-    QStringLiteral("Sport Car"),
-    QStringLiteral("18 Wheeler"),
-    QStringLiteral("Race Car Takeoff"),
-    QStringLiteral("At the Track"),
-    QStringLiteral("Race Car Passby"),
-    QStringLiteral("Race Car 1"),
-    QStringLiteral("Race Car 2"),
-    QStringLiteral("Motorcycle"),
-    QStringLiteral("Batmobile"),
-    QStringLiteral("Dornhall"),
-    QStringLiteral("Torvik"),
-    QStringLiteral("Cars Starting"),
-    QStringLiteral("Passby"),
-    QStringLiteral("Sellark C5"),
-    QStringLiteral("QR-7 Starting"),
-    QStringLiteral("Motorcycle 2"),
-    QStringLiteral("Hot Rod"),
-    QStringLiteral("Red Light"),
-    QStringLiteral("Dornhall Kestra I"),
-    QStringLiteral("Ford Cobra"),
-    QStringLiteral("Stuck on Ice"),
-    QStringLiteral("Rev n' Run"),
-    QStringLiteral("Going By"),
+    u"Backfiring"_s,
+    u"Car Door"_s,
+    u"Car Horns"_s,
+    u"Traffic"_s,
+    u"Police Car"_s,
+    u"Taxi Horns"_s,
+    u"Sport Car"_s,
+    u"18 Wheeler"_s,
+    u"Race Car Takeoff"_s,
+    u"At the Track"_s,
+    u"Race Car Passby"_s,
+    u"Race Car 1"_s,
+    u"Race Car 2"_s,
+    u"Motorcycle"_s,
+    u"Batmobile"_s,
+    u"Dornhall"_s,
+    u"Torvik"_s,
+    u"Cars Starting"_s,
+    u"Passby"_s,
+    u"Sellark C5"_s,
+    u"QR-7 Starting"_s,
+    u"Motorcycle 2"_s,
+    u"Hot Rod"_s,
+    u"Red Light"_s,
+    u"Dornhall Kestra I"_s,
+    u"Ford Cobra"_s,
+    u"Stuck on Ice"_s,
+    u"Rev n' Run"_s,
+    u"Going By"_s,
 };
 
 /// Three columns, each from the first row on.
@@ -58,16 +60,16 @@ Twips PlaceOfButton(int index)
 
 ControlArray<Button> MakeButtons(Panel& panel)
 {
-    ControlArray<Button> buttons(QStringLiteral("SSCommand2"));
+    ControlArray<Button> buttons(u"SSCommand2"_s);
     for (int index = 0; index < soundCount; ++index)
         buttons.Add(index, panel, PlaceOfButton(index))
-            .SetPicture(QStringLiteral(":/assets/button_sound.png"), soundLabels[index]);
+            .SetPicture(u":/assets/button_sound.png"_s, soundLabels[index]);
     return buttons;
 }
 
 ControlArray<Label> MakeLabels(Panel& panel)
 {
-    ControlArray<Label> labels(QStringLiteral("lblSound"));
+    ControlArray<Label> labels(u"lblSound"_s);
     for (int index = 0; index < soundCount; ++index) {
         const Twips button = PlaceOfButton(index);
         labels.Add(index, panel, Twips{button.Left + 510, button.Top, 1680, button.Height},
@@ -79,17 +81,16 @@ ControlArray<Label> MakeLabels(Panel& panel)
 } // namespace
 
 SoundPanel::SoundPanel(Form& form)
-    : pnlSound(form, QStringLiteral("pnlSound"), {2000, 1200, 7980, 5580}),
-      Label10(pnlSound, QStringLiteral("Label10"), {360, 150, 7260, 330},
-              QStringLiteral("Automobile Sound Effects")),
+    : pnlSound(form, u"pnlSound"_s, {2000, 1200, 7980, 5580}),
+      Label10(pnlSound, u"Label10"_s, {360, 150, 7260, 330}, u"Automobile Sound Effects"_s),
       SSCommand2(MakeButtons(pnlSound)), lblSound(MakeLabels(pnlSound)),
-      Picture5(pnlSound, QStringLiteral("Picture5"), {3240, 3600, 4380, 1050}),
-      SSCommand3(pnlSound, QStringLiteral("SSCommand3"), {3240, 4830, 2100, 420}, QStringLiteral("Stop")),
-      SSCommand1(pnlSound, QStringLiteral("SSCommand1"), {5520, 4830, 2100, 420}, QStringLiteral("Close"))
+      Picture5(pnlSound, u"Picture5"_s, {3240, 3600, 4380, 1050}),
+      SSCommand3(pnlSound, u"SSCommand3"_s, {3240, 4830, 2100, 420}, u"Stop"_s),
+      SSCommand1(pnlSound, u"SSCommand1"_s, {5520, 4830, 2100, 420}, u"Close"_s)
 {
     constexpr int titleSize = 20; // pixels
     Label10.SetCaptionFont(titleSize, true, look::accent);
-    Picture5.Show(Picture::FromResource(QStringLiteral(":/assets/sound_wave.png")));
+    Picture5.Show(Picture::FromResource(u":/assets/sound_wave.png"_s));
     pnlSound.Hide();
 }
 

@@ -2,6 +2,8 @@
 
 #include "ui/forms/screen.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -9,8 +11,8 @@ namespace {
 FormDesign DesignOfForm2()
 {
     FormDesign design;
-    design.Name = QStringLiteral("Form2");
-    design.Caption = QStringLiteral("The Torvik Vollandry 2001");
+    design.Name = u"Form2"_s;
+    design.Caption = u"The Torvik Vollandry 2001"_s;
     design.ClientWidth = 9000;
     design.ClientHeight = 6540;
     design.Border = FormBorder::None;
@@ -25,8 +27,8 @@ Form2Controls::Form2Controls() : Form(DesignOfForm2())
     SetTop((Screen.Height() - Height()) / 2);
     Adopt(MMControl1);
     SSPanel1.SetCaptionFont(14, true, look::accent);
-    Image1.Show(Picture::FromResource(QStringLiteral(":/assets/splash.png")));
-    Picture3.Show(Picture::FromResource(QStringLiteral(":/assets/icon.png")));
+    Image1.Show(Picture::FromResource(u":/assets/splash.png"_s));
+    Picture3.Show(Picture::FromResource(u":/assets/icon.png"_s));
 }
 
 } // namespace torvik

@@ -8,18 +8,20 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// The splash window of the start.
 struct Form2Controls : Form {
     Form2Controls();
 
-    Image Image1{*this, QStringLiteral("Image1"), {0, 0, 9000, 6000}};
+    Image Image1{*this, u"Image1"_s, {0, 0, 9000, 6000}};
     Panel SSPanel1{*this,
-                   QStringLiteral("SSPanel1"),
+                   u"SSPanel1"_s,
                    {0, 6000, 9000, 540},
-                   QStringLiteral("One car   -   thirty-five model years   -   1967 to 2001")};
-    Image Picture3{SSPanel1, QStringLiteral("Picture3"), {60, 60, 420, 420}};
-    Timer Timer1{*this, QStringLiteral("Timer1")};
-    MediaControl MMControl1{QStringLiteral("MMControl1")};
+                   u"One car   -   thirty-five model years   -   1967 to 2001"_s};
+    Image Picture3{SSPanel1, u"Picture3"_s, {60, 60, 420, 420}};
+    Timer Timer1{*this, u"Timer1"_s};
+    MediaControl MMControl1{u"MMControl1"_s};
 };
 
 inline FormHandle<Form2Controls> Form2;

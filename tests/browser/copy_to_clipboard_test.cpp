@@ -13,6 +13,7 @@
 #include <QMimeData>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -20,7 +21,7 @@ namespace {
 FormDesign DesignOfKinds()
 {
     FormDesign design;
-    design.Name = QStringLiteral("Kinds");
+    design.Name = u"Kinds"_s;
     design.ClientWidth = 6000;
     design.ClientHeight = 4500;
     return design;
@@ -29,12 +30,11 @@ FormDesign DesignOfKinds()
 /// One control of each kind that can be copied from.
 struct KindsForm : Form {
     KindsForm() : Form(DesignOfKinds()) {}
-    TextBox Text{*this, QStringLiteral("Text"), {0, 0, 1500, 375}, QStringLiteral("67TOR001.JPG")};
-    ComboBox Combo{
-        *this, QStringLiteral("Combo"), {0, 600, 1500, 375}, {QStringLiteral("one"), QStringLiteral("two")}};
-    ListBox List{*this, QStringLiteral("List"), {0, 1200, 1500, 900}};
-    Image Photo{*this, QStringLiteral("Photo"), {1800, 0, 900, 600}};
-    PictureBox Pane{*this, QStringLiteral("Pane"), {1800, 900, 900, 600}};
+    TextBox Text{*this, u"Text"_s, {0, 0, 1500, 375}, u"67TOR001.JPG"_s};
+    ComboBox Combo{*this, u"Combo"_s, {0, 600, 1500, 375}, {u"one"_s, u"two"_s}};
+    ListBox List{*this, u"List"_s, {0, 1200, 1500, 900}};
+    Image Photo{*this, u"Photo"_s, {1800, 0, 900, 600}};
+    PictureBox Pane{*this, u"Pane"_s, {1800, 900, 900, 600}};
 };
 
 FormHandle<KindsForm> Kinds;
@@ -59,11 +59,11 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
-        program_->Disc.AddFile(QStringLiteral("emblems/emb67.jpg"), TestDisc::Jpeg(Qt::red, {160, 90}));
+        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->Disc.AddFile(u"emblems/emb67.jpg"_s, TestDisc::Jpeg(Qt::red, {160, 90}));
         program_->StartBrowsing();
-        Desktop().setText(QStringLiteral("before"));
-        state.ClipboardRequest = QStringLiteral("2");
+        Desktop().setText(u"before"_s);
+        state.ClipboardRequest = u"2"_s;
     }
     void cleanup() { program_.reset(); }
 
@@ -79,7 +79,7 @@ private Q_SLOTS:
         state.ClipboardRequest = request;
         CopyToClipboard();
         QCOMPARE(program_->Messages.Count(), 0);
-        QCOMPARE(Desktop().text(), QStringLiteral("before"));
+        QCOMPARE(Desktop().text(), u"before"_s);
     }
 
     void the_question_is_asked_with_yes_and_no_and_the_answer_is_kept()
@@ -89,9 +89,9 @@ private Q_SLOTS:
         CopyToClipboard();
         QCOMPARE(program_->Messages.Count(), 1);
         const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, QStringLiteral("Would you like to copy this image to the Windows Clipboard?"));
+        QCOMPARE(box.Text, u"Would you like to copy this image to the Windows Clipboard?"_s);
         QCOMPARE(box.Style, 32 + 4);
-        QCOMPARE(box.Title, QStringLiteral("The Torvik Vollandry 2001"));
+        QCOMPARE(box.Title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(static_cast<int>(state.MessageResult), 7);
         program_->Messages.Answer(msgbox::answerYes);
         CopyToClipboard();
@@ -104,7 +104,7 @@ private Q_SLOTS:
         program_->Messages.Answer(msgbox::answerNo);
         program_->Click(Form1->picEmblem, Qt::RightButton);
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(Desktop().text(), QStringLiteral("before"));
+        QCOMPARE(Desktop().text(), u"before"_s);
     }
 
     void a_right_click_on_a_picture_copies_that_picture()
@@ -125,7 +125,7 @@ private Q_SLOTS:
         program_->Click(Form1->picEmblem, Qt::RightButton);
         QCOMPARE(Program::Focus(), focus);
         program_->Press(Qt::Key_Period);
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("67B.JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"67B.JPG"_s);
     }
 
     void yes_with_a_push_button_active_empties_the_clipboard()
@@ -151,7 +151,7 @@ private Q_SLOTS:
         static_cast<QLineEdit&>(Kinds->Text.Widget()).setSelection(2, 6);
         program_->Messages.Answer(msgbox::answerYes);
         CopyToClipboard();
-        QCOMPARE(Desktop().text(), QStringLiteral("TOR001"));
+        QCOMPARE(Desktop().text(), u"TOR001"_s);
     }
 
     void a_combo_box_gives_its_text()
@@ -161,13 +161,13 @@ private Q_SLOTS:
         program_->Press(Qt::Key_Down);
         program_->Messages.Answer(msgbox::answerYes);
         CopyToClipboard();
-        QCOMPARE(Desktop().text(), QStringLiteral("two"));
+        QCOMPARE(Desktop().text(), u"two"_s);
     }
 
     void a_picture_box_gives_its_picture()
     {
         OpenKinds();
-        Kinds->Pane.Load(QStringLiteral("G:\\emblems\\emb67.jpg"));
+        Kinds->Pane.Load(u"G:\\emblems\\emb67.jpg"_s);
         program_->Click(Kinds->Pane);
         program_->Messages.Answer(msgbox::answerYes);
         CopyToClipboard();
@@ -177,19 +177,19 @@ private Q_SLOTS:
     void a_list_box_gives_the_selected_text()
     {
         OpenKinds();
-        Kinds->List.AddItem(QStringLiteral("first"));
-        Kinds->List.AddItem(QStringLiteral("second"));
+        Kinds->List.AddItem(u"first"_s);
+        Kinds->List.AddItem(u"second"_s);
         Kinds->List.SetListIndex(1);
         Kinds->List.SetFocus();
         program_->Messages.Answer(msgbox::answerYes);
         CopyToClipboard();
-        QCOMPARE(Desktop().text(), QStringLiteral("second"));
+        QCOMPARE(Desktop().text(), u"second"_s);
     }
 
     void an_image_gives_its_picture_at_natural_size()
     {
         OpenKinds();
-        Kinds->Photo.Load(QStringLiteral("G:\\emblems\\emb67.jpg"));
+        Kinds->Photo.Load(u"G:\\emblems\\emb67.jpg"_s);
         program_->Click(Kinds->Photo, Qt::RightButton);
         program_->Messages.Answer(msgbox::answerYes);
         CopyToClipboard();

@@ -4,6 +4,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The buttons that open and close emblem, script and clip art, and the clicks on these pictures.
@@ -29,7 +30,7 @@ private Q_SLOTS:
         for (const PictureBox* pane : {&Form1->picEmblem, &Form1->picScript, &Form1->picClipArt,
                                        &Form1->picEmbSide, &Form1->picEmbRear}) {
             QVERIFY(!pane->Visible());
-            QCOMPARE(pane->ToolTip(), QStringLiteral("Click the Right mouse button to copy"));
+            QCOMPARE(pane->ToolTip(), u"Click the Right mouse button to copy"_s);
         }
         const auto place = [](const PictureBox& pane) { return pane.Widget().geometry(); };
         QCOMPARE(place(Form1->picEmblem), QRect(680, 288, 97, 41));
@@ -46,7 +47,7 @@ private Q_SLOTS:
         program_->Click(ButtonOf(pane));
         QVERIFY(PaneOf(pane).Visible());
         QCOMPARE(PaneOf(pane).Width(), 160.0);
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
@@ -63,7 +64,7 @@ private Q_SLOTS:
         Form1->cmdYR(20).SetFocus();
         program_->Click(ButtonOf(pane));
         QVERIFY(!PaneOf(pane).Visible());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
         program_->Click(ButtonOf(pane));
         QVERIFY(PaneOf(pane).Visible());
     }
@@ -73,7 +74,7 @@ private Q_SLOTS:
         program_->Click(Form1->cmdClipArt);
         program_->Click(Form1->cmdClipArt);
         QVERIFY(!Form1->picClipArt.Visible());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdClipArt"));
+        QCOMPARE(Program::Focus(), u"cmdClipArt"_s);
     }
 
     void with_nothing_chosen_no_button_does_anything_data() { Panes(); }
@@ -81,13 +82,13 @@ private Q_SLOTS:
     {
         QFETCH(int, pane);
         Form1->panYear.SetCaption(nothingChosen);
-        state.ErrorCode = QStringLiteral("before");
-        state.YearCode = QStringLiteral("xx");
+        state.ErrorCode = u"before"_s;
+        state.YearCode = u"xx"_s;
         program_->Click(ButtonOf(pane));
         QVERIFY(!PaneOf(pane).Visible());
         QCOMPARE(Program::Focus(), ButtonOf(pane).Name());
-        QCOMPARE(state.ErrorCode, QStringLiteral("before"));
-        QCOMPARE(state.YearCode, QStringLiteral("xx"));
+        QCOMPARE(state.ErrorCode, u"before"_s);
+        QCOMPARE(state.YearCode, u"xx"_s);
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
@@ -109,20 +110,19 @@ private Q_SLOTS:
         QFETCH(int, pane);
         Choose(35);
         program_->Click(ButtonOf(pane));
-        const QString names[] = {QStringLiteral("emb01.jpg"), QStringLiteral("scri01.jpg"),
-                                 QStringLiteral("01clip.jpg")};
+        const QString names[] = {u"emb01.jpg"_s, u"scri01.jpg"_s, u"01clip.jpg"_s};
         QCOMPARE(PaneOf(pane).Picture().FileName(), names[pane]);
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(1)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(1)"_s);
     }
 
     void clip_art_leaves_the_digits_of_the_title_as_the_year_code()
     {
         Choose(35);
-        state.YearCode = QStringLiteral("A1");
+        state.YearCode = u"A1"_s;
         program_->Click(Form1->cmdClipArt);
-        QCOMPARE(state.YearCode, QStringLiteral("01"));
+        QCOMPARE(state.YearCode, u"01"_s);
         program_->Press(Qt::Key_Period); // and stepping still finds the year's photos
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("A1B.JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"A1B.JPG"_s);
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
@@ -130,7 +130,7 @@ private Q_SLOTS:
     {
         program_->Click(Form1->cmdEmblem);
         program_->Click(Form1->cmdClipArt);
-        QCOMPARE(Form1->Host().children().last()->objectName(), QStringLiteral("picClipArt"));
+        QCOMPARE(Form1->Host().children().last()->objectName(), u"picClipArt"_s);
         QCOMPARE(Form1->picClipArt.Widget().pos(), QPoint(622, 24));
     }
 
@@ -138,23 +138,23 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("pane");
         QTest::addColumn<QString>("code");
-        QTest::newRow("emblem") << 0 << QStringLiteral("ER022");
-        QTest::newRow("script") << 1 << QStringLiteral("ER021");
-        QTest::newRow("clip art") << 2 << QStringLiteral("ER035");
+        QTest::newRow("emblem") << 0 << u"ER022"_s;
+        QTest::newRow("script") << 1 << u"ER021"_s;
+        QTest::newRow("clip art") << 2 << u"ER035"_s;
     }
     void a_missing_picture_is_reported_and_the_focus_moves_all_the_same()
     {
         QFETCH(int, pane);
         QFETCH(QString, code);
         Choose(4);
-        state.YearCode = QStringLiteral("xx");
+        state.YearCode = u"xx"_s;
         program_->Click(ButtonOf(pane));
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ") + code));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code));
         QCOMPARE(state.ErrorCode, code);
         QVERIFY(!PaneOf(pane).Visible());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(5)"));
-        QCOMPARE(state.YearCode, pane == 2 ? QStringLiteral("70") : QStringLiteral("xx"));
+        QCOMPARE(Program::Focus(), u"cmdYR(5)"_s);
+        QCOMPARE(state.YearCode, pane == 2 ? u"70"_s : u"xx"_s);
         QVERIFY(Form1->Enabled());
     }
 
@@ -166,8 +166,8 @@ private Q_SLOTS:
         Form1->cmdYR(20).SetFocus();
         program_->Click(PaneOf(pane));
         QVERIFY(!PaneOf(pane).Visible());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
-        QCOMPARE(state.ClipboardRequest, QStringLiteral(" "));
+        QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
+        QCOMPARE(state.ClipboardRequest, u" "_s);
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
@@ -176,9 +176,9 @@ private Q_SLOTS:
         for (const int pane : {0, 1, 2})
             program_->Click(ButtonOf(pane));
         Choose(35);
-        QCOMPARE(Form1->picEmblem.Picture().FileName(), QStringLiteral("emb01.jpg"));
-        QCOMPARE(Form1->picScript.Picture().FileName(), QStringLiteral("scri01.jpg"));
-        QCOMPARE(Form1->picClipArt.Picture().FileName(), QStringLiteral("01clip.jpg"));
+        QCOMPARE(Form1->picEmblem.Picture().FileName(), u"emb01.jpg"_s);
+        QCOMPARE(Form1->picScript.Picture().FileName(), u"scri01.jpg"_s);
+        QCOMPARE(Form1->picClipArt.Picture().FileName(), u"01clip.jpg"_s);
         QVERIFY(Form1->picEmblem.Visible() && Form1->picScript.Visible() && Form1->picClipArt.Visible());
     }
 
@@ -197,11 +197,11 @@ private Q_SLOTS:
         program_->Messages.Answer(msgbox::answerNo);
         program_->Click(picture, Qt::RightButton);
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(state.ClipboardRequest, QStringLiteral("2"));
+        QCOMPARE(state.ClipboardRequest, u"2"_s);
         QVERIFY(picture.Visible());
         program_->Click(picture, Qt::MiddleButton);
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(state.ClipboardRequest, QStringLiteral(" "));
+        QCOMPARE(state.ClipboardRequest, u" "_s);
         QVERIFY(picture.Visible());
     }
 
@@ -210,17 +210,17 @@ private Q_SLOTS:
         Form1->picEmbSide.Show();
         program_->Click(Form1->picEmbSide);
         QVERIFY(Form1->picEmbSide.Visible());
-        QCOMPARE(state.ClipboardRequest, QStringLiteral(" "));
+        QCOMPARE(state.ClipboardRequest, u" "_s);
     }
 
     void the_rear_emblem_is_never_copied()
     {
         Form1->picEmbRear.Show();
-        state.ClipboardRequest = QStringLiteral("2");
+        state.ClipboardRequest = u"2"_s;
         program_->Click(Form1->picEmbRear, Qt::RightButton);
-        QCOMPARE(state.ClipboardRequest, QStringLiteral("2"));
+        QCOMPARE(state.ClipboardRequest, u"2"_s);
         program_->Click(Form1->picEmbRear);
-        QCOMPARE(state.ClipboardRequest, QStringLiteral(" "));
+        QCOMPARE(state.ClipboardRequest, u" "_s);
         QVERIFY(Form1->picEmbRear.Visible());
         QCOMPARE(program_->Messages.Count(), 0);
     }
@@ -235,8 +235,7 @@ private:
     }
     static QStringList PaneNames()
     {
-        return {QStringLiteral("picEmblem"), QStringLiteral("picScript"), QStringLiteral("picClipArt"),
-                QStringLiteral("picEmbSide")};
+        return {u"picEmblem"_s, u"picScript"_s, u"picClipArt"_s, u"picEmbSide"_s};
     }
     static PictureBox& PaneOf(int pane)
     {

@@ -5,12 +5,13 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
-const QString harwell = QStringLiteral("The Classic Harwell ");
-const QString prototypes = QStringLiteral("Early Torvik Prototypes ");
+const QString harwell = u"The Classic Harwell "_s;
+const QString prototypes = u"Early Torvik Prototypes "_s;
 
 } // namespace
 
@@ -22,7 +23,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -35,20 +36,19 @@ private Q_SLOTS:
         const auto row = [](const char* name, const char* pane, const QString& title, const char* file) {
             QTest::newRow(name) << QString::fromLatin1(pane) << title << QString::fromLatin1(file);
         };
-        row("emblem of a year", "picEmblem", QStringLiteral("1969"), "emblems/emb69.jpg");
-        row("emblem of 2001", "picEmblem", QStringLiteral("2001"), "emblems/emb01.jpg");
+        row("emblem of a year", "picEmblem", u"1969"_s, "emblems/emb69.jpg");
+        row("emblem of 2001", "picEmblem", u"2001"_s, "emblems/emb01.jpg");
         row("emblem of the Harwell", "picEmblem", harwell, "emblems/embsb.jpg");
         row("emblem of the prototypes", "picEmblem", prototypes, "emblems/EMBpt.jpg");
-        row("emblem of another topic", "picEmblem", QStringLiteral("Torvik Metal Signs "),
-            "emblems/embrv.jpg");
-        row("emblem in another letter case", "picEmblem", QStringLiteral("1969"), "EMBLEMS/EMB69.JPG");
-        row("script of a year", "picScript", QStringLiteral("1969"), "scripts/scri69.jpg");
-        row("script of 2001", "picScript", QStringLiteral("2001"), "scripts/scri01.jpg");
+        row("emblem of another topic", "picEmblem", u"Torvik Metal Signs "_s, "emblems/embrv.jpg");
+        row("emblem in another letter case", "picEmblem", u"1969"_s, "EMBLEMS/EMB69.JPG");
+        row("script of a year", "picScript", u"1969"_s, "scripts/scri69.jpg");
+        row("script of 2001", "picScript", u"2001"_s, "scripts/scri01.jpg");
         row("script of the Harwell", "picScript", harwell, "SCRIPTS/SCRISB.jpg");
         row("script of the prototypes", "picScript", prototypes, "SCRIPTS/SCRIpt.jpg");
         row("script in another letter case", "picScript", harwell, "scripts/scrisb.jpg");
-        row("clip art of a year", "picClipArt", QStringLiteral("1969"), "ClipArt/69clip.jpg");
-        row("clip art of 2001", "picClipArt", QStringLiteral("2001"), "ClipArt/01clip.jpg");
+        row("clip art of a year", "picClipArt", u"1969"_s, "ClipArt/69clip.jpg");
+        row("clip art of 2001", "picClipArt", u"2001"_s, "ClipArt/01clip.jpg");
         row("clip art of the Harwell", "picClipArt", harwell, "clipart/e clip.jpg");
     }
 
@@ -71,12 +71,12 @@ private Q_SLOTS:
 
     void clip_art_goes_by_the_year_code_and_not_by_the_title()
     {
-        program_->Disc.AddFile(QStringLiteral("ClipArt/A1clip.jpg"), TestDisc::Jpeg(Qt::blue, {90, 30}));
-        SetTitle(QStringLiteral("1969"));
-        state.YearCode = QStringLiteral("A1");
+        program_->Disc.AddFile(u"ClipArt/A1clip.jpg"_s, TestDisc::Jpeg(Qt::blue, {90, 30}));
+        SetTitle(u"1969"_s);
+        state.YearCode = u"A1"_s;
         LoadClipArt();
         QCOMPARE(program_->Messages.Count(), 0);
-        QCOMPARE(Form1->picClipArt.Picture().FileName(), QStringLiteral("A1clip.jpg"));
+        QCOMPARE(Form1->picClipArt.Picture().FileName(), u"A1clip.jpg"_s);
     }
 
     void each_has_its_place_at_the_edges_of_the_photo_data()
@@ -92,8 +92,8 @@ private Q_SLOTS:
         program_.reset();
         program_ = std::make_unique<Program>();
         program_->SetScreen(screen);
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
-        AddPictures(QStringLiteral("67"), {160, 90});
+        program_->Disc.AddGroup(u"67"_s, 1);
+        AddPictures(u"67"_s, {160, 90});
         program_->StartBrowsing();
         LoadEmblem();
         LoadScript();
@@ -113,18 +113,18 @@ private Q_SLOTS:
 
     void emblem_and_script_come_up_in_front_and_clip_art_stays_hidden()
     {
-        AddPictures(QStringLiteral("67"), {160, 90});
+        AddPictures(u"67"_s, {160, 90});
         Form1->rtbDetails.Show();
         Form1->rtbDetails.ZOrder();
         LoadEmblem();
         QVERIFY(Form1->picEmblem.Visible());
-        QCOMPARE(Frontmost(), QStringLiteral("picEmblem"));
+        QCOMPARE(Frontmost(), u"picEmblem"_s);
         LoadScript();
         QVERIFY(Form1->picScript.Visible());
-        QCOMPARE(Frontmost(), QStringLiteral("picScript"));
+        QCOMPARE(Frontmost(), u"picScript"_s);
         LoadClipArt();
         QVERIFY(!Form1->picClipArt.Visible());
-        QCOMPARE(Frontmost(), QStringLiteral("picScript"));
+        QCOMPARE(Frontmost(), u"picScript"_s);
     }
 
     void a_failure_is_reported_and_hides_emblem_and_script_data()
@@ -141,14 +141,11 @@ private Q_SLOTS:
                                                                {"cut off", whole.left(whole.size() / 2)}};
         for (const auto& [what, content] : contents) {
             QTest::addRow("emblem %s", what)
-                << QStringLiteral("picEmblem") << QStringLiteral("emblems/emb69.jpg") << content
-                << QStringLiteral("ER022") << false;
+                << u"picEmblem"_s << u"emblems/emb69.jpg"_s << content << u"ER022"_s << false;
             QTest::addRow("script %s", what)
-                << QStringLiteral("picScript") << QStringLiteral("scripts/scri69.jpg") << content
-                << QStringLiteral("ER021") << false;
+                << u"picScript"_s << u"scripts/scri69.jpg"_s << content << u"ER021"_s << false;
             QTest::addRow("clip art %s", what)
-                << QStringLiteral("picClipArt") << QStringLiteral("ClipArt/69clip.jpg") << content
-                << QStringLiteral("ER024") << true;
+                << u"picClipArt"_s << u"ClipArt/69clip.jpg"_s << content << u"ER024"_s << true;
         }
     }
 
@@ -159,31 +156,31 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         QFETCH(QString, code);
         QFETCH(bool, visible);
-        AddPictures(QStringLiteral("67"), {50, 20});
+        AddPictures(u"67"_s, {50, 20});
         Load(pane);
         PictureBox& picture = PaneOf(pane);
         picture.Show();
         const QString before = picture.Picture().FileName();
-        SetTitle(QStringLiteral("1969"));
+        SetTitle(u"1969"_s);
         if (!content.isNull())
             program_->Disc.AddFile(file, content);
         Load(pane);
         QCOMPARE(state.ErrorCode, code);
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ") + code));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code));
         QCOMPARE(picture.Visible(), visible);
         QCOMPARE(picture.Picture().FileName(), before);
     }
 
     void the_code_of_a_loader_stays_behind()
     {
-        AddPictures(QStringLiteral("67"), {50, 20});
+        AddPictures(u"67"_s, {50, 20});
         LoadEmblem();
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER022"));
+        QCOMPARE(state.ErrorCode, u"ER022"_s);
         LoadScript();
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER021"));
+        QCOMPARE(state.ErrorCode, u"ER021"_s);
         LoadClipArt();
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER024"));
+        QCOMPARE(state.ErrorCode, u"ER024"_s);
     }
 
 private:
@@ -194,21 +191,20 @@ private:
     }
     void AddPictures(const QString& year, const QSize& size)
     {
-        for (const QString& file : {QStringLiteral("emblems/emb%1.jpg"), QStringLiteral("scripts/scri%1.jpg"),
-                                    QStringLiteral("ClipArt/%1clip.jpg")})
+        for (const QString& file : {u"emblems/emb%1.jpg"_s, u"scripts/scri%1.jpg"_s, u"ClipArt/%1clip.jpg"_s})
             program_->Disc.AddFile(file.arg(year), TestDisc::Jpeg(Qt::blue, size));
     }
     static PictureBox& PaneOf(const QString& name)
     {
-        if (name == QStringLiteral("picEmblem"))
+        if (name == u"picEmblem"_s)
             return Form1->picEmblem;
-        return name == QStringLiteral("picScript") ? Form1->picScript : Form1->picClipArt;
+        return name == u"picScript"_s ? Form1->picScript : Form1->picClipArt;
     }
     static void Load(const QString& pane)
     {
-        if (pane == QStringLiteral("picEmblem"))
+        if (pane == u"picEmblem"_s)
             LoadEmblem();
-        else if (pane == QStringLiteral("picScript"))
+        else if (pane == u"picScript"_s)
             LoadScript();
         else
             LoadClipArt();

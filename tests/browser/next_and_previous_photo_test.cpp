@@ -6,6 +6,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Stepping through the photos of a year, in both directions.
@@ -18,7 +19,7 @@ private Q_SLOTS:
         program_ = std::make_unique<Program>();
         for (const char* prefix : {"67", "68", "99", "A0", "A1", "PT"})
             program_->Disc.AddGroup(QString::fromLatin1(prefix), 3);
-        program_->Disc.AddGroup(QStringLiteral("70"), 1);
+        program_->Disc.AddGroup(u"70"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -26,18 +27,18 @@ private Q_SLOTS:
     void forward_after_a_selection_shows_the_second_photo()
     {
         StepPhotoForward();
-        QCOMPARE(Shown(), QStringLiteral("67B.JPG 2"));
+        QCOMPARE(Shown(), u"67B.JPG 2"_s);
         QCOMPARE(int(state.PhotoIndex), 2);
         QCOMPARE(int(state.ShownPhotoIndex), 2);
         QVERIFY(state.SteppedForward);
         QVERIFY(!state.SteppedBackward);
-        QCOMPARE(state.CurrentPhotoFile, QStringLiteral("G:\\Torviks\\67B.JPG"));
+        QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\67B.JPG"_s);
     }
 
     void backward_after_a_selection_shows_the_last_photo()
     {
         StepPhotoBackward();
-        QCOMPARE(Shown(), QStringLiteral("67C.JPG 3"));
+        QCOMPARE(Shown(), u"67C.JPG 3"_s);
         QCOMPARE(int(state.PhotoIndex), 2);
         QCOMPARE(int(state.ShownPhotoIndex), 3);
         QVERIFY(state.SteppedBackward);
@@ -55,7 +56,7 @@ private Q_SLOTS:
             StepPhotoBackward();
             seen.append(Form1->panPhoto.Caption());
         }
-        QCOMPARE(seen.join(u' '), QStringLiteral("2 3 1 2 1 3 2 1 3"));
+        QCOMPARE(seen.join(u' '), u"2 3 1 2 1 3 2 1 3"_s);
         QVERIFY(program_->Messages.Shown().isEmpty());
     }
 
@@ -65,72 +66,71 @@ private Q_SLOTS:
         StepPhotoForward();
         StepPhotoForward();
         StepPhotoBackward();
-        QCOMPARE(Shown(), QStringLiteral("67B.JPG 2"));
+        QCOMPARE(Shown(), u"67B.JPG 2"_s);
         StepPhotoBackward();
-        QCOMPARE(Shown(), QStringLiteral("67A.JPG 1"));
+        QCOMPARE(Shown(), u"67A.JPG 1"_s);
     }
 
     void backward_then_forward_returns_to_where_it_was()
     {
         StepPhotoBackward();
         StepPhotoBackward();
-        QCOMPARE(Shown(), QStringLiteral("67B.JPG 2"));
+        QCOMPARE(Shown(), u"67B.JPG 2"_s);
         StepPhotoForward();
-        QCOMPARE(Shown(), QStringLiteral("67C.JPG 3"));
+        QCOMPARE(Shown(), u"67C.JPG 3"_s);
     }
 
     void a_group_of_one_photo_shows_it_again()
     {
         program_->Click(Form1->cmdYR(4));
-        QCOMPARE(Shown(), QStringLiteral("70A.JPG 1"));
+        QCOMPARE(Shown(), u"70A.JPG 1"_s);
         StepPhotoForward();
-        QCOMPARE(Shown(), QStringLiteral("70A.JPG 1"));
+        QCOMPARE(Shown(), u"70A.JPG 1"_s);
         StepPhotoForward();
         StepPhotoBackward();
-        QCOMPARE(Shown(), QStringLiteral("70A.JPG 1"));
+        QCOMPARE(Shown(), u"70A.JPG 1"_s);
     }
 
     void the_spin_button_steps()
     {
-        QTest::mouseClick(Form1->SpinButton1.Widget().findChild<QWidget*>(QStringLiteral("SpinButton1(Up)")),
+        QTest::mouseClick(Form1->SpinButton1.Widget().findChild<QWidget*>(u"SpinButton1(Up)"_s),
                           Qt::LeftButton);
-        QCOMPARE(Shown(), QStringLiteral("67B.JPG 2"));
-        QTest::mouseClick(
-            Form1->SpinButton1.Widget().findChild<QWidget*>(QStringLiteral("SpinButton1(Down)")),
-            Qt::LeftButton);
-        QCOMPARE(Shown(), QStringLiteral("67A.JPG 1"));
+        QCOMPARE(Shown(), u"67B.JPG 2"_s);
+        QTest::mouseClick(Form1->SpinButton1.Widget().findChild<QWidget*>(u"SpinButton1(Down)"_s),
+                          Qt::LeftButton);
+        QCOMPARE(Shown(), u"67A.JPG 1"_s);
     }
 
     void a_double_click_on_the_number_after_a_selection_shows_the_second_photo()
     {
         program_->DoubleClick(Form1->panPhoto);
-        QCOMPARE(Shown(), QStringLiteral("67B.JPG 2"));
+        QCOMPARE(Shown(), u"67B.JPG 2"_s);
     }
 
     void a_double_click_on_the_number_after_a_backward_step_shows_the_first_photo()
     {
         StepPhotoBackward();
         program_->DoubleClick(Form1->panPhoto);
-        QCOMPARE(Shown(), QStringLiteral("67A.JPG 1"));
+        QCOMPARE(Shown(), u"67A.JPG 1"_s);
     }
 
     void a_double_click_on_the_number_sees_a_photo_that_came_meanwhile()
     {
-        program_->Disc.AddPhoto(QStringLiteral("670.JPG"));
+        program_->Disc.AddPhoto(u"670.JPG"_s);
         StepPhotoBackward();
         program_->DoubleClick(Form1->panPhoto);
-        QCOMPARE(Shown(), QStringLiteral("670.JPG 1"));
+        QCOMPARE(Shown(), u"670.JPG 1"_s);
     }
 
     void the_focus_stays_behind_the_year_on_show_data()
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("focus");
-        QTest::newRow("1967") << QStringLiteral("1967") << QStringLiteral("cmdYR(2)");
-        QTest::newRow("1999") << QStringLiteral("1999") << QStringLiteral("cmdYR(34)");
-        QTest::newRow("2000") << QStringLiteral("2000") << QStringLiteral("cmdYR(35)");
-        QTest::newRow("2001") << QStringLiteral("2001") << QStringLiteral("cmdYR(1)");
-        QTest::newRow("a topic") << QStringLiteral("Early Torvik Prototypes ") << QStringLiteral("cmdYR(1)");
+        QTest::newRow("1967") << u"1967"_s << u"cmdYR(2)"_s;
+        QTest::newRow("1999") << u"1999"_s << u"cmdYR(34)"_s;
+        QTest::newRow("2000") << u"2000"_s << u"cmdYR(35)"_s;
+        QTest::newRow("2001") << u"2001"_s << u"cmdYR(1)"_s;
+        QTest::newRow("a topic") << u"Early Torvik Prototypes "_s << u"cmdYR(1)"_s;
     }
 
     void the_focus_stays_behind_the_year_on_show()
@@ -149,12 +149,12 @@ private Q_SLOTS:
 
     void the_last_two_years_enable_their_button_themselves()
     {
-        Form1->panYear.SetCaption(QStringLiteral("2000"));
+        Form1->panYear.SetCaption(u"2000"_s);
         SelectYear();
         Form1->cmdYR(35).SetEnabled(false);
         StepPhotoForward();
         QVERIFY(Form1->cmdYR(35).Enabled());
-        Form1->panYear.SetCaption(QStringLiteral("2001"));
+        Form1->panYear.SetCaption(u"2001"_s);
         SelectYear();
         Form1->cmdYR(1).SetEnabled(false);
         StepPhotoBackward();
@@ -164,15 +164,15 @@ private Q_SLOTS:
     void the_raw_digits_of_2000_and_2001_are_corrected()
     {
         program_->Click(Form1->cmdYR(34));
-        state.YearCode = QStringLiteral("00");
+        state.YearCode = u"00"_s;
         StepPhotoForward();
-        QCOMPARE(state.YearCode, QStringLiteral("A0"));
-        QCOMPARE(Shown(), QStringLiteral("A0B.JPG 2"));
+        QCOMPARE(state.YearCode, u"A0"_s);
+        QCOMPARE(Shown(), u"A0B.JPG 2"_s);
         program_->Click(Form1->cmdYR(35));
-        state.YearCode = QStringLiteral("01");
+        state.YearCode = u"01"_s;
         StepPhotoBackward();
-        QCOMPARE(state.YearCode, QStringLiteral("A1"));
-        QCOMPARE(Shown(), QStringLiteral("A1C.JPG 3"));
+        QCOMPARE(state.YearCode, u"A1"_s);
+        QCOMPARE(Shown(), u"A1C.JPG 3"_s);
     }
 
     void with_nothing_chosen_forward_only_moves_the_focus()
@@ -181,8 +181,8 @@ private Q_SLOTS:
         Form1->cmdYR(20).SetFocus();
         StepPhotoForward();
         QVERIFY(Form1->cmdYR(1).Enabled());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(1)"));
-        QCOMPARE(Shown(), QStringLiteral("67A.JPG 1"));
+        QCOMPARE(Program::Focus(), u"cmdYR(1)"_s);
+        QCOMPARE(Shown(), u"67A.JPG 1"_s);
         QVERIFY(!state.SteppedForward);
     }
 
@@ -190,9 +190,9 @@ private Q_SLOTS:
     {
         StepPhotoForward();
         for (auto* step : {StepPhotoForward, StepPhotoBackward}) {
-            state.YearCode = QStringLiteral("mu");
+            state.YearCode = u"mu"_s;
             step();
-            QCOMPARE(Shown(), QStringLiteral("67B.JPG 2"));
+            QCOMPARE(Shown(), u"67B.JPG 2"_s);
             QCOMPARE(int(state.PhotoIndex), 2);
             QVERIFY(state.SteppedForward);
             QVERIFY(!state.SteppedBackward);
@@ -203,39 +203,39 @@ private Q_SLOTS:
     void the_list_need_not_hold_a_year_in_one_run()
     {
         // Names in between that sort inside the group's range but carry another prefix do not disturb.
-        program_->Disc.AddPhoto(QStringLiteral("67.JPG"));
+        program_->Disc.AddPhoto(u"67.JPG"_s);
         StepPhotoBackward();
         program_->DoubleClick(Form1->panPhoto);
-        QCOMPARE(Shown(), QStringLiteral("67.JPG 1"));
+        QCOMPARE(Shown(), u"67.JPG 1"_s);
     }
 
     void forward_with_a_missing_photo_is_ER012_and_ends_the_step()
     {
-        program_->Disc.Remove(QStringLiteral("Torviks/67B.JPG"));
+        program_->Disc.Remove(u"Torviks/67B.JPG"_s);
         Form1->cmdYR(20).SetFocus();
         StepPhotoForward();
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Error number: ER012\r\n\r\n Unable to load photo.\r\n\r\n"
-                                "Make sure that the Torvik Vollandry is in the CDROM drive."));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(20)"));
-        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
+                 u"Error number: ER012\r\n\r\n Unable to load photo.\r\n\r\n"
+                 "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
+        QCOMPARE(Program::Focus(), u"cmdYR(20)"_s);
+        QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 1);
         StepPhotoForward();
-        QCOMPARE(Shown(), QStringLiteral("67C.JPG 3"));
+        QCOMPARE(Shown(), u"67C.JPG 3"_s);
     }
 
     void backward_with_a_missing_photo_is_ER011_and_the_rest_of_the_step_still_runs()
     {
-        program_->Disc.Remove(QStringLiteral("Torviks/67C.JPG"));
+        program_->Disc.Remove(u"Torviks/67C.JPG"_s);
         Form1->cmdYR(20).SetFocus();
         StepPhotoBackward();
         QCOMPARE(program_->Messages.Count(), 1);
         QVERIFY(program_->Messages.Last().Text.startsWith(
-            QStringLiteral("Error number: ER011\r\n\r\n Unable to load Slide Show photo.")));
+            u"Error number: ER011\r\n\r\n Unable to load Slide Show photo."_s));
         QCOMPARE(int(state.ShownPhotoIndex), 4);
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
-        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
+        QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
     }
 
     void damaged_photos_are_reported_and_the_window_stays_usable_data()
@@ -251,21 +251,21 @@ private Q_SLOTS:
     void damaged_photos_are_reported_and_the_window_stays_usable()
     {
         QFETCH(QByteArray, content);
-        program_->Disc.AddFile(QStringLiteral("Torviks/67B.JPG"), content);
+        program_->Disc.AddFile(u"Torviks/67B.JPG"_s, content);
         program_->Press(Qt::Key_Period);
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER012")));
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("67A.JPG"));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER012"_s));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
         QVERIFY(Form1->Enabled());
         program_->Press(Qt::Key_Period);
-        QCOMPARE(Shown(), QStringLiteral("67C.JPG 3"));
+        QCOMPARE(Shown(), u"67C.JPG 3"_s);
     }
 
     void a_disc_that_vanished_between_two_steps_is_reported()
     {
         program_->PutDiscIn({});
         program_->Press(Qt::Key_Period);
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER012")));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER012"_s));
         program_->PutDiscIn(u'G');
         program_->Messages.Clear();
         program_->Press(Qt::Key_Period);
@@ -274,10 +274,7 @@ private Q_SLOTS:
 
 private:
     /// File and number of the photo on show.
-    static QString Shown()
-    {
-        return Form1->Image4.Picture().FileName() + QStringLiteral(" ") + Form1->panPhoto.Caption();
-    }
+    static QString Shown() { return Form1->Image4.Picture().FileName() + u" "_s + Form1->panPhoto.Caption(); }
 
     std::unique_ptr<Program> program_;
 };

@@ -8,6 +8,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The caption document of the photo on show.
@@ -18,10 +19,10 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 3);
+        program_->Disc.AddGroup(u"67"_s, 3);
         for (const char* letter : {"A", "B", "C"})
-            program_->Disc.AddDocument(QStringLiteral("67%1.rtf").arg(QLatin1String(letter)),
-                                       QStringLiteral("Caption of photo %1").arg(QLatin1String(letter)));
+            program_->Disc.AddDocument(u"67%1.rtf"_s.arg(QLatin1String(letter)),
+                                       u"Caption of photo %1"_s.arg(QLatin1String(letter)));
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -30,8 +31,8 @@ private Q_SLOTS:
     {
         state.PhotoIndex = 2;
         LoadPhotoDetails();
-        QCOMPARE(state.DocumentFile, QStringLiteral("g:\\richtext\\67b.rtf"));
-        QCOMPARE(Form1->rtbDetails.Text().trimmed(), QStringLiteral("Caption of photo B"));
+        QCOMPARE(state.DocumentFile, u"g:\\richtext\\67b.rtf"_s);
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo B"_s);
         QCOMPARE(int(state.PhotoIndex), 2);
     }
 
@@ -40,8 +41,8 @@ private Q_SLOTS:
         state.PhotoIndex = 2;
         state.SteppedForward = true;
         LoadPhotoDetailsBackward();
-        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\RichText\\67C.rtf"));
-        QCOMPARE(Form1->rtbDetails.Text().trimmed(), QStringLiteral("Caption of photo C"));
+        QCOMPARE(state.DocumentFile, u"G:\\RichText\\67C.rtf"_s);
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo C"_s);
         QCOMPARE(int(state.PhotoIndex), 2);
         QVERIFY(!state.SteppedForward);
     }
@@ -59,11 +60,11 @@ private Q_SLOTS:
     {
         Form1->rtbDetails.Show();
         StepPhotoForward();
-        QCOMPARE(Form1->rtbDetails.Text().trimmed(), QStringLiteral("Caption of photo B"));
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo B"_s);
         StepPhotoForward();
-        QCOMPARE(Form1->rtbDetails.Text().trimmed(), QStringLiteral("Caption of photo C"));
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo C"_s);
         StepPhotoBackward();
-        QCOMPARE(Form1->rtbDetails.Text().trimmed(), QStringLiteral("Caption of photo B"));
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo B"_s);
         QVERIFY(Form1->rtbDetails.Visible());
     }
 
@@ -78,38 +79,38 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("forward");
         QTest::addColumn<QString>("code");
-        QTest::newRow("forward") << true << QStringLiteral("ER012");
-        QTest::newRow("backward") << false << QStringLiteral("ER011");
+        QTest::newRow("forward") << true << u"ER012"_s;
+        QTest::newRow("backward") << false << u"ER011"_s;
     }
 
     void a_missing_caption_is_reported_by_the_step()
     {
         QFETCH(bool, forward);
         QFETCH(QString, code);
-        program_->Disc.Remove(QStringLiteral("RichText/67B.rtf"));
-        program_->Disc.Remove(QStringLiteral("RichText/67C.rtf"));
+        program_->Disc.Remove(u"RichText/67B.rtf"_s);
+        program_->Disc.Remove(u"RichText/67C.rtf"_s);
         Form1->rtbDetails.Show();
         if (forward)
             StepPhotoForward();
         else
             StepPhotoBackward();
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ") + code));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code));
     }
 
     void photos_beside_the_program_have_their_captions_there_too()
     {
-        program_->AddToProgramFolder(QStringLiteral("RichText/67a.rtf"), "{\\rtf1 Local caption}");
-        state.PhotoFiles(1) = ProgramFolder() + QStringLiteral("\\Torviks\\67A.JPG");
+        program_->AddToProgramFolder(u"RichText/67a.rtf"_s, "{\\rtf1 Local caption}");
+        state.PhotoFiles(1) = ProgramFolder() + u"\\Torviks\\67A.JPG"_s;
         state.TorviksPathPos = static_cast<int>(ProgramFolder().size()) + 1;
         state.PhotoIndex = 1;
         LoadPhotoDetails();
-        QCOMPARE(Form1->rtbDetails.Text().trimmed(), QStringLiteral("Local caption"));
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Local caption"_s);
     }
 
     void a_point_in_the_folder_name_is_taken_for_the_extension()
     {
-        state.PhotoFiles(1) = QStringLiteral("C:\\v1.0\\Torviks\\67A.JPG");
+        state.PhotoFiles(1) = u"C:\\v1.0\\Torviks\\67A.JPG"_s;
         state.TorviksPathPos = 8;
         state.PhotoIndex = 1;
         QCOMPARE(ResumeNext(LoadPhotoDetails), 5);

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The mouse on the photo: the walk through all that the browser has, and the play list.
@@ -40,23 +41,17 @@ private Q_SLOTS:
         for (int click = 0; click < 34; ++click) {
             const int year = 1968 + click;
             QCOMPARE(titles[click], QString::number(year));
-            const QString prefix =
-                year < 2000 ? QString::number(year - 1900) : QStringLiteral("A%1").arg(year - 2000);
-            QCOMPARE(photos[click], prefix + QStringLiteral("A.JPG"));
-            QCOMPARE(focus[click],
-                     year == 2001 ? QStringLiteral("cmdYR(1)") : QStringLiteral("cmdYR(%1)").arg(click + 3));
+            const QString prefix = year < 2000 ? QString::number(year - 1900) : u"A%1"_s.arg(year - 2000);
+            QCOMPARE(photos[click], prefix + u"A.JPG"_s);
+            QCOMPARE(focus[click], year == 2001 ? u"cmdYR(1)"_s : u"cmdYR(%1)"_s.arg(click + 3));
         }
         QCOMPARE(titles.mid(34),
-                 (QStringList{QStringLiteral("Danbury Mint Die Cast Models "),
-                              QStringLiteral("Franklin Mint Die Cast Models "),
-                              QStringLiteral("Torvik Metal Signs "), QStringLiteral("Torvik Postage Stamps "),
-                              QStringLiteral("1967 "), QStringLiteral("1968")}));
-        QCOMPARE(photos.mid(34), (QStringList{QStringLiteral("TDA.JPG"), QStringLiteral("TFA.JPG"),
-                                              QStringLiteral("VMA.JPG"), QStringLiteral("ZZA.JPG"),
-                                              QStringLiteral("67A.JPG"), QStringLiteral("68A.JPG")}));
-        QCOMPARE(focus.mid(34), (QStringList{QStringLiteral("cmdYR(1)"), QStringLiteral("cmdYR(1)"),
-                                             QStringLiteral("cmdYR(1)"), QStringLiteral("cmdYR(2)"),
-                                             QStringLiteral("cmdYR(2)"), QStringLiteral("cmdYR(3)")}));
+                 (QStringList{u"Danbury Mint Die Cast Models "_s, u"Franklin Mint Die Cast Models "_s,
+                              u"Torvik Metal Signs "_s, u"Torvik Postage Stamps "_s, u"1967 "_s, u"1968"_s}));
+        QCOMPARE(photos.mid(34), (QStringList{u"TDA.JPG"_s, u"TFA.JPG"_s, u"VMA.JPG"_s, u"ZZA.JPG"_s,
+                                              u"67A.JPG"_s, u"68A.JPG"_s}));
+        QCOMPARE(focus.mid(34), (QStringList{u"cmdYR(1)"_s, u"cmdYR(1)"_s, u"cmdYR(1)"_s, u"cmdYR(2)"_s,
+                                             u"cmdYR(2)"_s, u"cmdYR(3)"_s}));
         QVERIFY(program_->Messages.Shown().isEmpty());
     }
 
@@ -65,7 +60,7 @@ private Q_SLOTS:
         program_->Press(Qt::Key_Period);
         program_->Click(Form1->Image4);
         QCOMPARE(int(state.PhotoIndex), 0);
-        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
+        QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
         QVERIFY(!state.SteppedForward);
         QVERIFY(!state.SteppedBackward);
         QVERIFY(state.YearChosen);
@@ -84,10 +79,10 @@ private Q_SLOTS:
     void from_a_topic_outside_the_walk_it_goes_to_1967()
     {
         Form1->mnuSpecialty(0).Click.Fire();
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("The Classic Harwell "));
+        QCOMPARE(Form1->panYear.Caption(), u"The Classic Harwell "_s);
         program_->Click(Form1->Image4);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
     }
 
     void in_2001_the_current_button_stays_35_through_three_topics()
@@ -104,7 +99,7 @@ private Q_SLOTS:
     void the_middle_button_walks_as_the_left_one_does()
     {
         program_->Click(Form1->Image4, Qt::MiddleButton);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1968"));
+        QCOMPARE(Form1->panYear.Caption(), u"1968"_s);
     }
 
     void quick_clicks_count_each()
@@ -112,21 +107,21 @@ private Q_SLOTS:
         QTest::mouseClick(&Form1->Image4.Widget(), Qt::LeftButton);
         QTest::mouseDClick(&Form1->Image4.Widget(), Qt::LeftButton);
         program_->Settle();
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1969"));
+        QCOMPARE(Form1->panYear.Caption(), u"1969"_s);
     }
 
     void the_right_button_makes_the_folder_and_opens_the_play_list()
     {
         program_->Click(Form1->Image4, Qt::RightButton);
-        QVERIFY(QFileInfo(program_->InProgramFolder(QStringLiteral("ssTorviks"))).isDir());
+        QVERIFY(QFileInfo(program_->InProgramFolder(u"ssTorviks"_s)).isDir());
         QVERIFY(frmSSPhoto->Visible());
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
         QVERIFY(!state.YearChosen);
     }
 
     void a_folder_that_exists_already_causes_no_message()
     {
-        program_->AddToProgramFolder(QStringLiteral("ssTorviks/67A.JPG"), "x");
+        program_->AddToProgramFolder(u"ssTorviks/67A.JPG"_s, "x");
         program_->Click(Form1->Image4, Qt::RightButton);
         QVERIFY(program_->Messages.Shown().isEmpty());
         QVERIFY(frmSSPhoto->Visible());

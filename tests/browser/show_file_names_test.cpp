@@ -4,6 +4,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Showing and hiding the file name of the photo.
@@ -14,7 +15,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 3);
+        program_->Disc.AddGroup(u"67"_s, 3);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -24,9 +25,9 @@ private Q_SLOTS:
         state.TorviksPathPos = 0;
         Form1->mnuNames.Click.Fire();
         QVERIFY(state.ShowFileNames);
-        QCOMPARE(Form1->mnuNames.Caption(), QStringLiteral("Hide File &Names"));
+        QCOMPARE(Form1->mnuNames.Caption(), u"Hide File &Names"_s);
         QVERIFY(Form1->txtFile.Visible());
-        QCOMPARE(Form1->txtFile.Text(), QStringLiteral("67A.JPG"));
+        QCOMPARE(Form1->txtFile.Text(), u"67A.JPG"_s);
         QCOMPARE(int(state.TorviksPathPos), 3);
     }
 
@@ -34,9 +35,9 @@ private Q_SLOTS:
     {
         Form1->mnuNames.Click.Fire();
         program_->Press(Qt::Key_Period);
-        QCOMPARE(Form1->txtFile.Text(), QStringLiteral("67B.JPG"));
+        QCOMPARE(Form1->txtFile.Text(), u"67B.JPG"_s);
         program_->Press(Qt::Key_Comma);
-        QCOMPARE(Form1->txtFile.Text(), QStringLiteral("67A.JPG"));
+        QCOMPARE(Form1->txtFile.Text(), u"67A.JPG"_s);
     }
 
     void the_entry_hides_it_again()
@@ -44,7 +45,7 @@ private Q_SLOTS:
         Form1->mnuNames.Click.Fire();
         Form1->mnuNames.Click.Fire();
         QVERIFY(!state.ShowFileNames);
-        QCOMPARE(Form1->mnuNames.Caption(), QStringLiteral("Show File &Names"));
+        QCOMPARE(Form1->mnuNames.Caption(), u"Show File &Names"_s);
         QVERIFY(!Form1->txtFile.Visible());
     }
 
@@ -53,7 +54,7 @@ private Q_SLOTS:
         Form1->mnuNames.Click.Fire();
         program_->Click(Form1->txtFile);
         QVERIFY(!state.ShowFileNames);
-        QCOMPARE(Form1->mnuNames.Caption(), QStringLiteral("Show File &Names"));
+        QCOMPARE(Form1->mnuNames.Caption(), u"Show File &Names"_s);
         QVERIFY(!Form1->txtFile.Visible());
     }
 
@@ -63,7 +64,7 @@ private Q_SLOTS:
         Form1->mnuNames.Click.Fire();
         QVERIFY(!state.ShowFileNames);
         QVERIFY(!Form1->txtFile.Visible());
-        QCOMPARE(Form1->mnuNames.Caption(), QStringLiteral("Show File &Names"));
+        QCOMPARE(Form1->mnuNames.Caption(), u"Show File &Names"_s);
     }
 
     void the_name_lies_in_front()

@@ -4,6 +4,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The year bar by mouse and keyboard.
@@ -14,8 +15,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        for (const QString& prefix : {QStringLiteral("67"), QStringLiteral("68"), QStringLiteral("69"),
-                                      QStringLiteral("70"), QStringLiteral("A0"), QStringLiteral("A1")})
+        for (const QString& prefix : {u"67"_s, u"68"_s, u"69"_s, u"70"_s, u"A0"_s, u"A1"_s})
             program_->Disc.AddGroup(prefix, 3);
         program_->StartBrowsing();
     }
@@ -24,10 +24,10 @@ private Q_SLOTS:
     void a_click_selects_the_year_and_moves_the_focus_on()
     {
         program_->Click(Form1->cmdYR(3));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1969"));
-        QCOMPARE(state.YearCode, QStringLiteral("69"));
-        QCOMPARE(state.CurrentPhotoFile, QStringLiteral("G:\\Torviks\\69A.JPG"));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        QCOMPARE(Form1->panYear.Caption(), u"1969"_s);
+        QCOMPARE(state.YearCode, u"69"_s);
+        QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\69A.JPG"_s);
+        QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
         QCOMPARE(int(state.CurrentYearButton), 3);
         QCOMPARE(int(state.PhotoIndex), 0);
         QVERIFY(program_->Messages.Shown().isEmpty());
@@ -36,23 +36,23 @@ private Q_SLOTS:
     void the_last_button_goes_round_to_the_first()
     {
         program_->Click(Form1->cmdYR(35));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("2001"));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(1)"));
+        QCOMPARE(Form1->panYear.Caption(), u"2001"_s);
+        QCOMPARE(Program::Focus(), u"cmdYR(1)"_s);
     }
 
     void the_button_of_2000_selects_the_code_A0()
     {
         program_->Click(Form1->cmdYR(34));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("2000"));
-        QCOMPARE(state.YearCode, QStringLiteral("A0"));
+        QCOMPARE(Form1->panYear.Caption(), u"2000"_s);
+        QCOMPARE(state.YearCode, u"A0"_s);
     }
 
     void the_first_space_bar_takes_the_year_from_the_path_position()
     {
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
         program_->Press(Qt::Key_Space);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1969"));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(3)"));
+        QCOMPARE(Form1->panYear.Caption(), u"1969"_s);
+        QCOMPARE(Program::Focus(), u"cmdYR(3)"_s);
         QCOMPARE(int(state.CurrentYearButton), 2);
         QVERIFY(state.YearChosen);
     }
@@ -61,18 +61,18 @@ private Q_SLOTS:
     {
         program_->Press(Qt::Key_Space);
         program_->Press(Qt::Key_Space);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1969"));
+        QCOMPARE(Form1->panYear.Caption(), u"1969"_s);
         QCOMPARE(int(state.CurrentYearButton), 3);
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
     }
 
     void a_click_from_a_topic_returns_to_a_year()
     {
         Form1->mnuSpecialty(1).Click.Fire();
-        Form1->cmdStats.SetCaption(QStringLiteral("Details"));
+        Form1->cmdStats.SetCaption(u"Details"_s);
         program_->Click(Form1->cmdYR(2));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1968"));
-        QCOMPARE(Form1->cmdStats.Caption(), QStringLiteral("Details"));
+        QCOMPARE(Form1->panYear.Caption(), u"1968"_s);
+        QCOMPARE(Form1->cmdStats.Caption(), u"Details"_s);
         for (const Button* button :
              {&Form1->cmdDesc, &Form1->cmdOptions, &Form1->cmdStats, &Form1->cmdColors, &Form1->cmdScript,
               &Form1->cmdEmblem, &Form1->cmdClipArt, &Form1->cmdAd, &Form1->cmdNostalgia})
@@ -92,7 +92,7 @@ private Q_SLOTS:
         Form1->cmdYR(index).SetEnabled(true);
         program_->Click(Form1->cmdYR(index));
         QCOMPARE(Form1->panYear.Caption(), QString::number(1966 + index));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(%1)").arg(index == 35 ? 1 : index + 1));
+        QCOMPARE(Program::Focus(), u"cmdYR(%1)"_s.arg(index == 35 ? 1 : index + 1));
         QCOMPARE(int(state.CurrentYearButton), index);
     }
 
@@ -100,7 +100,7 @@ private Q_SLOTS:
     {
         program_->Click(Form1->cmdYR(10));
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(11)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(11)"_s);
         QVERIFY(!Form1->Image4.Visible());
     }
 
@@ -108,14 +108,14 @@ private Q_SLOTS:
     {
         state.TorviksPathPos = 0;
         program_->Press(Qt::Key_Space);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
     }
 
     void after_a_click_the_space_bar_only_clicks()
     {
         program_->Click(Form1->cmdYR(2));
         program_->Press(Qt::Key_Space);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1969"));
+        QCOMPARE(Form1->panYear.Caption(), u"1969"_s);
         QCOMPARE(int(state.CurrentYearButton), 3);
     }
 
@@ -123,17 +123,17 @@ private Q_SLOTS:
     {
         for (const Qt::Key key : {Qt::Key_A, Qt::Key_5, Qt::Key_Slash, Qt::Key_Semicolon})
             program_->Press(key);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
-        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
+        QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
         QVERIFY(!state.YearChosen);
     }
 
     void comma_and_period_step_the_photos()
     {
         program_->Press(Qt::Key_Period);
-        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("2"));
+        QCOMPARE(Form1->panPhoto.Caption(), u"2"_s);
         program_->Press(Qt::Key_Comma);
-        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
+        QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
     }
 
 private:

@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// What a reader does with the text of the viewer.
@@ -21,14 +22,14 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         QString lines;
         for (int number = 1; number <= 200; ++number)
-            lines += QStringLiteral("Line %1\\par\n").arg(number);
-        program_->Disc.AddDocument(QStringLiteral("long.rtf"), lines);
-        program_->Disc.AddDocument(QStringLiteral("other.rtf"), lines + QStringLiteral("Other"));
+            lines += u"Line %1\\par\n"_s.arg(number);
+        program_->Disc.AddDocument(u"long.rtf"_s, lines);
+        program_->Disc.AddDocument(u"other.rtf"_s, lines + u"Other"_s);
         program_->StartBrowsing();
-        txtForm->rtbText.SetFileName(QStringLiteral("G:\\RichText\\long.rtf"));
+        txtForm->rtbText.SetFileName(u"G:\\RichText\\long.rtf"_s);
         txtForm->Show();
         program_->Settle();
         txtForm->rtbText.SetFocus();
@@ -42,8 +43,8 @@ private Q_SLOTS:
         QTest::keyClick(pane_, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(pane_, Qt::Key_C, Qt::ControlModifier);
         const QString copied = QGuiApplication::clipboard()->text();
-        QVERIFY(copied.startsWith(QStringLiteral("Line 1\nLine 2\n")));
-        QVERIFY(copied.contains(QStringLiteral("Line 200")));
+        QVERIFY(copied.startsWith(u"Line 1\nLine 2\n"_s));
+        QVERIFY(copied.contains(u"Line 200"_s));
     }
 
     void a_part_is_selected_by_dragging()
@@ -53,8 +54,8 @@ private Q_SLOTS:
         QTest::mouseRelease(pane_->viewport(), Qt::LeftButton, {}, {300, 60});
         QTest::keyClick(pane_, Qt::Key_C, Qt::ControlModifier);
         const QString copied = QGuiApplication::clipboard()->text();
-        QVERIFY2(copied.startsWith(QStringLiteral("Line 1\nLine 2")), qPrintable(copied));
-        QVERIFY(!copied.contains(QStringLiteral("Line 20")));
+        QVERIFY2(copied.startsWith(u"Line 1\nLine 2"_s), qPrintable(copied));
+        QVERIFY(!copied.contains(u"Line 20"_s));
         QVERIFY(txtForm.IsLoaded());
     }
 
@@ -98,10 +99,10 @@ private Q_SLOTS:
     {
         program_->Press(Qt::Key_End);
         QVERIFY(Top() > 0);
-        txtForm->rtbText.SetFileName(QStringLiteral("G:\\RichText\\other.rtf"));
+        txtForm->rtbText.SetFileName(u"G:\\RichText\\other.rtf"_s);
         program_->Settle();
         QCOMPARE(Top(), 0);
-        QVERIFY(txtForm->rtbText.Text().endsWith(QStringLiteral("Other")));
+        QVERIFY(txtForm->rtbText.Text().endsWith(u"Other"_s));
     }
 
     void a_screen_reader_gets_the_text()
@@ -110,7 +111,7 @@ private Q_SLOTS:
         QVERIFY(interface != nullptr);
         QAccessibleTextInterface* text = interface->textInterface();
         QVERIFY(text != nullptr);
-        QVERIFY(text->text(0, text->characterCount()).startsWith(QStringLiteral("Line 1\nLine 2")));
+        QVERIFY(text->text(0, text->characterCount()).startsWith(u"Line 1\nLine 2"_s));
         QVERIFY(interface->state().readOnly);
         QVERIFY(interface->state().focusable);
     }

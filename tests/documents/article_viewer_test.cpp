@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The document viewer: how it comes up, its buttons, and how it goes.
@@ -24,19 +25,19 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        for (const QString& prefix : {QStringLiteral("67"), QStringLiteral("69"), QStringLiteral("A1")})
+        for (const QString& prefix : {u"67"_s, u"69"_s, u"A1"_s})
             program_->Disc.AddGroup(prefix, 2);
-        program_->Disc.AddDocument(QStringLiteral("some.rtf"), QStringLiteral("Some words about a car."));
+        program_->Disc.AddDocument(u"some.rtf"_s, u"Some words about a car."_s);
         program_->StartBrowsing();
-        state.DocumentFile = QStringLiteral("G:\\RichText\\some.rtf");
-        state.DocumentTitle = QStringLiteral("A title of its own");
+        state.DocumentFile = u"G:\\RichText\\some.rtf"_s;
+        state.DocumentTitle = u"A title of its own"_s;
     }
     void cleanup() { program_.reset(); }
 
     void loading_takes_the_title_and_centres_the_window()
     {
         txtForm.LoadForm();
-        QCOMPARE(txtForm->Caption(), QStringLiteral("A title of its own"));
+        QCOMPARE(txtForm->Caption(), u"A title of its own"_s);
         QCOMPARE(txtForm->Left(), (Screen.Width() - txtForm->Width()) / 2);
         QCOMPARE(txtForm->Top(), (Screen.Height() - txtForm->Height()) / 2);
         QCOMPARE(txtForm->Left(), 2017.5);
@@ -66,16 +67,16 @@ private Q_SLOTS:
         QCOMPARE(txtForm->SSCommand1.Left(), 120.0);
         QCOMPARE(txtForm->SSCommand1.Top(), 6360.0);
         QCOMPARE(txtForm->SSCommand1.Height(), 375.0);
-        QCOMPARE(txtForm->SSCommand1.Caption(), QStringLiteral("OK"));
+        QCOMPARE(txtForm->SSCommand1.Caption(), u"OK"_s);
     }
 
     void picture_buttons_have_no_caption_and_say_what_they_do()
     {
         txtForm.LoadForm();
         const QList<QPair<Button*, QString>> expected{
-            {&txtForm->cmdPrint, QStringLiteral("Print")},
-            {&txtForm->SSCommand2, QStringLiteral("Play the narration")},
-            {&txtForm->SSCommand3, QStringLiteral("Stop the narration")},
+            {&txtForm->cmdPrint, u"Print"_s},
+            {&txtForm->SSCommand2, u"Play the narration"_s},
+            {&txtForm->SSCommand3, u"Stop the narration"_s},
         };
         for (const auto& [button, spoken] : expected) {
             QCOMPARE(button->Caption(), QString());
@@ -96,9 +97,8 @@ private Q_SLOTS:
                 order.append(widget->objectName());
             widget = widget->nextInFocusChain();
         } while (widget != first);
-        QCOMPARE(order, QStringList({QStringLiteral("rtbText"), QStringLiteral("SSCommand1"),
-                                     QStringLiteral("cmdPrint"), QStringLiteral("SSCommand2"),
-                                     QStringLiteral("SSCommand3")}));
+        QCOMPARE(order, QStringList({u"rtbText"_s, u"SSCommand1"_s, u"cmdPrint"_s, u"SSCommand2"_s,
+                                     u"SSCommand3"_s}));
     }
 
     void opening_shows_the_document_over_the_main_window_with_the_focus_on_ok()
@@ -110,17 +110,17 @@ private Q_SLOTS:
             modal = QApplication::activeModalWidget() == txtForm->rtbText.Widget().window();
         });
         QVERIFY(viewed.Came);
-        QCOMPARE(viewed.Caption, QStringLiteral("A title of its own"));
-        QCOMPARE(viewed.File, QStringLiteral("G:\\RichText\\some.rtf"));
-        QCOMPARE(viewed.Text, QStringLiteral("Some words about a car."));
-        QCOMPARE(focus, QStringLiteral("SSCommand1"));
+        QCOMPARE(viewed.Caption, u"A title of its own"_s);
+        QCOMPARE(viewed.File, u"G:\\RichText\\some.rtf"_s);
+        QCOMPARE(viewed.Text, u"Some words about a car."_s);
+        QCOMPARE(focus, u"SSCommand1"_s);
         QVERIFY(modal);
         QVERIFY(!txtForm.IsLoaded());
     }
 
     void a_missing_document_fails_in_the_caller_and_leaves_the_viewer_loaded_and_hidden()
     {
-        state.DocumentFile = QStringLiteral("G:\\RichText\\none.rtf");
+        state.DocumentFile = u"G:\\RichText\\none.rtf"_s;
         QCOMPARE(ResumeNext([] { OpenViewer(); }), failure::fileNotFound);
         QVERIFY(txtForm.IsLoaded());
         QVERIFY(!txtForm->Visible());
@@ -215,18 +215,18 @@ private Q_SLOTS:
         const PrintFolder printed;
         bool open = false;
         Open([&] {
-            txtForm->SetCaption(QStringLiteral("What the window says"));
+            txtForm->SetCaption(u"What the window says"_s);
             program_->Messages.Answer(msgbox::answerNo);
             program_->Click(txtForm->cmdPrint);
             open = txtForm.IsLoaded() && txtForm->Visible();
         });
         QCOMPARE(program_->Messages.Count(), 1);
         const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, QStringLiteral("Would you like to print the \r\n\r\nWhat the window says?"));
+        QCOMPARE(box.Text, u"Would you like to print the \r\n\r\nWhat the window says?"_s);
         QCOMPARE(box.Style, 36);
-        QCOMPARE(box.Title, QStringLiteral("The Torvik Vollandry"));
+        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
         QCOMPARE(state.MessageText, box.Text);
-        QCOMPARE(state.MessageAnswer, QStringLiteral("7"));
+        QCOMPARE(state.MessageAnswer, u"7"_s);
         QVERIFY(open);
         QVERIFY(printed.Files().isEmpty());
     }
@@ -241,15 +241,15 @@ private Q_SLOTS:
             open = txtForm.IsLoaded() && txtForm->Visible();
         });
         QVERIFY(open);
-        QCOMPARE(state.MessageAnswer, QStringLiteral("6"));
+        QCOMPARE(state.MessageAnswer, u"6"_s);
         QCOMPARE(program_->Messages.Count(), 2);
         const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, QStringLiteral("Printing complete!"));
+        QCOMPARE(box.Text, u"Printing complete!"_s);
         QCOMPARE(box.Style, 48);
-        QCOMPARE(box.Title, QStringLiteral("The Torvik Vollandry"));
-        QCOMPARE(printed.Files(), QStringList(QStringLiteral("job-1.pdf")));
+        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
+        QCOMPARE(printed.Files(), QStringList(u"job-1.pdf"_s));
         QCOMPARE(printed.Pages(1).size(), 1);
-        QCOMPARE(printed.Pages(1).first().simplified(), QStringLiteral("Some words about a car."));
+        QCOMPARE(printed.Pages(1).first().simplified(), u"Some words about a car."_s);
         const QRectF ink = InkOf(printed.Image(1, 1));
         QVERIFY2(ink.left() >= 1420 && ink.left() < 1500, qPrintable(QString::number(ink.left())));
         QVERIFY2(ink.top() >= 1420 && ink.top() < 1600, qPrintable(QString::number(ink.top())));
@@ -258,7 +258,7 @@ private Q_SLOTS:
 
     void a_printer_that_fails_ends_the_program_with_the_run_time_error()
     {
-        Printer.PrintTo(QStringLiteral("/proc/nothing/here"));
+        Printer.PrintTo(u"/proc/nothing/here"_s);
         const ModalVisit visit(
             [&] {
                 program_->Settle();
@@ -275,8 +275,7 @@ private Q_SLOTS:
         Printer.PrintTo({});
         QVERIFY(visit.Ran());
         QVERIFY(ended);
-        QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Run-time error '482':\r\n\r\nPrinter error"));
+        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '482':\r\n\r\nPrinter error"_s);
         QCOMPARE(program_->Messages.Count(),
                  2); // the question and the failure; nothing is said to be complete
     }
@@ -302,7 +301,7 @@ private:
 
     static QWidget* Pane()
     {
-        return txtForm->rtbText.Widget().findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"));
+        return txtForm->rtbText.Widget().findChild<QWidget*>(u"qt_scrollarea_viewport"_s);
     }
 
     static void CheckPlace(const Control& control, const Twips& place)
@@ -327,11 +326,11 @@ private:
     {
         QTest::addColumn<int>("button");
         QTest::addColumn<QString>("focus");
-        QTest::newRow("1967") << 1 << QStringLiteral("cmdYR(2)");
-        QTest::newRow("1969") << 3 << QStringLiteral("cmdYR(4)");
-        QTest::newRow("2000") << 34 << QStringLiteral("cmdYR(35)");
-        QTest::newRow("from the last year round to the first") << 35 << QStringLiteral("cmdYR(1)");
-        QTest::newRow("a topic") << 0 << QStringLiteral("cmdYR(1)");
+        QTest::newRow("1967") << 1 << u"cmdYR(2)"_s;
+        QTest::newRow("1969") << 3 << u"cmdYR(4)"_s;
+        QTest::newRow("2000") << 34 << u"cmdYR(35)"_s;
+        QTest::newRow("from the last year round to the first") << 35 << u"cmdYR(1)"_s;
+        QTest::newRow("a topic") << 0 << u"cmdYR(1)"_s;
     }
 
     std::unique_ptr<Program> program_;

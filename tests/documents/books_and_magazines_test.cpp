@@ -9,13 +9,14 @@
 #include <QAction>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 enum Way { Stored, Late, Before, After };
 
-const QString earlier = QStringLiteral("The title that was stored before");
+const QString earlier = u"The title that was stored before"_s;
 
 } // namespace
 
@@ -27,7 +28,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
+        program_->Disc.AddGroup(u"67"_s, 2);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -40,19 +41,19 @@ private Q_SLOTS:
         QFETCH(QString, path);
         QFETCH(QString, title);
         QFETCH(int, way);
-        program_->Disc.AddDocument(FileOf(path), QStringLiteral("Text of ") + FileOf(path));
+        program_->Disc.AddDocument(FileOf(path), u"Text of "_s + FileOf(path));
         state.DocumentTitle = earlier;
         QCOMPARE(ActionOf(entry)->text(), menu);
 
         const Viewed viewed = Open(entry);
         QVERIFY2(viewed.Came, qPrintable(program_->Messages.Last().Text));
-        QCOMPARE(viewed.File, QStringLiteral("G:") + path);
+        QCOMPARE(viewed.File, u"G:"_s + path);
         QCOMPARE(state.DocumentFile, viewed.File);
-        QCOMPARE(viewed.Text, QStringLiteral("Text of ") + FileOf(path));
+        QCOMPARE(viewed.Text, u"Text of "_s + FileOf(path));
         QCOMPARE(viewed.Caption, way == Late ? earlier : title);
         QCOMPARE(state.DocumentTitle, way == Before || way == After ? earlier : title);
         QVERIFY(program_->Messages.Shown().isEmpty());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
     }
 
     void a_missing_document_is_reported_under_the_code_of_its_entry_data() { Rows(); }
@@ -66,13 +67,12 @@ private Q_SLOTS:
         Form1->cmdDesc.SetFocus();
         QVERIFY(!Open(entry).Came);
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY2(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ") + code +
-                                                           QStringLiteral("\r")),
+        QVERIFY2(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code + u"\r"_s),
                  qPrintable(program_->Messages.Last().Text));
         QCOMPARE(state.ErrorCode, code);
         QVERIFY(txtForm.IsLoaded());
         QVERIFY(!txtForm->Visible());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdDesc"));
+        QCOMPARE(Program::Focus(), u"cmdDesc"_s);
         // What comes behind the file has not happened; what comes before it has.
         QCOMPARE(state.DocumentTitle, way == Stored ? title : earlier);
         QCOMPARE(txtForm->Caption(), way == Stored || way == Before ? title : earlier);
@@ -80,10 +80,10 @@ private Q_SLOTS:
 
     void before_the_failure_no_code_is_set()
     {
-        program_->Disc.AddDocument(QStringLiteral("books.rtf"), QStringLiteral("Books"));
-        state.ErrorCode = QStringLiteral("ER999");
-        QVERIFY(Open(QStringLiteral("mnuBooks")).Came);
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER999"));
+        program_->Disc.AddDocument(u"books.rtf"_s, u"Books"_s);
+        state.ErrorCode = u"ER999"_s;
+        QVERIFY(Open(u"mnuBooks"_s).Came);
+        QCOMPARE(state.ErrorCode, u"ER999"_s);
     }
 
     void the_introduction_leaves_the_buttons_as_the_load_made_them_and_the_others_settle_them_data()
@@ -111,59 +111,53 @@ private Q_SLOTS:
             [] { txtForm.Unload(); });
         ActionOf(entry)->trigger();
         QVERIFY(visit.Ran());
-        const bool untouched = entry == QStringLiteral("mnuIntro");
+        const bool untouched = entry == u"mnuIntro"_s;
         QCOMPARE(states, QList<bool>(4, untouched));
         QCOMPARE(width, untouched ? 100.0 : 7316.0);
     }
 
     void after_credits_whats_new_bears_the_last_stored_title()
     {
-        AddAll({QStringLiteral("books.rtf"), QStringLiteral("credits.rtf"), QStringLiteral("whatsnew.rtf")});
-        Open(QStringLiteral("mnuBooks"));
-        QCOMPARE(Open(QStringLiteral("mnuCredits")).Caption,
-                 QStringLiteral("The Torvik Vollandry       Credits"));
-        const Viewed whatsNew = Open(QStringLiteral("mnuWhatsNew"));
-        QCOMPARE(whatsNew.Text, QStringLiteral("whatsnew.rtf"));
-        QCOMPARE(whatsNew.Caption, QStringLiteral("The Torvik Vollandry       Books"));
+        AddAll({u"books.rtf"_s, u"credits.rtf"_s, u"whatsnew.rtf"_s});
+        Open(u"mnuBooks"_s);
+        QCOMPARE(Open(u"mnuCredits"_s).Caption, u"The Torvik Vollandry       Credits"_s);
+        const Viewed whatsNew = Open(u"mnuWhatsNew"_s);
+        QCOMPARE(whatsNew.Text, u"whatsnew.rtf"_s);
+        QCOMPARE(whatsNew.Caption, u"The Torvik Vollandry       Books"_s);
     }
 
     void whats_new_as_the_first_document_has_no_title()
     {
-        AddAll({QStringLiteral("whatsnew.rtf")});
-        QCOMPARE(Open(QStringLiteral("mnuWhatsNew")).Caption, QString());
-        QCOMPARE(Open(QStringLiteral("mnuWhatsNew")).Caption,
-                 QStringLiteral("The Torvik Vollandry       What's New"));
+        AddAll({u"whatsnew.rtf"_s});
+        QCOMPARE(Open(u"mnuWhatsNew"_s).Caption, QString());
+        QCOMPARE(Open(u"mnuWhatsNew"_s).Caption, u"The Torvik Vollandry       What's New"_s);
     }
 
     void a_magazine_after_the_books_bears_their_title_and_the_next_late_entry_its_own()
     {
-        AddAll({QStringLiteral("books.rtf"), QStringLiteral("magmi.rtf"), QStringLiteral("PRIntro.rtf")});
-        Open(QStringLiteral("mnuBooks"));
-        QCOMPARE(Open(QStringLiteral("mnuMag(1)")).Caption,
-                 QStringLiteral("The Torvik Vollandry       Books"));
-        QCOMPARE(Open(QStringLiteral("mnuPR(1)")).Caption,
-                 QStringLiteral("The Torvik Vollandry       Magazines"));
+        AddAll({u"books.rtf"_s, u"magmi.rtf"_s, u"PRIntro.rtf"_s});
+        Open(u"mnuBooks"_s);
+        QCOMPARE(Open(u"mnuMag(1)"_s).Caption, u"The Torvik Vollandry       Books"_s);
+        QCOMPARE(Open(u"mnuPR(1)"_s).Caption, u"The Torvik Vollandry       Magazines"_s);
     }
 
     void the_print_question_quotes_a_stale_title_too()
     {
-        AddAll({QStringLiteral("books.rtf"), QStringLiteral("magmi.rtf")});
-        Open(QStringLiteral("mnuBooks"));
+        AddAll({u"books.rtf"_s, u"magmi.rtf"_s});
+        Open(u"mnuBooks"_s);
         const ModalVisit visit([&] { program_->Click(txtForm->cmdPrint); }, [] { txtForm.Unload(); });
-        ActionOf(QStringLiteral("mnuMag(1)"))->trigger();
+        ActionOf(u"mnuMag(1)"_s)->trigger();
         QVERIFY(visit.Ran());
         QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Would you like to print the \r\n\r\nThe Torvik Vollandry       Books?"));
+                 u"Would you like to print the \r\n\r\nThe Torvik Vollandry       Books?"_s);
     }
 
     void a_stored_title_comes_too_late_for_a_viewer_that_a_failure_left_loaded()
     {
-        AddAll({QStringLiteral("catalogs.rtf")});
-        Open(QStringLiteral("mnuBooks")); // is not there
-        QCOMPARE(Open(QStringLiteral("mnuCatalogs")).Caption,
-                 QStringLiteral("The Torvik Vollandry       Books"));
-        QCOMPARE(Open(QStringLiteral("mnuCatalogs")).Caption,
-                 QStringLiteral("The Torvik Vollandry       Catalogs"));
+        AddAll({u"catalogs.rtf"_s});
+        Open(u"mnuBooks"_s); // is not there
+        QCOMPARE(Open(u"mnuCatalogs"_s).Caption, u"The Torvik Vollandry       Books"_s);
+        QCOMPARE(Open(u"mnuCatalogs"_s).Caption, u"The Torvik Vollandry       Catalogs"_s);
     }
 
     void an_index_that_no_entry_has_opens_what_was_open_before_data()
@@ -176,10 +170,10 @@ private Q_SLOTS:
     void an_index_that_no_entry_has_opens_what_was_open_before()
     {
         QFETCH(int, index);
-        AddAll({QStringLiteral("books.rtf")});
+        AddAll({u"books.rtf"_s});
         for (const auto show : {ShowMagazine, ShowPressRelease, ShowMiscellaneous}) {
-            Open(QStringLiteral("mnuBooks"));
-            QCOMPARE(ViewerOf(*program_, [&] { show(index); }).Text, QStringLiteral("books.rtf"));
+            Open(u"mnuBooks"_s);
+            QCOMPARE(ViewerOf(*program_, [&] { show(index); }).Text, u"books.rtf"_s);
         }
     }
 
@@ -190,11 +184,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("code");
         QTest::newRow("guide of the sibling")
-            << true << QStringLiteral("\\RichText\\idsellark.rtf")
-            << QStringLiteral("The Torvik Vollandry       Identification Guide") << QStringLiteral("ER050");
-        QTest::newRow("engines") << false << QStringLiteral("\\RichText\\ENGINES.rtf")
-                                 << QStringLiteral("The Torvik Vollandry       Torvik Engines")
-                                 << QStringLiteral("ER006");
+            << true << u"\\RichText\\idsellark.rtf"_s << u"The Torvik Vollandry       Identification Guide"_s
+            << u"ER050"_s;
+        QTest::newRow("engines") << false << u"\\RichText\\ENGINES.rtf"_s
+                                 << u"The Torvik Vollandry       Torvik Engines"_s << u"ER006"_s;
     }
     void two_documents_without_an_entry_can_be_opened()
     {
@@ -210,7 +203,7 @@ private Q_SLOTS:
 
         program_->Disc.AddDocument(FileOf(path), FileOf(path));
         const Viewed viewed = ViewerOf(*program_, show);
-        QCOMPARE(viewed.File, QStringLiteral("G:") + path);
+        QCOMPARE(viewed.File, u"G:"_s + path);
         QCOMPARE(viewed.Caption, title);
         QCOMPARE(state.DocumentTitle, title);
     }

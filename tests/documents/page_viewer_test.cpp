@@ -8,6 +8,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -24,7 +25,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -57,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(RectOf(frmScroll->HScroll1), QRectF(0, 600 - bar, 800 - bar, bar));
         QCOMPARE(RectOf(frmScroll->VScroll1), QRectF(800 - bar, 0, bar, 600 - bar));
         QCOMPARE(RectOf(frmScroll->SSCommand1), QRectF(800 - bar, 600 - bar, bar, bar));
-        QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+        QCOMPARE(Program::Focus(), u"SSCommand1"_s);
     }
 
     void a_new_size_lays_everything_out_anew_data() { Screens(); }
@@ -150,8 +151,8 @@ private Q_SLOTS:
     void a_range_above_32767_overflows_and_the_bar_keeps_the_one_it_had()
     {
         OpenPage({1240, 700});
-        program_->Disc.AddFile(QStringLiteral("ads/67brto00.jpg"), TestDisc::Jpeg(Qt::blue, {33600, 900}));
-        frmScroll->picChild.Load(QStringLiteral("G:\\ads\\67brto00.jpg"));
+        program_->Disc.AddFile(u"ads/67brto00.jpg"_s, TestDisc::Jpeg(Qt::blue, {33600, 900}));
+        frmScroll->picChild.Load(u"G:\\ads\\67brto00.jpg"_s);
         frmScroll->SetWidth(801 * 15);
         QCOMPARE(frmScroll->HScroll1.Max(), 1240 - 783);
         QVERIFY(frmScroll->HScroll1.Enabled());
@@ -183,7 +184,7 @@ private Q_SLOTS:
         frmScroll.LoadForm();
         QCOMPARE(ResumeNext([] { frmScroll->SetWidth(600 * 15); }), 0);
         QCOMPARE(RectOf(frmScroll->SSCommand1).left(), 600.0 - bar);
-        QVERIFY(Program::Focus().startsWith(QStringLiteral("cmdYR")));
+        QVERIFY(Program::Focus().startsWith(u"cmdYR"_s));
     }
 
     void the_bars_move_the_page()
@@ -205,7 +206,7 @@ private Q_SLOTS:
         QCOMPARE(frmScroll->picChild.Widget().pos(), QPoint(-40, -40));
         program_->Press(Qt::Key_End);
         QCOMPARE(frmScroll->VScroll1.Value(), 2080 - 583);
-        QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+        QCOMPARE(Program::Focus(), u"SSCommand1"_s);
     }
 
     void a_left_click_turns_between_the_views()
@@ -234,14 +235,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<bool>("landscape");
-        const QStringList across = {QStringLiteral("1979"), QStringLiteral("1980"), QStringLiteral("1986"),
-                                    QStringLiteral("1987"), QStringLiteral("1990"), QStringLiteral("1992"),
-                                    QStringLiteral("1993"), QStringLiteral("1994"), QStringLiteral("1995"),
-                                    QStringLiteral("1996")};
+        const QStringList across = {u"1979"_s, u"1980"_s, u"1986"_s, u"1987"_s, u"1990"_s,
+                                    u"1992"_s, u"1993"_s, u"1994"_s, u"1995"_s, u"1996"_s};
         for (int year = 1967; year <= 2001; ++year)
             QTest::addRow("%d", year) << QString::number(year) << across.contains(QString::number(year));
-        QTest::newRow("a trailing blank") << QStringLiteral("1987 ") << false;
-        QTest::newRow("a topic") << QStringLiteral("The Classic Harwell ") << false;
+        QTest::newRow("a trailing blank") << u"1987 "_s << false;
+        QTest::newRow("a topic") << u"The Classic Harwell "_s << false;
         QTest::newRow("nothing chosen") << nothingChosen << false;
     }
     void the_title_tells_how_the_page_stands()
@@ -329,11 +328,11 @@ private:
     /// Shows the viewer on a window of 800 by 600 pixels with a page of that size.
     void OpenPage(const QSize& page)
     {
-        program_->Disc.AddFile(QStringLiteral("ads/67brto00.jpg"), TestDisc::Jpeg(Qt::blue, page));
+        program_->Disc.AddFile(u"ads/67brto00.jpg"_s, TestDisc::Jpeg(Qt::blue, page));
         frmScroll->SetWidth(800 * 15);
         frmScroll->SetHeight(600 * 15);
-        frmScroll->picChild.Load(QStringLiteral("G:\\ads\\67brto00.jpg"));
-        frmScroll->Image1.Load(QStringLiteral("G:\\ads\\67brto00.jpg"));
+        frmScroll->picChild.Load(u"G:\\ads\\67brto00.jpg"_s);
+        frmScroll->Image1.Load(u"G:\\ads\\67brto00.jpg"_s);
         frmScroll->Show();
         frmScroll->Window().activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&frmScroll->Window()));

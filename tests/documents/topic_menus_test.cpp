@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The entries of the Artwork, Torvik Stuff and Specialty menus, which put a topic on show.
@@ -18,10 +19,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        for (const QString& prefix :
-             {QStringLiteral("67"), QStringLiteral("69"), QStringLiteral("TD"), QStringLiteral("TF"),
-              QStringLiteral("VM"), QStringLiteral("ZZ"), QStringLiteral("SB"), QStringLiteral("PT"),
-              QStringLiteral("M1"), QStringLiteral("M3"), QStringLiteral("MS")})
+        for (const QString& prefix : {u"67"_s, u"69"_s, u"TD"_s, u"TF"_s, u"VM"_s, u"ZZ"_s, u"SB"_s, u"PT"_s,
+                                      u"M1"_s, u"M3"_s, u"MS"_s})
             program_->Disc.AddGroup(prefix, 2);
         program_->StartBrowsing();
         program_->Click(Form1->cmdYR(3));
@@ -61,9 +60,9 @@ private Q_SLOTS:
         QCOMPARE(Form1->panYear.Caption(), title);
         QCOMPARE(Form1->Image4.Visible(), !photo.isEmpty());
         if (photo.isEmpty())
-            QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER023")));
+            QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER023"_s));
         else
-            QCOMPARE(state.CurrentPhotoFile, QStringLiteral("G:\\Torviks\\") + photo);
+            QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\"_s + photo);
         CheckBeginning();
     }
 
@@ -72,15 +71,15 @@ private Q_SLOTS:
         QTest::addColumn<int>("menu"); // 0 artwork, 1 stuff, 2 specialty
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("title");
-        QTest::newRow("third art print") << 0 << 3 << QStringLiteral("Arlen Mercer Art Print ");
-        QTest::newRow("no art print") << 0 << 4 << QStringLiteral("1969");
-        QTest::newRow("even stuff 2") << 1 << 2 << QStringLiteral("1969");
-        QTest::newRow("even stuff 4") << 1 << 4 << QStringLiteral("1969");
-        QTest::newRow("even stuff 6") << 1 << 6 << QStringLiteral("1969");
-        QTest::newRow("first Kestra") << 2 << 2 << QStringLiteral("Torvik Kestra I ");
-        QTest::newRow("third Kestra") << 2 << 3 << QStringLiteral("Torvik Kestra III ");
-        QTest::newRow("Super Stallion") << 2 << 4 << QStringLiteral("Torvik Super Stallion ");
-        QTest::newRow("no specialty") << 2 << 5 << QStringLiteral("1969");
+        QTest::newRow("third art print") << 0 << 3 << u"Arlen Mercer Art Print "_s;
+        QTest::newRow("no art print") << 0 << 4 << u"1969"_s;
+        QTest::newRow("even stuff 2") << 1 << 2 << u"1969"_s;
+        QTest::newRow("even stuff 4") << 1 << 4 << u"1969"_s;
+        QTest::newRow("even stuff 6") << 1 << 6 << u"1969"_s;
+        QTest::newRow("first Kestra") << 2 << 2 << u"Torvik Kestra I "_s;
+        QTest::newRow("third Kestra") << 2 << 3 << u"Torvik Kestra III "_s;
+        QTest::newRow("Super Stallion") << 2 << 4 << u"Torvik Super Stallion "_s;
+        QTest::newRow("no specialty") << 2 << 5 << u"1969"_s;
     }
     void an_index_without_an_entry_has_its_topic_or_keeps_the_title()
     {
@@ -97,11 +96,11 @@ private Q_SLOTS:
     {
         Form1->rtbDetails.Show();
         ShowStuffTopic(5); // its title alone does not rename the button
-        QCOMPARE(Form1->cmdStats.Caption(), QStringLiteral("Details"));
+        QCOMPARE(Form1->cmdStats.Caption(), u"Details"_s);
         QVERIFY(!Form1->cmdColors.Enabled());
         QVERIFY(!Form1->rtbDetails.Visible());
 
-        Form1->cmdStats.SetCaption(QStringLiteral("Statistics"));
+        Form1->cmdStats.SetCaption(u"Statistics"_s);
         ShowSpecialtyTopic(0);
         QVERIFY(Form1->cmdColors.Enabled());
         QVERIFY(Form1->cmdOptions.Enabled());
@@ -111,8 +110,8 @@ private Q_SLOTS:
     void two_topics_without_an_entry_clear_the_photo()
     {
         for (const auto& [show, title] :
-             {std::pair{&ShowCalendars, QStringLiteral("Torvik Calendars ")},
-              std::pair{&ShowCollectorPlates, QStringLiteral("Franklin Mint Collector Plates ")}}) {
+             {std::pair{&ShowCalendars, u"Torvik Calendars "_s},
+              std::pair{&ShowCollectorPlates, u"Franklin Mint Collector Plates "_s}}) {
             program_->Messages.Clear();
             show();
             QCOMPARE(Form1->panYear.Caption(), title);
@@ -125,12 +124,12 @@ private:
     static void CheckBeginning()
     {
         QCOMPARE(int(state.PhotoIndex), 0);
-        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
+        QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
         QVERIFY(!state.SteppedForward);
         QVERIFY(!state.SteppedBackward);
         QCOMPARE(int(state.CurrentYearButton), 0);
         QVERIFY(Form1->cmdYR(1).Enabled());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(1)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(1)"_s);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
     }
 

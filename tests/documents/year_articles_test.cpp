@@ -7,6 +7,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The articles of a year or topic behind cmdDesc, cmdColors, cmdOptions and cmdNostalgia.
@@ -17,7 +18,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        for (const QString& prefix : {QStringLiteral("67"), QStringLiteral("69"), QStringLiteral("A1")})
+        for (const QString& prefix : {u"67"_s, u"69"_s, u"A1"_s})
             program_->Disc.AddGroup(prefix, 2);
         program_->StartBrowsing();
     }
@@ -94,34 +95,33 @@ private Q_SLOTS:
         QFETCH(QString, file);
         QFETCH(QString, opened);
         QFETCH(QString, window);
-        program_->Disc.AddDocument(file, QStringLiteral("Text of ") + file);
+        program_->Disc.AddDocument(file, u"Text of "_s + file);
         const Viewed viewed = Click(button, title);
         QVERIFY2(viewed.Came, qPrintable(program_->Messages.Last().Text));
         QCOMPARE(viewed.Caption, window);
-        QCOMPARE(viewed.File, QStringLiteral("G:") + opened);
+        QCOMPARE(viewed.File, u"G:"_s + opened);
         QCOMPARE(state.DocumentFile, viewed.File);
-        QCOMPARE(viewed.Text, QStringLiteral("Text of ") + file);
+        QCOMPARE(viewed.Text, u"Text of "_s + file);
         QVERIFY(program_->Messages.Shown().isEmpty());
         QVERIFY(!txtForm.IsLoaded());
     }
 
     void titles_of_colours_and_options_are_stored_and_so_are_two_of_the_descriptions()
     {
-        for (const QString& file :
-             {QStringLiteral("69colors.rtf"), QStringLiteral("69desc.rtf"), QStringLiteral("a1desc.rtf"),
-              QStringLiteral("introduction.rtf"), QStringLiteral("69opts.rtf"), QStringLiteral("stamps.rtf")})
+        for (const QString& file : {u"69colors.rtf"_s, u"69desc.rtf"_s, u"a1desc.rtf"_s,
+                                    u"introduction.rtf"_s, u"69opts.rtf"_s, u"stamps.rtf"_s})
             program_->Disc.AddDocument(file, file);
-        Click(QStringLiteral("cmdColors"), QStringLiteral("1969"));
-        QCOMPARE(state.DocumentTitle, QStringLiteral("The Torvik Vollandry       1969 Colors"));
-        Click(QStringLiteral("cmdDesc"), QStringLiteral("1969"));
-        Click(QStringLiteral("cmdDesc"), QStringLiteral("Torvik Postage Stamps "));
-        QCOMPARE(state.DocumentTitle, QStringLiteral("The Torvik Vollandry       1969 Colors"));
-        Click(QStringLiteral("cmdOptions"), QStringLiteral("1969"));
-        QCOMPARE(state.DocumentTitle, QStringLiteral("The Torvik Vollandry       1969 Options"));
-        Click(QStringLiteral("cmdDesc"), QStringLiteral("2001"));
-        QCOMPARE(state.DocumentTitle, QStringLiteral("The Torvik Vollandry     2001 Description"));
-        Click(QStringLiteral("cmdDesc"), QStringLiteral("panYear"));
-        QCOMPARE(state.DocumentTitle, QStringLiteral("The Torvik Vollandry       Introduction"));
+        Click(u"cmdColors"_s, u"1969"_s);
+        QCOMPARE(state.DocumentTitle, u"The Torvik Vollandry       1969 Colors"_s);
+        Click(u"cmdDesc"_s, u"1969"_s);
+        Click(u"cmdDesc"_s, u"Torvik Postage Stamps "_s);
+        QCOMPARE(state.DocumentTitle, u"The Torvik Vollandry       1969 Colors"_s);
+        Click(u"cmdOptions"_s, u"1969"_s);
+        QCOMPARE(state.DocumentTitle, u"The Torvik Vollandry       1969 Options"_s);
+        Click(u"cmdDesc"_s, u"2001"_s);
+        QCOMPARE(state.DocumentTitle, u"The Torvik Vollandry     2001 Description"_s);
+        Click(u"cmdDesc"_s, u"panYear"_s);
+        QCOMPARE(state.DocumentTitle, u"The Torvik Vollandry       Introduction"_s);
     }
 
     void a_missing_article_is_reported_under_the_code_of_its_button_data()
@@ -129,27 +129,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("code");
-        QTest::newRow("colours") << QStringLiteral("cmdColors") << QStringLiteral("1969")
-                                 << QStringLiteral("ER029");
-        QTest::newRow("colours of a topic")
-            << QStringLiteral("cmdColors") << QStringLiteral("Torvik Metal Signs ")
-            << QStringLiteral("ER029");
-        QTest::newRow("colours of the Harwell")
-            << QStringLiteral("cmdColors") << QStringLiteral("The Classic Harwell ")
-            << QStringLiteral("ER029");
-        QTest::newRow("options") << QStringLiteral("cmdOptions") << QStringLiteral("2001")
-                                 << QStringLiteral("ER026");
-        QTest::newRow("options of a topic")
-            << QStringLiteral("cmdOptions") << QStringLiteral("Torvik Cookies ") << QStringLiteral("ER026");
-        QTest::newRow("description") << QStringLiteral("cmdDesc") << QStringLiteral("1969")
-                                     << QStringLiteral("ER002");
-        QTest::newRow("description of a topic")
-            << QStringLiteral("cmdDesc") << QStringLiteral("Torvik Postage Stamps ")
-            << QStringLiteral("ER002");
-        QTest::newRow("introduction")
-            << QStringLiteral("cmdDesc") << QStringLiteral("panYear") << QStringLiteral("ER002");
-        QTest::newRow("nostalgia") << QStringLiteral("cmdNostalgia") << QStringLiteral("1969")
-                                   << QStringLiteral("ER005");
+        QTest::newRow("colours") << u"cmdColors"_s << u"1969"_s << u"ER029"_s;
+        QTest::newRow("colours of a topic") << u"cmdColors"_s << u"Torvik Metal Signs "_s << u"ER029"_s;
+        QTest::newRow("colours of the Harwell") << u"cmdColors"_s << u"The Classic Harwell "_s << u"ER029"_s;
+        QTest::newRow("options") << u"cmdOptions"_s << u"2001"_s << u"ER026"_s;
+        QTest::newRow("options of a topic") << u"cmdOptions"_s << u"Torvik Cookies "_s << u"ER026"_s;
+        QTest::newRow("description") << u"cmdDesc"_s << u"1969"_s << u"ER002"_s;
+        QTest::newRow("description of a topic") << u"cmdDesc"_s << u"Torvik Postage Stamps "_s << u"ER002"_s;
+        QTest::newRow("introduction") << u"cmdDesc"_s << u"panYear"_s << u"ER002"_s;
+        QTest::newRow("nostalgia") << u"cmdNostalgia"_s << u"1969"_s << u"ER005"_s;
     }
     void a_missing_article_is_reported_under_the_code_of_its_button()
     {
@@ -158,8 +146,7 @@ private Q_SLOTS:
         QFETCH(QString, code);
         QVERIFY(!Click(button, title).Came);
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY2(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ") + code +
-                                                           QStringLiteral("\r")),
+        QVERIFY2(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code + u"\r"_s),
                  qPrintable(program_->Messages.Last().Text));
         QCOMPARE(program_->Messages.Last().Style, 16);
         QCOMPARE(state.ErrorCode, code);
@@ -168,27 +155,27 @@ private Q_SLOTS:
     void a_plain_miss_moves_the_focus_on_but_a_failure_leaves_it()
     {
         Form1->cmdColors.SetFocus();
-        Click(QStringLiteral("cmdColors"), QStringLiteral("1969"));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
-        Click(QStringLiteral("cmdNostalgia"), QStringLiteral("1969"));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdNostalgia"));
+        Click(u"cmdColors"_s, u"1969"_s);
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
+        Click(u"cmdNostalgia"_s, u"1969"_s);
+        QCOMPARE(Program::Focus(), u"cmdNostalgia"_s);
     }
 
     void a_disc_that_is_gone_is_reported_under_the_same_codes_data()
     {
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("code");
-        QTest::newRow("colours") << QStringLiteral("cmdColors") << QStringLiteral("ER029");
-        QTest::newRow("options") << QStringLiteral("cmdOptions") << QStringLiteral("ER026");
-        QTest::newRow("description") << QStringLiteral("cmdDesc") << QStringLiteral("ER002");
-        QTest::newRow("nostalgia") << QStringLiteral("cmdNostalgia") << QStringLiteral("ER005");
+        QTest::newRow("colours") << u"cmdColors"_s << u"ER029"_s;
+        QTest::newRow("options") << u"cmdOptions"_s << u"ER026"_s;
+        QTest::newRow("description") << u"cmdDesc"_s << u"ER002"_s;
+        QTest::newRow("nostalgia") << u"cmdNostalgia"_s << u"ER005"_s;
     }
     void a_disc_that_is_gone_is_reported_under_the_same_codes()
     {
         QFETCH(QString, button);
         QFETCH(QString, code);
         program_->PutDiscIn(QChar());
-        QVERIFY(!Click(button, QStringLiteral("1969")).Came);
+        QVERIFY(!Click(button, u"1969"_s).Came);
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(state.ErrorCode, code);
         QCOMPARE(Program::Focus(), button); // a failure is pending, so the focus stays
@@ -197,67 +184,64 @@ private Q_SLOTS:
     void a_disc_that_is_gone_leaves_the_viewer_of_a_description_untouched()
     {
         program_->PutDiscIn(QChar());
-        Click(QStringLiteral("cmdDesc"), QStringLiteral("1969"));
+        Click(u"cmdDesc"_s, u"1969"_s);
         QVERIFY(!txtForm.IsLoaded());
     }
 
     void with_nothing_chosen_only_the_description_does_something()
     {
-        state.ErrorCode = QStringLiteral("ER999");
-        for (const QString& button :
-             {QStringLiteral("cmdColors"), QStringLiteral("cmdOptions"), QStringLiteral("cmdNostalgia")}) {
-            QVERIFY(!Click(button, QStringLiteral("panYear")).Came);
-            QCOMPARE(state.ErrorCode, QStringLiteral("ER999"));
+        state.ErrorCode = u"ER999"_s;
+        for (const QString& button : {u"cmdColors"_s, u"cmdOptions"_s, u"cmdNostalgia"_s}) {
+            QVERIFY(!Click(button, u"panYear"_s).Came);
+            QCOMPARE(state.ErrorCode, u"ER999"_s);
         }
         QVERIFY(program_->Messages.Shown().isEmpty());
     }
 
     void a_failed_opening_leaves_the_old_caption_for_the_next_stored_title()
     {
-        program_->Disc.AddDocument(QStringLiteral("69colors.rtf"), QStringLiteral("Colours"));
-        Click(QStringLiteral("cmdDesc"), QStringLiteral("1969"));
+        program_->Disc.AddDocument(u"69colors.rtf"_s, u"Colours"_s);
+        Click(u"cmdDesc"_s, u"1969"_s);
         QVERIFY(txtForm.IsLoaded());
         QVERIFY(!txtForm->Visible());
-        QCOMPARE(Click(QStringLiteral("cmdColors"), QStringLiteral("1969")).Caption,
-                 QStringLiteral("The Torvik Vollandry       1969 Description"));
-        QCOMPARE(Click(QStringLiteral("cmdColors"), QStringLiteral("1969")).Caption,
-                 QStringLiteral("The Torvik Vollandry       1969 Colors"));
+        QCOMPARE(Click(u"cmdColors"_s, u"1969"_s).Caption, u"The Torvik Vollandry       1969 Description"_s);
+        QCOMPARE(Click(u"cmdColors"_s, u"1969"_s).Caption, u"The Torvik Vollandry       1969 Colors"_s);
     }
 
     void colours_that_are_missing_never_touch_the_viewer()
     {
-        Click(QStringLiteral("cmdColors"), QStringLiteral("1969"));
+        Click(u"cmdColors"_s, u"1969"_s);
         QVERIFY(!txtForm.IsLoaded());
     }
 
     void a_description_that_is_missing_leaves_its_bare_name_empty()
     {
-        state.DocumentFile = QStringLiteral("before");
-        Click(QStringLiteral("cmdDesc"), QStringLiteral("1969"));
+        state.DocumentFile = u"before"_s;
+        Click(u"cmdDesc"_s, u"1969"_s);
         QCOMPARE(state.DocumentFile, QString());
     }
 
     void the_description_hides_the_wave_buttons_without_disabling_them()
     {
-        program_->Disc.AddDocument(QStringLiteral("69desc.rtf"), QStringLiteral("Description"));
-        CheckWaveButtons(QStringLiteral("cmdDesc"), true);
+        program_->Disc.AddDocument(u"69desc.rtf"_s, u"Description"_s);
+        CheckWaveButtons(u"cmdDesc"_s, true);
     }
 
     void the_others_disable_and_hide_the_wave_buttons()
     {
-        program_->Disc.AddDocument(QStringLiteral("69colors.rtf"), QStringLiteral("Colours"));
-        program_->Disc.AddDocument(QStringLiteral("nostalgia69.rtf"), QStringLiteral("Nostalgia"));
-        CheckWaveButtons(QStringLiteral("cmdColors"), false);
-        CheckWaveButtons(QStringLiteral("cmdNostalgia"), false);
+        program_->Disc.AddDocument(u"69colors.rtf"_s, u"Colours"_s);
+        program_->Disc.AddDocument(u"nostalgia69.rtf"_s, u"Nostalgia"_s);
+        CheckWaveButtons(u"cmdColors"_s, false);
+        CheckWaveButtons(u"cmdNostalgia"_s, false);
     }
 
     void nostalgia_overwrites_the_year_code_also_for_a_topic()
     {
         Screen.SetMousePointer(MousePointer::Hourglass);
-        Click(QStringLiteral("cmdNostalgia"), QStringLiteral("Torvik Metal Signs "));
-        QCOMPARE(state.YearCode, QStringLiteral("rv"));
-        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\richtext\\nostalgiarv.rtf"));
-        QCOMPARE(txtForm->Caption(), QStringLiteral("The Torvik Vollandry     Nostalgia Torv"));
+        Click(u"cmdNostalgia"_s, u"Torvik Metal Signs "_s);
+        QCOMPARE(state.YearCode, u"rv"_s);
+        QCOMPARE(state.DocumentFile, u"G:\\richtext\\nostalgiarv.rtf"_s);
+        QCOMPARE(txtForm->Caption(), u"The Torvik Vollandry     Nostalgia Torv"_s);
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
     }
@@ -267,15 +251,15 @@ private Q_SLOTS:
         Screen.SetMousePointer(MousePointer::Hourglass);
         MousePointer whileAsked = MousePointer::Default;
         program_->Messages.WhenAsked([&] { whileAsked = Screen.Pointer(); });
-        Click(QStringLiteral("cmdNostalgia"), QStringLiteral("1969"));
+        Click(u"cmdNostalgia"_s, u"1969"_s);
         QCOMPARE(whileAsked, MousePointer::Hourglass);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
     }
 
     void an_article_is_found_whatever_the_letter_case_of_its_name()
     {
-        program_->Disc.AddDocument(QStringLiteral("69DESC.RTF"), QStringLiteral("Capitals"));
-        QCOMPARE(Click(QStringLiteral("cmdDesc"), QStringLiteral("1969")).Text, QStringLiteral("Capitals"));
+        program_->Disc.AddDocument(u"69DESC.RTF"_s, u"Capitals"_s);
+        QCOMPARE(Click(u"cmdDesc"_s, u"1969"_s).Text, u"Capitals"_s);
     }
 
 private:
@@ -310,10 +294,10 @@ private:
                 width = txtForm->SSCommand1.Width();
             },
             [] { txtForm.Unload(); });
-        Form1->panYear.SetCaption(QStringLiteral("1969"));
-        program_->Click(button == QStringLiteral("cmdDesc")     ? Form1->cmdDesc
-                        : button == QStringLiteral("cmdColors") ? Form1->cmdColors
-                                                                : Form1->cmdNostalgia);
+        Form1->panYear.SetCaption(u"1969"_s);
+        program_->Click(button == u"cmdDesc"_s     ? Form1->cmdDesc
+                        : button == u"cmdColors"_s ? Form1->cmdColors
+                                                   : Form1->cmdNostalgia);
         QVERIFY(visit.Ran());
         QCOMPARE(states, QList<bool>({enabled, enabled, false, false}));
         QCOMPARE(width, 7316.0);

@@ -5,7 +5,7 @@
 #include "support/file_bytes.h"
 #include "support/file_size_limit.h"
 #include "support/program.h"
-#include "ui/application.h"
+#include "ui/forms/program_title.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 
@@ -13,6 +13,7 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The copying of all photos and of all movies.
@@ -23,8 +24,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
-        program_->Disc.AddPhoto(QStringLiteral("a1tor001.jpg"), Qt::red);
+        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->Disc.AddPhoto(u"a1tor001.jpg"_s, Qt::red);
         program_->StartBrowsing();
         state.CopyingPhotos = true;
     }
@@ -33,14 +34,14 @@ private Q_SLOTS:
     void the_folder_is_made_without_a_question()
     {
         MakeCopyFolder(ProgramFolder() + torviksFolder);
-        QVERIFY(QFileInfo(program_->InProgramFolder(QStringLiteral("Torviks"))).isDir());
+        QVERIFY(QFileInfo(program_->InProgramFolder(u"Torviks"_s)).isDir());
         QCOMPARE(program_->Messages.Count(), 0);
         QVERIFY(!state.CopyDeclined);
     }
 
     void a_folder_that_exists_brings_the_question_even_when_it_is_empty()
     {
-        QVERIFY(QDir().mkpath(program_->InProgramFolder(QStringLiteral("TORVIKS"))));
+        QVERIFY(QDir().mkpath(program_->InProgramFolder(u"TORVIKS"_s)));
         program_->Messages.Answer(msgbox::answerOk);
         MakeCopyFolder(ProgramFolder() + torviksFolder);
         AssertQuestion();
@@ -54,7 +55,7 @@ private Q_SLOTS:
 
     void a_folder_that_cannot_be_made_brings_the_same_question()
     {
-        MakeCopyFolder(ProgramFolder() + QStringLiteral("\\none\\Torviks\\"));
+        MakeCopyFolder(ProgramFolder() + u"\\none\\Torviks\\"_s);
         AssertQuestion();
         QVERIFY(state.CopyDeclined);
     }
@@ -63,45 +64,44 @@ private Q_SLOTS:
     {
         MakeTarget();
         CopyAllPhotos();
-        const QStringList expected{QStringLiteral("67A.JPG"), QStringLiteral("67B.JPG"),
-                                   QStringLiteral("A1TOR001.JPG")};
-        QCOMPARE(Copies(QStringLiteral("Torviks")), expected);
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("Torviks/A1TOR001.JPG"))),
-                 BytesOf(program_->Disc.PathOf(QStringLiteral("Torviks/a1tor001.jpg"))));
-        AssertDone(QStringLiteral("Photos successfully copied!\r\n"));
-        QCOMPARE(state.CopySource, QStringLiteral("G:\\Torviks\\A1TOR001.JPG"));
-        QCOMPARE(state.CopyTarget, ProgramFolder() + QStringLiteral("\\Torviks\\A1TOR001.JPG"));
+        const QStringList expected{u"67A.JPG"_s, u"67B.JPG"_s, u"A1TOR001.JPG"_s};
+        QCOMPARE(Copies(u"Torviks"_s), expected);
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/A1TOR001.JPG"_s)),
+                 BytesOf(program_->Disc.PathOf(u"Torviks/a1tor001.jpg"_s)));
+        AssertDone(u"Photos successfully copied!\r\n"_s);
+        QCOMPARE(state.CopySource, u"G:\\Torviks\\A1TOR001.JPG"_s);
+        QCOMPARE(state.CopyTarget, ProgramFolder() + u"\\Torviks\\A1TOR001.JPG"_s);
         QCOMPARE(int(state.LoopIndex), 4);
-        QCOMPARE(state.PhotoRoot, QStringLiteral("G:"));
+        QCOMPARE(state.PhotoRoot, u"G:"_s);
     }
 
     void the_discs_photos_are_copied_although_earlier_copies_are_on_show()
     {
-        program_->AddToProgramFolder(QStringLiteral("Torviks/67Z.JPG"), "old");
+        program_->AddToProgramFolder(u"Torviks/67Z.JPG"_s, "old");
         state.PhotoRoot = ProgramFolder();
         CopyAllPhotos();
-        QCOMPARE(Copies(QStringLiteral("Torviks")).size(), 4);
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("Torviks/67Z.JPG"))), QByteArray("old"));
-        QCOMPARE(state.PhotoFiles(1), QStringLiteral("G:\\Torviks\\67A.JPG"));
+        QCOMPARE(Copies(u"Torviks"_s).size(), 4);
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/67Z.JPG"_s)), QByteArray("old"));
+        QCOMPARE(state.PhotoFiles(1), u"G:\\Torviks\\67A.JPG"_s);
     }
 
     void all_movies_are_copied_and_the_photos_stay_where_they_are_read()
     {
-        program_->Disc.AddFile(QStringLiteral("movies/drive.avi"), MixedBytes(60'000));
-        program_->Disc.AddFile(QStringLiteral("movies/Race.avi"), MixedBytes(10));
-        program_->AddToProgramFolder(QStringLiteral("movies/x.txt"), "x");
+        program_->Disc.AddFile(u"movies/drive.avi"_s, MixedBytes(60'000));
+        program_->Disc.AddFile(u"movies/Race.avi"_s, MixedBytes(10));
+        program_->AddToProgramFolder(u"movies/x.txt"_s, "x");
         state.CopyingPhotos = false;
         CopyAllMovies();
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("movies/DRIVE.AVI"))), MixedBytes(60'000));
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("movies/RACE.AVI"))), MixedBytes(10));
-        AssertDone(QStringLiteral("Movies successfully copied!\r\n"));
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"movies/DRIVE.AVI"_s)), MixedBytes(60'000));
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"movies/RACE.AVI"_s)), MixedBytes(10));
+        AssertDone(u"Movies successfully copied!\r\n"_s);
         QCOMPARE(state.CopyRemaining, 432'000'000 - 50'000);
-        QCOMPARE(state.PhotoRoot, QStringLiteral("G:"));
+        QCOMPARE(state.PhotoRoot, u"G:"_s);
     }
 
     void the_window_takes_no_input_and_the_hourglass_stands_meanwhile()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/68A.JPG"), MixedBytes(50'000));
+        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(50'000));
         MakeTarget();
         QList<bool> enabled;
         QList<MousePointer> pointers;
@@ -115,7 +115,7 @@ private Q_SLOTS:
         }
         QCOMPARE(enabled, (QList<bool>{false, false}));
         QCOMPARE(pointers, (QList<MousePointer>{MousePointer::Hourglass, MousePointer::Hourglass}));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
         QVERIFY(Form1->Enabled());
     }
 
@@ -140,52 +140,50 @@ private Q_SLOTS:
         CopyAllPhotos();
         QCOMPARE(state.CopyRemaining, 42'000'000);
         QCOMPARE(Form1->ProgressGuage2.FloodPercent(), 100);
-        QCOMPARE(Form1->ProgressGuage2.Caption(), QStringLiteral("100"));
+        QCOMPARE(Form1->ProgressGuage2.Caption(), u"100"_s);
     }
 
     void a_photo_that_cannot_be_copied_is_told_and_the_others_follow()
     {
-        program_->AddToProgramFolder(QStringLiteral("Torviks/67A.JPG/inside"), "x");
+        program_->AddToProgramFolder(u"Torviks/67A.JPG/inside"_s, "x");
         CopyAllPhotos();
-        QCOMPARE(Texts(), (QStringList{QStringLiteral("Path/File access error"),
-                                       QStringLiteral("Photos successfully copied!\r\n")}));
-        QVERIFY(QFileInfo(program_->InProgramFolder(QStringLiteral("Torviks/67B.JPG"))).isFile());
+        QCOMPARE(Texts(), (QStringList{u"Path/File access error"_s, u"Photos successfully copied!\r\n"_s}));
+        QVERIFY(QFileInfo(program_->InProgramFolder(u"Torviks/67B.JPG"_s)).isFile());
     }
 
     void a_disk_that_is_full_is_told_for_each_file()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/68A.JPG"), MixedBytes(50'000));
-        program_->Disc.AddFile(QStringLiteral("Torviks/68B.JPG"), MixedBytes(50'000));
+        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(50'000));
+        program_->Disc.AddFile(u"Torviks/68B.JPG"_s, MixedBytes(50'000));
         MakeTarget();
         const FileSizeLimit limit(30'000);
         CopyAllPhotos();
-        QCOMPARE(Texts(), (QStringList{QStringLiteral("Disk full"), QStringLiteral("Disk full"),
-                                       QStringLiteral("Photos successfully copied!\r\n")}));
+        QCOMPARE(Texts(),
+                 (QStringList{u"Disk full"_s, u"Disk full"_s, u"Photos successfully copied!\r\n"_s}));
     }
 
     void a_disc_that_is_pulled_out_in_mid_copy_is_told_for_each_file_that_is_left()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), MixedBytes(50'000));
+        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(50'000));
         MakeTarget();
         {
             const EachRound round([&] { program_->PutDiscIn({}); });
             CopyAllPhotos();
         }
-        QCOMPARE(Texts(),
-                 (QStringList{QStringLiteral("Device unavailable"), QStringLiteral("Device unavailable"),
-                              QStringLiteral("Photos successfully copied!\r\n")}));
-        QCOMPARE(Copies(QStringLiteral("Torviks")), QStringList{QStringLiteral("67A.JPG")});
+        QCOMPARE(Texts(), (QStringList{u"Device unavailable"_s, u"Device unavailable"_s,
+                                       u"Photos successfully copied!\r\n"_s}));
+        QCOMPARE(Copies(u"Torviks"_s), QStringList{u"67A.JPG"_s});
     }
 
     void a_disc_without_photos_leads_to_no_copy_and_to_no_end()
     {
-        program_->Disc.Remove(QStringLiteral("Torviks"));
+        program_->Disc.Remove(u"Torviks"_s);
         MakeTarget();
         CopyAllPhotos();
         QCOMPARE(program_->Messages.Count(), 4);
-        QCOMPARE(program_->Messages.Shown().at(1).Text, QStringLiteral("Subscript out of range"));
-        QCOMPARE(program_->Messages.Last().Text, QStringLiteral("Photos successfully copied!\r\n"));
-        QCOMPARE(Copies(QStringLiteral("Torviks")), QStringList());
+        QCOMPARE(program_->Messages.Shown().at(1).Text, u"Subscript out of range"_s);
+        QCOMPARE(program_->Messages.Last().Text, u"Photos successfully copied!\r\n"_s);
+        QCOMPARE(Copies(u"Torviks"_s), QStringList());
         QVERIFY(Form1->Enabled());
     }
 
@@ -193,26 +191,25 @@ private Q_SLOTS:
     {
         state.CopyingPhotos = false;
         CopyAllMovies();
-        QCOMPARE(Texts(), QStringList{QStringLiteral("Movies successfully copied!\r\n")});
+        QCOMPARE(Texts(), QStringList{u"Movies successfully copied!\r\n"_s});
     }
 
     void a_disc_without_movies_after_one_with_movies_is_told_for_each_of_those()
     {
-        program_->Disc.AddFile(QStringLiteral("movies/a.avi"), "x");
-        program_->Disc.AddFile(QStringLiteral("movies/b.avi"), "x");
-        program_->AddToProgramFolder(QStringLiteral("movies/x.txt"), "x");
+        program_->Disc.AddFile(u"movies/a.avi"_s, "x");
+        program_->Disc.AddFile(u"movies/b.avi"_s, "x");
+        program_->AddToProgramFolder(u"movies/x.txt"_s, "x");
         state.CopyingPhotos = false;
         CopyAllMovies();
-        program_->Disc.Remove(QStringLiteral("movies"));
+        program_->Disc.Remove(u"movies"_s);
         program_->Messages.Clear();
         CopyAllMovies();
-        QCOMPARE(Texts(),
-                 (QStringList{QStringLiteral("File not found"), QStringLiteral("Subscript out of range"),
-                              QStringLiteral("Movies successfully copied!\r\n")}));
+        QCOMPARE(Texts(), (QStringList{u"File not found"_s, u"Subscript out of range"_s,
+                                       u"Movies successfully copied!\r\n"_s}));
     }
 
 private:
-    void MakeTarget() { QVERIFY(QDir().mkpath(program_->InProgramFolder(QStringLiteral("Torviks")))); }
+    void MakeTarget() { QVERIFY(QDir().mkpath(program_->InProgramFolder(u"Torviks"_s))); }
 
     QStringList Copies(const QString& folder) const
     {
@@ -230,9 +227,8 @@ private:
     void AssertQuestion()
     {
         const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text,
-                 QStringLiteral("These files have already been copied\r\nto your hard drive.\r\n\r\n"
-                                "Would you like to copy them again?"));
+        QCOMPARE(box.Text, u"These files have already been copied\r\nto your hard drive.\r\n\r\n"
+                           "Would you like to copy them again?"_s);
         QCOMPARE(box.Style, msgbox::question + msgbox::okCancel);
         QCOMPARE(box.Title, applicationTitle);
     }
@@ -243,9 +239,9 @@ private:
         const MessageRequest box = program_->Messages.Last();
         QCOMPARE(box.Text, text);
         QCOMPARE(box.Style, msgbox::exclamation);
-        QCOMPARE(box.Title, QStringLiteral("The Torvik Vollandry"));
+        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
         QCOMPARE(state.MessageText, text);
-        QCOMPARE(state.MessageAnswer, QStringLiteral("1"));
+        QCOMPARE(state.MessageAnswer, u"1"_s);
     }
 
     std::unique_ptr<Program> program_;

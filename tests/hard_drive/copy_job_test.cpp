@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class CopyJobTest : public QObject {
@@ -15,10 +16,10 @@ private Q_SLOTS:
     {
         state.CopyingPhotos = true;
         const CopyJob& job = PresentCopyJob();
-        QCOMPARE(job.Heading, QStringLiteral("Copy photos from CD-ROM to hard drive"));
-        QCOMPARE(job.Button, QStringLiteral("Copy Photos"));
-        QCOMPARE(job.Folder, QStringLiteral("\\Torviks\\"));
-        QCOMPARE(job.Done, QStringLiteral("Photos successfully copied!\r\n"));
+        QCOMPARE(job.Heading, u"Copy photos from CD-ROM to hard drive"_s);
+        QCOMPARE(job.Button, u"Copy Photos"_s);
+        QCOMPARE(job.Folder, u"\\Torviks\\"_s);
+        QCOMPARE(job.Done, u"Photos successfully copied!\r\n"_s);
         QCOMPARE(job.RoomDemanded, 38'000'000);
         QCOMPARE(job.Size, 42'000'000);
     }
@@ -27,10 +28,10 @@ private Q_SLOTS:
     {
         state.CopyingPhotos = false;
         const CopyJob& job = PresentCopyJob();
-        QCOMPARE(job.Heading, QStringLiteral("Copy Movies from CD-ROM to hard drive"));
-        QCOMPARE(job.Button, QStringLiteral("Copy Movies"));
-        QCOMPARE(job.Folder, QStringLiteral("\\movies\\"));
-        QCOMPARE(job.Done, QStringLiteral("Movies successfully copied!\r\n"));
+        QCOMPARE(job.Heading, u"Copy Movies from CD-ROM to hard drive"_s);
+        QCOMPARE(job.Button, u"Copy Movies"_s);
+        QCOMPARE(job.Folder, u"\\movies\\"_s);
+        QCOMPARE(job.Done, u"Movies successfully copied!\r\n"_s);
         QCOMPARE(job.RoomDemanded, 470'000'000);
         QCOMPARE(job.Size, 432'000'000);
     }

@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -40,8 +41,8 @@ private Q_SLOTS:
     {
         HaveFree(plenty);
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
-        program_->Disc.AddFile(QStringLiteral("movies/drive.avi"), "movie");
+        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->Disc.AddFile(u"movies/drive.avi"_s, "movie");
         program_->StartBrowsing();
     }
     void cleanup()
@@ -53,20 +54,20 @@ private Q_SLOTS:
     void the_panel_is_hidden_at_the_start_and_bears_its_label()
     {
         QVERIFY(!Form1->pnlProgress.Visible());
-        QCOMPARE(Form1->Label1.Caption(), QStringLiteral("Copying file:"));
-        QCOMPARE(Form1->cmdCancel.Caption(), QStringLiteral("Cancel"));
+        QCOMPARE(Form1->Label1.Caption(), u"Copying file:"_s);
+        QCOMPARE(Form1->cmdCancel.Caption(), u"Cancel"_s);
         QVERIFY(!Form1->Image1.Picture().IsEmpty());
     }
 
     void the_photo_entry_opens_it_for_photos()
     {
-        Form1->Text1.SetText(QStringLiteral("earlier"));
+        Form1->Text1.SetText(u"earlier"_s);
         Form1->mnuCopy.Click.Fire();
         QVERIFY(Form1->pnlProgress.Visible());
         QVERIFY(state.CopyingPhotos);
-        QCOMPARE(Form1->Label2.Caption(), QStringLiteral("Copy photos from CD-ROM to hard drive"));
-        QCOMPARE(Form1->cmdCopy.Caption(), QStringLiteral("Copy Photos"));
-        QCOMPARE(Form1->Text1.Text(), QStringLiteral(" "));
+        QCOMPARE(Form1->Label2.Caption(), u"Copy photos from CD-ROM to hard drive"_s);
+        QCOMPARE(Form1->cmdCopy.Caption(), u"Copy Photos"_s);
+        QCOMPARE(Form1->Text1.Text(), u" "_s);
     }
 
     void the_movie_entry_opens_it_for_movies()
@@ -75,9 +76,9 @@ private Q_SLOTS:
         Form1->mnuCopyMovies.Click.Fire();
         QVERIFY(Form1->pnlProgress.Visible());
         QVERIFY(!state.CopyingPhotos);
-        QCOMPARE(Form1->Label2.Caption(), QStringLiteral("Copy Movies from CD-ROM to hard drive"));
-        QCOMPARE(Form1->cmdCopy.Caption(), QStringLiteral("Copy Movies"));
-        QCOMPARE(Form1->Text1.Text(), QStringLiteral(" "));
+        QCOMPARE(Form1->Label2.Caption(), u"Copy Movies from CD-ROM to hard drive"_s);
+        QCOMPARE(Form1->cmdCopy.Caption(), u"Copy Movies"_s);
+        QCOMPARE(Form1->Text1.Text(), u" "_s);
     }
 
     void it_stands_centred_over_the_year_bar_below_the_buttons()
@@ -104,7 +105,7 @@ private Q_SLOTS:
         Form1->mnuCopy.Click.Fire();
         for (Panel* gauge : {&Form1->ProgressGuage, &Form1->ProgressGuage2}) {
             QCOMPARE(gauge->FloodPercent(), 0);
-            QCOMPARE(gauge->Caption(), QStringLiteral("0"));
+            QCOMPARE(gauge->Caption(), u"0"_s);
         }
         QVERIFY(Form1->cmdCopy.Enabled());
         QVERIFY(Form1->cmdCancel.Enabled());
@@ -119,7 +120,7 @@ private Q_SLOTS:
         program_->Click(Form1->cmdCancel);
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(state.CopyForSaver);
-        QVERIFY(!QFileInfo::exists(program_->InProgramFolder(QStringLiteral("Torviks"))));
+        QVERIFY(!QFileInfo::exists(program_->InProgramFolder(u"Torviks"_s)));
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
@@ -128,12 +129,11 @@ private Q_SLOTS:
         state.CopyForSaver = true;
         HaveFree(9); // 36,864,000 bytes
         Form1->mnuCopy.Click.Fire();
-        AssertSpaceMessage(QStringLiteral("36,864,000"), QStringLiteral("1,136,000"),
-                           QStringLiteral("38,000,000"));
+        AssertSpaceMessage(u"36,864,000"_s, u"1,136,000"_s, u"38,000,000"_s);
         QCOMPARE(program_->Messages.Count(), 1);
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(state.CopyForSaver);
-        QCOMPARE(Form1->Label2.Caption(), QStringLiteral("Copy photos from CD-ROM to hard drive"));
+        QCOMPARE(Form1->Label2.Caption(), u"Copy photos from CD-ROM to hard drive"_s);
         HaveFree(10); // 40,960,000 bytes
         Form1->mnuCopy.Click.Fire();
         QVERIFY(Form1->pnlProgress.Visible());
@@ -143,8 +143,7 @@ private Q_SLOTS:
     {
         HaveFree(114); // 466,944,000 bytes
         Form1->mnuCopyMovies.Click.Fire();
-        AssertSpaceMessage(QStringLiteral("466,944,000"), QStringLiteral("3,056,000"),
-                           QStringLiteral("470,000,000"));
+        AssertSpaceMessage(u"466,944,000"_s, u"3,056,000"_s, u"470,000,000"_s);
         QVERIFY(!Form1->pnlProgress.Visible());
         HaveFree(115); // 471,040,000 bytes
         Form1->mnuCopyMovies.Click.Fire();
@@ -160,8 +159,7 @@ private Q_SLOTS:
         SetDiskMeter([](const QString&) { return DiskClusters{1, 37'999, 1024, 1024}; });
         Form1->pnlProgress.Hide();
         Form1->mnuCopy.Click.Fire();
-        AssertSpaceMessage(QStringLiteral("37,999,000"), QStringLiteral("1,000"),
-                           QStringLiteral("38,000,000"));
+        AssertSpaceMessage(u"37,999,000"_s, u"1,000"_s, u"38,000,000"_s);
     }
 
     void a_drive_that_cannot_be_measured_counts_as_full_and_prints_no_zero()
@@ -169,9 +167,9 @@ private Q_SLOTS:
         SetDiskMeter([](const QString&) -> DiskClusters { Fail(failure::deviceIo); });
         Form1->mnuCopy.Click.Fire();
         QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Shown().first().Text, QStringLiteral("Internal GetDisk error!"));
-        AssertSpaceMessage({}, QStringLiteral("38,000,000"), QStringLiteral("38,000,000"));
-        QVERIFY(program_->Messages.Last().Text.contains(QStringLiteral("You have:   bytes\r\n")));
+        QCOMPARE(program_->Messages.Shown().first().Text, u"Internal GetDisk error!"_s);
+        AssertSpaceMessage({}, u"38,000,000"_s, u"38,000,000"_s);
+        QVERIFY(program_->Messages.Last().Text.contains(u"You have:   bytes\r\n"_s));
         QVERIFY(!Form1->pnlProgress.Visible());
     }
 
@@ -180,29 +178,29 @@ private Q_SLOTS:
         state.CopyForSaver = true;
         Form1->mnuCopy.Click.Fire();
         program_->Click(Form1->cmdCopy);
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("Torviks/67B.JPG"))),
-                 BytesOf(program_->Disc.PathOf(QStringLiteral("Torviks/67B.JPG"))));
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/67B.JPG"_s)),
+                 BytesOf(program_->Disc.PathOf(u"Torviks/67B.JPG"_s)));
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(!state.CopyForSaver);
         QVERIFY(!Form1->cmdCopy.Enabled());
         QVERIFY(!Form1->cmdCancel.Enabled());
         QCOMPARE(state.PhotoRoot, ProgramFolder());
-        QCOMPARE(state.PhotoFiles(2), ProgramFolder() + QStringLiteral("\\Torviks\\67B.JPG"));
-        program_->Disc.Remove(QStringLiteral("Torviks/67A.JPG"));
-        program_->Disc.Remove(QStringLiteral("Torviks/67B.JPG"));
+        QCOMPARE(state.PhotoFiles(2), ProgramFolder() + u"\\Torviks\\67B.JPG"_s);
+        program_->Disc.Remove(u"Torviks/67A.JPG"_s);
+        program_->Disc.Remove(u"Torviks/67B.JPG"_s);
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
-        QCOMPARE(state.CurrentPhotoFile, ProgramFolder() + QStringLiteral("\\Torviks\\67B.JPG"));
+        QCOMPARE(state.CurrentPhotoFile, ProgramFolder() + u"\\Torviks\\67B.JPG"_s);
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
-        QCOMPARE(state.CurrentPhotoFile, ProgramFolder() + QStringLiteral("\\Torviks\\67A.JPG"));
+        QCOMPARE(state.CurrentPhotoFile, ProgramFolder() + u"\\Torviks\\67A.JPG"_s);
     }
 
     void movies_are_copied_and_the_photos_go_on_being_read_from_the_disc()
     {
         Form1->mnuCopyMovies.Click.Fire();
         program_->Click(Form1->cmdCopy);
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("movies/DRIVE.AVI"))), QByteArray("movie"));
-        QCOMPARE(state.PhotoRoot, QStringLiteral("G:"));
-        QVERIFY(!QFileInfo::exists(program_->InProgramFolder(QStringLiteral("Torviks"))));
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"movies/DRIVE.AVI"_s)), QByteArray("movie"));
+        QCOMPARE(state.PhotoRoot, u"G:"_s);
+        QVERIFY(!QFileInfo::exists(program_->InProgramFolder(u"Torviks"_s)));
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(!state.CopyForSaver);
     }
@@ -219,7 +217,7 @@ private Q_SLOTS:
 
     void both_buttons_are_off_while_files_move()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/68A.JPG"), MixedBytes(25'000));
+        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(25'000));
         Form1->mnuCopy.Click.Fire();
         bool seen = false;
         {
@@ -235,7 +233,7 @@ private Q_SLOTS:
 
     void a_declined_copy_closes_the_panel_and_keeps_the_savers_wait()
     {
-        program_->AddToProgramFolder(QStringLiteral("Torviks/67A.JPG"), "old");
+        program_->AddToProgramFolder(u"Torviks/67A.JPG"_s, "old");
         state.CopyForSaver = true;
         Form1->mnuCopy.Click.Fire();
         program_->Messages.Answer(msgbox::answerCancel);
@@ -246,19 +244,19 @@ private Q_SLOTS:
         QVERIFY(Form1->cmdCancel.Enabled());
         QVERIFY(state.CopyForSaver);
         QVERIFY(state.CopyDeclined);
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("Torviks/67A.JPG"))), QByteArray("old"));
-        QCOMPARE(state.PhotoRoot, QStringLiteral("G:"));
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/67A.JPG"_s)), QByteArray("old"));
+        QCOMPARE(state.PhotoRoot, u"G:"_s);
     }
 
     void an_accepted_copy_replaces_the_earlier_one()
     {
-        program_->AddToProgramFolder(QStringLiteral("Torviks/67A.JPG"), "old");
+        program_->AddToProgramFolder(u"Torviks/67A.JPG"_s, "old");
         state.CopyDeclined = true;
         Form1->mnuCopy.Click.Fire();
         program_->Messages.Answer(msgbox::answerOk);
         program_->Click(Form1->cmdCopy);
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("Torviks/67A.JPG"))),
-                 BytesOf(program_->Disc.PathOf(QStringLiteral("Torviks/67A.JPG"))));
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/67A.JPG"_s)),
+                 BytesOf(program_->Disc.PathOf(u"Torviks/67A.JPG"_s)));
         QVERIFY(!state.CopyDeclined);
     }
 
@@ -274,7 +272,7 @@ private Q_SLOTS:
 
     void the_window_cannot_be_closed_while_files_move()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/68A.JPG"), MixedBytes(75'000));
+        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(75'000));
         Form1->mnuCopy.Click.Fire();
         {
             const EachRound round([] {
@@ -284,12 +282,12 @@ private Q_SLOTS:
             program_->Click(Form1->cmdCopy);
         }
         QVERIFY(!ProgramIsEnding());
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("Torviks/68A.JPG"))), MixedBytes(75'000));
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/68A.JPG"_s)), MixedBytes(75'000));
     }
 
     void a_program_that_ends_in_mid_copy_leaves_at_once_and_holds_no_file()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), MixedBytes(75'000));
+        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(75'000));
         const qsizetype before = OpenFileCount();
         Form1->mnuCopy.Click.Fire();
         {
@@ -303,15 +301,13 @@ private Q_SLOTS:
         QCOMPARE(program_->Messages.Count(), 0);
         QCOMPARE(OpenFileCount(), before);
         // Neither the rest of the photos nor the half of one.
-        QCOMPARE(QDir(program_->InProgramFolder(QStringLiteral("Torviks"))).entryList(QDir::Files),
-                 QStringList());
+        QCOMPARE(QDir(program_->InProgramFolder(u"Torviks"_s)).entryList(QDir::Files), QStringList());
     }
 
     void closing_the_play_list_in_mid_copy_lets_nothing_overtake_the_copy()
     {
         for (const char* name : {"67A", "68A", "69A"})
-            program_->Disc.AddFile(QStringLiteral("Torviks/%1.JPG").arg(QString::fromLatin1(name)),
-                                   MixedBytes(75'000));
+            program_->Disc.AddFile(u"Torviks/%1.JPG"_s.arg(QString::fromLatin1(name)), MixedBytes(75'000));
         program_->Click(Form1->Image4, Qt::RightButton);
         Form1->mnuCopy.Click.Fire();
         int tries = 0;
@@ -330,10 +326,9 @@ private Q_SLOTS:
         QVERIFY(tries > 3);
         QVERIFY(!frmSSPhoto.IsLoaded());
         QVERIFY(!ProgramIsEnding());
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
         for (const char* name : {"67A", "68A", "69A"})
-            QCOMPARE(BytesOf(program_->InProgramFolder(
-                         QStringLiteral("Torviks/%1.JPG").arg(QString::fromLatin1(name)))),
+            QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/%1.JPG"_s.arg(QString::fromLatin1(name)))),
                      MixedBytes(75'000));
         QCOMPARE(program_->Messages.Count(), 1);
         QVERIFY(Form1->Enabled());
@@ -345,14 +340,13 @@ private:
     void AssertSpaceMessage(const QString& have, const QString& need, const QString& total)
     {
         const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, QStringLiteral("Not enough available hard disk space to copy photos.\r\n\r\n"
-                                          "Free some up and try again.\r\n\r\n"
-                                          "You have:  %1 bytes\r\n\r\n"
-                                          "You need:   %2 bytes more\r\n\r\n"
-                                          "For a total of:   %3 bytes free.\r\n")
-                               .arg(have, need, total));
+        QCOMPARE(box.Text, u"Not enough available hard disk space to copy photos.\r\n\r\n"
+                           "Free some up and try again.\r\n\r\n"
+                           "You have:  %1 bytes\r\n\r\n"
+                           "You need:   %2 bytes more\r\n\r\n"
+                           "For a total of:   %3 bytes free.\r\n"_s.arg(have, need, total));
         QCOMPARE(box.Style, msgbox::critical);
-        QCOMPARE(box.Title, QStringLiteral("The Torvik Vollandry"));
+        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
         QCOMPARE(state.MessageText, box.Text);
     }
 

@@ -2,11 +2,12 @@
 #include "platform/files/disk_space.h"
 #include "support/failure_of.h"
 #include "support/message_script.h"
-#include "ui/application.h"
+#include "ui/forms/program_title.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class FreeSpaceTest : public QObject {
@@ -27,11 +28,11 @@ private Q_SLOTS:
         QVERIFY(QDir::setCurrent(folder.path()));
         qint64 total = 0;
         qint64 free = 0;
-        QString drive = QStringLiteral("E");
+        QString drive = u"E"_s;
         GetDiskSpace(total, free, drive);
         QVERIFY(QDir::setCurrent(before));
-        QCOMPARE(drive, QStringLiteral("C:\\"));
-        QCOMPARE(asked, QStringLiteral("C:") + folder.path().replace(u'/', u'\\'));
+        QCOMPARE(drive, u"C:\\"_s);
+        QCOMPARE(asked, u"C:"_s + folder.path().replace(u'/', u'\\'));
         QCOMPARE(total, 9 * 8 * 512);
         QCOMPARE(free, 3 * 8 * 512);
     }
@@ -64,15 +65,15 @@ private Q_SLOTS:
         SetDiskMeter([](const QString&) -> DiskClusters { Fail(failure::deviceIo); });
         qint64 total = 5;
         qint64 free = 6;
-        QString drive = QStringLiteral("E");
+        QString drive = u"E"_s;
         GetDiskSpace(total, free, drive);
         QCOMPARE(messages.Count(), 1);
-        QCOMPARE(messages.Last().Text, QStringLiteral("Internal GetDisk error!"));
+        QCOMPARE(messages.Last().Text, u"Internal GetDisk error!"_s);
         QCOMPARE(messages.Last().Style, msgbox::ok);
         QCOMPARE(messages.Last().Title, applicationTitle);
         QCOMPARE(total, 5);
         QCOMPARE(free, 6);
-        QCOMPARE(drive, QStringLiteral("C:\\"));
+        QCOMPARE(drive, u"C:\\"_s);
     }
 
     void a_current_directory_that_is_gone_cannot_be_measured()
@@ -83,30 +84,30 @@ private Q_SLOTS:
         QVERIFY(QDir::setCurrent(folder.path()) && folder.remove());
         qint64 total = 5;
         qint64 free = 6;
-        QString drive = QStringLiteral("E");
+        QString drive = u"E"_s;
         GetDiskSpace(total, free, drive);
         QVERIFY(QDir::setCurrent(before));
-        QCOMPARE(messages.Last().Text, QStringLiteral("Internal GetDisk error!"));
+        QCOMPARE(messages.Last().Text, u"Internal GetDisk error!"_s);
         QCOMPARE(free, 6);
-        QCOMPARE(drive, QStringLiteral("   "));
+        QCOMPARE(drive, u"   "_s);
     }
 
     void the_last_character_is_dropped()
     {
-        QCOMPARE(DropLastCharacter(QStringLiteral("C:\\a ")), QStringLiteral("C:\\a"));
-        QCOMPARE(DropLastCharacter(QStringLiteral("x")), QString());
+        QCOMPARE(DropLastCharacter(u"C:\\a "_s), u"C:\\a"_s);
+        QCOMPARE(DropLastCharacter(u"x"_s), QString());
         QCOMPARE(FailureOf([] { DropLastCharacter({}); }), failure::invalidCall);
     }
 
     void digits_stand_in_groups_of_three_and_nothing_for_zero()
     {
         QCOMPARE(GroupedDigits(0), QString());
-        QCOMPARE(GroupedDigits(7), QStringLiteral("7"));
-        QCOMPARE(GroupedDigits(999), QStringLiteral("999"));
-        QCOMPARE(GroupedDigits(1000), QStringLiteral("1,000"));
-        QCOMPARE(GroupedDigits(38'000'000), QStringLiteral("38,000,000"));
-        QCOMPARE(GroupedDigits(123'456'789), QStringLiteral("123,456,789"));
-        QCOMPARE(GroupedDigits(1'234'567'890'123), QStringLiteral("1,234,567,890,123"));
+        QCOMPARE(GroupedDigits(7), u"7"_s);
+        QCOMPARE(GroupedDigits(999), u"999"_s);
+        QCOMPARE(GroupedDigits(1000), u"1,000"_s);
+        QCOMPARE(GroupedDigits(38'000'000), u"38,000,000"_s);
+        QCOMPARE(GroupedDigits(123'456'789), u"123,456,789"_s);
+        QCOMPARE(GroupedDigits(1'234'567'890'123), u"1,234,567,890,123"_s);
     }
 };
 

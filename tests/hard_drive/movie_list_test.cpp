@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class MovieListTest : public QObject {
@@ -14,7 +15,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        state.DiscRoot = QStringLiteral("G:");
+        state.DiscRoot = u"G:"_s;
     }
     void cleanup() { program_.reset(); }
 
@@ -24,11 +25,11 @@ private Q_SLOTS:
             program_->Disc.AddFile(QString::fromLatin1(name), "x");
         BuildMovieList();
         QCOMPARE(int(state.MovieCount), 2);
-        QCOMPARE(Names(), (QStringList{QStringLiteral("DRIVE.AVI"), QStringLiteral("RACE.AVI")}));
+        QCOMPARE(Names(), (QStringList{u"DRIVE.AVI"_s, u"RACE.AVI"_s}));
         QCOMPARE(state.MovieFiles.Count(), 3);
         QCOMPARE(state.MovieFiles(3), QString());
         QCOMPARE(int(state.MovieListIndex), 3);
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER055"));
+        QCOMPARE(state.ErrorCode, u"ER055"_s);
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
@@ -37,9 +38,9 @@ private Q_SLOTS:
         BuildMovieList();
         QCOMPARE(int(state.MovieCount), 0);
         QCOMPARE(state.MovieFiles.Count(), 1);
-        program_->Disc.AddFile(QStringLiteral("movies/a.avi"), "x");
+        program_->Disc.AddFile(u"movies/a.avi"_s, "x");
         BuildMovieList();
-        program_->Disc.Remove(QStringLiteral("movies/a.avi"));
+        program_->Disc.Remove(u"movies/a.avi"_s);
         BuildMovieList();
         QCOMPARE(int(state.MovieCount), 1);
         QCOMPARE(state.MovieFiles.Count(), 1);
@@ -55,9 +56,9 @@ private Q_SLOTS:
         BuildMovieList();
         QCOMPARE(program_->Messages.Count(), 1);
         const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, QStringLiteral("Error number: ER055\r\n\r\n"
-                                          " Unable to detect the Torvik Vollandry CDROM.\r\n\r\n"
-                                          "Make sure that the Torvik Vollandry is in the CDROM drive."));
+        QCOMPARE(box.Text, u"Error number: ER055\r\n\r\n"
+                           " Unable to detect the Torvik Vollandry CDROM.\r\n\r\n"
+                           "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
         QCOMPARE(box.Style, msgbox::retryCancel);
         QCOMPARE(int(state.MovieCount), 3);
         QCOMPARE(state.MovieFiles(1), QString());
@@ -74,7 +75,7 @@ private Q_SLOTS:
     void a_list_beyond_16_bits_comes_to_an_end()
     {
         for (int number = 0; number < 32'768; ++number)
-            program_->Disc.AddFile(QStringLiteral("movies/%1.avi").arg(number), {});
+            program_->Disc.AddFile(u"movies/%1.avi"_s.arg(number), {});
         for (int report = 0; report < 2; ++report)
             program_->Messages.Answer(msgbox::answerRetry);
         BuildMovieList();

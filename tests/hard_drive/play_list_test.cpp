@@ -5,10 +5,10 @@
 #include "support/file_bytes.h"
 #include "support/ordinary_user.h"
 #include "support/program.h"
-#include "ui/application.h"
 #include "ui/desktop/clipboard.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
+#include "ui/forms/program_title.h"
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
@@ -17,6 +17,7 @@
 #include <QImage>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The play list form, worked by its buttons while the main window lies below it.
@@ -27,7 +28,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
+        program_->Disc.AddGroup(u"67"_s, 2);
         program_->StartBrowsing();
         program_->Click(Form1->Image4, Qt::RightButton);
     }
@@ -36,19 +37,17 @@ private Q_SLOTS:
     void a_right_click_on_the_photo_opens_it_on_top_with_its_texts()
     {
         QVERIFY(frmSSPhoto->Visible());
-        QVERIFY(QFileInfo(program_->InProgramFolder(QStringLiteral("ssTorviks"))).isDir());
+        QVERIFY(QFileInfo(program_->InProgramFolder(u"ssTorviks"_s)).isDir());
         QVERIFY(frmSSPhoto->Window().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-        QCOMPARE(frmSSPhoto->Caption(), QStringLiteral("The Torvik Vollandry 2001"));
-        QCOMPARE(frmSSPhoto->Text4.Text(), QStringLiteral("Screen Saver Photo Selection"));
+        QCOMPARE(frmSSPhoto->Caption(), u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(frmSSPhoto->Text4.Text(), u"Screen Saver Photo Selection"_s);
         QVERIFY(!frmSSPhoto->Picture1.Picture().IsEmpty());
         const QStringList captions{frmSSPhoto->SSCommand7.Caption(), frmSSPhoto->SSCommand8.Caption(),
                                    frmSSPhoto->SSCommand2.Caption(), frmSSPhoto->SSCommand3.Caption(),
                                    frmSSPhoto->SSCommand1.Caption(), frmSSPhoto->SSCommand9.Caption()};
-        QCOMPARE(captions, (QStringList{QStringLiteral("Add this photo to list"),
-                                        QStringLiteral("Remove this photo from list"),
-                                        QStringLiteral("Remove all photos from the list"),
-                                        QStringLiteral("Copy this photo to Clipboard"),
-                                        QStringLiteral("Help"), QStringLiteral("Exit")}));
+        QCOMPARE(captions, (QStringList{u"Add this photo to list"_s, u"Remove this photo from list"_s,
+                                        u"Remove all photos from the list"_s,
+                                        u"Copy this photo to Clipboard"_s, u"Help"_s, u"Exit"_s}));
         QVERIFY(frmSSPhoto->SSCommand7.Enabled());
         QVERIFY(!frmSSPhoto->SSCommand8.Enabled());
         QVERIFY(frmSSPhoto->SSCommand2.Enabled());
@@ -57,13 +56,13 @@ private Q_SLOTS:
     void the_main_window_goes_on_working_below_it()
     {
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
-        QCOMPARE(state.CurrentPhotoFile, QStringLiteral("G:\\Torviks\\67B.JPG"));
+        QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\67B.JPG"_s);
         QVERIFY(frmSSPhoto->Visible());
     }
 
     void add_puts_the_photo_on_the_list()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), MixedBytes(3'500));
+        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(3'500));
         MousePointer meanwhile = MousePointer::Default;
         MousePointer atTheEnd = MousePointer::Hourglass;
         program_->Messages.WhenAsked([&] { atTheEnd = frmSSPhoto->Pointer(); });
@@ -74,15 +73,15 @@ private Q_SLOTS:
             });
             program_->Click(frmSSPhoto->SSCommand7);
         }
-        QCOMPARE(Listed(QStringLiteral("67A.JPG")), MixedBytes(3'500));
-        AssertTold(QStringLiteral("Photo Successfully Copied!"), msgbox::exclamation);
+        QCOMPARE(Listed(u"67A.JPG"_s), MixedBytes(3'500));
+        AssertTold(u"Photo Successfully Copied!"_s, msgbox::exclamation);
         QVERIFY(!frmSSPhoto->SSCommand7.Enabled());
         QVERIFY(frmSSPhoto->SSCommand8.Enabled());
         QCOMPARE(frmSSPhoto->ProgressGuage.FloodPercent(), 86);
         QCOMPARE(meanwhile, MousePointer::Hourglass);
         QCOMPARE(atTheEnd, MousePointer::Default);
-        QCOMPARE(state.CopySource, QStringLiteral("G:\\Torviks\\67A.JPG"));
-        QCOMPARE(state.CopyTarget, ProgramFolder() + QStringLiteral("\\ssTorviks\\67A.JPG"));
+        QCOMPARE(state.CopySource, u"G:\\Torviks\\67A.JPG"_s);
+        QCOMPARE(state.CopyTarget, ProgramFolder() + u"\\ssTorviks\\67A.JPG"_s);
     }
 
     void the_buttons_follow_each_step_to_a_listed_photo_and_away_from_it()
@@ -98,7 +97,7 @@ private Q_SLOTS:
 
     void a_step_in_mid_add_leaves_the_paths_of_the_add()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), MixedBytes(3'500));
+        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(3'500));
         bool stepped = false;
         {
             const EachRound round([&] {
@@ -107,34 +106,34 @@ private Q_SLOTS:
             });
             program_->Click(frmSSPhoto->SSCommand7);
         }
-        QCOMPARE(state.CurrentPhotoFile, QStringLiteral("G:\\Torviks\\67B.JPG"));
-        QCOMPARE(Listed(QStringLiteral("67A.JPG")), MixedBytes(3'500));
-        QVERIFY(!QFileInfo::exists(program_->InProgramFolder(QStringLiteral("ssTorviks/67B.JPG"))));
+        QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\67B.JPG"_s);
+        QCOMPARE(Listed(u"67A.JPG"_s), MixedBytes(3'500));
+        QVERIFY(!QFileInfo::exists(program_->InProgramFolder(u"ssTorviks/67B.JPG"_s)));
     }
 
     void a_missing_source_is_told_and_success_comes_all_the_same()
     {
-        program_->Disc.Remove(QStringLiteral("Torviks/67A.JPG"));
+        program_->Disc.Remove(u"Torviks/67A.JPG"_s);
         program_->Click(frmSSPhoto->SSCommand7);
         QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Shown().first().Text, QStringLiteral("File not found"));
+        QCOMPARE(program_->Messages.Shown().first().Text, u"File not found"_s);
         QCOMPARE(program_->Messages.Shown().first().Style, msgbox::ok);
-        QCOMPARE(program_->Messages.Last().Text, QStringLiteral("Photo Successfully Copied!"));
+        QCOMPARE(program_->Messages.Last().Text, u"Photo Successfully Copied!"_s);
         QVERIFY(!frmSSPhoto->SSCommand7.Enabled());
         QVERIFY(frmSSPhoto->SSCommand8.Enabled());
     }
 
     void remove_takes_the_photo_off_the_list()
     {
-        program_->AddToProgramFolder(QStringLiteral("ssTorviks/67b.jpg"), "x");
-        program_->AddToProgramFolder(QStringLiteral("ssTorviks/68A.JPG"), "x");
+        program_->AddToProgramFolder(u"ssTorviks/67b.jpg"_s, "x");
+        program_->AddToProgramFolder(u"ssTorviks/68A.JPG"_s, "x");
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
         frmSSPhoto->ProgressGuage.SetFloodPercent(40);
         MousePointer atTheEnd = MousePointer::Hourglass;
         program_->Messages.WhenAsked([&] { atTheEnd = frmSSPhoto->Pointer(); });
         program_->Click(frmSSPhoto->SSCommand8);
-        AssertTold(QStringLiteral("Photo Successfully Removed!"), msgbox::exclamation);
-        QCOMPARE(ListNames(), QStringList{QStringLiteral("68A.JPG")});
+        AssertTold(u"Photo Successfully Removed!"_s, msgbox::exclamation);
+        QCOMPARE(ListNames(), QStringList{u"68A.JPG"_s});
         QVERIFY(frmSSPhoto->SSCommand7.Enabled());
         QVERIFY(!frmSSPhoto->SSCommand8.Enabled());
         QCOMPARE(frmSSPhoto->ProgressGuage.FloodPercent(), 0);
@@ -144,10 +143,10 @@ private Q_SLOTS:
     void a_listed_file_that_has_gone_meanwhile_is_a_failure_that_nothing_meets()
     {
         program_->Click(frmSSPhoto->SSCommand7);
-        QVERIFY(QFile::remove(program_->InProgramFolder(QStringLiteral("ssTorviks/67A.JPG"))));
+        QVERIFY(QFile::remove(program_->InProgramFolder(u"ssTorviks/67A.JPG"_s)));
         program_->Messages.Clear();
         program_->Click(frmSSPhoto->SSCommand8);
-        QVERIFY(program_->Messages.Last().Text.contains(QStringLiteral("Run-time error '53'")));
+        QVERIFY(program_->Messages.Last().Text.contains(u"Run-time error '53'"_s));
         QVERIFY(ProgramIsEnding());
     }
 
@@ -158,7 +157,7 @@ private Q_SLOTS:
         frmSSPhoto->ProgressGuage.SetFloodPercent(40);
         program_->Messages.Answer(msgbox::answerYes);
         program_->Click(frmSSPhoto->SSCommand2);
-        QCOMPARE(ListNames(), QStringList{QStringLiteral("mine.txt")});
+        QCOMPARE(ListNames(), QStringList{u"mine.txt"_s});
         QCOMPARE(int(state.MessageResult), msgbox::answerYes);
         AssertRemovedAll();
         QVERIFY(frmSSPhoto->SSCommand7.Enabled());
@@ -173,7 +172,7 @@ private Q_SLOTS:
         program_->Messages.Answer(msgbox::answerYes);
         program_->Click(frmSSPhoto->SSCommand2);
         AssertRemovedAll();
-        QVERIFY(QDir().rmdir(program_->InProgramFolder(QStringLiteral("ssTorviks"))));
+        QVERIFY(QDir().rmdir(program_->InProgramFolder(u"ssTorviks"_s)));
         program_->Click(frmSSPhoto->SSCommand9);
         frmSSPhoto->Show();
         program_->Messages.Clear();
@@ -184,11 +183,11 @@ private Q_SLOTS:
 
     void no_keeps_the_whole_list()
     {
-        program_->AddToProgramFolder(QStringLiteral("ssTorviks/67A.JPG"), "x");
+        program_->AddToProgramFolder(u"ssTorviks/67A.JPG"_s, "x");
         program_->Messages.Answer(msgbox::answerNo);
         program_->Click(frmSSPhoto->SSCommand2);
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(ListNames(), QStringList{QStringLiteral("67A.JPG")});
+        QCOMPARE(ListNames(), QStringList{u"67A.JPG"_s});
         QVERIFY(frmSSPhoto->SSCommand2.Enabled());
     }
 
@@ -206,7 +205,7 @@ private Q_SLOTS:
 
     void the_picture_goes_to_the_clipboard_at_its_own_size_without_a_word()
     {
-        Clipboard.SetText(QStringLiteral("before"));
+        Clipboard.SetText(u"before"_s);
         program_->Click(frmSSPhoto->SSCommand3);
         QCOMPARE(program_->Messages.Count(), 0);
         QCOMPARE(QGuiApplication::clipboard()->image().size(), QSize(64, 48));
@@ -216,11 +215,11 @@ private Q_SLOTS:
     void the_opening_picture_is_added_and_removed_like_a_photo()
     {
         const QByteArray picture = TestDisc::Jpeg(Qt::blue, {32, 32});
-        program_->AddToProgramFolder(QStringLiteral("graphics/ClassicTorviks.jpg"), picture);
+        program_->AddToProgramFolder(u"graphics/ClassicTorviks.jpg"_s, picture);
         Form1->panYear.SetCaption(nothingChosen);
         program_->Click(frmSSPhoto->SSCommand7);
-        QCOMPARE(Listed(QStringLiteral("ClassicTorviks.jpg")), picture);
-        QCOMPARE(state.CopySource, ProgramFolder() + QStringLiteral("\\graphics\\ClassicTorviks.jpg"));
+        QCOMPARE(Listed(u"ClassicTorviks.jpg"_s), picture);
+        QCOMPARE(state.CopySource, ProgramFolder() + u"\\graphics\\ClassicTorviks.jpg"_s);
         QVERIFY(frmSSPhoto->SSCommand8.Enabled());
         program_->Click(frmSSPhoto->SSCommand8);
         QCOMPARE(ListNames(), QStringList());
@@ -229,13 +228,13 @@ private Q_SLOTS:
     void help_says_what_the_form_is_for()
     {
         program_->Click(frmSSPhoto->SSCommand1);
-        AssertTold(QStringLiteral("Use this form to add or remove Torvik photos from the\r\n"
-                                  "Torvik Vollandry Screen Saver play list. Pick and choose\r\n"
-                                  "whatever photos that you would like to include.\r\n\r\n"
-                                  "Select the Install Screen Saver option under the File menu\r\n"
-                                  "to configure the Screen Saver to recognize selected photos.\r\n\r\n"
-                                  "If you remove all photos, remember to re-install the \r\n"
-                                  "Screen Saver and choose the Select All Photos option."),
+        AssertTold(u"Use this form to add or remove Torvik photos from the\r\n"
+                   "Torvik Vollandry Screen Saver play list. Pick and choose\r\n"
+                   "whatever photos that you would like to include.\r\n\r\n"
+                   "Select the Install Screen Saver option under the File menu\r\n"
+                   "to configure the Screen Saver to recognize selected photos.\r\n\r\n"
+                   "If you remove all photos, remember to re-install the \r\n"
+                   "Screen Saver and choose the Select All Photos option."_s,
                    msgbox::ok);
         QCOMPARE(state.MessageText, program_->Messages.Last().Text);
     }
@@ -256,7 +255,7 @@ private Q_SLOTS:
 
     void the_form_may_be_closed_in_mid_add()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), MixedBytes(5'000));
+        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(5'000));
         bool closed = false;
         {
             const EachRound round([&] {
@@ -265,13 +264,13 @@ private Q_SLOTS:
             });
             program_->Click(frmSSPhoto->SSCommand7);
         }
-        QCOMPARE(Listed(QStringLiteral("67A.JPG")), MixedBytes(5'000));
+        QCOMPARE(Listed(u"67A.JPG"_s), MixedBytes(5'000));
         QVERIFY(!frmSSPhoto->Visible());
     }
 
     void the_program_may_be_closed_in_mid_add_and_keeps_no_half_photo()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), MixedBytes(5'000));
+        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(5'000));
         const qsizetype before = OpenFileCount();
         {
             const EachRound round([] {
@@ -288,7 +287,7 @@ private Q_SLOTS:
 
     void add_pressed_again_in_mid_add_leaves_the_whole_photo()
     {
-        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), MixedBytes(5'500));
+        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(5'500));
         bool again = false;
         {
             const EachRound round([&] {
@@ -297,7 +296,7 @@ private Q_SLOTS:
             });
             program_->Click(frmSSPhoto->SSCommand7);
         }
-        QCOMPARE(Listed(QStringLiteral("67A.JPG")), MixedBytes(5'500));
+        QCOMPARE(Listed(u"67A.JPG"_s), MixedBytes(5'500));
         QVERIFY(!frmSSPhoto->SSCommand7.Enabled());
         QVERIFY(frmSSPhoto->SSCommand8.Enabled());
     }
@@ -305,12 +304,11 @@ private Q_SLOTS:
 private:
     QByteArray Listed(const QString& name) const
     {
-        return BytesOf(program_->InProgramFolder(QStringLiteral("ssTorviks/") + name));
+        return BytesOf(program_->InProgramFolder(u"ssTorviks/"_s + name));
     }
     QStringList ListNames() const
     {
-        return QDir(program_->InProgramFolder(QStringLiteral("ssTorviks")))
-            .entryList(QDir::Files, QDir::Name);
+        return QDir(program_->InProgramFolder(u"ssTorviks"_s)).entryList(QDir::Files, QDir::Name);
     }
 
     void AssertTold(const QString& text, int style)
@@ -331,12 +329,12 @@ private:
     {
         QCOMPARE(program_->Messages.Count(), 2);
         const MessageRequest question = program_->Messages.Shown().first();
-        QCOMPARE(question.Text, QStringLiteral("Would you like to remove all photos from the Torvik "
-                                               "Vollandry Screen Saver list?"));
+        QCOMPARE(question.Text, u"Would you like to remove all photos from the Torvik "
+                                "Vollandry Screen Saver list?"_s);
         QCOMPARE(question.Style, msgbox::question + msgbox::yesNo);
-        AssertLast(QStringLiteral("All Photos Successfully Removed!\r\n\r\n"
-                                  "You must re-install The Torvik Vollandry Screen Saver \r\n"
-                                  "if you have previously installed it to play Selected Photos."),
+        AssertLast(u"All Photos Successfully Removed!\r\n\r\n"
+                   "You must re-install The Torvik Vollandry Screen Saver \r\n"
+                   "if you have previously installed it to play Selected Photos."_s,
                    msgbox::ok);
         QCOMPARE(state.MessageText, program_->Messages.Last().Text);
     }

@@ -4,14 +4,15 @@
 #include "support/file_bytes.h"
 #include "support/ordinary_user.h"
 #include "support/program.h"
-#include "ui/application.h"
 #include "ui/forms/program_end.h"
+#include "ui/forms/program_title.h"
 #include "windows/main_window.h"
 
 #include <QTest>
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The removal of copied photos, which ends the program, and of copied movies, which does not.
@@ -22,10 +23,10 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
-        program_->AddToProgramFolder(QStringLiteral("Torviks/67A.JPG"), TestDisc::Jpeg(Qt::red, {8, 8}));
-        program_->AddToProgramFolder(QStringLiteral("Torviks/67b.jpg"), "x");
-        program_->AddToProgramFolder(QStringLiteral("movies/DRIVE.AVI"), "x");
+        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->AddToProgramFolder(u"Torviks/67A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
+        program_->AddToProgramFolder(u"Torviks/67b.jpg"_s, "x");
+        program_->AddToProgramFolder(u"movies/DRIVE.AVI"_s, "x");
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -35,26 +36,26 @@ private Q_SLOTS:
         QCOMPARE(state.PhotoRoot, ProgramFolder());
         program_->Messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
-        QVERIFY(!Exists(QStringLiteral("Torviks")));
-        QVERIFY(Exists(QStringLiteral("movies/DRIVE.AVI")));
+        QVERIFY(!Exists(u"Torviks"_s));
+        QVERIFY(Exists(u"movies/DRIVE.AVI"_s));
         AssertPhotoMessages();
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(state.PhotoRoot, QStringLiteral("G:"));
-        QCOMPARE(state.CopyTarget, ProgramFolder() + QStringLiteral("\\Torviks\\*.jpg"));
-        QCOMPARE(state.PhotoFiles(1), ProgramFolder() + QStringLiteral("\\Torviks\\67A.JPG"));
+        QCOMPARE(state.PhotoRoot, u"G:"_s);
+        QCOMPARE(state.CopyTarget, ProgramFolder() + u"\\Torviks\\*.jpg"_s);
+        QCOMPARE(state.PhotoFiles(1), ProgramFolder() + u"\\Torviks\\67A.JPG"_s);
     }
 
     void movies_go_with_their_folder_and_the_program_stays()
     {
         program_->Messages.Answer(msgbox::answerYes);
         Form1->mnuRemoveMovies.Click.Fire();
-        QVERIFY(!Exists(QStringLiteral("movies")));
-        QVERIFY(Exists(QStringLiteral("Torviks/67A.JPG")));
+        QVERIFY(!Exists(u"movies"_s));
+        QVERIFY(Exists(u"Torviks/67A.JPG"_s));
         AssertMovieMessages();
         QVERIFY(!ProgramIsEnding());
         QVERIFY(Form1.IsLoaded());
         QCOMPARE(state.PhotoRoot, ProgramFolder());
-        QCOMPARE(state.CopyTarget, ProgramFolder() + QStringLiteral("\\movies\\*.avi"));
+        QCOMPARE(state.CopyTarget, ProgramFolder() + u"\\movies\\*.avi"_s);
     }
 
     void no_changes_nothing()
@@ -66,15 +67,15 @@ private Q_SLOTS:
         QCOMPARE(program_->Messages.Count(), 2);
         QCOMPARE(int(state.MessageResult), msgbox::answerNo);
         QCOMPARE(state.PhotoRoot, ProgramFolder());
-        QVERIFY(Exists(QStringLiteral("Torviks/67A.JPG")));
-        QVERIFY(Exists(QStringLiteral("movies/DRIVE.AVI")));
+        QVERIFY(Exists(u"Torviks/67A.JPG"_s));
+        QVERIFY(Exists(u"movies/DRIVE.AVI"_s));
         QVERIFY(!ProgramIsEnding());
     }
 
     void without_copies_both_ask_and_report_success()
     {
-        QVERIFY(QDir(program_->InProgramFolder(QStringLiteral("Torviks"))).removeRecursively());
-        QVERIFY(QDir(program_->InProgramFolder(QStringLiteral("movies"))).removeRecursively());
+        QVERIFY(QDir(program_->InProgramFolder(u"Torviks"_s)).removeRecursively());
+        QVERIFY(QDir(program_->InProgramFolder(u"movies"_s)).removeRecursively());
         program_->Messages.Answer(msgbox::answerYes);
         Form1->mnuRemoveMovies.Click.Fire();
         AssertMovieMessages();
@@ -87,36 +88,36 @@ private Q_SLOTS:
 
     void files_of_other_kinds_keep_the_folder_alive()
     {
-        program_->AddToProgramFolder(QStringLiteral("Torviks/mine.txt"), "mine");
-        program_->AddToProgramFolder(QStringLiteral("movies/mine.mpg"), "mine");
+        program_->AddToProgramFolder(u"Torviks/mine.txt"_s, "mine");
+        program_->AddToProgramFolder(u"movies/mine.mpg"_s, "mine");
         program_->Messages.Answer(msgbox::answerYes);
         Form1->mnuRemoveMovies.Click.Fire();
         program_->Messages.Clear();
         program_->Messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
         AssertPhotoMessages();
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("Torviks/mine.txt"))), QByteArray("mine"));
-        QCOMPARE(BytesOf(program_->InProgramFolder(QStringLiteral("movies/mine.mpg"))), QByteArray("mine"));
-        QVERIFY(!Exists(QStringLiteral("Torviks/67A.JPG")));
-        QVERIFY(!Exists(QStringLiteral("movies/DRIVE.AVI")));
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/mine.txt"_s)), QByteArray("mine"));
+        QCOMPARE(BytesOf(program_->InProgramFolder(u"movies/mine.mpg"_s)), QByteArray("mine"));
+        QVERIFY(!Exists(u"Torviks/67A.JPG"_s));
+        QVERIFY(!Exists(u"movies/DRIVE.AVI"_s));
     }
 
     void a_folder_that_is_left_over_without_photos_does_not_count_at_the_next_start()
     {
-        program_->AddToProgramFolder(QStringLiteral("Torviks/mine.txt"), "mine");
+        program_->AddToProgramFolder(u"Torviks/mine.txt"_s, "mine");
         program_->Messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
         FormHandleBase::DiscardAll();
         ForgetProgramEnd();
         state = ProgramState();
         program_->Start();
-        QCOMPARE(state.PhotoRoot, QStringLiteral("G:"));
+        QCOMPARE(state.PhotoRoot, u"G:"_s);
     }
 
     void what_cannot_be_deleted_stays_and_success_is_reported_all_the_same()
     {
-        QCOMPARE(chmod(HostOf(QStringLiteral("")), 0755), 0);
-        QCOMPARE(chmod(HostOf(QStringLiteral("movies")), 0555), 0);
+        QCOMPARE(chmod(HostOf(u""_s), 0755), 0);
+        QCOMPARE(chmod(HostOf(u"movies"_s), 0555), 0);
         program_->Messages.Answer(msgbox::answerYes);
         {
             const OrdinaryUser user;
@@ -124,7 +125,7 @@ private Q_SLOTS:
             Form1->mnuRemoveMovies.Click.Fire();
         }
         AssertMovieMessages();
-        QVERIFY(Exists(QStringLiteral("movies/DRIVE.AVI")));
+        QVERIFY(Exists(u"movies/DRIVE.AVI"_s));
     }
 
     void the_hourglass_is_off_during_the_photo_message_and_on_during_the_movie_message()
@@ -148,8 +149,8 @@ private Q_SLOTS:
         Form1->mnuRemoveMovies.Click.Fire();
         program_->Messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
-        QVERIFY(Exists(QStringLiteral("Torviks/67A.JPG")));
-        QVERIFY(Exists(QStringLiteral("movies/DRIVE.AVI")));
+        QVERIFY(Exists(u"Torviks/67A.JPG"_s));
+        QVERIFY(Exists(u"movies/DRIVE.AVI"_s));
     }
 
 private:
@@ -171,26 +172,26 @@ private:
     void AssertPhotoMessages()
     {
         QCOMPARE(program_->Messages.Count(), 2);
-        AssertQuestion(QStringLiteral("photos"));
-        AssertPlain(QStringLiteral("All Photos Successfully Removed!\r\n\r\n"
-                                   "You must now exit and re-enter the Torvik Vollandry to allow \r\n"
-                                   "the software to find the photos on the cdrom drive.\r\n\r\n"
-                                   "You must also re-install the Torvik Vollandry Screen Saver \r\n"
-                                   "if you have previously installed it."));
+        AssertQuestion(u"photos"_s);
+        AssertPlain(u"All Photos Successfully Removed!\r\n\r\n"
+                    "You must now exit and re-enter the Torvik Vollandry to allow \r\n"
+                    "the software to find the photos on the cdrom drive.\r\n\r\n"
+                    "You must also re-install the Torvik Vollandry Screen Saver \r\n"
+                    "if you have previously installed it."_s);
     }
 
     void AssertMovieMessages()
     {
         QCOMPARE(program_->Messages.Count(), 2);
-        AssertQuestion(QStringLiteral("movies"));
-        AssertPlain(QStringLiteral("All movies successfully removed!"));
+        AssertQuestion(u"movies"_s);
+        AssertPlain(u"All movies successfully removed!"_s);
     }
 
     void AssertQuestion(const QString& what)
     {
         const MessageRequest box = program_->Messages.Shown().first();
-        QCOMPARE(box.Text, QStringLiteral("Would you like to remove all Torvik Vollandry ") + what +
-                               QStringLiteral(" from your hard drive?"));
+        QCOMPARE(box.Text,
+                 u"Would you like to remove all Torvik Vollandry "_s + what + u" from your hard drive?"_s);
         QCOMPARE(box.Style, msgbox::question + msgbox::yesNo);
         QCOMPARE(box.Title, applicationTitle);
         QCOMPARE(int(state.MessageResult), msgbox::answerYes);

@@ -6,8 +6,8 @@
 #include "support/program.h"
 #include "support/viewer_visit.h"
 #include "support/while_waiting.h"
-#include "ui/application.h"
 #include "ui/forms/program_end.h"
+#include "ui/forms/program_title.h"
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
@@ -15,44 +15,44 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
-const QString question = QStringLiteral("To improve performance, the Torvik photos may be copied from\r\n"
-                                        "the Torvik Vollandry CDROM to your hard drive before you install\r\n"
-                                        "the Torvik Vollandry Screen Saver.\r\n"
-                                        "\r\n"
-                                        "Would you like to copy the photos now?");
+const QString question = u"To improve performance, the Torvik photos may be copied from\r\n"
+                         "the Torvik Vollandry CDROM to your hard drive before you install\r\n"
+                         "the Torvik Vollandry Screen Saver.\r\n"
+                         "\r\n"
+                         "Would you like to copy the photos now?"_s;
 
-const QString success =
-    QStringLiteral("The Torvik Vollandry Screen Saver has been installed!\r\n"
-                   "\r\n"
-                   "If you have not already done so, you must now activate \r\n"
-                   "the Torvik Vollandry Screen Saver.\r\n"
-                   "\r\n"
-                   "To do this follow these steps:\r\n"
-                   "    1) Click the Start button on the Windows desktop \r\n"
-                   "    2) Click the Settings button                    \r\n"
-                   "    3) Click on Control Panel                       \r\n"
-                   "    4) Double click on the Display icon             \r\n"
-                   "    5) Select the Screen Saver tab                  \r\n"
-                   "    6) Click the dropdown arrow to the left of the Settings button\r\n"
-                   "    7) Select Torvik2001                           \r\n"
-                   "    8) Click OK                            ");
+const QString success = u"The Torvik Vollandry Screen Saver has been installed!\r\n"
+                        "\r\n"
+                        "If you have not already done so, you must now activate \r\n"
+                        "the Torvik Vollandry Screen Saver.\r\n"
+                        "\r\n"
+                        "To do this follow these steps:\r\n"
+                        "    1) Click the Start button on the Windows desktop \r\n"
+                        "    2) Click the Settings button                    \r\n"
+                        "    3) Click on Control Panel                       \r\n"
+                        "    4) Double click on the Display icon             \r\n"
+                        "    5) Select the Screen Saver tab                  \r\n"
+                        "    6) Click the dropdown arrow to the left of the Settings button\r\n"
+                        "    7) Select Torvik2001                           \r\n"
+                        "    8) Click OK                            "_s;
 
-const QString noSaver = QStringLiteral("Error number: ER049\r\n\r\n Unable to find Screen Saver.\r\n\r\n"
-                                       "Make sure that the Torvik Vollandry is in the CDROM drive.");
+const QString noSaver = u"Error number: ER049\r\n\r\n Unable to find Screen Saver.\r\n\r\n"
+                        "Make sure that the Torvik Vollandry is in the CDROM drive."_s;
 const QString noHelp =
-    QStringLiteral("Error number: ER052\r\n\r\n Unable to load 'Install Screen Saver Help' text file.\r\n\r\n"
-                   "Make sure that the Torvik Vollandry is in the CDROM drive.");
+    u"Error number: ER052\r\n\r\n Unable to load 'Install Screen Saver Help' text file.\r\n\r\n"
+    "Make sure that the Torvik Vollandry is in the CDROM drive."_s;
 
 const QByteArray saverFile = "the saver itself, in more than one block\n" + QByteArray(70'000, 's');
 
 QString Setting(const char* key)
 {
-    return GetSetting(QStringLiteral("SCRNSAVE: The Torvik Vollandry 2001"), QStringLiteral("Settings"),
-                      QString::fromLatin1(key), QStringLiteral("(none)"));
+    return GetSetting(u"SCRNSAVE: The Torvik Vollandry 2001"_s, u"Settings"_s, QString::fromLatin1(key),
+                      u"(none)"_s);
 }
 
 QByteArray Content(const QString& hostFile)
@@ -78,15 +78,15 @@ private Q_SLOTS:
         home_ = std::make_unique<QTemporaryDir>();
         dataBefore_ = qgetenv("XDG_DATA_HOME");
         configBefore_ = qgetenv("XDG_CONFIG_HOME");
-        qputenv("XDG_DATA_HOME", home_->filePath(QStringLiteral("data")).toLocal8Bit());
-        qputenv("XDG_CONFIG_HOME", home_->filePath(QStringLiteral("config")).toLocal8Bit());
-        QVERIFY(QDir(home_->path()).mkpath(QStringLiteral("config")));
+        qputenv("XDG_DATA_HOME", home_->filePath(u"data"_s).toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", home_->filePath(u"config"_s).toLocal8Bit());
+        QVERIFY(QDir(home_->path()).mkpath(u"config"_s));
         SetDiskMeter([](const QString&) { return DiskClusters{8, 512, 100'000'000, 100'000'000}; });
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
-        program_->Disc.AddGroup(QStringLiteral("68"), 1);
-        program_->AddToProgramFolder(QStringLiteral("Torvik2001.scr"), saverFile);
-        QVERIFY(QFile::setPermissions(program_->InProgramFolder(QStringLiteral("Torvik2001.scr")),
+        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->Disc.AddGroup(u"68"_s, 1);
+        program_->AddToProgramFolder(u"Torvik2001.scr"_s, saverFile);
+        QVERIFY(QFile::setPermissions(program_->InProgramFolder(u"Torvik2001.scr"_s),
                                       QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                           QFile::ReadOther | QFile::ExeOther));
         program_->StartBrowsing();
@@ -146,24 +146,24 @@ private Q_SLOTS:
         Open();
         program_->Click(Form1->Option1(1));
         QVERIFY(Form1->Option1(1).Value());
-        QVERIFY(QFile::remove(program_->InProgramFolder(QStringLiteral("ssTorviks/67A.JPG"))));
+        QVERIFY(QFile::remove(program_->InProgramFolder(u"ssTorviks/67A.JPG"_s)));
         Open();
         QVERIFY(!Form1->Option1(1).Enabled());
         QVERIFY(Form1->Option1(1).Value());
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\ssTorviks\\"));
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\ssTorviks\\"_s);
     }
 
     void opening_resets_the_delay_and_the_button_but_not_what_the_panel_shows()
     {
         Open();
         Spin("Up");
-        Form1->SSCommand6.SetCaption(QStringLiteral("Exit"));
+        Form1->SSCommand6.SetCaption(u"Exit"_s);
         program_->Click(Form1->SSCommand6);
         Open();
         QCOMPARE(state.SlideDelay, 1000);
-        QCOMPARE(Form1->panInterval.Caption(), QStringLiteral("2 Seconds"));
-        QCOMPARE(Form1->SSCommand6.Caption(), QStringLiteral("Cancel"));
+        QCOMPARE(Form1->panInterval.Caption(), u"2 Seconds"_s);
+        QCOMPARE(Form1->SSCommand6.Caption(), u"Cancel"_s);
     }
 
     void the_closing_button_hides_the_panel_whatever_it_says_data()
@@ -181,7 +181,7 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand6);
         QVERIFY(!Form1->pnlSSaver.Visible());
         QCOMPARE(Form1->SSCommand6.Caption(), caption);
-        QCOMPARE(Setting("Interval"), QStringLiteral("(none)"));
+        QCOMPARE(Setting("Interval"), u"(none)"_s);
     }
 
     // The delay
@@ -196,7 +196,7 @@ private Q_SLOTS:
         }
         QStringList wanted;
         for (const int seconds : {2, 3, 4, 5, 10, 15, 20, 25, 30, 35, 40, 45, 50, 55, 60, 1})
-            wanted.append(QStringLiteral("%1 Seconds").arg(seconds));
+            wanted.append(u"%1 Seconds"_s.arg(seconds));
         QCOMPARE(captions, wanted);
         QCOMPARE(state.SlideDelay, 1000);
     }
@@ -211,7 +211,7 @@ private Q_SLOTS:
         }
         QStringList wanted;
         for (const int seconds : {60, 55, 50, 45, 40, 35, 30, 25, 20, 15, 10, 5, 4, 3, 2, 1})
-            wanted.append(QStringLiteral("%1 Seconds").arg(seconds));
+            wanted.append(u"%1 Seconds"_s.arg(seconds));
         QCOMPARE(captions, wanted);
     }
 
@@ -225,17 +225,17 @@ private Q_SLOTS:
         for (int press = 0; press < 5; ++press)
             Spin("Up");
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(Setting("Interval"), QStringLiteral("10"));
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\ssTorviks\\"));
+        QCOMPARE(Setting("Interval"), u"10"_s);
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\ssTorviks\\"_s);
         QCOMPARE(Content(InstalledSaver()), saverFile);
         QVERIFY(QFileInfo(InstalledSaver()).isExecutable());
-        QCOMPARE(state.CopySource, ProgramFolder() + QStringLiteral("\\Torvik2001.scr"));
-        QCOMPARE(state.CopyTarget, WindowsFolder() + QStringLiteral("\\Torvik2001.scr"));
+        QCOMPARE(state.CopySource, ProgramFolder() + u"\\Torvik2001.scr"_s);
+        QCOMPARE(state.CopyTarget, WindowsFolder() + u"\\Torvik2001.scr"_s);
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text, success);
         QCOMPARE(program_->Messages.Last().Style, msgbox::ok);
-        QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry 2001"));
-        QCOMPARE(Form1->SSCommand6.Caption(), QStringLiteral("Exit"));
+        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(Form1->SSCommand6.Caption(), u"Exit"_s);
         QVERIFY(Form1->pnlSSaver.Visible());
     }
 
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QString caption;
         program_->Messages.WhenAsked([&caption] { caption = Form1->SSCommand6.Caption(); });
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(caption, QStringLiteral("Cancel"));
+        QCOMPARE(caption, u"Cancel"_s);
     }
 
     void the_delay_is_saved_in_seconds_with_its_fraction_data()
@@ -277,7 +277,7 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand4);
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text, success);
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\Torviks\\"));
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
     }
 
     void selected_photos_win_over_local_ones()
@@ -287,7 +287,7 @@ private Q_SLOTS:
         Open();
         program_->Click(Form1->Option1(1));
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\ssTorviks\\"));
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\ssTorviks\\"_s);
     }
 
     void an_installation_replaces_the_one_before()
@@ -296,15 +296,15 @@ private Q_SLOTS:
         FillPlayList();
         Open();
         program_->Click(Form1->SSCommand4);
-        program_->AddToProgramFolder(QStringLiteral("Torvik2001.scr"), "a newer saver");
+        program_->AddToProgramFolder(u"Torvik2001.scr"_s, "a newer saver");
         program_->Click(Form1->Option1(1));
         Spin("Down");
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(Setting("Interval"), QStringLiteral("60"));
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\ssTorviks\\"));
+        QCOMPARE(Setting("Interval"), u"60"_s);
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\ssTorviks\\"_s);
         QCOMPARE(Content(InstalledSaver()), QByteArray("a newer saver"));
         QCOMPARE(QDir(QFileInfo(InstalledSaver()).path()).entryList(QDir::Files),
-                 QStringList{QStringLiteral("Torvik2001.scr")});
+                 QStringList{u"Torvik2001.scr"_s});
     }
 
     // The question
@@ -318,9 +318,9 @@ private Q_SLOTS:
         const MessageRequest asked = program_->Messages.Shown().first();
         QCOMPARE(asked.Text, question);
         QCOMPARE(asked.Style, msgbox::question | msgbox::yesNo);
-        QCOMPARE(asked.Title, QStringLiteral("The Torvik Vollandry 2001"));
+        QCOMPARE(asked.Title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(int(state.MessageResult), msgbox::answerNo);
-        QCOMPARE(Setting("TorviksDir"), QStringLiteral("G:\\Torviks\\"));
+        QCOMPARE(Setting("TorviksDir"), u"G:\\Torviks\\"_s);
         QCOMPARE(program_->Messages.Last().Text, success);
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(!state.CopyForSaver);
@@ -328,7 +328,7 @@ private Q_SLOTS:
 
     void a_folder_without_photos_counts_as_none()
     {
-        program_->AddToProgramFolder(QStringLiteral("Torviks/note.txt"), "no photo");
+        program_->AddToProgramFolder(u"Torviks/note.txt"_s, "no photo");
         Open();
         program_->Messages.Answer(msgbox::answerNo);
         program_->Click(Form1->SSCommand4);
@@ -351,14 +351,14 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand4);
         QVERIFY(wait.Ran());
         QVERIFY(photos);
-        QCOMPARE(button, QStringLiteral("Copy Photos"));
-        QCOMPARE(settingBefore, QStringLiteral("(none)"));
+        QCOMPARE(button, u"Copy Photos"_s);
+        QCOMPARE(settingBefore, u"(none)"_s);
         QCOMPARE(int(state.MessageResult), msgbox::answerYes);
         QVERIFY(!state.CopyForSaver);
-        QVERIFY(QFile::exists(program_->InProgramFolder(QStringLiteral("Torviks/67A.JPG"))));
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\Torviks\\"));
+        QVERIFY(QFile::exists(program_->InProgramFolder(u"Torviks/67A.JPG"_s)));
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
         QCOMPARE(program_->Messages.Last().Text, success);
-        QCOMPARE(Form1->SSCommand6.Caption(), QStringLiteral("Exit"));
+        QCOMPARE(Form1->SSCommand6.Caption(), u"Exit"_s);
     }
 
     void the_window_lives_while_the_installation_waits()
@@ -373,7 +373,7 @@ private Q_SLOTS:
             Form1->mnuExit.Click.Fire();
         });
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(title, QStringLiteral("1968"));
+        QCOMPARE(title, u"1968"_s);
     }
 
     void closing_the_program_ends_the_wait_and_installs_nothing()
@@ -385,7 +385,7 @@ private Q_SLOTS:
         QVERIFY(wait.Ran());
         QVERIFY(ProgramIsEnding());
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(Setting("TorviksDir"), QStringLiteral("(none)"));
+        QCOMPARE(Setting("TorviksDir"), u"(none)"_s);
         QVERIFY(!QFile::exists(InstalledSaver()));
     }
 
@@ -403,9 +403,9 @@ private Q_SLOTS:
         QStringList texts;
         for (const MessageRequest& box : program_->Messages.Shown())
             texts.append(box.Text);
-        QCOMPARE(texts, (QStringList{question, question, QStringLiteral("Photos successfully copied!\r\n"),
-                                     success, success}));
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\Torviks\\"));
+        QCOMPARE(texts,
+                 (QStringList{question, question, u"Photos successfully copied!\r\n"_s, success, success}));
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
         QCOMPARE(Content(InstalledSaver()), saverFile);
     }
 
@@ -423,8 +423,8 @@ private Q_SLOTS:
         InstallWithAYes();
         QVERIFY(wait.Ran());
         QVERIFY(waits);
-        QCOMPARE(folder, QStringLiteral("G:\\Torviks\\"));
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\Torviks\\"));
+        QCOMPARE(folder, u"G:\\Torviks\\"_s);
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
         QCOMPARE(program_->Messages.Last().Text, success);
     }
 
@@ -438,7 +438,7 @@ private Q_SLOTS:
         InstallWithAYes();
         QVERIFY(ProgramIsEnding());
         QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(Setting("TorviksDir"), QStringLiteral("(none)"));
+        QCOMPARE(Setting("TorviksDir"), u"(none)"_s);
     }
 
     void closing_the_play_list_during_the_wait_leaves_the_copy_to_come()
@@ -465,9 +465,9 @@ private Q_SLOTS:
     void a_copy_that_does_not_come_about_is_waited_for_without_an_end()
     {
         QFETCH(QString, reason);
-        if (reason == QStringLiteral("declined"))
-            program_->AddToProgramFolder(QStringLiteral("Torviks/note.txt"), "no photo");
-        if (reason == QStringLiteral("no room"))
+        if (reason == u"declined"_s)
+            program_->AddToProgramFolder(u"Torviks/note.txt"_s, "no photo");
+        if (reason == u"no room"_s)
             SetDiskMeter([](const QString&) { return DiskClusters{8, 512, 1024, 2048}; });
         Open();
         program_->Messages.Answer(msgbox::answerYes);
@@ -478,9 +478,9 @@ private Q_SLOTS:
             if (!WaitHasBegun())
                 return;
             timer.stop();
-            if (rounds == 0 && reason == QStringLiteral("cancelled"))
+            if (rounds == 0 && reason == u"cancelled"_s)
                 program_->Click(Form1->cmdCancel);
-            if (rounds == 0 && reason == QStringLiteral("declined"))
+            if (rounds == 0 && reason == u"declined"_s)
                 program_->Click(Form1->cmdCopy); // the script answers Cancel
             if (++rounds == enough)
                 Form1->mnuExit.Click.Fire();
@@ -491,8 +491,8 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand4);
         QCOMPARE(rounds, 20);
         QVERIFY(state.CopyForSaver);
-        QCOMPARE(program_->Messages.Count(), reason == QStringLiteral("cancelled") ? 1 : 2);
-        QCOMPARE(Setting("TorviksDir"), QStringLiteral("(none)"));
+        QCOMPARE(program_->Messages.Count(), reason == u"cancelled"_s ? 1 : 2);
+        QCOMPARE(Setting("TorviksDir"), u"(none)"_s);
     }
 
     void a_later_copy_from_the_menu_ends_the_wait()
@@ -507,7 +507,7 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand4);
         QVERIFY(wait.Ran());
         QCOMPARE(program_->Messages.Last().Text, success);
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\Torviks\\"));
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
     }
 
     // Failures
@@ -515,14 +515,14 @@ private Q_SLOTS:
     void a_missing_saver_is_reported_and_the_settings_stay_written()
     {
         AddLocalPhotos();
-        QVERIFY(QFile::remove(program_->InProgramFolder(QStringLiteral("Torvik2001.scr"))));
+        QVERIFY(QFile::remove(program_->InProgramFolder(u"Torvik2001.scr"_s)));
         Open();
         program_->Click(Form1->SSCommand4);
         AssertOnly(noSaver);
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER049"));
-        QCOMPARE(Setting("Interval"), QStringLiteral("1"));
-        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + QStringLiteral("\\Torviks\\"));
-        QCOMPARE(Form1->SSCommand6.Caption(), QStringLiteral("Cancel"));
+        QCOMPARE(state.ErrorCode, u"ER049"_s);
+        QCOMPARE(Setting("Interval"), u"1"_s);
+        QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
+        QCOMPARE(Form1->SSCommand6.Caption(), u"Cancel"_s);
         QVERIFY(Form1->pnlSSaver.Visible());
         QVERIFY(Form1->Enabled());
         QVERIFY(!QFile::exists(InstalledSaver()));
@@ -531,21 +531,21 @@ private Q_SLOTS:
     void a_windows_folder_that_takes_no_file_is_reported()
     {
         AddLocalPhotos();
-        QVERIFY(QDir().mkpath(home_->filePath(QStringLiteral("data/torvik2001"))));
-        QFile inItsPlace(home_->filePath(QStringLiteral("data/torvik2001/windows")));
+        QVERIFY(QDir().mkpath(home_->filePath(u"data/torvik2001"_s)));
+        QFile inItsPlace(home_->filePath(u"data/torvik2001/windows"_s));
         QVERIFY(inItsPlace.open(QIODevice::WriteOnly));
         Open();
         program_->Click(Form1->SSCommand4);
         AssertOnly(noSaver);
-        QCOMPARE(Setting("Interval"), QStringLiteral("1"));
+        QCOMPARE(Setting("Interval"), u"1"_s);
     }
 
     void settings_that_cannot_be_written_are_reported_and_nothing_is_copied()
     {
         AddLocalPhotos();
-        QFile inItsPlace(home_->filePath(QStringLiteral("blocked")));
+        QFile inItsPlace(home_->filePath(u"blocked"_s));
         QVERIFY(inItsPlace.open(QIODevice::WriteOnly));
-        qputenv("XDG_CONFIG_HOME", home_->filePath(QStringLiteral("blocked")).toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", home_->filePath(u"blocked"_s).toLocal8Bit());
         Open();
         program_->Click(Form1->SSCommand4);
         AssertOnly(noSaver);
@@ -564,10 +564,10 @@ private Q_SLOTS:
     void a_second_try_after_a_failure_installs()
     {
         AddLocalPhotos();
-        QVERIFY(QFile::remove(program_->InProgramFolder(QStringLiteral("Torvik2001.scr"))));
+        QVERIFY(QFile::remove(program_->InProgramFolder(u"Torvik2001.scr"_s)));
         Open();
         program_->Click(Form1->SSCommand4);
-        program_->AddToProgramFolder(QStringLiteral("Torvik2001.scr"), saverFile);
+        program_->AddToProgramFolder(u"Torvik2001.scr"_s, saverFile);
         program_->Click(Form1->SSCommand4);
         QCOMPARE(program_->Messages.Last().Text, success);
         QCOMPARE(Content(InstalledSaver()), saverFile);
@@ -576,29 +576,29 @@ private Q_SLOTS:
     void a_windows_folder_with_a_blank_is_cut_so_the_copy_fails()
     {
         AddLocalPhotos();
-        qputenv("XDG_DATA_HOME", home_->filePath(QStringLiteral("my data")).toLocal8Bit());
+        qputenv("XDG_DATA_HOME", home_->filePath(u"my data"_s).toLocal8Bit());
         Open();
         program_->Click(Form1->SSCommand4);
         AssertOnly(noSaver);
-        QVERIFY(!QFile::exists(home_->filePath(QStringLiteral("my data/torvik2001/windows/Torvik2001.scr"))));
+        QVERIFY(!QFile::exists(home_->filePath(u"my data/torvik2001/windows/Torvik2001.scr"_s)));
     }
 
     void a_windows_folder_with_a_blank_is_cut_so_the_copy_lands_elsewhere()
     {
         AddLocalPhotos();
-        qputenv("XDG_DATA_HOME", home_->filePath(QStringLiteral("my data")).toLocal8Bit());
-        QVERIFY(QDir(home_->path()).mkdir(QStringLiteral("m")));
+        qputenv("XDG_DATA_HOME", home_->filePath(u"my data"_s).toLocal8Bit());
+        QVERIFY(QDir(home_->path()).mkdir(u"m"_s));
         Open();
         program_->Click(Form1->SSCommand4);
         QCOMPARE(program_->Messages.Last().Text, success);
-        QCOMPARE(Content(home_->filePath(QStringLiteral("m/Torvik2001.scr"))), saverFile);
+        QCOMPARE(Content(home_->filePath(u"m/Torvik2001.scr"_s)), saverFile);
     }
 
     // Help
 
     void help_opens_its_document()
     {
-        program_->Disc.AddDocument(QStringLiteral("SsHelp.rtf"), QStringLiteral("How to install it"));
+        program_->Disc.AddDocument(u"SsHelp.rtf"_s, u"How to install it"_s);
         Open();
         bool waveButtons = true;
         bool okIsWide = false;
@@ -615,10 +615,10 @@ private Q_SLOTS:
             [] { txtForm.Unload(); });
         program_->Click(Form1->SSCommand5);
         QVERIFY(viewed.Came);
-        QCOMPARE(viewed.Caption, QStringLiteral("The Torvik Vollandry       Install Screen Saver Help"));
-        QCOMPARE(viewed.File, QStringLiteral("G:\\richtext\\SsHelp.rtf"));
+        QCOMPARE(viewed.Caption, u"The Torvik Vollandry       Install Screen Saver Help"_s);
+        QCOMPARE(viewed.File, u"G:\\richtext\\SsHelp.rtf"_s);
         QCOMPARE(state.DocumentFile, viewed.File);
-        QCOMPARE(viewed.Text, QStringLiteral("How to install it"));
+        QCOMPARE(viewed.Text, u"How to install it"_s);
         QVERIFY(!waveButtons);
         QVERIFY(okIsWide);
         QVERIFY(program_->Messages.Shown().isEmpty());
@@ -631,12 +631,12 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand5);
         AssertOnly(noHelp);
         QVERIFY(!txtForm.IsLoaded());
-        QCOMPARE(state.DocumentTitle, QStringLiteral("The Torvik Vollandry       Install Screen Saver Help"));
+        QCOMPARE(state.DocumentTitle, u"The Torvik Vollandry       Install Screen Saver Help"_s);
     }
 
     void help_that_cannot_be_read_is_reported()
     {
-        program_->Disc.AddFile(QStringLiteral("RichText/sshelp.rtf"), "");
+        program_->Disc.AddFile(u"RichText/sshelp.rtf"_s, "");
         Open();
         program_->Click(Form1->SSCommand5);
         AssertOnly(noHelp);
@@ -658,9 +658,7 @@ private Q_SLOTS:
         AddLocalPhotos();
         Open();
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(GetSetting(applicationTitle, QStringLiteral("Settings"), QStringLiteral("Interval"),
-                            QStringLiteral("(none)")),
-                 QStringLiteral("(none)"));
+        QCOMPARE(GetSetting(applicationTitle, u"Settings"_s, u"Interval"_s, u"(none)"_s), u"(none)"_s);
     }
 
 private:
@@ -681,32 +679,29 @@ private:
     void Spin(const char* part)
     {
         auto* arrow = Form1->SpinInterval.Widget().findChild<QAbstractButton*>(
-            QStringLiteral("SpinInterval(%1)").arg(QString::fromLatin1(part)));
+            u"SpinInterval(%1)"_s.arg(QString::fromLatin1(part)));
         QVERIFY(arrow != nullptr);
         QTest::mouseClick(arrow, Qt::LeftButton);
     }
 
     void FillPlayList()
     {
-        program_->AddToProgramFolder(QStringLiteral("ssTorviks/67A.JPG"), TestDisc::Jpeg(Qt::red, {8, 8}));
+        program_->AddToProgramFolder(u"ssTorviks/67A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
     }
 
     void AddLocalPhotos()
     {
-        program_->AddToProgramFolder(QStringLiteral("Torviks/67A.JPG"), TestDisc::Jpeg(Qt::red, {8, 8}));
+        program_->AddToProgramFolder(u"Torviks/67A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
     }
 
-    QString InstalledSaver() const
-    {
-        return home_->filePath(QStringLiteral("data/torvik2001/windows/Torvik2001.scr"));
-    }
+    QString InstalledSaver() const { return home_->filePath(u"data/torvik2001/windows/Torvik2001.scr"_s); }
 
     void AssertOnly(const QString& message) const
     {
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text, message);
         QCOMPARE(program_->Messages.Last().Style, msgbox::critical);
-        QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry"));
+        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry"_s);
     }
 
     static bool IsInFrontOf(const Control& front, const Control& back)

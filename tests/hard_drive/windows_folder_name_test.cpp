@@ -4,6 +4,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The Windows folder as the installation of the saver knows it.
@@ -16,23 +17,23 @@ private Q_SLOTS:
 
     void a_folder_without_a_blank_is_taken_whole()
     {
-        PutDataInto(QStringLiteral("home"));
+        PutDataInto(u"home"_s);
         QCOMPARE(WindowsFolderName(), WindowsFolder());
-        QVERIFY(WindowsFolderName().endsWith(QStringLiteral("\\home\\torvik2001\\windows")));
+        QVERIFY(WindowsFolderName().endsWith(u"\\home\\torvik2001\\windows"_s));
     }
 
     void a_folder_with_a_blank_is_cut_two_characters_before_it()
     {
-        PutDataInto(QStringLiteral("my home"));
+        PutDataInto(u"my home"_s);
         const QString whole = WindowsFolder();
-        QVERIFY(whole.contains(QStringLiteral("\\my home\\")));
+        QVERIFY(whole.contains(u"\\my home\\"_s));
         QCOMPARE(WindowsFolderName(), whole.left(whole.indexOf(u' ') - 1));
-        QVERIFY(WindowsFolderName().endsWith(QStringLiteral("\\m")));
+        QVERIFY(WindowsFolderName().endsWith(u"\\m"_s));
     }
 
     void only_the_first_of_several_blanks_counts()
     {
-        PutDataInto(QStringLiteral("a b c d"));
+        PutDataInto(u"a b c d"_s);
         QVERIFY2(WindowsFolderName().endsWith(u'\\'), qPrintable(WindowsFolderName()));
     }
 
@@ -60,12 +61,12 @@ private:
     /// A data folder by which the Windows folder's drive path gets this many characters.
     void PutDataOfLength(qsizetype wanted)
     {
-        PutDataInto(QStringLiteral("x"));
+        PutDataInto(u"x"_s);
         const qsizetype missing = wanted - WindowsFolder().size();
         QVERIFY(missing > 2);
         const QString half(missing / 2 - 1, u'y');
         const QString rest(missing - half.size() - 1, u'z');
-        PutDataInto(QStringLiteral("x") + half + u'/' + rest);
+        PutDataInto(u"x"_s + half + u'/' + rest);
         QCOMPARE(WindowsFolder().size(), wanted);
     }
 

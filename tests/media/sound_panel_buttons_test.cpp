@@ -6,6 +6,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -47,8 +48,8 @@ const Sound sounds[] = {
     {"Going By", "goingby.wav"},
 };
 
-const QString report = QStringLiteral("Error number: ER038\r\n\r\n Unable to load the 'Sound Effects' file."
-                                      "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive.");
+const QString report = u"Error number: ER038\r\n\r\n Unable to load the 'Sound Effects' file."
+                       "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
 
 } // namespace
 
@@ -60,10 +61,10 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
-        program_->Disc.AddGroup(QStringLiteral("69"), 2);
+        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->Disc.AddGroup(u"69"_s, 2);
         for (const Sound& sound : sounds)
-            program_->Disc.AddFile(QStringLiteral("wav/") + QString::fromLatin1(sound.File), "RIFF");
+            program_->Disc.AddFile(u"wav/"_s + QString::fromLatin1(sound.File), "RIFF");
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -82,14 +83,14 @@ private Q_SLOTS:
         const QPoint middle = Form1->pnlSound.Widget().geometry().center();
         const QWidget* top = Form1->Window().Client().childAt(middle);
         QVERIFY(top == &Form1->pnlSound.Widget() || Form1->pnlSound.Widget().isAncestorOf(top));
-        QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+        QCOMPARE(Program::Focus(), u"SSCommand1"_s);
     }
 
     void the_rest_of_the_window_stays_usable()
     {
         Open();
         program_->Click(Form1->cmdYR(3));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1969"));
+        QCOMPARE(Form1->panYear.Caption(), u"1969"_s);
         QVERIFY(Form1->pnlSound.Visible());
     }
 
@@ -107,9 +108,9 @@ private Q_SLOTS:
         QCOMPARE(Form1->lblSound(index).Caption(), QString::fromLatin1(sounds[index].Label));
         QCOMPARE(Form1->SSCommand2(index).Widget().accessibleName(),
                  QString::fromLatin1(sounds[index].Label));
-        QCOMPARE(Form1->SSCommand2(index).Widget().objectName(), QStringLiteral("SSCommand2(%1)").arg(index));
+        QCOMPARE(Form1->SSCommand2(index).Widget().objectName(), u"SSCommand2(%1)"_s.arg(index));
         program_->Click(Form1->SSCommand2(index));
-        QCOMPARE(state.SoundFile, QStringLiteral("G:\\wav\\") + file);
+        QCOMPARE(state.SoundFile, u"G:\\wav\\"_s + file);
         QCOMPARE(Form1->MMControl1.FileName(), state.SoundFile);
         QVERIFY(Form1->MMControl1.IsOpen());
         QCOMPARE(state.YearCode, file);
@@ -125,7 +126,7 @@ private Q_SLOTS:
     void a_sound_plays_at_once_and_stop_ends_it()
     {
         using Mode = MediaControl::Mode;
-        program_->Disc.AddFile(QStringLiteral("wav/taxi.wav"), TestMovie::Wav());
+        program_->Disc.AddFile(u"wav/taxi.wav"_s, TestMovie::Wav());
         Open();
         program_->Click(Form1->SSCommand2(5));
         QCOMPARE(Form1->MMControl1.State(), Mode::Playing);
@@ -140,43 +141,43 @@ private Q_SLOTS:
         Open();
         program_->Click(Form1->SSCommand2(0));
         program_->Click(Form1->SSCommand2(4));
-        QCOMPARE(Form1->MMControl1.FileName(), QStringLiteral("G:\\wav\\cop-car.wav"));
+        QCOMPARE(Form1->MMControl1.FileName(), u"G:\\wav\\cop-car.wav"_s);
         QVERIFY(Form1->MMControl1.IsOpen());
     }
 
     void the_name_found_on_the_disc_stays_the_code_of_the_year_until_the_next_choice()
     {
-        program_->Disc.Remove(QStringLiteral("wav/backfrng.wav"));
-        program_->Disc.AddFile(QStringLiteral("wav/BACKFRNG.WAV"), "RIFF");
-        QCOMPARE(state.YearCode, QStringLiteral("67"));
+        program_->Disc.Remove(u"wav/backfrng.wav"_s);
+        program_->Disc.AddFile(u"wav/BACKFRNG.WAV"_s, "RIFF");
+        QCOMPARE(state.YearCode, u"67"_s);
         Open();
         program_->Click(Form1->SSCommand2(0));
-        QCOMPARE(state.YearCode, QStringLiteral("BACKFRNG.WAV"));
+        QCOMPARE(state.YearCode, u"BACKFRNG.WAV"_s);
         program_->Click(Form1->cmdYR(3));
-        QCOMPARE(state.YearCode, QStringLiteral("69"));
+        QCOMPARE(state.YearCode, u"69"_s);
     }
 
     void a_missing_file_is_reported_and_the_sound_before_left_alone()
     {
-        program_->Disc.Remove(QStringLiteral("wav/carhorns.wav"));
+        program_->Disc.Remove(u"wav/carhorns.wav"_s);
         Open();
         program_->Click(Form1->SSCommand2(0));
         program_->Click(Form1->SSCommand2(2));
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text, report);
         QCOMPARE(program_->Messages.Last().Style, 16);
-        QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry"));
+        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry"_s);
         QCOMPARE(state.YearCode, QString());
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER038"));
-        QCOMPARE(Form1->MMControl1.FileName(), QStringLiteral("G:\\wav\\backfrng.wav"));
+        QCOMPARE(state.ErrorCode, u"ER038"_s);
+        QCOMPARE(Form1->MMControl1.FileName(), u"G:\\wav\\backfrng.wav"_s);
         QVERIFY(Form1->MMControl1.IsOpen());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
     }
 
     void without_the_folder_every_press_is_reported()
     {
         for (const Sound& sound : sounds)
-            program_->Disc.Remove(QStringLiteral("wav/") + QString::fromLatin1(sound.File));
+            program_->Disc.Remove(u"wav/"_s + QString::fromLatin1(sound.File));
         Open();
         for (const int index : {0, 28}) {
             program_->Messages.Clear();
@@ -222,8 +223,8 @@ private Q_SLOTS:
         QVERIFY(!Form1->pnlSound.Visible());
         QVERIFY(Form1->Enabled());
         QVERIFY(Form1->MMControl1.IsOpen());
-        QCOMPARE(Form1->SSCommand1.Caption(), QStringLiteral("Close"));
-        QCOMPARE(Form1->SSCommand3.Caption(), QStringLiteral("Stop"));
+        QCOMPARE(Form1->SSCommand1.Caption(), u"Close"_s);
+        QCOMPARE(Form1->SSCommand3.Caption(), u"Stop"_s);
     }
 
 private:

@@ -5,16 +5,16 @@
 #include <QFile>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
-const QString question = QStringLiteral("If you are experiencing difficulties running the Torvik movies,\r\n"
-                                        "you may need to install the Intel Indeo Video Software.\r\n\r\n"
-                                        "Would you like to install this software now?");
-const QString report =
-    QStringLiteral("Error number: ER003\r\n\r\n Unable to load Intel Video driver install software."
-                   "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive.");
+const QString question = u"If you are experiencing difficulties running the Torvik movies,\r\n"
+                         "you may need to install the Intel Indeo Video Software.\r\n\r\n"
+                         "Would you like to install this software now?"_s;
+const QString report = u"Error number: ER003\r\n\r\n Unable to load Intel Video driver install software."
+                       "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
 
 } // namespace
 
@@ -26,8 +26,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
-        program_->Disc.AddFile(QStringLiteral("movies/Torvik67.avi"), TestMovie::Avi());
+        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->Disc.AddFile(u"movies/Torvik67.avi"_s, TestMovie::Avi());
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -40,7 +40,7 @@ private Q_SLOTS:
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text, question);
         QCOMPARE(program_->Messages.Last().Style, msgbox::question | msgbox::yesNo);
-        QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry 2001"));
+        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(int(state.MessageResult), 7);
         QVERIFY(!Installed());
         QVERIFY(!frmMovie.IsLoaded());
@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(program_->Messages.Count(), 2);
         QCOMPARE(program_->Messages.Last().Text, report);
         QCOMPARE(program_->Messages.Last().Style, 16);
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER003"));
+        QCOMPARE(state.ErrorCode, u"ER003"_s);
         QVERIFY(Form1->Enabled());
     }
 
@@ -132,12 +132,12 @@ private:
 
     void AddInstaller()
     {
-        const QString file = QStringLiteral("IndeoVideo/iv5play.exe");
+        const QString file = u"IndeoVideo/iv5play.exe"_s;
         program_->Disc.AddFile(file, "#!/bin/sh\ntouch \"$(dirname \"$0\")/done\"\n");
         QVERIFY(QFile::setPermissions(program_->Disc.PathOf(file),
                                       QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
-    bool Installed() const { return QFile::exists(program_->Disc.PathOf(QStringLiteral("IndeoVideo/done"))); }
+    bool Installed() const { return QFile::exists(program_->Disc.PathOf(u"IndeoVideo/done"_s)); }
 
     std::unique_ptr<Program> program_;
 };

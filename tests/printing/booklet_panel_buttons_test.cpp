@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Opening, clearing and closing the booklet panel.
@@ -17,8 +18,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
-        program_->Disc.AddGroup(QStringLiteral("69"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->Disc.AddGroup(u"69"_s, 1);
         printed_ = std::make_unique<PrintFolder>();
         program_->StartBrowsing();
     }
@@ -84,8 +85,8 @@ private Q_SLOTS:
     {
         Open();
         ChooseEverything();
-        Form1->cmdPrint.SetCaption(QStringLiteral("Print Again"));
-        Form1->cmdOK.SetCaption(QStringLiteral("Exit"));
+        Form1->cmdPrint.SetCaption(u"Print Again"_s);
+        Form1->cmdOK.SetCaption(u"Exit"_s);
         program_->Click(Form1->SSCommand7);
         ExpectReset();
         QVERIFY(Form1->pnlPrint.Visible());
@@ -191,15 +192,15 @@ private Q_SLOTS:
         program_->Click(Form1->cmdYR(3));
         Open();
         program_->Click(Form1->cmdOK);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1969"));
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("69A.JPG"));
+        QCOMPARE(Form1->panYear.Caption(), u"1969"_s);
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"69A.JPG"_s);
         QCOMPARE(printed_->Files(), QStringList());
     }
 
 private:
     void Open()
     {
-        ChooseMenu(*Form1, QStringLiteral("mnuPrnt"));
+        ChooseMenu(*Form1, u"mnuPrnt"_s);
         program_->Settle();
     }
 
@@ -217,8 +218,8 @@ private:
         for (int index = 0; index <= 7; ++index)
             QVERIFY(!Form1->Check1(index).Value());
         QVERIFY(!Form1->cmdPrint.Enabled());
-        QCOMPARE(Form1->cmdPrint.Caption(), QStringLiteral("Print"));
-        QCOMPARE(Form1->cmdOK.Caption(), QStringLiteral("Cancel"));
+        QCOMPARE(Form1->cmdPrint.Caption(), u"Print"_s);
+        QCOMPARE(Form1->cmdOK.Caption(), u"Cancel"_s);
         for (const int index : {0, 1}) {
             QCOMPARE(Form1->List1(index).ListIndex(), -1);
             QCOMPARE(Form1->List1(index).Text(), QString());

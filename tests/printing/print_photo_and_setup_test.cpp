@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -27,8 +28,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddPhoto(QStringLiteral("67A.JPG"), QColor(220, 20, 20), {320, 200});
-        program_->Disc.AddPhoto(QStringLiteral("69A.JPG"), QColor(20, 20, 220), {200, 320});
+        program_->Disc.AddPhoto(u"67A.JPG"_s, QColor(220, 20, 20), {320, 200});
+        program_->Disc.AddPhoto(u"69A.JPG"_s, QColor(20, 20, 220), {200, 320});
         printed_ = std::make_unique<PrintFolder>();
         program_->StartBrowsing();
     }
@@ -43,9 +44,9 @@ private Q_SLOTS:
     {
         ChoosePrintPhoto(msgbox::answerCancel);
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, QStringLiteral("Would you like to print this photograph?"));
+        QCOMPARE(program_->Messages.Last().Text, u"Would you like to print this photograph?"_s);
         QCOMPARE(program_->Messages.Last().Style, 32 + 1);
-        QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry 2001"));
+        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(int(state.MessageResult), 2);
     }
 
@@ -61,7 +62,7 @@ private Q_SLOTS:
         ChoosePrintPhoto(msgbox::answerOk);
         QCOMPARE(int(state.MessageResult), 1);
         QVERIFY(!Printer.HasJob());
-        QCOMPARE(printed_->Files(), QStringList(QStringLiteral("job-1.pdf")));
+        QCOMPARE(printed_->Files(), QStringList(u"job-1.pdf"_s));
         QCOMPARE(printed_->Pages(1).size(), 1);
         const QRectF photo = InkOf(printed_->Image(1, 1), [](const QColor& colour) {
             return colour.red() > 180 && colour.green() < 80;
@@ -76,7 +77,7 @@ private Q_SLOTS:
     {
         ChoosePrintPhoto(msgbox::answerOk);
         const QList<QRectF> words = WordBoxes();
-        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("The Torvik Vollandry 2001 1967"));
+        QCOMPARE(printed_->Pages(1).first().simplified(), u"The Torvik Vollandry 2001 1967"_s);
         // Word by word: The Torvik Vollandry 2001, then the year two lines below.
         QCOMPARE(words.size(), 5);
         const double line = (words.at(4).top() - words.at(0).top()) / 2;
@@ -92,9 +93,9 @@ private Q_SLOTS:
     void the_year_line_is_the_caption_whatever_it_says_data()
     {
         QTest::addColumn<QString>("caption");
-        QTest::newRow("nothing chosen yet") << QStringLiteral("panYear");
-        QTest::newRow("a topic") << QStringLiteral("Danbury Mint Die Cast Models ");
-        QTest::newRow("another year") << QStringLiteral("2001");
+        QTest::newRow("nothing chosen yet") << u"panYear"_s;
+        QTest::newRow("a topic") << u"Danbury Mint Die Cast Models "_s;
+        QTest::newRow("another year") << u"2001"_s;
     }
     void the_year_line_is_the_caption_whatever_it_says()
     {
@@ -102,14 +103,13 @@ private Q_SLOTS:
         Form1->panYear.SetCaption(caption);
         ChoosePrintPhoto(msgbox::answerOk);
         QCOMPARE(printed_->Pages(1).first().simplified(),
-                 QStringLiteral("The Torvik Vollandry 2001 ") + caption.trimmed());
+                 u"The Torvik Vollandry 2001 "_s + caption.trimmed());
     }
 
     void what_is_on_show_is_printed_also_when_it_is_no_photo_of_a_year()
     {
-        program_->Disc.AddFile(QStringLiteral("ads/67ad.jpg"),
-                               TestDisc::Jpeg(QColor(20, 160, 20), {100, 50}));
-        Form1->Image4.Load(QStringLiteral("G:\\ads\\67ad.jpg"));
+        program_->Disc.AddFile(u"ads/67ad.jpg"_s, TestDisc::Jpeg(QColor(20, 160, 20), {100, 50}));
+        Form1->Image4.Load(u"G:\\ads\\67ad.jpg"_s);
         ChoosePrintPhoto(msgbox::answerOk);
         const QRectF picture = InkOf(printed_->Image(1, 1), [](const QColor& colour) {
             return colour.green() > 120 && colour.red() < 80;
@@ -120,7 +120,7 @@ private Q_SLOTS:
 
     void a_large_picture_runs_off_the_page()
     {
-        program_->Disc.AddPhoto(QStringLiteral("69A.JPG"), QColor(20, 20, 220), {2000, 1500});
+        program_->Disc.AddPhoto(u"69A.JPG"_s, QColor(20, 20, 220), {2000, 1500});
         program_->Click(Form1->cmdYR(3));
         ChoosePrintPhoto(msgbox::answerOk);
         QCOMPARE(printed_->Pages(1).size(), 1);
@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         Form1->Image4.Clear();
         ChoosePrintPhoto(msgbox::answerOk);
-        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("The Torvik Vollandry 2001 1967"));
+        QCOMPARE(printed_->Pages(1).first().simplified(), u"The Torvik Vollandry 2001 1967"_s);
         QVERIFY(InkOf(printed_->Image(1, 1)).bottom() < border + 3000);
     }
 
@@ -146,28 +146,26 @@ private Q_SLOTS:
         ChoosePrintPhoto(msgbox::answerOk);
         program_->Click(Form1->cmdYR(3));
         ChoosePrintPhoto(msgbox::answerOk);
-        QCOMPARE(printed_->Files(), QStringList({QStringLiteral("job-1.pdf"), QStringLiteral("job-2.pdf")}));
-        QVERIFY(printed_->Pages(2).first().contains(QStringLiteral("1969")));
+        QCOMPARE(printed_->Files(), QStringList({u"job-1.pdf"_s, u"job-2.pdf"_s}));
+        QVERIFY(printed_->Pages(2).first().contains(u"1969"_s));
     }
 
     void a_printer_error_ends_the_program_with_the_run_time_error()
     {
-        Printer.PrintTo(QStringLiteral("/proc/nothing/here"));
+        Printer.PrintTo(u"/proc/nothing/here"_s);
         ChoosePrintPhoto(msgbox::answerOk);
         QVERIFY(ProgramIsEnding());
         QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Run-time error '482':\r\n\r\nPrinter error"));
+        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '482':\r\n\r\nPrinter error"_s);
     }
 
     void a_printer_that_is_gone_is_that_error_too()
     {
         Printer.PrintTo({});
-        Printer.SetUp(PrinterSetup{QStringLiteral("Gone"), QPageSize(QPageSize::A4)});
+        Printer.SetUp(PrinterSetup{u"Gone"_s, QPageSize(QPageSize::A4)});
         ChoosePrintPhoto(msgbox::answerOk);
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Run-time error '482':\r\n\r\nPrinter error"));
+        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '482':\r\n\r\nPrinter error"_s);
     }
 
     void print_setup_asks_once_with_the_flag_of_a_set_up()
@@ -177,7 +175,7 @@ private Q_SLOTS:
             ++asked;
             return std::optional<PrinterSetup>();
         });
-        ChooseMenu(*Form1, QStringLiteral("mnuPrint"));
+        ChooseMenu(*Form1, u"mnuPrint"_s);
         QCOMPARE(asked, 1);
         QCOMPARE(Form1->dlgPrint.Flags(), 64);
         QVERIFY(!Printer.HasJob());
@@ -190,7 +188,7 @@ private Q_SLOTS:
             return std::optional(
                 PrinterSetup{present.Name, QPageSize(QPageSize::A5), QPageLayout::Landscape});
         });
-        ChooseMenu(*Form1, QStringLiteral("mnuPrint"));
+        ChooseMenu(*Form1, u"mnuPrint"_s);
         for (int job = 1; job <= 2; ++job) {
             ChoosePrintPhoto(msgbox::answerOk);
             QVERIFY(qAbs(printed_->Paper(job).width() - 210 / 25.4 * 1440) < millimetre);
@@ -201,7 +199,7 @@ private Q_SLOTS:
     {
         const PrinterSetup before = Printer.Setup();
         SetPrinterResponder([](const PrinterSetup&, const QList<PrinterOption>&) { return std::nullopt; });
-        ChooseMenu(*Form1, QStringLiteral("mnuPrint"));
+        ChooseMenu(*Form1, u"mnuPrint"_s);
         QCOMPARE(Printer.Setup(), before);
         QCOMPARE(program_->Messages.Count(), 0);
     }
@@ -210,19 +208,18 @@ private:
     void ChoosePrintPhoto(int answer)
     {
         program_->Messages.Answer(answer);
-        ChooseMenu(*Form1, QStringLiteral("mnuPrintPhoto"));
+        ChooseMenu(*Form1, u"mnuPrintPhoto"_s);
     }
 
     /// Where each word of the first job's page stands, in twips.
     QList<QRectF> WordBoxes() const
     {
         QProcess process;
-        process.start(QStringLiteral("pdftotext"),
-                      {QStringLiteral("-bbox"), printed_->FileOf(1), QStringLiteral("-")});
+        process.start(u"pdftotext"_s, {u"-bbox"_s, printed_->FileOf(1), u"-"_s});
         if (!process.waitForFinished())
             qFatal("pdftotext does not read the printed file");
-        static const QRegularExpression word(QStringLiteral(
-            "<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\""));
+        static const QRegularExpression word(
+            u"<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\""_s);
         QList<QRectF> boxes;
         for (auto found = word.globalMatch(QString::fromUtf8(process.readAllStandardOutput()));
              found.hasNext();) {

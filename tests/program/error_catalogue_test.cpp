@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Every code of the catalogue with its text, to the blank.
@@ -85,9 +86,8 @@ private Q_SLOTS:
 
     void the_sound_file_loses_its_first_five_characters()
     {
-        state.SoundFile = QStringLiteral("E:\\wav\\1969.wav");
-        QCOMPARE(CatalogueEntryOf(QStringLiteral("ER032")).Text,
-                 QStringLiteral(" Unable to load sound file: v\\1969.wav"));
+        state.SoundFile = u"E:\\wav\\1969.wav"_s;
+        QCOMPARE(CatalogueEntryOf(u"ER032"_s).Text, u" Unable to load sound file: v\\1969.wav"_s);
         QCOMPARE(int(state.LoopIndex), 10);
     }
 };

@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// What is noted for the help window, and its end.
@@ -34,19 +35,19 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         SetProgramFolder(folder.path());
-        QCOMPARE(HelpFile(), ProgramFolder() + QStringLiteral("\\Torvik2001.HLP"));
+        QCOMPARE(HelpFile(), ProgramFolder() + u"\\Torvik2001.HLP"_s);
     }
 
     void a_program_folder_that_is_a_root_gets_no_second_backslash()
     {
-        SetProgramFolder(QStringLiteral("/"));
-        QCOMPARE(HelpFile(), QStringLiteral("C:\\Torvik2001.HLP"));
+        SetProgramFolder(u"/"_s);
+        QCOMPARE(HelpFile(), u"C:\\Torvik2001.HLP"_s);
     }
 
     void quitting_closes_the_help_that_is_open()
     {
         QWidget help;
-        help.setObjectName(QStringLiteral("HelpViewer"));
+        help.setObjectName(u"HelpViewer"_s);
         help.show();
         QuitHelp();
         QVERIFY(!help.isVisible());

@@ -4,12 +4,13 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form({QStringLiteral("Main"), QStringLiteral("Main"), 3000, 2000}) {}
+    MainForm() : Form({u"Main"_s, u"Main"_s, 3000, 2000}) {}
 };
 
 FormHandle<MainForm> Main;

@@ -6,6 +6,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The year button that the focus moves on to.
@@ -16,7 +17,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
         Form1->cmdYR(1).SetEnabled(true);
         Form1->cmdYR(20).SetFocus();
@@ -35,11 +36,11 @@ private Q_SLOTS:
     {
         state.CurrentYearButton = 7;
         FocusNextYearButton();
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(8)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(8)"_s);
         QCOMPARE(int(state.CurrentYearButton), 7);
         state.CurrentYearButton = 35;
         FocusNextYearButton();
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(1)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(1)"_s);
     }
 
     void a_disabled_button_is_failure_5()

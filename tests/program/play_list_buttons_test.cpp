@@ -7,6 +7,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The entry of the photo on show, and the buttons that follow it.
@@ -17,7 +18,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
+        program_->Disc.AddGroup(u"67"_s, 2);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -25,30 +26,30 @@ private Q_SLOTS:
     void a_photo_has_an_entry_of_its_own_name()
     {
         state.TorviksPathPos = 99;
-        QCOMPARE(PlayListEntry(), ProgramFolder() + QStringLiteral("\\ssTorviks\\67A.JPG"));
+        QCOMPARE(PlayListEntry(), ProgramFolder() + u"\\ssTorviks\\67A.JPG"_s);
         QCOMPARE(int(state.TorviksPathPos), 3);
     }
 
     void the_opening_picture_has_its_own_entry()
     {
         Form1->panYear.SetCaption(nothingChosen);
-        QCOMPARE(PlayListEntry(), ProgramFolder() + QStringLiteral("\\ssTorviks\\ClassicTorviks.jpg"));
+        QCOMPARE(PlayListEntry(), ProgramFolder() + u"\\ssTorviks\\ClassicTorviks.jpg"_s);
     }
 
     void the_buttons_tell_whether_the_photo_is_listed()
     {
         QVERIFY(frmSSPhoto->SSCommand7.Enabled());
         QVERIFY(!frmSSPhoto->SSCommand8.Enabled());
-        program_->AddToProgramFolder(QStringLiteral("SSTORVIKS/67a.jpg"), "x");
+        program_->AddToProgramFolder(u"SSTORVIKS/67a.jpg"_s, "x");
         UpdatePlayListButtons();
         QVERIFY(!frmSSPhoto->SSCommand7.Enabled());
         QVERIFY(frmSSPhoto->SSCommand8.Enabled());
-        QCOMPARE(state.CopyTarget, ProgramFolder() + QStringLiteral("\\ssTorviks\\67A.JPG"));
+        QCOMPARE(state.CopyTarget, ProgramFolder() + u"\\ssTorviks\\67A.JPG"_s);
     }
 
     void a_step_updates_them_at_once_while_the_form_is_not_on_the_screen()
     {
-        program_->AddToProgramFolder(QStringLiteral("ssTorviks/67B.JPG"), "x");
+        program_->AddToProgramFolder(u"ssTorviks/67B.JPG"_s, "x");
         program_->Press(Qt::Key_Period);
         QVERIFY(!frmSSPhoto->Visible());
         QVERIFY(!frmSSPhoto->SSCommand7.Enabled());

@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The record of program-wide variables.
@@ -53,7 +54,7 @@ private Q_SLOTS:
         for (OneBasedArray<QString>* list : {&fresh.PhotoFiles, &fresh.PhotoNumbers, &fresh.MovieFiles}) {
             QCOMPARE(list->Count(), 0);
             list->Resize(1);
-            (*list)(1) = QStringLiteral("first");
+            (*list)(1) = u"first"_s;
             QCOMPARE(ResumeNext([list] { (*list)(0) = QString(); }), 9);
             QCOMPARE(ResumeNext([list] { (*list)(2) = QString(); }), 9);
         }

@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The steps of the delay between two photos.
@@ -74,10 +75,10 @@ private Q_SLOTS:
 
     void the_text_is_the_number_of_seconds_without_a_blank()
     {
-        QCOMPARE(DelayInSeconds(1000), QStringLiteral("1"));
-        QCOMPARE(DelayInSeconds(5000), QStringLiteral("5"));
-        QCOMPARE(DelayInSeconds(60000), QStringLiteral("60"));
-        QCOMPARE(DelayInSeconds(1500), QStringLiteral("1.5"));
+        QCOMPARE(DelayInSeconds(1000), u"1"_s);
+        QCOMPARE(DelayInSeconds(5000), u"5"_s);
+        QCOMPARE(DelayInSeconds(60000), u"60"_s);
+        QCOMPARE(DelayInSeconds(1500), u"1.5"_s);
     }
 };
 

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The code of the topic that the main window names.
@@ -15,7 +16,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -47,7 +48,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, code);
         Form1->panYear.SetCaption(QString::fromLatin1(QTest::currentDataTag()));
-        state.YearCode = QStringLiteral("69");
+        state.YearCode = u"69"_s;
         TakeCodeOfTitle();
         QCOMPARE(state.YearCode, code);
     }
@@ -57,9 +58,9 @@ private Q_SLOTS:
         for (const char* title : {"1969", "1967 ", "2000", "2001", "panYear", "The Tarrant Torvik ", "19TC ",
                                   "Torvik Cookies", "torvik cookies "}) {
             Form1->panYear.SetCaption(QString::fromLatin1(title));
-            state.YearCode = QStringLiteral("xy");
+            state.YearCode = u"xy"_s;
             TakeCodeOfTitle();
-            QCOMPARE(state.YearCode, QStringLiteral("xy"));
+            QCOMPARE(state.YearCode, u"xy"_s);
         }
     }
 

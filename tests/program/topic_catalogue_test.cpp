@@ -8,6 +8,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Titles, codes and what they do to the buttons.
@@ -72,15 +73,15 @@ private Q_SLOTS:
              {&Form1->cmdOptions, &Form1->cmdColors, &Form1->cmdScript, &Form1->cmdEmblem, &Form1->cmdAd,
               &Form1->cmdNostalgia, &Form1->cmdClipArt})
             QVERIFY2(button->Enabled() == rest, qPrintable(button->Name()));
-        QCOMPARE(state.CurrentPhotoFile, QStringLiteral("G:\\Torviks\\") + code + QStringLiteral("A.JPG"));
+        QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\"_s + code + u"A.JPG"_s);
         QVERIFY(program_->Messages.Shown().isEmpty());
     }
 
     void the_classic_harwell_keeps_some_buttons_of_a_year()
     {
-        Select(QStringLiteral("The Classic Harwell "));
-        QCOMPARE(state.YearCode, QStringLiteral("SB"));
-        QCOMPARE(Form1->cmdStats.Caption(), QStringLiteral("Details"));
+        Select(u"The Classic Harwell "_s);
+        QCOMPARE(state.YearCode, u"SB"_s);
+        QCOMPARE(Form1->cmdStats.Caption(), u"Details"_s);
         for (const Button* button :
              {&Form1->cmdDesc, &Form1->cmdStats, &Form1->cmdClipArt, &Form1->cmdNostalgia})
             QVERIFY2(!button->Enabled(), qPrintable(button->Name()));
@@ -91,10 +92,10 @@ private Q_SLOTS:
 
     void a_title_outside_the_catalogue_has_no_photos()
     {
-        Select(QStringLiteral("Lemuel Ostrand Art Print "));
-        QCOMPARE(state.YearCode, QStringLiteral("mu"));
+        Select(u"Lemuel Ostrand Art Print "_s);
+        QCOMPARE(state.YearCode, u"mu"_s);
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER023")));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER023"_s));
         QVERIFY(!Form1->Image4.Visible());
         QVERIFY(Form1->cmdDesc.Enabled());
         QVERIFY(Form1->cmdAd.Enabled());
@@ -102,9 +103,9 @@ private Q_SLOTS:
 
     void a_title_counts_only_with_its_trailing_blank()
     {
-        QVERIFY(TopicOf(QStringLiteral("Torvik Cookies ")) != nullptr);
-        QVERIFY(TopicOf(QStringLiteral("Torvik Cookies")) == nullptr);
-        QVERIFY(TopicOf(QStringLiteral("torvik cookies ")) == nullptr);
+        QVERIFY(TopicOf(u"Torvik Cookies "_s) != nullptr);
+        QVERIFY(TopicOf(u"Torvik Cookies"_s) == nullptr);
+        QVERIFY(TopicOf(u"torvik cookies "_s) == nullptr);
     }
 
     void a_prefix_has_its_slide_caption_data()
@@ -141,7 +142,7 @@ private Q_SLOTS:
 
     void the_slide_caption_follows_the_photo_at_the_cursor()
     {
-        Select(QStringLiteral("1967"));
+        Select(u"1967"_s);
         for (state.PhotoIndex = 1; state.PhotoIndex <= state.PhotoCount; state.PhotoIndex += 1) {
             SetSlideCaption();
             const QString prefix = state.PhotoFiles(state.PhotoIndex).mid(11, 2);
@@ -160,7 +161,7 @@ private:
     void Select(const QString& title)
     {
         program_->Messages.Clear();
-        Form1->cmdStats.SetCaption(QStringLiteral("Kept"));
+        Form1->cmdStats.SetCaption(u"Kept"_s);
         Form1->cmdYR(1).SetEnabled(true);
         Form1->panYear.SetCaption(title);
         SelectYear();

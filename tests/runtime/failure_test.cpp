@@ -4,6 +4,7 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class FailureTest : public QObject {
@@ -70,7 +71,7 @@ private Q_SLOTS:
     void a_number_that_is_not_known_has_the_general_text()
     {
         for (const int number : {0, 1, 4, 8, 77, 1000, 32767, 65536, -1})
-            QCOMPARE(RunTimeErrorText(number), QStringLiteral("Application-defined or object-defined error"));
+            QCOMPARE(RunTimeErrorText(number), u"Application-defined or object-defined error"_s);
     }
 
     void fail_throws_its_number()

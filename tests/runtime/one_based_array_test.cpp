@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class OneBasedArrayTest : public QObject {
@@ -14,9 +15,9 @@ private Q_SLOTS:
     {
         OneBasedArray<QString> names;
         names.Resize(2);
-        names(1) = QStringLiteral("a");
-        names(2) = QStringLiteral("b");
-        QCOMPARE(*names.begin(), QStringLiteral("a"));
+        names(1) = u"a"_s;
+        names(2) = u"b"_s;
+        QCOMPARE(*names.begin(), u"a"_s);
         QCOMPARE(names.Count(), 2);
     }
 
@@ -37,9 +38,9 @@ private Q_SLOTS:
     {
         OneBasedArray<QString> names;
         names.Resize(1);
-        names(1) = QStringLiteral("a");
+        names(1) = u"a"_s;
         names.Resize(2);
-        QCOMPARE(names(1), QStringLiteral("a"));
+        QCOMPARE(names(1), u"a"_s);
         QCOMPARE(names(2), QString());
     }
 

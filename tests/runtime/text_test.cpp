@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class TextTest : public QObject {
@@ -14,62 +15,60 @@ class TextTest : public QObject {
 private Q_SLOTS:
     void mid_counts_from_one()
     {
-        QCOMPARE(Mid(QStringLiteral("abcdef"), 1, 2), QStringLiteral("ab"));
-        QCOMPARE(Mid(QStringLiteral("abcdef"), 3, 2), QStringLiteral("cd"));
-        QCOMPARE(Mid(QStringLiteral("abcdef"), 5), QStringLiteral("ef"));
+        QCOMPARE(Mid(u"abcdef"_s, 1, 2), u"ab"_s);
+        QCOMPARE(Mid(u"abcdef"_s, 3, 2), u"cd"_s);
+        QCOMPARE(Mid(u"abcdef"_s, 5), u"ef"_s);
     }
 
     void mid_of_a_shorter_text_is_what_there_is()
     {
-        QCOMPARE(Mid(QStringLiteral("abc"), 2, 99), QStringLiteral("bc"));
-        QCOMPARE(Mid(QStringLiteral("abc"), 4, 1), QString());
-        QCOMPARE(Mid(QStringLiteral("abc"), 4), QString());
-        QCOMPARE(Mid(QStringLiteral("abc"), 99), QString());
+        QCOMPARE(Mid(u"abc"_s, 2, 99), u"bc"_s);
+        QCOMPARE(Mid(u"abc"_s, 4, 1), QString());
+        QCOMPARE(Mid(u"abc"_s, 4), QString());
+        QCOMPARE(Mid(u"abc"_s, 99), QString());
         QCOMPARE(Mid(QString(), 1, 1), QString());
-        QCOMPARE(Mid(QStringLiteral("abc"), std::numeric_limits<int>::max(), std::numeric_limits<int>::max()),
-                 QString());
-        QCOMPARE(Mid(QStringLiteral("abc"), 2, 0), QString());
+        QCOMPARE(Mid(u"abc"_s, std::numeric_limits<int>::max(), std::numeric_limits<int>::max()), QString());
+        QCOMPARE(Mid(u"abc"_s, 2, 0), QString());
     }
 
     void impossible_positions_and_lengths_are_failures()
     {
-        QCOMPARE(FailureOf([] { Mid(QStringLiteral("abc"), 0, 1); }), failure::invalidCall);
-        QCOMPARE(FailureOf([] { Mid(QStringLiteral("abc"), 1, -1); }), failure::invalidCall);
-        QCOMPARE(FailureOf([] { Mid(QStringLiteral("abc"), 0); }), failure::invalidCall);
-        QCOMPARE(FailureOf([] { Left(QStringLiteral("abc"), -1); }), failure::invalidCall);
-        QCOMPARE(FailureOf([] { Right(QStringLiteral("abc"), -1); }), failure::invalidCall);
-        QCOMPARE(FailureOf([] { InStr(QStringLiteral("abc"), QStringLiteral("a"), 0); }),
-                 failure::invalidCall);
+        QCOMPARE(FailureOf([] { Mid(u"abc"_s, 0, 1); }), failure::invalidCall);
+        QCOMPARE(FailureOf([] { Mid(u"abc"_s, 1, -1); }), failure::invalidCall);
+        QCOMPARE(FailureOf([] { Mid(u"abc"_s, 0); }), failure::invalidCall);
+        QCOMPARE(FailureOf([] { Left(u"abc"_s, -1); }), failure::invalidCall);
+        QCOMPARE(FailureOf([] { Right(u"abc"_s, -1); }), failure::invalidCall);
+        QCOMPARE(FailureOf([] { InStr(u"abc"_s, u"a"_s, 0); }), failure::invalidCall);
     }
 
     void left_and_right_cut_at_the_ends()
     {
-        QCOMPARE(Left(QStringLiteral("abc"), 2), QStringLiteral("ab"));
-        QCOMPARE(Left(QStringLiteral("abc"), 0), QString());
-        QCOMPARE(Left(QStringLiteral("abc"), 9), QStringLiteral("abc"));
-        QCOMPARE(Right(QStringLiteral("abc"), 2), QStringLiteral("bc"));
-        QCOMPARE(Right(QStringLiteral("abc"), 0), QString());
-        QCOMPARE(Right(QStringLiteral("abc"), 9), QStringLiteral("abc"));
+        QCOMPARE(Left(u"abc"_s, 2), u"ab"_s);
+        QCOMPARE(Left(u"abc"_s, 0), QString());
+        QCOMPARE(Left(u"abc"_s, 9), u"abc"_s);
+        QCOMPARE(Right(u"abc"_s, 2), u"bc"_s);
+        QCOMPARE(Right(u"abc"_s, 0), QString());
+        QCOMPARE(Right(u"abc"_s, 9), u"abc"_s);
     }
 
     void in_str_gives_the_position_from_one_and_zero_for_nothing()
     {
-        const QString path = QStringLiteral("E:\\Torviks\\67A.JPG");
-        QCOMPARE(InStr(path, QStringLiteral("\\Torviks\\")), 3);
-        QCOMPARE(InStr(path, QStringLiteral("E")), 1);
-        QCOMPARE(InStr(path, QStringLiteral("\\torviks\\")), 0);
-        QCOMPARE(InStr(path, QStringLiteral("\\"), 4), 11);
-        QCOMPARE(InStr(path, QStringLiteral("E"), 2), 0);
-        QCOMPARE(InStr(path, QStringLiteral("E"), 999), 0);
+        const QString path = u"E:\\Torviks\\67A.JPG"_s;
+        QCOMPARE(InStr(path, u"\\Torviks\\"_s), 3);
+        QCOMPARE(InStr(path, u"E"_s), 1);
+        QCOMPARE(InStr(path, u"\\torviks\\"_s), 0);
+        QCOMPARE(InStr(path, u"\\"_s, 4), 11);
+        QCOMPARE(InStr(path, u"E"_s, 2), 0);
+        QCOMPARE(InStr(path, u"E"_s, 999), 0);
     }
 
     void in_str_of_empty_texts()
     {
-        QCOMPARE(InStr(QString(), QStringLiteral("a")), 0);
+        QCOMPARE(InStr(QString(), u"a"_s), 0);
         QCOMPARE(InStr(QString(), QString()), 0);
-        QCOMPARE(InStr(QStringLiteral("abc"), QString()), 1);
-        QCOMPARE(InStr(QStringLiteral("abc"), QString(), 2), 2);
-        QCOMPARE(InStr(QStringLiteral("abc"), QString(), 4), 0);
+        QCOMPARE(InStr(u"abc"_s, QString()), 1);
+        QCOMPARE(InStr(u"abc"_s, QString(), 2), 2);
+        QCOMPARE(InStr(u"abc"_s, QString(), 4), 0);
     }
 
     void what_reads_as_a_number_data()
@@ -121,42 +120,42 @@ private Q_SLOTS:
 
     void val_takes_the_number_that_the_text_begins_with()
     {
-        QCOMPARE(Val(QStringLiteral("67TOR001")), 67.0);
-        QCOMPARE(Val(QStringLiteral(" 1 615 198th Street")), 1615198.0);
-        QCOMPARE(Val(QStringLiteral("3.5.7")), 3.5);
-        QCOMPARE(Val(QStringLiteral("12e")), 12.0);
-        QCOMPARE(Val(QStringLiteral("-4 mm")), -4.0);
-        QCOMPARE(Val(QStringLiteral("M1")), 0.0);
+        QCOMPARE(Val(u"67TOR001"_s), 67.0);
+        QCOMPARE(Val(u" 1 615 198th Street"_s), 1615198.0);
+        QCOMPARE(Val(u"3.5.7"_s), 3.5);
+        QCOMPARE(Val(u"12e"_s), 12.0);
+        QCOMPARE(Val(u"-4 mm"_s), -4.0);
+        QCOMPARE(Val(u"M1"_s), 0.0);
         QCOMPARE(Val(QString()), 0.0);
-        QCOMPARE(Val(QStringLiteral(".")), 0.0);
+        QCOMPARE(Val(u"."_s), 0.0);
     }
 
     void val_never_fails_not_even_beyond_the_range()
     {
-        QCOMPARE(Val(QStringLiteral("1e999")), std::numeric_limits<double>::max());
-        QCOMPARE(Val(QStringLiteral("-1e999")), -std::numeric_limits<double>::max());
+        QCOMPARE(Val(u"1e999"_s), std::numeric_limits<double>::max());
+        QCOMPARE(Val(u"-1e999"_s), -std::numeric_limits<double>::max());
         QCOMPARE(Val(QString(100000, u'9')), std::numeric_limits<double>::max());
     }
 
     void the_range_is_that_of_the_value_and_not_of_its_spelling()
     {
-        QCOMPARE(Val(QStringLiteral("0.") + QString(400, u'0') + QStringLiteral("1")), 0.0);
-        QCOMPARE(Val(QStringLiteral("0.") + QString(400, u'0') + QStringLiteral("1e401")), 1.0);
-        QCOMPARE(Val(QString(400, u'9') + QStringLiteral("e-399")), 10.0);
-        QCOMPARE(Val(QStringLiteral("1e99999999999999999999")), std::numeric_limits<double>::max());
+        QCOMPARE(Val(u"0."_s + QString(400, u'0') + u"1"_s), 0.0);
+        QCOMPARE(Val(u"0."_s + QString(400, u'0') + u"1e401"_s), 1.0);
+        QCOMPARE(Val(QString(400, u'9') + u"e-399"_s), 10.0);
+        QCOMPARE(Val(u"1e99999999999999999999"_s), std::numeric_limits<double>::max());
     }
 
     void number_text_is_plain_decimal_text()
     {
-        QCOMPARE(NumberText(15), QStringLiteral("15"));
-        QCOMPARE(NumberText(0), QStringLiteral("0"));
-        QCOMPARE(NumberText(-0.0), QStringLiteral("0"));
-        QCOMPARE(NumberText(-7), QStringLiteral("-7"));
-        QCOMPARE(NumberText(2.5), QStringLiteral("2.5"));
-        QCOMPARE(NumberText(0.5), QStringLiteral("0.5"));
-        QCOMPARE(NumberText(0.1 + 0.2), QStringLiteral("0.3"));
-        QCOMPARE(NumberText(100000), QStringLiteral("100000"));
-        QCOMPARE(NumberText(4294967296.0), QStringLiteral("4294967296"));
+        QCOMPARE(NumberText(15), u"15"_s);
+        QCOMPARE(NumberText(0), u"0"_s);
+        QCOMPARE(NumberText(-0.0), u"0"_s);
+        QCOMPARE(NumberText(-7), u"-7"_s);
+        QCOMPARE(NumberText(2.5), u"2.5"_s);
+        QCOMPARE(NumberText(0.5), u"0.5"_s);
+        QCOMPARE(NumberText(0.1 + 0.2), u"0.3"_s);
+        QCOMPARE(NumberText(100000), u"100000"_s);
+        QCOMPARE(NumberText(4294967296.0), u"4294967296"_s);
     }
 
     void number_text_reads_back()
@@ -191,10 +190,10 @@ private Q_SLOTS:
 
     void str_keeps_room_for_the_sign()
     {
-        QCOMPARE(Str(1024), QStringLiteral(" 1024"));
-        QCOMPARE(Str(0), QStringLiteral(" 0"));
-        QCOMPARE(Str(-5), QStringLiteral("-5"));
-        QCOMPARE(Str(0.5), QStringLiteral(" 0.5"));
+        QCOMPARE(Str(1024), u" 1024"_s);
+        QCOMPARE(Str(0), u" 0"_s);
+        QCOMPARE(Str(-5), u"-5"_s);
+        QCOMPARE(Str(0.5), u" 0.5"_s);
     }
 };
 

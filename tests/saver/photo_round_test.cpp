@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -18,10 +19,10 @@ QStringList Take(PhotoRound& round, int count)
 
 QString On(const char* name)
 {
-    return QStringLiteral("E:\\") + QString::fromLatin1(name);
+    return u"E:\\"_s + QString::fromLatin1(name);
 }
 
-const QString drive = QStringLiteral("E:\\");
+const QString drive = u"E:\\"_s;
 
 } // namespace
 
@@ -100,10 +101,10 @@ private Q_SLOTS:
         disc.clear();
         SetDriveOptions({});
         SetVolumeLister([] { return disc.isEmpty() ? QList<QString>() : QList<QString>{disc}; });
-        PhotoRound round(QStringLiteral("D:\\"));
+        PhotoRound round(u"D:\\"_s);
         QCOMPARE(round.Next(), QString());
         disc = medium.Path();
-        QCOMPARE(round.Next(), QStringLiteral("D:\\a.jpg"));
+        QCOMPARE(round.Next(), u"D:\\a.jpg"_s);
         SetVolumeLister([] { return QList<QString>(); });
     }
 };

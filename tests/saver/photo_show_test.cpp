@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -24,7 +25,7 @@ private:
     Fade fade_;
 };
 
-const QString drive = QStringLiteral("E:\\");
+const QString drive = u"E:\\"_s;
 
 } // namespace
 
@@ -109,7 +110,7 @@ private Q_SLOTS:
     void a_folder_without_a_sound_photo_shows_the_card()
     {
         for (int i = 0; i < 40; ++i)
-            QVERIFY(disc_->File(QStringLiteral("x%1.jpg").arg(i).toStdString(), "no picture"));
+            QVERIFY(disc_->File(u"x%1.jpg"_s.arg(i).toStdString(), "no picture"));
         TestStage stage({320, 240});
         Show show({1000, drive});
         show.SetStages({&stage});
@@ -121,7 +122,7 @@ private Q_SLOTS:
     void without_photos_the_card_stands_for_ten_seconds_at_each_place()
     {
         TestStage stage({320, 240});
-        Show show({1000, QStringLiteral("Q:\\Torviks\\")});
+        Show show({1000, u"Q:\\Torviks\\"_s});
         show.SetStages({&stage});
         show.Advance(0);
         const QImage first = stage.Shown().Frame();
@@ -149,7 +150,7 @@ private Q_SLOTS:
     void a_disc_that_is_pulled_out_in_the_middle_brings_the_card()
     {
         for (char name = 'a'; name < 'z'; ++name)
-            Add(QStringLiteral("%1.jpg").arg(QLatin1Char(name)).toStdString());
+            Add(u"%1.jpg"_s.arg(QLatin1Char(name)).toStdString());
         TestStage stage({320, 240});
         Show show({1000, drive});
         show.SetStages({&stage});

@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -147,13 +148,13 @@ private:
     }
 
     DiscFolder disc_;
-    const QString drive_ = QStringLiteral("E:\\");
+    const QString drive_ = u"E:\\"_s;
 };
 
 int main(int argc, char** argv)
 {
     QTemporaryDir folder;
-    QFile configuration(folder.filePath(QStringLiteral("screens.json")));
+    QFile configuration(folder.filePath(u"screens.json"_s));
     if (!configuration.open(QIODevice::WriteOnly) || configuration.write(twoScreens) != twoScreens.size())
         return 1;
     configuration.close();

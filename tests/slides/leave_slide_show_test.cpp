@@ -4,13 +4,14 @@
 #include "ui/forms/program_end.h"
 #include "windows/play_list_window.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
-const QString stopButton = QStringLiteral("mmSlide(Stop)");
-const QString reported = QStringLiteral("Error number: ER017\r\n\r\n Unable to load Slide Show photo.\r\n\r\n"
-                                        "Make sure that the Torvik Vollandry is in the CDROM drive.");
+const QString stopButton = u"mmSlide(Stop)"_s;
+const QString reported = u"Error number: ER017\r\n\r\n Unable to load Slide Show photo.\r\n\r\n"
+                         "Make sure that the Torvik Vollandry is in the CDROM drive."_s;
 
 } // namespace
 
@@ -31,18 +32,18 @@ private Q_SLOTS:
 
     void stop_carries_the_photo_over()
     {
-        QVERIFY(LeaveAt(QStringLiteral("68B")));
+        QVERIFY(LeaveAt(u"68B"_s));
         QVERIFY(!frmSlide.IsLoaded());
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("68B.JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"68B.JPG"_s);
         QVERIFY(Form1->Image4.Visible());
-        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("2"));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1968 "));
+        QCOMPARE(Form1->panPhoto.Caption(), u"2"_s);
+        QCOMPARE(Form1->panYear.Caption(), u"1968 "_s);
         QVERIFY(Form1->panYear.Visible());
-        QCOMPARE(Form1->txtFile.Text(), QStringLiteral("68B.JPG"));
+        QCOMPARE(Form1->txtFile.Text(), u"68B.JPG"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 4);
         QCOMPARE(int(state.PhotoIndex), 3);
-        QCOMPARE(state.CurrentPhotoFile, QStringLiteral("G:\\Torviks\\68B.JPG"));
-        QCOMPARE(Form1->cmdStats.Caption(), QStringLiteral("Engines"));
+        QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\68B.JPG"_s);
+        QCOMPARE(Form1->cmdStats.Caption(), u"Engines"_s);
         QVERIFY(!state.SlideShowOpen);
         QVERIFY(!state.SlideRestorePending);
         QCOMPARE(program_->Messages.Count(), 0);
@@ -62,8 +63,7 @@ private Q_SLOTS:
                             bool description, int focus, int yearButton, const char* code) {
             QTest::newRow(title) << QString::fromLatin1(photo) << QString::fromLatin1(title)
                                  << QString::fromLatin1(statistics) << sixEnabled << description
-                                 << QStringLiteral("cmdYR(%1)").arg(focus) << yearButton
-                                 << QString::fromLatin1(code);
+                                 << u"cmdYR(%1)"_s.arg(focus) << yearButton << QString::fromLatin1(code);
         };
         row("ZZA", "Torvik Postage Stamps ", "Details", false, true, 1, 0, "ZZ");
         row("VMA", "Torvik Metal Signs ", "Details", false, true, 1, 0, "VM");
@@ -109,12 +109,12 @@ private Q_SLOTS:
 
     void the_harwell_keeps_some_buttons_and_its_focus_is_the_first_year()
     {
-        QVERIFY(LeaveAt(QStringLiteral("SBA")));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("The Classic Harwell "));
-        QCOMPARE(Form1->cmdStats.Caption(), QStringLiteral("Engines"));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(1)"));
+        QVERIFY(LeaveAt(u"SBA"_s));
+        QCOMPARE(Form1->panYear.Caption(), u"The Classic Harwell "_s);
+        QCOMPARE(Form1->cmdStats.Caption(), u"Engines"_s);
+        QCOMPARE(Program::Focus(), u"cmdYR(1)"_s);
         QCOMPARE(int(state.CurrentYearButton), 0);
-        QCOMPARE(state.YearCode, QStringLiteral("SB"));
+        QCOMPARE(state.YearCode, u"SB"_s);
         QVERIFY(Form1->cmdOptions.Enabled());
         QVERIFY(!Form1->cmdNostalgia.Enabled());
     }
@@ -123,29 +123,29 @@ private Q_SLOTS:
     {
         QVERIFY(InSlideShow(*program_, [&] {
             program_->Press(Qt::Key_Comma);
-            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("ZZB.JPG"));
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"ZZB.JPG"_s);
             ClickSlidePart(*program_, stopButton);
-            QCOMPARE(state.YearCode, QStringLiteral("ZZ"));
+            QCOMPARE(state.YearCode, u"ZZ"_s);
         }));
-        QCOMPARE(state.YearCode, QStringLiteral("ZZ"));
+        QCOMPARE(state.YearCode, u"ZZ"_s);
     }
 
     void the_photos_of_2000_can_be_stepped_through_on_the_main_window()
     {
-        QVERIFY(LeaveAt(QStringLiteral("A0B")));
+        QVERIFY(LeaveAt(u"A0B"_s));
         program_->Press(Form1->cmdYR(35), Qt::Key_Comma);
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("A0A.JPG"));
-        QCOMPARE(state.YearCode, QStringLiteral("A0"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"A0A.JPG"_s);
+        QCOMPARE(state.YearCode, u"A0"_s);
     }
 
     void the_photos_of_the_topic_can_be_stepped_through_on_the_main_window()
     {
-        QVERIFY(LeaveAt(QStringLiteral("VCA")));
+        QVERIFY(LeaveAt(u"VCA"_s));
         state.SkipFirstPhoto = false;
         program_->Press(*Control::OfWidget(QApplication::focusWidget()), Qt::Key_Period);
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("VCA.JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"VCA.JPG"_s);
         program_->Press(Form1->cmdYR(1), Qt::Key_Period);
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("VCB.JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"VCB.JPG"_s);
     }
 
     void a_caption_without_digits_is_reported_and_the_rest_is_left_out_data()
@@ -153,14 +153,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("photo");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("code");
-        QTest::newRow("calendars") << QStringLiteral("TCB") << QStringLiteral("19TC ")
-                                   << QStringLiteral("TC");
-        QTest::newRow("board game") << QStringLiteral("USA") << QStringLiteral("19US ")
-                                    << QStringLiteral("US");
-        QTest::newRow("art prints") << QStringLiteral("GBA") << QStringLiteral("19GB ")
-                                    << QStringLiteral("GB");
-        QTest::newRow("Tarrant") << QStringLiteral("CWA") << QStringLiteral("The Tarrant Torvik ")
-                                 << QStringLiteral("e ");
+        QTest::newRow("calendars") << u"TCB"_s << u"19TC "_s << u"TC"_s;
+        QTest::newRow("board game") << u"USA"_s << u"19US "_s << u"US"_s;
+        QTest::newRow("art prints") << u"GBA"_s << u"19GB "_s << u"GB"_s;
+        QTest::newRow("Tarrant") << u"CWA"_s << u"The Tarrant Torvik "_s << u"e "_s;
     }
 
     void a_caption_without_digits_is_reported_and_the_rest_is_left_out()
@@ -172,7 +168,7 @@ private Q_SLOTS:
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text, reported);
         QCOMPARE(Form1->panYear.Caption(), title);
-        QCOMPARE(Form1->Image4.Picture().FileName(), photo + QStringLiteral(".JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), photo + u".JPG"_s);
         QCOMPARE(state.YearCode, code);
         QVERIFY(state.SlideShowOpen);
         QCOMPARE(int(state.PhotoIndex), int(state.ShownPhotoIndex));
@@ -184,9 +180,9 @@ private Q_SLOTS:
 
     void after_such_a_report_the_next_show_works()
     {
-        QVERIFY(LeaveAt(QStringLiteral("TCA")));
-        QVERIFY(LeaveAt(QStringLiteral("67B")));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967 "));
+        QVERIFY(LeaveAt(u"TCA"_s));
+        QVERIFY(LeaveAt(u"67B"_s));
+        QCOMPARE(Form1->panYear.Caption(), u"1967 "_s);
         QVERIFY(!state.SlideShowOpen);
     }
 
@@ -194,7 +190,7 @@ private Q_SLOTS:
     {
         state.ShownPhotoIndex = 1;
         QVERIFY(InSlideShow(*program_, [&] {
-            frmSlide->panYear.SetCaption(QStringLiteral("19A0"));
+            frmSlide->panYear.SetCaption(u"19A0"_s);
             ClickSlidePart(*program_, stopButton);
         }));
         QCOMPARE(program_->Messages.Last().Text, reported);
@@ -203,7 +199,7 @@ private Q_SLOTS:
     void a_prefix_of_digits_that_are_no_year_of_the_bar_is_reported()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            frmSlide->panYear.SetCaption(QStringLiteral("1912 "));
+            frmSlide->panYear.SetCaption(u"1912 "_s);
             ClickSlidePart(*program_, stopButton);
         }));
         QCOMPARE(program_->Messages.Last().Text, reported);
@@ -214,12 +210,12 @@ private Q_SLOTS:
     {
         state.ShownPhotoIndex = 1;
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
+            ClickSlidePart(*program_, u"mmSlide(Play)"_s);
             Clock::Turn(3000);
-            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("68B.JPG"));
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"68B.JPG"_s);
             ClickSlidePart(*program_, stopButton);
         }));
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("68B.JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"68B.JPG"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 4);
         QCOMPARE(int(state.PhotoIndex), 3);
         Clock::Turn(60'000);
@@ -230,7 +226,7 @@ private Q_SLOTS:
     {
         state.ShownPhotoIndex = 0;
         QVERIFY(InSlideShow(*program_, [&] { ClickSlidePart(*program_, stopButton); }));
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("67A.JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 1);
         QCOMPARE(int(state.PhotoIndex), 0);
     }
@@ -240,12 +236,12 @@ private Q_SLOTS:
         Form1->panYear.SetCaption(nothingChosen);
         Form1->cmdDesc.SetEnabled(false);
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
+            ClickSlidePart(*program_, u"mmSlide(Next)"_s);
             ClickSlidePart(*program_, stopButton);
         }));
         QVERIFY(!frmSlide.IsLoaded());
         QCOMPARE(Form1->panYear.Caption(), nothingChosen);
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("67A.JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 1);
         QCOMPARE(int(state.PhotoIndex), 2);
         QVERIFY(Form1->cmdDesc.Enabled());
@@ -255,41 +251,41 @@ private Q_SLOTS:
     void a_photo_that_is_gone_is_reported_and_the_show_stays()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
-            program_->Disc.Remove(QStringLiteral("Torviks/67B.JPG"));
+            ClickSlidePart(*program_, u"mmSlide(Next)"_s);
+            program_->Disc.Remove(u"Torviks/67B.JPG"_s);
             state.SlideRestorePending = true;
             ClickSlidePart(*program_, stopButton);
             QVERIFY(!state.SlideRestorePending);
             QCOMPARE(program_->Messages.Count(), 1);
             QCOMPARE(program_->Messages.Last().Text, reported);
             QVERIFY(frmSlide.IsLoaded() && frmSlide->Visible());
-            QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("67A.JPG"));
-            QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+            QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
+            QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
             QCOMPARE(int(state.ShownPhotoIndex), 1);
         }));
     }
 
     void the_file_name_and_the_play_list_speak_of_the_photo_carried_over()
     {
-        program_->AddToProgramFolder(QStringLiteral("ssTorviks/68A.JPG"), "x");
+        program_->AddToProgramFolder(u"ssTorviks/68A.JPG"_s, "x");
         QVERIFY(frmSSPhoto->SSCommand7.Enabled());
-        QVERIFY(LeaveAt(QStringLiteral("68A")));
+        QVERIFY(LeaveAt(u"68A"_s));
         QVERIFY(!frmSSPhoto->SSCommand7.Enabled());
         QVERIFY(frmSSPhoto->SSCommand8.Enabled());
         Form1->mnuNames.Click.Fire();
-        QCOMPARE(Form1->txtFile.Text(), QStringLiteral("68A.JPG"));
+        QCOMPARE(Form1->txtFile.Text(), u"68A.JPG"_s);
     }
 
     void the_exit_button_leaves_the_main_window_as_it_was()
     {
         program_->Click(Form1->cmdYR(2));
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Prev)"));
+            ClickSlidePart(*program_, u"mmSlide(Prev)"_s);
             program_->Click(frmSlide->cmdExit);
             QVERIFY(!frmSlide.IsLoaded());
         }));
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("68A.JPG"));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1968"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"68A.JPG"_s);
+        QCOMPARE(Form1->panYear.Caption(), u"1968"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 3);
         QVERIFY(state.SlideShowOpen);
         QCOMPARE(program_->Messages.Count(), 0);
@@ -298,7 +294,7 @@ private Q_SLOTS:
     void the_exit_button_leaves_a_running_show_too()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
+            ClickSlidePart(*program_, u"mmSlide(Play)"_s);
             program_->Click(frmSlide->cmdExit);
             Clock::Turn(60'000);
             QVERIFY(!frmSlide.IsLoaded());
@@ -315,26 +311,26 @@ private Q_SLOTS:
 
     void a_topic_on_the_main_window_keeps_its_code_over_a_show()
     {
-        Form1->panYear.SetCaption(QStringLiteral("Torvik Cookies "));
-        state.YearCode = QStringLiteral("VC");
+        Form1->panYear.SetCaption(u"Torvik Cookies "_s);
+        state.YearCode = u"VC"_s;
         QVERIFY(InSlideShow(*program_, [&] {
-            QCOMPARE(state.YearCode, QStringLiteral("67"));
+            QCOMPARE(state.YearCode, u"67"_s);
             program_->Click(frmSlide->cmdExit);
         }));
-        QCOMPARE(state.YearCode, QStringLiteral("VC"));
+        QCOMPARE(state.YearCode, u"VC"_s);
     }
 
     void a_title_without_photos_keeps_its_code_over_a_show()
     {
         Form1->mnuArt(1).Click.Fire();
-        QCOMPARE(state.YearCode, QStringLiteral("mu"));
+        QCOMPARE(state.YearCode, u"mu"_s);
         const int reports = program_->Messages.Count();
         QVERIFY(InSlideShow(*program_, [&] {
-            QCOMPARE(state.YearCode, QStringLiteral("67"));
+            QCOMPARE(state.YearCode, u"67"_s);
             program_->Click(frmSlide->cmdExit);
         }));
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("Lemuel Ostrand Art Print "));
-        QCOMPARE(state.YearCode, QStringLiteral("mu"));
+        QCOMPARE(Form1->panYear.Caption(), u"Lemuel Ostrand Art Print "_s);
+        QCOMPARE(state.YearCode, u"mu"_s);
         program_->Press(Form1->cmdYR(1), Qt::Key_Period); // it has no photo to step to
         QVERIFY(Form1->Image4.Picture().IsEmpty());
         QCOMPARE(program_->Messages.Count(), reports);
@@ -347,11 +343,11 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [&] { ClickSlidePart(*program_, stopButton); }));
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text, reported);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("19 "));
+        QCOMPARE(Form1->panYear.Caption(), u"19 "_s);
         QVERIFY(Form1->Image4.Picture().IsEmpty());
         QVERIFY(!ProgramIsEnding());
         program_->Click(Form1->cmdYR(2));
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("68A.JPG"));
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"68A.JPG"_s);
     }
 
     void closing_the_window_asks_nothing_during_a_show()
@@ -381,16 +377,16 @@ private Q_SLOTS:
         QCOMPARE(frmSlide.Unload(), closes);
         QCOMPARE(frmSlide.IsLoaded(), !closes);
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, QStringLiteral("Exit The Torvik Vollandry?"));
+        QCOMPARE(program_->Messages.Last().Text, u"Exit The Torvik Vollandry?"_s);
         QCOMPARE(program_->Messages.Last().Style, 33);
-        QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry 2001"));
+        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(int(state.MessageResult), answer);
         state.SlideShowOpen = true;
     }
 
     void loading_refreshes_the_play_list_buttons_and_notes_the_window_for_the_help()
     {
-        program_->AddToProgramFolder(QStringLiteral("ssTorviks/67A.JPG"), "x");
+        program_->AddToProgramFolder(u"ssTorviks/67A.JPG"_s, "x");
         state.HelpWindowHandle = 0;
         frmSlide.LoadForm();
         QCOMPARE(state.HelpWindowHandle, frmSlide->WindowNumber());
@@ -402,7 +398,7 @@ private Q_SLOTS:
     void unloading_closes_the_help()
     {
         QWidget help;
-        help.setObjectName(QStringLiteral("HelpViewer"));
+        help.setObjectName(u"HelpViewer"_s);
         help.show();
         state.SlideShowOpen = true;
         frmSlide.LoadForm();
@@ -417,11 +413,11 @@ private:
     {
         return InSlideShow(*program_, [&] {
             for (int step = 0; step < state.PhotoCount; ++step) {
-                if (frmSlide->Image1.Picture().FileName() == photo + QStringLiteral(".JPG"))
+                if (frmSlide->Image1.Picture().FileName() == photo + u".JPG"_s)
                     break;
                 program_->Press(Qt::Key_Period);
             }
-            QCOMPARE(frmSlide->Image1.Picture().FileName(), photo + QStringLiteral(".JPG"));
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), photo + u".JPG"_s);
             ClickSlidePart(*program_, stopButton);
         });
     }

@@ -3,6 +3,7 @@
 #include "ui/forms/program_end.h"
 #include "windows/play_list_window.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The button of the main window that opens the slide show.
@@ -13,10 +14,10 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 3);
-        program_->Disc.AddGroup(QStringLiteral("68"), 2);
-        program_->Disc.AddGroup(QStringLiteral("A0"), 1);
-        program_->Disc.AddGroup(QStringLiteral("VC"), 1);
+        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->Disc.AddGroup(u"68"_s, 2);
+        program_->Disc.AddGroup(u"A0"_s, 1);
+        program_->Disc.AddGroup(u"VC"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -25,37 +26,37 @@ private Q_SLOTS:
     {
         program_->Click(Form1->cmdYR(2));
         QVERIFY(InSlideShow(*program_, [&] {
-            QCOMPARE(ShownSlide(), QStringLiteral("68A.JPG, 4 of 7, 1968 "));
+            QCOMPARE(ShownSlide(), u"68A.JPG, 4 of 7, 1968 "_s);
             QVERIFY(frmSlide->pnlPhotoNumber.Visible());
             QVERIFY(frmSlide->panYear.Visible());
             QCOMPARE(int(state.PhotoIndex), 4);
             QCOMPARE(frmSlide->Timer1.Interval(), 0);
             Clock::Turn(120'000);
-            QCOMPARE(ShownSlide(), QStringLiteral("68A.JPG, 4 of 7, 1968 "));
+            QCOMPARE(ShownSlide(), u"68A.JPG, 4 of 7, 1968 "_s);
         }));
     }
 
     void the_show_starts_with_a_delay_of_one_second()
     {
         state.SlideDelay = 15000;
-        Form1->panInterval.SetCaption(QStringLiteral("15 Seconds"));
+        Form1->panInterval.SetCaption(u"15 Seconds"_s);
         QVERIFY(InSlideShow(*program_, [&] {
             QCOMPARE(state.SlideDelay, 1000);
-            QCOMPARE(frmSlide->panInterval.Caption(), QStringLiteral(" 1 second"));
+            QCOMPARE(frmSlide->panInterval.Caption(), u" 1 second"_s);
             QVERIFY(frmSlide->SpinInterval.Enabled());
         }));
-        QCOMPARE(Form1->panInterval.Caption(), QStringLiteral("15 Seconds")); // the panel of the screen saver
+        QCOMPARE(Form1->panInterval.Caption(), u"15 Seconds"_s); // the panel of the screen saver
     }
 
     void a_delay_chosen_in_an_earlier_show_is_not_kept()
     {
         InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("SpinInterval(Up)"));
+            ClickSlidePart(*program_, u"SpinInterval(Up)"_s);
             QCOMPARE(state.SlideDelay, 2000);
         });
         QVERIFY(InSlideShow(*program_, [&] {
             QCOMPARE(state.SlideDelay, 1000);
-            QCOMPARE(frmSlide->panInterval.Caption(), QStringLiteral(" 1 second"));
+            QCOMPARE(frmSlide->panInterval.Caption(), u" 1 second"_s);
         }));
     }
 
@@ -95,9 +96,9 @@ private Q_SLOTS:
     {
         state.ShownPhotoIndex = 0;
         QVERIFY(InSlideShow(*program_, [] {
-            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("slide_show.jpg"));
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"slide_show.jpg"_s);
             QVERIFY(!frmSlide->pnlPhotoNumber.Visible());
-            QCOMPARE(frmSlide->panYear.Caption(), QStringLiteral("1967 "));
+            QCOMPARE(frmSlide->panYear.Caption(), u"1967 "_s);
             QCOMPARE(int(state.PhotoIndex), 0);
         }));
     }
@@ -109,15 +110,15 @@ private Q_SLOTS:
         QCOMPARE(int(state.ShownPhotoIndex), 8);
         QVERIFY(InSlideShow(*program_, [&] {
             QVERIFY(frmSlide->Image1.Picture().IsEmpty());
-            QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), QStringLiteral("8 of 7"));
+            QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), u"8 of 7"_s);
             QVERIFY(frmSlide->pnlPhotoNumber.Visible());
-            QCOMPARE(frmSlide->panYear.Caption(), QStringLiteral("19 "));
+            QCOMPARE(frmSlide->panYear.Caption(), u"19 "_s);
             QCOMPARE(int(state.PhotoIndex), 8);
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Prev)"));
-            QCOMPARE(ShownSlide(), QStringLiteral("VCA.JPG, 7 of 7, Torvik Cookies "));
+            ClickSlidePart(*program_, u"mmSlide(Prev)"_s);
+            QCOMPARE(ShownSlide(), u"VCA.JPG, 7 of 7, Torvik Cookies "_s);
         }));
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1970"));
+        QCOMPARE(Form1->panYear.Caption(), u"1970"_s);
         QVERIFY(!ProgramIsEnding());
     }
 
@@ -125,9 +126,9 @@ private Q_SLOTS:
     {
         program_->Click(Form1->cmdYR(4));
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
+            ClickSlidePart(*program_, u"mmSlide(Play)"_s);
             Clock::Turn(2000); // the first tick goes back to the start
-            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 7, 1967 "));
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 7, 1967 "_s);
         }));
         QCOMPARE(program_->Messages.Count(), 1);
     }
@@ -136,12 +137,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("inTheShow");
-        QTest::newRow("a year") << QStringLiteral("68") << QStringLiteral("68");
-        QTest::newRow("2000 as restored") << QStringLiteral("00") << QStringLiteral("00");
-        QTest::newRow("2000") << QStringLiteral("A0") << QStringLiteral("67");
-        QTest::newRow("a topic") << QStringLiteral("VC") << QStringLiteral("67");
-        QTest::newRow("a topic with a digit") << QStringLiteral("M1") << QStringLiteral("67");
-        QTest::newRow("none") << QString() << QStringLiteral("67");
+        QTest::newRow("a year") << u"68"_s << u"68"_s;
+        QTest::newRow("2000 as restored") << u"00"_s << u"00"_s;
+        QTest::newRow("2000") << u"A0"_s << u"67"_s;
+        QTest::newRow("a topic") << u"VC"_s << u"67"_s;
+        QTest::newRow("a topic with a digit") << u"M1"_s << u"67"_s;
+        QTest::newRow("none") << QString() << u"67"_s;
     }
 
     void a_code_that_is_no_number_becomes_67()
@@ -156,7 +157,7 @@ private Q_SLOTS:
     {
         program_->Click(Form1->cmdYR(2));
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
+            ClickSlidePart(*program_, u"mmSlide(Play)"_s);
             for (const char* slide :
                  {"68B.JPG, 5 of 7, 1968 ", "A0A.JPG, 6 of 7, 2000", "VCA.JPG, 7 of 7, Torvik Cookies "}) {
                 Clock::Turn(1000);
@@ -209,21 +210,19 @@ private Q_SLOTS:
 
     void a_photo_that_is_gone_ends_the_program_with_its_failure()
     {
-        program_->Disc.Remove(QStringLiteral("Torviks/67A.JPG"));
+        program_->Disc.Remove(u"Torviks/67A.JPG"_s);
         QVERIFY(!InSlideShow(*program_, [] {}));
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Run-time error '53':\r\n\r\nFile not found"));
+        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '53':\r\n\r\nFile not found"_s);
         QVERIFY(ProgramIsEnding());
     }
 
     void a_photo_that_is_cut_off_ends_the_program_with_its_failure()
     {
         const QByteArray whole = TestDisc::Jpeg(Qt::red, {64, 48});
-        program_->Disc.AddFile(QStringLiteral("Torviks/67A.JPG"), whole.left(whole.size() / 2));
+        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, whole.left(whole.size() / 2));
         QVERIFY(!InSlideShow(*program_, [] {}));
-        QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Run-time error '481':\r\n\r\nInvalid picture"));
+        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '481':\r\n\r\nInvalid picture"_s);
         QVERIFY(ProgramIsEnding());
     }
 

@@ -1,6 +1,7 @@
 #include "support/slide_visit.h"
 #include "ui/forms/program_end.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -27,7 +28,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 4);
+        program_->Disc.AddGroup(u"67"_s, 4);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -35,17 +36,17 @@ private Q_SLOTS:
     void the_keys_work_as_soon_as_the_form_comes_up()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
             program_->Press(Qt::Key_Period);
-            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("67B.JPG"));
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67B.JPG"_s);
         }));
     }
 
     void they_do_so_in_a_later_show_after_a_press_of_play()
     {
-        InSlideShow(*program_, [&] { ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)")); });
+        InSlideShow(*program_, [&] { ClickSlidePart(*program_, u"mmSlide(Play)"_s); });
         QVERIFY(state.SlidePlayPressed);
-        QVERIFY(InSlideShow(*program_, [] { QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1")); }));
+        QVERIFY(InSlideShow(*program_, [] { QCOMPARE(Program::Focus(), u"SSCommand1"_s); }));
     }
 
     void a_click_on_a_panel_brings_the_focus_back_data() { EachPanel(); }
@@ -56,7 +57,7 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [&] {
             frmSlide->cmdExit.SetFocus();
             program_->Click(*PanelNamed(name));
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
         }));
     }
 
@@ -66,19 +67,19 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
+            ClickSlidePart(*program_, u"mmSlide(Play)"_s);
             program_->Click(*PanelNamed(name));
         }));
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Run-time error '5':\r\n\r\nInvalid procedure call or argument"));
+                 u"Run-time error '5':\r\n\r\nInvalid procedure call or argument"_s);
         QVERIFY(ProgramIsEnding());
     }
 
     void a_click_on_the_other_panels_does_nothing_while_the_show_runs()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
+            ClickSlidePart(*program_, u"mmSlide(Play)"_s);
             program_->Click(frmSlide->panInterval);
             program_->Click(frmSlide->pnlPhotoNumber);
             program_->Click(frmSlide->Image1);
@@ -92,12 +93,12 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [&] {
             frmSlide->cmdExit.SetFocus();
             program_->Click(frmSlide->Image1);
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Pause)"));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
+            ClickSlidePart(*program_, u"mmSlide(Play)"_s);
+            ClickSlidePart(*program_, u"mmSlide(Pause)"_s);
             frmSlide->cmdExit.SetFocus();
             program_->Click(frmSlide->Image1);
-            QCOMPARE(Program::Focus(), QStringLiteral("cmdExit"));
+            QCOMPARE(Program::Focus(), u"cmdExit"_s);
         }));
     }
 
@@ -106,8 +107,8 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [&] {
             frmSlide->cmdExit.SetFocus();
             frmSlide->Activate.Fire();
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
+            ClickSlidePart(*program_, u"mmSlide(Play)"_s);
             frmSlide->Activate.Fire();
             QVERIFY(!ProgramIsEnding());
         }));
@@ -124,7 +125,7 @@ private Q_SLOTS:
             QCOMPARE(walked, (QStringList{"SSCommand1", "SSCommand2", "mmSlide(Prev)", "mmSlide(Next)",
                                           "mmSlide(Play)", "mmSlide(Back)", "mmSlide(Step)", "mmSlide(Stop)",
                                           "SpinInterval(Up)", "SpinInterval(Down)", "cmdExit"}));
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
         }));
     }
 

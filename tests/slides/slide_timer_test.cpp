@@ -4,12 +4,13 @@
 
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
-const QString playButton = QStringLiteral("mmSlide(Play)");
-const QString pauseButton = QStringLiteral("mmSlide(Pause)");
+const QString playButton = u"mmSlide(Play)"_s;
+const QString pauseButton = u"mmSlide(Pause)"_s;
 
 /// Which of the bar's buttons are enabled: "Prev Next Play".
 QString EnabledButtons()
@@ -71,7 +72,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 6);
+        program_->Disc.AddGroup(u"67"_s, 6);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -80,13 +81,13 @@ private Q_SLOTS:
     {
         state.ShownPhotoIndex = 5;
         QVERIFY(InSlideShow(*program_, [&] {
-            QCOMPARE(ShownSlide(), QStringLiteral("67E.JPG, 5 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67E.JPG, 5 of 6, 1967 "_s);
             ClickSlidePart(*program_, playButton);
             QCOMPARE(int(state.PhotoIndex), 6);
             Clock::Turn(999);
-            QCOMPARE(ShownSlide(), QStringLiteral("67E.JPG, 5 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67E.JPG, 5 of 6, 1967 "_s);
             Clock::Turn(1);
-            QCOMPARE(ShownSlide(), QStringLiteral("67F.JPG, 6 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67F.JPG, 6 of 6, 1967 "_s);
             QCOMPARE(int(state.PhotoIndex), 7);
         }));
     }
@@ -94,10 +95,10 @@ private Q_SLOTS:
     void play_turns_stepping_off_and_pause_on()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            QCOMPARE(EnabledButtons(), QStringLiteral("Prev Next Play Back Step Stop"));
+            QCOMPARE(EnabledButtons(), u"Prev Next Play Back Step Stop"_s);
             frmSlide->pnlPhotoNumber.Hide();
             ClickSlidePart(*program_, playButton);
-            QCOMPARE(EnabledButtons(), QStringLiteral("Play Pause Stop"));
+            QCOMPARE(EnabledButtons(), u"Play Pause Stop"_s);
             for (const Control* control : std::initializer_list<const Control*>{
                      &frmSlide->SpinInterval, &frmSlide->SSCommand1, &frmSlide->SSCommand2})
                 QVERIFY2(!control->Enabled(), qPrintable(control->Name()));
@@ -115,7 +116,7 @@ private Q_SLOTS:
             ClickSlidePart(*program_, playButton);
             Clock::Turn(2000);
             ClickSlidePart(*program_, pauseButton);
-            QCOMPARE(EnabledButtons(), QStringLiteral("Prev Next Play Back Step Stop"));
+            QCOMPARE(EnabledButtons(), u"Prev Next Play Back Step Stop"_s);
             for (const Control* control : std::initializer_list<const Control*>{
                      &frmSlide->SpinInterval, &frmSlide->SSCommand1, &frmSlide->SSCommand2})
                 QVERIFY2(control->Enabled(), qPrintable(control->Name()));
@@ -123,9 +124,9 @@ private Q_SLOTS:
             QVERIFY(state.SlidePlayPressed);
             QCOMPARE(frmSlide->Timer1.Interval(), 0);
             QCOMPARE(int(state.PhotoIndex), 3);
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
             Clock::Turn(60'000);
-            QCOMPARE(ShownSlide(), QStringLiteral("67C.JPG, 3 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67C.JPG, 3 of 6, 1967 "_s);
         }));
     }
 
@@ -137,9 +138,9 @@ private Q_SLOTS:
             ClickSlidePart(*program_, playButton);
             QCOMPARE(int(state.PhotoIndex), 3);
             Clock::Turn(999);
-            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 6, 1967 "_s);
             Clock::Turn(1);
-            QCOMPARE(ShownSlide(), QStringLiteral("67C.JPG, 3 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67C.JPG, 3 of 6, 1967 "_s);
         }));
     }
 
@@ -149,12 +150,12 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [&] {
             ClickSlidePart(*program_, playButton);
             Clock::Turn(1000);
-            QCOMPARE(ShownSlide(), QStringLiteral("67F.JPG, 6 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67F.JPG, 6 of 6, 1967 "_s);
             Clock::Turn(1000);
-            QCOMPARE(ShownSlide(), QStringLiteral("67F.JPG, 6 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67F.JPG, 6 of 6, 1967 "_s);
             QCOMPARE(int(state.PhotoIndex), 1);
             Clock::Turn(1000);
-            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 6, 1967 "_s);
         }));
     }
 
@@ -167,8 +168,8 @@ private Q_SLOTS:
             QCOMPARE(int(state.PhotoIndex), 1);
             ClickSlidePart(*program_, pauseButton);
             QCOMPARE(int(state.PhotoIndex), 0);
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
-            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 6, 1967 "));
+            ClickSlidePart(*program_, u"mmSlide(Next)"_s);
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 6, 1967 "_s);
         }));
     }
 
@@ -190,7 +191,7 @@ private Q_SLOTS:
             state.TorviksPathPos = 0;
             frmSlide->panYear.Hide();
             Clock::Turn(1000);
-            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 6, 1967 "_s);
             QCOMPARE(int(state.PhotoIndex), 2);
             QCOMPARE(int(state.TorviksPathPos), 3);
             QVERIFY(frmSlide->panYear.Visible());
@@ -203,7 +204,7 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [&] {
             ClickSlidePart(*program_, playButton);
             Clock::Turn(1000);
-            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 6, 1967 "_s);
         }));
     }
 
@@ -213,7 +214,7 @@ private Q_SLOTS:
             state.PhotoIndex = 0;
             frmSlide->Timer1.Tick.Fire();
             QCOMPARE(int(state.PhotoIndex), 0);
-            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 6, 1967 "_s);
         }));
     }
 
@@ -221,29 +222,29 @@ private Q_SLOTS:
     {
         QVERIFY(InSlideShow(*program_, [&] {
             for (const char* caption : {"2 seconds", "3 seconds", "4 seconds", "5 seconds", "10 seconds"}) {
-                ClickSlidePart(*program_, QStringLiteral("SpinInterval(Up)"));
+                ClickSlidePart(*program_, u"SpinInterval(Up)"_s);
                 QCOMPARE(frmSlide->panInterval.Caption(), QString::fromLatin1(caption));
-                QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+                QCOMPARE(Program::Focus(), u"SSCommand1"_s);
             }
-            ClickSlidePart(*program_, QStringLiteral("SpinInterval(Down)"));
-            QCOMPARE(frmSlide->panInterval.Caption(), QStringLiteral("5 seconds"));
+            ClickSlidePart(*program_, u"SpinInterval(Down)"_s);
+            QCOMPARE(frmSlide->panInterval.Caption(), u"5 seconds"_s);
             QCOMPARE(state.SlideDelay, 5000);
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
             ClickSlidePart(*program_, playButton);
             Clock::Turn(4999);
-            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 6, 1967 "_s);
             Clock::Turn(1);
-            QCOMPARE(ShownSlide(), QStringLiteral("67B.JPG, 2 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67B.JPG, 2 of 6, 1967 "_s);
         }));
     }
 
     void down_from_one_second_is_sixty_and_up_from_sixty_is_one()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("SpinInterval(Down)"));
-            QCOMPARE(frmSlide->panInterval.Caption(), QStringLiteral("60 seconds"));
-            ClickSlidePart(*program_, QStringLiteral("SpinInterval(Up)"));
-            QCOMPARE(frmSlide->panInterval.Caption(), QStringLiteral("1 seconds"));
+            ClickSlidePart(*program_, u"SpinInterval(Down)"_s);
+            QCOMPARE(frmSlide->panInterval.Caption(), u"60 seconds"_s);
+            ClickSlidePart(*program_, u"SpinInterval(Up)"_s);
+            QCOMPARE(frmSlide->panInterval.Caption(), u"1 seconds"_s);
         }));
     }
 
@@ -251,7 +252,7 @@ private Q_SLOTS:
     {
         QVERIFY(InSlideShow(*program_, [&] {
             ClickSlidePart(*program_, playButton);
-            ClickSlidePart(*program_, QStringLiteral("SpinInterval(Up)"));
+            ClickSlidePart(*program_, u"SpinInterval(Up)"_s);
             QCOMPARE(state.SlideDelay, 1000);
         }));
         QCOMPARE(program_->Messages.Count(), 0);
@@ -260,21 +261,21 @@ private Q_SLOTS:
     void a_photo_that_vanishes_in_mid_show_is_reported_and_the_show_stays_on_it()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            program_->Disc.Remove(QStringLiteral("Torviks/67C.JPG"));
+            program_->Disc.Remove(u"Torviks/67C.JPG"_s);
             ClickSlidePart(*program_, playButton);
             Clock::Turn(2000);
             QCOMPARE(program_->Messages.Count(), 1);
             QCOMPARE(program_->Messages.Last().Text,
-                     QStringLiteral("Error number: ER016\r\n\r\n Unable to load Slide Show photo.\r\n\r\n"
-                                    "Make sure that the Torvik Vollandry is in the CDROM drive."));
-            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("67B.JPG"));
+                     u"Error number: ER016\r\n\r\n Unable to load Slide Show photo.\r\n\r\n"
+                     "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67B.JPG"_s);
             QCOMPARE(int(state.PhotoIndex), 3);
             QVERIFY(!frmSlide->SSCommand1.Enabled());
             QVERIFY(!ProgramIsEnding());
             // It is tried again with each tick; back on the disc it is shown.
-            program_->Disc.AddPhoto(QStringLiteral("67C.JPG"));
+            program_->Disc.AddPhoto(u"67C.JPG"_s);
             Clock::Turn(1000);
-            QCOMPARE(ShownSlide(), QStringLiteral("67C.JPG, 3 of 6, 1967 "));
+            QCOMPARE(ShownSlide(), u"67C.JPG, 3 of 6, 1967 "_s);
             QCOMPARE(program_->Messages.Count(), 1);
         }));
     }
@@ -282,12 +283,12 @@ private Q_SLOTS:
     void a_cut_off_photo_is_reported_and_never_shown_half_grey()
     {
         const QByteArray whole = TestDisc::Jpeg(Qt::red, {400, 300});
-        program_->Disc.AddFile(QStringLiteral("Torviks/67B.JPG"), whole.left(whole.size() / 2));
+        program_->Disc.AddFile(u"Torviks/67B.JPG"_s, whole.left(whole.size() / 2));
         QVERIFY(InSlideShow(*program_, [&] {
             ClickSlidePart(*program_, playButton);
             Clock::Turn(1000);
-            QCOMPARE(state.ErrorCode, QStringLiteral("ER016"));
-            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("67A.JPG"));
+            QCOMPARE(state.ErrorCode, u"ER016"_s);
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67A.JPG"_s);
         }));
         QCOMPARE(program_->Messages.Count(), 1);
     }
@@ -295,7 +296,7 @@ private Q_SLOTS:
     void no_tick_interrupts_the_message_about_a_photo()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            program_->Disc.Remove(QStringLiteral("Torviks/67B.JPG"));
+            program_->Disc.Remove(u"Torviks/67B.JPG"_s);
             program_->Messages.WhenAsked([] { Clock::Turn(10'000); });
             ClickSlidePart(*program_, playButton);
             Clock::Turn(1000);
@@ -308,8 +309,7 @@ private Q_SLOTS:
     {
         const QList<QColor> colours{Qt::red, Qt::green, Qt::blue};
         for (int number = 0; number < colours.size(); ++number)
-            program_->Disc.AddPhoto(QStringLiteral("67%1.JPG").arg(QChar(u'A' + number)), colours.at(number),
-                                    {1200, 900});
+            program_->Disc.AddPhoto(u"67%1.JPG"_s.arg(QChar(u'A' + number)), colours.at(number), {1200, 900});
         QVERIFY(InSlideShow(*program_, [&] {
             auto& label = static_cast<QLabel&>(frmSlide->Image1.Widget());
             ClickSlidePart(*program_, playButton);

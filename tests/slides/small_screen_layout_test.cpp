@@ -6,6 +6,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -30,7 +31,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->SetScreen({640, 480});
         program_->StartBrowsing();
         state.SlideShowOpen = true;
@@ -101,12 +102,10 @@ private Q_SLOTS:
             for (const Control* other : controls)
                 if (one != other)
                     QVERIFY2(!one->Widget().geometry().intersects(other->Widget().geometry()),
-                             qPrintable(one->Name() + QStringLiteral(" and ") + other->Name()));
+                             qPrintable(one->Name() + u" and "_s + other->Name()));
         }
-        QVERIFY(Named(QStringLiteral("Image1"))
-                    .Widget()
-                    .geometry()
-                    .contains(Named(QStringLiteral("pnlPhotoNumber")).Widget().geometry()));
+        QVERIFY(
+            Named(u"Image1"_s).Widget().geometry().contains(Named(u"pnlPhotoNumber"_s).Widget().geometry()));
     }
 
 private:

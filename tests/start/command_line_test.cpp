@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// What the command line may say.
@@ -20,53 +21,49 @@ private Q_SLOTS:
 
     void drives_come_with_or_without_a_letter()
     {
-        const CommandLine line =
-            ReadCommandLine({QStringLiteral("--drive"), QStringLiteral("G=/discs/one"),
-                             QStringLiteral("--drive=h:=/discs/two words"), QStringLiteral("/discs/three")});
+        const CommandLine line = ReadCommandLine(
+            {u"--drive"_s, u"G=/discs/one"_s, u"--drive=h:=/discs/two words"_s, u"/discs/three"_s});
         QVERIFY(line.Problem.isEmpty());
         QCOMPARE(line.Drives.size(), 3);
         QCOMPARE(line.Drives[0].Letter, QChar(u'G'));
-        QCOMPARE(line.Drives[0].Folder, QStringLiteral("/discs/one"));
+        QCOMPARE(line.Drives[0].Folder, u"/discs/one"_s);
         QCOMPARE(line.Drives[1].Letter, QChar(u'H'));
-        QCOMPARE(line.Drives[1].Folder, QStringLiteral("/discs/two words"));
+        QCOMPARE(line.Drives[1].Folder, u"/discs/two words"_s);
         QVERIFY(line.Drives[2].Letter.isNull());
-        QCOMPARE(line.Drives[2].Folder, QStringLiteral("/discs/three"));
+        QCOMPARE(line.Drives[2].Folder, u"/discs/three"_s);
     }
 
     void the_program_folder_is_taken_in_both_spellings()
     {
-        QCOMPARE(ReadCommandLine({QStringLiteral("--program-folder"), QStringLiteral("/p")}).ProgramFolder,
-                 QStringLiteral("/p"));
-        QCOMPARE(ReadCommandLine({QStringLiteral("--program-folder=/p")}).ProgramFolder,
-                 QStringLiteral("/p"));
+        QCOMPARE(ReadCommandLine({u"--program-folder"_s, u"/p"_s}).ProgramFolder, u"/p"_s);
+        QCOMPARE(ReadCommandLine({u"--program-folder=/p"_s}).ProgramFolder, u"/p"_s);
     }
 
     void the_print_folder_is_taken_in_both_spellings()
     {
-        QCOMPARE(ReadCommandLine({QStringLiteral("--print-to"), QStringLiteral("/p")}).PrintFolder,
-                 QStringLiteral("/p"));
-        QCOMPARE(ReadCommandLine({QStringLiteral("--print-to=/p")}).PrintFolder, QStringLiteral("/p"));
+        QCOMPARE(ReadCommandLine({u"--print-to"_s, u"/p"_s}).PrintFolder, u"/p"_s);
+        QCOMPARE(ReadCommandLine({u"--print-to=/p"_s}).PrintFolder, u"/p"_s);
         QVERIFY(ReadCommandLine({}).PrintFolder.isEmpty());
     }
 
     void help_and_version_have_short_forms()
     {
-        QVERIFY(ReadCommandLine({QStringLiteral("--help")}).Help);
-        QVERIFY(ReadCommandLine({QStringLiteral("-h")}).Help);
-        QVERIFY(ReadCommandLine({QStringLiteral("--version")}).Version);
-        QVERIFY(ReadCommandLine({QStringLiteral("-v")}).Version);
+        QVERIFY(ReadCommandLine({u"--help"_s}).Help);
+        QVERIFY(ReadCommandLine({u"-h"_s}).Help);
+        QVERIFY(ReadCommandLine({u"--version"_s}).Version);
+        QVERIFY(ReadCommandLine({u"-v"_s}).Version);
     }
 
     void what_is_wrong_is_said_data()
     {
         QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("letter C") << QStringList{QStringLiteral("--drive"), QStringLiteral("C=/x")};
-        QTest::newRow("no letter") << QStringList{QStringLiteral("--drive"), QStringLiteral("/x")};
-        QTest::newRow("no folder") << QStringList{QStringLiteral("--drive"), QStringLiteral("E=")};
-        QTest::newRow("no value") << QStringList{QStringLiteral("--drive")};
-        QTest::newRow("no program folder") << QStringList{QStringLiteral("--program-folder")};
-        QTest::newRow("no print folder") << QStringList{QStringLiteral("--print-to")};
-        QTest::newRow("unknown option") << QStringList{QStringLiteral("--frobnicate")};
+        QTest::newRow("letter C") << QStringList{u"--drive"_s, u"C=/x"_s};
+        QTest::newRow("no letter") << QStringList{u"--drive"_s, u"/x"_s};
+        QTest::newRow("no folder") << QStringList{u"--drive"_s, u"E="_s};
+        QTest::newRow("no value") << QStringList{u"--drive"_s};
+        QTest::newRow("no program folder") << QStringList{u"--program-folder"_s};
+        QTest::newRow("no print folder") << QStringList{u"--print-to"_s};
+        QTest::newRow("unknown option") << QStringList{u"--frobnicate"_s};
     }
 
     void what_is_wrong_is_said()
@@ -78,8 +75,7 @@ private Q_SLOTS:
     void the_help_names_every_option()
     {
         for (const QString& option :
-             {QStringLiteral("--drive"), QStringLiteral("--program-folder"), QStringLiteral("--print-to"),
-              QStringLiteral("--help"), QStringLiteral("--version"), QStringLiteral("FOLDER")})
+             {u"--drive"_s, u"--program-folder"_s, u"--print-to"_s, u"--help"_s, u"--version"_s, u"FOLDER"_s})
             QVERIFY(HelpText().contains(option));
     }
 };

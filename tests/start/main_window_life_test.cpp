@@ -3,27 +3,28 @@
 #include "program/task_bar.h"
 #include "start/main_window_life.h"
 #include "support/program.h"
-#include "ui/application.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
+#include "ui/forms/program_title.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 void Save(const QString& key, const QString& value)
 {
-    SaveSetting(applicationTitle, QStringLiteral("Settings"), key, value);
+    SaveSetting(applicationTitle, u"Settings"_s, key, value);
 }
 
 QString Saved(const QString& key)
 {
-    return GetSetting(applicationTitle, QStringLiteral("Settings"), key, QStringLiteral("(none)"));
+    return GetSetting(applicationTitle, u"Settings"_s, key, u"(none)"_s);
 }
 
 } // namespace
@@ -37,8 +38,8 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         ForgetSettings();
-        program_->Disc.AddGroup(QStringLiteral("67"), 3);
-        program_->Disc.AddGroup(QStringLiteral("68"), 2);
+        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->Disc.AddGroup(u"68"_s, 2);
     }
     void cleanup()
     {
@@ -50,10 +51,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("doubled");
-        QTest::newRow("none") << QStringLiteral("Torvik") << QStringLiteral("Torvik");
-        QTest::newRow("one") << QStringLiteral("A & B") << QStringLiteral("A && B");
-        QTest::newRow("two together") << QStringLiteral("A && B") << QStringLiteral("A &&&& B");
-        QTest::newRow("at both ends") << QStringLiteral("&x&") << QStringLiteral("&&x&&");
+        QTest::newRow("none") << u"Torvik"_s << u"Torvik"_s;
+        QTest::newRow("one") << u"A & B"_s << u"A && B"_s;
+        QTest::newRow("two together") << u"A && B"_s << u"A &&&& B"_s;
+        QTest::newRow("at both ends") << u"&x&"_s << u"&&x&&"_s;
         QTest::newRow("empty") << QString() << QString();
     }
 
@@ -76,10 +77,10 @@ private Q_SLOTS:
 
     void the_placement_of_the_last_run_comes_back()
     {
-        Save(QStringLiteral("MainLeft"), QStringLiteral("300"));
-        Save(QStringLiteral("MainTop"), QStringLiteral("150"));
-        Save(QStringLiteral("MainWidth"), QStringLiteral("10500"));
-        Save(QStringLiteral("MainHeight"), QStringLiteral("8250"));
+        Save(u"MainLeft"_s, u"300"_s);
+        Save(u"MainTop"_s, u"150"_s);
+        Save(u"MainWidth"_s, u"10500"_s);
+        Save(u"MainHeight"_s, u"8250"_s);
         program_->StartBrowsing();
         QCOMPARE(Form1->Left(), 300.0);
         QCOMPARE(Form1->Top(), 150.0);
@@ -91,29 +92,29 @@ private Q_SLOTS:
     {
         program_->StartBrowsing();
         QVERIFY(!Form2.IsLoaded());
-        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\richtext\\desc.rtf"));
-        QCOMPARE(Form1->mnuMag(1).Caption(), QStringLiteral("Torvik Illustrated"));
+        QCOMPARE(state.DocumentFile, u"G:\\richtext\\desc.rtf"_s);
+        QCOMPARE(Form1->mnuMag(1).Caption(), u"Torvik Illustrated"_s);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
     }
 
     void a_setting_that_holds_no_number_is_a_failure_without_a_trap()
     {
-        Save(QStringLiteral("MainTop"), QStringLiteral("somewhere"));
+        Save(u"MainTop"_s, u"somewhere"_s);
         program_->StartBrowsing();
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, QStringLiteral("Run-time error '13':\r\n\r\nType mismatch"));
+        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '13':\r\n\r\nType mismatch"_s);
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(Saved(QStringLiteral("MainTop")), QStringLiteral("somewhere"));
+        QCOMPARE(Saved(u"MainTop"_s), u"somewhere"_s);
     }
 
     void the_first_activation_shows_the_first_photo_of_1967()
     {
         program_->StartBrowsing();
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
-        QCOMPARE(Form1->panPhoto.Caption(), QStringLiteral("1"));
-        QCOMPARE(Form1->Image4.Picture().FileName(), QStringLiteral("67A.JPG"));
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
+        QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
         QVERIFY(Form1->Image4.Visible());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
         QVERIFY(!Form1->cmdYR(1).Enabled());
         QVERIFY(Form1->cmdYR(2).Enabled());
         QCOMPARE(int(state.CurrentYearButton), 1);
@@ -138,7 +139,7 @@ private Q_SLOTS:
         program_->StartBrowsing();
         program_->Click(Form1->cmdYR(2));
         Form1->Activate.Fire();
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1968"));
+        QCOMPARE(Form1->panYear.Caption(), u"1968"_s);
         QVERIFY(Form1->cmdYR(1).Enabled());
     }
 
@@ -176,11 +177,11 @@ private Q_SLOTS:
     void a_resize_brings_a_hidden_task_bar_back()
     {
         program_->StartBrowsing();
-        state.TrayWindow = FindWindowByClass(QStringLiteral("Shell_TrayWnd"));
+        state.TrayWindow = FindWindowByClass(u"Shell_TrayWnd"_s);
         ShowWindow(state.TrayWindow, showWindow::hide);
-        Form1->mnuHideStatus.SetCaption(QStringLiteral("ShowStatusBar"));
+        Form1->mnuHideStatus.SetCaption(u"ShowStatusBar"_s);
         Form1->SetWidth(11000);
-        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("HideStatusBar"));
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
         QVERIFY(!Form1->CoversScreen());
     }
 
@@ -189,7 +190,7 @@ private Q_SLOTS:
         program_->StartBrowsing();
         state.ApiResult = 77;
         Form1->SetWidth(11000);
-        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("HideStatusBar"));
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
         QCOMPARE(state.ApiResult, 77);
     }
 
@@ -209,23 +210,23 @@ private Q_SLOTS:
         Form1->SetWidth(11250);
         Form1->SetHeight(8400);
         program_->Settle();
-        if (way == QStringLiteral("cmdExit"))
+        if (way == u"cmdExit"_s)
             program_->Click(Form1->cmdExit);
-        else if (way == QStringLiteral("mnuExit"))
+        else if (way == u"mnuExit"_s)
             Form1->mnuExit.Click.Fire();
         else
             Form1->Window().close();
         QVERIFY(ProgramIsEnding());
         QVERIFY(program_->Messages.Shown().isEmpty());
-        QCOMPARE(Saved(QStringLiteral("MainLeft")), QStringLiteral("450"));
-        QCOMPARE(Saved(QStringLiteral("MainTop")), QStringLiteral("600"));
-        QCOMPARE(Saved(QStringLiteral("MainWidth")), QStringLiteral("11250"));
-        QCOMPARE(Saved(QStringLiteral("MainHeight")), QStringLiteral("8400"));
+        QCOMPARE(Saved(u"MainLeft"_s), u"450"_s);
+        QCOMPARE(Saved(u"MainTop"_s), u"600"_s);
+        QCOMPARE(Saved(u"MainWidth"_s), u"11250"_s);
+        QCOMPARE(Saved(u"MainHeight"_s), u"8400"_s);
     }
 
     void closing_while_minimized_keeps_the_settings_of_the_run_before()
     {
-        Save(QStringLiteral("MainLeft"), QStringLiteral("300"));
+        Save(u"MainLeft"_s, u"300"_s);
         program_->StartBrowsing();
         Form1->SetLeft(900);
         Form1->SetWindowState(Form::State::Minimized);
@@ -233,18 +234,18 @@ private Q_SLOTS:
         QCOMPARE(Form1->WindowState(), Form::State::Minimized);
         Form1->mnuExit.Click.Fire();
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(Saved(QStringLiteral("MainLeft")), QStringLiteral("300"));
-        QCOMPARE(Saved(QStringLiteral("MainWidth")), QStringLiteral("(none)"));
+        QCOMPARE(Saved(u"MainLeft"_s), u"300"_s);
+        QCOMPARE(Saved(u"MainWidth"_s), u"(none)"_s);
     }
 
     void closing_shows_a_hidden_task_bar_and_ends_the_sound()
     {
         program_->StartBrowsing();
-        state.TrayWindow = FindWindowByClass(QStringLiteral("Shell_TrayWnd"));
+        state.TrayWindow = FindWindowByClass(u"Shell_TrayWnd"_s);
         ShowWindow(state.TrayWindow, showWindow::hide);
-        program_->Disc.AddFile(QStringLiteral("wav/x.wav"), "RIFF");
-        Form1->MMControl1.SetFileName(QStringLiteral("G:\\wav\\x.wav"));
-        Form1->MMControl1.Command(QStringLiteral("open"));
+        program_->Disc.AddFile(u"wav/x.wav"_s, "RIFF");
+        Form1->MMControl1.SetFileName(u"G:\\wav\\x.wav"_s);
+        Form1->MMControl1.Command(u"open"_s);
         Form1->mnuExit.Click.Fire();
         QVERIFY(!Form1->CoversScreen());
         QVERIFY(!Form1->MMControl1.IsOpen());
@@ -254,15 +255,15 @@ private Q_SLOTS:
     void the_end_by_cancel_saves_nothing_and_leaves_the_task_bar_hidden()
     {
         program_->StartBrowsing();
-        state.TrayWindow = FindWindowByClass(QStringLiteral("Shell_TrayWnd"));
+        state.TrayWindow = FindWindowByClass(u"Shell_TrayWnd"_s);
         ShowWindow(state.TrayWindow, showWindow::hide);
-        program_->Disc.Remove(QStringLiteral("Torviks"));
+        program_->Disc.Remove(u"Torviks"_s);
         program_->PutDiscIn({});
         program_->DoubleClick(Form1->panPhoto);
         QVERIFY(ProgramIsEnding());
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER037")));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER037"_s));
         QVERIFY(Form1->CoversScreen());
-        QCOMPARE(Saved(QStringLiteral("MainLeft")), QStringLiteral("(none)"));
+        QCOMPARE(Saved(u"MainLeft"_s), u"(none)"_s);
     }
 
     void the_progress_panel_can_be_hidden_from_outside()
@@ -276,8 +277,7 @@ private Q_SLOTS:
 private:
     static void ForgetSettings()
     {
-        QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") +
-                      QStringLiteral("/The Torvik Vollandry 2001.ini"));
+        QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/The Torvik Vollandry 2001.ini"_s);
     }
 
     std::unique_ptr<Program> program_;

@@ -11,6 +11,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// From the splash to the main window.
@@ -21,7 +22,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 3);
+        program_->Disc.AddGroup(u"67"_s, 3);
     }
     void cleanup() { program_.reset(); }
 
@@ -45,8 +46,8 @@ private Q_SLOTS:
         QVERIFY(!Form1.IsLoaded());
         QCOMPARE(Form2->Timer1.Interval(), 5000);
         QVERIFY(state.FirstActivation);
-        QCOMPARE(state.DiscRoot, QStringLiteral("G:"));
-        QCOMPARE(state.PhotoRoot, QStringLiteral("G:"));
+        QCOMPARE(state.DiscRoot, u"G:"_s);
+        QCOMPARE(state.PhotoRoot, u"G:"_s);
         QCOMPARE(int(state.PhotoCount), 3);
         QVERIFY(program_->Messages.Shown().isEmpty());
     }
@@ -89,18 +90,18 @@ private Q_SLOTS:
         const OtherInstance running;
         program_->Start();
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, QStringLiteral("The Torvik Vollandry is already running!"));
+        QCOMPARE(program_->Messages.Last().Text, u"The Torvik Vollandry is already running!"_s);
         QCOMPARE(program_->Messages.Last().Style, 4112);
-        QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry 2001"));
+        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
         QVERIFY(ProgramIsEnding());
         QCOMPARE(state.DiscRoot, QString());
     }
 
     void the_sound_is_played_when_it_is_there()
     {
-        program_->AddToProgramFolder(QStringLiteral("passby.wav"), TestMovie::Wav());
+        program_->AddToProgramFolder(u"passby.wav"_s, TestMovie::Wav());
         program_->Start();
-        QCOMPARE(state.SoundFile, ProgramFolder() + QStringLiteral("\\passby.wav"));
+        QCOMPARE(state.SoundFile, ProgramFolder() + u"\\passby.wav"_s);
         QVERIFY(Form2->MMControl1.IsOpen());
         QCOMPARE(Form2->MMControl1.FileName(), state.SoundFile);
         QTRY_COMPARE(Form2->MMControl1.State(), MediaControl::Mode::Playing);
@@ -109,16 +110,16 @@ private Q_SLOTS:
 
     void a_damaged_sound_holds_nothing_up()
     {
-        program_->AddToProgramFolder(QStringLiteral("passby.wav"), "RIFF");
+        program_->AddToProgramFolder(u"passby.wav"_s, "RIFF");
         program_->StartBrowsing();
         QVERIFY(program_->Messages.Shown().isEmpty());
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1967"));
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
     }
 
     void without_the_sound_there_is_silence()
     {
         program_->Start();
-        QCOMPARE(state.SoundFile, ProgramFolder() + QStringLiteral("\\passby.wav"));
+        QCOMPARE(state.SoundFile, ProgramFolder() + u"\\passby.wav"_s);
         QVERIFY(!Form2->MMControl1.IsOpen());
         QVERIFY(program_->Messages.Shown().isEmpty());
     }

@@ -14,6 +14,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// An upright picture that no turn and no mirror leaves alike: red upper left, green upper right, blue lower
 /// left, white lower right.
 inline QImage FourCorners(const QSize& size)
@@ -86,7 +88,7 @@ public:
     /// The drive path of a file.
     QString PathOf(const QString& name) const
     {
-        return QStringLiteral("C:") + QDir::cleanPath(folder_.filePath(name)).replace(u'/', u'\\');
+        return u"C:"_s + QDir::cleanPath(folder_.filePath(name)).replace(u'/', u'\\');
     }
 
 private:

@@ -11,6 +11,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// Opens the slide show by its button on the main window and does `action` in it. A show that still stands
 /// then is left by its own Exit button. False when no show came up.
 template <typename Action>
@@ -43,9 +45,8 @@ inline void ClickSlidePart(Program& program, const QString& name)
 /// The photo, the position and the caption that the slide show shows: "67A.JPG, 1 of 5, 1967 ".
 inline QString ShownSlide()
 {
-    return QStringLiteral("%1, %2, %3")
-        .arg(frmSlide->Image1.Picture().FileName(), frmSlide->pnlPhotoNumber.Caption(),
-             frmSlide->panYear.Caption());
+    return u"%1, %2, %3"_s.arg(frmSlide->Image1.Picture().FileName(), frmSlide->pnlPhotoNumber.Caption(),
+                               frmSlide->panYear.Caption());
 }
 
 } // namespace torvik

@@ -5,13 +5,14 @@
 #include <QImageReader>
 #include <QStyle>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}};
 };
 
 FormHandle<MainForm> Main;
@@ -32,7 +33,7 @@ private Q_SLOTS:
 
     void it_bears_the_programs_name_and_look()
     {
-        QCOMPARE(QApplication::applicationName(), QStringLiteral("torvik2001"));
+        QCOMPARE(QApplication::applicationName(), u"torvik2001"_s);
         // A display name of its own would be appended to every title.
         QCOMPARE(QApplication::applicationDisplayName(), QApplication::applicationName());
         QCOMPARE(QApplication::palette().color(QPalette::Window), look::face);
@@ -46,14 +47,14 @@ private Q_SLOTS:
         QStringList order;
         const int code = application_->Run([&] {
             Main->Show();
-            order.append(QStringLiteral("start"));
+            order.append(u"start"_s);
             UiRoom::Soon([&] {
-                order.append(QStringLiteral("event"));
+                order.append(u"event"_s);
                 RunHandler([] { EndProgram(); });
             });
         });
         QCOMPARE(code, 0);
-        QCOMPARE(order, (QStringList{QStringLiteral("start"), QStringLiteral("event")}));
+        QCOMPARE(order, (QStringList{u"start"_s, u"event"_s}));
     }
 
     void a_start_that_ends_the_program_runs_nothing_else()

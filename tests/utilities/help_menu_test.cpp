@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTextBrowser>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The menu entry that opens the help.
@@ -16,7 +17,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup()
@@ -28,15 +29,15 @@ private Q_SLOTS:
 
     void it_shows_the_help_file_of_the_program_folder()
     {
-        program_->AddToProgramFolder(QStringLiteral("Torvik2001.HLP"),
+        program_->AddToProgramFolder(u"Torvik2001.HLP"_s,
                                      "{\\rtf1 {\\*\\bkmkstart start}Welcome{\\*\\bkmkend start}\\par}");
         Form1->mnuContents.Click.Fire();
         QVERIFY(HelpViewer() != nullptr);
         QVERIFY(HelpViewer()->isVisible());
-        auto* text = HelpViewer()->findChild<QTextBrowser*>(QStringLiteral("HelpText"));
+        auto* text = HelpViewer()->findChild<QTextBrowser*>(u"HelpText"_s);
         QVERIFY(text != nullptr);
-        QVERIFY(text->toPlainText().contains(QStringLiteral("Welcome")));
-        QCOMPARE(Form1->dlgCommon1.HelpFile(), ProgramFolder() + QStringLiteral("\\Torvik2001.HLP"));
+        QVERIFY(text->toPlainText().contains(u"Welcome"_s));
+        QCOMPARE(Form1->dlgCommon1.HelpFile(), ProgramFolder() + u"\\Torvik2001.HLP"_s);
         QCOMPARE(Form1->dlgCommon1.HelpCommand(), 3);
         QCOMPARE(program_->Messages.Count(), 0);
     }
@@ -46,8 +47,7 @@ private Q_SLOTS:
         Form1->mnuContents.Click.Fire();
         QVERIFY(HelpViewer() == nullptr);
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(
-            program_->Messages.Last().Text.contains(ProgramFolder() + QStringLiteral("\\Torvik2001.HLP")));
+        QVERIFY(program_->Messages.Last().Text.contains(ProgramFolder() + u"\\Torvik2001.HLP"_s));
     }
 
 private:
@@ -55,7 +55,7 @@ private:
     {
         const QWidgetList windows = QApplication::topLevelWidgets();
         for (QWidget* window : windows) {
-            if (window->objectName() == QStringLiteral("HelpViewer"))
+            if (window->objectName() == u"HelpViewer"_s)
                 return window;
         }
         return nullptr;

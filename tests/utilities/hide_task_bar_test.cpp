@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The menu entry that hides and shows the task bar.
@@ -15,7 +16,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -25,11 +26,11 @@ private Q_SLOTS:
         Form1->SetWidth(11000);
         Form1->mnuHideStatus.Click.Fire();
         program_->Settle();
-        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("ShowStatusBar"));
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"ShowStatusBar"_s);
         QVERIFY(Form1->CoversScreen());
         QVERIFY(state.TrayWindow != 0);
         QCOMPARE(state.ApiResult, 1); // it was showing before
-        QCOMPARE(state.TrayClassName, QStringLiteral("Shell_TrayWnd"));
+        QCOMPARE(state.TrayClassName, u"Shell_TrayWnd"_s);
         QCOMPARE(Form1->Left(), 0.0);
         QCOMPARE(Form1->Top(), 0.0);
         QCOMPARE(Form1->Width(), 12000.0);
@@ -41,7 +42,7 @@ private Q_SLOTS:
         Form1->mnuHideStatus.Click.Fire();
         Form1->mnuHideStatus.Click.Fire();
         program_->Settle();
-        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("HideStatusBar"));
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
         QVERIFY(!Form1->CoversScreen());
         QCOMPARE(Form1->Width(), 12000.0);
         QCOMPARE(state.ApiResult, 0); // it was hidden before
@@ -53,7 +54,7 @@ private Q_SLOTS:
         program_->Settle();
         Form1->SetHeight(8000);
         program_->Settle();
-        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("HideStatusBar"));
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
         QVERIFY(!Form1->CoversScreen());
     }
 
@@ -62,12 +63,12 @@ private Q_SLOTS:
         Form1->mnuHideStatus.Click.Fire();
         Form1->SetHeight(Form1->Height());
         program_->Settle();
-        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("ShowStatusBar"));
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"ShowStatusBar"_s);
     }
 
     void an_unknown_window_is_not_touched()
     {
-        QCOMPARE(FindWindowByClass(QStringLiteral("Progman")), 0);
+        QCOMPARE(FindWindowByClass(u"Progman"_s), 0);
         QCOMPARE(ShowWindow(0, showWindow::hide), 0);
         QVERIFY(!Form1->CoversScreen());
     }

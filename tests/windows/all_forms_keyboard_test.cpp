@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -36,7 +37,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 3);
+        program_->Disc.AddGroup(u"67"_s, 3);
         program_->Start();
     }
     void cleanup() { program_.reset(); }
@@ -52,10 +53,10 @@ private Q_SLOTS:
     void the_tab_key_comes_to_all_of_a_work_panel_and_nothing_lies_over_it_data()
     {
         QTest::addColumn<QString>("panel");
-        QTest::newRow("pnlSSaver") << QStringLiteral("pnlSSaver");
-        QTest::newRow("pnlProgress") << QStringLiteral("pnlProgress");
-        QTest::newRow("pnlPrint") << QStringLiteral("pnlPrint");
-        QTest::newRow("pnlSound") << QStringLiteral("pnlSound");
+        QTest::newRow("pnlSSaver") << u"pnlSSaver"_s;
+        QTest::newRow("pnlProgress") << u"pnlProgress"_s;
+        QTest::newRow("pnlPrint") << u"pnlPrint"_s;
+        QTest::newRow("pnlSound") << u"pnlSound"_s;
     }
     void the_tab_key_comes_to_all_of_a_work_panel_and_nothing_lies_over_it()
     {
@@ -78,11 +79,11 @@ private Q_SLOTS:
     void in_a_work_panel_the_tab_key_walks_from_the_choices_to_the_buttons()
     {
         program_->PassSplash();
-        OpenPanel(QStringLiteral("pnlPrint"));
+        OpenPanel(u"pnlPrint"_s);
         Form1->Check1(0).SetFocus();
         QCOMPARE(TabWalk(Form1->Window()).mid(0, 11).join(u' '),
-                 QStringLiteral("Check1(1) Check1(2) Check1(3) Check1(4) Check1(5) Check1(6) Check1(7) "
-                                "List1(0) List1(1) SSCommand7 cmdOK"));
+                 u"Check1(1) Check1(2) Check1(3) Check1(4) Check1(5) Check1(6) Check1(7) "
+                 "List1(0) List1(1) SSCommand7 cmdOK"_s);
     }
 
     void the_keyboard_walks_on_from_the_photo_and_opens_the_play_list()
@@ -96,7 +97,7 @@ private Q_SLOTS:
         program_->Settle();
         Form1->Image4.Widget().setFocus(Qt::TabFocusReason);
         program_->Press(Qt::Key_Space);
-        QCOMPARE(Form1->panYear.Caption(), QStringLiteral("1968"));
+        QCOMPARE(Form1->panYear.Caption(), u"1968"_s);
     }
 
 private:
@@ -110,8 +111,7 @@ private:
 
     void OpenPanel(const QString& panel)
     {
-        const QStringList handled = {QStringLiteral("pnlSSaver"), QStringLiteral("pnlPrint"),
-                                     QStringLiteral("pnlSound")};
+        const QStringList handled = {u"pnlSSaver"_s, u"pnlPrint"_s, u"pnlSound"_s};
         if (panel == handled[0])
             Form1->mnuSaver.Click.Fire();
         else if (panel == handled[1])
@@ -151,9 +151,9 @@ private:
                 continue;
             ++expected;
             QVERIFY2(walk.contains(widget->objectName()),
-                     qPrintable(widget->objectName() + QStringLiteral(" is not in ") + walk.join(u' ')));
+                     qPrintable(widget->objectName() + u" is not in "_s + walk.join(u' ')));
         }
-        QVERIFY(expected > 0 || form.Design().Name == QStringLiteral("Form2"));
+        QVERIFY(expected > 0 || form.Design().Name == u"Form2"_s);
     }
 
     std::unique_ptr<Program> program_;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -16,7 +17,7 @@ QStringList Members(const QString& name, int first, int last, int step = 1)
 {
     QStringList names;
     for (int index = first; index <= last; index += step)
-        names += QStringLiteral("%1(%2)").arg(name).arg(index);
+        names += u"%1(%2)"_s.arg(name).arg(index);
     return names;
 }
 
@@ -24,7 +25,7 @@ QStringList Parts(const QString& name, const QString& parts)
 {
     QStringList names = {name};
     for (const QString& part : parts.split(u' '))
-        names += QStringLiteral("%1(%2)").arg(name, part);
+        names += u"%1(%2)"_s.arg(name, part);
     return names;
 }
 
@@ -33,7 +34,7 @@ QStringList Words(const char* words)
     return QString::fromLatin1(words).split(u' ');
 }
 
-const QString barParts = QStringLiteral("Prev Next Play Pause Back Step Stop Record Eject");
+const QString barParts = u"Prev Next Play Pause Back Step Stop Record Eject"_s;
 
 /// What a screen reader says of a widget's kind.
 QAccessible::Role RoleOf(QWidget& widget)
@@ -65,7 +66,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 3);
+        program_->Disc.AddGroup(u"67"_s, 3);
         program_->Start();
     }
     void cleanup() { program_.reset(); }
@@ -83,7 +84,7 @@ private Q_SLOTS:
         program_->PassSplash();
         QStringList names;
         for (const QAction* entry : Form1->Window().MenuBar()->findChildren<QAction*>()) {
-            if (entry->objectName().startsWith(QStringLiteral("mnu")))
+            if (entry->objectName().startsWith(u"mnu"_s))
                 names += entry->objectName();
         }
         QStringList expected = Words(
@@ -94,26 +95,26 @@ private Q_SLOTS:
             "mnuContents "
             "mnuLine3 mnuQuillonSoftware mnuLine2 mnuWhatsNew mnuIntro mnuNotice mnuCredits mnuSysInfo "
             "mnuContrib mnuLine4 mnuAbout");
-        expected += Members(QStringLiteral("mnuMag"), 1, 5);
-        expected += Members(QStringLiteral("mnuPR"), 1, 3);
-        expected += Members(QStringLiteral("mnuMisc"), 1, 4);
-        expected += Members(QStringLiteral("mnuArt"), 1, 2);
-        expected += Members(QStringLiteral("mnuStuff"), 1, 7, 2);
-        expected += Members(QStringLiteral("mnuSpecialty"), 0, 1);
+        expected += Members(u"mnuMag"_s, 1, 5);
+        expected += Members(u"mnuPR"_s, 1, 3);
+        expected += Members(u"mnuMisc"_s, 1, 4);
+        expected += Members(u"mnuArt"_s, 1, 2);
+        expected += Members(u"mnuStuff"_s, 1, 7, 2);
+        expected += Members(u"mnuSpecialty"_s, 0, 1);
         QCOMPARE(Sorted(names), Sorted(expected));
     }
 
     void what_is_never_seen_has_its_name_too()
     {
         QCOMPARE(Unseen(*Form2, "MMControl1"), &Form2->MMControl1);
-        QVERIFY(Form2->Window().findChild<QTimer*>(QStringLiteral("Timer1")) != nullptr);
+        QVERIFY(Form2->Window().findChild<QTimer*>(u"Timer1"_s) != nullptr);
         program_->PassSplash();
         QCOMPARE(Unseen(*Form1, "MMControl1"), &Form1->MMControl1);
         QCOMPARE(Unseen(*Form1, "dlgCommon1"), &Form1->dlgCommon1);
         QCOMPARE(Unseen(*Form1, "dlgPrint"), &Form1->dlgPrint);
         QCOMPARE(Unseen(*txtForm, "CommonDialog1"), &txtForm->CommonDialog1);
-        QVERIFY(frmSlide->Window().findChild<QTimer*>(QStringLiteral("Timer1")) != nullptr);
-        QVERIFY(frmSlide->Window().findChild<QTimer*>(QStringLiteral("Timer3")) != nullptr);
+        QVERIFY(frmSlide->Window().findChild<QTimer*>(u"Timer1"_s) != nullptr);
+        QVERIFY(frmSlide->Window().findChild<QTimer*>(u"Timer3"_s) != nullptr);
     }
 
     void every_control_is_spoken_of_by_a_name_data() { AddRowForEachForm(); }
@@ -135,10 +136,10 @@ private Q_SLOTS:
         QCOMPARE(RoleOf(form.Window()), QAccessible::Window);
         for (QWidget* widget : NamedWidgets(form)) {
             const QList<QAccessible::Role> fitting = RolesFor(widget->objectName());
-            QVERIFY2(fitting.contains(RoleOf(*widget)),
-                     qPrintable(QStringLiteral("%1 has role %2")
-                                    .arg(widget->objectName())
-                                    .arg(static_cast<int>(RoleOf(*widget)))));
+            QVERIFY2(
+                fitting.contains(RoleOf(*widget)),
+                qPrintable(
+                    u"%1 has role %2"_s.arg(widget->objectName()).arg(static_cast<int>(RoleOf(*widget)))));
         }
     }
 
@@ -152,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(spoken->valueInterface()->currentValue().toInt(), 40);
         QCOMPARE(spoken->valueInterface()->minimumValue().toInt(), 0);
         QCOMPARE(spoken->valueInterface()->maximumValue().toInt(), 100);
-        QCOMPARE(spoken->text(QAccessible::Name), QStringLiteral("40%"));
+        QCOMPARE(spoken->text(QAccessible::Name), u"40%"_s);
         QVERIFY(QAccessible::queryAccessibleInterface(&Form1->panYear.Widget())->valueInterface() == nullptr);
     }
 
@@ -167,25 +168,23 @@ private:
 
     static QStringList ControlsOf(const QString& form)
     {
-        if (form == QStringLiteral("Form2"))
+        if (form == u"Form2"_s)
             return Words("Image1 SSPanel1 Picture3");
-        if (form == QStringLiteral("txtForm"))
+        if (form == u"txtForm"_s)
             return Words("rtbText SSCommand1 cmdPrint SSCommand2 SSCommand3");
-        if (form == QStringLiteral("frmSlide"))
+        if (form == u"frmSlide"_s)
             return Words("Image1 pnlPhotoNumber panYear panInterval SSCommand1 SSCommand2 PnlCoStar "
                          "StatusDate StatusDay StatusTime cmdExit") +
-                   Parts(QStringLiteral("mmSlide"), barParts) +
-                   Parts(QStringLiteral("SpinInterval"), QStringLiteral("Up Down"));
-        if (form == QStringLiteral("frmScroll"))
+                   Parts(u"mmSlide"_s, barParts) + Parts(u"SpinInterval"_s, u"Up Down"_s);
+        if (form == u"frmScroll"_s)
             return Words("Image1 picParent picChild HScroll1 VScroll1 SSCommand1");
-        if (form == QStringLiteral("frmMovie"))
-            return Words("PicMovie SSPanel1 HScroll1 SSCommand1 SSCommand2") +
-                   Members(QStringLiteral("optMovie"), 0, 5) +
-                   Parts(QStringLiteral("MMControl1"), barParts + QStringLiteral(" Position"));
-        if (form == QStringLiteral("frmSSPhoto"))
+        if (form == u"frmMovie"_s)
+            return Words("PicMovie SSPanel1 HScroll1 SSCommand1 SSCommand2") + Members(u"optMovie"_s, 0, 5) +
+                   Parts(u"MMControl1"_s, barParts + u" Position"_s);
+        if (form == u"frmSSPhoto"_s)
             return Words("Picture1 Text4 SSCommand7 SSCommand8 SSCommand2 SSCommand3 SSCommand1 SSCommand9 "
                          "ProgressGuage");
-        if (form == QStringLiteral("frmAbout"))
+        if (form == u"frmAbout"_s)
             return Words("SSPanel5 SSPanel1 SSPanel4 SSPanel6 panAbout panQuillon SSPanel2 SSCommand2 "
                          "SSCommand1 Picture2 Image1");
         return ControlsOfForm1();
@@ -201,14 +200,14 @@ private:
             "pnlProgress Label2 Label1 Text1 ProgressGuage ProgressGuage2 cmdCopy cmdCancel Image1 "
             "pnlPrint Label3 Label5 Label4 Label6 Frame2 cmdPrint cmdOK SSCommand7 Picture3 rtbText Image3 "
             "pnlSound Label10 Picture5 SSCommand3 SSCommand1");
-        names += Members(QStringLiteral("cmdYR"), 1, 35);
-        names += Parts(QStringLiteral("SpinButton1"), QStringLiteral("Up Down"));
-        names += Parts(QStringLiteral("SpinInterval"), QStringLiteral("Up Down"));
-        names += Members(QStringLiteral("Option1"), 0, 1);
-        names += Members(QStringLiteral("Check1"), 0, 7);
-        names += Members(QStringLiteral("List1"), 0, 1);
-        names += Members(QStringLiteral("SSCommand2"), 0, 28);
-        names += Members(QStringLiteral("lblSound"), 0, 28);
+        names += Members(u"cmdYR"_s, 1, 35);
+        names += Parts(u"SpinButton1"_s, u"Up Down"_s);
+        names += Parts(u"SpinInterval"_s, u"Up Down"_s);
+        names += Members(u"Option1"_s, 0, 1);
+        names += Members(u"Check1"_s, 0, 7);
+        names += Members(u"List1"_s, 0, 1);
+        names += Members(u"SSCommand2"_s, 0, 28);
+        names += Members(u"lblSound"_s, 0, 28);
         return names;
     }
 

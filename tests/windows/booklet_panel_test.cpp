@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The controls of the booklet panel.
@@ -14,7 +15,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -72,8 +73,8 @@ private Q_SLOTS:
 
     void the_lists_are_spoken_of_as_from_and_to()
     {
-        QCOMPARE(Form1->List1(0).Widget().accessibleName(), QStringLiteral("From:"));
-        QCOMPARE(Form1->List1(1).Widget().accessibleName(), QStringLiteral("To:"));
+        QCOMPARE(Form1->List1(0).Widget().accessibleName(), u"From:"_s);
+        QCOMPARE(Form1->List1(1).Widget().accessibleName(), u"To:"_s);
     }
 
     void the_panel_and_what_only_serves_the_printing_are_hidden()
@@ -81,8 +82,8 @@ private Q_SLOTS:
         QVERIFY(!Form1->pnlPrint.Visible());
         QVERIFY(!Form1->Picture3.Visible());
         QVERIFY(!Form1->rtbText.Visible());
-        QCOMPARE(Form1->Picture3.Name(), QStringLiteral("Picture3"));
-        QCOMPARE(Form1->rtbText.Name(), QStringLiteral("rtbText"));
+        QCOMPARE(Form1->Picture3.Name(), u"Picture3"_s);
+        QCOMPARE(Form1->rtbText.Name(), u"rtbText"_s);
     }
 
     void the_decoration_shows_a_picture()
@@ -112,7 +113,7 @@ private Q_SLOTS:
     void no_caption_is_cut_off()
     {
         Form1->pnlPrint.Show();
-        Form1->cmdPrint.SetCaption(QStringLiteral("Print Again"));
+        Form1->cmdPrint.SetCaption(u"Print Again"_s);
         program_->Settle();
         for (int index = 0; index <= 7; ++index) {
             const QWidget& box = Form1->Check1(index).Widget();

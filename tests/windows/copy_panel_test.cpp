@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The controls of the work panel that shows the progress of a copy.
@@ -13,7 +14,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -33,12 +34,12 @@ private Q_SLOTS:
     {
         for (Panel* gauge : {&Form1->ProgressGuage, &Form1->ProgressGuage2}) {
             QCOMPARE(gauge->FloodPercent(), 0);
-            QCOMPARE(gauge->Widget().accessibleName(), QStringLiteral("0%"));
+            QCOMPARE(gauge->Widget().accessibleName(), u"0%"_s);
             gauge->SetFloodPercent(37);
-            QCOMPARE(gauge->Widget().accessibleName(), QStringLiteral("37%"));
+            QCOMPARE(gauge->Widget().accessibleName(), u"37%"_s);
         }
-        QCOMPARE(Form1->ProgressGuage.ToolTip(), QStringLiteral("This file"));
-        QCOMPARE(Form1->ProgressGuage2.ToolTip(), QStringLiteral("All files"));
+        QCOMPARE(Form1->ProgressGuage.ToolTip(), u"This file"_s);
+        QCOMPARE(Form1->ProgressGuage2.ToolTip(), u"All files"_s);
     }
 
 private:

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The controls of the main window: names, captions, tool tips, places.
@@ -15,14 +16,14 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
 
     void the_window_has_its_caption()
     {
-        QCOMPARE(Form1->Caption(), QStringLiteral("The Torvik Vollandry    2001"));
+        QCOMPARE(Form1->Caption(), u"The Torvik Vollandry    2001"_s);
         QCOMPARE(Form1->ScaleMode(), Scale::Pixels);
     }
 
@@ -73,7 +74,7 @@ private Q_SLOTS:
             const Button& button = Form1->cmdYR(index);
             const bool upper = index <= 23;
             const int column = upper ? index - 1 : index - 24;
-            QCOMPARE(button.Name(), QStringLiteral("cmdYR(%1)").arg(index));
+            QCOMPARE(button.Name(), u"cmdYR(%1)"_s.arg(index));
             QCOMPARE(button.Top(), upper ? 0.0 : 360.0);
             QCOMPARE(button.Height(), 375.0);
             QCOMPARE(button.Left(), column == 0 ? 240.0 : 1080.0 + 480.0 * (column - 1));
@@ -94,33 +95,33 @@ private Q_SLOTS:
         for (int index = 1; index <= 35; ++index)
             captions.append(Form1->cmdYR(index).Caption());
         QCOMPARE(captions.join(u' '),
-                 QStringLiteral("1967 68 69 70 71 72 73 74 75 76 77 78 79 80 81 82 83 84 85 86 87 88 89 "
-                                "1990 91 92 93 94 95 96 97 98 99 00 01"));
+                 u"1967 68 69 70 71 72 73 74 75 76 77 78 79 80 81 82 83 84 85 86 87 88 89 "
+                 "1990 91 92 93 94 95 96 97 98 99 00 01"_s);
     }
 
     void the_buttons_carry_their_captions()
     {
-        QCOMPARE(Form1->cmdExit.Caption(), QStringLiteral("Exit"));
-        QCOMPARE(Form1->cmdSlide.Caption(), QStringLiteral("SlideShow"));
-        QCOMPARE(Form1->cmdDesc.Caption(), QStringLiteral("Description"));
-        QCOMPARE(Form1->cmdStats.Caption(), QStringLiteral("Statistics"));
-        QCOMPARE(Form1->cmdColors.Caption(), QStringLiteral("Colors"));
-        QCOMPARE(Form1->cmdOptions.Caption(), QStringLiteral("Options"));
-        QCOMPARE(Form1->cmdNostalgia.Caption(), QStringLiteral("Nostalgia"));
-        QCOMPARE(Form1->cmdAd.Caption(), QStringLiteral("Advertisement"));
-        QCOMPARE(Form1->cmdEmblem.Caption(), QStringLiteral("Emblem"));
-        QCOMPARE(Form1->cmdScript.Caption(), QStringLiteral("Script"));
-        QCOMPARE(Form1->cmdClipArt.Caption(), QStringLiteral("ClipArt "));
+        QCOMPARE(Form1->cmdExit.Caption(), u"Exit"_s);
+        QCOMPARE(Form1->cmdSlide.Caption(), u"SlideShow"_s);
+        QCOMPARE(Form1->cmdDesc.Caption(), u"Description"_s);
+        QCOMPARE(Form1->cmdStats.Caption(), u"Statistics"_s);
+        QCOMPARE(Form1->cmdColors.Caption(), u"Colors"_s);
+        QCOMPARE(Form1->cmdOptions.Caption(), u"Options"_s);
+        QCOMPARE(Form1->cmdNostalgia.Caption(), u"Nostalgia"_s);
+        QCOMPARE(Form1->cmdAd.Caption(), u"Advertisement"_s);
+        QCOMPARE(Form1->cmdEmblem.Caption(), u"Emblem"_s);
+        QCOMPARE(Form1->cmdScript.Caption(), u"Script"_s);
+        QCOMPARE(Form1->cmdClipArt.Caption(), u"ClipArt "_s);
     }
 
     void the_tool_tips_are_there()
     {
-        QCOMPARE(Form1->panPhoto.ToolTip(), QStringLiteral("Double-click to show photo #1"));
+        QCOMPARE(Form1->panPhoto.ToolTip(), u"Double-click to show photo #1"_s);
         QCOMPARE(Form1->Image4.ToolTip(),
-                 QStringLiteral("Click the Right mouse button to copy photo or add to Screen Saver"));
+                 u"Click the Right mouse button to copy photo or add to Screen Saver"_s);
         for (const PictureBox* pane : {&Form1->picEmblem, &Form1->picEmbSide, &Form1->picEmbRear,
                                        &Form1->picScript, &Form1->picClipArt})
-            QCOMPARE(pane->ToolTip(), QStringLiteral("Click the Right mouse button to copy"));
+            QCOMPARE(pane->ToolTip(), u"Click the Right mouse button to copy"_s);
     }
 
     void every_control_says_something_to_a_screen_reader()
@@ -135,8 +136,8 @@ private Q_SLOTS:
             ++named;
         }
         QVERIFY(named > 150);
-        QCOMPARE(Form1->Window().objectName(), QStringLiteral("Form1"));
-        QCOMPARE(Form1->MMControl1.objectName(), QStringLiteral("MMControl1"));
+        QCOMPARE(Form1->Window().objectName(), u"Form1"_s);
+        QCOMPARE(Form1->MMControl1.objectName(), u"MMControl1"_s);
     }
 
     void the_arrows_are_parts_of_the_spin_button_with_names_of_their_own()
@@ -144,18 +145,16 @@ private Q_SLOTS:
         const auto arrow = [](const char* name) {
             return Form1->SpinButton1.Widget().findChild<QWidget*>(QString::fromLatin1(name));
         };
-        QCOMPARE(arrow("SpinButton1(Up)")->accessibleName(), QStringLiteral("Next photo"));
-        QCOMPARE(arrow("SpinButton1(Down)")->accessibleName(), QStringLiteral("Previous photo"));
+        QCOMPARE(arrow("SpinButton1(Up)")->accessibleName(), u"Next photo"_s);
+        QCOMPARE(arrow("SpinButton1(Down)")->accessibleName(), u"Previous photo"_s);
         QVERIFY(arrow("SpinButton1(Down)")->x() < arrow("SpinButton1(Up)")->x());
     }
 
     void overlays_panels_caption_and_file_name_are_hidden_at_first()
     {
-        for (const QString& name :
-             {QStringLiteral("picEmblem"), QStringLiteral("picEmbSide"), QStringLiteral("picEmbRear"),
-              QStringLiteral("picScript"), QStringLiteral("picClipArt"), QStringLiteral("pnlSSaver"),
-              QStringLiteral("pnlProgress"), QStringLiteral("pnlPrint"), QStringLiteral("pnlSound"),
-              QStringLiteral("rtbDetails"), QStringLiteral("txtFile")}) {
+        for (const QString& name : {u"picEmblem"_s, u"picEmbSide"_s, u"picEmbRear"_s, u"picScript"_s,
+                                    u"picClipArt"_s, u"pnlSSaver"_s, u"pnlProgress"_s, u"pnlPrint"_s,
+                                    u"pnlSound"_s, u"rtbDetails"_s, u"txtFile"_s}) {
             const Control* control = Find(name);
             QVERIFY2(control != nullptr, qPrintable(name));
             QVERIFY2(!control->Visible(), qPrintable(name));
@@ -164,29 +163,29 @@ private Q_SLOTS:
 
     void the_photo_says_its_file_name_to_a_screen_reader()
     {
-        QCOMPARE(Form1->Image4.Widget().accessibleName(), QStringLiteral("67A.JPG"));
-        QCOMPARE(Form1->panYear.Widget().accessibleName(), QStringLiteral("1967"));
-        QCOMPARE(Form1->panPhoto.Widget().accessibleName(), QStringLiteral("1"));
-        QCOMPARE(Form1->cmdYR(3).Widget().accessibleName(), QStringLiteral("69"));
+        QCOMPARE(Form1->Image4.Widget().accessibleName(), u"67A.JPG"_s);
+        QCOMPARE(Form1->panYear.Widget().accessibleName(), u"1967"_s);
+        QCOMPARE(Form1->panPhoto.Widget().accessibleName(), u"1"_s);
+        QCOMPARE(Form1->cmdYR(3).Widget().accessibleName(), u"69"_s);
     }
 
     void a_long_title_is_not_cut_off()
     {
-        Form1->panYear.SetCaption(QStringLiteral("Danbury Mint Die Cast Models "));
+        Form1->panYear.SetCaption(u"Danbury Mint Die Cast Models "_s);
         const int needed = Form1->panYear.Widget().fontMetrics().horizontalAdvance(Form1->panYear.Caption());
         QVERIFY(Form1->panYear.Width() > needed);
-        Form1->panYear.SetCaption(QStringLiteral("1967"));
+        Form1->panYear.SetCaption(u"1967"_s);
         QCOMPARE(Form1->panYear.Width(), 54.0);
     }
 
     void the_common_dialogs_are_there_with_their_stored_properties()
     {
-        QCOMPARE(Form1->dlgPrint.objectName(), QStringLiteral("dlgPrint"));
-        QCOMPARE(Form1->dlgCommon1.objectName(), QStringLiteral("dlgCommon1"));
-        QCOMPARE(Form1->dlgCommon1.DefaultExt(), QStringLiteral("cbl"));
-        QCOMPARE(Form1->dlgCommon1.DialogTitle(), QStringLiteral("Select COBOL Source File"));
-        QCOMPARE(Form1->dlgCommon1.Filter(), QStringLiteral("*.cbl|*.cbl|*.cob|*.cob|All (*.*)|*.*"));
-        QCOMPARE(txtForm->CommonDialog1.objectName(), QStringLiteral("CommonDialog1"));
+        QCOMPARE(Form1->dlgPrint.objectName(), u"dlgPrint"_s);
+        QCOMPARE(Form1->dlgCommon1.objectName(), u"dlgCommon1"_s);
+        QCOMPARE(Form1->dlgCommon1.DefaultExt(), u"cbl"_s);
+        QCOMPARE(Form1->dlgCommon1.DialogTitle(), u"Select COBOL Source File"_s);
+        QCOMPARE(Form1->dlgCommon1.Filter(), u"*.cbl|*.cbl|*.cob|*.cob|All (*.*)|*.*"_s);
+        QCOMPARE(txtForm->CommonDialog1.objectName(), u"CommonDialog1"_s);
         QCOMPARE(txtForm->CommonDialog1.DefaultExt() + txtForm->CommonDialog1.DialogTitle() +
                      txtForm->CommonDialog1.Filter(),
                  QString());

@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The window of the zoom viewer as it is designed.
@@ -15,11 +16,10 @@ private Q_SLOTS:
 
     void each_view_says_what_the_mouse_does()
     {
-        QCOMPARE(
-            frmScroll->Image1.ToolTip(),
-            QStringLiteral("Click the left mouse button to zoom in. Click the Right mouse button to close."));
-        const QString zoomOut = QStringLiteral(
-            "Click the left mouse button to view zoom out. Click the Right mouse button to close.");
+        QCOMPARE(frmScroll->Image1.ToolTip(),
+                 u"Click the left mouse button to zoom in. Click the Right mouse button to close."_s);
+        const QString zoomOut =
+            u"Click the left mouse button to view zoom out. Click the Right mouse button to close."_s;
         QCOMPARE(frmScroll->picParent.ToolTip(), zoomOut);
         QCOMPARE(frmScroll->picChild.ToolTip(), zoomOut);
         for (const Control* control : std::initializer_list<const Control*>{
@@ -29,7 +29,7 @@ private Q_SLOTS:
 
     void the_corner_button_is_spoken_as_what_it_does()
     {
-        QCOMPARE(frmScroll->SSCommand1.Widget().accessibleName(), QStringLiteral("Close"));
+        QCOMPARE(frmScroll->SSCommand1.Widget().accessibleName(), u"Close"_s);
     }
 
     void lengths_are_pixels_on_the_form_and_in_the_pane()

@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The saver's panel as it is designed.
@@ -13,7 +14,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -22,16 +23,16 @@ private Q_SLOTS:
 
     void its_controls_bear_their_texts()
     {
-        QCOMPARE(Form1->Label7.Caption(), QStringLiteral("The Torvik Vollandry"));
-        QCOMPARE(Form1->Label8.Caption(), QStringLiteral("Install Screen Saver"));
-        QCOMPARE(Form1->Label9.Caption(), QStringLiteral("Select the photo delay:"));
-        QCOMPARE(Form1->Option1(0).Caption(), QStringLiteral("All Photos"));
-        QCOMPARE(Form1->Option1(1).Caption(), QStringLiteral("Selected Photos"));
-        QCOMPARE(Form1->panInterval.Caption(), QStringLiteral("1 Second"));
-        QCOMPARE(Form1->SpinInterval.ToolTip(), QStringLiteral("Set Slide Show Delay"));
-        QCOMPARE(Form1->SSCommand4.Caption(), QStringLiteral("Install"));
-        QCOMPARE(Form1->SSCommand5.Caption(), QStringLiteral("Help"));
-        QCOMPARE(Form1->SSCommand6.Caption(), QStringLiteral("Cancel"));
+        QCOMPARE(Form1->Label7.Caption(), u"The Torvik Vollandry"_s);
+        QCOMPARE(Form1->Label8.Caption(), u"Install Screen Saver"_s);
+        QCOMPARE(Form1->Label9.Caption(), u"Select the photo delay:"_s);
+        QCOMPARE(Form1->Option1(0).Caption(), u"All Photos"_s);
+        QCOMPARE(Form1->Option1(1).Caption(), u"Selected Photos"_s);
+        QCOMPARE(Form1->panInterval.Caption(), u"1 Second"_s);
+        QCOMPARE(Form1->SpinInterval.ToolTip(), u"Set Slide Show Delay"_s);
+        QCOMPARE(Form1->SSCommand4.Caption(), u"Install"_s);
+        QCOMPARE(Form1->SSCommand5.Caption(), u"Help"_s);
+        QCOMPARE(Form1->SSCommand6.Caption(), u"Cancel"_s);
     }
 
     void all_photos_are_chosen_at_first_and_the_choices_exclude_each_other()

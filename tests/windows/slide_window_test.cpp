@@ -2,6 +2,7 @@
 #include "support/slide_visit.h"
 #include "windows/slide_window.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -9,7 +10,7 @@ namespace {
 QString SpokenName(const QString& widget)
 {
     const auto* found = frmSlide->Window().findChild<QWidget*>(widget);
-    return found == nullptr ? QStringLiteral("(missing)") : found->accessibleName();
+    return found == nullptr ? u"(missing)"_s : found->accessibleName();
 }
 
 } // namespace
@@ -22,7 +23,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
+        program_->Disc.AddGroup(u"67"_s, 2);
         program_->StartBrowsing();
         state.SlideShowOpen = true;
     }
@@ -30,21 +31,20 @@ private Q_SLOTS:
 
     void captions_and_tool_tips()
     {
-        QCOMPARE(frmSlide->Caption(), QStringLiteral("The Torvik Vollandry Slide Show"));
-        QCOMPARE(frmSlide->panYear.Caption(), QStringLiteral("panYear"));
-        QCOMPARE(frmSlide->panInterval.Caption(), QStringLiteral("SSPanel1"));
-        QCOMPARE(frmSlide->SSCommand1.Caption(), QStringLiteral("Beginning"));
-        QCOMPARE(frmSlide->SSCommand1.ToolTip(), QStringLiteral("Jump to Slide 1"));
-        QCOMPARE(frmSlide->SSCommand2.Caption(), QStringLiteral("Middle"));
-        QCOMPARE(frmSlide->SSCommand2.ToolTip(), QStringLiteral("Jump to Middle"));
-        QCOMPARE(frmSlide->SpinInterval.ToolTip(), QStringLiteral("Set Slide Show Delay"));
-        QCOMPARE(frmSlide->mmSlide.ToolTip(),
-                 QStringLiteral("[Bkwd] [Fwd] [Play] [Pause] [Jump Bkwd] [Jump Fwd] [Exit]"));
-        QCOMPARE(frmSlide->PnlCoStar.Caption(), QStringLiteral("The Torvik Vollandry   2001"));
-        QCOMPARE(frmSlide->StatusDate.Caption(), QStringLiteral("StatusDate"));
-        QCOMPARE(frmSlide->StatusDay.Caption(), QStringLiteral("StatusDay"));
-        QCOMPARE(frmSlide->StatusTime.Caption(), QStringLiteral("StatusTime"));
-        QCOMPARE(frmSlide->cmdExit.Caption(), QStringLiteral("Exit"));
+        QCOMPARE(frmSlide->Caption(), u"The Torvik Vollandry Slide Show"_s);
+        QCOMPARE(frmSlide->panYear.Caption(), u"panYear"_s);
+        QCOMPARE(frmSlide->panInterval.Caption(), u"SSPanel1"_s);
+        QCOMPARE(frmSlide->SSCommand1.Caption(), u"Beginning"_s);
+        QCOMPARE(frmSlide->SSCommand1.ToolTip(), u"Jump to Slide 1"_s);
+        QCOMPARE(frmSlide->SSCommand2.Caption(), u"Middle"_s);
+        QCOMPARE(frmSlide->SSCommand2.ToolTip(), u"Jump to Middle"_s);
+        QCOMPARE(frmSlide->SpinInterval.ToolTip(), u"Set Slide Show Delay"_s);
+        QCOMPARE(frmSlide->mmSlide.ToolTip(), u"[Bkwd] [Fwd] [Play] [Pause] [Jump Bkwd] [Jump Fwd] [Exit]"_s);
+        QCOMPARE(frmSlide->PnlCoStar.Caption(), u"The Torvik Vollandry   2001"_s);
+        QCOMPARE(frmSlide->StatusDate.Caption(), u"StatusDate"_s);
+        QCOMPARE(frmSlide->StatusDay.Caption(), u"StatusDay"_s);
+        QCOMPARE(frmSlide->StatusTime.Caption(), u"StatusTime"_s);
+        QCOMPARE(frmSlide->cmdExit.Caption(), u"Exit"_s);
     }
 
     void the_timers_as_they_are_at_design()
@@ -71,7 +71,7 @@ private Q_SLOTS:
 
     void the_photo_is_the_built_in_picture_sharp_on_dense_screens()
     {
-        QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("slide_show.jpg"));
+        QCOMPARE(frmSlide->Image1.Picture().FileName(), u"slide_show.jpg"_s);
         const QSize shown = frmSlide->Image1.Widget().size();
         const QSize natural = frmSlide->Image1.Picture().NaturalSize();
         QVERIFY(natural.width() >= 2 * shown.width() || natural.height() >= 2 * shown.height());
@@ -127,7 +127,7 @@ private Q_SLOTS:
                 QVERIFY2(client.contains(one->Widget().geometry()), qPrintable(one->Name()));
                 for (const Control* other : controls)
                     QVERIFY2(one == other || !one->Widget().geometry().intersects(other->Widget().geometry()),
-                             qPrintable(one->Name() + QStringLiteral(" and ") + other->Name()));
+                             qPrintable(one->Name() + u" and "_s + other->Name()));
             }
         }));
     }

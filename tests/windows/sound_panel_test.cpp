@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Where things stand on the panel of sound effects.
@@ -55,13 +56,13 @@ private Q_SLOTS:
             QVERIFY2(panel.contains(one->Widget().geometry()), qPrintable(one->Name()));
             for (const Control* other : all)
                 QVERIFY2(one == other || !one->Widget().geometry().intersects(other->Widget().geometry()),
-                         qPrintable(one->Name() + QStringLiteral(" and ") + other->Name()));
+                         qPrintable(one->Name() + u" and "_s + other->Name()));
         }
     }
 
     void it_bears_its_title()
     {
-        QCOMPARE(Form1->Label10.Caption(), QStringLiteral("Automobile Sound Effects"));
+        QCOMPARE(Form1->Label10.Caption(), u"Automobile Sound Effects"_s);
         QVERIFY(!Form1->Picture5.Picture().IsEmpty());
         QVERIFY(!Form1->pnlSound.Visible());
     }

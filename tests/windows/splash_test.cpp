@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The controls of the splash window.
@@ -16,22 +17,22 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->Start();
     }
     void cleanup() { program_.reset(); }
 
     void every_control_has_its_name_and_something_to_say()
     {
-        QCOMPARE(Form2->Window().objectName(), QStringLiteral("Form2"));
+        QCOMPARE(Form2->Window().objectName(), u"Form2"_s);
         for (const char* name : {"Image1", "Picture3", "SSPanel1"}) {
             const auto* widget = Form2->Host().findChild<QWidget*>(QString::fromLatin1(name));
             QVERIFY2(widget != nullptr, name);
             QVERIFY2(widget->isVisible(), name);
             QVERIFY2(!widget->accessibleName().isEmpty(), name);
         }
-        QVERIFY(Form2->Window().findChild<QTimer*>(QStringLiteral("Timer1")) != nullptr);
-        QCOMPARE(Form2->MMControl1.objectName(), QStringLiteral("MMControl1"));
+        QVERIFY(Form2->Window().findChild<QTimer*>(u"Timer1"_s) != nullptr);
+        QCOMPARE(Form2->MMControl1.objectName(), u"MMControl1"_s);
     }
 
     void the_artwork_is_there_from_the_first_moment()

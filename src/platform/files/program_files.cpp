@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -27,7 +29,7 @@ void Supply(const QString& from, const QString& to)
     const QFileInfo own(to);
     if (!shipped.isFile() || (own.exists() && own.lastModified() >= shipped.lastModified()))
         return;
-    const QString beside = to + QStringLiteral(".new");
+    const QString beside = to + u".new"_s;
     QFile::remove(beside);
     if (QDir().mkpath(own.path()) && QFile::copy(from, beside)) {
         QFile::remove(to);

@@ -2,11 +2,13 @@
 
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 std::optional<DriveOption> ReadDriveOption(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral("^([D-Zd-z]):?=(.+)$"));
+    static const QRegularExpression form(u"^([D-Zd-z]):?=(.+)$"_s);
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
         return std::nullopt;
@@ -15,9 +17,7 @@ std::optional<DriveOption> ReadDriveOption(const QString& text)
 
 QString DriveOptionProblem(const QString& text)
 {
-    return QStringLiteral(
-               "--drive takes a letter from D to Z and a folder, such as E=/media/disc; not \"%1\".")
-        .arg(text);
+    return u"--drive takes a letter from D to Z and a folder, such as E=/media/disc; not \"%1\"."_s.arg(text);
 }
 
 } // namespace torvik

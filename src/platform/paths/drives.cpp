@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -126,7 +128,7 @@ void RefreshDrives()
         return;
     // An installed disc lies beside the executable, where the program folder need not be.
     for (const QString& folder : {ProgramFolder(), DrivePath(QCoreApplication::applicationDirPath())}) {
-        const std::string embedded = HostPathBytes(folder + QStringLiteral("\\disc"));
+        const std::string embedded = HostPathBytes(folder + u"\\disc"_s);
         if (QDir(HostText(embedded)).exists()) {
             last = embedded;
             return;
@@ -138,7 +140,7 @@ QString DriveFolder(QChar letter)
 {
     const QChar upper = letter.toUpper();
     if (upper == u'C')
-        return QStringLiteral("/");
+        return u"/"_s;
     return IsDriveLetter(upper) ? HostText(drives[Place(upper)]) : QString();
 }
 
@@ -167,7 +169,7 @@ QString HostPath(const QString& drivePath)
 QString DrivePath(const QString& hostPath)
 {
     const std::string absolute = AbsoluteFolder(hostPath);
-    QString path = QStringLiteral("C:");
+    QString path = u"C:"_s;
     for (std::size_t begin = 1; begin < absolute.size();) {
         const std::size_t end = std::min(absolute.find('/', begin), absolute.size());
         path += u'\\' + NameFromHost(std::string_view(absolute).substr(begin, end - begin));

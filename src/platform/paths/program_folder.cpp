@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -66,7 +68,7 @@ bool IsProgramFolderChosen()
 
 QString WindowsFolder()
 {
-    const QString folder = UserDataFolder() + QStringLiteral("/windows");
+    const QString folder = UserDataFolder() + u"/windows"_s;
     Make(folder);
     return DrivePath(folder);
 }
@@ -74,7 +76,7 @@ QString WindowsFolder()
 QString UserDataFolder()
 {
     const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    QString folder = base + QStringLiteral("/torvik2001");
+    QString folder = base + u"/torvik2001"_s;
     Make(folder);
     return folder;
 }

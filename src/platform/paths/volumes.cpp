@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -98,10 +100,9 @@ bool ReadFlag(const QString& file)
 
 bool IsRemovableDevice(const QByteArray& device)
 {
-    const QString folder = QStringLiteral("/sys/dev/block/") + QString::fromLatin1(device);
+    const QString folder = u"/sys/dev/block/"_s + QString::fromLatin1(device);
     // A partition has no such file of its own; it lies in the folder of its disk.
-    return ReadFlag(folder + QStringLiteral("/removable")) ||
-           ReadFlag(folder + QStringLiteral("/../removable"));
+    return ReadFlag(folder + u"/removable"_s) || ReadFlag(folder + u"/../removable"_s);
 }
 
 } // namespace
@@ -126,7 +127,7 @@ QList<QString> MediaInMountTable(const QByteArray& table, RemovableTest isRemova
 
 QList<QString> MountedMedia()
 {
-    QFile table(QStringLiteral("/proc/self/mountinfo"));
+    QFile table(u"/proc/self/mountinfo"_s);
     if (!table.open(QIODevice::ReadOnly))
         return {};
     return MediaInMountTable(table.readAll(), IsRemovableDevice);

@@ -5,6 +5,8 @@
 
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 bool IsWritableFolder(const QString& hostFolder)
@@ -12,7 +14,7 @@ bool IsWritableFolder(const QString& hostFolder)
     const QByteArray folder = QFile::encodeName(hostFolder);
     if (!QFileInfo(hostFolder).isDir() || access(folder.constData(), W_OK | X_OK) != 0)
         return false;
-    QTemporaryFile trial(QDir(hostFolder).filePath(QStringLiteral(".torvik2001-XXXXXX")));
+    QTemporaryFile trial(QDir(hostFolder).filePath(u".torvik2001-XXXXXX"_s));
     return trial.open();
 }
 

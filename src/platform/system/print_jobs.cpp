@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 QString DocumentsFolder()
@@ -22,10 +24,10 @@ bool TakesJobs(const QString& printer)
 {
     constexpr int patience = 5000; // milliseconds
     QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
-    surroundings.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    surroundings.insert(u"LC_ALL"_s, u"C"_s);
     QProcess tool;
     tool.setProcessEnvironment(surroundings);
-    tool.start(QStringLiteral("lpstat"), {QStringLiteral("-a"), printer});
+    tool.start(u"lpstat"_s, {u"-a"_s, printer});
     return !tool.waitForFinished(patience) || !tool.readAllStandardOutput().startsWith(QByteArray(
                                                   printer.toLocal8Bit() + " not accepting requests"));
 }
@@ -33,10 +35,10 @@ bool TakesJobs(const QString& printer)
 QString NextJobFile(const QString& hostFolder)
 {
     const QDir folder(QDir::current().absoluteFilePath(hostFolder));
-    if (!folder.mkpath(QStringLiteral(".")))
+    if (!folder.mkpath(u"."_s))
         Fail(failure::pathNotFound);
     for (int number = 1;; ++number) {
-        QString path = folder.filePath(QStringLiteral("job-%1.pdf").arg(number));
+        QString path = folder.filePath(u"job-%1.pdf"_s.arg(number));
         const QFileInfo taken(path);
         if (!taken.exists() && !taken.isSymLink())
             return path;
@@ -45,7 +47,7 @@ QString NextJobFile(const QString& hostFolder)
 
 QString UnfinishedJobFile(const QString& hostPath)
 {
-    return hostPath + QStringLiteral(".part");
+    return hostPath + u".part"_s;
 }
 
 bool KeepJobFile(const QString& hostPath)

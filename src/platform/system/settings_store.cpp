@@ -5,6 +5,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -14,11 +16,11 @@ namespace {
 QString StoredName(const QString& name)
 {
     if (name.isEmpty())
-        return QStringLiteral("%");
+        return u"%"_s;
     QString stored = name;
-    stored.replace(u'%', QStringLiteral("%25"));
-    stored.replace(u'/', QStringLiteral("%2F"));
-    stored.replace(u'\\', QStringLiteral("%5C"));
+    stored.replace(u'%', u"%25"_s);
+    stored.replace(u'/', u"%2F"_s);
+    stored.replace(u'\\', u"%5C"_s);
     return stored;
 }
 
@@ -34,9 +36,9 @@ private:
         QString name = StoredName(application);
         if (name.startsWith(u'.'))
             name.prepend(u'%'); // neither a hidden file nor another folder
-        name.replace(QChar(u'\0'), QStringLiteral("%00"));
+        name.replace(QChar(u'\0'), u"%00"_s);
         return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u'/' + name +
-               QStringLiteral(".ini");
+               u".ini"_s;
     }
 };
 
@@ -63,7 +65,7 @@ QString GetSetting(const QString& application, const QString& section, const QSt
 void SaveSetting(const QString& application, const QString& section, const QString& key, const QString& text)
 {
     Store store(application);
-    store.setValue(StoredKey(section, key), text.isNull() ? QStringLiteral("") : text);
+    store.setValue(StoredKey(section, key), text.isNull() ? u""_s : text);
     store.sync();
     if (store.status() == QSettings::AccessError)
         Fail(failure::pathFileAccess);

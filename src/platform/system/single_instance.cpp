@@ -10,6 +10,8 @@
 #include <unistd.h>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -43,7 +45,7 @@ bool PreviousInstance()
     if (claim >= 0)
         return false;
     bool isHeld = false;
-    claim = LockFile(UserDataFolder() + QStringLiteral("/running.lock"), isHeld);
+    claim = LockFile(UserDataFolder() + u"/running.lock"_s, isHeld);
     return isHeld;
 }
 

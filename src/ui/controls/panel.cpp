@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 Panel::Panel(Container& container, const QString& name, const Twips& design, const QString& caption,
@@ -78,7 +80,7 @@ void Panel::SetCaptionFont(int pixels, bool bold, const QColor& colour)
 QString Panel::AccessibleText() const
 {
     if (gauge_)
-        return QStringLiteral("%1%").arg(floodPercent_);
+        return u"%1%"_s.arg(floodPercent_);
     return Caption().isEmpty() ? Control::AccessibleText() : Caption();
 }
 

@@ -3,11 +3,12 @@
 #include "ui/look/button_widget.h"
 #include "ui/look/group_widget.h"
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 SpinButton::SpinButton(Container& container, const QString& name, const Twips& design)
-    : Control(container, name, new GroupWidget, design), up_(MakeArrow(QStringLiteral("Up"))),
-      down_(MakeArrow(QStringLiteral("Down")))
+    : Control(container, name, new GroupWidget, design), up_(MakeArrow(u"Up"_s)), down_(MakeArrow(u"Down"_s))
 {
     connect(up_, &QAbstractButton::clicked, this, [this] { SpinUp.Fire(); });
     connect(down_, &QAbstractButton::clicked, this, [this] { SpinDown.Fire(); });
@@ -17,7 +18,7 @@ SpinButton::SpinButton(Container& container, const QString& name, const Twips& d
 ButtonWidget* SpinButton::MakeArrow(const QString& part)
 {
     auto* arrow = new ButtonWidget(&Widget());
-    arrow->setObjectName(QStringLiteral("%1(%2)").arg(Name(), part));
+    arrow->setObjectName(u"%1(%2)"_s.arg(Name(), part));
     arrow->setAccessibleName(arrow->objectName());
     arrow->setAutoRepeat(true);
     arrow->setFocusPolicy(Qt::TabFocus);

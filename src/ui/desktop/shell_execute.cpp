@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -13,8 +15,7 @@ constexpr std::int32_t noProgram = 31;
 
 std::int32_t ShellExecute(const QString& address)
 {
-    static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"),
-                                     QStringLiteral("mailto")};
+    static const QStringList schemes{u"http"_s, u"https"_s, u"mailto"_s};
     const QUrl url(address);
     return schemes.contains(url.scheme().toLower()) && QDesktopServices::openUrl(url) ? taken : noProgram;
 }

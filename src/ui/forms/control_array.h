@@ -10,6 +10,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// Controls of one name that are told apart by an index; an index may be missing. Each is named "cmdYR(3)".
 template <typename T>
 class ControlArray {
@@ -27,8 +29,8 @@ public:
     template <typename Parent, typename... Args>
     T& Add(int index, Parent& parent, Args&&... args)
     {
-        auto control = std::make_unique<T>(parent, QStringLiteral("%1(%2)").arg(name_).arg(index),
-                                           std::forward<Args>(args)...);
+        auto control =
+            std::make_unique<T>(parent, u"%1(%2)"_s.arg(name_).arg(index), std::forward<Args>(args)...);
         return *(members_[index] = std::move(control));
     }
 

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -16,8 +18,7 @@ namespace {
 void ReportUntrapped(const RunTimeError& error)
 {
     try {
-        MsgBox(QStringLiteral("Run-time error '%1':\r\n\r\n%2").arg(error.Number()).arg(error.Text()),
-               msgbox::critical);
+        MsgBox(u"Run-time error '%1':\r\n\r\n%2"_s.arg(error.Number()).arg(error.Text()), msgbox::critical);
         EndProgram();
     } catch (const ProgramEnd&) { // NOLINT(bugprone-empty-catch): the event loops are already told to end
     }

@@ -1,7 +1,7 @@
 #include "ui/forms/form.h"
 
 #include "runtime/failure.h"
-#include "ui/controls/button.h"
+#include "ui/forms/control.h"
 #include "ui/forms/disabled_input.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"

@@ -21,7 +21,7 @@ class QWidget;
 
 namespace torvik {
 
-class Button;
+class Control;
 class FormHandleBase;
 class FormWindow;
 
@@ -105,7 +105,7 @@ public:
     void SetEnabled(bool enabled);
 
     /// The button that answers Escape while its own flags say visible and enabled; null for none.
-    void SetCancelButton(Button* button) { cancelButton_ = button; }
+    void SetCancelButton(Control* button) { cancelButton_ = button; }
 
     Event<> Load;     ///< runs as part of the first touch
     Event<> Activate; ///< the form came up, or is the active one again; may come twice for one showing
@@ -160,7 +160,7 @@ private:
     FormHandleBase* handle_ = nullptr;
     QTimer* settling_;
     FormWindow* window_;
-    Button* cancelButton_ = nullptr;
+    Control* cancelButton_ = nullptr;
     Twips place_;
     bool enabled_ = true;
     int holds_ = 0; ///< how many stand

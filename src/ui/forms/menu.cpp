@@ -8,6 +8,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -16,7 +18,7 @@ QAction* MakeAction(const QString& name, const QString& caption, QWidget* owner)
 {
     auto* action = new QAction(caption, owner);
     action->setObjectName(name);
-    action->setSeparator(caption == QStringLiteral("-"));
+    action->setSeparator(caption == u"-"_s);
     action->setMenuRole(QAction::NoRole); // no desktop moves an entry to a place of its own
     return action;
 }

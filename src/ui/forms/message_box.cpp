@@ -1,8 +1,8 @@
 #include "ui/forms/message_box.h"
 
-#include "ui/application.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
+#include "ui/forms/program_title.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <utility>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -125,7 +127,7 @@ void MakeRoomForTitle(QMessageBox& box)
 int Ask(const MessageRequest& request)
 {
     QMessageBox box(QApplication::activeWindow());
-    box.setObjectName(QStringLiteral("MsgBox"));
+    box.setObjectName(u"MsgBox"_s);
     box.setAccessibleName(request.Title);
     box.setWindowTitle(request.Title);
     box.setTextFormat(Qt::PlainText);

@@ -11,6 +11,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -21,7 +23,7 @@ QWidgetList OpenWindows()
     QWidgetList open;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
-        if (window->objectName() == QStringLiteral("HelpViewer") && window->isVisible())
+        if (window->objectName() == u"HelpViewer"_s && window->isVisible())
             open.append(window);
     }
     return open;
@@ -56,10 +58,8 @@ bool ShowContents(const QString& helpFile)
     }
     std::unique_ptr<QTextDocument> document = ReadHelp(helpFile);
     if (document == nullptr) {
-        MsgBox(
-            QStringLiteral("Help cannot be shown, because this file is missing or cannot be read:\r\n\r\n") +
-                helpFile,
-            msgbox::exclamation);
+        MsgBox(u"Help cannot be shown, because this file is missing or cannot be read:\r\n\r\n"_s + helpFile,
+               msgbox::exclamation);
         return false;
     }
     auto* window = new HelpViewer(document.release()); // goes when it is closed

@@ -18,6 +18,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -29,14 +31,12 @@ constexpr QSize usualSize{860, 600}; // pixels
 
 HelpViewer::HelpViewer(QTextDocument* document)
     : text_(new QTextBrowser), contents_(new QTreeWidget), search_(new QLineEdit), found_(new QLabel),
-      home_(MakeButton(QStringLiteral("HelpHome"), QStringLiteral("&Contents"))),
-      back_(MakeButton(QStringLiteral("HelpBack"), QStringLiteral("&Back"))),
-      forward_(MakeButton(QStringLiteral("HelpForward"), QStringLiteral("&Forward"))),
-      find_(MakeButton(QStringLiteral("HelpFind"), QStringLiteral("Find &next")))
+      home_(MakeButton(u"HelpHome"_s, u"&Contents"_s)), back_(MakeButton(u"HelpBack"_s, u"&Back"_s)),
+      forward_(MakeButton(u"HelpForward"_s, u"&Forward"_s)), find_(MakeButton(u"HelpFind"_s, u"Find &next"_s))
 {
-    setObjectName(QStringLiteral("HelpViewer"));
+    setObjectName(u"HelpViewer"_s);
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("Help - The Torvik Vollandry 2001"));
+    setWindowTitle(u"Help - The Torvik Vollandry 2001"_s);
     setAccessibleName(windowTitle());
     LayOut();
     resize(usualSize);
@@ -79,16 +79,16 @@ QPushButton* HelpViewer::MakeButton(const QString& name, const QString& caption)
 
 void HelpViewer::LayOut()
 {
-    text_->setObjectName(QStringLiteral("HelpText"));
-    text_->setAccessibleName(QStringLiteral("Help text"));
-    contents_->setObjectName(QStringLiteral("HelpContents"));
-    contents_->setAccessibleName(QStringLiteral("Topics"));
+    text_->setObjectName(u"HelpText"_s);
+    text_->setAccessibleName(u"Help text"_s);
+    contents_->setObjectName(u"HelpContents"_s);
+    contents_->setAccessibleName(u"Topics"_s);
     contents_->header()->hide();
-    search_->setObjectName(QStringLiteral("HelpSearch"));
-    search_->setAccessibleName(QStringLiteral("Search"));
-    search_->setPlaceholderText(QStringLiteral("Search the help"));
+    search_->setObjectName(u"HelpSearch"_s);
+    search_->setAccessibleName(u"Search"_s);
+    search_->setPlaceholderText(u"Search the help"_s);
     search_->setClearButtonEnabled(true);
-    found_->setObjectName(QStringLiteral("HelpFound"));
+    found_->setObjectName(u"HelpFound"_s);
 
     auto* bar = new QHBoxLayout;
     for (QPushButton* button : {home_, back_, forward_})
@@ -183,7 +183,7 @@ void HelpViewer::FindNext()
     }
     if (!isFound)
         text_->setTextCursor(before);
-    found_->setText(isFound ? QString() : QStringLiteral("Not found"));
+    found_->setText(isFound ? QString() : u"Not found"_s);
 }
 
 void HelpViewer::FollowLink(const QString& address)

@@ -7,6 +7,8 @@
 #include <QPainterPath>
 #include <QStyleOption>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -118,7 +120,7 @@ void DrawMenuBarItem(QPainter& painter, const QStyleOptionMenuItem& item)
 
 } // namespace
 
-LookStyle::LookStyle() : QProxyStyle(QStringLiteral("Windows")) {}
+LookStyle::LookStyle() : QProxyStyle(u"Windows"_s) {}
 
 void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const

@@ -10,6 +10,8 @@
 #include <functional>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -62,7 +64,7 @@ MediaBarButton* MediaBar::MakeButton(MediaButton button)
 {
     auto* part = new MediaBarButton(&Widget(), button);
     const QString plainName = QString::fromLatin1(buttonNames[static_cast<int>(button)]);
-    part->setObjectName(QStringLiteral("%1(%2)").arg(Name(), plainName));
+    part->setObjectName(u"%1(%2)"_s.arg(Name(), plainName));
     part->setAccessibleName(plainName);
     part->setFocusPolicy(Qt::TabFocus);
     part->Arrow = [this, button](int step) { MoveFocus(button, step); };

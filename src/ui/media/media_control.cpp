@@ -14,6 +14,8 @@
 #include <chrono>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -48,23 +50,23 @@ MediaControl::~MediaControl()
 void MediaControl::Command(const QString& word)
 {
     const QString command = word.toLower();
-    if (command == QStringLiteral("open"))
+    if (command == u"open"_s)
         Open();
-    else if (command == QStringLiteral("close"))
+    else if (command == u"close"_s)
         Close();
-    else if (command == QStringLiteral("play"))
+    else if (command == u"play"_s)
         Play();
-    else if (command == QStringLiteral("pause"))
+    else if (command == u"pause"_s)
         Pause();
-    else if (command == QStringLiteral("stop"))
+    else if (command == u"stop"_s)
         Halt(Mode::Stopped);
-    else if (command == QStringLiteral("prev"))
+    else if (command == u"prev"_s)
         WhenReady([this] { GoTo(0); });
-    else if (command == QStringLiteral("next"))
+    else if (command == u"next"_s)
         WhenReady([this] { GoTo(length_); });
-    else if (command == QStringLiteral("back"))
+    else if (command == u"back"_s)
         WhenReady([this] { Step(-1); });
-    else if (command == QStringLiteral("step"))
+    else if (command == u"step"_s)
         WhenReady([this] { Step(1); });
     else
         Fail(failure::invalidProperty);
@@ -235,7 +237,7 @@ void MediaControl::End()
 void MediaControl::ShowPicture(const MediaPicture& picture)
 {
     shownTime_ = picture.Time;
-    if (display_ == nullptr || deviceType_.compare(QStringLiteral("AVIVideo"), Qt::CaseInsensitive) != 0)
+    if (display_ == nullptr || deviceType_.compare(u"AVIVideo"_s, Qt::CaseInsensitive) != 0)
         return;
     if (pane_ == nullptr)
         pane_ = new VideoPane(display_->Widget());
@@ -257,11 +259,11 @@ void MediaControl::SetDisplay(Control* where)
 
 void PlayWave(MediaControl& device, const QString& path)
 {
-    device.Command(QStringLiteral("close"));
-    device.SetDeviceType(QStringLiteral("WaveAudio"));
+    device.Command(u"close"_s);
+    device.SetDeviceType(u"WaveAudio"_s);
     device.SetFileName(path);
-    device.Command(QStringLiteral("open"));
-    device.Command(QStringLiteral("play"));
+    device.Command(u"open"_s);
+    device.Command(u"play"_s);
 }
 
 } // namespace torvik

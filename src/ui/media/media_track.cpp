@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -20,7 +22,7 @@ constexpr double timeWidth = 82;
 QString MinutesAndSeconds(int milliseconds)
 {
     const int seconds = milliseconds / 1000;
-    return QStringLiteral("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0'));
+    return u"%1:%2"_s.arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0'));
 }
 
 } // namespace
@@ -48,7 +50,7 @@ void MediaTrack::ShowPlace(int place, int length)
 
 QString MediaTrack::TimeText() const
 {
-    return MinutesAndSeconds(value()) + QStringLiteral(" / ") + MinutesAndSeconds(maximum());
+    return MinutesAndSeconds(value()) + u" / "_s + MinutesAndSeconds(maximum());
 }
 
 QRectF MediaTrack::Groove() const

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -32,8 +34,8 @@ MMControl::MMControl(Container& container, const QString& name, const Twips& des
         const QString word = QString::fromLatin1(command.Word);
         ButtonClick(command.Button) = [this, word] { Device.Command(word); };
     }
-    track_->setObjectName(name + QStringLiteral("(Position)"));
-    track_->setAccessibleName(QStringLiteral("Position"));
+    track_->setObjectName(name + u"(Position)"_s);
+    track_->setAccessibleName(u"Position"_s);
     track_->Sought = [this](int place) { Device.Seek(place); };
     track_->show();
     Device.Changed = [this] { FollowDevice(); };

@@ -3,14 +3,16 @@
 #include <QEvent>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 VideoPane::VideoPane(QWidget& host) : QWidget(&host)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setObjectName(host.objectName() + QStringLiteral("(Video)"));
-    setAccessibleName(QStringLiteral("Movie"));
+    setObjectName(host.objectName() + u"(Video)"_s);
+    setAccessibleName(u"Movie"_s);
     hide();
     setGeometry(host.contentsRect());
     host.installEventFilter(this);

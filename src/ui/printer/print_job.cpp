@@ -1,11 +1,13 @@
 #include "ui/printer/print_job.h"
 
 #include "platform/system/print_jobs.h"
-#include "ui/application.h"
+#include "ui/forms/program_title.h"
 
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPrinterInfo>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -18,8 +20,7 @@ constexpr double lineFontSize = 10; // points
 QFont LineFont()
 {
     QFont font;
-    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial"), QStringLiteral("Helvetica"),
-                      QStringLiteral("DejaVu Sans")});
+    font.setFamilies({u"Liberation Sans"_s, u"Arial"_s, u"Helvetica"_s, u"DejaVu Sans"_s});
     font.setPointSizeF(lineFontSize);
     return font;
 }

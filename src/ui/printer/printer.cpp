@@ -11,6 +11,8 @@
 #include <QLocale>
 #include <QPrinterInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -76,7 +78,7 @@ QList<PrinterOption> PrinterObject::Choices() const
     const QStringList names = folder_.isEmpty() ? QPrinterInfo::availablePrinterNames() : QStringList();
     for (const QString& name : names)
         choices.append({name, name, PapersOf(QPrinterInfo::printerInfo(name))});
-    choices.append({QString(), QStringLiteral("PDF files in ") + FileFolder(), PapersOfFiles()});
+    choices.append({QString(), u"PDF files in "_s + FileFolder(), PapersOfFiles()});
     return choices;
 }
 

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -30,8 +32,8 @@ public:
     SetupDialog(const PrinterSetup& present, const QList<PrinterOption>& choices)
         : QDialog(QApplication::activeWindow()), choices_(choices)
     {
-        setObjectName(QStringLiteral("PrinterDialog"));
-        setWindowTitle(QStringLiteral("Print Setup"));
+        setObjectName(u"PrinterDialog"_s);
+        setWindowTitle(u"Print Setup"_s);
         setAccessibleName(windowTitle());
         auto* orientation = new QHBoxLayout;
         orientation->addWidget(&portrait_);
@@ -39,9 +41,9 @@ public:
         orientation->addStretch();
         auto* rows = new QFormLayout(this);
         rows->setSizeConstraint(QLayout::SetFixedSize);
-        rows->addRow(QStringLiteral("Printer:"), Named(printer_, "Printer"));
-        rows->addRow(QStringLiteral("Paper:"), Named(paper_, "Paper"));
-        rows->addRow(QStringLiteral("Orientation:"), orientation);
+        rows->addRow(u"Printer:"_s, Named(printer_, "Printer"));
+        rows->addRow(u"Paper:"_s, Named(paper_, "Paper"));
+        rows->addRow(u"Orientation:"_s, orientation);
         rows->addRow(&buttons_);
         Named(portrait_, "Portrait");
         Named(landscape_, "Landscape");
@@ -107,8 +109,8 @@ private:
     QList<QPageSize> papers_; ///< as listed
     QComboBox printer_;
     QComboBox paper_;
-    QRadioButton portrait_{QStringLiteral("Portrait")};
-    QRadioButton landscape_{QStringLiteral("Landscape")};
+    QRadioButton portrait_{u"Portrait"_s};
+    QRadioButton landscape_{u"Landscape"_s};
     QDialogButtonBox buttons_{QDialogButtonBox::Ok | QDialogButtonBox::Cancel};
 };
 

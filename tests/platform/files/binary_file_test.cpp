@@ -8,13 +8,14 @@
 
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 QString On(const char* path)
 {
-    return QStringLiteral("E:\\") + QString::fromUtf8(path);
+    return u"E:\\"_s + QString::fromUtf8(path);
 }
 
 } // namespace
@@ -51,7 +52,7 @@ private Q_SLOTS:
         QCOMPARE(FailureOf([] { BinaryInput file(On("none")); }), failure::fileNotFound);
         QCOMPARE(FailureOf([] { BinaryInput file(On("none\\none")); }), failure::pathNotFound);
         QCOMPARE(FailureOf([] { BinaryInput file(On("folder")); }), failure::pathFileAccess);
-        QCOMPARE(FailureOf([] { BinaryInput file(QStringLiteral("F:\\a")); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([] { BinaryInput file(u"F:\\a"_s); }), failure::deviceUnavailable);
         QCOMPARE(chmod(disc.Host("secret").c_str(), 0), 0);
         const OrdinaryUser user;
         QVERIFY(OrdinaryUser::IsOne());
@@ -61,7 +62,7 @@ private Q_SLOTS:
     void an_error_of_the_device_is_told()
     {
         // The memory of a process has nothing at its address zero.
-        BinaryInput input(QStringLiteral("C:\\proc\\self\\mem"));
+        BinaryInput input(u"C:\\proc\\self\\mem"_s);
         QByteArray buffer(4, '-');
         QCOMPARE(FailureOf([&] { input.Read(buffer, 4); }), failure::deviceIo);
     }
@@ -86,7 +87,7 @@ private Q_SLOTS:
             output.Write("x", 1);
         }
         QCOMPARE(ReadFile(On("a.jpg")), QByteArray("x"));
-        QVERIFY(!QFile::exists(disc.Path() + QStringLiteral("/A.JPG")));
+        QVERIFY(!QFile::exists(disc.Path() + u"/A.JPG"_s));
     }
 
     void what_cannot_be_written_has_its_number()
@@ -97,7 +98,7 @@ private Q_SLOTS:
         QCOMPARE(FailureOf([] { BinaryOutput file(On("none\\a")); }), failure::pathNotFound);
         QCOMPARE(FailureOf([] { BinaryOutput file(On("folder")); }), failure::pathFileAccess);
         QCOMPARE(FailureOf([] { BinaryOutput file(On("pipe")); }), failure::pathFileAccess);
-        QCOMPARE(FailureOf([] { BinaryOutput file(QStringLiteral("F:\\a")); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([] { BinaryOutput file(u"F:\\a"_s); }), failure::deviceUnavailable);
         QCOMPARE(chmod(disc.Host("closed").c_str(), 0555), 0);
         const OrdinaryUser user;
         QVERIFY(OrdinaryUser::IsOne());

@@ -8,13 +8,14 @@
 
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 QString On(const char* path)
 {
-    return QStringLiteral("E:\\") + QString::fromUtf8(path);
+    return u"E:\\"_s + QString::fromUtf8(path);
 }
 
 } // namespace
@@ -28,7 +29,7 @@ private Q_SLOTS:
         const DiscFolder disc;
         QVERIFY(disc.Folder("Torviks") && disc.File("Torviks/67a.jpg") && disc.File("Torviks/67b.jpg"));
         DeleteFile(On("TORVIKS\\67A.JPG"));
-        QCOMPARE(FilesMatching(On("Torviks\\*.jpg")), QStringList{QStringLiteral("67b.jpg")});
+        QCOMPARE(FilesMatching(On("Torviks\\*.jpg")), QStringList{u"67b.jpg"_s});
     }
 
     void a_deleted_file_is_gone_at_once_in_every_spelling()
@@ -48,8 +49,8 @@ private Q_SLOTS:
         QVERIFY(disc.Folder("folder"));
         QCOMPARE(FailureOf([] { DeleteFile(On("folder")); }), failure::fileNotFound);
         QCOMPARE(FailureOf([] { DeleteFile(On("none\\a")); }), failure::pathNotFound);
-        QCOMPARE(FailureOf([] { DeleteFile(QStringLiteral("F:\\a")); }), failure::deviceUnavailable);
-        QVERIFY(QFileInfo(disc.Path() + QStringLiteral("/folder")).isDir());
+        QCOMPARE(FailureOf([] { DeleteFile(u"F:\\a"_s); }), failure::deviceUnavailable);
+        QVERIFY(QFileInfo(disc.Path() + u"/folder"_s).isDir());
     }
 
     void a_file_in_a_closed_folder_stays()
@@ -84,10 +85,9 @@ private Q_SLOTS:
             QVERIFY(disc.File(std::string("Torviks/") + name));
         DeleteFilesMatching(On("torviks\\*.jpg"));
         const QStringList left =
-            QDir(disc.Path() + QStringLiteral("/Torviks"))
+            QDir(disc.Path() + u"/Torviks"_s)
                 .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-        QCOMPARE(left, (QStringList{QStringLiteral(".hidden.jpg"), QStringLiteral("folder.jpg"),
-                                    QStringLiteral("note.rtf")}));
+        QCOMPARE(left, (QStringList{u".hidden.jpg"_s, u"folder.jpg"_s, u"note.rtf"_s}));
     }
 
     void a_pattern_without_files_finds_none_to_delete()
@@ -96,8 +96,7 @@ private Q_SLOTS:
         QVERIFY(disc.File("a.rtf"));
         QCOMPARE(FailureOf([] { DeleteFilesMatching(On("*.jpg")); }), failure::fileNotFound);
         QCOMPARE(FailureOf([] { DeleteFilesMatching(On("none\\*.jpg")); }), failure::fileNotFound);
-        QCOMPARE(FailureOf([] { DeleteFilesMatching(QStringLiteral("F:\\*.jpg")); }),
-                 failure::deviceUnavailable);
+        QCOMPARE(FailureOf([] { DeleteFilesMatching(u"F:\\*.jpg"_s); }), failure::deviceUnavailable);
     }
 
     void an_empty_folder_is_removed()
@@ -105,10 +104,10 @@ private Q_SLOTS:
         const DiscFolder disc;
         QVERIFY(disc.Folder("Torviks"));
         RemoveFolder(On("TORVIKS\\"));
-        QVERIFY(!QFileInfo::exists(disc.Path() + QStringLiteral("/Torviks")));
+        QVERIFY(!QFileInfo::exists(disc.Path() + u"/Torviks"_s));
         QCOMPARE(FailureOf([] { RemoveFolder(On("Torviks")); }), failure::pathNotFound);
         MakeFolder(On("TORVIKS"));
-        QVERIFY(QFileInfo(disc.Path() + QStringLiteral("/TORVIKS")).isDir());
+        QVERIFY(QFileInfo(disc.Path() + u"/TORVIKS"_s).isDir());
     }
 
     void a_folder_with_something_in_it_stays()
@@ -139,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(chmod(disc.Host("saver").c_str(), 0755), 0);
         ReplaceByCopy(On("SAVER"), On("TARGET.SCR"));
         QCOMPARE(ReadFile(On("target.scr")).toStdString(), content);
-        QVERIFY(QFileInfo(disc.Path() + QStringLiteral("/Target.scr")).isExecutable());
+        QVERIFY(QFileInfo(disc.Path() + u"/Target.scr"_s).isExecutable());
         QCOMPARE(FilesMatching(On("*")).size(), 2);
         QCOMPARE(ReadFile(On("saver")).toStdString(), content);
     }
@@ -190,7 +189,7 @@ private Q_SLOTS:
         QVERIFY(IsSameFile(On("a\\"), On("b")));
         QVERIFY(!IsSameFile(On("a\\x"), On("a\\y")));
         QVERIFY(!IsSameFile(On("none"), On("none")));
-        QVERIFY(!IsSameFile(QStringLiteral("F:\\a"), QStringLiteral("F:\\a")));
+        QVERIFY(!IsSameFile(u"F:\\a"_s, u"F:\\a"_s));
     }
 };
 

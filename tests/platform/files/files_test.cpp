@@ -7,6 +7,7 @@
 
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -19,7 +20,7 @@ QStringList Sorted(QStringList names)
 
 QString On(const char* path)
 {
-    return QStringLiteral("E:\\") + QString::fromUtf8(path);
+    return u"E:\\"_s + QString::fromUtf8(path);
 }
 
 } // namespace
@@ -34,9 +35,8 @@ private Q_SLOTS:
         QVERIFY(disc.Folder("Torviks"));
         for (const char* name : {"Torviks/67A.jpg", "Torviks/68B.JPG", "Torviks/note.rtf", "outside.jpg"})
             QVERIFY(disc.File(name));
-        QCOMPARE(Sorted(FilesMatching(On("TORVIKS\\*.Jpg"))),
-                 (QStringList{QStringLiteral("67A.jpg"), QStringLiteral("68B.JPG")}));
-        QCOMPARE(FilesMatching(On("*.jpg")), QStringList{QStringLiteral("outside.jpg")});
+        QCOMPARE(Sorted(FilesMatching(On("TORVIKS\\*.Jpg"))), (QStringList{u"67A.jpg"_s, u"68B.JPG"_s}));
+        QCOMPARE(FilesMatching(On("*.jpg")), QStringList{u"outside.jpg"_s});
     }
 
     void folders_and_special_files_are_no_files()
@@ -44,7 +44,7 @@ private Q_SLOTS:
         const DiscFolder disc;
         QVERIFY(disc.Folder("a.jpg") && disc.File("b.jpg"));
         QCOMPARE(mkfifo(disc.Host("c.jpg").c_str(), 0600), 0);
-        QCOMPARE(FilesMatching(On("*.jpg")), QStringList{QStringLiteral("b.jpg")});
+        QCOMPARE(FilesMatching(On("*.jpg")), QStringList{u"b.jpg"_s});
         QVERIFY(!FileExists(On("a.jpg")));
         QVERIFY(!FileExists(On("c.jpg")));
     }
@@ -55,7 +55,7 @@ private Q_SLOTS:
         QVERIFY(disc.File("target") && disc.Folder("folder"));
         QVERIFY(disc.Link("target", "a.jpg") && disc.Link("folder", "b.jpg") && disc.Link("gone", "c.jpg") &&
                 disc.Link("d.jpg", "d.jpg"));
-        QCOMPARE(FilesMatching(On("*.jpg")), QStringList{QStringLiteral("a.jpg")});
+        QCOMPARE(FilesMatching(On("*.jpg")), QStringList{u"a.jpg"_s});
         QVERIFY(FileExists(On("A.JPG")));
         QVERIFY(!FileExists(On("b.jpg")));
         QVERIFY(!FileExists(On("c.jpg")));
@@ -67,15 +67,15 @@ private Q_SLOTS:
         const DiscFolder disc;
         QVERIFY(disc.Folder("Torviks") && disc.File("Torviks/a.jpg"));
         QCOMPARE(FilesMatching(On("Tor*\\a.jpg")), QStringList());
-        QCOMPARE(FilesMatching(On("Torviks\\?.jpg")), QStringList{QStringLiteral("a.jpg")});
+        QCOMPARE(FilesMatching(On("Torviks\\?.jpg")), QStringList{u"a.jpg"_s});
     }
 
     void hidden_files_are_listed_only_when_they_are_asked_for()
     {
         const DiscFolder disc;
         QVERIFY(disc.File("._67A.jpg") && disc.File("67A.jpg"));
-        QCOMPARE(FilesMatching(On("*.jpg")), QStringList{QStringLiteral("67A.jpg")});
-        QCOMPARE(FilesMatching(On(".*")), QStringList{QStringLiteral("._67A.jpg")});
+        QCOMPARE(FilesMatching(On("*.jpg")), QStringList{u"67A.jpg"_s});
+        QCOMPARE(FilesMatching(On(".*")), QStringList{u"._67A.jpg"_s});
         QVERIFY(FileExists(On("._67A.JPG")));
     }
 
@@ -84,9 +84,7 @@ private Q_SLOTS:
         const DiscFolder disc;
         for (const char* name : {"a.jpg", "A.jpg", "A.JPG", "b.jpg", "größe.jpg", "GRÖßE.jpg", "x.rtf"})
             QVERIFY(disc.File(name));
-        QCOMPARE(
-            Sorted(FilesMatching(On("*.jpg"))),
-            (QStringList{QStringLiteral("A.JPG"), QStringLiteral("GRÖßE.jpg"), QStringLiteral("b.jpg")}));
+        QCOMPARE(Sorted(FilesMatching(On("*.jpg"))), (QStringList{u"A.JPG"_s, u"GRÖßE.jpg"_s, u"b.jpg"_s}));
     }
 
     void the_listed_name_of_a_clash_is_the_one_that_a_look_up_finds()
@@ -95,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(disc.File("a.jpg", "small") && disc.File("A.jpg", "capital"));
         const QStringList names = FilesMatching(On("*.jpg"));
         QCOMPARE(names.size(), 1);
-        QCOMPARE(ReadFile(QStringLiteral("E:\\") + names.first().toUpper()), QByteArray("capital"));
+        QCOMPARE(ReadFile(u"E:\\"_s + names.first().toUpper()), QByteArray("capital"));
     }
 
     void a_missing_folder_gives_no_names()
@@ -109,14 +107,14 @@ private Q_SLOTS:
 
     void a_drive_that_stands_for_nothing_is_unavailable()
     {
-        const QString path = QStringLiteral("F:\\Torviks\\*.jpg");
+        const QString path = u"F:\\Torviks\\*.jpg"_s;
         QCOMPARE(FailureOf([&] { FilesMatching(path); }), failure::deviceUnavailable);
         QCOMPARE(FailureOf([&] { FindFile(path); }), failure::deviceUnavailable);
-        QCOMPARE(FailureOf([&] { FindFile(QStringLiteral("F:\\a.jpg")); }), failure::deviceUnavailable);
-        QCOMPARE(FailureOf([&] { FileLength(QStringLiteral("F:\\a")); }), failure::deviceUnavailable);
-        QCOMPARE(FailureOf([&] { ReadFile(QStringLiteral("F:\\a")); }), failure::deviceUnavailable);
-        QCOMPARE(FailureOf([&] { MakeFolder(QStringLiteral("F:\\a")); }), failure::deviceUnavailable);
-        QVERIFY(!FileExists(QStringLiteral("F:\\a")));
+        QCOMPARE(FailureOf([&] { FindFile(u"F:\\a.jpg"_s); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([&] { FileLength(u"F:\\a"_s); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([&] { ReadFile(u"F:\\a"_s); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([&] { MakeFolder(u"F:\\a"_s); }), failure::deviceUnavailable);
+        QVERIFY(!FileExists(u"F:\\a"_s));
     }
 
     void a_drive_that_vanishes_between_two_calls_is_unavailable()
@@ -132,7 +130,7 @@ private Q_SLOTS:
 
     void what_is_no_drive_path_is_a_bad_file_name()
     {
-        const QString path = QStringLiteral("/etc/passwd");
+        const QString path = u"/etc/passwd"_s;
         QCOMPARE(FailureOf([&] { FilesMatching(path); }), failure::badFileName);
         QCOMPARE(FailureOf([&] { FindFile(path); }), failure::badFileName);
         QCOMPARE(FailureOf([&] { FileLength(path); }), failure::badFileName);
@@ -193,7 +191,7 @@ private Q_SLOTS:
     {
         const DiscFolder disc;
         QVERIFY(disc.Folder("Torviks") && disc.File("Torviks/67a.Jpg") && disc.Folder("Torviks/folder"));
-        QCOMPARE(FindFile(On("TORVIKS\\67A.JPG")), QStringLiteral("67a.Jpg"));
+        QCOMPARE(FindFile(On("TORVIKS\\67A.JPG")), u"67a.Jpg"_s);
         QCOMPARE(FindFile(On("Torviks\\68A.JPG")), QString());
         QCOMPARE(FindFile(On("Torviks\\folder")), QString());
         QCOMPARE(FindFile(On("Torviks\\")), QString());
@@ -222,7 +220,7 @@ private Q_SLOTS:
         const QStringList names = FilesMatching(On("*.JPG"));
         QCOMPARE(names.size(), 1);
         // As the photo set writes it.
-        const QString path = QStringLiteral("E:\\") + names.first().toUpper();
+        const QString path = u"E:\\"_s + names.first().toUpper();
         QVERIFY(FileExists(path));
         QCOMPARE(FindFile(path), names.first());
         QCOMPARE(FileLength(path), 7);
@@ -288,8 +286,8 @@ private Q_SLOTS:
 
     void a_file_that_holds_more_than_it_says_is_read_whole()
     {
-        const QByteArray content = ReadFile(QStringLiteral("C:\\proc\\self\\status"));
-        QCOMPARE(FileLength(QStringLiteral("C:\\proc\\self\\status")), 0);
+        const QByteArray content = ReadFile(u"C:\\proc\\self\\status"_s);
+        QCOMPARE(FileLength(u"C:\\proc\\self\\status"_s), 0);
         QVERIFY(content.startsWith("Name:"));
         QVERIFY(content.endsWith('\n'));
         QVERIFY(content.size() > 200);
@@ -298,7 +296,7 @@ private Q_SLOTS:
     void an_error_of_the_device_while_reading_is_told()
     {
         // The memory of a process has nothing at its address zero.
-        QCOMPARE(FailureOf([] { ReadFile(QStringLiteral("C:\\proc\\self\\mem")); }), failure::deviceIo);
+        QCOMPARE(FailureOf([] { ReadFile(u"C:\\proc\\self\\mem"_s); }), failure::deviceIo);
     }
 
     void a_file_that_may_not_be_read_is_denied()
@@ -327,7 +325,7 @@ private Q_SLOTS:
         const DiscFolder disc;
         QVERIFY(disc.Folder("Parent"));
         MakeFolder(On("PARENT\\New"));
-        QVERIFY(QDir(disc.Path() + QStringLiteral("/Parent/New")).exists());
+        QVERIFY(QDir(disc.Path() + u"/Parent/New"_s).exists());
     }
 
     void what_exists_in_any_letter_case_is_not_made_again()

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// What an installed program brings into its program folder.
@@ -22,31 +23,31 @@ private Q_SLOTS:
 
     void what_lies_beside_the_executable_is_brought_along()
     {
-        Write(Shipped(QStringLiteral("passby.wav")), "sound");
-        Write(Shipped(QStringLiteral("Torvik2001.HLP")), "help");
-        Write(Shipped(QStringLiteral("Torvik2001.scr")), "saver");
-        Write(Shipped(QStringLiteral("graphics/ClassicTorviks.jpg")), "picture");
-        QFile::setPermissions(Shipped(QStringLiteral("Torvik2001.scr")),
+        Write(Shipped(u"passby.wav"_s), "sound");
+        Write(Shipped(u"Torvik2001.HLP"_s), "help");
+        Write(Shipped(u"Torvik2001.scr"_s), "saver");
+        Write(Shipped(u"graphics/ClassicTorviks.jpg"_s), "picture");
+        QFile::setPermissions(Shipped(u"Torvik2001.scr"_s),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         Supply();
-        QCOMPARE(Read(Own(QStringLiteral("passby.wav"))), QByteArray("sound"));
-        QCOMPARE(Read(Own(QStringLiteral("Torvik2001.HLP"))), QByteArray("help"));
-        QCOMPARE(Read(Own(QStringLiteral("Torvik2001.scr"))), QByteArray("saver"));
-        QCOMPARE(Read(Own(QStringLiteral("graphics/ClassicTorviks.jpg"))), QByteArray("picture"));
-        QVERIFY(QFileInfo(Own(QStringLiteral("Torvik2001.scr"))).isExecutable());
+        QCOMPARE(Read(Own(u"passby.wav"_s)), QByteArray("sound"));
+        QCOMPARE(Read(Own(u"Torvik2001.HLP"_s)), QByteArray("help"));
+        QCOMPARE(Read(Own(u"Torvik2001.scr"_s)), QByteArray("saver"));
+        QCOMPARE(Read(Own(u"graphics/ClassicTorviks.jpg"_s)), QByteArray("picture"));
+        QVERIFY(QFileInfo(Own(u"Torvik2001.scr"_s)).isExecutable());
     }
 
     void nothing_else_is()
     {
-        Write(Shipped(QStringLiteral("torvik2001")), "program");
-        Write(Shipped(QStringLiteral("disc/Torviks/67a.jpg")), "photo");
+        Write(Shipped(u"torvik2001"_s), "program");
+        Write(Shipped(u"disc/Torviks/67a.jpg"_s), "photo");
         Supply();
         QVERIFY(QDir(own_->path()).isEmpty());
     }
 
     void a_file_that_is_there_stays_unless_the_shipped_one_is_newer()
     {
-        const QString name = QStringLiteral("passby.wav");
+        const QString name = u"passby.wav"_s;
         Write(Own(name), "mine");
         Write(Shipped(name), "shipped");
         SetAge(Shipped(name), -100);
@@ -60,9 +61,9 @@ private Q_SLOTS:
 
     void a_folder_that_cannot_be_written_to_is_left_alone()
     {
-        Write(Shipped(QStringLiteral("passby.wav")), "sound");
-        SupplyFolder(shipped_->path(), QStringLiteral("/proc/nothing"));
-        QVERIFY(!QFile::exists(QStringLiteral("/proc/nothing")));
+        Write(Shipped(u"passby.wav"_s), "sound");
+        SupplyFolder(shipped_->path(), u"/proc/nothing"_s);
+        QVERIFY(!QFile::exists(u"/proc/nothing"_s));
     }
 
     void a_program_that_runs_where_it_can_write_needs_nothing()

@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// What stands behind --drive.
@@ -33,7 +34,7 @@ private Q_SLOTS:
         for (const char* text : {"", "E", "E=", "C=/x", "1=/x", "EE=/x", "/media"}) {
             QVERIFY2(!ReadDriveOption(QString::fromLatin1(text)), text);
             QVERIFY(DriveOptionProblem(QString::fromLatin1(text))
-                        .contains(QStringLiteral("\"%1\"").arg(QString::fromLatin1(text))));
+                        .contains(u"\"%1\""_s.arg(QString::fromLatin1(text))));
         }
     }
 };

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -32,7 +33,7 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        QDir(program_.path()).rmdir(QStringLiteral("disc"));
+        QDir(program_.path()).rmdir(u"disc"_s);
         SetVolumeLister(nullptr);
         SetProgramFolder({});
     }
@@ -48,10 +49,10 @@ private Q_SLOTS:
 
     void c_is_the_root_of_the_host()
     {
-        QCOMPARE(DriveFolder(u'C'), QStringLiteral("/"));
-        QCOMPARE(DriveFolder(u'c'), QStringLiteral("/"));
-        QCOMPARE(HostPath(QStringLiteral("C:\\")), QStringLiteral("/"));
-        QCOMPARE(HostPath(QStringLiteral("C:\\usr")), QStringLiteral("/usr"));
+        QCOMPARE(DriveFolder(u'C'), u"/"_s);
+        QCOMPARE(DriveFolder(u'c'), u"/"_s);
+        QCOMPARE(HostPath(u"C:\\"_s), u"/"_s);
+        QCOMPARE(HostPath(u"C:\\usr"_s), u"/usr"_s);
     }
 
     void an_option_names_the_folder_of_its_letter()
@@ -67,30 +68,28 @@ private Q_SLOTS:
 
     void a_later_option_for_the_same_letter_wins()
     {
-        SetDriveOptions({{u'G', QStringLiteral("/usr")}, {u'G', QStringLiteral("/etc")}});
-        QCOMPARE(DriveFolder(u'G'), QStringLiteral("/etc"));
+        SetDriveOptions({{u'G', u"/usr"_s}, {u'G', u"/etc"_s}});
+        QCOMPARE(DriveFolder(u'G'), u"/etc"_s);
     }
 
     void an_option_without_letter_takes_the_first_that_the_others_leave()
     {
-        SetDriveOptions({{QChar(), QStringLiteral("/usr")},
-                         {u'D', QStringLiteral("/etc")},
-                         {QChar(), QStringLiteral("/var")}});
-        QCOMPARE(DriveFolder(u'D'), QStringLiteral("/etc"));
-        QCOMPARE(DriveFolder(u'E'), QStringLiteral("/usr"));
-        QCOMPARE(DriveFolder(u'F'), QStringLiteral("/var"));
+        SetDriveOptions({{QChar(), u"/usr"_s}, {u'D', u"/etc"_s}, {QChar(), u"/var"_s}});
+        QCOMPARE(DriveFolder(u'D'), u"/etc"_s);
+        QCOMPARE(DriveFolder(u'E'), u"/usr"_s);
+        QCOMPARE(DriveFolder(u'F'), u"/var"_s);
     }
 
     void a_letter_outside_d_to_z_is_a_failure_and_changes_nothing()
     {
-        SetDriveOptions({{u'E', QStringLiteral("/etc")}});
+        SetDriveOptions({{u'E', u"/etc"_s}});
         for (const QChar letter : {QChar(u'C'), QChar(u'A'), QChar(u'1'), QChar(u'Ä'), QChar(u'[')}) {
             QCOMPARE(FailureOf([&] {
-                         SetDriveOptions({{u'E', QStringLiteral("/usr")}, {letter, QStringLiteral("/usr")}});
+                         SetDriveOptions({{u'E', u"/usr"_s}, {letter, u"/usr"_s}});
                      }),
                      failure::invalidCall);
         }
-        QCOMPARE(DriveFolder(u'E'), QStringLiteral("/etc"));
+        QCOMPARE(DriveFolder(u'E'), u"/etc"_s);
     }
 
     void a_folder_is_taken_from_the_current_one_and_cleaned()
@@ -98,37 +97,37 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(folder.path()));
-        SetDriveOptions({{u'E', QStringLiteral("disc/../other/")}});
+        SetDriveOptions({{u'E', u"disc/../other/"_s}});
         QVERIFY(QDir::setCurrent(before));
-        QCOMPARE(DriveFolder(u'E'), folder.path() + QStringLiteral("/other"));
+        QCOMPARE(DriveFolder(u'E'), folder.path() + u"/other"_s);
     }
 
     void the_root_can_stand_for_a_letter()
     {
-        SetDriveOptions({{u'E', QStringLiteral("/")}});
-        QCOMPARE(DriveFolder(u'E'), QStringLiteral("/"));
-        QCOMPARE(HostPath(QStringLiteral("E:\\usr")), QStringLiteral("/usr"));
-        QCOMPARE(HostPath(QStringLiteral("E:\\..\\usr")), QStringLiteral("/usr"));
+        SetDriveOptions({{u'E', u"/"_s}});
+        QCOMPARE(DriveFolder(u'E'), u"/"_s);
+        QCOMPARE(HostPath(u"E:\\usr"_s), u"/usr"_s);
+        QCOMPARE(HostPath(u"E:\\..\\usr"_s), u"/usr"_s);
     }
 
     void volumes_take_the_letters_that_the_options_leave_in_their_order()
     {
-        volumes = {QStringLiteral("/etc"), QStringLiteral("/usr")};
-        SetDriveOptions({{u'E', QStringLiteral("/var")}});
+        volumes = {u"/etc"_s, u"/usr"_s};
+        SetDriveOptions({{u'E', u"/var"_s}});
         QCOMPARE(DriveFolder(u'D'), QString());
         RefreshDrives();
-        QCOMPARE(DriveFolder(u'D'), QStringLiteral("/etc"));
-        QCOMPARE(DriveFolder(u'E'), QStringLiteral("/var"));
-        QCOMPARE(DriveFolder(u'F'), QStringLiteral("/usr"));
+        QCOMPARE(DriveFolder(u'D'), u"/etc"_s);
+        QCOMPARE(DriveFolder(u'E'), u"/var"_s);
+        QCOMPARE(DriveFolder(u'F'), u"/usr"_s);
     }
 
     void more_volumes_than_letters_leave_the_last_without()
     {
         for (int i = 0; i < 40; ++i)
-            volumes.append(QStringLiteral("/volume%1").arg(i));
+            volumes.append(u"/volume%1"_s.arg(i));
         RefreshDrives();
-        QCOMPARE(DriveFolder(u'D'), QStringLiteral("/volume0"));
-        QCOMPARE(DriveFolder(u'Z'), QStringLiteral("/volume22"));
+        QCOMPARE(DriveFolder(u'D'), u"/volume0"_s);
+        QCOMPARE(DriveFolder(u'Z'), u"/volume22"_s);
     }
 
     void a_refresh_sees_the_disc_that_was_put_in_and_the_one_that_was_taken_out()
@@ -136,40 +135,38 @@ private Q_SLOTS:
         const DiscFolder disc;
         QVERIFY(disc.File("a.jpg"));
         SetDriveOptions({});
-        QCOMPARE(FailureOf([] { HostPath(QStringLiteral("D:\\a.jpg")); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([] { HostPath(u"D:\\a.jpg"_s); }), failure::deviceUnavailable);
         volumes = {disc.Path()};
         RefreshDrives();
-        QCOMPARE(HostPath(QStringLiteral("D:\\A.JPG")), disc.Path() + QStringLiteral("/a.jpg"));
+        QCOMPARE(HostPath(u"D:\\A.JPG"_s), disc.Path() + u"/a.jpg"_s);
         volumes.clear();
         RefreshDrives();
-        QCOMPARE(FailureOf([] { HostPath(QStringLiteral("D:\\A.JPG")); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([] { HostPath(u"D:\\A.JPG"_s); }), failure::deviceUnavailable);
     }
 
     void a_drive_that_vanishes_between_two_calls_is_unavailable()
     {
         DiscFolder disc;
         QVERIFY(disc.Folder("Torviks") && disc.File("Torviks/a.jpg"));
-        QCOMPARE(HostPath(QStringLiteral("E:\\TORVIKS\\A.JPG")),
-                 disc.Path() + QStringLiteral("/Torviks/a.jpg"));
+        QCOMPARE(HostPath(u"E:\\TORVIKS\\A.JPG"_s), disc.Path() + u"/Torviks/a.jpg"_s);
         disc.Vanish();
-        QCOMPARE(FailureOf([] { HostPath(QStringLiteral("E:\\TORVIKS\\A.JPG")); }),
-                 failure::deviceUnavailable);
-        QCOMPARE(FailureOf([] { HostPath(QStringLiteral("E:\\")); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([] { HostPath(u"E:\\TORVIKS\\A.JPG"_s); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([] { HostPath(u"E:\\"_s); }), failure::deviceUnavailable);
     }
 
     void z_is_the_embedded_disc_where_it_is_free()
     {
-        QVERIFY(QDir(program_.path()).mkdir(QStringLiteral("disc")));
+        QVERIFY(QDir(program_.path()).mkdir(u"disc"_s));
         RefreshDrives();
-        QCOMPARE(DriveFolder(u'Z'), program_.path() + QStringLiteral("/disc"));
-        SetDriveOptions({{u'Z', QStringLiteral("/usr")}});
+        QCOMPARE(DriveFolder(u'Z'), program_.path() + u"/disc"_s);
+        SetDriveOptions({{u'Z', u"/usr"_s}});
         RefreshDrives();
-        QCOMPARE(DriveFolder(u'Z'), QStringLiteral("/usr"));
+        QCOMPARE(DriveFolder(u'Z'), u"/usr"_s);
     }
 
     void a_file_named_disc_is_no_embedded_disc()
     {
-        QFile file(program_.filePath(QStringLiteral("disc")));
+        QFile file(program_.filePath(u"disc"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         RefreshDrives();
         QCOMPARE(DriveFolder(u'Z'), QString());
@@ -178,7 +175,7 @@ private Q_SLOTS:
 
     void the_machines_own_volumes_come_back()
     {
-        volumes = {QStringLiteral("/nowhere-at-all")};
+        volumes = {u"/nowhere-at-all"_s};
         SetVolumeLister(nullptr);
         RefreshDrives();
         for (char letter = 'D'; letter <= 'Z'; ++letter)
@@ -189,18 +186,15 @@ private Q_SLOTS:
     {
         const DiscFolder disc;
         QVERIFY(disc.Folder("Torviks") && disc.File("Torviks/67a.jpg"));
-        QCOMPARE(HostPath(QStringLiteral("E:\\Torviks\\67A.JPG")),
-                 disc.Path() + QStringLiteral("/Torviks/67a.jpg"));
-        QCOMPARE(HostPath(QStringLiteral("e:\\TORVIKS\\67a.jpg")),
-                 disc.Path() + QStringLiteral("/Torviks/67a.jpg"));
+        QCOMPARE(HostPath(u"E:\\Torviks\\67A.JPG"_s), disc.Path() + u"/Torviks/67a.jpg"_s);
+        QCOMPARE(HostPath(u"e:\\TORVIKS\\67a.jpg"_s), disc.Path() + u"/Torviks/67a.jpg"_s);
     }
 
     void a_file_that_is_yet_to_be_made_has_a_path()
     {
         const DiscFolder disc;
         QVERIFY(disc.Folder("movies"));
-        QCOMPARE(HostPath(QStringLiteral("E:\\Movies\\NEW.AVI")),
-                 disc.Path() + QStringLiteral("/movies/NEW.AVI"));
+        QCOMPARE(HostPath(u"E:\\Movies\\NEW.AVI"_s), disc.Path() + u"/movies/NEW.AVI"_s);
     }
 
     void superfluous_separators_and_points_are_cleaned_data()
@@ -217,17 +211,16 @@ private Q_SLOTS:
         QFETCH(QString, path);
         const DiscFolder disc;
         QVERIFY(disc.Folder("Torviks") && disc.File("Torviks/a.jpg"));
-        QCOMPARE(HostPath(path), disc.Path() + QStringLiteral("/Torviks/a.jpg"));
+        QCOMPARE(HostPath(path), disc.Path() + u"/Torviks/a.jpg"_s);
     }
 
     void points_never_lead_out_of_the_drive()
     {
         const DiscFolder disc;
-        QCOMPARE(HostPath(QStringLiteral("E:\\..")), disc.Path());
-        QCOMPARE(HostPath(QStringLiteral("E:\\..\\..\\etc\\passwd")),
-                 disc.Path() + QStringLiteral("/etc/passwd"));
-        QCOMPARE(HostPath(QStringLiteral("E:\\a/../../../etc")), disc.Path() + QStringLiteral("/etc"));
-        QCOMPARE(HostPath(QStringLiteral("E:\\...")), disc.Path() + QStringLiteral("/..."));
+        QCOMPARE(HostPath(u"E:\\.."_s), disc.Path());
+        QCOMPARE(HostPath(u"E:\\..\\..\\etc\\passwd"_s), disc.Path() + u"/etc/passwd"_s);
+        QCOMPARE(HostPath(u"E:\\a/../../../etc"_s), disc.Path() + u"/etc"_s);
+        QCOMPARE(HostPath(u"E:\\..."_s), disc.Path() + u"/..."_s);
     }
 
     void what_is_no_drive_path_is_a_bad_file_name_data()
@@ -236,7 +229,7 @@ private Q_SLOTS:
         for (const char* path : {"", "E", "E:", "E:Torviks", "/etc/passwd", "Torviks\\a.jpg",
                                  "\\\\server\\share", "1:\\a", "\u00C4:\\a", "E:/a", " E:\\a"})
             QTest::addRow("'%s'", path) << QString::fromUtf8(path);
-        QTest::addRow("zero character") << QStringLiteral("E:\\a") + QChar(u'\0') + QStringLiteral("b");
+        QTest::addRow("zero character") << u"E:\\a"_s + QChar(u'\0') + u"b"_s;
     }
     void what_is_no_drive_path_is_a_bad_file_name()
     {
@@ -256,17 +249,17 @@ private Q_SLOTS:
     {
         const DiscFolder disc;
         QVERIFY(disc.File("f\xFC.jpg"));
-        const QString path = QStringLiteral("E:\\F") + QChar(0xF7FC) + QStringLiteral(".JPG");
+        const QString path = u"E:\\F"_s + QChar(0xF7FC) + u".JPG"_s;
         QCOMPARE(HostPathBytes(path), disc.Host("f\xFC.jpg"));
     }
 
     void drive_paths_of_host_paths()
     {
-        QCOMPARE(DrivePath(QStringLiteral("/opt/torvik")), QStringLiteral("C:\\opt\\torvik"));
-        QCOMPARE(DrivePath(QStringLiteral("/opt/torvik/")), QStringLiteral("C:\\opt\\torvik"));
-        QCOMPARE(DrivePath(QStringLiteral("/")), QStringLiteral("C:\\"));
-        QCOMPARE(DrivePath(QStringLiteral("/a//b/./c/../d")), QStringLiteral("C:\\a\\b\\d"));
-        QCOMPARE(DrivePath(QStringLiteral("/Größe/my disc")), QStringLiteral("C:\\Größe\\my disc"));
+        QCOMPARE(DrivePath(u"/opt/torvik"_s), u"C:\\opt\\torvik"_s);
+        QCOMPARE(DrivePath(u"/opt/torvik/"_s), u"C:\\opt\\torvik"_s);
+        QCOMPARE(DrivePath(u"/"_s), u"C:\\"_s);
+        QCOMPARE(DrivePath(u"/a//b/./c/../d"_s), u"C:\\a\\b\\d"_s);
+        QCOMPARE(DrivePath(u"/Größe/my disc"_s), u"C:\\Größe\\my disc"_s);
     }
 
     void a_host_path_comes_back_from_its_drive_path()

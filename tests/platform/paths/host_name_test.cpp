@@ -3,6 +3,7 @@
 #include <QSet>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class HostNameTest : public QObject {
@@ -11,7 +12,7 @@ class HostNameTest : public QObject {
 private Q_SLOTS:
     void plain_names_are_themselves()
     {
-        QCOMPARE(NameFromHost("67A.JPG"), QStringLiteral("67A.JPG"));
+        QCOMPARE(NameFromHost("67A.JPG"), u"67A.JPG"_s);
         QCOMPARE(NameToHost(u"67A.JPG"), std::string("67A.JPG"));
     }
 
@@ -74,7 +75,7 @@ private Q_SLOTS:
 
     void a_path_keeps_its_backslashes()
     {
-        QCOMPARE(HostText("/a\\b/\xFF"), QStringLiteral("/a\\b/") + QChar(0xF7FF));
+        QCOMPARE(HostText("/a\\b/\xFF"), u"/a\\b/"_s + QChar(0xF7FF));
         QCOMPARE(NameToHost(HostText("/a\\b/\xFF")), std::string("/a\\b/\xFF"));
     }
 

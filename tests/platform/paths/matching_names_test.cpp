@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class MatchingNamesTest : public QObject {
@@ -17,7 +18,7 @@ private Q_SLOTS:
         QVERIFY(disc.Folder("Torviks"));
         for (const char* name : {"a.jpg", "A.JPG", "b.jpg", "c.rtf"})
             QVERIFY(disc.File(std::string("Torviks/") + name));
-        MatchingNames matching = NamesMatching(QStringLiteral("E:\\TORVIKS\\*.Jpg"));
+        MatchingNames matching = NamesMatching(u"E:\\TORVIKS\\*.Jpg"_s);
         QCOMPARE(matching.Folder, disc.Host("Torviks"));
         std::sort(matching.Names.begin(), matching.Names.end());
         QCOMPARE(matching.Names, (std::vector<std::string>{"A.JPG", "a.jpg", "b.jpg"}));
@@ -26,14 +27,14 @@ private Q_SLOTS:
     void a_missing_folder_has_none()
     {
         const DiscFolder disc;
-        QVERIFY(NamesMatching(QStringLiteral("E:\\none\\*.jpg")).Names.empty());
+        QVERIFY(NamesMatching(u"E:\\none\\*.jpg"_s).Names.empty());
     }
 
     void the_name_begins_behind_the_last_backslash_or_slash()
     {
-        QCOMPARE(BeginOfName(QStringLiteral("E:\\a\\b.jpg")), 5);
-        QCOMPARE(BeginOfName(QStringLiteral("E:\\a/b.jpg")), 5);
-        QCOMPARE(BeginOfName(QStringLiteral("b.jpg")), 0);
+        QCOMPARE(BeginOfName(u"E:\\a\\b.jpg"_s), 5);
+        QCOMPARE(BeginOfName(u"E:\\a/b.jpg"_s), 5);
+        QCOMPARE(BeginOfName(u"b.jpg"_s), 0);
     }
 };
 

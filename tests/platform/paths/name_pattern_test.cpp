@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class NamePatternTest : public QObject {
@@ -68,7 +69,7 @@ private Q_SLOTS:
 
     void many_stars_take_no_time_beyond_measure()
     {
-        const QString pattern = QStringLiteral("*a").repeated(120) + QStringLiteral("*b");
+        const QString pattern = u"*a"_s.repeated(120) + u"*b"_s;
         QVERIFY(!NamePattern(pattern).Matches(std::string(255, 'a')));
     }
 

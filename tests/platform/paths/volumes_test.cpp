@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -30,14 +31,13 @@ private Q_SLOTS:
     void optical_discs_count_wherever_they_are_mounted()
     {
         const QByteArray table = Line("/cdrom", "iso9660", "/dev/sr0") + Line("/var/disc", "udf", "/dev/sr1");
-        QCOMPARE(MediaInMountTable(table, NothingIsRemovable),
-                 (QList<QString>{QStringLiteral("/cdrom"), QStringLiteral("/var/disc")}));
+        QCOMPARE(MediaInMountTable(table, NothingIsRemovable), (QList<QString>{u"/cdrom"_s, u"/var/disc"_s}));
     }
 
     void image_files_on_a_loop_device_count()
     {
         QCOMPARE(MediaInMountTable(Line("/srv/image", "vfat", "/dev/loop3"), NothingIsRemovable),
-                 QList<QString>{QStringLiteral("/srv/image")});
+                 QList<QString>{u"/srv/image"_s});
     }
 
     void packages_of_the_system_are_no_media()
@@ -54,9 +54,9 @@ private Q_SLOTS:
                                  Line("/run/media/anna/DISK", "ntfs3", "/dev/nvme1n1p2") +
                                  Line("/mnt", "ext4", "/dev/nvme1n1p3") +
                                  Line("/mnt/win", "fuseblk", "/dev/nvme1n1p4");
-        QCOMPARE(MediaInMountTable(table, NothingIsRemovable),
-                 (QList<QString>{QStringLiteral("/media/anna/STICK"), QStringLiteral("/mnt"),
-                                 QStringLiteral("/mnt/win"), QStringLiteral("/run/media/anna/DISK")}));
+        QCOMPARE(
+            MediaInMountTable(table, NothingIsRemovable),
+            (QList<QString>{u"/media/anna/STICK"_s, u"/mnt"_s, u"/mnt/win"_s, u"/run/media/anna/DISK"_s}));
     }
 
     void folders_that_only_begin_alike_do_not_count()
@@ -72,7 +72,7 @@ private Q_SLOTS:
             Line("/stick", "vfat", "/dev/sdb1", "8:17") + Line("/", "ext4", "/dev/sda1", "8:1") +
             Line("/boot/efi", "vfat", "/dev/sda2", "8:2") + Line("/home", "ext4", "/dev/sda3", "8:3") +
             Line("/data", "ext4", "/dev/nvme0n1p1");
-        QCOMPARE(MediaInMountTable(table, EightIsRemovable), QList<QString>{QStringLiteral("/stick")});
+        QCOMPARE(MediaInMountTable(table, EightIsRemovable), QList<QString>{u"/stick"_s});
     }
 
     void pseudo_file_systems_and_network_shares_are_no_media()
@@ -88,9 +88,8 @@ private Q_SLOTS:
     {
         const QByteArray table =
             Line("/media/My\\040Disc\\134x", "iso9660", "/dev/sr0") + Line("/media/\xFF", "udf", "/dev/sr1");
-        QCOMPARE(
-            MediaInMountTable(table, NothingIsRemovable),
-            (QList<QString>{QStringLiteral("/media/My Disc\\x"), QStringLiteral("/media/") + QChar(0xF7FF)}));
+        QCOMPARE(MediaInMountTable(table, NothingIsRemovable),
+                 (QList<QString>{u"/media/My Disc\\x"_s, u"/media/"_s + QChar(0xF7FF)}));
     }
 
     void the_mount_points_are_in_their_order()
@@ -99,8 +98,7 @@ private Q_SLOTS:
                                  Line("/media/a", "iso9660", "/dev/sr0") +
                                  Line("/media/B", "iso9660", "/dev/sr2");
         QCOMPARE(MediaInMountTable(table, NothingIsRemovable),
-                 (QList<QString>{QStringLiteral("/media/B"), QStringLiteral("/media/a"),
-                                 QStringLiteral("/media/b")}));
+                 (QList<QString>{u"/media/B"_s, u"/media/a"_s, u"/media/b"_s}));
     }
 
     void what_is_mounted_over_a_disc_hides_it()
@@ -109,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(MediaInMountTable(table, NothingIsRemovable), QList<QString>());
         const QByteArray twice =
             Line("/media/a", "iso9660", "/dev/sr0") + Line("/media/a", "iso9660", "/dev/sr1");
-        QCOMPARE(MediaInMountTable(twice, NothingIsRemovable), QList<QString>{QStringLiteral("/media/a")});
+        QCOMPARE(MediaInMountTable(twice, NothingIsRemovable), QList<QString>{u"/media/a"_s});
     }
 
     void optional_fields_may_be_none_or_many()
@@ -118,7 +116,7 @@ private Q_SLOTS:
             "36 25 11:0 / /media/a ro - iso9660 /dev/sr0 ro\n"
             "36 25 11:0 / /media/b ro shared:1 master:2 propagate_from:3 - iso9660 /dev/sr0 ro\n";
         QCOMPARE(MediaInMountTable(table, NothingIsRemovable),
-                 (QList<QString>{QStringLiteral("/media/a"), QStringLiteral("/media/b")}));
+                 (QList<QString>{u"/media/a"_s, u"/media/b"_s}));
     }
 
     void lines_that_are_broken_are_passed_over()
@@ -133,8 +131,8 @@ private Q_SLOTS:
     void the_machine_answers()
     {
         const QList<QString> media = MountedMedia();
-        QVERIFY(!media.contains(QStringLiteral("/")));
-        QVERIFY(!media.contains(QStringLiteral("/proc")));
+        QVERIFY(!media.contains(u"/"_s));
+        QVERIFY(!media.contains(u"/proc"_s));
     }
 };
 

@@ -4,6 +4,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 class WritableFolderTest : public QObject {
@@ -21,22 +22,22 @@ private Q_SLOTS:
     {
         const DiscFolder disc;
         QVERIFY(disc.Folder("Größe XXXXXX %1"));
-        QVERIFY(IsWritableFolder(disc.Path() + QStringLiteral("/Größe XXXXXX %1")));
+        QVERIFY(IsWritableFolder(disc.Path() + u"/Größe XXXXXX %1"_s));
     }
 
     void what_is_no_folder_is_not_writable()
     {
         const DiscFolder disc;
         QVERIFY(disc.File("file"));
-        QVERIFY(!IsWritableFolder(disc.Path() + QStringLiteral("/file")));
-        QVERIFY(!IsWritableFolder(disc.Path() + QStringLiteral("/none")));
+        QVERIFY(!IsWritableFolder(disc.Path() + u"/file"_s));
+        QVERIFY(!IsWritableFolder(disc.Path() + u"/none"_s));
         QVERIFY(!IsWritableFolder(QString()));
     }
 
     void a_file_system_that_takes_no_files_is_not_writable_for_anybody()
     {
-        QVERIFY(!IsWritableFolder(QStringLiteral("/proc")));
-        QVERIFY(!IsWritableFolder(QStringLiteral("/sys")));
+        QVERIFY(!IsWritableFolder(u"/proc"_s));
+        QVERIFY(!IsWritableFolder(u"/sys"_s));
     }
 
     void a_folder_without_permission_is_not_writable()
@@ -46,7 +47,7 @@ private Q_SLOTS:
         QCOMPARE(chmod(disc.Host("closed").c_str(), 0555), 0);
         const OrdinaryUser user;
         QVERIFY(OrdinaryUser::IsOne());
-        QVERIFY(!IsWritableFolder(disc.Path() + QStringLiteral("/closed")));
+        QVERIFY(!IsWritableFolder(disc.Path() + u"/closed"_s));
     }
 };
 

@@ -4,6 +4,7 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The arguments of a program.
@@ -17,7 +18,7 @@ private Q_SLOTS:
         std::array<char, 5> first{"/s a"};
         std::array<char, 1> empty{""};
         std::array<char*, 3> arguments{name.data(), first.data(), empty.data()};
-        QCOMPARE(ArgumentsOf(3, arguments.data()), (QStringList{QStringLiteral("/s a"), QString()}));
+        QCOMPARE(ArgumentsOf(3, arguments.data()), (QStringList{u"/s a"_s, QString()}));
         QCOMPARE(ArgumentsOf(1, arguments.data()), QStringList());
         QCOMPARE(ArgumentsOf(0, nullptr), QStringList());
     }

@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// What the system's own screen savers say.
@@ -19,7 +20,7 @@ private Q_SLOTS:
     {
         QCOMPARE(WindowOfScreenSaver(), QString());
         qputenv("XSCREENSAVER_WINDOW", "0x1a00007");
-        QCOMPARE(WindowOfScreenSaver(), QStringLiteral("0x1a00007"));
+        QCOMPARE(WindowOfScreenSaver(), u"0x1a00007"_s);
     }
 
     void windows_of_others_are_looked_for_under_x_unless_the_user_chose()

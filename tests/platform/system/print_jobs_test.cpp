@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Names and ends of the files that print jobs become.
@@ -16,22 +17,21 @@ private Q_SLOTS:
     void numbers_begin_at_one_and_fill_the_first_gap()
     {
         const QTemporaryDir folder;
-        QCOMPARE(NextJobFile(folder.path()), folder.filePath(QStringLiteral("job-1.pdf")));
-        Write(folder.filePath(QStringLiteral("job-1.pdf")), "x");
-        Write(folder.filePath(QStringLiteral("job-3.pdf")), "x");
-        QCOMPARE(NextJobFile(folder.path()), folder.filePath(QStringLiteral("job-2.pdf")));
-        Write(folder.filePath(QStringLiteral("job-2.pdf")), "x");
-        QCOMPARE(NextJobFile(folder.path()), folder.filePath(QStringLiteral("job-4.pdf")));
+        QCOMPARE(NextJobFile(folder.path()), folder.filePath(u"job-1.pdf"_s));
+        Write(folder.filePath(u"job-1.pdf"_s), "x");
+        Write(folder.filePath(u"job-3.pdf"_s), "x");
+        QCOMPARE(NextJobFile(folder.path()), folder.filePath(u"job-2.pdf"_s));
+        Write(folder.filePath(u"job-2.pdf"_s), "x");
+        QCOMPARE(NextJobFile(folder.path()), folder.filePath(u"job-4.pdf"_s));
     }
 
     void a_missing_folder_is_made_and_one_that_cannot_be_is_a_failure()
     {
         const QTemporaryDir folder;
-        QVERIFY(!NextJobFile(folder.filePath(QStringLiteral("a/b"))).isEmpty());
-        QVERIFY(QDir(folder.filePath(QStringLiteral("a/b"))).exists());
-        Write(folder.filePath(QStringLiteral("file")), "x");
-        QCOMPARE(ResumeNext([&] { NextJobFile(folder.filePath(QStringLiteral("file/under"))); }),
-                 failure::pathNotFound);
+        QVERIFY(!NextJobFile(folder.filePath(u"a/b"_s)).isEmpty());
+        QVERIFY(QDir(folder.filePath(u"a/b"_s)).exists());
+        Write(folder.filePath(u"file"_s), "x");
+        QCOMPARE(ResumeNext([&] { NextJobFile(folder.filePath(u"file/under"_s)); }), failure::pathNotFound);
     }
 
     void a_relative_folder_counts_from_the_current_one()
@@ -39,10 +39,10 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString before = QDir::currentPath();
         QDir::setCurrent(folder.path());
-        const QString file = NextJobFile(QStringLiteral("out"));
+        const QString file = NextJobFile(u"out"_s);
         QDir::setCurrent(before);
         QVERIFY(QDir::isAbsolutePath(file));
-        QVERIFY(file.endsWith(QStringLiteral("/out/job-1.pdf")));
+        QVERIFY(file.endsWith(u"/out/job-1.pdf"_s));
     }
 
     void a_whole_file_ends_with_its_mark_data()
@@ -61,16 +61,16 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         QFETCH(bool, whole);
         const QTemporaryDir folder;
-        Write(folder.filePath(QStringLiteral("job.pdf")), content);
-        QCOMPARE(IsWholeJobFile(folder.filePath(QStringLiteral("job.pdf"))), whole);
+        Write(folder.filePath(u"job.pdf"_s), content);
+        QCOMPARE(IsWholeJobFile(folder.filePath(u"job.pdf"_s)), whole);
     }
 
-    void a_missing_file_is_not_whole() { QVERIFY(!IsWholeJobFile(QStringLiteral("/nowhere/job.pdf"))); }
+    void a_missing_file_is_not_whole() { QVERIFY(!IsWholeJobFile(u"/nowhere/job.pdf"_s)); }
 
     void a_whole_job_takes_its_name()
     {
         const QTemporaryDir folder;
-        const QString file = folder.filePath(QStringLiteral("job-1.pdf"));
+        const QString file = folder.filePath(u"job-1.pdf"_s);
         QVERIFY(UnfinishedJobFile(file) != file);
         Write(UnfinishedJobFile(file), "%PDF-1.4\nmuch\n%%EOF\n");
         QVERIFY(KeepJobFile(file));
@@ -81,7 +81,7 @@ private Q_SLOTS:
     void a_job_that_is_cut_short_takes_no_name_and_is_dropped()
     {
         const QTemporaryDir folder;
-        const QString file = folder.filePath(QStringLiteral("job-1.pdf"));
+        const QString file = folder.filePath(u"job-1.pdf"_s);
         Write(UnfinishedJobFile(file), "%PDF-1.4\nmuch");
         QVERIFY(!KeepJobFile(file));
         QVERIFY(!QFile::exists(file));
@@ -92,7 +92,7 @@ private Q_SLOTS:
     void a_job_never_takes_a_name_from_another_file()
     {
         const QTemporaryDir folder;
-        const QString file = folder.filePath(QStringLiteral("job-1.pdf"));
+        const QString file = folder.filePath(u"job-1.pdf"_s);
         Write(file, "kept");
         Write(UnfinishedJobFile(file), "%PDF-1.4\n%%EOF\n");
         QVERIFY(!KeepJobFile(file));
@@ -115,18 +115,18 @@ private Q_SLOTS:
         QFETCH(QByteArray, answer);
         QFETCH(bool, takes);
         const QTemporaryDir tools;
-        const QString tool = tools.filePath(QStringLiteral("lpstat"));
+        const QString tool = tools.filePath(u"lpstat"_s);
         Write(tool, "#!/bin/sh\n[ \"$1 $2 $LC_ALL\" = '-a Laser C' ] && echo '" + answer + "'\n");
         QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         const WithPath path(tools.path().toLocal8Bit());
-        QCOMPARE(TakesJobs(QStringLiteral("Laser")), takes);
+        QCOMPARE(TakesJobs(u"Laser"_s), takes);
     }
 
     void without_the_systems_tool_every_printer_takes_jobs()
     {
         const QTemporaryDir empty;
         const WithPath path(empty.path().toLocal8Bit());
-        QVERIFY(TakesJobs(QStringLiteral("Laser")));
+        QVERIFY(TakesJobs(u"Laser"_s));
     }
 
 private:

@@ -3,6 +3,7 @@
 #include <QMap>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -46,8 +47,8 @@ private:
     QString current_;
 };
 
-const QString folder = QStringLiteral("SOFTWARE\\Torvik");
-const QString name = QStringLiteral("PATH");
+const QString folder = u"SOFTWARE\\Torvik"_s;
+const QString name = u"PATH"_s;
 
 } // namespace
 
@@ -62,9 +63,9 @@ private Q_SLOTS:
         for (const QByteArray& stored :
              {QByteArray("C:\\Tools\\info.exe"), QByteArray("C:\\Tools\\info.exe\0", 18)}) {
             data.Keys[folder][name] = {registry::text, stored};
-            QString result = QStringLiteral("before");
+            QString result = u"before"_s;
             QVERIFY(ReadRegistryValue(registry::localMachine, folder, name, result));
-            QCOMPARE(result, QStringLiteral("C:\\Tools\\info.exe"));
+            QCOMPARE(result, u"C:\\Tools\\info.exe"_s);
         }
     }
 
@@ -74,7 +75,7 @@ private Q_SLOTS:
         data.Keys[folder][name] = {registry::text, "x"};
         QString result;
         QVERIFY(ReadRegistryValue(registry::localMachine, folder, name, result));
-        QVERIFY(!ReadRegistryValue(registry::localMachine, folder, QStringLiteral("none"), result));
+        QVERIFY(!ReadRegistryValue(registry::localMachine, folder, u"none"_s, result));
         QCOMPARE(data.Access, (QList<std::uint32_t>{0x2003F, 0x2003F}));
         QCOMPARE(data.Roots.first(), std::uint32_t{0x80000002});
         QCOMPARE(data.Opened, 2);
@@ -84,7 +85,7 @@ private Q_SLOTS:
     void a_missing_key_gives_an_empty_result_and_false()
     {
         const DataRegistry data;
-        QString result = QStringLiteral("before");
+        QString result = u"before"_s;
         QVERIFY(!ReadRegistryValue(registry::localMachine, folder, name, result));
         QCOMPARE(result, QString());
     }
@@ -93,7 +94,7 @@ private Q_SLOTS:
     {
         DataRegistry data;
         data.Keys[folder];
-        QString result = QStringLiteral("before");
+        QString result = u"before"_s;
         QVERIFY(!ReadRegistryValue(registry::localMachine, folder, name, result));
         QCOMPARE(result, QString());
     }
@@ -114,10 +115,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("text");
-        QTest::newRow("5: a closing zero is taken off") << QByteArray("\x05\0\0\0", 4) << QStringLiteral("5");
-        QTest::newRow("0x12345678") << QByteArray("\x78\x56\x34\x12", 4) << QStringLiteral("305419896");
-        QTest::newRow("0x0105 reads as 0x15") << QByteArray("\x05\x01\0\0", 4) << QStringLiteral("21");
-        QTest::newRow("0") << QByteArray(4, '\0') << QStringLiteral("0");
+        QTest::newRow("5: a closing zero is taken off") << QByteArray("\x05\0\0\0", 4) << u"5"_s;
+        QTest::newRow("0x12345678") << QByteArray("\x78\x56\x34\x12", 4) << u"305419896"_s;
+        QTest::newRow("0x0105 reads as 0x15") << QByteArray("\x05\x01\0\0", 4) << u"21"_s;
+        QTest::newRow("0") << QByteArray(4, '\0') << u"0"_s;
     }
 
     void numbers_read_from_their_last_byte_without_leading_zeros()
@@ -135,14 +136,14 @@ private Q_SLOTS:
     {
         DataRegistry data;
         data.Keys[folder][name] = {3, "abc"};
-        QString result = QStringLiteral("before");
+        QString result = u"before"_s;
         QVERIFY(ReadRegistryValue(registry::localMachine, folder, name, result));
-        QCOMPARE(result, QStringLiteral("before"));
+        QCOMPARE(result, u"before"_s);
     }
 
     void a_system_without_a_registry_has_no_key()
     {
-        QString result = QStringLiteral("before");
+        QString result = u"before"_s;
         QVERIFY(!ReadRegistryValue(registry::localMachine, folder, name, result));
         QCOMPARE(result, QString());
     }

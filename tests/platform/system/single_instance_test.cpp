@@ -11,6 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -123,10 +124,10 @@ private Q_SLOTS:
 
     void a_program_that_was_started_does_not_hold_the_claim()
     {
-        const QByteArray pipe = QFile::encodeName(home_->filePath(QStringLiteral("pipe")));
+        const QByteArray pipe = QFile::encodeName(home_->filePath(u"pipe"_s));
         QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
         QVERIFY(!PreviousInstance());
-        RunningProcess process(QStringLiteral("sh -c \"read line < '%1'\"").arg(QString::fromUtf8(pipe)));
+        RunningProcess process(u"sh -c \"read line < '%1'\""_s.arg(QString::fromUtf8(pipe)));
         ReleaseInstance();
         const Instance other;
         const bool isRunning = process.ExitCode() == RunningProcess::stillActive;
@@ -150,7 +151,7 @@ private Q_SLOTS:
 
     void without_a_place_for_the_claim_the_program_starts_all_the_same()
     {
-        QFile file(home_->filePath(QStringLiteral("torvik2001")));
+        QFile file(home_->filePath(u"torvik2001"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QVERIFY(!PreviousInstance());
     }

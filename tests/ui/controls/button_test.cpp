@@ -2,14 +2,15 @@
 #include "ui/controls/button.h"
 #include "ui/look/button_widget.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}, QStringLiteral("SlideShow")};
-    Button Next{*this, QStringLiteral("Next"), {1500, 0, 1200, 375}, QStringLiteral("Exit")};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"SlideShow"_s};
+    Button Next{*this, u"Next"_s, {1500, 0, 1200, 375}, u"Exit"_s};
 };
 
 FormHandle<MainForm> Main;
@@ -71,7 +72,7 @@ private Q_SLOTS:
 
     void the_mnemonic_clicks()
     {
-        Main->Go.SetCaption(QStringLiteral("&Print"));
+        Main->Go.SetCaption(u"&Print"_s);
         QTest::keyClick(&Main->Window(), Qt::Key_P, Qt::AltModifier);
         QTRY_COMPARE(clicks_, 1);
     }
@@ -94,23 +95,23 @@ private Q_SLOTS:
 
     void caption_and_accessible_name()
     {
-        QCOMPARE(Main->Go.Caption(), QStringLiteral("SlideShow"));
-        QCOMPARE(Main->Go.Widget().accessibleName(), QStringLiteral("SlideShow"));
-        Main->Go.SetCaption(QStringLiteral("ClipArt "));
-        QCOMPARE(Main->Go.Caption(), QStringLiteral("ClipArt "));
+        QCOMPARE(Main->Go.Caption(), u"SlideShow"_s);
+        QCOMPARE(Main->Go.Widget().accessibleName(), u"SlideShow"_s);
+        Main->Go.SetCaption(u"ClipArt "_s);
+        QCOMPARE(Main->Go.Caption(), u"ClipArt "_s);
         Main->Go.SetCaption({});
-        QCOMPARE(Main->Go.Widget().accessibleName(), QStringLiteral("Go"));
-        Main->Go.SetToolTip(QStringLiteral("Jump to Slide 1"));
-        QCOMPARE(Main->Go.Widget().accessibleName(), QStringLiteral("Jump to Slide 1"));
+        QCOMPARE(Main->Go.Widget().accessibleName(), u"Go"_s);
+        Main->Go.SetToolTip(u"Jump to Slide 1"_s);
+        QCOMPARE(Main->Go.Widget().accessibleName(), u"Jump to Slide 1"_s);
     }
 
     void a_picture_says_what_it_is_spoken_as_unless_there_is_a_tool_tip()
     {
         Main->Go.SetCaption({});
-        Main->Go.SetPicture(QStringLiteral(":/none.png"), QStringLiteral("Play"));
-        QCOMPARE(Main->Go.Widget().accessibleName(), QStringLiteral("Play"));
-        Main->Go.SetToolTip(QStringLiteral("Play this sound"));
-        QCOMPARE(Main->Go.Widget().accessibleName(), QStringLiteral("Play this sound"));
+        Main->Go.SetPicture(u":/none.png"_s, u"Play"_s);
+        QCOMPARE(Main->Go.Widget().accessibleName(), u"Play"_s);
+        Main->Go.SetToolTip(u"Play this sound"_s);
+        QCOMPARE(Main->Go.Widget().accessibleName(), u"Play this sound"_s);
     }
 
     void a_pressed_button_looks_pressed()

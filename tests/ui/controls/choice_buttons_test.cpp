@@ -2,19 +2,19 @@
 #include "ui/controls/choice_buttons.h"
 #include "ui/controls/frame.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    OptionButton All{*this, QStringLiteral("All"), {0, 0, 1500, 300}, QStringLiteral("All Photos")};
-    OptionButton Chosen{
-        *this, QStringLiteral("Chosen"), {0, 300, 1500, 300}, QStringLiteral("Selected Photos")};
-    Frame Frame1{*this, QStringLiteral("Frame1"), {0, 900, 3000, 1500}};
-    OptionButton Other{Frame1, QStringLiteral("Other"), {0, 0, 1500, 300}, QStringLiteral("Other")};
-    CheckBox Cover{*this, QStringLiteral("Cover"), {3000, 0, 1500, 300}, QStringLiteral(" Cover")};
-    CheckBox ClipArt{*this, QStringLiteral("ClipArt"), {3000, 300, 1500, 300}, QStringLiteral(" Clip art")};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    OptionButton All{*this, u"All"_s, {0, 0, 1500, 300}, u"All Photos"_s};
+    OptionButton Chosen{*this, u"Chosen"_s, {0, 300, 1500, 300}, u"Selected Photos"_s};
+    Frame Frame1{*this, u"Frame1"_s, {0, 900, 3000, 1500}};
+    OptionButton Other{Frame1, u"Other"_s, {0, 0, 1500, 300}, u"Other"_s};
+    CheckBox Cover{*this, u"Cover"_s, {3000, 0, 1500, 300}, u" Cover"_s};
+    CheckBox ClipArt{*this, u"ClipArt"_s, {3000, 300, 1500, 300}, u" Clip art"_s};
 };
 
 FormHandle<MainForm> Main;
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QVERIFY(Main->All.Value() && !Main->Chosen.Value());
         QTest::mouseClick(&Main->Chosen.Widget(), Qt::LeftButton, {}, {6, 10});
         QVERIFY(!Main->All.Value() && Main->Chosen.Value());
-        QCOMPARE(clicks_, (QStringList{QStringLiteral("All"), QStringLiteral("Chosen")}));
+        QCOMPARE(clicks_, (QStringList{u"All"_s, u"Chosen"_s}));
     }
 
     void the_whole_area_takes_the_press()
@@ -81,7 +81,7 @@ private Q_SLOTS:
         Main->All.SetValue(true);
         Main->All.SetValue(false);
         QVERIFY(!Main->All.Value() && !Main->Chosen.Value());
-        QCOMPARE(clicks_, QStringList{QStringLiteral("All")});
+        QCOMPARE(clicks_, QStringList{u"All"_s});
         Main->Chosen.SetValue(true);
         Main->All.SetValue(true);
         QVERIFY(!Main->Chosen.Value()); // they exclude each other again
@@ -91,7 +91,7 @@ private Q_SLOTS:
     {
         Main->Cover.SetValue(true);
         Main->Cover.SetValue(true);
-        QCOMPARE(clicks_, QStringList{QStringLiteral("Cover")});
+        QCOMPARE(clicks_, QStringList{u"Cover"_s});
         Main->Cover.SetValue(false);
         QCOMPARE(clicks_.size(), 2);
     }
@@ -118,15 +118,15 @@ private Q_SLOTS:
         Main->Cover.SetFocus();
         QTest::keyClick(&Main->Cover.Widget(), Qt::Key_Space);
         QVERIFY(Main->Cover.Value());
-        QCOMPARE(clicks_, QStringList{QStringLiteral("Cover")});
+        QCOMPARE(clicks_, QStringList{u"Cover"_s});
     }
 
     void captions_keep_their_blanks_and_are_spoken()
     {
-        QCOMPARE(Main->Cover.Caption(), QStringLiteral(" Cover"));
-        QCOMPARE(Main->Cover.Widget().accessibleName(), QStringLiteral(" Cover"));
+        QCOMPARE(Main->Cover.Caption(), u" Cover"_s);
+        QCOMPARE(Main->Cover.Widget().accessibleName(), u" Cover"_s);
         Main->Cover.SetCaption({});
-        QCOMPARE(Main->Cover.Widget().accessibleName(), QStringLiteral("Cover"));
+        QCOMPARE(Main->Cover.Widget().accessibleName(), u"Cover"_s);
     }
 
 private:

@@ -1,15 +1,15 @@
 #include "support/ui_room.h"
 #include "ui/controls/combo_box.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    ComboBox Combo{
-        *this, QStringLiteral("Combo"), {0, 0, 1500, 375}, {QStringLiteral("one "), QStringLiteral("two")}};
-    ComboBox Empty{*this, QStringLiteral("Empty"), {0, 600, 1500, 375}, {}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    ComboBox Combo{*this, u"Combo"_s, {0, 0, 1500, 375}, {u"one "_s, u"two"_s}};
+    ComboBox Empty{*this, u"Empty"_s, {0, 600, 1500, 375}, {}};
 };
 
 FormHandle<MainForm> Main;
@@ -28,13 +28,13 @@ private Q_SLOTS:
     }
     void cleanup() { room_.reset(); }
 
-    void it_shows_its_first_text() { QCOMPARE(Main->Combo.Text(), QStringLiteral("one ")); }
+    void it_shows_its_first_text() { QCOMPARE(Main->Combo.Text(), u"one "_s); }
 
     void the_user_chooses_another()
     {
         Main->Combo.SetFocus();
         QTest::keyClick(&Main->Combo.Widget(), Qt::Key_Down);
-        QCOMPARE(Main->Combo.Text(), QStringLiteral("two"));
+        QCOMPARE(Main->Combo.Text(), u"two"_s);
     }
 
     void without_entries_its_text_is_empty() { QCOMPARE(Main->Empty.Text(), QString()); }

@@ -2,15 +2,16 @@
 #include "ui/controls/button.h"
 #include "ui/controls/frame.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels)) {}
-    Frame Frame1{*this, QStringLiteral("Frame1"), {0, 0, 3000, 1500}};
-    Frame Frame2{*this, QStringLiteral("Frame2"), {0, 1800, 3000, 1500}, QStringLiteral(" By year ")};
-    Button Go{Frame2, QStringLiteral("Go"), {150, 300, 1200, 375}};
+    MainForm() : Form(DesignOf(u"Main"_s, Scale::Pixels)) {}
+    Frame Frame1{*this, u"Frame1"_s, {0, 0, 3000, 1500}};
+    Frame Frame2{*this, u"Frame2"_s, {0, 1800, 3000, 1500}, u" By year "_s};
+    Button Go{Frame2, u"Go"_s, {150, 300, 1200, 375}};
 };
 
 FormHandle<MainForm> Main;
@@ -36,9 +37,9 @@ private Q_SLOTS:
 
     void the_caption_is_spoken_and_the_name_where_there_is_none()
     {
-        QCOMPARE(Main->Frame2.Caption(), QStringLiteral(" By year "));
-        QCOMPARE(Main->Frame2.Widget().accessibleName(), QStringLiteral(" By year "));
-        QCOMPARE(Main->Frame1.Widget().accessibleName(), QStringLiteral("Frame1"));
+        QCOMPARE(Main->Frame2.Caption(), u" By year "_s);
+        QCOMPARE(Main->Frame2.Widget().accessibleName(), u" By year "_s);
+        QCOMPARE(Main->Frame1.Widget().accessibleName(), u"Frame1"_s);
     }
 
     void only_a_frame_with_a_caption_draws_a_line()

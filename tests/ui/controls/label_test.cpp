@@ -3,13 +3,14 @@
 
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    Label Label1{*this, QStringLiteral("Label1"), {0, 0, 3000, 900}, QStringLiteral("Copying file:")};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    Label Label1{*this, u"Label1"_s, {0, 0, 3000, 900}, u"Copying file:"_s};
 };
 
 FormHandle<MainForm> Main;
@@ -26,20 +27,20 @@ private Q_SLOTS:
 
     void the_caption_is_shown_and_spoken()
     {
-        QCOMPARE(Main->Label1.Caption(), QStringLiteral("Copying file:"));
-        QCOMPARE(Main->Label1.Widget().accessibleName(), QStringLiteral("Copying file:"));
-        Main->Label1.SetCaption(QStringLiteral("  To:"));
-        QCOMPARE(Main->Label1.Caption(), QStringLiteral("  To:"));
+        QCOMPARE(Main->Label1.Caption(), u"Copying file:"_s);
+        QCOMPARE(Main->Label1.Widget().accessibleName(), u"Copying file:"_s);
+        Main->Label1.SetCaption(u"  To:"_s);
+        QCOMPARE(Main->Label1.Caption(), u"  To:"_s);
         Main->Label1.SetCaption({});
-        QCOMPARE(Main->Label1.Widget().accessibleName(), QStringLiteral("Label1"));
+        QCOMPARE(Main->Label1.Widget().accessibleName(), u"Label1"_s);
     }
 
     void html_and_ampersands_are_plain_text()
     {
-        Main->Label1.SetCaption(QStringLiteral("<b>Fords</b> & Torviks"));
+        Main->Label1.SetCaption(u"<b>Fords</b> & Torviks"_s);
         const auto& widget = static_cast<const QLabel&>(Main->Label1.Widget());
         QCOMPARE(widget.textFormat(), Qt::PlainText);
-        QCOMPARE(widget.text(), QStringLiteral("<b>Fords</b> & Torviks"));
+        QCOMPARE(widget.text(), u"<b>Fords</b> & Torviks"_s);
     }
 
     void its_letters_take_size_weight_and_colour()

@@ -3,17 +3,18 @@
 
 #include <QListWidget>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main")))
+    MainForm() : Form(DesignOf(u"Main"_s))
     {
         for (const char* year : {"1967", "1968", "1969", "1970"})
             List1.AddItem(QString::fromLatin1(year));
     }
-    ListBox List1{*this, QStringLiteral("List1"), {0, 0, 1200, 3000}};
+    ListBox List1{*this, u"List1"_s, {0, 0, 1200, 3000}};
 };
 
 FormHandle<MainForm> Main;
@@ -41,8 +42,8 @@ private Q_SLOTS:
     void entries_count_from_0()
     {
         QCOMPARE(Main->List1.ListCount(), 4);
-        QCOMPARE(Main->List1.List(0), QStringLiteral("1967"));
-        QCOMPARE(Main->List1.List(3), QStringLiteral("1970"));
+        QCOMPARE(Main->List1.List(0), u"1967"_s);
+        QCOMPARE(Main->List1.List(3), u"1970"_s);
     }
 
     void an_entry_outside_is_failure_381()
@@ -55,11 +56,11 @@ private Q_SLOTS:
 
     void it_is_spoken_of_as_told_or_by_its_name()
     {
-        QCOMPARE(Main->List1.Widget().accessibleName(), QStringLiteral("List1"));
-        Main->List1.SetSpokenAs(QStringLiteral("From:"));
-        QCOMPARE(Main->List1.Widget().accessibleName(), QStringLiteral("From:"));
-        Main->List1.SetToolTip(QStringLiteral("The first year"));
-        QCOMPARE(Main->List1.Widget().accessibleName(), QStringLiteral("The first year"));
+        QCOMPARE(Main->List1.Widget().accessibleName(), u"List1"_s);
+        Main->List1.SetSpokenAs(u"From:"_s);
+        QCOMPARE(Main->List1.Widget().accessibleName(), u"From:"_s);
+        Main->List1.SetToolTip(u"The first year"_s);
+        QCOMPARE(Main->List1.Widget().accessibleName(), u"The first year"_s);
     }
 
     void nothing_is_selected_at_first()
@@ -74,7 +75,7 @@ private Q_SLOTS:
     {
         Main->List1.SetListIndex(2);
         QCOMPARE(Main->List1.ListIndex(), 2);
-        QCOMPARE(Main->List1.Text(), QStringLiteral("1969"));
+        QCOMPARE(Main->List1.Text(), u"1969"_s);
         Main->List1.SetListIndex(0);
         QCOMPARE(static_cast<QListWidget&>(Main->List1.Widget()).selectedItems().size(), 1);
         Main->List1.SetListIndex(-1);
@@ -109,7 +110,7 @@ private Q_SLOTS:
         };
         ClickEntry(2);
         QCOMPARE(clicks, 1);
-        QCOMPARE(Main->List1.Text(), QStringLiteral("1969"));
+        QCOMPARE(Main->List1.Text(), u"1969"_s);
     }
 
     void a_right_click_is_a_mouse_down_alone()
@@ -132,14 +133,14 @@ private Q_SLOTS:
         QTest::keyClick(&Main->List1.Widget(), Qt::Key_Down);
         QCOMPARE(Main->List1.ListIndex(), 1);
         QTest::keyClick(&Main->List1.Widget(), Qt::Key_End);
-        QCOMPARE(Main->List1.Text(), QStringLiteral("1970"));
+        QCOMPARE(Main->List1.Text(), u"1970"_s);
     }
 
     void the_name_is_spoken()
     {
-        QCOMPARE(Main->List1.Widget().accessibleName(), QStringLiteral("List1"));
-        Main->List1.SetToolTip(QStringLiteral("First year"));
-        QCOMPARE(Main->List1.Widget().accessibleName(), QStringLiteral("First year"));
+        QCOMPARE(Main->List1.Widget().accessibleName(), u"List1"_s);
+        Main->List1.SetToolTip(u"First year"_s);
+        QCOMPARE(Main->List1.Widget().accessibleName(), u"First year"_s);
     }
 
 private:

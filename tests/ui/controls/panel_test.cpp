@@ -4,16 +4,17 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels)) {}
-    Panel panYear{*this, QStringLiteral("panYear"), {0, 0, 810, 300}, QStringLiteral("panYear")};
-    Panel Gauge{*this, QStringLiteral("ProgressGuage"), {0, 600, 3120, 300}, {}, Bevel::Sunken};
-    Panel Flat{*this, QStringLiteral("Flat"), {0, 1200, 1500, 600}, {}, Bevel::None};
-    Button Go{Flat, QStringLiteral("Go"), {0, 0, 1200, 375}};
+    MainForm() : Form(DesignOf(u"Main"_s, Scale::Pixels)) {}
+    Panel panYear{*this, u"panYear"_s, {0, 0, 810, 300}, u"panYear"_s};
+    Panel Gauge{*this, u"ProgressGuage"_s, {0, 600, 3120, 300}, {}, Bevel::Sunken};
+    Panel Flat{*this, u"Flat"_s, {0, 1200, 1500, 600}, {}, Bevel::None};
+    Button Go{Flat, u"Go"_s, {0, 0, 1200, 375}};
 };
 
 FormHandle<MainForm> Main;
@@ -49,14 +50,14 @@ private Q_SLOTS:
 
     void captions_are_kept_as_they_are_and_spoken()
     {
-        QCOMPARE(Main->panYear.Caption(), QStringLiteral("panYear"));
-        Main->panYear.SetCaption(QStringLiteral("Torvik Cookies "));
-        QCOMPARE(Main->panYear.Caption(), QStringLiteral("Torvik Cookies "));
-        QCOMPARE(Main->panYear.Widget().accessibleName(), QStringLiteral("Torvik Cookies "));
+        QCOMPARE(Main->panYear.Caption(), u"panYear"_s);
+        Main->panYear.SetCaption(u"Torvik Cookies "_s);
+        QCOMPARE(Main->panYear.Caption(), u"Torvik Cookies "_s);
+        QCOMPARE(Main->panYear.Widget().accessibleName(), u"Torvik Cookies "_s);
         Main->panYear.SetCaption(1);
-        QCOMPARE(Main->panYear.Caption(), QStringLiteral("1"));
+        QCOMPARE(Main->panYear.Caption(), u"1"_s);
         Main->panYear.SetCaption(-12345);
-        QCOMPARE(Main->panYear.Caption(), QStringLiteral("-12345"));
+        QCOMPARE(Main->panYear.Caption(), u"-12345"_s);
     }
 
     void the_flood_is_a_whole_number_of_percent()
@@ -103,30 +104,30 @@ private Q_SLOTS:
 
     void a_gauge_says_its_percentage()
     {
-        Main->Gauge.SetCaption(QStringLiteral("17"));
-        QCOMPARE(Main->Gauge.Widget().accessibleName(), QStringLiteral("17"));
+        Main->Gauge.SetCaption(u"17"_s);
+        QCOMPARE(Main->Gauge.Widget().accessibleName(), u"17"_s);
         Main->Gauge.SetFloodPercent(42);
-        QCOMPARE(Main->Gauge.Widget().accessibleName(), QStringLiteral("42%"));
+        QCOMPARE(Main->Gauge.Widget().accessibleName(), u"42%"_s);
     }
 
     void it_grows_with_a_wide_caption_and_shrinks_back_to_its_design()
     {
-        Main->panYear.SetCaption(QStringLiteral("1967"));
+        Main->panYear.SetCaption(u"1967"_s);
         Main->panYear.SetAutoSize(true);
         QCOMPARE(Main->panYear.Width(), 54.0);
-        Main->panYear.SetCaption(QStringLiteral("Franklin Mint Collector Knives "));
+        Main->panYear.SetCaption(u"Franklin Mint Collector Knives "_s);
         QVERIFY(Main->panYear.Width() > 150);
         QVERIFY(Main->panYear.Widget().width() >=
                 Main->panYear.Widget().fontMetrics().horizontalAdvance(Main->panYear.Caption()));
         QCOMPARE(Main->panYear.Left(), 0.0);
         QCOMPARE(Main->panYear.Height(), 20.0);
-        Main->panYear.SetCaption(QStringLiteral("1968"));
+        Main->panYear.SetCaption(u"1968"_s);
         QCOMPARE(Main->panYear.Width(), 54.0);
     }
 
     void without_auto_size_it_keeps_its_width()
     {
-        Main->panYear.SetCaption(QStringLiteral("Franklin Mint Collector Knives "));
+        Main->panYear.SetCaption(u"Franklin Mint Collector Knives "_s);
         QCOMPARE(Main->panYear.Width(), 54.0);
     }
 
@@ -150,7 +151,7 @@ private Q_SLOTS:
         Main->panYear.SetCaptionFont(14, true, look::accent);
         const QImage bold = Grab(Main->panYear);
         QVERIFY(bold != plain);
-        Main->panYear.SetCaption(QStringLiteral("I"));
+        Main->panYear.SetCaption(u"I"_s);
         const QImage centred = Grab(Main->panYear);
         Main->panYear.SetAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         QVERIFY(Grab(Main->panYear) != centred);

@@ -6,13 +6,14 @@
 #include <QScrollBar>
 #include <QTextBrowser>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    RichTextBox rtbText{*this, QStringLiteral("rtbText"), {0, 0, 4500, 3000}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    RichTextBox rtbText{*this, u"rtbText"_s, {0, 0, 4500, 3000}};
 };
 
 FormHandle<MainForm> Main;
@@ -38,44 +39,41 @@ private Q_SLOTS:
 
     void a_file_is_shown_and_its_text_spoken()
     {
-        QCOMPARE(Pane().accessibleName(), QStringLiteral("rtbText"));
-        const QString path =
-            folder_.Add(QStringLiteral("67a.rtf"), "{\\rtf1\\ansi The first {\\b Torvik}.\\par Red.}");
+        QCOMPARE(Pane().accessibleName(), u"rtbText"_s);
+        const QString path = folder_.Add(u"67a.rtf"_s, "{\\rtf1\\ansi The first {\\b Torvik}.\\par Red.}");
         Main->rtbText.SetFileName(path);
         QCOMPARE(Main->rtbText.FileName(), path);
-        QVERIFY(Main->rtbText.Text().startsWith(QStringLiteral("The first Torvik.\nRed.")));
+        QVERIFY(Main->rtbText.Text().startsWith(u"The first Torvik.\nRed."_s));
         QCOMPARE(Pane().accessibleName(), Main->rtbText.Text());
     }
 
     void another_file_takes_the_place_of_the_first()
     {
-        Main->rtbText.SetFileName(folder_.Add(QStringLiteral("a.rtf"), "{\\rtf1 one}"));
-        Main->rtbText.SetFileName(folder_.Add(QStringLiteral("b.rtf"), "{\\rtf1 two}"));
-        QCOMPARE(Main->rtbText.Text().trimmed(), QStringLiteral("two"));
+        Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1 one}"));
+        Main->rtbText.SetFileName(folder_.Add(u"b.rtf"_s, "{\\rtf1 two}"));
+        QCOMPARE(Main->rtbText.Text().trimmed(), u"two"_s);
     }
 
     void the_text_stays_when_the_next_file_fails()
     {
-        const QString first = folder_.Add(QStringLiteral("a.rtf"), "{\\rtf1 one}");
+        const QString first = folder_.Add(u"a.rtf"_s, "{\\rtf1 one}");
         Main->rtbText.SetFileName(first);
-        const QString empty = folder_.Add(QStringLiteral("empty.rtf"), {});
+        const QString empty = folder_.Add(u"empty.rtf"_s, {});
         QCOMPARE(ResumeNext([&] { Main->rtbText.SetFileName(empty); }), 321);
-        QCOMPARE(ResumeNext([&] { Main->rtbText.SetFileName(folder_.PathOf(QStringLiteral("none.rtf"))); }),
-                 53);
-        QCOMPARE(ResumeNext([&] { Main->rtbText.SetFileName(folder_.PathOf(QStringLiteral("no\\x.rtf"))); }),
-                 76);
-        QCOMPARE(Main->rtbText.Text().trimmed(), QStringLiteral("one"));
+        QCOMPARE(ResumeNext([&] { Main->rtbText.SetFileName(folder_.PathOf(u"none.rtf"_s)); }), 53);
+        QCOMPARE(ResumeNext([&] { Main->rtbText.SetFileName(folder_.PathOf(u"no\\x.rtf"_s)); }), 76);
+        QCOMPARE(Main->rtbText.Text().trimmed(), u"one"_s);
         QCOMPARE(Main->rtbText.FileName(), first);
     }
 
     void the_user_cannot_change_the_text_but_select_it()
     {
-        Main->rtbText.SetFileName(folder_.Add(QStringLiteral("a.rtf"), "{\\rtf1 one}"));
+        Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1 one}"));
         Main->rtbText.SetFocus();
-        QTest::keyClicks(&Pane(), QStringLiteral("abc"));
-        QCOMPARE(Main->rtbText.Text().trimmed(), QStringLiteral("one"));
+        QTest::keyClicks(&Pane(), u"abc"_s);
+        QCOMPARE(Main->rtbText.Text().trimmed(), u"one"_s);
         QTest::keyClick(&Pane(), Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(Pane().textCursor().selectedText().trimmed(), QStringLiteral("one"));
+        QCOMPARE(Pane().textCursor().selectedText().trimmed(), u"one"_s);
     }
 
     void a_press_or_click_on_the_text_is_one_of_the_pane()
@@ -96,9 +94,8 @@ private Q_SLOTS:
         for (const char* address : {"http://example.com/a", "https://example.com/b", "mailto:a@example.com",
                                     "file:///etc/passwd", "other.rtf"})
             Q_EMIT Pane().anchorClicked(QUrl(QString::fromLatin1(address)));
-        QCOMPARE(desktop.Opened,
-                 (QStringList{QStringLiteral("http://example.com/a"), QStringLiteral("https://example.com/b"),
-                              QStringLiteral("mailto:a@example.com")}));
+        QCOMPARE(desktop.Opened, (QStringList{u"http://example.com/a"_s, u"https://example.com/b"_s,
+                                              u"mailto:a@example.com"_s}));
         QVERIFY(!Pane().source().isValid());
     }
 
@@ -106,7 +103,7 @@ private Q_SLOTS:
     {
         const Desktop desktop;
         Main->rtbText.SetFileName(folder_.Add(
-            QStringLiteral("a.rtf"),
+            u"a.rtf"_s,
             "{\\rtf1 {\\field{\\*\\fldinst HYPERLINK \\\\l \"rear wheels\"}{\\fldrslt go}}\\par " +
                 QByteArray("line\\par ").repeated(200) + "{\\*\\bkmkstart rear wheels}there\\par}"));
         QScrollBar& bar = *Pane().verticalScrollBar();

@@ -3,14 +3,15 @@
 
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    ScrollBar Flat{*this, QStringLiteral("Flat"), {0, 0, 3000, 240}};
-    ScrollBar Upright{*this, QStringLiteral("Upright"), {3300, 0, 240, 3000}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    ScrollBar Flat{*this, u"Flat"_s, {0, 0, 3000, 240}};
+    ScrollBar Upright{*this, u"Upright"_s, {3300, 0, 240, 3000}};
 };
 
 FormHandle<MainForm> Main;

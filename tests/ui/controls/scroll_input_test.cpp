@@ -6,17 +6,18 @@
 
 #include <QWheelEvent>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    PictureBox Pane{*this, QStringLiteral("Pane"), {0, 0, 3000, 3000}};
-    PictureBox Page{Pane, QStringLiteral("Page"), {0, 0, 3000, 3000}};
-    ScrollBar Across{*this, QStringLiteral("Across"), {0, 3000, 3000, 240}};
-    ScrollBar Down{*this, QStringLiteral("Down"), {3000, 0, 240, 3000}};
-    Button Corner{*this, QStringLiteral("Corner"), {3000, 3000, 240, 240}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    PictureBox Pane{*this, u"Pane"_s, {0, 0, 3000, 3000}};
+    PictureBox Page{Pane, u"Page"_s, {0, 0, 3000, 3000}};
+    ScrollBar Across{*this, u"Across"_s, {0, 3000, 3000, 240}};
+    ScrollBar Down{*this, u"Down"_s, {3000, 0, 240, 3000}};
+    Button Corner{*this, u"Corner"_s, {3000, 3000, 240, 240}};
     ScrollInput Scrolling{*this, Across, Down};
 };
 

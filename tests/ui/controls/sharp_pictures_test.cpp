@@ -6,14 +6,15 @@
 
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    Image Image4{*this, QStringLiteral("Image4"), {0, 0, 3000, 1500}};
-    Panel Panel1{*this, QStringLiteral("Panel1"), {0, 1800, 3000, 600}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    Image Image4{*this, u"Image4"_s, {0, 0, 3000, 1500}};
+    Panel Panel1{*this, u"Panel1"_s, {0, 1800, 3000, 600}};
 };
 
 FormHandle<MainForm> Main;
@@ -45,7 +46,7 @@ private Q_SLOTS:
 
     void a_picture_uses_every_pixel_of_the_display()
     {
-        Main->Image4.Load(folder_.Add(QStringLiteral("stripes.bmp"), Encoded(Stripes({400, 200}), "bmp")));
+        Main->Image4.Load(folder_.Add(u"stripes.bmp"_s, Encoded(Stripes({400, 200}), "bmp")));
         const QPixmap pixmap = static_cast<const QLabel&>(Main->Image4.Widget()).pixmap(Qt::ReturnByValue);
         QCOMPARE(pixmap.size(), QSize(400, 200));
         QCOMPARE(pixmap.devicePixelRatio(), 2.0);

@@ -2,20 +2,21 @@
 #include "ui/controls/spin_button.h"
 #include "ui/look/button_widget.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    SpinButton SpinButton1{*this, QStringLiteral("SpinButton1"), {120, 360, 615, 300}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    SpinButton SpinButton1{*this, u"SpinButton1"_s, {120, 360, 615, 300}};
 };
 
 FormHandle<MainForm> Main;
 
 ButtonWidget& Arrow(const QString& part)
 {
-    const QString name = QStringLiteral("SpinButton1(%1)").arg(part);
+    const QString name = u"SpinButton1(%1)"_s.arg(part);
     for (QObject* child : Main->SpinButton1.Widget().children())
         if (child->objectName() == name)
             return *static_cast<ButtonWidget*>(child);
@@ -24,12 +25,12 @@ ButtonWidget& Arrow(const QString& part)
 
 ButtonWidget& Up()
 {
-    return Arrow(QStringLiteral("Up"));
+    return Arrow(u"Up"_s);
 }
 
 ButtonWidget& Down()
 {
-    return Arrow(QStringLiteral("Down"));
+    return Arrow(u"Down"_s);
 }
 
 } // namespace
@@ -122,11 +123,11 @@ private Q_SLOTS:
 
     void the_arrows_say_what_they_do()
     {
-        QCOMPARE(Up().accessibleName(), QStringLiteral("SpinButton1(Up)"));
-        Main->SpinButton1.SetSpokenAs(QStringLiteral("Next photo"), QStringLiteral("Previous photo"));
-        QCOMPARE(Up().accessibleName(), QStringLiteral("Next photo"));
-        QCOMPARE(Down().accessibleName(), QStringLiteral("Previous photo"));
-        QCOMPARE(Up().objectName(), QStringLiteral("SpinButton1(Up)"));
+        QCOMPARE(Up().accessibleName(), u"SpinButton1(Up)"_s);
+        Main->SpinButton1.SetSpokenAs(u"Next photo"_s, u"Previous photo"_s);
+        QCOMPARE(Up().accessibleName(), u"Next photo"_s);
+        QCOMPARE(Down().accessibleName(), u"Previous photo"_s);
+        QCOMPARE(Up().objectName(), u"SpinButton1(Up)"_s);
     }
 
     void a_handler_may_unload_the_form()

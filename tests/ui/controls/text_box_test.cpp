@@ -3,13 +3,14 @@
 
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    TextBox txtFile{*this, QStringLiteral("txtFile"), {0, 0, 3000, 315}, QStringLiteral("67A.JPG")};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    TextBox txtFile{*this, u"txtFile"_s, {0, 0, 3000, 315}, u"67A.JPG"_s};
 };
 
 FormHandle<MainForm> Main;
@@ -36,26 +37,26 @@ private Q_SLOTS:
 
     void the_program_fills_it()
     {
-        QCOMPARE(Main->txtFile.Text(), QStringLiteral("67A.JPG"));
-        Main->txtFile.SetText(QStringLiteral(" "));
-        QCOMPARE(Main->txtFile.Text(), QStringLiteral(" "));
+        QCOMPARE(Main->txtFile.Text(), u"67A.JPG"_s);
+        Main->txtFile.SetText(u" "_s);
+        QCOMPARE(Main->txtFile.Text(), u" "_s);
     }
 
     void the_user_cannot_change_it()
     {
-        QTest::keyClicks(&Edit(), QStringLiteral("abc"));
+        QTest::keyClicks(&Edit(), u"abc"_s);
         QTest::keyClick(&Edit(), Qt::Key_Delete);
-        QCOMPARE(Main->txtFile.Text(), QStringLiteral("67A.JPG"));
+        QCOMPARE(Main->txtFile.Text(), u"67A.JPG"_s);
     }
 
     void the_user_can_select_of_it()
     {
         QCOMPARE(Main->txtFile.SelText(), QString());
         QTest::keyClick(&Edit(), Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(Main->txtFile.SelText(), QStringLiteral("67A.JPG"));
+        QCOMPARE(Main->txtFile.SelText(), u"67A.JPG"_s);
         QTest::keyClick(&Edit(), Qt::Key_Home);
         QTest::keyClick(&Edit(), Qt::Key_Right, Qt::ShiftModifier);
-        QCOMPARE(Main->txtFile.SelText(), QStringLiteral("6"));
+        QCOMPARE(Main->txtFile.SelText(), u"6"_s);
     }
 
     void a_long_text_shows_its_beginning()
@@ -66,9 +67,9 @@ private Q_SLOTS:
 
     void the_text_is_spoken_and_the_name_where_it_is_blank()
     {
-        QCOMPARE(Edit().accessibleName(), QStringLiteral("67A.JPG"));
-        Main->txtFile.SetText(QStringLiteral(" "));
-        QCOMPARE(Edit().accessibleName(), QStringLiteral("txtFile"));
+        QCOMPARE(Edit().accessibleName(), u"67A.JPG"_s);
+        Main->txtFile.SetText(u" "_s);
+        QCOMPARE(Edit().accessibleName(), u"txtFile"_s);
     }
 
     void a_click_on_it_is_a_click()

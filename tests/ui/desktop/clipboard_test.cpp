@@ -6,13 +6,14 @@
 #include <QClipboard>
 #include <QMimeData>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    PictureBox Pane{*this, QStringLiteral("Pane"), {0, 0, 1200, 600}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    PictureBox Pane{*this, u"Pane"_s, {0, 0, 1200, 600}};
 };
 
 FormHandle<MainForm> Main;
@@ -32,8 +33,8 @@ bool NothingThere()
 void FillByOthers()
 {
     auto* content = new QMimeData;
-    content->setText(QStringLiteral("of another program"));
-    content->setHtml(QStringLiteral("<b>of another program</b>"));
+    content->setText(u"of another program"_s);
+    content->setHtml(u"<b>of another program</b>"_s);
     Desktop().setMimeData(content);
 }
 
@@ -68,8 +69,8 @@ private Q_SLOTS:
     void a_text_takes_the_place_of_all_that_was()
     {
         FillByOthers();
-        Clipboard.SetText(QStringLiteral("67A.JPG \r\n\u00e9"));
-        QCOMPARE(Desktop().text(), QStringLiteral("67A.JPG \r\n\u00e9"));
+        Clipboard.SetText(u"67A.JPG \r\n\u00e9"_s);
+        QCOMPARE(Desktop().text(), u"67A.JPG \r\n\u00e9"_s);
         QVERIFY(!Desktop().mimeData()->hasHtml());
     }
 
@@ -116,13 +117,13 @@ private Q_SLOTS:
         const Picture picture = Loaded("damaged.png", damaged);
         FillByOthers();
         QCOMPARE(ResumeNext([&] { Clipboard.SetPicture(picture); }), 481);
-        QCOMPARE(Desktop().text(), QStringLiteral("of another program"));
+        QCOMPARE(Desktop().text(), u"of another program"_s);
     }
 
     void what_was_copied_stays_when_its_form_is_gone()
     {
         QVERIFY(UiRoom::Open(*Main));
-        Main->Pane.Load(folder_.Add(QStringLiteral("a.bmp"), Encoded(FourCorners({120, 80}), "bmp")));
+        Main->Pane.Load(folder_.Add(u"a.bmp"_s, Encoded(FourCorners({120, 80}), "bmp")));
         Clipboard.SetPicture(Main->Pane.Picture());
         Main.Unload();
         UiRoom::Settle();

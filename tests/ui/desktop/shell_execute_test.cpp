@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Addresses that are given to the desktop.
@@ -15,9 +16,8 @@ private Q_SLOTS:
         const Desktop desktop;
         for (const char* address : {"http://example.com/a", "https://example.com/b", "mailto:a@example.com"})
             QVERIFY(ShellExecute(QString::fromLatin1(address)) > 32);
-        QCOMPARE(desktop.Opened,
-                 (QStringList{QStringLiteral("http://example.com/a"), QStringLiteral("https://example.com/b"),
-                              QStringLiteral("mailto:a@example.com")}));
+        QCOMPARE(desktop.Opened, (QStringList{u"http://example.com/a"_s, u"https://example.com/b"_s,
+                                              u"mailto:a@example.com"_s}));
     }
 
     void nothing_else_is()

@@ -3,16 +3,17 @@
 #include "ui/forms/control_array.h"
 #include "ui/forms/menu.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
     MainForm()
-        : Form(DesignOf(QStringLiteral("Main"), Scale::Twips, FormBorder::Sizable, true)),
-          mnuSpecial(QStringLiteral("mnuSpecial"), 5, *this, QStringLiteral("Specialty"))
+        : Form(DesignOf(u"Main"_s, Scale::Twips, FormBorder::Sizable, true)),
+          mnuSpecial(u"mnuSpecial"_s, 5, *this, u"Specialty"_s)
     {}
-    ControlArray<Button> cmdYR{QStringLiteral("cmdYR")};
+    ControlArray<Button> cmdYR{u"cmdYR"_s};
     ControlArray<Menu> mnuSpecial;
 };
 
@@ -30,10 +31,10 @@ private Q_SLOTS:
 
     void a_member_is_named_with_its_index()
     {
-        Button& added = Main->cmdYR.Add(3, *Main, Twips{0, 0, 510, 375}, QStringLiteral("69"));
-        QCOMPARE(added.Name(), QStringLiteral("cmdYR(3)"));
+        Button& added = Main->cmdYR.Add(3, *Main, Twips{0, 0, 510, 375}, u"69"_s);
+        QCOMPARE(added.Name(), u"cmdYR(3)"_s);
         QCOMPARE(&Main->cmdYR(3), &added);
-        QCOMPARE(Main->cmdYR(3).Caption(), QStringLiteral("69"));
+        QCOMPARE(Main->cmdYR(3).Caption(), u"69"_s);
     }
 
     void an_index_without_a_member_is_failure_340()
@@ -50,7 +51,7 @@ private Q_SLOTS:
         QList<int> seen;
         Main->cmdYR.Each([&](int index, Button& button) {
             seen.append(index);
-            QCOMPARE(button.Name(), QStringLiteral("cmdYR(%1)").arg(index));
+            QCOMPARE(button.Name(), u"cmdYR(%1)"_s.arg(index));
         });
         QCOMPARE(seen, (QList<int>{1, 3, 5, 7}));
         QCOMPARE(Main->cmdYR.Count(), 4);
@@ -58,8 +59,8 @@ private Q_SLOTS:
 
     void menus_make_arrays_too()
     {
-        QCOMPARE(Main->mnuSpecial(5).Name(), QStringLiteral("mnuSpecial(5)"));
-        QCOMPARE(Main->mnuSpecial(5).Caption(), QStringLiteral("Specialty"));
+        QCOMPARE(Main->mnuSpecial(5).Name(), u"mnuSpecial(5)"_s);
+        QCOMPARE(Main->mnuSpecial(5).Caption(), u"Specialty"_s);
         QCOMPARE(Main->mnuSpecial.Count(), 1);
     }
 

@@ -8,20 +8,21 @@
 #include "ui/controls/text_box.h"
 #include "ui/forms/control.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct PixelForm : Form {
-    PixelForm() : Form(DesignOf(QStringLiteral("Pixels"), Scale::Pixels)) {}
-    Panel Panel1{*this, QStringLiteral("Panel1"), {150, 300, 3000, 1500}, QStringLiteral("panel")};
-    Label Label1{Panel1, QStringLiteral("Label1"), {150, 150, 1500, 300}, QStringLiteral("label")};
-    Panel Panel2{*this, QStringLiteral("Panel2"), {300, 450, 3000, 1500}};
-    Image Image1{*this, QStringLiteral("Image1"), {3300, 300, 1500, 1500}};
-    Button Go{*this, QStringLiteral("Go"), {0, 2250, 1200, 375}, QStringLiteral("Go")};
-    Button Next{*this, QStringLiteral("Next"), {1500, 2250, 1200, 375}, QStringLiteral("Next")};
-    Frame Frame1{*this, QStringLiteral("Frame1"), {0, 3000, 3000, 1200}};
-    Button Inside{Frame1, QStringLiteral("Inside"), {150, 150, 1200, 375}, QStringLiteral("Inside")};
+    PixelForm() : Form(DesignOf(u"Pixels"_s, Scale::Pixels)) {}
+    Panel Panel1{*this, u"Panel1"_s, {150, 300, 3000, 1500}, u"panel"_s};
+    Label Label1{Panel1, u"Label1"_s, {150, 150, 1500, 300}, u"label"_s};
+    Panel Panel2{*this, u"Panel2"_s, {300, 450, 3000, 1500}};
+    Image Image1{*this, u"Image1"_s, {3300, 300, 1500, 1500}};
+    Button Go{*this, u"Go"_s, {0, 2250, 1200, 375}, u"Go"_s};
+    Button Next{*this, u"Next"_s, {1500, 2250, 1200, 375}, u"Next"_s};
+    Frame Frame1{*this, u"Frame1"_s, {0, 3000, 3000, 1200}};
+    Button Inside{Frame1, u"Inside"_s, {150, 150, 1200, 375}, u"Inside"_s};
 };
 
 FormHandle<PixelForm> Pixels;
@@ -116,8 +117,8 @@ private Q_SLOTS:
 
     void the_name_is_the_object_name()
     {
-        QCOMPARE(Pixels->Inside.Name(), QStringLiteral("Inside"));
-        QCOMPARE(Pixels->Window().findChild<QWidget*>(QStringLiteral("Inside")), &Pixels->Inside.Widget());
+        QCOMPARE(Pixels->Inside.Name(), u"Inside"_s);
+        QCOMPARE(Pixels->Window().findChild<QWidget*>(u"Inside"_s), &Pixels->Inside.Widget());
         QCOMPARE(&Pixels->Inside.OwnerForm(), static_cast<Form*>(&*Pixels));
     }
 
@@ -209,7 +210,7 @@ private Q_SLOTS:
 
     void a_click_is_the_left_buttons_alone()
     {
-        Pixels->Image1.Click = [this] { log_.append(QStringLiteral("click")); };
+        Pixels->Image1.Click = [this] { log_.append(u"click"_s); };
         for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton})
             QTest::mouseClick(&Pixels->Image1.Widget(), button);
         QVERIFY(log_.isEmpty());
@@ -219,7 +220,7 @@ private Q_SLOTS:
 
     void a_release_outside_is_no_click()
     {
-        Pixels->Image1.Click = [this] { log_.append(QStringLiteral("click")); };
+        Pixels->Image1.Click = [this] { log_.append(u"click"_s); };
         QWidget* image = &Pixels->Image1.Widget();
         QTest::mousePress(image, Qt::LeftButton, {}, {5, 5});
         QTest::mouseRelease(image, Qt::LeftButton, {}, {-5, 5});
@@ -230,7 +231,7 @@ private Q_SLOTS:
 
     void a_left_press_is_not_lost_by_another_button_in_between()
     {
-        Pixels->Image1.Click = [this] { log_.append(QStringLiteral("click")); };
+        Pixels->Image1.Click = [this] { log_.append(u"click"_s); };
         QWidget* image = &Pixels->Image1.Widget();
         QTest::mousePress(image, Qt::RightButton);
         QTest::mouseRelease(image, Qt::LeftButton);
@@ -243,24 +244,23 @@ private Q_SLOTS:
         for (const Qt::MouseButton button :
              {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton})
             QTest::mousePress(&Pixels->Image1.Widget(), button);
-        QCOMPARE(log_, (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("4"),
-                                    QStringLiteral("0")}));
+        QCOMPARE(log_, (QStringList{u"1"_s, u"2"_s, u"4"_s, u"0"_s}));
     }
 
     void mouse_down_comes_before_click()
     {
-        Pixels->Image1.MouseDown = [this](int) { log_.append(QStringLiteral("down")); };
-        Pixels->Image1.Click = [this] { log_.append(QStringLiteral("click")); };
+        Pixels->Image1.MouseDown = [this](int) { log_.append(u"down"_s); };
+        Pixels->Image1.Click = [this] { log_.append(u"click"_s); };
         QTest::mouseClick(&Pixels->Image1.Widget(), Qt::LeftButton);
-        QCOMPARE(log_, (QStringList{QStringLiteral("down"), QStringLiteral("click")}));
+        QCOMPARE(log_, (QStringList{u"down"_s, u"click"_s}));
     }
 
     void a_double_click_runs_where_it_is_bound()
     {
-        Pixels->Panel1.Click = [this] { log_.append(QStringLiteral("click")); };
-        Pixels->Panel1.DblClick = [this] { log_.append(QStringLiteral("double")); };
+        Pixels->Panel1.Click = [this] { log_.append(u"click"_s); };
+        Pixels->Panel1.DblClick = [this] { log_.append(u"double"_s); };
         ClickTwice(Pixels->Panel1, Qt::LeftButton, {150, 80});
-        QCOMPARE(log_, (QStringList{QStringLiteral("click"), QStringLiteral("double")}));
+        QCOMPARE(log_, (QStringList{u"click"_s, u"double"_s}));
         ClickTwice(Pixels->Panel1, Qt::RightButton, {150, 80});
         QCOMPARE(log_.size(), 2);
     }
@@ -269,7 +269,7 @@ private Q_SLOTS:
     {
         for (Control* control : std::initializer_list<Control*>{&Pixels->Image1, &Pixels->Go}) {
             log_.clear();
-            control->Click = [this] { log_.append(QStringLiteral("click")); };
+            control->Click = [this] { log_.append(u"click"_s); };
             ClickTwice(*control, Qt::LeftButton);
             QCOMPARE(log_.size(), 2);
         }
@@ -277,28 +277,28 @@ private Q_SLOTS:
 
     void what_happens_on_a_control_is_nothing_to_its_container()
     {
-        Pixels->Panel1.Click = [this] { log_.append(QStringLiteral("panel click")); };
-        Pixels->Panel1.MouseDown = [this](int) { log_.append(QStringLiteral("panel down")); };
-        Pixels->Panel1.DblClick = [this] { log_.append(QStringLiteral("panel double")); };
-        Pixels->Label1.Click = [this] { log_.append(QStringLiteral("label")); };
+        Pixels->Panel1.Click = [this] { log_.append(u"panel click"_s); };
+        Pixels->Panel1.MouseDown = [this](int) { log_.append(u"panel down"_s); };
+        Pixels->Panel1.DblClick = [this] { log_.append(u"panel double"_s); };
+        Pixels->Label1.Click = [this] { log_.append(u"label"_s); };
         Pixels->Panel1.ZOrder();
         const QPoint onLabel(20, 15);
         QWindow* window = Pixels->Window().windowHandle();
         const QPoint place = Pixels->Panel1.Widget().mapTo(&Pixels->Window(), onLabel);
         QTest::mouseClick(window, Qt::LeftButton, {}, place);
         QTest::mouseClick(window, Qt::RightButton, {}, place);
-        QCOMPARE(log_, QStringList{QStringLiteral("label")});
+        QCOMPARE(log_, QStringList{u"label"_s});
     }
 
     void a_disabled_control_has_no_events_nor_has_what_it_lies_on()
     {
-        Pixels->Panel1.MouseDown = [this](int) { log_.append(QStringLiteral("panel")); };
-        Pixels->Label1.Click = [this] { log_.append(QStringLiteral("label")); };
-        Pixels->Label1.MouseDown = [this](int) { log_.append(QStringLiteral("label down")); };
+        Pixels->Panel1.MouseDown = [this](int) { log_.append(u"panel"_s); };
+        Pixels->Label1.Click = [this] { log_.append(u"label"_s); };
+        Pixels->Label1.MouseDown = [this](int) { log_.append(u"label down"_s); };
         Pixels->Label1.SetEnabled(false);
         QTest::mouseClick(&Pixels->Label1.Widget(), Qt::LeftButton);
         QTest::mouseDClick(&Pixels->Label1.Widget(), Qt::LeftButton);
-        Pixels->Go.Click = [this] { log_.append(QStringLiteral("go")); };
+        Pixels->Go.Click = [this] { log_.append(u"go"_s); };
         Pixels->Go.SetEnabled(false);
         QTest::mouseClick(&Pixels->Go.Widget(), Qt::LeftButton);
         QCOMPARE(log_, QStringList());
@@ -306,53 +306,50 @@ private Q_SLOTS:
 
     void key_down_tells_code_and_shift_state()
     {
-        Pixels->Go.KeyDown = [this](int code, int shift) {
-            log_.append(QStringLiteral("%1 %2").arg(code).arg(shift));
-        };
+        Pixels->Go.KeyDown = [this](int code, int shift) { log_.append(u"%1 %2"_s.arg(code).arg(shift)); };
         QTest::keyClick(&Pixels->Go.Widget(), Qt::Key_Comma);
         QTest::keyClick(&Pixels->Go.Widget(), Qt::Key_Less, Qt::ShiftModifier);
         QTest::keyClick(&Pixels->Go.Widget(), Qt::Key_A, Qt::ControlModifier | Qt::AltModifier);
         QTest::keyClick(&Pixels->Go.Widget(), Qt::Key_F5); // has no code
-        QCOMPARE(log_,
-                 (QStringList{QStringLiteral("188 0"), QStringLiteral("188 1"), QStringLiteral("65 6")}));
+        QCOMPARE(log_, (QStringList{u"188 0"_s, u"188 1"_s, u"65 6"_s}));
     }
 
     void a_handler_that_moves_the_focus_uses_the_key_up()
     {
         Pixels->Go.SetFocus();
         Pixels->Go.KeyDown = [](int, int) { Pixels->Next.SetFocus(); };
-        Pixels->Go.Click = [this] { log_.append(QStringLiteral("go")); };
-        Pixels->Next.Click = [this] { log_.append(QStringLiteral("next")); };
+        Pixels->Go.Click = [this] { log_.append(u"go"_s); };
+        Pixels->Next.Click = [this] { log_.append(u"next"_s); };
         QTest::keyClick(&Pixels->Go.Widget(), Qt::Key_Space);
         QVERIFY(log_.isEmpty());
         QTest::keyClick(&Pixels->Next.Widget(), Qt::Key_Space);
-        QCOMPARE(log_, QStringList{QStringLiteral("next")});
+        QCOMPARE(log_, QStringList{u"next"_s});
     }
 
     void a_handler_that_leaves_the_focus_lets_the_key_work()
     {
         Pixels->Go.SetFocus();
-        Pixels->Go.KeyDown = [this](int, int) { log_.append(QStringLiteral("key")); };
-        Pixels->Go.Click = [this] { log_.append(QStringLiteral("click")); };
+        Pixels->Go.KeyDown = [this](int, int) { log_.append(u"key"_s); };
+        Pixels->Go.Click = [this] { log_.append(u"click"_s); };
         QTest::keyClick(&Pixels->Go.Widget(), Qt::Key_Space);
-        QCOMPARE(log_, (QStringList{QStringLiteral("key"), QStringLiteral("click")}));
+        QCOMPARE(log_, (QStringList{u"key"_s, u"click"_s}));
     }
 
     void the_tool_tip_is_the_widgets_and_the_accessible_name()
     {
-        QCOMPARE(Pixels->Image1.Widget().accessibleName(), QStringLiteral("Image1"));
-        Pixels->Image1.SetToolTip(QStringLiteral("Click the Right mouse button to copy"));
-        QCOMPARE(Pixels->Image1.ToolTip(), QStringLiteral("Click the Right mouse button to copy"));
+        QCOMPARE(Pixels->Image1.Widget().accessibleName(), u"Image1"_s);
+        Pixels->Image1.SetToolTip(u"Click the Right mouse button to copy"_s);
+        QCOMPARE(Pixels->Image1.ToolTip(), u"Click the Right mouse button to copy"_s);
         QCOMPARE(Pixels->Image1.Widget().toolTip(), Pixels->Image1.ToolTip());
         QCOMPARE(Pixels->Image1.Widget().accessibleName(), Pixels->Image1.ToolTip());
     }
 
     void a_caption_is_the_accessible_name_before_the_tool_tip()
     {
-        Pixels->Panel1.SetToolTip(QStringLiteral("Double-click to show photo #1"));
-        QCOMPARE(Pixels->Panel1.Widget().accessibleName(), QStringLiteral("panel"));
+        Pixels->Panel1.SetToolTip(u"Double-click to show photo #1"_s);
+        QCOMPARE(Pixels->Panel1.Widget().accessibleName(), u"panel"_s);
         Pixels->Panel1.SetCaption(QString());
-        QCOMPARE(Pixels->Panel1.Widget().accessibleName(), QStringLiteral("Double-click to show photo #1"));
+        QCOMPARE(Pixels->Panel1.Widget().accessibleName(), u"Double-click to show photo #1"_s);
     }
 
 private:

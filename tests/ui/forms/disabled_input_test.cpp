@@ -12,12 +12,13 @@
 #include <QMessageBox>
 #include <QWheelEvent>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels, FormBorder::Sizable, true))
+    MainForm() : Form(DesignOf(u"Main"_s, Scale::Pixels, FormBorder::Sizable, true))
     {
         SetCancelButton(&Go);
         mnuCopy.Click = [this] { ++events; };
@@ -28,18 +29,18 @@ struct MainForm : Form {
         Bar.Change = [this] { ++events; };
         Spin.SpinUp = [this] { ++events; };
     }
-    Menu mnuFile{*this, QStringLiteral("mnuFile"), QStringLiteral("&File")};
-    Menu mnuCopy{mnuFile, QStringLiteral("mnuCopy"), QStringLiteral("&Copy")};
-    Menu mnuDirect{*this, QStringLiteral("mnuDirect"), QStringLiteral("&Direct")};
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}, QStringLiteral("Go")};
-    ScrollBar Bar{*this, QStringLiteral("Bar"), {0, 600, 3000, 240}};
-    SpinButton Spin{*this, QStringLiteral("Spin"), {0, 1200, 600, 300}};
+    Menu mnuFile{*this, u"mnuFile"_s, u"&File"_s};
+    Menu mnuCopy{mnuFile, u"mnuCopy"_s, u"&Copy"_s};
+    Menu mnuDirect{*this, u"mnuDirect"_s, u"&Direct"_s};
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"Go"_s};
+    ScrollBar Bar{*this, u"Bar"_s, {0, 600, 3000, 240}};
+    SpinButton Spin{*this, u"Spin"_s, {0, 1200, 600, 300}};
     int events = 0;
 };
 
 struct SideForm : Form {
-    SideForm() : Form(DesignOf(QStringLiteral("Side"))) {}
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}, QStringLiteral("Go")};
+    SideForm() : Form(DesignOf(u"Side"_s)) {}
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"Go"_s};
 };
 
 FormHandle<MainForm> Main;
@@ -132,7 +133,7 @@ private Q_SLOTS:
     void a_button_that_is_held_down_is_let_go()
     {
         Main->SetEnabled(true);
-        auto* arrow = Main->Window().findChild<QAbstractButton*>(QStringLiteral("Spin(Up)"));
+        auto* arrow = Main->Window().findChild<QAbstractButton*>(u"Spin(Up)"_s);
         QTest::mousePress(arrow, Qt::LeftButton);
         QVERIFY(arrow->isDown());
         Main->SetEnabled(false);
@@ -152,11 +153,10 @@ private Q_SLOTS:
     {
         int answer = 0;
         UiRoom::Soon([] {
-            QTest::mouseClick(
-                QApplication::activeModalWidget()->findChild<QAbstractButton*>(QStringLiteral("Yes")),
-                Qt::LeftButton);
+            QTest::mouseClick(QApplication::activeModalWidget()->findChild<QAbstractButton*>(u"Yes"_s),
+                              Qt::LeftButton);
         });
-        answer = MsgBox(QStringLiteral("?"), msgbox::yesNo);
+        answer = MsgBox(u"?"_s, msgbox::yesNo);
         QCOMPARE(answer, msgbox::answerYes);
     }
 

@@ -5,6 +5,7 @@
 #include <new>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Handlers, and what becomes of their failures.
@@ -22,10 +23,10 @@ private Q_SLOTS:
         QVERIFY(!event.IsBound());
         event = [&](int number, const QString& text) { got = text + QString::number(number); };
         QVERIFY(event.IsBound());
-        event.Fire(7, QStringLiteral("a"));
-        QCOMPARE(got, QStringLiteral("a7"));
-        event.Call(8, QStringLiteral("b"));
-        QCOMPARE(got, QStringLiteral("b8"));
+        event.Fire(7, u"a"_s);
+        QCOMPARE(got, u"a7"_s);
+        event.Call(8, u"b"_s);
+        QCOMPARE(got, u"b8"_s);
     }
 
     void an_unbound_event_does_nothing()
@@ -40,10 +41,10 @@ private Q_SLOTS:
     {
         Event<> event;
         QString who;
-        event = [&] { who += QStringLiteral("first"); };
-        event = [&] { who += QStringLiteral("second"); };
+        event = [&] { who += u"first"_s; };
+        event = [&] { who += u"second"_s; };
         event.Fire();
-        QCOMPARE(who, QStringLiteral("second"));
+        QCOMPARE(who, u"second"_s);
     }
 
     void a_call_gives_its_failure_to_the_caller()
@@ -68,9 +69,9 @@ private Q_SLOTS:
         event.Fire();
         QVERIFY(!ran);
         QCOMPARE(messages.Count(), 1);
-        QCOMPARE(messages.Last().Text, QStringLiteral("Run-time error '53':\r\n\r\nFile not found"));
+        QCOMPARE(messages.Last().Text, u"Run-time error '53':\r\n\r\nFile not found"_s);
         QCOMPARE(messages.Last().Style, msgbox::critical);
-        QCOMPARE(messages.Last().Title, QStringLiteral("The Torvik Vollandry 2001"));
+        QCOMPARE(messages.Last().Title, u"The Torvik Vollandry 2001"_s);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -78,7 +79,7 @@ private Q_SLOTS:
     {
         MessageScript messages;
         RunHandler([] { throw std::bad_alloc(); });
-        QCOMPARE(messages.Last().Text, QStringLiteral("Run-time error '7':\r\n\r\nOut of memory"));
+        QCOMPARE(messages.Last().Text, u"Run-time error '7':\r\n\r\nOut of memory"_s);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -86,7 +87,7 @@ private Q_SLOTS:
     {
         MessageScript messages;
         RunHandler([] { throw std::out_of_range("index"); });
-        QCOMPARE(messages.Last().Text, QStringLiteral("Run-time error '51':\r\n\r\nInternal error"));
+        QCOMPARE(messages.Last().Text, u"Run-time error '51':\r\n\r\nInternal error"_s);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -106,15 +107,14 @@ private Q_SLOTS:
         QStringList order;
         RunHandler([&] {
             RunHandler([&] {
-                HandlerScope::WhenAllAreDone([&] { order.append(QStringLiteral("work")); });
-                order.append(QStringLiteral("inner"));
+                HandlerScope::WhenAllAreDone([&] { order.append(u"work"_s); });
+                order.append(u"inner"_s);
             });
-            order.append(QStringLiteral("outer"));
+            order.append(u"outer"_s);
         });
-        QCOMPARE(order,
-                 (QStringList{QStringLiteral("inner"), QStringLiteral("outer"), QStringLiteral("work")}));
-        HandlerScope::WhenAllAreDone([&] { order.append(QStringLiteral("at once")); });
-        QCOMPARE(order.last(), QStringLiteral("at once"));
+        QCOMPARE(order, (QStringList{u"inner"_s, u"outer"_s, u"work"_s}));
+        HandlerScope::WhenAllAreDone([&] { order.append(u"at once"_s); });
+        QCOMPARE(order.last(), u"at once"_s);
     }
 
     void a_failure_leaves_no_handler_counted_as_running()

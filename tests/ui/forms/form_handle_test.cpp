@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -11,13 +12,13 @@ namespace {
 int made = 0;
 
 struct SideForm : Form {
-    SideForm() : Form(DesignOf(QStringLiteral("Side"))) { ++made; }
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}, QStringLiteral("Go")};
-    Timer Timer1{*this, QStringLiteral("Timer1")};
+    SideForm() : Form(DesignOf(u"Side"_s)) { ++made; }
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"Go"_s};
+    Timer Timer1{*this, u"Timer1"_s};
 };
 
 struct OtherForm : Form {
-    OtherForm() : Form(DesignOf(QStringLiteral("Other"))) {}
+    OtherForm() : Form(DesignOf(u"Other"_s)) {}
 };
 
 } // namespace
@@ -44,11 +45,11 @@ private Q_SLOTS:
     void the_first_touch_makes_the_form_and_runs_its_load()
     {
         FormHandle<SideForm>& Side = *side_;
-        Side.Bind([this](SideForm& form) { form.Load = [this] { calls_.append(QStringLiteral("load")); }; });
+        Side.Bind([this](SideForm& form) { form.Load = [this] { calls_.append(u"load"_s); }; });
         QVERIFY(!Side.IsLoaded());
         QCOMPARE(made, 0);
-        QCOMPARE(Side->Go.Caption(), QStringLiteral("Go"));
-        QCOMPARE(calls_, QStringList{QStringLiteral("load")});
+        QCOMPARE(Side->Go.Caption(), u"Go"_s);
+        QCOMPARE(calls_, QStringList{u"load"_s});
         QVERIFY(Side.IsLoaded());
         QVERIFY(!Side->Visible());
         Side.LoadForm();
@@ -61,8 +62,7 @@ private Q_SLOTS:
     {
         FormHandle<SideForm>& Side = *side_;
         Side.Bind([this](SideForm& form) { form.Load = [this, &form] { form.Go.Click.Call(); }; });
-        Side.Bind(
-            [this](SideForm& form) { form.Go.Click = [this] { calls_.append(QStringLiteral("click")); }; });
+        Side.Bind([this](SideForm& form) { form.Go.Click = [this] { calls_.append(u"click"_s); }; });
         Side.LoadForm();
         QVERIFY(Side.Unload());
         Side.LoadForm();
@@ -73,10 +73,8 @@ private Q_SLOTS:
     void a_touch_inside_the_load_gives_the_form_as_it_is()
     {
         FormHandle<SideForm>& Side = *side_;
-        Side.Bind([&](SideForm& form) {
-            form.Load = [&] { Side->Go.SetCaption(QStringLiteral("%1").arg(made)); };
-        });
-        QCOMPARE(Side->Go.Caption(), QStringLiteral("1"));
+        Side.Bind([&](SideForm& form) { form.Load = [&] { Side->Go.SetCaption(u"%1"_s.arg(made)); }; });
+        QCOMPARE(Side->Go.Caption(), u"1"_s);
     }
 
     void an_unload_inside_the_load_and_a_touch_behind_it_make_the_form_anew_without_a_second_load()
@@ -84,13 +82,13 @@ private Q_SLOTS:
         FormHandle<SideForm>& Side = *side_;
         Side.Bind([&](SideForm& form) {
             form.Load = [&] {
-                calls_.append(QStringLiteral("load"));
+                calls_.append(u"load"_s);
                 QVERIFY(Side.Unload());
                 QVERIFY(!Side.IsLoaded());
-                Side->Go.SetCaption(QStringLiteral("anew"));
+                Side->Go.SetCaption(u"anew"_s);
             };
         });
-        QCOMPARE(Side->Go.Caption(), QStringLiteral("anew"));
+        QCOMPARE(Side->Go.Caption(), u"anew"_s);
         QCOMPARE(calls_.size(), 1);
         QCOMPARE(made, 2);
     }
@@ -117,10 +115,10 @@ private Q_SLOTS:
     void unloading_asks_first_and_tells_next()
     {
         FormHandle<SideForm>& Side = *side_;
-        Side->QueryUnload = [this](bool&) { calls_.append(QStringLiteral("query")); };
-        Side->Unload = [this] { calls_.append(QStringLiteral("unload")); };
+        Side->QueryUnload = [this](bool&) { calls_.append(u"query"_s); };
+        Side->Unload = [this] { calls_.append(u"unload"_s); };
         QVERIFY(Side.Unload());
-        QCOMPARE(calls_, (QStringList{QStringLiteral("query"), QStringLiteral("unload")}));
+        QCOMPARE(calls_, (QStringList{u"query"_s, u"unload"_s}));
         QVERIFY(!Side.IsLoaded());
     }
 
@@ -136,7 +134,7 @@ private Q_SLOTS:
         QVERIFY(UiRoom::Open(*Side));
         bool keep = true;
         Side->QueryUnload = [&](bool& cancel) { cancel = keep; };
-        Side->Unload = [this] { calls_.append(QStringLiteral("unload")); };
+        Side->Unload = [this] { calls_.append(u"unload"_s); };
         QVERIFY(!Side.Unload());
         QVERIFY(Side.IsLoaded() && Side->Visible());
         QVERIFY(calls_.isEmpty());
@@ -149,15 +147,15 @@ private Q_SLOTS:
     {
         FormHandle<SideForm>& Side = *side_;
         Side->QueryUnload = [&](bool&) {
-            calls_.append(QStringLiteral("query"));
+            calls_.append(u"query"_s);
             Side.Unload();
         };
         Side->Unload = [&] {
-            calls_.append(QStringLiteral("unload"));
+            calls_.append(u"unload"_s);
             Side.Unload();
         };
         QVERIFY(Side.Unload());
-        QCOMPARE(calls_, (QStringList{QStringLiteral("query"), QStringLiteral("unload")}));
+        QCOMPARE(calls_, (QStringList{u"query"_s, u"unload"_s}));
     }
 
     void the_close_box_asks_like_an_unload()
@@ -200,7 +198,7 @@ private Q_SLOTS:
             calls_.append(QString::number(big[999])); // what the handler holds is still there
         };
         QTest::mouseClick(&Side->Go.Widget(), Qt::LeftButton);
-        QCOMPARE(calls_, QStringList{QStringLiteral("7")});
+        QCOMPARE(calls_, QStringList{u"7"_s});
         QVERIFY(!Side.IsLoaded());
         UiRoom::Settle();
         QVERIFY(old.isNull());
@@ -213,7 +211,7 @@ private Q_SLOTS:
             QVERIFY(UiRoom::Open(*Side));
             Side->Go.MouseDown = [&](int) { Side.Unload(); };
             Side->Go.KeyDown = [&](int, int) { Side.Unload(); };
-            Side->Go.Click = [this] { calls_.append(QStringLiteral("click")); };
+            Side->Go.Click = [this] { calls_.append(u"click"_s); };
             Side->Go.SetFocus();
             if (byKey)
                 QTest::keyClick(&Side->Go.Widget(), Qt::Key_Space);
@@ -242,7 +240,7 @@ private Q_SLOTS:
             calls_.append(QString::number(big[0]));
         };
         QTest::mouseClick(&Side->Go.Widget(), Qt::LeftButton);
-        QCOMPARE(calls_, QStringList{QStringLiteral("7")});
+        QCOMPARE(calls_, QStringList{u"7"_s});
         UiRoom::Settle();
         QVERIFY(old.isNull());
     }
@@ -260,16 +258,16 @@ private Q_SLOTS:
             };
         });
         Side.LoadForm();
-        QCOMPARE(calls_, QStringList{QStringLiteral("7")});
+        QCOMPARE(calls_, QStringList{u"7"_s});
     }
 
     void a_touch_behind_an_unload_runs_load_again()
     {
         FormHandle<SideForm>& Side = *side_;
-        Side.Bind([this](SideForm& form) { form.Load = [this] { calls_.append(QStringLiteral("load")); }; });
-        Side->Go.SetCaption(QStringLiteral("changed"));
+        Side.Bind([this](SideForm& form) { form.Load = [this] { calls_.append(u"load"_s); }; });
+        Side->Go.SetCaption(u"changed"_s);
         Side.Unload();
-        QCOMPARE(Side->Go.Caption(), QStringLiteral("Go"));
+        QCOMPARE(Side->Go.Caption(), u"Go"_s);
         QCOMPARE(calls_.size(), 2);
     }
 
@@ -282,7 +280,7 @@ private Q_SLOTS:
             Side->Show();
             int named = 0;
             for (const QWidget* window : QApplication::topLevelWidgets())
-                named += window->objectName() == QStringLiteral("Side") ? 1 : 0;
+                named += window->objectName() == u"Side"_s ? 1 : 0;
             QCOMPARE(named, 1);
         });
     }

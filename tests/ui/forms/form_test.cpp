@@ -3,22 +3,23 @@
 #include "ui/controls/panel.h"
 #include "ui/controls/text_box.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels, FormBorder::Sizable, true)) {}
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}, QStringLiteral("Go")};
+    MainForm() : Form(DesignOf(u"Main"_s, Scale::Pixels, FormBorder::Sizable, true)) {}
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"Go"_s};
 };
 
 struct SideForm : Form {
-    SideForm() : Form(DesignOf(QStringLiteral("Side"), Scale::Twips, FormBorder::Fixed)) {}
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}, QStringLiteral("Go")};
+    SideForm() : Form(DesignOf(u"Side"_s, Scale::Twips, FormBorder::Fixed)) {}
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"Go"_s};
 };
 
 struct SplashForm : Form {
-    SplashForm() : Form(DesignOf(QStringLiteral("Splash"), Scale::Twips, FormBorder::None)) {}
+    SplashForm() : Form(DesignOf(u"Splash"_s, Scale::Twips, FormBorder::None)) {}
 };
 
 FormHandle<MainForm> Main;
@@ -127,12 +128,12 @@ private Q_SLOTS:
 
     void the_caption_is_the_windows_title()
     {
-        QCOMPARE(Main->Caption(), QStringLiteral("Main"));
-        Main->SetCaption(QStringLiteral("The Torvik Vollandry    2001"));
-        QCOMPARE(Main->Window().windowTitle(), QStringLiteral("The Torvik Vollandry    2001"));
-        QCOMPARE(Main->Caption(), QStringLiteral("The Torvik Vollandry    2001"));
+        QCOMPARE(Main->Caption(), u"Main"_s);
+        Main->SetCaption(u"The Torvik Vollandry    2001"_s);
+        QCOMPARE(Main->Window().windowTitle(), u"The Torvik Vollandry    2001"_s);
+        QCOMPARE(Main->Caption(), u"The Torvik Vollandry    2001"_s);
         QCOMPARE(Main->Window().accessibleName(), Main->Caption());
-        QCOMPARE(Main->Window().objectName(), QStringLiteral("Main"));
+        QCOMPARE(Main->Window().objectName(), u"Main"_s);
     }
 
     void a_plain_show_goes_on_at_once()
@@ -164,12 +165,12 @@ private Q_SLOTS:
         QStringList order;
         UiRoom::Soon([&] {
             QCOMPARE(QApplication::activeModalWidget(), &Side->Window());
-            order.append(QStringLiteral("unload"));
+            order.append(u"unload"_s);
             Side.Unload();
         });
         Side->ShowModal();
-        order.append(QStringLiteral("behind"));
-        QCOMPARE(order, (QStringList{QStringLiteral("unload"), QStringLiteral("behind")}));
+        order.append(u"behind"_s);
+        QCOMPARE(order, (QStringList{u"unload"_s, u"behind"_s}));
         QVERIFY(!Side.IsLoaded());
     }
 
@@ -194,17 +195,16 @@ private Q_SLOTS:
         QStringList order;
         UiRoom::Soon([&] {
             UiRoom::Soon([&] {
-                order.append(QStringLiteral("hide splash"));
+                order.append(u"hide splash"_s);
                 Splash->Hide();
             });
             Splash->ShowModal();
-            order.append(QStringLiteral("behind splash"));
+            order.append(u"behind splash"_s);
             Side->Hide();
         });
         Side->ShowModal();
-        order.append(QStringLiteral("behind side"));
-        QCOMPARE(order, (QStringList{QStringLiteral("hide splash"), QStringLiteral("behind splash"),
-                                     QStringLiteral("behind side")}));
+        order.append(u"behind side"_s);
+        QCOMPARE(order, (QStringList{u"hide splash"_s, u"behind splash"_s, u"behind side"_s}));
     }
 
     void an_outer_modal_form_that_goes_first_returns_when_the_inner_one_has_gone()
@@ -213,16 +213,15 @@ private Q_SLOTS:
         UiRoom::Soon([&] {
             UiRoom::Soon([&] {
                 Side.Unload();
-                order.append(QStringLiteral("outer gone"));
+                order.append(u"outer gone"_s);
                 UiRoom::Soon([&] { Splash->Hide(); });
             });
             Splash->ShowModal();
-            order.append(QStringLiteral("behind inner"));
+            order.append(u"behind inner"_s);
         });
         Side->ShowModal();
-        order.append(QStringLiteral("behind outer"));
-        QCOMPARE(order, (QStringList{QStringLiteral("outer gone"), QStringLiteral("behind inner"),
-                                     QStringLiteral("behind outer")}));
+        order.append(u"behind outer"_s);
+        QCOMPARE(order, (QStringList{u"outer gone"_s, u"behind inner"_s, u"behind outer"_s}));
     }
 
     void a_modal_form_alone_takes_input()
@@ -331,10 +330,10 @@ private Q_SLOTS:
 
     void unloading_is_safe_while_nothing_is_shown()
     {
-        Side->SetCaption(QStringLiteral("changed"));
+        Side->SetCaption(u"changed"_s);
         QVERIFY(Side.Unload());
         UiRoom::Settle();
-        QCOMPARE(Side->Caption(), QStringLiteral("Side"));
+        QCOMPARE(Side->Caption(), u"Side"_s);
     }
 
 private:

@@ -11,24 +11,25 @@
 #include <QAbstractButton>
 #include <QMenuBar>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels, FormBorder::Sizable, true))
+    MainForm() : Form(DesignOf(u"Main"_s, Scale::Pixels, FormBorder::Sizable, true))
     {
         SetCancelButton(&cmdCancel);
     }
-    Menu mnuFile{*this, QStringLiteral("mnuFile"), QStringLiteral("File")};
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}, QStringLiteral("Go")};
-    TextBox Text1{*this, QStringLiteral("Text1"), {0, 450, 1200, 375}, QStringLiteral("text")};
-    ListBox List1{*this, QStringLiteral("List1"), {0, 900, 1200, 900}};
-    RichTextBox Rich{*this, QStringLiteral("Rich"), {1500, 0, 1200, 900}};
-    ScrollBar Bar{*this, QStringLiteral("Bar"), {1500, 1200, 1200, 240}};
-    Panel pnlProgress{*this, QStringLiteral("pnlProgress"), {0, 2000, 3000, 1500}};
-    Button cmdCancel{pnlProgress, QStringLiteral("cmdCancel"), {0, 0, 1200, 375}, QStringLiteral("Cancel")};
-    SpinButton Spin{*this, QStringLiteral("Spin"), {3000, 1200, 600, 300}};
+    Menu mnuFile{*this, u"mnuFile"_s, u"File"_s};
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"Go"_s};
+    TextBox Text1{*this, u"Text1"_s, {0, 450, 1200, 375}, u"text"_s};
+    ListBox List1{*this, u"List1"_s, {0, 900, 1200, 900}};
+    RichTextBox Rich{*this, u"Rich"_s, {1500, 0, 1200, 900}};
+    ScrollBar Bar{*this, u"Bar"_s, {1500, 1200, 1200, 240}};
+    Panel pnlProgress{*this, u"pnlProgress"_s, {0, 2000, 3000, 1500}};
+    Button cmdCancel{pnlProgress, u"cmdCancel"_s, {0, 0, 1200, 375}, u"Cancel"_s};
+    SpinButton Spin{*this, u"Spin"_s, {3000, 1200, 600, 300}};
 };
 
 FormHandle<MainForm> Main;
@@ -60,7 +61,7 @@ private Q_SLOTS:
 
     void escape_clicks_the_cancel_button_wherever_the_focus_is()
     {
-        Main->List1.AddItem(QStringLiteral("1967"));
+        Main->List1.AddItem(u"1967"_s);
         int expected = 0;
         for (Control* control : std::initializer_list<Control*>{&Main->Go, &Main->Text1, &Main->List1,
                                                                 &Main->Rich, &Main->Bar, &Main->cmdCancel}) {
@@ -110,7 +111,7 @@ private Q_SLOTS:
 
     void a_held_button_is_let_go_when_the_window_is_blocked()
     {
-        auto* arrow = Main->Window().findChild<QAbstractButton*>(QStringLiteral("Spin(Up)"));
+        auto* arrow = Main->Window().findChild<QAbstractButton*>(u"Spin(Up)"_s);
         QTest::mousePress(arrow, Qt::LeftButton);
         QVERIFY(arrow->isDown());
         QWidget box;
@@ -134,13 +135,13 @@ private Q_SLOTS:
 
     void a_form_without_a_caption_is_called_by_its_name()
     {
-        FormDesign design = DesignOf(QStringLiteral("Plain"));
+        FormDesign design = DesignOf(u"Plain"_s);
         design.Caption.clear();
         struct PlainForm : Form {
             explicit PlainForm(const FormDesign& plain) : Form(plain) {}
         };
         PlainForm form(design);
-        QCOMPARE(form.Window().accessibleName(), QStringLiteral("Plain"));
+        QCOMPARE(form.Window().accessibleName(), u"Plain"_s);
         QCOMPARE(form.Window().MenuBar(), nullptr);
     }
 

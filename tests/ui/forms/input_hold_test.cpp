@@ -5,16 +5,17 @@
 
 #include <QAbstractButton>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main")))
+    MainForm() : Form(DesignOf(u"Main"_s))
     {
         Go.Click = [this] { ++clicks; };
     }
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}, QStringLiteral("Go")};
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"Go"_s};
     int clicks = 0;
 };
 

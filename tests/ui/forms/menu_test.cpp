@@ -4,24 +4,25 @@
 #include <QMenu>
 #include <QMenuBar>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels, FormBorder::Sizable, true)) {}
-    Menu mnuFile{*this, QStringLiteral("mnuFile"), QStringLiteral("File")};
-    Menu mnuCopy{mnuFile, QStringLiteral("mnuCopy"), QStringLiteral("Copy CD-ROM photos to hard drive")};
-    Menu mnuDash{mnuFile, QStringLiteral("mnuDash"), QStringLiteral("-")};
-    Menu mnuNames{mnuFile, QStringLiteral("mnuNames"), QStringLiteral("Show File &Names")};
-    Menu mnuMag{mnuFile, QStringLiteral("mnuMag"), QStringLiteral("Torvik && Fords")};
-    Menu mnuMore{mnuFile, QStringLiteral("mnuMore"), QStringLiteral("More")};
-    Menu mnuLeaf{mnuMore, QStringLiteral("mnuLeaf"), QStringLiteral("Leaf")};
-    Menu mnuMovies{*this, QStringLiteral("mnuMovies"), QStringLiteral("Movies")};
+    MainForm() : Form(DesignOf(u"Main"_s, Scale::Pixels, FormBorder::Sizable, true)) {}
+    Menu mnuFile{*this, u"mnuFile"_s, u"File"_s};
+    Menu mnuCopy{mnuFile, u"mnuCopy"_s, u"Copy CD-ROM photos to hard drive"_s};
+    Menu mnuDash{mnuFile, u"mnuDash"_s, u"-"_s};
+    Menu mnuNames{mnuFile, u"mnuNames"_s, u"Show File &Names"_s};
+    Menu mnuMag{mnuFile, u"mnuMag"_s, u"Torvik && Fords"_s};
+    Menu mnuMore{mnuFile, u"mnuMore"_s, u"More"_s};
+    Menu mnuLeaf{mnuMore, u"mnuLeaf"_s, u"Leaf"_s};
+    Menu mnuMovies{*this, u"mnuMovies"_s, u"Movies"_s};
 };
 
 struct BareForm : Form {
-    BareForm() : Form(DesignOf(QStringLiteral("Bare"))) {}
+    BareForm() : Form(DesignOf(u"Bare"_s)) {}
 };
 
 FormHandle<MainForm> Main;
@@ -34,7 +35,7 @@ QAction* ActionNamed(const QString& name)
 
 QMenu* FileMenu()
 {
-    return ActionNamed(QStringLiteral("mnuFile"))->menu();
+    return ActionNamed(u"mnuFile"_s)->menu();
 }
 
 /// What stands in the bar and in the File menu, worked by mouse and keys.
@@ -65,14 +66,12 @@ private Q_SLOTS:
     {
         const QList<QAction*> bar = Main->Window().MenuBar()->actions();
         QCOMPARE(bar.size(), 2);
-        QCOMPARE(bar.at(0)->objectName(), QStringLiteral("mnuFile"));
-        QCOMPARE(bar.at(1)->objectName(), QStringLiteral("mnuMovies"));
+        QCOMPARE(bar.at(0)->objectName(), u"mnuFile"_s);
+        QCOMPARE(bar.at(1)->objectName(), u"mnuMovies"_s);
         QStringList names;
         for (const QAction* action : FileMenu()->actions())
             names.append(action->objectName());
-        QCOMPARE(names, (QStringList{QStringLiteral("mnuCopy"), QStringLiteral("mnuDash"),
-                                     QStringLiteral("mnuNames"), QStringLiteral("mnuMag"),
-                                     QStringLiteral("mnuMore")}));
+        QCOMPARE(names, (QStringList{u"mnuCopy"_s, u"mnuDash"_s, u"mnuNames"_s, u"mnuMag"_s, u"mnuMore"_s}));
     }
 
     void a_click_in_an_open_menu_runs_the_entry()
@@ -80,33 +79,33 @@ private Q_SLOTS:
         QMenuBar* bar = Main->Window().MenuBar();
         QTest::mousePress(bar, Qt::LeftButton, {}, bar->actionGeometry(bar->actions().at(0)).center());
         QCOMPARE(QApplication::activePopupWidget(), FileMenu());
-        ClickIn(FileMenu(), QStringLiteral("mnuCopy"));
-        QCOMPARE(clicked_, QStringList{QStringLiteral("mnuCopy")});
+        ClickIn(FileMenu(), u"mnuCopy"_s);
+        QCOMPARE(clicked_, QStringList{u"mnuCopy"_s});
     }
 
     void an_entry_of_the_bar_itself_can_be_clicked()
     {
         QMenuBar* bar = Main->Window().MenuBar();
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(bar->actions().at(1)).center());
-        QCOMPARE(clicked_, QStringList{QStringLiteral("mnuMovies")});
+        QCOMPARE(clicked_, QStringList{u"mnuMovies"_s});
     }
 
     void an_entry_with_a_submenu_opens_it_and_is_no_click()
     {
         FileMenu()->popup({0, 0});
-        ClickIn(FileMenu(), QStringLiteral("mnuMore"));
-        QMenu* more = ActionNamed(QStringLiteral("mnuMore"))->menu();
+        ClickIn(FileMenu(), u"mnuMore"_s);
+        QMenu* more = ActionNamed(u"mnuMore"_s)->menu();
         QTRY_VERIFY(more->isVisible());
         QVERIFY(clicked_.isEmpty());
-        ClickIn(more, QStringLiteral("mnuLeaf"));
-        QCOMPARE(clicked_, QStringList{QStringLiteral("mnuLeaf")});
+        ClickIn(more, u"mnuLeaf"_s);
+        QCOMPARE(clicked_, QStringList{u"mnuLeaf"_s});
     }
 
     void the_mnemonic_works_in_the_open_menu()
     {
         FileMenu()->popup({0, 0});
         QTest::keyClick(FileMenu(), Qt::Key_N);
-        QCOMPARE(clicked_, QStringList{QStringLiteral("mnuNames")});
+        QCOMPARE(clicked_, QStringList{u"mnuNames"_s});
     }
 
     void a_doubled_ampersand_is_no_mnemonic_and_shows_as_one()
@@ -114,17 +113,17 @@ private Q_SLOTS:
         FileMenu()->popup({0, 0});
         FileMenu()->setActiveAction(nullptr);
         QCOMPARE(QKeySequence::mnemonic(Main->mnuMag.Caption()), QKeySequence());
-        QCOMPARE(Main->mnuMag.Caption(), QStringLiteral("Torvik && Fords"));
-        QCOMPARE(ActionNamed(QStringLiteral("mnuMag"))->iconText(), QStringLiteral("Torvik & Fords"));
+        QCOMPARE(Main->mnuMag.Caption(), u"Torvik && Fords"_s);
+        QCOMPARE(ActionNamed(u"mnuMag"_s)->iconText(), u"Torvik & Fords"_s);
         FileMenu()->hide();
     }
 
     void a_dash_is_a_separator()
     {
-        QVERIFY(ActionNamed(QStringLiteral("mnuDash"))->isSeparator());
-        QVERIFY(!ActionNamed(QStringLiteral("mnuCopy"))->isSeparator());
+        QVERIFY(ActionNamed(u"mnuDash"_s)->isSeparator());
+        QVERIFY(!ActionNamed(u"mnuCopy"_s)->isSeparator());
         FileMenu()->popup({0, 0});
-        ClickIn(FileMenu(), QStringLiteral("mnuDash"));
+        ClickIn(FileMenu(), u"mnuDash"_s);
         QVERIFY(clicked_.isEmpty());
         FileMenu()->hide();
     }
@@ -134,10 +133,10 @@ private Q_SLOTS:
         Main->mnuCopy.SetEnabled(false);
         QVERIFY(!Main->mnuCopy.Enabled());
         FileMenu()->popup({0, 0});
-        ClickIn(FileMenu(), QStringLiteral("mnuCopy"));
+        ClickIn(FileMenu(), u"mnuCopy"_s);
         QVERIFY(clicked_.isEmpty());
         Main->mnuCopy.SetEnabled(true);
-        ClickIn(FileMenu(), QStringLiteral("mnuCopy"));
+        ClickIn(FileMenu(), u"mnuCopy"_s);
         QCOMPARE(clicked_.size(), 1);
     }
 
@@ -162,30 +161,28 @@ private Q_SLOTS:
 
     void captions_can_be_changed_and_keep_their_ampersands()
     {
-        Main->mnuNames.SetCaption(QStringLiteral("Hide File &Names"));
-        QCOMPARE(Main->mnuNames.Caption(), QStringLiteral("Hide File &Names"));
-        QCOMPARE(Main->mnuNames.Name(), QStringLiteral("mnuNames"));
+        Main->mnuNames.SetCaption(u"Hide File &Names"_s);
+        QCOMPARE(Main->mnuNames.Caption(), u"Hide File &Names"_s);
+        QCOMPARE(Main->mnuNames.Name(), u"mnuNames"_s);
     }
 
     void no_desktop_moves_an_entry()
     {
-        for (const QString& name :
-             {QStringLiteral("mnuFile"), QStringLiteral("mnuCopy"), QStringLiteral("mnuLeaf")})
+        for (const QString& name : {u"mnuFile"_s, u"mnuCopy"_s, u"mnuLeaf"_s})
             QCOMPARE(ActionNamed(name)->menuRole(), QAction::NoRole);
         QVERIFY(!Main->Window().MenuBar()->isNativeMenuBar());
     }
 
     void a_menu_on_a_form_without_a_menu_bar_is_failure_5()
     {
-        QCOMPARE(ResumeNext([] { const Menu menu(*Bare, QStringLiteral("mnu"), QStringLiteral("File")); }),
-                 5);
+        QCOMPARE(ResumeNext([] { const Menu menu(*Bare, u"mnu"_s, u"File"_s); }), 5);
     }
 
     void a_menu_handler_may_unload_the_form()
     {
         Main->mnuCopy.Click = [] { Main.Unload(); };
         FileMenu()->popup({0, 0});
-        ClickIn(FileMenu(), QStringLiteral("mnuCopy"));
+        ClickIn(FileMenu(), u"mnuCopy"_s);
         QVERIFY(!Main.IsLoaded());
         UiRoom::Settle();
     }

@@ -10,14 +10,15 @@
 #include <QSet>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    SpinButton Spin{*this, QStringLiteral("Spin"), {0, 0, 600, 300}};
-    Button Go{*this, QStringLiteral("Go"), {0, 600, 1200, 375}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    SpinButton Spin{*this, u"Spin"_s, {0, 0, 600, 300}};
+    Button Go{*this, u"Go"_s, {0, 600, 1200, 375}};
 };
 
 FormHandle<MainForm> Main;
@@ -53,7 +54,7 @@ QStringList ButtonNames()
     for (const QAbstractButton* button : Box().buttons()) {
         names.append(button->objectName());
         if (button->text() != button->objectName())
-            names.append(QStringLiteral("but it says ") + button->text());
+            names.append(u"but it says "_s + button->text());
     }
     return names;
 }
@@ -77,11 +78,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("style");
         QTest::addColumn<QStringList>("buttons");
         QTest::addColumn<QList<int>>("answers");
-        const QString ok = QStringLiteral("OK");
-        const QString cancel = QStringLiteral("Cancel");
-        const QString retry = QStringLiteral("Retry");
-        const QString yes = QStringLiteral("Yes");
-        const QString no = QStringLiteral("No");
+        const QString ok = u"OK"_s;
+        const QString cancel = u"Cancel"_s;
+        const QString retry = u"Retry"_s;
+        const QString yes = u"Yes"_s;
+        const QString no = u"No"_s;
         QTest::newRow("ok") << 0 << QStringList{ok} << QList<int>{1};
         QTest::newRow("ok and cancel") << 1 << QStringList{ok, cancel} << QList<int>{1, 2};
         QTest::newRow("yes and no") << 4 << QStringList{yes, no} << QList<int>{6, 7};
@@ -97,8 +98,7 @@ private Q_SLOTS:
         QFETCH(const QList<int>, answers);
         for (int index = 0; index < buttons.size(); ++index) {
             QStringList shown;
-            const int answer =
-                Answer(QStringLiteral("?"), style, buttons.at(index), [&] { shown = ButtonNames(); });
+            const int answer = Answer(u"?"_s, style, buttons.at(index), [&] { shown = ButtonNames(); });
             QCOMPARE(QSet<QString>(shown.begin(), shown.end()),
                      QSet<QString>(buttons.begin(), buttons.end()));
             QCOMPARE(answer, answers.at(index));
@@ -108,12 +108,11 @@ private Q_SLOTS:
     void the_first_button_stands_first_and_is_the_default()
     {
         for (const auto& [style, first, second] :
-             {std::tuple{1, QStringLiteral("OK"), QStringLiteral("Cancel")},
-              std::tuple{4, QStringLiteral("Yes"), QStringLiteral("No")},
-              std::tuple{5, QStringLiteral("Retry"), QStringLiteral("Cancel")}}) {
+             {std::tuple{1, u"OK"_s, u"Cancel"_s}, std::tuple{4, u"Yes"_s, u"No"_s},
+              std::tuple{5, u"Retry"_s, u"Cancel"_s}}) {
             bool before = false;
             bool isDefault = false;
-            Answer(QStringLiteral("?"), style, second, [&, one = first, two = second] {
+            Answer(u"?"_s, style, second, [&, one = first, two = second] {
                 before = ButtonNamed(one)->x() < ButtonNamed(two)->x();
                 isDefault = Box().defaultButton() == ButtonNamed(one);
             });
@@ -125,14 +124,14 @@ private Q_SLOTS:
     void enter_is_the_first_button()
     {
         UiRoom::Soon([] { QTest::keyClick(&Box(), Qt::Key_Return); });
-        QCOMPARE(MsgBox(QStringLiteral("?"), msgbox::retryCancel), msgbox::answerRetry);
+        QCOMPARE(MsgBox(u"?"_s, msgbox::retryCancel), msgbox::answerRetry);
     }
 
     void escape_is_the_answer_that_changes_nothing()
     {
         const auto escape = [](int style) {
             UiRoom::Soon([] { QTest::keyClick(&Box(), Qt::Key_Escape); });
-            return MsgBox(QStringLiteral("?"), style);
+            return MsgBox(u"?"_s, style);
         };
         QCOMPARE(escape(msgbox::ok), msgbox::answerOk);
         QCOMPARE(escape(msgbox::okCancel), msgbox::answerCancel);
@@ -143,7 +142,7 @@ private Q_SLOTS:
     void closing_the_box_is_escape()
     {
         UiRoom::Soon([] { Box().close(); });
-        QCOMPARE(MsgBox(QStringLiteral("?"), msgbox::retryCancel), msgbox::answerCancel);
+        QCOMPARE(MsgBox(u"?"_s, msgbox::retryCancel), msgbox::answerCancel);
     }
 
     void each_style_has_its_icon()
@@ -153,25 +152,25 @@ private Q_SLOTS:
               std::pair{32, QMessageBox::Question}, std::pair{48, QMessageBox::Warning},
               std::pair{64, QMessageBox::Information}, std::pair{4096 + 16, QMessageBox::Critical}}) {
             auto shown = QMessageBox::NoIcon;
-            Answer(QStringLiteral("!"), style, QStringLiteral("OK"), [&] { shown = Box().icon(); });
+            Answer(u"!"_s, style, u"OK"_s, [&] { shown = Box().icon(); });
             QCOMPARE(shown, icon);
         }
     }
 
     void the_text_stands_as_it_is()
     {
-        const QString text = QStringLiteral("  two blanks before\r\n\r\n    1)  Click  twice \r\n");
+        const QString text = u"  two blanks before\r\n\r\n    1)  Click  twice \r\n"_s;
         QString shown;
-        Answer(text, msgbox::ok, QStringLiteral("OK"), [&] { shown = Box().text(); });
+        Answer(text, msgbox::ok, u"OK"_s, [&] { shown = Box().text(); });
         QCOMPARE(shown, text);
     }
 
     void html_is_shown_literally()
     {
-        const QString text = QStringLiteral("<b>bold</b> &amp; <img src=\"x\">");
+        const QString text = u"<b>bold</b> &amp; <img src=\"x\">"_s;
         QString shown;
-        Answer(text, msgbox::ok, QStringLiteral("OK"), [&] {
-            const auto* label = Box().findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        Answer(text, msgbox::ok, u"OK"_s, [&] {
+            const auto* label = Box().findChild<QLabel*>(u"qt_msgbox_label"_s);
             QCOMPARE(label->textFormat(), Qt::PlainText);
             shown = label->text();
         });
@@ -183,12 +182,10 @@ private Q_SLOTS:
         int one = 0;
         int three = 0;
         const auto height = [](int& into) {
-            return [&into] {
-                into = Box().findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))->sizeHint().height();
-            };
+            return [&into] { into = Box().findChild<QLabel*>(u"qt_msgbox_label"_s)->sizeHint().height(); };
         };
-        Answer(QStringLiteral("a"), msgbox::ok, QStringLiteral("OK"), height(one));
-        Answer(QStringLiteral("a\r\nb\r\nc"), msgbox::ok, QStringLiteral("OK"), height(three));
+        Answer(u"a"_s, msgbox::ok, u"OK"_s, height(one));
+        Answer(u"a\r\nb\r\nc"_s, msgbox::ok, u"OK"_s, height(three));
         QVERIFY(three > 2 * one);
         QVERIFY(three <= 3 * one + 3);
     }
@@ -200,21 +197,20 @@ private Q_SLOTS:
             title = Box().windowTitle();
             QCOMPARE(Box().accessibleName(), title);
         };
-        Answer(QStringLiteral("?"), 0, QStringLiteral("OK"), look);
-        QCOMPARE(title, QStringLiteral("The Torvik Vollandry 2001"));
-        Answer(QStringLiteral("?"), 0, QStringLiteral("OK"), look, QStringLiteral("The Torvik Vollandry"));
-        QCOMPARE(title, QStringLiteral("The Torvik Vollandry"));
+        Answer(u"?"_s, 0, u"OK"_s, look);
+        QCOMPARE(title, u"The Torvik Vollandry 2001"_s);
+        Answer(u"?"_s, 0, u"OK"_s, look, u"The Torvik Vollandry"_s);
+        QCOMPARE(title, u"The Torvik Vollandry"_s);
     }
 
     void a_box_with_a_short_text_is_wide_enough_for_its_title()
     {
         constexpr int iconAndButtons = 150; // pixels that a desktop takes of the caption
-        for (const QString& title :
-             {QString(), QStringLiteral("A title that is longer than any of ours is")}) {
+        for (const QString& title : {QString(), u"A title that is longer than any of ours is"_s}) {
             int width = 0;
             int wanted = 0;
             Answer(
-                QStringLiteral("!"), msgbox::exclamation, QStringLiteral("OK"),
+                u"!"_s, msgbox::exclamation, u"OK"_s,
                 [&] {
                     QFont bold = Box().font();
                     bold.setBold(true);
@@ -222,7 +218,7 @@ private Q_SLOTS:
                     width = Box().width();
                 },
                 title);
-            QVERIFY2(width >= wanted, qPrintable(QStringLiteral("%1 of %2").arg(width).arg(wanted)));
+            QVERIFY2(width >= wanted, qPrintable(u"%1 of %2"_s.arg(width).arg(wanted)));
         }
     }
 
@@ -230,9 +226,9 @@ private Q_SLOTS:
     {
         bool onTop = false;
         const auto look = [&] { onTop = Box().windowFlags().testFlag(Qt::WindowStaysOnTopHint); };
-        Answer(QStringLiteral("!"), msgbox::systemModal, QStringLiteral("OK"), look);
+        Answer(u"!"_s, msgbox::systemModal, u"OK"_s, look);
         QVERIFY(onTop);
-        Answer(QStringLiteral("!"), msgbox::ok, QStringLiteral("OK"), look);
+        Answer(u"!"_s, msgbox::ok, u"OK"_s, look);
         QVERIFY(!onTop);
     }
 
@@ -243,26 +239,25 @@ private Q_SLOTS:
         const auto look = [&] { onTop = Box().windowFlags().testFlag(Qt::WindowStaysOnTopHint); };
         Main->SetTopmost(true);
         QVERIFY(UiRoom::Open(*Main));
-        Answer(QStringLiteral("!"), msgbox::ok, QStringLiteral("OK"), look);
+        Answer(u"!"_s, msgbox::ok, u"OK"_s, look);
         QVERIFY(onTop);
         Main->Hide();
-        Answer(QStringLiteral("!"), msgbox::ok, QStringLiteral("OK"), look);
+        Answer(u"!"_s, msgbox::ok, u"OK"_s, look);
         QVERIFY(!onTop);
     }
 
     void the_box_is_named_for_those_who_look_for_it()
     {
         QString name;
-        Answer(QStringLiteral("?"), 0, QStringLiteral("OK"), [&] { name = Box().objectName(); });
-        QCOMPARE(name, QStringLiteral("MsgBox"));
+        Answer(u"?"_s, 0, u"OK"_s, [&] { name = Box().objectName(); });
+        QCOMPARE(name, u"MsgBox"_s);
     }
 
     void a_box_over_a_box_answers_for_itself()
     {
         int inner = 0;
-        const int outer = Answer(QStringLiteral("outer"), msgbox::yesNo, QStringLiteral("No"), [&] {
-            inner = Answer(QStringLiteral("inner"), msgbox::yesNo, QStringLiteral("Yes"));
-        });
+        const int outer = Answer(u"outer"_s, msgbox::yesNo, u"No"_s,
+                                 [&] { inner = Answer(u"inner"_s, msgbox::yesNo, u"Yes"_s); });
         QCOMPARE(inner, msgbox::answerYes);
         QCOMPARE(outer, msgbox::answerNo);
     }
@@ -272,7 +267,7 @@ private Q_SLOTS:
         bool behind = false;
         RunHandler([&] {
             UiRoom::Soon([] { RunHandler([] { EndProgram(); }); });
-            MsgBox(QStringLiteral("?"));
+            MsgBox(u"?"_s);
             behind = true;
         });
         QVERIFY(!behind);
@@ -286,9 +281,9 @@ private Q_SLOTS:
         int steps = 0;
         Main->Spin.SpinUp = [&] {
             ++steps;
-            Answer(QStringLiteral("no photo"), msgbox::critical, QStringLiteral("OK"));
+            Answer(u"no photo"_s, msgbox::critical, u"OK"_s);
         };
-        auto* arrow = Main->Window().findChild<QAbstractButton*>(QStringLiteral("Spin(Up)"));
+        auto* arrow = Main->Window().findChild<QAbstractButton*>(u"Spin(Up)"_s);
         arrow->setAutoRepeatDelay(1);
         arrow->setAutoRepeatInterval(1);
         QTest::mousePress(arrow, Qt::LeftButton);
@@ -305,8 +300,7 @@ private Q_SLOTS:
         QVERIFY(UiRoom::Open(*Main));
         QVERIFY(!MessageBoxStandsOver(*Main));
         bool stood = false;
-        Answer(QStringLiteral("?"), msgbox::ok, QStringLiteral("OK"),
-               [&] { stood = MessageBoxStandsOver(*Main); });
+        Answer(u"?"_s, msgbox::ok, u"OK"_s, [&] { stood = MessageBoxStandsOver(*Main); });
         QVERIFY(stood);
         QVERIFY(!MessageBoxStandsOver(*Main));
         bool stoodWithoutBox = false;
@@ -314,7 +308,7 @@ private Q_SLOTS:
             stoodWithoutBox = MessageBoxStandsOver(*Main);
             return msgbox::answerOk;
         });
-        MsgBox(QStringLiteral("?"));
+        MsgBox(u"?"_s);
         QVERIFY(stoodWithoutBox);
     }
 
@@ -325,10 +319,10 @@ private Q_SLOTS:
             asked = request;
             return msgbox::answerRetry;
         });
-        QCOMPARE(MsgBox(QStringLiteral(" text "), 5), msgbox::answerRetry);
-        QCOMPARE(asked.Text, QStringLiteral(" text "));
+        QCOMPARE(MsgBox(u" text "_s, 5), msgbox::answerRetry);
+        QCOMPARE(asked.Text, u" text "_s);
         QCOMPARE(asked.Style, 5);
-        QCOMPARE(asked.Title, QStringLiteral("The Torvik Vollandry 2001"));
+        QCOMPARE(asked.Title, u"The Torvik Vollandry 2001"_s);
     }
 
 private:

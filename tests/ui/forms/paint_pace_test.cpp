@@ -5,13 +5,14 @@
 #include <QElapsedTimer>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct GaugeForm : Form {
-    GaugeForm() : Form(DesignOf(QStringLiteral("gaugeForm"))) {}
-    Panel Gauge{*this, QStringLiteral("Gauge"), {0, 0, 3000, 300}, {}, Bevel::Sunken};
+    GaugeForm() : Form(DesignOf(u"gaugeForm"_s)) {}
+    Panel Gauge{*this, u"Gauge"_s, {0, 0, 3000, 300}, {}, Bevel::Sunken};
 };
 FormHandle<GaugeForm> gaugeForm;
 

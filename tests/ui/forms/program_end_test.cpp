@@ -2,21 +2,22 @@
 #include "ui/application.h"
 #include "ui/controls/button.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct FirstForm : Form {
-    FirstForm() : Form(DesignOf(QStringLiteral("First"))) {}
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}};
+    FirstForm() : Form(DesignOf(u"First"_s)) {}
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}};
 };
 
 struct SecondForm : Form {
-    SecondForm() : Form(DesignOf(QStringLiteral("Second"))) {}
+    SecondForm() : Form(DesignOf(u"Second"_s)) {}
 };
 
 struct ThirdForm : Form {
-    ThirdForm() : Form(DesignOf(QStringLiteral("Third"))) {}
+    ThirdForm() : Form(DesignOf(u"Third"_s)) {}
 };
 
 FormHandle<FirstForm> First;
@@ -88,15 +89,15 @@ private Q_SLOTS:
                     UiRoom::Soon([&] {
                         RunHandler([&] {
                             EndProgram();
-                            behind.append(QStringLiteral("end"));
+                            behind.append(u"end"_s);
                         });
                     });
                     Third->ShowModal();
-                    behind.append(QStringLiteral("third"));
+                    behind.append(u"third"_s);
                 });
             });
             Second->ShowModal();
-            behind.append(QStringLiteral("second"));
+            behind.append(u"second"_s);
         };
         QTest::mouseClick(&First->Go.Widget(), Qt::LeftButton);
         QVERIFY(ProgramIsEnding());

@@ -8,16 +8,17 @@
 #include <QLineEdit>
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}};
-    PictureBox Pane{*this, QStringLiteral("Pane"), {0, 600, 1200, 600}};
-    Image Photo{*this, QStringLiteral("Photo"), {1500, 600, 1200, 600}};
-    TextBox Text1{*this, QStringLiteral("Text1"), {0, 1500, 1200, 375}, QStringLiteral("67A.JPG")};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}};
+    PictureBox Pane{*this, u"Pane"_s, {0, 600, 1200, 600}};
+    Image Photo{*this, u"Photo"_s, {1500, 600, 1200, 600}};
+    TextBox Text1{*this, u"Text1"_s, {0, 1500, 1200, 375}, u"67A.JPG"_s};
 };
 
 FormHandle<MainForm> Main;

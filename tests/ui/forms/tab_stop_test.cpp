@@ -4,16 +4,17 @@
 #include "ui/controls/panel.h"
 #include "ui/controls/picture_box.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}, QStringLiteral("Go")};
-    Image Photo{*this, QStringLiteral("Photo"), {0, 600, 3000, 1500}};
-    Panel Number{*this, QStringLiteral("Number"), {0, 2400, 1200, 375}, QStringLiteral("7")};
-    Panel Plain{*this, QStringLiteral("Plain"), {0, 3000, 1200, 375}, QStringLiteral("plain")};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"Go"_s};
+    Image Photo{*this, u"Photo"_s, {0, 600, 3000, 1500}};
+    Panel Number{*this, u"Number"_s, {0, 2400, 1200, 375}, u"7"_s};
+    Panel Plain{*this, u"Plain"_s, {0, 3000, 1200, 375}, u"plain"_s};
 };
 
 FormHandle<MainForm> Main;
@@ -32,9 +33,9 @@ private Q_SLOTS:
         Main->Photo.SetTabStop();
         Main->Number.SetTabStop();
         log_.clear();
-        Main->Photo.MouseDown = [this](int button) { log_ += QStringLiteral("down %1").arg(button); };
-        Main->Photo.Click = [this] { log_ += QStringLiteral("click"); };
-        Main->Number.DblClick = [this] { log_ += QStringLiteral("double"); };
+        Main->Photo.MouseDown = [this](int button) { log_ += u"down %1"_s.arg(button); };
+        Main->Photo.Click = [this] { log_ += u"click"_s; };
+        Main->Number.DblClick = [this] { log_ += u"double"_s; };
     }
     void cleanup() { room_.reset(); }
 
@@ -61,7 +62,7 @@ private Q_SLOTS:
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
             log_.clear();
             QTest::keyClick(&Main->Photo.Widget(), key);
-            QCOMPARE(log_, QStringList({QStringLiteral("down 1"), QStringLiteral("click")}));
+            QCOMPARE(log_, QStringList({u"down 1"_s, u"click"_s}));
         }
     }
 
@@ -69,7 +70,7 @@ private Q_SLOTS:
     {
         QTest::keyClick(&Main->Photo.Widget(), Qt::Key_Menu);
         QTest::keyClick(&Main->Photo.Widget(), Qt::Key_F10, Qt::ShiftModifier);
-        QCOMPARE(log_, QStringList({QStringLiteral("down 2"), QStringLiteral("down 2")}));
+        QCOMPARE(log_, QStringList({u"down 2"_s, u"down 2"_s}));
         QCOMPARE(Screen.ActiveControl(), &Main->Photo);
     }
 
@@ -82,7 +83,7 @@ private Q_SLOTS:
 
     void a_key_that_is_held_is_one_press()
     {
-        QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
         QCoreApplication::sendEvent(&Main->Photo.Widget(), &again);
         QCOMPARE(log_, QStringList());
     }
@@ -90,7 +91,7 @@ private Q_SLOTS:
     void where_a_double_click_is_waited_for_one_key_does_it()
     {
         QTest::keyClick(&Main->Number.Widget(), Qt::Key_Space);
-        QCOMPARE(log_, QStringList{QStringLiteral("double")});
+        QCOMPARE(log_, QStringList{u"double"_s});
     }
 
     void a_handler_may_end_the_form()

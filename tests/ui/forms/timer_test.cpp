@@ -5,21 +5,22 @@
 
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    Timer Timer1{*this, QStringLiteral("Timer1")};
-    Timer Timer3{*this, QStringLiteral("Timer3"), 10};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    Timer Timer1{*this, u"Timer1"_s};
+    Timer Timer3{*this, u"Timer3"_s, 10};
 };
 
 FormHandle<MainForm> Main;
 
 struct OtherForm : Form {
-    OtherForm() : Form(DesignOf(QStringLiteral("Other"))) {}
-    Timer Timer1{*this, QStringLiteral("Timer1")};
+    OtherForm() : Form(DesignOf(u"Other"_s)) {}
+    Timer Timer1{*this, u"Timer1"_s};
 };
 
 FormHandle<OtherForm> Other;
@@ -119,11 +120,10 @@ private Q_SLOTS:
         QStringList order;
         Main->Timer3.SetInterval(300);
         Main->Timer1.SetInterval(200);
-        Main->Timer1.Tick = [&] { order.append(QStringLiteral("1 at %1").arg(start.msecsTo(Clock::Now()))); };
-        Main->Timer3.Tick = [&] { order.append(QStringLiteral("3 at %1").arg(start.msecsTo(Clock::Now()))); };
+        Main->Timer1.Tick = [&] { order.append(u"1 at %1"_s.arg(start.msecsTo(Clock::Now()))); };
+        Main->Timer3.Tick = [&] { order.append(u"3 at %1"_s.arg(start.msecsTo(Clock::Now()))); };
         Clock::Turn(500);
-        QCOMPARE(order, (QStringList{QStringLiteral("1 at 200"), QStringLiteral("3 at 300"),
-                                     QStringLiteral("1 at 400")}));
+        QCOMPARE(order, (QStringList{u"1 at 200"_s, u"3 at 300"_s, u"1 at 400"_s}));
     }
 
     void a_timer_of_an_unloaded_form_never_ticks()
@@ -163,7 +163,7 @@ private Q_SLOTS:
         Main->Timer1.SetInterval(100);
         Main->Timer1.Tick = [this] {
             ++ticks_;
-            MsgBox(QStringLiteral("no photo"));
+            MsgBox(u"no photo"_s);
         };
         Clock::Turn(100);
         QCOMPARE(ticks_, 1);

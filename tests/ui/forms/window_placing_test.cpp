@@ -2,16 +2,17 @@
 
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"), Scale::Pixels, FormBorder::Sizable, true)) {}
+    MainForm() : Form(DesignOf(u"Main"_s, Scale::Pixels, FormBorder::Sizable, true)) {}
 };
 
 struct PageForm : Form {
-    PageForm() : Form(DesignOf(QStringLiteral("Page"), Scale::Pixels, FormBorder::None)) {}
+    PageForm() : Form(DesignOf(u"Page"_s, Scale::Pixels, FormBorder::None)) {}
 };
 
 FormHandle<MainForm> Main;

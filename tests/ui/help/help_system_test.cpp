@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Commands to the help system.
@@ -17,17 +18,17 @@ class HelpSystemTest : public QObject {
 private Q_SLOTS:
     void quitting_without_a_help_window_does_nothing()
     {
-        QVERIFY(!WinHelp(0, QStringLiteral("C:\\Torvik2001.HLP"), winHelp::quit, QString(4, u'\0')));
+        QVERIFY(!WinHelp(0, u"C:\\Torvik2001.HLP"_s, winHelp::quit, QString(4, u'\0')));
     }
 
     void quitting_closes_the_help_window()
     {
         QWidget help;
-        help.setObjectName(QStringLiteral("HelpViewer"));
+        help.setObjectName(u"HelpViewer"_s);
         QWidget other;
         help.show();
         other.show();
-        QVERIFY(WinHelp(0, QStringLiteral("C:\\Torvik2001.HLP"), winHelp::quit, QString(4, u'\0')));
+        QVERIFY(WinHelp(0, u"C:\\Torvik2001.HLP"_s, winHelp::quit, QString(4, u'\0')));
         QVERIFY(!help.isVisible());
         QVERIFY(other.isVisible());
     }
@@ -35,11 +36,11 @@ private Q_SLOTS:
     void contents_opens_a_help_file_once()
     {
         const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("Torvik2001.HLP")));
+        QFile file(folder.filePath(u"Torvik2001.HLP"_s));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{\\rtf1 Words}") > 0);
         file.close();
         SetDriveOptions({{u'E', folder.path()}});
-        const QString path = QStringLiteral("E:\\Torvik2001.hlp");
+        const QString path = u"E:\\Torvik2001.hlp"_s;
         QVERIFY(WinHelp(0, path, winHelp::contents, {}));
         QVERIFY(WinHelp(0, path, winHelp::contents, {}));
         QCOMPARE(QApplication::topLevelWidgets().size(), 1);
@@ -52,7 +53,7 @@ private Q_SLOTS:
     void a_file_that_is_missing_or_empty_is_reported()
     {
         const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("empty.hlp")));
+        QFile file(folder.filePath(u"empty.hlp"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.close();
         SetDriveOptions({{u'E', folder.path()}});
@@ -69,7 +70,7 @@ private Q_SLOTS:
     void other_commands_are_not_carried_out()
     {
         QWidget help;
-        help.setObjectName(QStringLiteral("HelpViewer"));
+        help.setObjectName(u"HelpViewer"_s);
         help.show();
         QVERIFY(!WinHelp(0, {}, 1, {}));
         QVERIFY(help.isVisible());

@@ -4,6 +4,7 @@
 #include <QTest>
 #include <QTextDocument>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The topics of a help file.
@@ -21,13 +22,13 @@ private Q_SLOTS:
             document);
         const std::vector<HelpTopic> topics = TopicsOf(document);
         QCOMPARE(topics.size(), std::size_t{3});
-        QCOMPARE(topics[0].Anchor, QStringLiteral("start"));
-        QCOMPARE(topics[0].Title, QStringLiteral("The start"));
+        QCOMPARE(topics[0].Anchor, u"start"_s);
+        QCOMPARE(topics[0].Title, u"The start"_s);
         QCOMPARE(topics[0].Level, 1);
-        QCOMPARE(topics[1].Anchor, QStringLiteral("start-keys"));
-        QCOMPARE(topics[1].Title, QStringLiteral("Its keys"));
+        QCOMPARE(topics[1].Anchor, u"start-keys"_s);
+        QCOMPARE(topics[1].Title, u"Its keys"_s);
         QCOMPARE(topics[1].Level, 2);
-        QCOMPARE(topics[2].Title, QStringLiteral("Printing"));
+        QCOMPARE(topics[2].Title, u"Printing"_s);
         QCOMPARE(topics[2].Level, 1);
     }
 

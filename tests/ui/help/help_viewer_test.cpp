@@ -13,6 +13,7 @@
 #include <QTextBrowser>
 #include <QTreeWidget>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -52,10 +53,10 @@ private Q_SLOTS:
     void the_contents_list_the_topics_as_a_tree()
     {
         QCOMPARE(Contents().topLevelItemCount(), 2);
-        QCOMPARE(Contents().topLevelItem(0)->text(0), QStringLiteral("Heading of start"));
+        QCOMPARE(Contents().topLevelItem(0)->text(0), u"Heading of start"_s);
         QCOMPARE(Contents().topLevelItem(0)->childCount(), 1);
-        QCOMPARE(Contents().topLevelItem(0)->child(0)->text(0), QStringLiteral("Heading of start-keys"));
-        QCOMPARE(Contents().topLevelItem(1)->text(0), QStringLiteral("Heading of print"));
+        QCOMPARE(Contents().topLevelItem(0)->child(0)->text(0), u"Heading of start-keys"_s);
+        QCOMPARE(Contents().topLevelItem(1)->text(0), u"Heading of print"_s);
         QCOMPARE(Contents().currentItem(), Contents().topLevelItem(0));
     }
 
@@ -63,7 +64,7 @@ private Q_SLOTS:
     {
         ClickTopic(Contents().topLevelItem(1));
         QVERIFY(Scroll() > 200);
-        QCOMPARE(Contents().currentItem()->text(0), QStringLiteral("Heading of print"));
+        QCOMPARE(Contents().currentItem()->text(0), u"Heading of print"_s);
     }
 
     void keys_choose_a_topic_too()
@@ -108,10 +109,10 @@ private Q_SLOTS:
 
     void the_search_finds_one_place_after_the_other_and_goes_round()
     {
-        Search().setText(QStringLiteral("needle of"));
+        Search().setText(u"needle of"_s);
         QTest::keyClick(&Search(), Qt::Key_Return);
         const int first = Text().textCursor().selectionStart();
-        QCOMPARE(Text().textCursor().selectedText(), QStringLiteral("needle of"));
+        QCOMPARE(Text().textCursor().selectedText(), u"needle of"_s);
         Press("HelpFind");
         QVERIFY(Text().textCursor().selectionStart() > first);
         Press("HelpFind");
@@ -121,24 +122,24 @@ private Q_SLOTS:
 
     void words_that_are_nowhere_are_not_found()
     {
-        Search().setText(QStringLiteral("haystack"));
+        Search().setText(u"haystack"_s);
         Press("HelpFind");
-        QCOMPARE(Found().text(), QStringLiteral("Not found"));
-        Search().setText(QStringLiteral("needle"));
+        QCOMPARE(Found().text(), u"Not found"_s);
+        Search().setText(u"needle"_s);
         QCOMPARE(Found().text(), QString());
     }
 
     void links_lead_to_topics_and_web_addresses_to_the_desktop()
     {
         const Desktop desktop;
-        Q_EMIT Text().anchorClicked(QUrl(QStringLiteral("#print")));
+        Q_EMIT Text().anchorClicked(QUrl(u"#print"_s));
         QVERIFY(Scroll() > 200);
         const int before = Scroll();
-        Q_EMIT Text().anchorClicked(QUrl(QStringLiteral("#nowhere")));
+        Q_EMIT Text().anchorClicked(QUrl(u"#nowhere"_s));
         QCOMPARE(Scroll(), before);
-        Q_EMIT Text().anchorClicked(QUrl(QStringLiteral("http://www.quillon.example")));
-        Q_EMIT Text().anchorClicked(QUrl(QStringLiteral("file:///etc/passwd")));
-        QCOMPARE(desktop.Opened, QStringList{QStringLiteral("http://www.quillon.example")});
+        Q_EMIT Text().anchorClicked(QUrl(u"http://www.quillon.example"_s));
+        Q_EMIT Text().anchorClicked(QUrl(u"file:///etc/passwd"_s));
+        QCOMPARE(desktop.Opened, QStringList{u"http://www.quillon.example"_s});
     }
 
     void escape_closes_it_for_good()
@@ -161,22 +162,19 @@ private Q_SLOTS:
     void a_file_without_topics_is_just_shown()
     {
         auto* plain = new QTextDocument;
-        plain->setPlainText(QStringLiteral("Only words."));
+        plain->setPlainText(u"Only words."_s);
         HelpViewer other(plain);
         other.setAttribute(Qt::WA_DeleteOnClose, false);
-        other.GoTo(QStringLiteral("start"));
-        QCOMPARE(other.findChild<QTextBrowser*>()->toPlainText(), QStringLiteral("Only words."));
-        QTest::mouseClick(other.findChild<QPushButton*>(QStringLiteral("HelpHome")), Qt::LeftButton);
+        other.GoTo(u"start"_s);
+        QCOMPARE(other.findChild<QTextBrowser*>()->toPlainText(), u"Only words."_s);
+        QTest::mouseClick(other.findChild<QPushButton*>(u"HelpHome"_s), Qt::LeftButton);
     }
 
 private:
-    QTextBrowser& Text() const { return *window_->findChild<QTextBrowser*>(QStringLiteral("HelpText")); }
-    QTreeWidget& Contents() const
-    {
-        return *window_->findChild<QTreeWidget*>(QStringLiteral("HelpContents"));
-    }
-    QLineEdit& Search() const { return *window_->findChild<QLineEdit*>(QStringLiteral("HelpSearch")); }
-    QLabel& Found() const { return *window_->findChild<QLabel*>(QStringLiteral("HelpFound")); }
+    QTextBrowser& Text() const { return *window_->findChild<QTextBrowser*>(u"HelpText"_s); }
+    QTreeWidget& Contents() const { return *window_->findChild<QTreeWidget*>(u"HelpContents"_s); }
+    QLineEdit& Search() const { return *window_->findChild<QLineEdit*>(u"HelpSearch"_s); }
+    QLabel& Found() const { return *window_->findChild<QLabel*>(u"HelpFound"_s); }
     QPushButton& Button(const char* name) const
     {
         return *window_->findChild<QPushButton*>(QLatin1String(name));

@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -46,7 +47,7 @@ private Q_SLOTS:
 
     void buttons_of_boxes_are_raised()
     {
-        QPushButton button(QStringLiteral("OK"));
+        QPushButton button(u"OK"_s);
         button.resize(80, 24);
         const QImage up = Grab(button);
         QCOMPARE(up.pixelColor(40, 0), look::light);
@@ -88,7 +89,7 @@ private Q_SLOTS:
     {
         QMenuBar bar;
         bar.setNativeMenuBar(false);
-        QAction* entry = bar.addAction(QStringLiteral("Sound Effects"));
+        QAction* entry = bar.addAction(u"Sound Effects"_s);
         bar.setFixedHeight(19);
         bar.resize(300, 19);
         bar.ensurePolished();

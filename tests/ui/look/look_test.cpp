@@ -5,6 +5,7 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -169,8 +170,7 @@ private Q_SLOTS:
         const auto inkWidth = [](int width) {
             const QImage image = Drawn(1, {200, 20}, [&](QPainter& painter) {
                 painter.setFont(QApplication::font());
-                DrawCaption(painter, QRectF(0, 0, width, 20), QStringLiteral("Advertisement"), Qt::AlignLeft,
-                            true);
+                DrawCaption(painter, QRectF(0, 0, width, 20), u"Advertisement"_s, Qt::AlignLeft, true);
             });
             int last = 0;
             for (int x = 0; x < image.width(); ++x)
@@ -186,7 +186,7 @@ private Q_SLOTS:
         Drawn(1, {50, 20}, [](QPainter& painter) {
             const QFont font = painter.font();
             const QPen pen = painter.pen();
-            DrawCaption(painter, {0, 0, 10, 20}, QStringLiteral("Advertisement"), Qt::AlignCenter, false);
+            DrawCaption(painter, {0, 0, 10, 20}, u"Advertisement"_s, Qt::AlignCenter, false);
             DrawArrow(painter, {0, 0, 10, 10}, 90, true);
             QCOMPARE(painter.font(), font);
             QCOMPARE(painter.pen(), pen);
@@ -206,7 +206,7 @@ private Q_SLOTS:
                     last = image.pixelColor(x, y) == look::face ? last : y;
             return last;
         };
-        QVERIFY(inkHeight(QStringLiteral("H\nH")) > inkHeight(QStringLiteral("H")) + 8);
+        QVERIFY(inkHeight(u"H\nH"_s) > inkHeight(u"H"_s) + 8);
     }
 };
 

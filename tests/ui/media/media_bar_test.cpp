@@ -5,13 +5,14 @@
 #include <QHelpEvent>
 #include <QToolTip>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    MediaBar mmSlide{*this, QStringLiteral("mmSlide"), {120, 360, 4050, 450}}; // 270 by 30 pixels
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    MediaBar mmSlide{*this, u"mmSlide"_s, {120, 360, 4050, 450}}; // 270 by 30 pixels
 };
 
 FormHandle<MainForm> Main;
@@ -29,7 +30,7 @@ QString Plain(MediaButton button)
 
 ButtonWidget& Part(MediaButton button)
 {
-    auto* part = Main->Window().findChild<ButtonWidget*>(QStringLiteral("mmSlide(%1)").arg(Plain(button)));
+    auto* part = Main->Window().findChild<ButtonWidget*>(u"mmSlide(%1)"_s.arg(Plain(button)));
     if (part == nullptr)
         qFatal("there is no such button");
     return *part;
@@ -196,9 +197,9 @@ private Q_SLOTS:
         Main->mmSlide.SetButtonEnabled(MediaButton::Next, false);
         Part(MediaButton::Prev).setFocus(Qt::TabFocusReason);
         QTest::keyClick(&Part(MediaButton::Prev), Qt::Key_Tab);
-        QCOMPARE(Focused(), QStringLiteral("mmSlide(Play)"));
+        QCOMPARE(Focused(), u"mmSlide(Play)"_s);
         QTest::keyClick(&Part(MediaButton::Play), Qt::Key_Tab, Qt::ShiftModifier);
-        QCOMPARE(Focused(), QStringLiteral("mmSlide(Prev)"));
+        QCOMPARE(Focused(), u"mmSlide(Prev)"_s);
     }
 
     void arrow_keys_go_over_the_enabled_buttons_and_stay_at_the_ends()
@@ -208,7 +209,7 @@ private Q_SLOTS:
         Main->mmSlide.SetButtonVisible(MediaButton::Eject, false);
         Part(MediaButton::Play).setFocus(Qt::TabFocusReason);
         QTest::keyClick(&Part(MediaButton::Play), Qt::Key_Right);
-        QCOMPARE(Focused(), QStringLiteral("mmSlide(Step)"));
+        QCOMPARE(Focused(), u"mmSlide(Step)"_s);
         for (const auto& [from, key, to] : {std::tuple{MediaButton::Step, Qt::Key_Down, "Stop"},
                                             {MediaButton::Stop, Qt::Key_Right, "Record"},
                                             {MediaButton::Record, Qt::Key_Right, "Record"},
@@ -217,7 +218,7 @@ private Q_SLOTS:
                                             {MediaButton::Prev, Qt::Key_Left, "Prev"}}) {
             Part(from).setFocus(Qt::TabFocusReason);
             QTest::keyClick(&Part(from), key);
-            QCOMPARE(Focused(), QStringLiteral("mmSlide(%1)").arg(QLatin1String(to)));
+            QCOMPARE(Focused(), u"mmSlide(%1)"_s.arg(QLatin1String(to)));
         }
         QCOMPARE(pressed_, QStringList());
     }
@@ -234,29 +235,29 @@ private Q_SLOTS:
     {
         Part(MediaButton::Stop).setFocus(Qt::TabFocusReason);
         Press(MediaButton::Play);
-        QCOMPARE(Focused(), QStringLiteral("mmSlide(Stop)"));
+        QCOMPARE(Focused(), u"mmSlide(Stop)"_s);
     }
 
     void each_button_says_what_it_does()
     {
-        QCOMPARE(Part(MediaButton::Play).accessibleName(), QStringLiteral("Play"));
-        QCOMPARE(Part(MediaButton::Eject).accessibleName(), QStringLiteral("Eject"));
-        Main->mmSlide.SetSpokenAs(MediaButton::Stop, QStringLiteral("Exit"));
-        QCOMPARE(Part(MediaButton::Stop).accessibleName(), QStringLiteral("Exit"));
-        QCOMPARE(Part(MediaButton::Stop).objectName(), QStringLiteral("mmSlide(Stop)"));
+        QCOMPARE(Part(MediaButton::Play).accessibleName(), u"Play"_s);
+        QCOMPARE(Part(MediaButton::Eject).accessibleName(), u"Eject"_s);
+        Main->mmSlide.SetSpokenAs(MediaButton::Stop, u"Exit"_s);
+        QCOMPARE(Part(MediaButton::Stop).accessibleName(), u"Exit"_s);
+        QCOMPARE(Part(MediaButton::Stop).objectName(), u"mmSlide(Stop)"_s);
     }
 
     void the_tool_tip_is_that_of_the_whole_bar()
     {
-        Main->mmSlide.SetToolTip(QStringLiteral("[Play] [Pause]"));
-        QCOMPARE(Main->mmSlide.Widget().accessibleName(), QStringLiteral("[Play] [Pause]"));
-        QCOMPARE(Part(MediaButton::Play).accessibleName(), QStringLiteral("Play"));
+        Main->mmSlide.SetToolTip(u"[Play] [Pause]"_s);
+        QCOMPARE(Main->mmSlide.Widget().accessibleName(), u"[Play] [Pause]"_s);
+        QCOMPARE(Part(MediaButton::Play).accessibleName(), u"Play"_s);
         Main->mmSlide.SetButtonEnabled(MediaButton::Pause, false);
         for (const MediaButton button : {MediaButton::Play, MediaButton::Pause}) {
             QHelpEvent hover(QEvent::ToolTip, {5, 5}, Part(button).mapToGlobal(QPoint(5, 5)));
             QToolTip::hideText();
             QApplication::sendEvent(&Part(button), &hover);
-            QCOMPARE(QToolTip::text(), QStringLiteral("[Play] [Pause]"));
+            QCOMPARE(QToolTip::text(), u"[Play] [Pause]"_s);
         }
     }
 
@@ -270,7 +271,7 @@ private Q_SLOTS:
         QTest::keyClick(&Part(MediaButton::Pause), Qt::Key_Space);
         Press(MediaButton::Pause);
         QCOMPARE(pressed_, QStringList{"Pause"});
-        QVERIFY(Focused() != QStringLiteral("mmSlide(Pause)"));
+        QVERIFY(Focused() != u"mmSlide(Pause)"_s);
     }
 
     void a_handler_may_unload_the_form()

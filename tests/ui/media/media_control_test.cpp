@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -17,10 +18,10 @@ namespace {
 using Mode = MediaControl::Mode;
 
 struct ScreenForm : Form {
-    ScreenForm() : Form(DesignOf(QStringLiteral("Cinema"))) {}
-    Image PicMovie{*this, QStringLiteral("PicMovie"), {0, 0, 2400, 1800}}; // 160 by 120 pixels
-    Image Other{*this, QStringLiteral("Other"), {2400, 0, 2400, 900}};     // 160 by 60
-    MediaControl Device{QStringLiteral("MMControl1")};
+    ScreenForm() : Form(DesignOf(u"Cinema"_s)) {}
+    Image PicMovie{*this, u"PicMovie"_s, {0, 0, 2400, 1800}}; // 160 by 120 pixels
+    Image Other{*this, u"Other"_s, {2400, 0, 2400, 900}};     // 160 by 60
+    MediaControl Device{u"MMControl1"_s};
 };
 
 FormHandle<ScreenForm> Cinema;
@@ -28,8 +29,8 @@ FormHandle<ScreenForm> Cinema;
 /// The pane with the movie's pictures on a control; null while there is none on show.
 VideoPane* PaneOn(const Control& control)
 {
-    auto* pane = dynamic_cast<VideoPane*>(
-        control.Widget().findChild<QWidget*>(control.Name() + QStringLiteral("(Video)")));
+    auto* pane =
+        dynamic_cast<VideoPane*>(control.Widget().findChild<QWidget*>(control.Name() + u"(Video)"_s));
     return pane == nullptr || pane->isHidden() ? nullptr : pane;
 }
 
@@ -276,7 +277,7 @@ private Q_SLOTS:
     void a_sound_device_shows_no_pictures()
     {
         OpenMovie();
-        Cinema->Device.SetDeviceType(QStringLiteral("WaveAudio"));
+        Cinema->Device.SetDeviceType(u"WaveAudio"_s);
         Do({"play"});
         QTRY_VERIFY((Clock::Turn(50), Cinema->Device.Position() > 500));
         QVERIFY(Shown().isNull());
@@ -285,8 +286,8 @@ private Q_SLOTS:
     void a_sound_ends_without_an_audio_device()
     {
         MediaControl& device = Cinema->Device;
-        device.SetDeviceType(QStringLiteral("WaveAudio"));
-        device.SetFileName(folder_.Add(QStringLiteral("horns.wav"), Wave()));
+        device.SetDeviceType(u"WaveAudio"_s);
+        device.SetFileName(folder_.Add(u"horns.wav"_s, Wave()));
         Do({"open", "play"});
         QTRY_VERIFY(device.Length() > 0);
         QCOMPARE(device.State(), Mode::Playing);
@@ -299,7 +300,7 @@ private Q_SLOTS:
     void a_sound_that_stands_lets_the_machine_rest()
     {
         MediaControl& device = Cinema->Device;
-        device.SetFileName(folder_.Add(QStringLiteral("horns.wav"), Wave()));
+        device.SetFileName(folder_.Add(u"horns.wav"_s, Wave()));
         Do({"open", "play"});
         QTRY_VERIFY((Clock::Turn(50), device.Position() > 200));
         const auto* ticks = device.findChild<QTimer*>();
@@ -314,7 +315,7 @@ private Q_SLOTS:
         OpenMovie();
         Do({"play"});
         QTRY_VERIFY(!Shown().isNull());
-        folder_.Remove(QStringLiteral("movie.avi"));
+        folder_.Remove(u"movie.avi"_s);
         QTRY_COMPARE((Clock::Turn(100), Cinema->Device.State()), Mode::Stopped);
         Do({"prev", "play", "stop", "close", "open", "play"});
         QTRY_COMPARE(Cinema->Device.State(), Mode::NotOpen);
@@ -340,8 +341,8 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, bytes);
         MediaControl& device = Cinema->Device;
-        device.SetFileName(bytes.isEmpty() ? folder_.PathOf(QStringLiteral("none.avi"))
-                                           : folder_.Add(QStringLiteral("damaged.avi"), bytes.left(60)));
+        device.SetFileName(bytes.isEmpty() ? folder_.PathOf(u"none.avi"_s)
+                                           : folder_.Add(u"damaged.avi"_s, bytes.left(60)));
         Do({"open", "play"});
         QTRY_COMPARE((Clock::Turn(100), device.State()), Mode::NotOpen);
         Do({"play", "pause", "stop", "prev", "next", "back", "step"});
@@ -383,23 +384,23 @@ private Q_SLOTS:
 
     void it_is_open_between_open_and_close()
     {
-        MediaControl device(QStringLiteral("MMControl1"));
-        QCOMPARE(device.objectName(), QStringLiteral("MMControl1"));
-        device.SetDeviceType(QStringLiteral("WaveAudio"));
-        device.SetFileName(folder_.Add(QStringLiteral("passby.wav"), Wave()));
+        MediaControl device(u"MMControl1"_s);
+        QCOMPARE(device.objectName(), u"MMControl1"_s);
+        device.SetDeviceType(u"WaveAudio"_s);
+        device.SetFileName(folder_.Add(u"passby.wav"_s, Wave()));
         QVERIFY(!device.IsOpen());
-        device.Command(QStringLiteral("open"));
+        device.Command(u"open"_s);
         QVERIFY(device.IsOpen());
-        device.Command(QStringLiteral("play"));
+        device.Command(u"play"_s);
         QVERIFY(device.IsOpen());
-        device.Command(QStringLiteral("close"));
+        device.Command(u"close"_s);
         QVERIFY(!device.IsOpen());
     }
 
     void commands_come_in_any_order_and_letter_case()
     {
-        MediaControl device(QStringLiteral("MMControl1"));
-        device.SetFileName(folder_.Add(QStringLiteral("horns.wav"), Wave()));
+        MediaControl device(u"MMControl1"_s);
+        device.SetFileName(folder_.Add(u"horns.wav"_s, Wave()));
         for (const char* word :
              {"play", "stop", "prev", "next",  "back",  "step", "pause", "CLOSE", "Close", "OPEN",
               "Open", "Play", "PLAY", "pause", "Pause", "back", "BACK",  "step",  "next",  "next",
@@ -410,7 +411,7 @@ private Q_SLOTS:
 
     void an_unknown_word_is_failure_380()
     {
-        MediaControl device(QStringLiteral("MMControl1"));
+        MediaControl device(u"MMControl1"_s);
         for (const char* word : {"", "stop it", "opened"})
             QCOMPARE(ResumeNext([&] { device.Command(QString::fromLatin1(word)); }), 380);
     }
@@ -428,48 +429,47 @@ private Q_SLOTS:
     void a_missing_or_damaged_file_stays_silent()
     {
         QFETCH(const QByteArray, bytes);
-        MediaControl device(QStringLiteral("MMControl1"));
-        device.SetFileName(bytes.isEmpty() ? folder_.PathOf(QStringLiteral("none.wav"))
-                                           : folder_.Add(QStringLiteral("damaged.wav"), bytes));
+        MediaControl device(u"MMControl1"_s);
+        device.SetFileName(bytes.isEmpty() ? folder_.PathOf(u"none.wav"_s)
+                                           : folder_.Add(u"damaged.wav"_s, bytes));
         QCOMPARE(ResumeNext([&] {
-                     device.Command(QStringLiteral("open"));
-                     device.Command(QStringLiteral("play"));
+                     device.Command(u"open"_s);
+                     device.Command(u"play"_s);
                  }),
                  0);
         QCoreApplication::processEvents();
-        device.Command(QStringLiteral("close"));
+        device.Command(u"close"_s);
         QVERIFY(!device.IsOpen());
     }
 
     void a_drive_that_is_not_there_stays_silent()
     {
-        MediaControl device(QStringLiteral("MMControl1"));
-        for (const QString& path :
-             {QStringLiteral("Q:\\wav\\horns.wav"), QString(), QStringLiteral("no path")}) {
+        MediaControl device(u"MMControl1"_s);
+        for (const QString& path : {u"Q:\\wav\\horns.wav"_s, QString(), u"no path"_s}) {
             device.SetFileName(path);
             QCOMPARE(device.FileName(), path);
-            QCOMPARE(ResumeNext([&] { device.Command(QStringLiteral("open")); }), 0);
-            QCOMPARE(ResumeNext([&] { device.Command(QStringLiteral("play")); }), 0);
+            QCOMPARE(ResumeNext([&] { device.Command(u"open"_s); }), 0);
+            QCOMPARE(ResumeNext([&] { device.Command(u"play"_s); }), 0);
         }
     }
 
     void a_new_file_name_counts_from_the_next_open()
     {
-        MediaControl device(QStringLiteral("MMControl1"));
-        device.SetFileName(folder_.Add(QStringLiteral("a.wav"), Wave()));
-        device.Command(QStringLiteral("open"));
-        device.SetFileName(folder_.PathOf(QStringLiteral("none.wav")));
-        device.Command(QStringLiteral("play"));
-        device.Command(QStringLiteral("open"));
+        MediaControl device(u"MMControl1"_s);
+        device.SetFileName(folder_.Add(u"a.wav"_s, Wave()));
+        device.Command(u"open"_s);
+        device.SetFileName(folder_.PathOf(u"none.wav"_s));
+        device.Command(u"play"_s);
+        device.Command(u"open"_s);
         QVERIFY(device.IsOpen());
     }
 
     void a_playing_device_may_go()
     {
-        auto device = std::make_unique<MediaControl>(QStringLiteral("MMControl1"));
-        device->SetFileName(folder_.Add(QStringLiteral("a.wav"), Wave()));
-        device->Command(QStringLiteral("open"));
-        device->Command(QStringLiteral("play"));
+        auto device = std::make_unique<MediaControl>(u"MMControl1"_s);
+        device->SetFileName(folder_.Add(u"a.wav"_s, Wave()));
+        device->Command(u"open"_s);
+        device->Command(u"play"_s);
         QCoreApplication::processEvents();
         device.reset();
         QCoreApplication::processEvents();
@@ -479,8 +479,8 @@ private Q_SLOTS:
 private:
     void SetMovie(const QByteArray& bytes = TestMovie::Avi())
     {
-        Cinema->Device.SetDeviceType(QStringLiteral("AVIVideo"));
-        Cinema->Device.SetFileName(folder_.Add(QStringLiteral("movie.avi"), bytes));
+        Cinema->Device.SetDeviceType(u"AVIVideo"_s);
+        Cinema->Device.SetFileName(folder_.Add(u"movie.avi"_s, bytes));
         Cinema->Device.SetDisplay(&Cinema->PicMovie);
     }
     void OpenMovie(const QByteArray& bytes = TestMovie::Avi())

@@ -6,6 +6,7 @@
 #include "ui/media/media_track.h"
 #include "ui/media/mm_control.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -13,8 +14,8 @@ namespace {
 using Mode = MediaControl::Mode;
 
 struct PlayerForm : Form {
-    PlayerForm() : Form(DesignOf(QStringLiteral("Player"))) {}
-    MMControl MMControl1{*this, QStringLiteral("MMControl1"), {0, 0, 4500, 780}}; // 300 by 52 pixels
+    PlayerForm() : Form(DesignOf(u"Player"_s)) {}
+    MMControl MMControl1{*this, u"MMControl1"_s, {0, 0, 4500, 780}}; // 300 by 52 pixels
 };
 
 FormHandle<PlayerForm> Player;
@@ -27,8 +28,7 @@ MMControl& Bar()
 template <typename T>
 T& Part(const char* name)
 {
-    auto* part =
-        Player->Window().findChild<T*>(QStringLiteral("MMControl1(%1)").arg(QString::fromLatin1(name)));
+    auto* part = Player->Window().findChild<T*>(u"MMControl1(%1)"_s.arg(QString::fromLatin1(name)));
     if (part == nullptr)
         qFatal("there is no such part");
     return *part;
@@ -90,14 +90,14 @@ private Q_SLOTS:
         Press("Play");
         QTRY_VERIFY((Clock::Turn(200), Bar().Device.State() == Mode::Stopped));
         QCOMPARE(Enabled(), standing);
-        Bar().Device.Command(QStringLiteral("close"));
+        Bar().Device.Command(u"close"_s);
         QCOMPARE(Enabled(), QStringList());
     }
 
     void a_file_that_is_no_movie_leaves_no_button_to_press()
     {
-        Bar().Device.SetFileName(folder_.Add(QStringLiteral("text.avi"), "no movie"));
-        Bar().Device.Command(QStringLiteral("open"));
+        Bar().Device.SetFileName(folder_.Add(u"text.avi"_s, "no movie"));
+        Bar().Device.Command(u"open"_s);
         QTRY_COMPARE(Enabled(), QStringList());
     }
 
@@ -129,14 +129,14 @@ private Q_SLOTS:
     void the_position_is_shown_in_minutes_and_seconds()
     {
         auto& track = Part<MediaTrack>("Position");
-        QCOMPARE(track.TimeText(), QStringLiteral("0:00 / 0:00"));
+        QCOMPARE(track.TimeText(), u"0:00 / 0:00"_s);
         Open();
-        QCOMPARE(track.TimeText(), QStringLiteral("0:00 / 0:02"));
+        QCOMPARE(track.TimeText(), u"0:00 / 0:02"_s);
         Bar().Device.Seek(1400);
         QCOMPARE(track.value(), 1400);
-        QCOMPARE(track.TimeText(), QStringLiteral("0:01 / 0:02"));
+        QCOMPARE(track.TimeText(), u"0:01 / 0:02"_s);
         track.ShowPlace(83'000, 600'000);
-        QCOMPARE(track.TimeText(), QStringLiteral("1:23 / 10:00"));
+        QCOMPARE(track.TimeText(), u"1:23 / 10:00"_s);
     }
 
     void the_position_moves_while_it_plays()
@@ -192,16 +192,16 @@ private Q_SLOTS:
 
     void screen_readers_get_a_name_for_each_part()
     {
-        QCOMPARE(Part<QWidget>("Play").accessibleName(), QStringLiteral("Play"));
-        QCOMPARE(Part<QWidget>("Position").accessibleName(), QStringLiteral("Position"));
+        QCOMPARE(Part<QWidget>("Play").accessibleName(), u"Play"_s);
+        QCOMPARE(Part<QWidget>("Position").accessibleName(), u"Position"_s);
     }
 
 private:
     void Open()
     {
-        Bar().Device.SetDeviceType(QStringLiteral("AVIVideo"));
-        Bar().Device.SetFileName(folder_.Add(QStringLiteral("movie.avi"), TestMovie::Avi()));
-        Bar().Device.Command(QStringLiteral("open"));
+        Bar().Device.SetDeviceType(u"AVIVideo"_s);
+        Bar().Device.SetFileName(folder_.Add(u"movie.avi"_s, TestMovie::Avi()));
+        Bar().Device.Command(u"open"_s);
         QTRY_VERIFY(Bar().Device.Length() > 0);
     }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Where the pictures of a movie stand.
@@ -13,10 +14,10 @@ private Q_SLOTS:
     void it_is_hidden_until_there_is_a_picture()
     {
         QWidget host;
-        host.setObjectName(QStringLiteral("PicMovie"));
+        host.setObjectName(u"PicMovie"_s);
         VideoPane pane(host);
         QVERIFY(pane.isHidden());
-        QCOMPARE(pane.objectName(), QStringLiteral("PicMovie(Video)"));
+        QCOMPARE(pane.objectName(), u"PicMovie(Video)"_s);
         pane.ShowPicture(Plain({40, 30}));
         QVERIFY(!pane.isHidden());
         QCOMPARE(pane.Picture().size(), QSize(40, 30));

@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTransform>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Picture files in memory.
@@ -20,14 +21,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("bytes");
         const QImage image = FourCorners({64, 48});
-        QTest::newRow("jpeg") << QStringLiteral("67A.JPG") << Encoded(image, "jpg");
-        QTest::newRow("progressive jpeg") << QStringLiteral("67B.JPG") << Encoded(image, "jpg", true);
-        QTest::newRow("grey jpeg") << QStringLiteral("67C.JPG")
+        QTest::newRow("jpeg") << u"67A.JPG"_s << Encoded(image, "jpg");
+        QTest::newRow("progressive jpeg") << u"67B.JPG"_s << Encoded(image, "jpg", true);
+        QTest::newRow("grey jpeg") << u"67C.JPG"_s
                                    << Encoded(image.convertToFormat(QImage::Format_Grayscale8), "jpg");
-        QTest::newRow("bmp") << QStringLiteral("quillon3.bmp") << Encoded(image, "bmp");
-        QTest::newRow("bmp with a palette") << QStringLiteral("quillon3.bmp")
-                                            << Encoded(image.convertToFormat(QImage::Format_Indexed8), "bmp");
-        QTest::newRow("png named jpg") << QStringLiteral("67D.JPG") << Encoded(image, "png");
+        QTest::newRow("bmp") << u"quillon3.bmp"_s << Encoded(image, "bmp");
+        QTest::newRow("bmp with a palette")
+            << u"quillon3.bmp"_s << Encoded(image.convertToFormat(QImage::Format_Indexed8), "bmp");
+        QTest::newRow("png named jpg") << u"67D.JPG"_s << Encoded(image, "png");
     }
 
     void real_pictures_load()
@@ -67,7 +68,7 @@ private Q_SLOTS:
     void what_is_no_picture_is_failure_481()
     {
         QFETCH(const QByteArray, bytes);
-        const QString path = folder_.Add(QStringLiteral("fake.jpg"), bytes);
+        const QString path = folder_.Add(u"fake.jpg"_s, bytes);
         QCOMPARE(ResumeNext([&] { Picture::Load(path).Natural(); }), 481);
     }
 
@@ -86,7 +87,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, bytes);
         for (qsizetype length = 0; length < bytes.size() - 12;
              length += 7) { // behind that a PNG holds but its end
-            const QString path = folder_.Add(QStringLiteral("cut.jpg"), bytes.left(length));
+            const QString path = folder_.Add(u"cut.jpg"_s, bytes.left(length));
             const int failed = ResumeNext([&] { Picture::Load(path).Natural(); });
             QVERIFY2(failed == 481, qPrintable(QString::number(length)));
         }
@@ -94,10 +95,10 @@ private Q_SLOTS:
 
     void a_file_that_is_not_there_is_the_file_systems_failure()
     {
-        QCOMPARE(ResumeNext([&] { Picture::Load(folder_.PathOf(QStringLiteral("missing.jpg"))); }), 53);
-        QCOMPARE(ResumeNext([&] { Picture::Load(folder_.PathOf(QStringLiteral("no\\folder.jpg"))); }), 76);
-        QCOMPARE(ResumeNext([] { Picture::Load(QStringLiteral("Q:\\67A.JPG")); }), 68);
-        QCOMPARE(ResumeNext([] { Picture::FromResource(QStringLiteral(":/assets/none.png")); }), 53);
+        QCOMPARE(ResumeNext([&] { Picture::Load(folder_.PathOf(u"missing.jpg"_s)); }), 53);
+        QCOMPARE(ResumeNext([&] { Picture::Load(folder_.PathOf(u"no\\folder.jpg"_s)); }), 76);
+        QCOMPARE(ResumeNext([] { Picture::Load(u"Q:\\67A.JPG"_s); }), 68);
+        QCOMPARE(ResumeNext([] { Picture::FromResource(u":/assets/none.png"_s); }), 53);
     }
 
     void an_orientation_tag_is_followed_data()
@@ -123,7 +124,7 @@ private Q_SLOTS:
         QFETCH(const QTransform, stored);
         const QByteArray jpeg = Encoded(FourCorners({80, 40}).transformed(stored), "jpg");
         const Picture picture = Picture::Load(
-            folder_.Add(QStringLiteral("turned.jpg"), WithOrientation(jpeg, static_cast<char>(orientation))));
+            folder_.Add(u"turned.jpg"_s, WithOrientation(jpeg, static_cast<char>(orientation))));
         QCOMPARE(picture.NaturalSize(), QSize(80, 40));
         for (const QImage& image : {picture.Natural(), picture.Fitted({40, 40}).scaled(80, 40)}) {
             QCOMPARE(image.size(), QSize(80, 40));
@@ -137,13 +138,13 @@ private Q_SLOTS:
     void a_picture_fits_with_its_proportions_kept()
     {
         const Picture landscape =
-            Picture::Load(folder_.Add(QStringLiteral("wide.jpg"), Encoded(FourCorners({640, 480}), "jpg")));
+            Picture::Load(folder_.Add(u"wide.jpg"_s, Encoded(FourCorners({640, 480}), "jpg")));
         QCOMPARE(landscape.Fitted({776, 470}).size(), QSize(626, 470));
         QCOMPARE(landscape.Fitted({320, 1000}).size(), QSize(320, 240));
         QCOMPARE(landscape.Stretched({320, 1000}).size(), QSize(320, 1000));
         QVERIFY(landscape.Stretched({320, 0}).isNull());
         const Picture portrait =
-            Picture::Load(folder_.Add(QStringLiteral("tall.jpg"), Encoded(FourCorners({300, 400}), "jpg")));
+            Picture::Load(folder_.Add(u"tall.jpg"_s, Encoded(FourCorners({300, 400}), "jpg")));
         QCOMPARE(portrait.Fitted({776, 400}).size(), QSize(300, 400));
         QCOMPARE(portrait.Fitted({30, 30}).size(), QSize(22, 30));
         QVERIFY(portrait.Fitted({0, 30}).isNull());
@@ -151,8 +152,7 @@ private Q_SLOTS:
 
     void tiny_pictures_are_scaled_up()
     {
-        const Picture dot =
-            Picture::Load(folder_.Add(QStringLiteral("dot.bmp"), Encoded(FourCorners({1, 1}), "bmp")));
+        const Picture dot = Picture::Load(folder_.Add(u"dot.bmp"_s, Encoded(FourCorners({1, 1}), "bmp")));
         QCOMPARE(dot.Fitted({300, 200}).size(), QSize(200, 200));
         QCOMPARE(dot.Natural().size(), QSize(1, 1));
     }
@@ -160,7 +160,7 @@ private Q_SLOTS:
     void a_picture_of_1_by_10000_keeps_one_pixel_of_width()
     {
         const Picture line =
-            Picture::Load(folder_.Add(QStringLiteral("line.jpg"), Encoded(FourCorners({1, 10000}), "jpg")));
+            Picture::Load(folder_.Add(u"line.jpg"_s, Encoded(FourCorners({1, 10000}), "jpg")));
         QCOMPARE(line.NaturalSize(), QSize(1, 10000));
         QCOMPARE(line.Fitted({776, 470}).size(), QSize(1, 470));
         QCOMPARE(line.Natural().size(), QSize(1, 10000));
@@ -169,21 +169,21 @@ private Q_SLOTS:
     void a_picture_of_more_than_300_megapixels_is_refused_by_its_header()
     {
         const QByteArray small = Encoded(FourCorners({16, 16}), "jpg");
-        const QString path = folder_.Add(QStringLiteral("huge.jpg"), WithSize(small, 65500, 65500));
+        const QString path = folder_.Add(u"huge.jpg"_s, WithSize(small, 65500, 65500));
         QElapsedTimer watch;
         watch.start();
         QCOMPARE(ResumeNext([&] { Picture::Load(path); }), 481);
         QVERIFY2(watch.elapsed() < 1000, "so much was not decoded");
-        const QString just = folder_.Add(QStringLiteral("just.jpg"), WithSize(small, 20000, 15000));
+        const QString just = folder_.Add(u"just.jpg"_s, WithSize(small, 20000, 15000));
         QCOMPARE(Picture::Load(just).NaturalSize(), QSize(20000, 15000));
-        const QString over = folder_.Add(QStringLiteral("over.jpg"), WithSize(small, 20000, 15001));
+        const QString over = folder_.Add(u"over.jpg"_s, WithSize(small, 20000, 15001));
         QCOMPARE(ResumeNext([&] { Picture::Load(over); }), 481);
     }
 
     void a_picture_larger_than_the_platforms_own_limit_loads()
     {
-        const Picture large = Picture::Load(
-            folder_.Add(QStringLiteral("large.jpg"), Encoded(FourCorners({7000, 6000}), "jpg")));
+        const Picture large =
+            Picture::Load(folder_.Add(u"large.jpg"_s, Encoded(FourCorners({7000, 6000}), "jpg")));
         QCOMPARE(large.Natural().size(), QSize(7000, 6000)); // 160 MiB
         QCOMPARE(large.Fitted({700, 700}).size(), QSize(700, 600));
     }

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -26,26 +27,25 @@ private Q_SLOTS:
 
     void its_name_and_stored_properties_are_those_of_its_design()
     {
-        const CommonDialog plain(QStringLiteral("dlgPrint"));
-        QCOMPARE(plain.objectName(), QStringLiteral("dlgPrint"));
+        const CommonDialog plain(u"dlgPrint"_s);
+        QCOMPARE(plain.objectName(), u"dlgPrint"_s);
         QCOMPARE(plain.DefaultExt() + plain.DialogTitle() + plain.Filter() + plain.HelpFile(), QString());
         QCOMPARE(plain.Flags(), 0);
         QCOMPARE(plain.HelpCommand(), 0);
-        const CommonDialog stored(QStringLiteral("dlg"), {QStringLiteral("txt"), QStringLiteral("Open"),
-                                                          QStringLiteral("*.txt|*.txt")});
-        QCOMPARE(stored.DefaultExt(), QStringLiteral("txt"));
-        QCOMPARE(stored.DialogTitle(), QStringLiteral("Open"));
-        QCOMPARE(stored.Filter(), QStringLiteral("*.txt|*.txt"));
+        const CommonDialog stored(u"dlg"_s, {u"txt"_s, u"Open"_s, u"*.txt|*.txt"_s});
+        QCOMPARE(stored.DefaultExt(), u"txt"_s);
+        QCOMPARE(stored.DialogTitle(), u"Open"_s);
+        QCOMPARE(stored.Filter(), u"*.txt|*.txt"_s);
     }
 
     void what_is_set_is_read_back()
     {
-        CommonDialog dialog(QStringLiteral("dlg"));
+        CommonDialog dialog(u"dlg"_s);
         dialog.SetFlags(64);
-        dialog.SetHelpFile(QStringLiteral("C:\\Help.HLP"));
+        dialog.SetHelpFile(u"C:\\Help.HLP"_s);
         dialog.SetHelpCommand(3);
         QCOMPARE(dialog.Flags(), 64);
-        QCOMPARE(dialog.HelpFile(), QStringLiteral("C:\\Help.HLP"));
+        QCOMPARE(dialog.HelpFile(), u"C:\\Help.HLP"_s);
         QCOMPARE(dialog.HelpCommand(), 3);
     }
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
             Q_ASSERT(!choices.isEmpty());
             return std::optional(asked == 1 ? landscapeA5 : present);
         });
-        CommonDialog dialog(QStringLiteral("dlg"));
+        CommonDialog dialog(u"dlg"_s);
         dialog.SetAction(5);
         QCOMPARE(asked, 1);
         QCOMPARE(Printer.Setup(), landscapeA5);
@@ -70,7 +70,7 @@ private Q_SLOTS:
     {
         const PrinterSetup before = Printer.Setup();
         SetPrinterResponder([](const PrinterSetup&, const QList<PrinterOption>&) { return std::nullopt; });
-        CommonDialog(QStringLiteral("dlg")).SetAction(5);
+        CommonDialog(u"dlg"_s).SetAction(5);
         QCOMPARE(Printer.Setup(), before);
     }
 
@@ -83,8 +83,7 @@ private Q_SLOTS:
     void an_action_without_a_dialog_is_refused()
     {
         QFETCH(int, action);
-        QCOMPARE(ResumeNext([&] { CommonDialog(QStringLiteral("dlg")).SetAction(action); }),
-                 failure::invalidProperty);
+        QCOMPARE(ResumeNext([&] { CommonDialog(u"dlg"_s).SetAction(action); }), failure::invalidProperty);
     }
 };
 

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -16,9 +17,9 @@ const QPageSize a5(QPageSize::A5);
 const QPageSize letter(QPageSize::Letter);
 
 const QList<PrinterOption> choices{
-    {QStringLiteral("Laser"), QStringLiteral("Laser"), {letter, a4}},
-    {QStringLiteral("Inkjet"), QStringLiteral("Inkjet"), {a4, a5}},
-    {QString(), QStringLiteral("PDF files in /home"), {a4, letter, a5}},
+    {u"Laser"_s, u"Laser"_s, {letter, a4}},
+    {u"Inkjet"_s, u"Inkjet"_s, {a4, a5}},
+    {QString(), u"PDF files in /home"_s, {a4, letter, a5}},
 };
 
 QDialog* Shown()
@@ -64,13 +65,12 @@ private Q_SLOTS:
 
     void it_comes_up_with_what_is_set_up()
     {
-        const PrinterSetup present{QStringLiteral("Inkjet"), a5, QPageLayout::Landscape};
+        const PrinterSetup present{u"Inkjet"_s, a5, QPageLayout::Landscape};
         const auto chosen = Answer(present, [] {
-            QCOMPARE(Shown()->windowTitle(), QStringLiteral("Print Setup"));
+            QCOMPARE(Shown()->windowTitle(), u"Print Setup"_s);
             QCOMPARE(EntriesOf(Part<QComboBox>("Printer")),
-                     QStringList({QStringLiteral("Laser"), QStringLiteral("Inkjet"),
-                                  QStringLiteral("PDF files in /home")}));
-            QCOMPARE(Part<QComboBox>("Printer").currentText(), QStringLiteral("Inkjet"));
+                     QStringList({u"Laser"_s, u"Inkjet"_s, u"PDF files in /home"_s}));
+            QCOMPARE(Part<QComboBox>("Printer").currentText(), u"Inkjet"_s);
             QCOMPARE(EntriesOf(Part<QComboBox>("Paper")), QStringList({a4.name(), a5.name()}));
             QCOMPARE(Part<QComboBox>("Paper").currentText(), a5.name());
             QVERIFY(Part<QRadioButton>("Landscape").isChecked());
@@ -82,19 +82,19 @@ private Q_SLOTS:
 
     void what_the_user_chooses_comes_back()
     {
-        const auto chosen = Answer({QStringLiteral("Laser"), letter, QPageLayout::Landscape}, [] {
+        const auto chosen = Answer({u"Laser"_s, letter, QPageLayout::Landscape}, [] {
             Part<QComboBox>("Printer").setCurrentIndex(1);
             Part<QComboBox>("Paper").setCurrentIndex(1);
             QTest::mouseClick(&Part<QRadioButton>("Portrait"), Qt::LeftButton);
             Press("OK");
         });
         QVERIFY(chosen.has_value());
-        QCOMPARE(*chosen, (PrinterSetup{QStringLiteral("Inkjet"), a5, QPageLayout::Portrait}));
+        QCOMPARE(*chosen, (PrinterSetup{u"Inkjet"_s, a5, QPageLayout::Portrait}));
     }
 
     void another_printer_keeps_the_paper_where_it_has_it()
     {
-        const auto chosen = Answer({QStringLiteral("Laser"), a4}, [] {
+        const auto chosen = Answer({u"Laser"_s, a4}, [] {
             Part<QComboBox>("Printer").setCurrentIndex(2);
             Press("OK");
         });
@@ -104,7 +104,7 @@ private Q_SLOTS:
 
     void a_paper_that_the_printer_does_not_have_becomes_its_first()
     {
-        const auto chosen = Answer({QStringLiteral("Laser"), letter}, [] {
+        const auto chosen = Answer({u"Laser"_s, letter}, [] {
             Part<QComboBox>("Printer").setCurrentIndex(1);
             Press("OK");
         });
@@ -114,9 +114,9 @@ private Q_SLOTS:
 
     void a_printer_that_is_gone_gives_way_to_the_first()
     {
-        const auto chosen = Answer({QStringLiteral("Gone"), a4}, [] { Press("OK"); });
+        const auto chosen = Answer({u"Gone"_s, a4}, [] { Press("OK"); });
         QVERIFY(chosen.has_value());
-        QCOMPARE(chosen->Name, QStringLiteral("Laser"));
+        QCOMPARE(chosen->Name, u"Laser"_s);
     }
 
     void cancel_and_escape_bring_nothing_back()
@@ -135,8 +135,8 @@ private Q_SLOTS:
         Answer({}, [] {
             for (const char* name : {"Printer", "Paper", "Portrait", "Landscape"})
                 QCOMPARE(Part<QWidget>(name).accessibleName(), QString::fromLatin1(name));
-            QCOMPARE(Part<QPushButton>("OK").text(), QStringLiteral("OK"));
-            QCOMPARE(Part<QPushButton>("Cancel").text(), QStringLiteral("Cancel"));
+            QCOMPARE(Part<QPushButton>("OK").text(), u"OK"_s);
+            QCOMPARE(Part<QPushButton>("Cancel").text(), u"Cancel"_s);
             Press("Cancel");
         });
     }
@@ -146,7 +146,7 @@ private Q_SLOTS:
         SetPrinterResponder([](const PrinterSetup& present, const QList<PrinterOption>& offered) {
             return std::optional(PrinterSetup{offered.last().Name, present.Paper});
         });
-        const auto chosen = AskForPrinter({QStringLiteral("Laser"), letter}, choices);
+        const auto chosen = AskForPrinter({u"Laser"_s, letter}, choices);
         QVERIFY(chosen.has_value());
         QCOMPARE(*chosen, (PrinterSetup{QString(), letter}));
     }

@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -34,12 +35,12 @@ private Q_SLOTS:
     void the_first_line_opens_a_job_and_the_end_sends_it()
     {
         QVERIFY(!Printer.HasJob());
-        Printer.Print(QStringLiteral("A line"));
+        Printer.Print(u"A line"_s);
         QVERIFY(Printer.HasJob());
         Printer.EndDoc();
         QVERIFY(!Printer.HasJob());
-        QCOMPARE(printed_->Files(), QStringList(QStringLiteral("job-1.pdf")));
-        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("A line"));
+        QCOMPARE(printed_->Files(), QStringList(u"job-1.pdf"_s));
+        QCOMPARE(printed_->Pages(1).first().simplified(), u"A line"_s);
     }
 
     void an_end_without_a_job_does_nothing()
@@ -50,13 +51,12 @@ private Q_SLOTS:
 
     void jobs_are_numbered_in_turn()
     {
-        for (const QString& text : {QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")}) {
+        for (const QString& text : {u"one"_s, u"two"_s, u"three"_s}) {
             Printer.Print(text);
             Printer.EndDoc();
         }
-        QCOMPARE(printed_->Files(), QStringList({QStringLiteral("job-1.pdf"), QStringLiteral("job-2.pdf"),
-                                                 QStringLiteral("job-3.pdf")}));
-        QCOMPARE(printed_->Pages(2).first().simplified(), QStringLiteral("two"));
+        QCOMPARE(printed_->Files(), QStringList({u"job-1.pdf"_s, u"job-2.pdf"_s, u"job-3.pdf"_s}));
+        QCOMPARE(printed_->Pages(2).first().simplified(), u"two"_s);
     }
 
     void a_file_that_is_there_is_never_written_over()
@@ -65,27 +65,27 @@ private Q_SLOTS:
         QVERIFY(earlier.open(QIODevice::WriteOnly));
         earlier.write("kept");
         earlier.close();
-        QVERIFY(QFile::link(QStringLiteral("nowhere"), printed_->FileOf(2)));
-        Printer.Print(QStringLiteral("new"));
+        QVERIFY(QFile::link(u"nowhere"_s, printed_->FileOf(2)));
+        Printer.Print(u"new"_s);
         Printer.EndDoc();
         QVERIFY(earlier.open(QIODevice::ReadOnly));
         QCOMPARE(earlier.readAll(), QByteArray("kept"));
-        QCOMPARE(printed_->Pages(3).first().simplified(), QStringLiteral("new"));
+        QCOMPARE(printed_->Pages(3).first().simplified(), u"new"_s);
     }
 
     void a_folder_that_is_missing_is_made()
     {
-        Printer.PrintTo(printed_->Path() + QStringLiteral("/deep/er"));
-        Printer.Print(QStringLiteral("A line"));
+        Printer.PrintTo(printed_->Path() + u"/deep/er"_s);
+        Printer.Print(u"A line"_s);
         Printer.EndDoc();
-        QVERIFY(QFile::exists(printed_->Path() + QStringLiteral("/deep/er/job-1.pdf")));
+        QVERIFY(QFile::exists(printed_->Path() + u"/deep/er/job-1.pdf"_s));
     }
 
     void lines_stand_below_each_other_from_the_corner_of_the_printable_area()
     {
-        Printer.Print(QStringLiteral("H"));
-        Printer.Print(QStringLiteral("    "));
-        Printer.Print(QStringLiteral("H"));
+        Printer.Print(u"H"_s);
+        Printer.Print(u"    "_s);
+        Printer.Print(u"H"_s);
         Printer.EndDoc();
         const QRectF ink = InkOf(printed_->Image(1, 1));
         QVERIFY(ink.left() >= border - pixel && ink.left() < border + 60);
@@ -95,10 +95,10 @@ private Q_SLOTS:
 
     void a_new_page_begins_at_the_top_again()
     {
-        Printer.Print(QStringLiteral("first"));
-        Printer.Print(QStringLiteral("second"));
+        Printer.Print(u"first"_s);
+        Printer.Print(u"second"_s);
         Printer.NewPage();
-        Printer.Print(QStringLiteral("first"));
+        Printer.Print(u"first"_s);
         Printer.EndDoc();
         QCOMPARE(printed_->Pages(1).size(), 2);
         QCOMPARE(InkOf(printed_->Image(1, 2)).top(), InkOf(printed_->Image(1, 1)).top());
@@ -130,21 +130,21 @@ private Q_SLOTS:
 
     void a_folder_that_cannot_be_is_a_printer_error()
     {
-        Printer.PrintTo(QStringLiteral("/proc/nothing/here"));
-        QCOMPARE(ResumeNext([] { Printer.Print(QStringLiteral("lost")); }), failure::printerError);
+        Printer.PrintTo(u"/proc/nothing/here"_s);
+        QCOMPARE(ResumeNext([] { Printer.Print(u"lost"_s); }), failure::printerError);
         QVERIFY(!Printer.HasJob());
     }
 
     void a_folder_that_takes_no_file_is_a_printer_error()
     {
-        Printer.PrintTo(QStringLiteral("/proc"));
-        QCOMPARE(ResumeNext([] { Printer.Print(QStringLiteral("lost")); }), failure::printerError);
+        Printer.PrintTo(u"/proc"_s);
+        QCOMPARE(ResumeNext([] { Printer.Print(u"lost"_s); }), failure::printerError);
         QVERIFY(!Printer.HasJob());
     }
 
     void a_disk_that_is_full_is_a_printer_error_and_the_next_job_goes_out()
     {
-        Printer.Print(QStringLiteral("The letters of this line need more room than there is."));
+        Printer.Print(u"The letters of this line need more room than there is."_s);
         int failure = 0;
         {
             const FullDisk full(1500);
@@ -153,9 +153,9 @@ private Q_SLOTS:
         QCOMPARE(failure, failure::printerError);
         QVERIFY(!Printer.HasJob());
         QVERIFY(printed_->Files().isEmpty()); // no broken file stays
-        Printer.Print(QStringLiteral("better"));
+        Printer.Print(u"better"_s);
         Printer.EndDoc();
-        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("better"));
+        QCOMPARE(printed_->Pages(1).first().simplified(), u"better"_s);
     }
 
     void without_a_printer_and_a_folder_jobs_go_to_the_documents()
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QVERIFY(QPrinterInfo::defaultPrinter().isNull()); // the tests see none, whatever the machine has
         Printer.PrintTo({});
         const QString file = NextJobFile(DocumentsFolder());
-        Printer.Print(QStringLiteral("A line"));
+        Printer.Print(u"A line"_s);
         Printer.EndDoc();
         QVERIFY(IsWholeJobFile(file));
         QVERIFY(QFile::remove(file));
@@ -171,27 +171,27 @@ private Q_SLOTS:
 
     void a_job_takes_its_file_name_only_when_it_is_whole()
     {
-        Printer.Print(QStringLiteral("A line"));
-        QCOMPARE(printed_->Files(), QStringList(QStringLiteral("job-1.pdf.part")));
+        Printer.Print(u"A line"_s);
+        QCOMPARE(printed_->Files(), QStringList(u"job-1.pdf.part"_s));
         Printer.EndDoc();
-        QCOMPARE(printed_->Files(), QStringList(QStringLiteral("job-1.pdf")));
+        QCOMPARE(printed_->Files(), QStringList(u"job-1.pdf"_s));
     }
 
     void what_a_program_that_broke_off_left_is_written_over()
     {
-        QFile left(printed_->FileOf(1) + QStringLiteral(".part"));
+        QFile left(printed_->FileOf(1) + u".part"_s);
         QVERIFY(left.open(QIODevice::WriteOnly));
         left.write("%PDF-1.4 cut off");
         left.close();
-        Printer.Print(QStringLiteral("whole"));
+        Printer.Print(u"whole"_s);
         Printer.EndDoc();
-        QCOMPARE(printed_->Files(), QStringList(QStringLiteral("job-1.pdf")));
-        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("whole"));
+        QCOMPARE(printed_->Files(), QStringList(u"job-1.pdf"_s));
+        QCOMPARE(printed_->Pages(1).first().simplified(), u"whole"_s);
     }
 
     void a_name_that_is_taken_meanwhile_is_a_printer_error_and_the_file_stays()
     {
-        Printer.Print(QStringLiteral("late"));
+        Printer.Print(u"late"_s);
         QFile taken(printed_->FileOf(1));
         QVERIFY(taken.open(QIODevice::WriteOnly));
         taken.write("kept");
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(ResumeNext([] { Printer.EndDoc(); }), failure::printerError);
         QVERIFY(taken.open(QIODevice::ReadOnly));
         QCOMPARE(taken.readAll(), QByteArray("kept"));
-        QCOMPARE(printed_->Files(), QStringList(QStringLiteral("job-1.pdf")));
+        QCOMPARE(printed_->Files(), QStringList(u"job-1.pdf"_s));
     }
 
     void a_picture_stands_at_its_place_in_its_natural_size_data()
@@ -243,9 +243,9 @@ private Q_SLOTS:
 
     void a_picture_leaves_the_lines_where_they_are()
     {
-        Printer.Print(QStringLiteral("H"));
+        Printer.Print(u"H"_s);
         Printer.PaintPicture(RedPicture({10, 10}), 5000, 9000);
-        Printer.Print(QStringLiteral("H"));
+        Printer.Print(u"H"_s);
         Printer.EndDoc();
         const auto isBlack = [](const QColor& colour) { return colour.red() < 100; };
         QVERIFY(InkOf(printed_->Image(1, 1), isBlack).bottom() < border + 600);
@@ -255,7 +255,7 @@ private Q_SLOTS:
     {
         Printer.SetUp(PrinterSetup{{}, QPageSize(QPageSize::A5), QPageLayout::Landscape});
         for (int job = 1; job <= 2; ++job) {
-            Printer.Print(QStringLiteral("A line"));
+            Printer.Print(u"A line"_s);
             Printer.EndDoc();
             const QSizeF paper = printed_->Paper(job);
             QVERIFY(qAbs(paper.width() - 210 / 25.4 * 1440) <= 2 * pixel);
@@ -265,7 +265,7 @@ private Q_SLOTS:
 
     void a_job_that_is_open_keeps_its_paper()
     {
-        Printer.Print(QStringLiteral("first page"));
+        Printer.Print(u"first page"_s);
         const double width = Printer.Width();
         Printer.SetUp(PrinterSetup{{}, QPageSize(QPageSize::A5), QPageLayout::Landscape});
         Printer.NewPage();
@@ -280,27 +280,27 @@ private Q_SLOTS:
         const QList<PrinterOption> choices = Printer.Choices();
         QCOMPARE(choices.size(), 1); // the folder that the program was told takes every job
         QCOMPARE(choices.first().Name, QString());
-        QCOMPARE(choices.first().Title, QStringLiteral("PDF files in ") + printed_->Path());
+        QCOMPARE(choices.first().Title, u"PDF files in "_s + printed_->Path());
         QVERIFY(choices.first().Papers.contains(QPageSize(QPageSize::A4)));
         QVERIFY(choices.first().Papers.contains(QPageSize(QPageSize::Letter)));
         Printer.PrintTo({});
         QCOMPARE(Printer.Choices().size(), QPrinterInfo::availablePrinterNames().size() + 1);
-        QCOMPARE(Printer.Choices().last().Title, QStringLiteral("PDF files in ") + DocumentsFolder());
+        QCOMPARE(Printer.Choices().last().Title, u"PDF files in "_s + DocumentsFolder());
     }
 
     void a_folder_that_was_told_goes_before_a_printer_that_was_chosen()
     {
-        Printer.SetUp(PrinterSetup{QStringLiteral("Gone"), QPageSize(QPageSize::A4)});
-        Printer.Print(QStringLiteral("A line"));
+        Printer.SetUp(PrinterSetup{u"Gone"_s, QPageSize(QPageSize::A4)});
+        Printer.Print(u"A line"_s);
         Printer.EndDoc();
-        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("A line"));
+        QCOMPARE(printed_->Pages(1).first().simplified(), u"A line"_s);
     }
 
     void a_chosen_printer_that_is_gone_is_a_printer_error()
     {
         Printer.PrintTo({});
-        Printer.SetUp(PrinterSetup{QStringLiteral("Gone"), QPageSize(QPageSize::A4)});
-        QCOMPARE(ResumeNext([] { Printer.Print(QStringLiteral("lost")); }), failure::printerError);
+        Printer.SetUp(PrinterSetup{u"Gone"_s, QPageSize(QPageSize::A4)});
+        QCOMPARE(ResumeNext([] { Printer.Print(u"lost"_s); }), failure::printerError);
         QVERIFY(!Printer.HasJob());
     }
 
@@ -314,10 +314,9 @@ private:
             image.setDotsPerMeterY(qRound(dotsPerInch / 0.0254));
         }
         const QTemporaryDir folder;
-        if (!image.save(folder.filePath(QStringLiteral("picture")), format, 90))
+        if (!image.save(folder.filePath(u"picture"_s), format, 90))
             qFatal("cannot write a picture of the test");
-        return Picture::Load(QStringLiteral("C:") +
-                             folder.filePath(QStringLiteral("picture")).replace(u'/', u'\\'));
+        return Picture::Load(u"C:"_s + folder.filePath(u"picture"_s).replace(u'/', u'\\'));
     }
 
     /// Within a millimetre.
