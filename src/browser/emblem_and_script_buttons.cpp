@@ -1,5 +1,4 @@
-#include "browser/emblem_and_script_buttons.h"
-
+#include "browser/bind_browser.h"
 #include "browser/copy_to_clipboard.h"
 #include "browser/emblem_and_script.h"
 #include "program/next_year_button.h"

@@ -1,5 +1,6 @@
 #include "browser/next_and_previous_photo.h"
 
+#include "browser/bind_browser.h"
 #include "browser/photo_caption.h"
 #include "program/photo_list.h"
 #include "program/play_list_buttons.h"

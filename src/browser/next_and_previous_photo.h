@@ -10,7 +10,4 @@ void StepPhotoForward();
 /// When no photo has the code at all, nothing changes.
 void StepPhotoBackward();
 
-/// Ties the controls that step the photos to them.
-void BindNextAndPreviousPhoto();
-
 } // namespace torvik

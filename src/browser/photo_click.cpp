@@ -1,5 +1,4 @@
-#include "browser/photo_click.h"
-
+#include "browser/bind_browser.h"
 #include "browser/browse_from_start.h"
 #include "browser/select_year.h"
 #include "browser/year_buttons.h"

@@ -1,5 +1,4 @@
-#include "browser/show_file_names.h"
-
+#include "browser/bind_browser.h"
 #include "program/program_state.h"
 #include "runtime/text.h"
 #include "windows/main_window.h"

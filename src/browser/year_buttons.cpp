@@ -1,5 +1,6 @@
 #include "browser/year_buttons.h"
 
+#include "browser/bind_browser.h"
 #include "browser/browse_from_start.h"
 #include "browser/next_and_previous_photo.h"
 #include "browser/select_year.h"

@@ -7,7 +7,4 @@ namespace torvik {
 /// The year of a year button: 1 gives "1967", 35 gives "2001".
 QString YearOfButton(int index);
 
-/// Ties the year buttons to their handlers.
-void BindYearButtons();
-
 } // namespace torvik

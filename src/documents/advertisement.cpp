@@ -1,5 +1,4 @@
-#include "documents/advertisement.h"
-
+#include "documents/bind_documents.h"
 #include "documents/page_viewer.h"
 #include "program/keep_on_top.h"
 #include "program/program_state.h"

@@ -1,5 +1,6 @@
 #include "documents/article_viewer.h"
 
+#include "documents/bind_documents.h"
 #include "platform/files/files.h"
 #include "printing/rich_text_printing.h"
 #include "program/next_year_button.h"

@@ -17,7 +17,4 @@ void WidenOkButton();
 /// Failures are those of loading the document; the viewer is then loaded and hidden.
 void OpenViewer();
 
-/// Ties the viewer's Load, activation and buttons to their handlers.
-void BindArticleViewer();
-
 } // namespace torvik

@@ -1,6 +1,7 @@
 #include "documents/books_and_magazines.h"
 
 #include "documents/article_viewer.h"
+#include "documents/bind_documents.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"

@@ -12,7 +12,4 @@ void ShowMiscellaneous(int index);
 void ShowSiblingGuide();
 void ShowEngines();
 
-/// Ties the entries of the Literature, Miscellaneous and Help menus to their documents.
-void BindBooksAndMagazines();
-
 } // namespace torvik

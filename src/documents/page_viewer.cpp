@@ -1,5 +1,6 @@
 #include "documents/page_viewer.h"
 
+#include "documents/bind_documents.h"
 #include "runtime/failure.h"
 #include "runtime/integer16.h"
 #include "runtime/text.h"

@@ -6,7 +6,4 @@ namespace torvik {
 /// and hides what is shown.
 void TurnFullSizeViewOver();
 
-/// Ties frmScroll to its handlers: layout, scrolling, both views, closing.
-void BindPageViewer();
-
 } // namespace torvik

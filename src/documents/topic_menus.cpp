@@ -2,6 +2,7 @@
 
 #include "browser/browse_from_start.h"
 #include "browser/select_year.h"
+#include "documents/bind_documents.h"
 #include "program/program_state.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"

@@ -12,7 +12,4 @@ void ShowSpecialtyTopic(int index);
 void ShowCalendars();
 void ShowCollectorPlates();
 
-/// Ties the entries of the Artwork, Torvik Stuff and Specialty menus to their topics.
-void BindTopicMenus();
-
 } // namespace torvik

@@ -1,6 +1,5 @@
-#include "documents/year_articles.h"
-
 #include "documents/article_viewer.h"
+#include "documents/bind_documents.h"
 #include "documents/year_rule.h"
 #include "program/program_state.h"
 #include "program/report_error.h"

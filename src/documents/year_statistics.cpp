@@ -1,7 +1,6 @@
-#include "documents/year_statistics.h"
-
 #include "browser/photo_caption.h"
 #include "documents/article_viewer.h"
+#include "documents/bind_documents.h"
 #include "documents/year_rule.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"

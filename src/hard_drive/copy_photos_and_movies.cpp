@@ -1,5 +1,6 @@
 #include "hard_drive/copy_photos_and_movies.h"
 
+#include "hard_drive/bind_hard_drive.h"
 #include "hard_drive/copy_all_files.h"
 #include "hard_drive/copy_job.h"
 #include "hard_drive/free_space.h"

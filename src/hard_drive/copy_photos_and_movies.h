@@ -8,7 +8,4 @@ namespace torvik {
 /// message leave it as it is.
 void ShowCopyPanel();
 
-/// Ties the handlers of the copy panel and of its two menu entries.
-void BindCopyPhotosAndMovies();
-
 } // namespace torvik

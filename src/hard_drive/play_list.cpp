@@ -1,5 +1,4 @@
-#include "hard_drive/play_list.h"
-
+#include "hard_drive/bind_hard_drive.h"
 #include "hard_drive/copy_file.h"
 #include "platform/files/file_changes.h"
 #include "platform/paths/program_folder.h"

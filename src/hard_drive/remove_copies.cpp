@@ -1,5 +1,4 @@
-#include "hard_drive/remove_copies.h"
-
+#include "hard_drive/bind_hard_drive.h"
 #include "platform/files/file_changes.h"
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"

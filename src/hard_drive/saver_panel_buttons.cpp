@@ -1,6 +1,5 @@
-#include "hard_drive/saver_panel_buttons.h"
-
 #include "documents/article_viewer.h"
+#include "hard_drive/bind_hard_drive.h"
 #include "hard_drive/copy_photos_and_movies.h"
 #include "hard_drive/panel_over_year_bar.h"
 #include "hard_drive/windows_folder_name.h"

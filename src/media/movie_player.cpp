@@ -1,5 +1,4 @@
-#include "media/movie_player.h"
-
+#include "media/bind_media.h"
 #include "media/video_driver_offer.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"

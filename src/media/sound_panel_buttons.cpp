@@ -1,5 +1,4 @@
-#include "media/sound_panel_buttons.h"
-
+#include "media/bind_media.h"
 #include "platform/files/files.h"
 #include "program/program_state.h"
 #include "program/report_error.h"

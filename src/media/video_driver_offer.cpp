@@ -1,5 +1,6 @@
 #include "media/video_driver_offer.h"
 
+#include "media/bind_media.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "program/run_and_wait.h"

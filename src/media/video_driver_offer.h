@@ -8,7 +8,4 @@ namespace torvik {
 /// ended, `afterwards`. A failure is reported as ER003.
 void OfferDriver(const std::function<void()>& afterwards);
 
-/// The entry of the main menu that does so.
-void BindVideoDriverOffer();
-
 } // namespace torvik

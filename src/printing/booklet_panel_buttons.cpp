@@ -1,5 +1,4 @@
-#include "printing/booklet_panel_buttons.h"
-
+#include "printing/bind_printing.h"
 #include "printing/booklet.h"
 #include "program/program_state.h"
 #include "ui/forms/units.h"

@@ -1,5 +1,4 @@
-#include "printing/print_photo_and_setup.h"
-
+#include "printing/bind_printing.h"
 #include "program/program_state.h"
 #include "ui/forms/message_box.h"
 #include "ui/printer/printer.h"

@@ -1,5 +1,3 @@
-#include "slides/leave_slide_show.h"
-
 #include "browser/restore_main_window.h"
 #include "program/help_position.h"
 #include "program/play_list_buttons.h"
@@ -7,6 +5,7 @@
 #include "program/title_code.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
+#include "slides/bind_slides.h"
 #include "slides/shown_slide.h"
 #include "ui/forms/message_box.h"
 #include "windows/main_window.h"

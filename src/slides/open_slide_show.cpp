@@ -1,10 +1,9 @@
-#include "slides/open_slide_show.h"
-
 #include "program/keep_on_top.h"
 #include "program/program_state.h"
 #include "program/screen_size.h"
 #include "program/topic_catalogue.h"
 #include "runtime/text.h"
+#include "slides/bind_slides.h"
 #include "slides/shown_slide.h"
 #include "slides/small_screen_layout.h"
 #include "windows/main_window.h"

@@ -1,5 +1,4 @@
-#include "slides/slide_clock.h"
-
+#include "slides/bind_slides.h"
 #include "ui/forms/clock.h"
 #include "windows/slide_window.h"
 

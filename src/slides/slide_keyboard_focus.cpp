@@ -1,6 +1,5 @@
-#include "slides/slide_keyboard_focus.h"
-
 #include "program/program_state.h"
+#include "slides/bind_slides.h"
 #include "windows/slide_window.h"
 
 namespace torvik {

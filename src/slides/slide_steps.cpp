@@ -4,6 +4,7 @@
 #include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
+#include "slides/bind_slides.h"
 #include "slides/shown_slide.h"
 #include "windows/slide_window.h"
 

@@ -1,9 +1,8 @@
-#include "slides/slide_timer.h"
-
 #include "program/program_state.h"
 #include "program/slide_delay_steps.h"
 #include "program/topic_catalogue.h"
 #include "runtime/failure.h"
+#include "slides/bind_slides.h"
 #include "slides/shown_slide.h"
 #include "windows/slide_window.h"
 

@@ -8,6 +8,7 @@
 #include "program/task_bar.h"
 #include "program/topic_catalogue.h"
 #include "runtime/text.h"
+#include "start/bind_start.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/program_title.h"
 #include "ui/forms/screen.h"

@@ -10,7 +10,4 @@ QString DoubleAmpersands(const QString& text);
 /// Makes the panel of the copy progress invisible.
 void HideProgressPanel();
 
-/// Ties the life of the main window to its handlers: loading, first activation, resizing, closing.
-void BindMainWindowLife();
-
 } // namespace torvik

@@ -1,5 +1,3 @@
-#include "start/start_up.h"
-
 #include "browser/year_buttons.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
@@ -7,6 +5,7 @@
 #include "program/photo_list.h"
 #include "program/program_state.h"
 #include "program/screen_size.h"
+#include "start/bind_start.h"
 #include "start/disc_search.h"
 #include "ui/forms/message_box.h"
 #include "ui/forms/program_end.h"

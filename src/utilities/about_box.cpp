@@ -1,8 +1,7 @@
-#include "utilities/about_box.h"
-
 #include "program/program_state.h"
 #include "program/task_bar.h"
 #include "ui/desktop/shell_execute.h"
+#include "utilities/bind_utilities.h"
 #include "windows/about_window.h"
 #include "windows/main_window.h"
 #include "windows/maker.h"

@@ -1,10 +1,9 @@
-#include "utilities/display_check.h"
-
 #include "program/program_state.h"
 #include "program/screen_size.h"
 #include "runtime/text.h"
 #include "ui/forms/message_box.h"
 #include "ui/forms/screen.h"
+#include "utilities/bind_utilities.h"
 #include "windows/main_window.h"
 
 using namespace Qt::StringLiterals;

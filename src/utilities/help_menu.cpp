@@ -1,7 +1,6 @@
-#include "utilities/help_menu.h"
-
 #include "program/help_position.h"
 #include "ui/help/help_system.h"
+#include "utilities/bind_utilities.h"
 #include "windows/main_window.h"
 
 namespace torvik {

@@ -1,8 +1,7 @@
-#include "utilities/hide_task_bar.h"
-
 #include "program/program_state.h"
 #include "program/task_bar.h"
 #include "ui/forms/screen.h"
+#include "utilities/bind_utilities.h"
 #include "windows/main_window.h"
 
 using namespace Qt::StringLiterals;

@@ -5,6 +5,7 @@
 #include "platform/system/registry.h"
 #include "runtime/failure.h"
 #include "ui/forms/message_box.h"
+#include "utilities/bind_utilities.h"
 #include "windows/main_window.h"
 
 #include <optional>

@@ -1,9 +1,9 @@
 #include "av/media_reader.h"
 #include "bytes_in_memory.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <cmath>
 
@@ -284,5 +284,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(MediaReaderTest)
+TORVIK_GUILESS_TEST(MediaReaderTest)
 #include "media_reader_test.moc"

@@ -1,6 +1,7 @@
 #include "browser/copy_to_clipboard.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/controls/combo_box.h"
 #include "ui/controls/image.h"
 #include "ui/controls/list_box.h"
@@ -11,7 +12,6 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -221,5 +221,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(CopyToClipboardTest)
+TORVIK_TEST(CopyToClipboardTest)
 #include "copy_to_clipboard_test.moc"

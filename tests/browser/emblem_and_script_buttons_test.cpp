@@ -1,8 +1,7 @@
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -257,5 +256,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(EmblemAndScriptButtonsTest)
+TORVIK_TEST(EmblemAndScriptButtonsTest)
 #include "emblem_and_script_buttons_test.moc"

@@ -1,9 +1,8 @@
 #include "browser/emblem_and_script.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -215,5 +214,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(EmblemAndScriptTest)
+TORVIK_TEST(EmblemAndScriptTest)
 #include "emblem_and_script_test.moc"

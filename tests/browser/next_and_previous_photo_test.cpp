@@ -2,9 +2,8 @@
 #include "browser/select_year.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -279,5 +278,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(NextAndPreviousPhotoTest)
+TORVIK_TEST(NextAndPreviousPhotoTest)
 #include "next_and_previous_photo_test.moc"

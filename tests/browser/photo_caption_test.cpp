@@ -4,9 +4,8 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -120,5 +119,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(PhotoCaptionTest)
+TORVIK_TEST(PhotoCaptionTest)
 #include "photo_caption_test.moc"

@@ -1,12 +1,12 @@
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
 #include <QFileInfo>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -131,5 +131,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(PhotoClickTest)
+TORVIK_TEST(PhotoClickTest)
 #include "photo_click_test.moc"

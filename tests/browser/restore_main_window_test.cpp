@@ -1,11 +1,10 @@
 #include "browser/restore_main_window.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/article_window.h"
 #include "windows/main_window.h"
 #include "windows/slide_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -169,5 +168,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(RestoreMainWindowTest)
+TORVIK_TEST(RestoreMainWindowTest)
 #include "restore_main_window_test.moc"

@@ -1,12 +1,11 @@
 #include "browser/select_year.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -175,5 +174,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SelectYearTest)
+TORVIK_TEST(SelectYearTest)
 #include "select_year_test.moc"

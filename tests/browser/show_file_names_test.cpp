@@ -1,8 +1,7 @@
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -78,5 +77,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(ShowFileNamesTest)
+TORVIK_TEST(ShowFileNamesTest)
 #include "show_file_names_test.moc"

@@ -1,8 +1,7 @@
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -140,5 +139,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(YearButtonsTest)
+TORVIK_TEST(YearButtonsTest)
 #include "year_buttons_test.moc"

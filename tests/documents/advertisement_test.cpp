@@ -1,6 +1,7 @@
 #include "program/program_state.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
 #include "windows/main_window.h"
@@ -8,7 +9,6 @@
 #include "windows/play_list_window.h"
 
 #include <QDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -292,5 +292,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(AdvertisementTest)
+TORVIK_TEST(AdvertisementTest)
 #include "advertisement_test.moc"

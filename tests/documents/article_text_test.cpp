@@ -1,6 +1,7 @@
 #include "documents/article_viewer.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/article_window.h"
 
 #include <QAbstractScrollArea>
@@ -8,7 +9,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QScrollBar>
-#include <QTest>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
@@ -123,5 +123,5 @@ private:
     QAbstractScrollArea* pane_ = nullptr;
 };
 
-QTEST_MAIN(ArticleTextTest)
+TORVIK_TEST(ArticleTextTest)
 #include "article_text_test.moc"

@@ -4,6 +4,7 @@
 #include "support/modal_visit.h"
 #include "support/print_folder.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "support/viewer_visit.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/screen.h"
@@ -12,7 +13,6 @@
 #include "windows/main_window.h"
 
 #include <QApplication>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -336,5 +336,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(ArticleViewerTest)
+TORVIK_TEST(ArticleViewerTest)
 #include "article_viewer_test.moc"

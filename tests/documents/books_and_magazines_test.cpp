@@ -1,13 +1,13 @@
 #include "documents/books_and_magazines.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "support/viewer_visit.h"
 #include "ui/forms/form_window.h"
 #include "windows/article_window.h"
 #include "windows/main_window.h"
 
 #include <QAction>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -283,5 +283,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(BooksAndMagazinesTest)
+TORVIK_TEST(BooksAndMagazinesTest)
 #include "books_and_magazines_test.moc"

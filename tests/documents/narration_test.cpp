@@ -1,10 +1,9 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/article_window.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -112,5 +111,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(NarrationTest)
+TORVIK_TEST(NarrationTest)
 #include "narration_test.moc"

@@ -1,12 +1,11 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
 #include "windows/main_window.h"
 #include "windows/page_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -342,5 +341,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(PageViewerTest)
+TORVIK_TEST(PageViewerTest)
 #include "page_viewer_test.moc"

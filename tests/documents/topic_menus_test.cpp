@@ -1,12 +1,12 @@
 #include "documents/topic_menus.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 
 #include <QAction>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -136,5 +136,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(TopicMenusTest)
+TORVIK_TEST(TopicMenusTest)
 #include "topic_menus_test.moc"

@@ -1,11 +1,10 @@
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "support/viewer_visit.h"
 #include "ui/forms/screen.h"
 #include "windows/article_window.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -306,5 +305,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(YearArticlesTest)
+TORVIK_TEST(YearArticlesTest)
 #include "year_articles_test.moc"

@@ -1,10 +1,9 @@
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "support/viewer_visit.h"
 #include "windows/article_window.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -227,5 +226,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(YearStatisticsTest)
+TORVIK_TEST(YearStatisticsTest)
 #include "year_statistics_test.moc"

@@ -5,11 +5,10 @@
 #include "support/file_bytes.h"
 #include "support/file_size_limit.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/program_title.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 #include <sys/stat.h>
 
@@ -247,5 +246,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(CopyAllFilesTest)
+TORVIK_TEST(CopyAllFilesTest)
 #include "copy_all_files_test.moc"

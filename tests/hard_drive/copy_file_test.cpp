@@ -6,11 +6,10 @@
 #include "support/file_size_limit.h"
 #include "support/ordinary_user.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/program_title.h"
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
-
-#include <QTest>
 
 #include <limits>
 #include <sys/stat.h>
@@ -405,5 +404,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(CopyFileTest)
+TORVIK_TEST(CopyFileTest)
 #include "copy_file_test.moc"

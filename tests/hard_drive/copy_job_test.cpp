@@ -1,7 +1,6 @@
 #include "hard_drive/copy_job.h"
 #include "program/program_state.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -37,5 +36,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(CopyJobTest)
+TORVIK_TEST(CopyJobTest)
 #include "copy_job_test.moc"

@@ -6,13 +6,13 @@
 #include "support/each_round.h"
 #include "support/file_bytes.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/application.h"
 #include "ui/forms/program_end.h"
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
 #include <QApplication>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -353,5 +353,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(CopyPhotosAndMoviesTest)
+TORVIK_TEST(CopyPhotosAndMoviesTest)
 #include "copy_photos_and_movies_test.moc"

@@ -2,10 +2,10 @@
 #include "platform/files/disk_space.h"
 #include "support/failure_of.h"
 #include "support/message_script.h"
+#include "support/test_class.h"
 #include "ui/forms/program_title.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -111,5 +111,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FreeSpaceTest)
+TORVIK_TEST(FreeSpaceTest)
 #include "free_space_test.moc"

@@ -1,9 +1,8 @@
 #include "hard_drive/movie_list.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/program_end.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -96,5 +95,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(MovieListTest)
+TORVIK_TEST(MovieListTest)
 #include "movie_list_test.moc"

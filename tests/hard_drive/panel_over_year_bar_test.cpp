@@ -1,8 +1,7 @@
 #include "hard_drive/panel_over_year_bar.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -27,5 +26,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PanelOverYearBarTest)
+TORVIK_TEST(PanelOverYearBarTest)
 #include "panel_over_year_bar_test.moc"

@@ -1,10 +1,10 @@
-#include "hard_drive/play_list.h"
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
 #include "support/each_round.h"
 #include "support/file_bytes.h"
 #include "support/ordinary_user.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/desktop/clipboard.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
@@ -15,7 +15,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -342,5 +341,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(PlayListTest)
+TORVIK_TEST(PlayListTest)
 #include "play_list_test.moc"

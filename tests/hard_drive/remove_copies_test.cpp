@@ -1,14 +1,12 @@
-#include "hard_drive/remove_copies.h"
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
 #include "support/file_bytes.h"
 #include "support/ordinary_user.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/program_title.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 #include <sys/stat.h>
 
@@ -210,5 +208,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(RemoveCopiesTest)
+TORVIK_TEST(RemoveCopiesTest)
 #include "remove_copies_test.moc"

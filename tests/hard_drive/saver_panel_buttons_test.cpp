@@ -4,6 +4,7 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "support/viewer_visit.h"
 #include "support/while_waiting.h"
 #include "ui/forms/program_end.h"
@@ -12,7 +13,6 @@
 #include "windows/play_list_window.h"
 
 #include <QAbstractButton>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -716,5 +716,5 @@ private:
     QByteArray configBefore_;
 };
 
-QTEST_MAIN(SaverPanelButtonsTest)
+TORVIK_TEST(SaverPanelButtonsTest)
 #include "saver_panel_buttons_test.moc"

@@ -1,8 +1,7 @@
 #include "hard_drive/windows_folder_name.h"
 #include "platform/paths/program_folder.h"
 #include "support/failure_of.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -74,5 +73,5 @@ private:
     QByteArray before_;
 };
 
-QTEST_GUILESS_MAIN(WindowsFolderNameTest)
+TORVIK_GUILESS_TEST(WindowsFolderNameTest)
 #include "windows_folder_name_test.moc"

@@ -3,6 +3,7 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "support/movie_visit.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
@@ -12,7 +13,6 @@
 
 #include <QAbstractButton>
 #include <QFile>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -357,5 +357,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(MoviePlayerTest)
+TORVIK_TEST(MoviePlayerTest)
 #include "movie_player_test.moc"

@@ -1,10 +1,9 @@
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
 #include "ui/forms/form_window.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -237,5 +236,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SoundPanelButtonsTest)
+TORVIK_TEST(SoundPanelButtonsTest)
 #include "sound_panel_buttons_test.moc"

@@ -1,9 +1,9 @@
 #include "program/program_state.h"
 #include "support/movie_visit.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
 
 #include <QFile>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -142,5 +142,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(VideoDriverOfferTest)
+TORVIK_TEST(VideoDriverOfferTest)
 #include "video_driver_offer_test.moc"

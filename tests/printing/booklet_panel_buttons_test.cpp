@@ -2,10 +2,10 @@
 #include "support/menu_choice.h"
 #include "support/print_folder.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
 
 #include <QListWidget>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -230,5 +230,5 @@ private:
     std::unique_ptr<PrintFolder> printed_;
 };
 
-QTEST_MAIN(BookletPanelButtonsTest)
+TORVIK_TEST(BookletPanelButtonsTest)
 #include "booklet_panel_buttons_test.moc"

@@ -2,11 +2,10 @@
 #include "runtime/failure.h"
 #include "support/booklet_run.h"
 #include "support/full_disk.h"
+#include "support/test_class.h"
 #include "ui/forms/screen.h"
 #include "ui/printer/printer.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -252,5 +251,5 @@ private:
     std::unique_ptr<BookletRun> run_;
 };
 
-QTEST_MAIN(BookletRefusalsTest)
+TORVIK_TEST(BookletRefusalsTest)
 #include "booklet_refusals_test.moc"

@@ -1,10 +1,9 @@
 #include "program/program_state.h"
 #include "support/booklet_run.h"
+#include "support/test_class.h"
 #include "ui/forms/screen.h"
 #include "ui/printer/printer.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -254,5 +253,5 @@ private:
     std::unique_ptr<BookletRun> run_;
 };
 
-QTEST_MAIN(BookletTest)
+TORVIK_TEST(BookletTest)
 #include "booklet_test.moc"

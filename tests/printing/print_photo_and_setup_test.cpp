@@ -2,13 +2,13 @@
 #include "support/menu_choice.h"
 #include "support/print_folder.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/program_end.h"
 #include "ui/printer/printer.h"
 #include "ui/printer/printer_dialog.h"
 #include "windows/main_window.h"
 
 #include <QProcess>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -235,5 +235,5 @@ private:
     std::unique_ptr<PrintFolder> printed_;
 };
 
-QTEST_MAIN(PrintPhotoAndSetupTest)
+TORVIK_TEST(PrintPhotoAndSetupTest)
 #include "print_photo_and_setup_test.moc"

@@ -2,11 +2,11 @@
 #include "runtime/failure.h"
 #include "support/print_folder.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/printer/printer.h"
 #include "windows/article_window.h"
 
 #include <QBuffer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -342,5 +342,5 @@ private:
     std::unique_ptr<PrintFolder> printed_;
 };
 
-QTEST_MAIN(RichTextPrintingTest)
+TORVIK_TEST(RichTextPrintingTest)
 #include "rich_text_printing_test.moc"

@@ -1,7 +1,6 @@
 #include "program/error_catalogue.h"
 #include "program/program_state.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -92,5 +91,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ErrorCatalogueTest)
+TORVIK_TEST(ErrorCatalogueTest)
 #include "error_catalogue_test.moc"

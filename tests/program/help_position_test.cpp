@@ -1,9 +1,9 @@
 #include "platform/paths/program_folder.h"
 #include "program/help_position.h"
 #include "program/program_state.h"
+#include "support/test_class.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -60,5 +60,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(HelpPositionTest)
+TORVIK_TEST(HelpPositionTest)
 #include "help_position_test.moc"

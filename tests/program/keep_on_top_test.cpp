@@ -1,8 +1,7 @@
 #include "program/keep_on_top.h"
+#include "support/test_class.h"
 #include "ui/forms/form.h"
 #include "ui/forms/form_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -68,5 +67,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(KeepOnTopTest)
+TORVIK_TEST(KeepOnTopTest)
 #include "keep_on_top_test.moc"

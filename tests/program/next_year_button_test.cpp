@@ -2,9 +2,8 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -54,5 +53,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(NextYearButtonTest)
+TORVIK_TEST(NextYearButtonTest)
 #include "next_year_button_test.moc"

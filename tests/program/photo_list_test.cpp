@@ -2,11 +2,11 @@
 #include "program/photo_list.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/program_end.h"
 #include "windows/main_window.h"
 
 #include <QFile>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -202,5 +202,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(PhotoListTest)
+TORVIK_TEST(PhotoListTest)
 #include "photo_list_test.moc"

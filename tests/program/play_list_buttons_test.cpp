@@ -2,10 +2,9 @@
 #include "program/play_list_buttons.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -71,5 +70,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(PlayListButtonsTest)
+TORVIK_TEST(PlayListButtonsTest)
 #include "play_list_buttons_test.moc"

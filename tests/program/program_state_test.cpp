@@ -1,7 +1,6 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -69,5 +68,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ProgramStateTest)
+TORVIK_APPLESS_TEST(ProgramStateTest)
 #include "program_state_test.moc"

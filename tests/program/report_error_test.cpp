@@ -2,10 +2,9 @@
 #include "program/report_error.h"
 #include "runtime/failure.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/program_end.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -148,5 +147,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(ReportErrorTest)
+TORVIK_TEST(ReportErrorTest)
 #include "report_error_test.moc"

@@ -1,8 +1,8 @@
 #include "program/run_and_wait.h"
 #include "runtime/failure.h"
+#include "support/test_class.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -40,5 +40,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(RunAndWaitTest)
+TORVIK_TEST(RunAndWaitTest)
 #include "run_and_wait_test.moc"

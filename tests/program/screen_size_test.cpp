@@ -1,8 +1,7 @@
 #include "program/screen_size.h"
 #include "runtime/failure.h"
+#include "support/test_class.h"
 #include "ui/forms/screen.h"
-
-#include <QTest>
 
 using namespace torvik;
 
@@ -37,5 +36,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ScreenSizeTest)
+TORVIK_TEST(ScreenSizeTest)
 #include "screen_size_test.moc"

@@ -1,6 +1,5 @@
 #include "program/slide_delay_steps.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -82,5 +81,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(SlideDelayStepsTest)
+TORVIK_TEST(SlideDelayStepsTest)
 #include "slide_delay_steps_test.moc"

@@ -1,9 +1,8 @@
 #include "program/program_state.h"
 #include "program/title_code.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -68,5 +67,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(TitleCodeTest)
+TORVIK_TEST(TitleCodeTest)
 #include "title_code_test.moc"

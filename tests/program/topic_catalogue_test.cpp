@@ -3,10 +3,9 @@
 #include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
 #include "windows/slide_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -170,5 +169,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(TopicCatalogueTest)
+TORVIK_TEST(TopicCatalogueTest)
 #include "topic_catalogue_test.moc"

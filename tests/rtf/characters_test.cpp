@@ -1,6 +1,5 @@
 #include "documents.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -224,5 +223,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(CharactersTest)
+TORVIK_TEST(CharactersTest)
 #include "characters_test.moc"

@@ -1,6 +1,5 @@
 #include "rtf/code_page.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -65,5 +64,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(CodePageTest)
+TORVIK_GUILESS_TEST(CodePageTest)
 #include "code_page_test.moc"

@@ -1,6 +1,5 @@
 #include "rtf/color_table.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -51,5 +50,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ColorTableTest)
+TORVIK_GUILESS_TEST(ColorTableTest)
 #include "color_table_test.moc"

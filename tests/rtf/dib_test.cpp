@@ -1,7 +1,6 @@
 #include "picture_bytes.h"
 #include "rtf/dib.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -144,5 +143,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DibTest)
+TORVIK_GUILESS_TEST(DibTest)
 #include "dib_test.moc"

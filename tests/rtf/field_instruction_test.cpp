@@ -1,6 +1,5 @@
 #include "rtf/field_instruction.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -55,5 +54,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FieldInstructionTest)
+TORVIK_GUILESS_TEST(FieldInstructionTest)
 #include "field_instruction_test.moc"

@@ -1,6 +1,5 @@
 #include "documents.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -108,5 +107,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FieldsTest)
+TORVIK_TEST(FieldsTest)
 #include "fields_test.moc"

@@ -1,8 +1,8 @@
 #include "documents.h"
 #include "picture_bytes.h"
+#include "support/test_class.h"
 
 #include <QFile>
-#include <QTest>
 
 using namespace torvik::rtf;
 
@@ -214,5 +214,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(HostileTest)
+TORVIK_TEST(HostileTest)
 #include "hostile_test.moc"

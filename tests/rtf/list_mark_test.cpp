@@ -1,7 +1,6 @@
 #include "rtf/list_mark.h"
 #include "rtf/list_table.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -79,5 +78,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ListMarkTest)
+TORVIK_GUILESS_TEST(ListMarkTest)
 #include "list_mark_test.moc"

@@ -1,6 +1,6 @@
 #include "documents.h"
+#include "support/test_class.h"
 
-#include <QTest>
 #include <QTextList>
 
 using namespace torvik::rtf;
@@ -111,5 +111,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ListsTest)
+TORVIK_TEST(ListsTest)
 #include "lists_test.moc"

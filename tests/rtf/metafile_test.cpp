@@ -1,7 +1,6 @@
 #include "picture_bytes.h"
 #include "rtf/metafile.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -301,5 +300,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MetafileTest)
+TORVIK_TEST(MetafileTest)
 #include "metafile_test.moc"

@@ -1,6 +1,6 @@
 #include "documents.h"
+#include "support/test_class.h"
 
-#include <QTest>
 #include <QTextFrame>
 #include <QTextLayout>
 #include <QTextTable>
@@ -190,5 +190,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ParagraphsTest)
+TORVIK_TEST(ParagraphsTest)
 #include "paragraphs_test.moc"

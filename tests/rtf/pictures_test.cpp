@@ -1,9 +1,9 @@
 #include "documents.h"
 #include "picture_bytes.h"
+#include "support/test_class.h"
 
 #include <QBuffer>
 #include <QImage>
-#include <QTest>
 #include <QUrl>
 
 using namespace torvik::rtf;
@@ -194,5 +194,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PicturesTest)
+TORVIK_TEST(PicturesTest)
 #include "pictures_test.moc"

@@ -1,6 +1,6 @@
 #include "documents.h"
+#include "support/test_class.h"
 
-#include <QTest>
 #include <QUrl>
 
 using namespace torvik::rtf;
@@ -94,5 +94,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(RtfReaderTest)
+TORVIK_TEST(RtfReaderTest)
 #include "rtf_reader_test.moc"

@@ -1,7 +1,6 @@
 #include "documents.h"
 #include "rtf/style_sheet.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -102,5 +101,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(StyleSheetTest)
+TORVIK_TEST(StyleSheetTest)
 #include "style_sheet_test.moc"

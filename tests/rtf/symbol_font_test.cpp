@@ -1,6 +1,5 @@
 #include "rtf/symbol_font.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -48,5 +47,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SymbolFontTest)
+TORVIK_GUILESS_TEST(SymbolFontTest)
 #include "symbol_font_test.moc"

@@ -1,6 +1,6 @@
 #include "documents.h"
+#include "support/test_class.h"
 
-#include <QTest>
 #include <QTextTable>
 
 using namespace torvik::rtf;
@@ -198,5 +198,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TablesTest)
+TORVIK_TEST(TablesTest)
 #include "tables_test.moc"

@@ -1,6 +1,5 @@
 #include "rtf/tokenizer.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -107,5 +106,5 @@ private Q_SLOTS:
     void a_lone_backslash_at_the_end_is_the_end() { QVERIFY(Tokenizer("\\").Next().kind == TokenKind::End); }
 };
 
-QTEST_GUILESS_MAIN(TokenizerTest)
+TORVIK_GUILESS_TEST(TokenizerTest)
 #include "tokenizer_test.moc"

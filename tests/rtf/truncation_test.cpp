@@ -1,7 +1,6 @@
 #include "documents.h"
 #include "picture_bytes.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik::rtf;
 
@@ -94,5 +93,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TruncationTest)
+TORVIK_TEST(TruncationTest)
 #include "truncation_test.moc"

@@ -1,6 +1,5 @@
 #include "runtime/failure.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <vector>
 
@@ -170,5 +169,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FailureTest)
+TORVIK_TEST(FailureTest)
 #include "failure_test.moc"

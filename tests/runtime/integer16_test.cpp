@@ -1,7 +1,6 @@
 #include "runtime/integer16.h"
 #include "support/failure_of.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <limits>
 
@@ -60,5 +59,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(Integer16Test)
+TORVIK_TEST(Integer16Test)
 #include "integer16_test.moc"

@@ -1,8 +1,8 @@
 #include "runtime/one_based_array.h"
 #include "support/failure_of.h"
+#include "support/test_class.h"
 
 #include <QString>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -64,5 +64,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(OneBasedArrayTest)
+TORVIK_TEST(OneBasedArrayTest)
 #include "one_based_array_test.moc"

@@ -1,7 +1,6 @@
 #include "runtime/text.h"
 #include "support/failure_of.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <cmath>
 #include <limits>
@@ -197,5 +196,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TextTest)
+TORVIK_TEST(TextTest)
 #include "text_test.moc"

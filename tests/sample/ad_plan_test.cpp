@@ -5,11 +5,11 @@
 #include "sample/documents/model_years.h"
 #include "sample/documents/options.h"
 #include "sample/documents/text_store.h"
+#include "support/test_class.h"
 
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 using namespace torvik::sample;
 
@@ -111,5 +111,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(AdPlanTest)
+TORVIK_TEST(AdPlanTest)
 #include "ad_plan_test.moc"

@@ -3,10 +3,10 @@
 #include "sample/artwork/emblem_art.h"
 #include "sample/artwork/script_art.h"
 #include "sample/jpeg_file.h"
+#include "support/test_class.h"
 
 #include <QGuiApplication>
 #include <QSet>
-#include <QTest>
 
 using namespace torvik::sample;
 
@@ -124,5 +124,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ArtPlanTest)
+TORVIK_TEST(ArtPlanTest)
 #include "art_plan_test.moc"

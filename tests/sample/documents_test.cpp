@@ -2,11 +2,11 @@
 #include "sample/documents/document_plan.h"
 #include "sample/documents/model_years.h"
 #include "sample/documents/options.h"
+#include "support/test_class.h"
 
 #include <QGuiApplication>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -298,5 +298,5 @@ void DocumentsTest::TheDocumentsAreWrittenIntoTheirFolder()
     QCOMPARE(first.readAll(), Find(QStringLiteral("67desc.rtf"))->text);
 }
 
-QTEST_MAIN(DocumentsTest)
+TORVIK_TEST(DocumentsTest)
 #include "documents_test.moc"

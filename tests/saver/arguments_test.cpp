@@ -1,6 +1,5 @@
 #include "saver/arguments.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -145,5 +144,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ArgumentsTest)
+TORVIK_APPLESS_TEST(ArgumentsTest)
 #include "arguments_test.moc"

@@ -1,9 +1,8 @@
 #include "saver/frames.h"
 #include "support/failure_of.h"
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "ui/pictures/picture.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -117,5 +116,5 @@ private:
     PictureFolder folder_;
 };
 
-QTEST_MAIN(FramesTest)
+TORVIK_TEST(FramesTest)
 #include "frames_test.moc"

@@ -1,6 +1,5 @@
 #include "saver/information.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -28,5 +27,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InformationTest)
+TORVIK_APPLESS_TEST(InformationTest)
 #include "information_test.moc"

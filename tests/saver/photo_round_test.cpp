@@ -1,7 +1,6 @@
 #include "saver/photo_round.h"
 #include "support/disc_folder.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -109,5 +108,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PhotoRoundTest)
+TORVIK_GUILESS_TEST(PhotoRoundTest)
 #include "photo_round_test.moc"

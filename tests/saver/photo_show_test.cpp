@@ -1,9 +1,8 @@
 #include "saver/fade.h"
 #include "saver/photo_show.h"
 #include "support/disc_folder.h"
+#include "support/test_class.h"
 #include "support/test_disc.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -239,5 +238,5 @@ private:
     std::unique_ptr<DiscFolder> disc_;
 };
 
-QTEST_MAIN(PhotoShowTest)
+TORVIK_TEST(PhotoShowTest)
 #include "photo_show_test.moc"

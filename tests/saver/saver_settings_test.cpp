@@ -1,9 +1,9 @@
 #include "platform/system/settings_store.h"
 #include "saver/saver_settings.h"
+#include "support/test_class.h"
 #include "ui/forms/program_title.h"
 
 #include <QFile>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -103,5 +103,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SaverSettingsTest)
+TORVIK_GUILESS_TEST(SaverSettingsTest)
 #include "saver_settings_test.moc"

@@ -1,12 +1,12 @@
 #include "saver/covered_screens.h"
 #include "saver/show_runner.h"
 #include "support/disc_folder.h"
+#include "support/test_class.h"
 #include "support/test_disc.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScreen>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -151,16 +151,15 @@ private:
     const QString drive_ = u"E:\\"_s;
 };
 
-int main(int argc, char** argv)
+void LayOutTwoScreens()
 {
-    QTemporaryDir folder;
+    static const QTemporaryDir folder;
     QFile configuration(folder.filePath(u"screens.json"_s));
     if (!configuration.open(QIODevice::WriteOnly) || configuration.write(twoScreens) != twoScreens.size())
-        return 1;
+        qFatal("cannot write the layout of the screens");
     configuration.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + configuration.fileName().toLocal8Bit());
-    QApplication application(argc, argv);
-    ShowRunnerTest test;
-    return QTest::qExec(&test, argc, argv);
 }
+
+TORVIK_TEST_AFTER(ShowRunnerTest, LayOutTwoScreens)
 #include "show_runner_test.moc"

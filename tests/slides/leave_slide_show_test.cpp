@@ -1,5 +1,6 @@
 #include "program/help_position.h"
 #include "support/slide_visit.h"
+#include "support/test_class.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/program_end.h"
 #include "windows/play_list_window.h"
@@ -425,5 +426,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(LeaveSlideShowTest)
+TORVIK_TEST(LeaveSlideShowTest)
 #include "leave_slide_show_test.moc"

@@ -1,4 +1,5 @@
 #include "support/slide_visit.h"
+#include "support/test_class.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/program_end.h"
 #include "windows/play_list_window.h"
@@ -230,5 +231,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(OpenSlideShowTest)
+TORVIK_TEST(OpenSlideShowTest)
 #include "open_slide_show_test.moc"

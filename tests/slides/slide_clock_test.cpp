@@ -1,4 +1,5 @@
 #include "support/slide_visit.h"
+#include "support/test_class.h"
 #include "ui/forms/clock.h"
 
 #include <QLocale>
@@ -85,5 +86,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SlideClockTest)
+TORVIK_TEST(SlideClockTest)
 #include "slide_clock_test.moc"

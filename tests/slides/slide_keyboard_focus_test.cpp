@@ -1,4 +1,5 @@
 #include "support/slide_visit.h"
+#include "support/test_class.h"
 #include "ui/forms/program_end.h"
 
 using namespace Qt::StringLiterals;
@@ -133,5 +134,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SlideKeyboardFocusTest)
+TORVIK_TEST(SlideKeyboardFocusTest)
 #include "slide_keyboard_focus_test.moc"

@@ -1,4 +1,5 @@
 #include "support/slide_visit.h"
+#include "support/test_class.h"
 #include "ui/forms/program_end.h"
 
 using namespace Qt::StringLiterals;
@@ -272,5 +273,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SlideStepsTest)
+TORVIK_TEST(SlideStepsTest)
 #include "slide_steps_test.moc"

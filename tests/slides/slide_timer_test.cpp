@@ -1,4 +1,5 @@
 #include "support/slide_visit.h"
+#include "support/test_class.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/program_end.h"
 
@@ -331,5 +332,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SlideTimerTest)
+TORVIK_TEST(SlideTimerTest)
 #include "slide_timer_test.moc"

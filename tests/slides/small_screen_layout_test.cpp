@@ -1,10 +1,9 @@
 #include "program/program_state.h"
 #include "slides/small_screen_layout.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "windows/slide_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -112,5 +111,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SmallScreenLayoutTest)
+TORVIK_TEST(SmallScreenLayoutTest)
 #include "small_screen_layout_test.moc"

@@ -1,6 +1,5 @@
 #include "start/command_line.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -80,5 +79,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(CommandLineTest)
+TORVIK_TEST(CommandLineTest)
 #include "command_line_test.moc"

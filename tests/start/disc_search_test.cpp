@@ -3,13 +3,12 @@
 #include "platform/system/settings_store.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/program_title.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -161,5 +160,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(DiscSearchTest)
+TORVIK_TEST(DiscSearchTest)
 #include "disc_search_test.moc"

@@ -3,14 +3,13 @@
 #include "program/task_bar.h"
 #include "start/main_window_life.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/program_title.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -283,5 +282,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(MainWindowLifeTest)
+TORVIK_TEST(MainWindowLifeTest)
 #include "main_window_life_test.moc"

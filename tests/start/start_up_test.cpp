@@ -2,14 +2,13 @@
 #include "program/program_state.h"
 #include "support/other_instance.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -168,5 +167,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(StartUpTest)
+TORVIK_TEST(StartUpTest)
 #include "start_up_test.moc"

@@ -1,10 +1,10 @@
 #include "support/program.h"
 
-#include "bind_handlers.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "platform/system/single_instance.h"
 #include "program/program_state.h"
+#include "support/bind_room.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/event.h"
 #include "ui/forms/form.h"
@@ -27,7 +27,7 @@ namespace {
 void BindOnce()
 {
     static const bool bound = [] {
-        BindHandlers();
+        BindRoom();
         return true;
     }();
     Q_UNUSED(bound)

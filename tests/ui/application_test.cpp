@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/application.h"
 #include "ui/controls/button.h"
@@ -114,5 +115,5 @@ private:
     std::unique_ptr<Application> application_;
 };
 
-QTEST_APPLESS_MAIN(ApplicationTest)
+TORVIK_APPLESS_TEST(ApplicationTest)
 #include "application_test.moc"

@@ -2,11 +2,10 @@
 #include "support/desktop.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "windows/about_window.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -157,5 +156,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(AboutBoxTest)
+TORVIK_TEST(AboutBoxTest)
 #include "about_box_test.moc"

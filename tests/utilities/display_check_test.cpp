@@ -1,8 +1,7 @@
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -73,5 +72,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(DisplayCheckTest)
+TORVIK_TEST(DisplayCheckTest)
 #include "display_check_test.moc"

@@ -1,9 +1,9 @@
 #include "platform/paths/program_folder.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
 
 #include <QApplication>
-#include <QTest>
 #include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
@@ -64,5 +64,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(HelpMenuTest)
+TORVIK_TEST(HelpMenuTest)
 #include "help_menu_test.moc"

@@ -1,9 +1,8 @@
 #include "program/program_state.h"
 #include "program/task_bar.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -77,5 +76,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(HideTaskBarTest)
+TORVIK_TEST(HideTaskBarTest)
 #include "hide_task_bar_test.moc"

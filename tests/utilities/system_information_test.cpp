@@ -1,9 +1,9 @@
 #include "platform/system/registry.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
 
 #include <QFile>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -137,5 +137,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SystemInformationTest)
+TORVIK_TEST(SystemInformationTest)
 #include "system_information_test.moc"

@@ -1,8 +1,8 @@
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
 
 #include <QLabel>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -132,5 +132,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(BookletPanelTest)
+TORVIK_TEST(BookletPanelTest)
 #include "booklet_panel_test.moc"

@@ -1,7 +1,6 @@
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -46,5 +45,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(CopyPanelTest)
+TORVIK_TEST(CopyPanelTest)
 #include "copy_panel_test.moc"

@@ -1,10 +1,10 @@
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "windows/main_window.h"
 
 #include <QMenu>
 #include <QMenuBar>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -104,5 +104,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MainMenuTest)
+TORVIK_TEST(MainMenuTest)
 #include "main_menu_test.moc"

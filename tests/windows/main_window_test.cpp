@@ -1,9 +1,8 @@
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "windows/article_window.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -200,5 +199,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(MainWindowTest)
+TORVIK_TEST(MainWindowTest)
 #include "main_window_test.moc"

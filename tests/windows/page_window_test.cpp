@@ -1,7 +1,6 @@
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/page_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -50,5 +49,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(PageWindowTest)
+TORVIK_TEST(PageWindowTest)
 #include "page_window_test.moc"

@@ -1,7 +1,6 @@
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -64,5 +63,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SaverPanelTest)
+TORVIK_TEST(SaverPanelTest)
 #include "saver_panel_test.moc"

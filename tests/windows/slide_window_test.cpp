@@ -1,5 +1,6 @@
 #include "program/program_state.h"
 #include "support/slide_visit.h"
+#include "support/test_class.h"
 #include "windows/slide_window.h"
 
 using namespace Qt::StringLiterals;
@@ -136,5 +137,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SlideWindowTest)
+TORVIK_TEST(SlideWindowTest)
 #include "slide_window_test.moc"

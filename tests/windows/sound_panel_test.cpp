@@ -1,7 +1,6 @@
 #include "support/program.h"
+#include "support/test_class.h"
 #include "windows/main_window.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -71,5 +70,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SoundPanelTest)
+TORVIK_TEST(SoundPanelTest)
 #include "sound_panel_test.moc"

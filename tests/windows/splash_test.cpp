@@ -1,9 +1,9 @@
 #include "support/program.h"
+#include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/screen.h"
 #include "windows/splash.h"
 
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -53,5 +53,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SplashTest)
+TORVIK_TEST(SplashTest)
 #include "splash_test.moc"

@@ -3,8 +3,7 @@
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
 #include "support/ordinary_user.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <sys/resource.h>
 
@@ -121,5 +120,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(BinaryFileTest)
+TORVIK_TEST(BinaryFileTest)
 #include "binary_file_test.moc"

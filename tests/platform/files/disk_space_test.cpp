@@ -2,9 +2,9 @@
 #include "platform/paths/drives.h"
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
+#include "support/test_class.h"
 
 #include <QStorageInfo>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -65,5 +65,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(DiskSpaceTest)
+TORVIK_TEST(DiskSpaceTest)
 #include "disk_space_test.moc"

@@ -3,8 +3,7 @@
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
 #include "support/ordinary_user.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <sys/resource.h>
 
@@ -193,5 +192,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FileChangesTest)
+TORVIK_TEST(FileChangesTest)
 #include "file_changes_test.moc"

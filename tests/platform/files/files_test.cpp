@@ -2,8 +2,7 @@
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
 #include "support/ordinary_user.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <sys/resource.h>
 
@@ -361,5 +360,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FilesTest)
+TORVIK_TEST(FilesTest)
 #include "files_test.moc"

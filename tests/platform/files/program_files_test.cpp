@@ -1,11 +1,11 @@
 #include "platform/files/program_files.h"
 #include "platform/paths/program_folder.h"
+#include "support/test_class.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -105,5 +105,5 @@ private:
     std::unique_ptr<QTemporaryDir> own_;
 };
 
-QTEST_MAIN(ProgramFilesTest)
+TORVIK_TEST(ProgramFilesTest)
 #include "program_files_test.moc"

@@ -1,8 +1,7 @@
 #include "platform/files/system_failure.h"
 #include "runtime/failure.h"
 #include "support/disc_folder.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <cerrno>
 #include <utility>
@@ -42,5 +41,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(SystemFailureTest)
+TORVIK_TEST(SystemFailureTest)
 #include "system_failure_test.moc"

@@ -1,6 +1,5 @@
 #include "platform/paths/drive_option.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -39,5 +38,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(DriveOptionTest)
+TORVIK_APPLESS_TEST(DriveOptionTest)
 #include "drive_option_test.moc"

@@ -2,8 +2,7 @@
 #include "platform/paths/program_folder.h"
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -276,5 +275,5 @@ private:
     QTemporaryDir program_;
 };
 
-QTEST_MAIN(DrivesTest)
+TORVIK_TEST(DrivesTest)
 #include "drives_test.moc"

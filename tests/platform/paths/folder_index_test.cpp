@@ -1,7 +1,6 @@
 #include "platform/paths/folder_index.h"
 #include "support/disc_folder.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik;
 using namespace std::chrono_literals;
@@ -113,5 +112,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FolderIndexTest)
+TORVIK_TEST(FolderIndexTest)
 #include "folder_index_test.moc"

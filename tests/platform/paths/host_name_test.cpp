@@ -1,7 +1,7 @@
 #include "platform/paths/host_name.h"
+#include "support/test_class.h"
 
 #include <QSet>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -110,5 +110,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(HostNameTest)
+TORVIK_TEST(HostNameTest)
 #include "host_name_test.moc"

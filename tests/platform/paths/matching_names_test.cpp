@@ -1,7 +1,6 @@
 #include "platform/paths/matching_names.h"
 #include "support/disc_folder.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <algorithm>
 
@@ -38,5 +37,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MatchingNamesTest)
+TORVIK_TEST(MatchingNamesTest)
 #include "matching_names_test.moc"

@@ -1,6 +1,5 @@
 #include "platform/paths/name_pattern.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -82,5 +81,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(NamePatternTest)
+TORVIK_TEST(NamePatternTest)
 #include "name_pattern_test.moc"

@@ -1,8 +1,7 @@
 #include "platform/paths/path_lookup.h"
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik;
 
@@ -169,5 +168,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PathLookupTest)
+TORVIK_TEST(PathLookupTest)
 #include "path_lookup_test.moc"

@@ -1,12 +1,12 @@
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "support/failure_of.h"
+#include "support/test_class.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -91,5 +91,5 @@ private:
     std::unique_ptr<QTemporaryDir> home_;
 };
 
-QTEST_MAIN(ProgramFolderTest)
+TORVIK_TEST(ProgramFolderTest)
 #include "program_folder_test.moc"

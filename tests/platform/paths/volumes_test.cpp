@@ -1,6 +1,5 @@
 #include "platform/paths/volumes.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -136,5 +135,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(VolumesTest)
+TORVIK_TEST(VolumesTest)
 #include "volumes_test.moc"

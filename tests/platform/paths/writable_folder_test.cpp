@@ -1,8 +1,7 @@
 #include "platform/paths/writable_folder.h"
 #include "support/disc_folder.h"
 #include "support/ordinary_user.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -51,5 +50,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(WritableFolderTest)
+TORVIK_TEST(WritableFolderTest)
 #include "writable_folder_test.moc"

@@ -1,6 +1,5 @@
 #include "platform/system/arguments_of.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <array>
 
@@ -24,5 +23,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ArgumentsOfTest)
+TORVIK_APPLESS_TEST(ArgumentsOfTest)
 #include "arguments_of_test.moc"

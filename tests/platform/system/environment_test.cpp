@@ -1,6 +1,5 @@
 #include "platform/system/environment.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace torvik;
 
@@ -28,5 +27,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EnvironmentTest)
+TORVIK_TEST(EnvironmentTest)
 #include "environment_test.moc"

@@ -1,6 +1,5 @@
 #include "platform/system/foreign_windows.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -34,5 +33,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ForeignWindowsTest)
+TORVIK_APPLESS_TEST(ForeignWindowsTest)
 #include "foreign_windows_test.moc"

@@ -1,10 +1,10 @@
 #include "platform/system/print_jobs.h"
 #include "runtime/failure.h"
+#include "support/test_class.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -150,5 +150,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(PrintJobsTest)
+TORVIK_GUILESS_TEST(PrintJobsTest)
 #include "print_jobs_test.moc"

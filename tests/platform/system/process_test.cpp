@@ -1,8 +1,7 @@
 #include "platform/system/process.h"
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -139,5 +138,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ProcessTest)
+TORVIK_TEST(ProcessTest)
 #include "process_test.moc"

@@ -1,7 +1,7 @@
 #include "platform/system/registry.h"
+#include "support/test_class.h"
 
 #include <QMap>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -149,5 +149,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(RegistryTest)
+TORVIK_TEST(RegistryTest)
 #include "registry_test.moc"

@@ -1,10 +1,10 @@
 #include "platform/system/settings_store.h"
 #include "support/failure_of.h"
+#include "support/test_class.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -198,5 +198,5 @@ private:
     std::unique_ptr<QTemporaryDir> home_;
 };
 
-QTEST_MAIN(SettingsStoreTest)
+TORVIK_TEST(SettingsStoreTest)
 #include "settings_store_test.moc"

@@ -1,10 +1,10 @@
 #include "platform/system/process.h"
 #include "platform/system/single_instance.h"
+#include "support/test_class.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 #include <sys/stat.h>
@@ -160,5 +160,5 @@ private:
     std::unique_ptr<QTemporaryDir> home_;
 };
 
-QTEST_MAIN(SingleInstanceTest)
+TORVIK_TEST(SingleInstanceTest)
 #include "single_instance_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/look/button_widget.h"
@@ -181,5 +182,5 @@ private:
     int clicks_ = 0;
 };
 
-QTEST_MAIN(ButtonTest)
+TORVIK_TEST(ButtonTest)
 #include "button_test.moc"

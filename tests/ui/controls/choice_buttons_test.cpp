@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/choice_buttons.h"
 #include "ui/controls/frame.h"
@@ -134,5 +135,5 @@ private:
     QStringList clicks_;
 };
 
-QTEST_MAIN(ChoiceButtonsTest)
+TORVIK_TEST(ChoiceButtonsTest)
 #include "choice_buttons_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/combo_box.h"
 
@@ -43,5 +44,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(ComboBoxTest)
+TORVIK_TEST(ComboBoxTest)
 #include "combo_box_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/frame.h"
@@ -55,5 +56,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(FrameTest)
+TORVIK_TEST(FrameTest)
 #include "frame_test.moc"

@@ -1,4 +1,5 @@
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/image.h"
 #include "ui/controls/picture_box.h"
@@ -199,5 +200,5 @@ private:
     PictureFolder folder_;
 };
 
-QTEST_MAIN(ImageTest)
+TORVIK_TEST(ImageTest)
 #include "image_test.moc"

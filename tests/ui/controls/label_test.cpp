@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/label.h"
 
@@ -68,5 +69,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(LabelTest)
+TORVIK_TEST(LabelTest)
 #include "label_test.moc"

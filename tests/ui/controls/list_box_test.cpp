@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/list_box.h"
 
@@ -147,5 +148,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(ListBoxTest)
+TORVIK_TEST(ListBoxTest)
 #include "list_box_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/panel.h"
@@ -161,5 +162,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(PanelTest)
+TORVIK_TEST(PanelTest)
 #include "panel_test.moc"

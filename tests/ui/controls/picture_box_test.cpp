@@ -1,4 +1,5 @@
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/picture_box.h"
 
@@ -131,5 +132,5 @@ private:
     PictureFolder folder_;
 };
 
-QTEST_MAIN(PictureBoxTest)
+TORVIK_TEST(PictureBoxTest)
 #include "picture_box_test.moc"

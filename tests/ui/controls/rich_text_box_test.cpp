@@ -1,5 +1,6 @@
 #include "support/desktop.h"
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/rich_text_box.h"
 
@@ -118,5 +119,5 @@ private:
     PictureFolder folder_;
 };
 
-QTEST_MAIN(RichTextBoxTest)
+TORVIK_TEST(RichTextBoxTest)
 #include "rich_text_box_test.moc"

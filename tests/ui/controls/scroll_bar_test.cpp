@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/scroll_bar.h"
 
@@ -139,5 +140,5 @@ private:
     int changes_ = 0;
 };
 
-QTEST_MAIN(ScrollBarTest)
+TORVIK_TEST(ScrollBarTest)
 #include "scroll_bar_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/picture_box.h"
@@ -171,5 +172,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(ScrollInputTest)
+TORVIK_TEST(ScrollInputTest)
 #include "scroll_input_test.moc"

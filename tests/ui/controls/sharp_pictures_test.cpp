@@ -1,4 +1,5 @@
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/image.h"
@@ -77,11 +78,10 @@ private:
     PictureFolder folder_;
 };
 
-int main(int argc, char** argv)
+void DoubleTheScale()
 {
     qputenv("QT_SCALE_FACTOR", "2");
-    QApplication application(argc, argv);
-    SharpPicturesTest test;
-    return QTest::qExec(&test, argc, argv);
 }
+
+TORVIK_TEST_AFTER(SharpPicturesTest, DoubleTheScale)
 #include "sharp_pictures_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/spin_button.h"
 #include "ui/look/button_widget.h"
@@ -144,5 +145,5 @@ private:
     int downs_ = 0;
 };
 
-QTEST_MAIN(SpinButtonTest)
+TORVIK_TEST(SpinButtonTest)
 #include "spin_button_test.moc"

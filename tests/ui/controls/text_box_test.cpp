@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/text_box.h"
 
@@ -84,5 +85,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(TextBoxTest)
+TORVIK_TEST(TextBoxTest)
 #include "text_box_test.moc"

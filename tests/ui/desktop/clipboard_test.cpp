@@ -1,4 +1,5 @@
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/picture_box.h"
 #include "ui/desktop/clipboard.h"
@@ -140,5 +141,5 @@ private:
     PictureFolder folder_;
 };
 
-QTEST_MAIN(ClipboardTest)
+TORVIK_TEST(ClipboardTest)
 #include "clipboard_test.moc"

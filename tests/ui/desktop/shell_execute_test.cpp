@@ -1,7 +1,6 @@
 #include "support/desktop.h"
+#include "support/test_class.h"
 #include "ui/desktop/shell_execute.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -29,5 +28,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ShellExecuteTest)
+TORVIK_TEST(ShellExecuteTest)
 #include "shell_execute_test.moc"

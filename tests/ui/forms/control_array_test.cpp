@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/forms/control_array.h"
@@ -68,5 +69,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(ControlArrayTest)
+TORVIK_TEST(ControlArrayTest)
 #include "control_array_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/frame.h"
@@ -357,5 +358,5 @@ private:
     QStringList log_;
 };
 
-QTEST_MAIN(ControlTest)
+TORVIK_TEST(ControlTest)
 #include "control_test.moc"

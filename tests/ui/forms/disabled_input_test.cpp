@@ -1,4 +1,5 @@
 #include "support/message_script.h"
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/list_box.h"
@@ -171,5 +172,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(DisabledInputTest)
+TORVIK_TEST(DisabledInputTest)
 #include "disabled_input_test.moc"

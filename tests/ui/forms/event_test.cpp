@@ -1,4 +1,5 @@
 #include "support/message_script.h"
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/forms/event.h"
 
@@ -133,5 +134,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(EventTest)
+TORVIK_TEST(EventTest)
 #include "event_test.moc"

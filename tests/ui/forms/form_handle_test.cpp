@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/forms/timer.h"
@@ -300,5 +301,5 @@ private:
     QStringList calls_;
 };
 
-QTEST_MAIN(FormHandleTest)
+TORVIK_TEST(FormHandleTest)
 #include "form_handle_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/panel.h"
@@ -340,5 +341,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(FormTest)
+TORVIK_TEST(FormTest)
 #include "form_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/list_box.h"
@@ -150,5 +151,5 @@ private:
     int cancels_ = 0;
 };
 
-QTEST_MAIN(FormWindowTest)
+TORVIK_TEST(FormWindowTest)
 #include "form_window_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/forms/form_window.h"
@@ -101,5 +102,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(InputHoldTest)
+TORVIK_TEST(InputHoldTest)
 #include "input_hold_test.moc"

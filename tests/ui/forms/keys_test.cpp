@@ -1,8 +1,8 @@
+#include "support/test_class.h"
 #include "ui/forms/control.h"
 #include "ui/forms/keys.h"
 
 #include <QKeyEvent>
-#include <QTest>
 
 using namespace torvik;
 
@@ -66,5 +66,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(KeysTest)
+TORVIK_APPLESS_TEST(KeysTest)
 #include "keys_test.moc"

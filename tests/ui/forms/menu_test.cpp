@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/forms/menu.h"
 
@@ -192,5 +193,5 @@ private:
     QStringList clicked_;
 };
 
-QTEST_MAIN(MenuTest)
+TORVIK_TEST(MenuTest)
 #include "menu_test.moc"

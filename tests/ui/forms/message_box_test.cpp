@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/spin_button.h"
@@ -329,5 +330,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(MessageBoxTest)
+TORVIK_TEST(MessageBoxTest)
 #include "message_box_test.moc"

@@ -1,9 +1,9 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/panel.h"
 #include "ui/forms/paint_pace.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -91,5 +91,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PaintPaceTest)
+TORVIK_TEST(PaintPaceTest)
 #include "paint_pace_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/application.h"
 #include "ui/controls/button.h"
@@ -128,5 +129,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(ProgramEndTest)
+TORVIK_TEST(ProgramEndTest)
 #include "program_end_test.moc"

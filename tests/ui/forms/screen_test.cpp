@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/image.h"
@@ -190,5 +191,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(ScreenTest)
+TORVIK_TEST(ScreenTest)
 #include "screen_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/image.h"
@@ -114,5 +115,5 @@ private:
     QStringList log_;
 };
 
-QTEST_MAIN(TabStopTest)
+TORVIK_TEST(TabStopTest)
 #include "tab_stop_test.moc"

@@ -1,4 +1,5 @@
 #include "support/message_script.h"
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/forms/message_box.h"
 #include "ui/forms/timer.h"
@@ -235,5 +236,5 @@ private:
     int ticks_ = 0;
 };
 
-QTEST_MAIN(TimerTest)
+TORVIK_TEST(TimerTest)
 #include "timer_test.moc"

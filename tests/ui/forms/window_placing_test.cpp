@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 
 #include <QScreen>
@@ -240,5 +241,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(WindowPlacingTest)
+TORVIK_TEST(WindowPlacingTest)
 #include "window_placing_test.moc"

@@ -1,11 +1,11 @@
 #include "platform/paths/drives.h"
 #include "support/message_script.h"
+#include "support/test_class.h"
 #include "ui/help/help_system.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -77,5 +77,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(HelpSystemTest)
+TORVIK_TEST(HelpSystemTest)
 #include "help_system_test.moc"

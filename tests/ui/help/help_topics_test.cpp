@@ -1,7 +1,7 @@
 #include "rtf/rtf_reader.h"
+#include "support/test_class.h"
 #include "ui/help/help_topics.h"
 
-#include <QTest>
 #include <QTextDocument>
 
 using namespace Qt::StringLiterals;
@@ -41,5 +41,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(HelpTopicsTest)
+TORVIK_TEST(HelpTopicsTest)
 #include "help_topics_test.moc"

@@ -1,5 +1,6 @@
 #include "rtf/rtf_reader.h"
 #include "support/desktop.h"
+#include "support/test_class.h"
 #include "ui/help/help_viewer.h"
 #include "ui/look/look.h"
 
@@ -9,7 +10,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTest>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
@@ -190,5 +190,5 @@ private:
     QPointer<HelpViewer> window_;
 };
 
-QTEST_MAIN(HelpViewerTest)
+TORVIK_TEST(HelpViewerTest)
 #include "help_viewer_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "ui/look/look.h"
 #include "ui/look/look_style.h"
 
@@ -10,7 +11,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -108,5 +108,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(LookStyleTest)
+TORVIK_TEST(LookStyleTest)
 #include "look_style_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/look/look.h"
 
@@ -210,5 +211,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(LookTest)
+TORVIK_TEST(LookTest)
 #include "look_test.moc"

@@ -1,3 +1,4 @@
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/look/button_widget.h"
 #include "ui/media/media_bar.h"
@@ -287,5 +288,5 @@ private:
     QStringList pressed_;
 };
 
-QTEST_MAIN(MediaBarTest)
+TORVIK_TEST(MediaBarTest)
 #include "media_bar_test.moc"

@@ -1,5 +1,6 @@
 #include "runtime/failure.h"
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
 #include "support/ui_room.h"
 #include "ui/controls/image.h"
@@ -501,5 +502,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(MediaControlTest)
+TORVIK_TEST(MediaControlTest)
 #include "media_control_test.moc"

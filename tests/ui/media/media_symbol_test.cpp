@@ -1,9 +1,9 @@
+#include "support/test_class.h"
 #include "ui/look/look.h"
 #include "ui/media/media_symbol.h"
 
 #include <QImage>
 #include <QPainter>
-#include <QTest>
 
 using namespace torvik;
 
@@ -133,5 +133,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MediaSymbolTest)
+TORVIK_TEST(MediaSymbolTest)
 #include "media_symbol_test.moc"

@@ -1,4 +1,5 @@
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
 #include "support/ui_room.h"
 #include "ui/forms/clock.h"
@@ -209,5 +210,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(MmControlTest)
+TORVIK_TEST(MmControlTest)
 #include "mm_control_test.moc"

@@ -1,7 +1,7 @@
+#include "support/test_class.h"
 #include "ui/media/video_pane.h"
 
 #include <QApplication>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -71,5 +71,5 @@ private:
     }
 };
 
-QTEST_MAIN(VideoPaneTest)
+TORVIK_TEST(VideoPaneTest)
 #include "video_pane_test.moc"

@@ -1,7 +1,6 @@
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "ui/pictures/picture_end.h"
-
-#include <QTest>
 
 using namespace torvik;
 
@@ -111,5 +110,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(PictureEndTest)
+TORVIK_APPLESS_TEST(PictureEndTest)
 #include "picture_end_test.moc"

@@ -1,9 +1,9 @@
 #include "runtime/failure.h"
 #include "support/picture_bytes.h"
+#include "support/test_class.h"
 #include "ui/pictures/picture.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 #include <QTransform>
 
 using namespace Qt::StringLiterals;
@@ -192,5 +192,5 @@ private:
     PictureFolder folder_;
 };
 
-QTEST_GUILESS_MAIN(PictureTest)
+TORVIK_GUILESS_TEST(PictureTest)
 #include "picture_test.moc"

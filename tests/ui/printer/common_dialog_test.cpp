@@ -1,9 +1,8 @@
 #include "runtime/failure.h"
+#include "support/test_class.h"
 #include "ui/printer/common_dialog.h"
 #include "ui/printer/printer.h"
 #include "ui/printer/printer_dialog.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -87,5 +86,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(CommonDialogTest)
+TORVIK_TEST(CommonDialogTest)
 #include "common_dialog_test.moc"

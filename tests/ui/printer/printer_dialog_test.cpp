@@ -1,4 +1,5 @@
 #include "support/modal_visit.h"
+#include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/printer/printer_dialog.h"
 
@@ -167,5 +168,5 @@ private:
     std::unique_ptr<UiRoom> room_;
 };
 
-QTEST_MAIN(PrinterDialogTest)
+TORVIK_TEST(PrinterDialogTest)
 #include "printer_dialog_test.moc"

@@ -2,6 +2,7 @@
 #include "runtime/failure.h"
 #include "support/full_disk.h"
 #include "support/print_folder.h"
+#include "support/test_class.h"
 #include "ui/pictures/picture.h"
 #include "ui/printer/printer.h"
 #include "ui/printer/printer_dialog.h"
@@ -12,7 +13,6 @@
 #include <QPainter>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -335,5 +335,5 @@ private:
     std::unique_ptr<PrintFolder> printed_;
 };
 
-QTEST_MAIN(PrinterTest)
+TORVIK_TEST(PrinterTest)
 #include "printer_test.moc"

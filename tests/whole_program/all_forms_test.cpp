@@ -1,4 +1,5 @@
 #include "support/all_forms.h"
+#include "support/test_class.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -261,5 +262,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(AllFormsTest)
+TORVIK_TEST(AllFormsTest)
 #include "all_forms_test.moc"

@@ -1,4 +1,5 @@
 #include "support/all_forms.h"
+#include "support/test_class.h"
 
 #include <QApplication>
 
@@ -159,5 +160,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(AllFormsKeyboardTest)
+TORVIK_TEST(AllFormsKeyboardTest)
 #include "all_forms_keyboard_test.moc"
