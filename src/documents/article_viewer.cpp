@@ -3,6 +3,7 @@
 #include "documents/bind_documents.h"
 #include "platform/files/files.h"
 #include "printing/rich_text_printing.h"
+#include "program/box_title.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
@@ -18,8 +19,6 @@ using namespace Qt::StringLiterals;
 namespace torvik {
 
 namespace {
-
-const QString boxTitle = u"The Torvik Vollandry"_s;
 
 constexpr int printMargin = 1440; // twips
 

@@ -5,6 +5,7 @@
 #include "hard_drive/movie_list.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
+#include "program/box_title.h"
 #include "program/photo_list.h"
 #include "program/program_state.h"
 #include "runtime/failure.h"
@@ -20,8 +21,6 @@ using namespace Qt::StringLiterals;
 namespace torvik {
 
 namespace {
-
-const QString boxTitle = u"The Torvik Vollandry"_s;
 
 QString NameOfPhoto(int index)
 {

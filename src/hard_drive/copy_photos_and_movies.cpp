@@ -6,6 +6,7 @@
 #include "hard_drive/free_space.h"
 #include "hard_drive/panel_over_year_bar.h"
 #include "platform/paths/program_folder.h"
+#include "program/box_title.h"
 #include "program/photo_list.h"
 #include "program/program_state.h"
 #include "ui/forms/message_box.h"
@@ -16,8 +17,6 @@ using namespace Qt::StringLiterals;
 namespace torvik {
 
 namespace {
-
-const QString boxTitle = u"The Torvik Vollandry"_s;
 
 void PlacePanel()
 {

@@ -118,14 +118,14 @@ void MMControl1_StopClick()
     device.Command(u"prev"_s);
 }
 
-void SSCommand1_Click()
+void frmMovie_SSCommand1_Click()
 {
     frmMovie.Unload();
     Form1->SetEnabled(true);
     FocusNextYearButton();
 }
 
-void SSCommand2_Click()
+void frmMovie_SSCommand2_Click()
 {
     OfferDriver([] {
         frmMovie.Unload();
@@ -152,8 +152,8 @@ void BindMoviePlayer()
         player.ButtonClick(MediaButton::Next) = gives("next");
         player.ButtonClick(MediaButton::Play) = gives("play");
         player.ButtonClick(MediaButton::Stop) = MMControl1_StopClick;
-        form.SSCommand1.Click = SSCommand1_Click;
-        form.SSCommand2.Click = SSCommand2_Click;
+        form.SSCommand1.Click = frmMovie_SSCommand1_Click;
+        form.SSCommand2.Click = frmMovie_SSCommand2_Click;
     });
 }
 

@@ -1,6 +1,7 @@
 #include "printing/booklet.h"
 
 #include "printing/rich_text_printing.h"
+#include "program/box_title.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"
@@ -16,7 +17,6 @@ namespace torvik {
 
 namespace {
 
-const QString boxTitle = u"The Torvik Vollandry"_s;
 const QString textFolder = u"\\RichText\\"_s;
 
 constexpr int margin = 1440; // twips

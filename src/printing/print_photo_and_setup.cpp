@@ -10,7 +10,7 @@ namespace torvik {
 
 namespace {
 
-const QString blank = u" "_s;
+const QString emptyLine = u" "_s;
 const QString indent = u"            "_s;
 
 constexpr int linesAbove = 8;
@@ -24,11 +24,11 @@ void mnuPrintPhoto_Click()
     if (state.MessageResult != msgbox::answerOk)
         return;
     for (state.LoopIndex = 1; state.LoopIndex <= linesAbove; state.LoopIndex += 1)
-        Printer.Print(blank);
+        Printer.Print(emptyLine);
     Printer.Print(indent + u"The Torvik Vollandry 2001"_s);
-    Printer.Print(blank);
+    Printer.Print(emptyLine);
     Printer.Print(indent + Form1->panYear.Caption());
-    Printer.Print(blank);
+    Printer.Print(emptyLine);
     Printer.PaintPicture(Form1->Image4.Picture(), photoX, photoY);
     Printer.EndDoc();
 }

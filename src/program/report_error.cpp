@@ -1,5 +1,6 @@
 #include "program/report_error.h"
 
+#include "program/box_title.h"
 #include "program/error_catalogue.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"
@@ -14,7 +15,6 @@ namespace torvik {
 
 namespace {
 
-const QString boxTitle = u"The Torvik Vollandry"_s;
 const QString blankLine = u"\r\n\r\n"_s;
 
 QString MessageOf(const CatalogueEntry& entry)

@@ -8,8 +8,6 @@ namespace torvik {
 
 namespace {
 
-constexpr int titleSize = 20; // pixels
-
 const char* const withoutYear[] = {" Cover", " Introduction"};
 const char* const byYear[] = {" Clip art", " Description", " Details", " Engines", " Options", " Colors"};
 
@@ -56,7 +54,7 @@ PrintPanel::PrintPanel(Form& form)
 {
     List1(0).SetSpokenAs(Label4.Caption());
     List1(1).SetSpokenAs(Label6.Caption());
-    Label3.SetCaptionFont(titleSize, true, look::accent);
+    Label3.SetCaptionFont(look::panelTitleSize, true, look::accent);
     Image3.Show(Picture::FromResource(u":/assets/icon.png"_s));
     Picture3.Hide();
     rtbText.Hide();

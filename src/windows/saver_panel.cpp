@@ -8,7 +8,6 @@ namespace torvik {
 
 namespace {
 
-constexpr int titleSize = 20;   // pixels
 constexpr int headingSize = 15; // pixels
 
 ControlArray<OptionButton> MakeOptions(Panel& panel)
@@ -35,7 +34,7 @@ SaverPanel::SaverPanel(Form& form)
       SSCommand6(pnlSSaver, u"SSCommand6"_s, {4200, 3120, 1860, 420}, u"Cancel"_s)
 {
     Option1(0).SetValue(true);
-    Label7.SetCaptionFont(titleSize, true, look::accent);
+    Label7.SetCaptionFont(look::panelTitleSize, true, look::accent);
     Label8.SetCaptionFont(headingSize, true);
     SpinInterval.SetToolTip(u"Set Slide Show Delay"_s);
     SpinInterval.SetSpokenAs(u"Longer delay"_s, u"Shorter delay"_s);

@@ -88,8 +88,7 @@ SoundPanel::SoundPanel(Form& form)
       SSCommand3(pnlSound, u"SSCommand3"_s, {3240, 4830, 2100, 420}, u"Stop"_s),
       SSCommand1(pnlSound, u"SSCommand1"_s, {5520, 4830, 2100, 420}, u"Close"_s)
 {
-    constexpr int titleSize = 20; // pixels
-    Label10.SetCaptionFont(titleSize, true, look::accent);
+    Label10.SetCaptionFont(look::panelTitleSize, true, look::accent);
     Picture5.Show(Picture::FromResource(u":/assets/sound_wave.png"_s));
     pnlSound.Hide();
 }

@@ -13,6 +13,14 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
+/// The drive path of something in the folder that stands as drive E:.
+inline QString On(const char* path)
+{
+    return u"E:\\"_s + QString::fromUtf8(path);
+}
+
 /// A temporary folder that stands as drive E: while it lives. Names are bytes, so that any can be made.
 class DiscFolder {
 public:

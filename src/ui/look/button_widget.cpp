@@ -10,7 +10,6 @@ namespace torvik {
 
 namespace {
 
-constexpr int bevelDepth = 2;      // pixels
 constexpr int lowestWithDots = 20; // pixels
 
 int DegreesOf(ButtonWidget::Symbol symbol)
@@ -53,9 +52,10 @@ void ButtonWidget::paintEvent(QPaintEvent* /*event*/)
         DrawOutline(painter, area, look::text);
         raised.adjust(thin, thin, -thin, -thin);
     }
-    DrawBevel(painter, raised, isDown() ? Bevel::Sunken : Bevel::Raised, bevelDepth);
+    DrawBevel(painter, raised, isDown() ? Bevel::Sunken : Bevel::Raised, look::bevelDepth);
 
-    QRectF content = area.adjusted(bevelDepth + 2, bevelDepth, -bevelDepth - 2, -bevelDepth);
+    QRectF content =
+        area.adjusted(look::bevelDepth + 2, look::bevelDepth, -look::bevelDepth - 2, -look::bevelDepth);
     if (isDown())
         content.translate(1, 1);
     PaintContent(painter, content);

@@ -23,6 +23,9 @@ inline constexpr QColor accent{0x8e, 0x1b, 0x1f}; // the red of the script lette
 inline constexpr QColor accentText{0xff, 0xff, 0xff};
 inline constexpr QColor paper{0xff, 0xff, 0xff};
 inline constexpr QColor tip{0xff, 0xfb, 0xe6};
+
+inline constexpr int bevelDepth = 2;      ///< thin lines of the bevel of a button or panel
+inline constexpr int panelTitleSize = 20; ///< pixels, the heading of a work panel
 } // namespace look
 
 enum class Bevel {

@@ -5,10 +5,6 @@
 
 namespace torvik {
 
-namespace {
-constexpr int bevelDepth = 2; // pixels
-}
-
 PanelWidget::PanelWidget(Bevel bevel, QWidget* parent) : QLabel(parent), bevel_(bevel)
 {
     setTextFormat(Qt::PlainText);
@@ -33,10 +29,10 @@ void PanelWidget::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const QRectF area = rect();
-    const double rim = bevel_ == Bevel::None ? 0 : bevelDepth * ThinLine(painter);
+    const double rim = bevel_ == Bevel::None ? 0 : look::bevelDepth * ThinLine(painter);
     const QRectF face = Snapped(painter, area).adjusted(rim, rim, -rim, -rim);
     painter.fillRect(area, look::face);
-    DrawBevel(painter, area, bevel_, bevelDepth);
+    DrawBevel(painter, area, bevel_, look::bevelDepth);
     DrawCaption(painter, face.adjusted(2, 0, -2, 0), text(), static_cast<int>(alignment()), isEnabled(),
                 colour_);
     if (flood_ > 0)

@@ -10,15 +10,6 @@
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
-namespace {
-
-QString On(const char* path)
-{
-    return u"E:\\"_s + QString::fromUtf8(path);
-}
-
-} // namespace
-
 class FileChangesTest : public QObject {
     Q_OBJECT
 

@@ -17,11 +17,6 @@ QStringList Sorted(QStringList names)
     return names;
 }
 
-QString On(const char* path)
-{
-    return u"E:\\"_s + QString::fromUtf8(path);
-}
-
 } // namespace
 
 class FilesTest : public QObject {
