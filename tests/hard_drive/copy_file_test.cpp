@@ -18,22 +18,22 @@
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
-namespace {
-
 /// What the copy panel shows at one moment.
-struct Reading {
+struct CopyPanelReading {
     QString Path;
     QString File; ///< percent and caption
     QString Job;
-    bool operator==(const Reading&) const = default;
+    bool operator==(const CopyPanelReading&) const = default;
 };
+
+namespace {
 
 QString ReadingOf(const Panel& gauge)
 {
     return QString::number(gauge.FloodPercent()) + u' ' + gauge.Caption();
 }
 
-Reading PanelNow()
+CopyPanelReading PanelNow()
 {
     return {Form1->Text1.Text(), ReadingOf(Form1->ProgressGuage), ReadingOf(Form1->ProgressGuage2)};
 }
@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void both_gauges_and_the_path_follow_each_block()
     {
-        QList<Reading> seen;
+        QList<CopyPanelReading> seen;
         {
             const EachRound round([&] { seen.append(PanelNow()); });
             state.CopyRemaining = 21'000'000;
@@ -91,7 +91,8 @@ private Q_SLOTS:
         }
         const QString path = u"G:\\Torviks\\A.JPG"_s;
         // 25,000 and 50,000 of 60,000; 21,025,000 and 21,050,000 of 42,000,000.
-        QCOMPARE(seen, (QList<Reading>{{path, u"42 42"_s, u"50 50"_s}, {path, u"83 83"_s, u"50 50"_s}}));
+        QCOMPARE(seen,
+                 (QList<CopyPanelReading>{{path, u"42 42"_s, u"50 50"_s}, {path, u"83 83"_s, u"50 50"_s}}));
     }
 
     void the_whole_gauge_of_movies_counts_by_their_own_size()
@@ -109,7 +110,7 @@ private Q_SLOTS:
         int rounds = 0;
         const EachRound round([&] { ++rounds; });
         Copy(MixedBytes(24'999));
-        QCOMPARE(PanelNow(), (Reading{u"before"_s, u"100 100"_s, u"7 7"_s}));
+        QCOMPARE(PanelNow(), (CopyPanelReading{u"before"_s, u"100 100"_s, u"7 7"_s}));
         QCOMPARE(rounds, 0);
     }
 

@@ -47,8 +47,8 @@ const Sound sounds[] = {
     {"Going By", "goingby.wav"},
 };
 
-const QString report = u"Error number: ER038\r\n\r\n Unable to load the 'Sound Effects' file."
-                       "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
+const QString soundReport = u"Error number: ER038\r\n\r\n Unable to load the 'Sound Effects' file."
+                            "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
 
 } // namespace
 
@@ -163,7 +163,7 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand2(0));
         program_->Click(Form1->SSCommand2(2));
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, report);
+        QCOMPARE(program_->Messages.Last().Text, soundReport);
         QCOMPARE(program_->Messages.Last().Style, 16);
         QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry"_s);
         QCOMPARE(state.YearCode, QString());
@@ -182,7 +182,7 @@ private Q_SLOTS:
             program_->Messages.Clear();
             program_->Click(Form1->SSCommand2(index));
             QCOMPARE(program_->Messages.Count(), 1);
-            QCOMPARE(program_->Messages.Last().Text, report);
+            QCOMPARE(program_->Messages.Last().Text, soundReport);
             QCOMPARE(state.YearCode, QString());
         }
     }
@@ -194,7 +194,7 @@ private Q_SLOTS:
         program_->PutDiscIn(QChar());
         program_->Click(Form1->SSCommand2(3));
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, report);
+        QCOMPARE(program_->Messages.Last().Text, soundReport);
         QVERIFY(!Form1->MMControl1.IsOpen());
         QCOMPARE(state.YearCode, QString());
     }

@@ -13,8 +13,9 @@ namespace {
 const QString question = u"If you are experiencing difficulties running the Torvik movies,\r\n"
                          "you may need to install the Intel Indeo Video Software.\r\n\r\n"
                          "Would you like to install this software now?"_s;
-const QString report = u"Error number: ER003\r\n\r\n Unable to load Intel Video driver install software."
-                       "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
+const QString driverReport =
+    u"Error number: ER003\r\n\r\n Unable to load Intel Video driver install software."
+    "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
 
 } // namespace
 
@@ -70,7 +71,7 @@ private Q_SLOTS:
         program_->Messages.Answer(msgbox::answerYes);
         AskFromMenu();
         QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Last().Text, report);
+        QCOMPARE(program_->Messages.Last().Text, driverReport);
         QCOMPARE(program_->Messages.Last().Style, 16);
         QCOMPARE(state.ErrorCode, u"ER003"_s);
         QVERIFY(Form1->Enabled());
@@ -118,7 +119,7 @@ private Q_SLOTS:
             program_->Messages.Answer(msgbox::answerYes);
             program_->Click(frmMovie->SSCommand2);
             QCOMPARE(program_->Messages.Count(), 2);
-            QCOMPARE(program_->Messages.Last().Text, report);
+            QCOMPARE(program_->Messages.Last().Text, driverReport);
             QVERIFY(frmMovie->Visible());
         }));
     }

@@ -152,23 +152,6 @@ private Q_SLOTS:
         QVERIFY(Form1->Enabled());
     }
 
-    void escape_answers_the_copy_panel_and_not_this_one_data()
-    {
-        QTest::addColumn<QString>("focus");
-        for (const char* name : {"cmdYR(2)", "SSCommand7", "Check1(0)", "List1(0)"})
-            QTest::newRow(name) << QString::fromLatin1(name);
-    }
-    void escape_answers_the_copy_panel_and_not_this_one()
-    {
-        QFETCH(QString, focus);
-        Form1->pnlProgress.Show();
-        Open();
-        Control::OfWidget(Form1->Host().findChild<QWidget*>(focus))->SetFocus();
-        program_->Press(Qt::Key_Escape);
-        QVERIFY(Form1->pnlPrint.Visible());
-        QVERIFY(!Form1->pnlProgress.Visible());
-    }
-
     void escape_does_nothing_before_the_panel_was_opened()
     {
         Form1->pnlProgress.Show();

@@ -59,7 +59,7 @@ private Q_SLOTS:
     void an_update_makes_the_form_anew_after_it_was_closed()
     {
         frmSSPhoto->Show();
-        program_->Click(frmSSPhoto->SSCommand9);
+        frmSSPhoto.Unload();
         QVERIFY(!frmSSPhoto.IsLoaded());
         UpdatePlayListButtons();
         QVERIFY(frmSSPhoto.IsLoaded());
