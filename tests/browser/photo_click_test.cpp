@@ -1,3 +1,4 @@
+#include "browser/select_year.h"
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
 #include "support/program.h"
@@ -79,6 +80,8 @@ private Q_SLOTS:
     void from_a_topic_outside_the_walk_it_goes_to_1967()
     {
         Form1->panYear.SetCaption(u"The Classic Harwell "_s);
+        SelectYear();
+        state.CurrentYearButton = 0;
         program_->Click(Form1->Image4);
         QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
         QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
