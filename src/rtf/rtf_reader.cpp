@@ -1,7 +1,7 @@
 #include "rtf/rtf_reader.h"
 
-#include "rtf/plain_reader.h"
-#include "rtf/reader.h"
+#include "rtf/read/plain_reader.h"
+#include "rtf/read/reader.h"
 
 #include <QTextDocument>
 

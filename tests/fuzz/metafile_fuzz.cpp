@@ -1,7 +1,7 @@
 // Feeds any bytes to the players of metafiles and to the decoder of bitmaps.
 
-#include "rtf/dib.h"
-#include "rtf/metafile.h"
+#include "rtf/bitmap/dib.h"
+#include "rtf/metafile/metafile.h"
 
 #include <QGuiApplication>
 

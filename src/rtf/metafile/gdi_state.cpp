@@ -1,0 +1,89 @@
+#include "rtf/metafile/gdi_state.h"
+
+#include <cmath>
+
+namespace torvik::rtf {
+
+namespace {
+
+constexpr Qt::PenStyle PenStyles[] = {Qt::SolidLine,      Qt::DashLine, Qt::DotLine,  Qt::DashDotLine,
+                                      Qt::DashDotDotLine, Qt::NoPen,    Qt::SolidLine};
+constexpr Qt::BrushStyle Hatches[] = {Qt::HorPattern,   Qt::VerPattern,   Qt::FDiagPattern,
+                                      Qt::BDiagPattern, Qt::CrossPattern, Qt::DiagCrossPattern};
+
+enum BrushKind { SolidBrush = 0, HollowBrush = 1, HatchedBrush = 2 };
+
+double Ratio(double of, double to)
+{
+    return to == 0 ? 1 : of / to;
+}
+
+} // namespace
+
+QTransform GdiMapping::ToDevice() const
+{
+    QTransform page;
+    page.translate(viewportOrigin.x(), viewportOrigin.y());
+    page.scale(Ratio(viewportExtent.width(), windowExtent.width()),
+               Ratio(viewportExtent.height(), windowExtent.height()));
+    page.translate(-windowOrigin.x(), -windowOrigin.y());
+    return world * page;
+}
+
+QColor GdiColor(quint32 value)
+{
+    return {static_cast<int>(value & 255U), static_cast<int>(value >> 8U & 255U),
+            static_cast<int>(value >> 16U & 255U)};
+}
+
+QPen GdiPen(int style, double width, quint32 color)
+{
+    const auto place = static_cast<unsigned>(style) & 15U;
+    const Qt::PenStyle line = place < std::size(PenStyles) ? PenStyles[place] : Qt::SolidLine;
+    return {GdiColor(color), std::abs(width), line, Qt::RoundCap, Qt::RoundJoin};
+}
+
+QBrush GdiBrush(int style, quint32 color, int hatch)
+{
+    switch (style) {
+    case SolidBrush:
+        return {GdiColor(color)};
+    case HollowBrush:
+        return {Qt::NoBrush};
+    case HatchedBrush:
+        if (hatch >= 0 && hatch < static_cast<int>(std::size(Hatches)))
+            return {GdiColor(color), Hatches[hatch]};
+        return {GdiColor(color)};
+    default:
+        return {Qt::gray};
+    }
+}
+
+GdiObject GdiStockObject(int number)
+{
+    switch (number) {
+    case 0:
+        return QBrush(Qt::white);
+    case 1:
+        return QBrush(QColor(192, 192, 192));
+    case 2:
+        return QBrush(QColor(128, 128, 128));
+    case 3:
+        return QBrush(QColor(64, 64, 64));
+    case 4:
+        return QBrush(Qt::black);
+    case 5:
+        return QBrush(Qt::NoBrush);
+    case 6:
+        return QPen(Qt::white);
+    case 7:
+        return QPen(Qt::black);
+    case 8:
+        return QPen(Qt::NoPen);
+    default:
+        // Fonts and palettes.
+        return number >= 10 && number <= 17 && number != 15 ? GdiObject(GdiFont()) : GdiObject();
+    }
+}
+
+} // namespace torvik::rtf

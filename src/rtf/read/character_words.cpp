@@ -1,0 +1,99 @@
+#include "rtf/bounds/limits.h"
+#include "rtf/read/reader.h"
+#include "rtf/read/word_table.h"
+
+// Words about the looks of characters.
+
+namespace torvik::rtf {
+
+namespace {
+
+constexpr int LargestSize = 3276;
+
+template <Underline kind>
+void SetUnderline(Reader& reader, const Argument& argument)
+{
+    reader.Character().underline = argument.IsOn() ? kind : Underline::None;
+}
+
+template <bool CharacterState::*flag>
+void SetFlag(Reader& reader, const Argument& argument)
+{
+    reader.Character().*flag = argument.IsOn();
+}
+
+template <int CharacterState::*color>
+void SetColor(Reader& reader, const Argument& argument)
+{
+    reader.Character().*color = argument.value;
+}
+
+template <Script script>
+void SetScript(Reader& reader, const Argument& argument)
+{
+    reader.Character().script = argument.IsOn() ? script : Script::Normal;
+}
+
+template <Capitals capitals>
+void SetCapitals(Reader& reader, const Argument& argument)
+{
+    reader.Character().capitals = argument.IsOn() ? capitals : Capitals::AsWritten;
+}
+
+constexpr WordEntry Entries[] = {
+    {"plain", [](Reader& r, const Argument&) { r.ResetCharacter(); }},
+    {"cs", [](Reader& r, const Argument& a) { r.ApplyCharacterStyle(a.value); }},
+    {"f", [](Reader& r, const Argument& a) { r.SetFont(a.value); }},
+    {"fs", [](Reader& r, const Argument& a) { r.Character().size = a.Within(2, LargestSize, 24); }},
+    {"b", SetFlag<&CharacterState::bold>},
+    {"i", SetFlag<&CharacterState::italic>},
+    {"strike", SetFlag<&CharacterState::strike>},
+    {"striked", SetFlag<&CharacterState::strike>},
+    {"v", SetFlag<&CharacterState::hidden>},
+    {"rtlch", [](Reader& r, const Argument&) { r.Character().rightToLeft = true; }},
+    {"ltrch", [](Reader& r, const Argument&) { r.Character().rightToLeft = false; }},
+    {"ul", SetUnderline<Underline::Single>},
+    {"ulw", SetUnderline<Underline::Single>},
+    {"uldb", SetUnderline<Underline::Single>},
+    {"ulth", SetUnderline<Underline::Single>},
+    {"uld", SetUnderline<Underline::Dotted>},
+    {"ulthd", SetUnderline<Underline::Dotted>},
+    {"uldash", SetUnderline<Underline::Dashed>},
+    {"ulldash", SetUnderline<Underline::Dashed>},
+    {"ulthdash", SetUnderline<Underline::Dashed>},
+    {"ulthldash", SetUnderline<Underline::Dashed>},
+    {"uldashd", SetUnderline<Underline::DashDot>},
+    {"ulthdashd", SetUnderline<Underline::DashDot>},
+    {"uldashdd", SetUnderline<Underline::DashDotDot>},
+    {"ulthdashdd", SetUnderline<Underline::DashDotDot>},
+    {"ulwave", SetUnderline<Underline::Wave>},
+    {"ulhwave", SetUnderline<Underline::Wave>},
+    {"ululdbwave", SetUnderline<Underline::Wave>},
+    {"ulnone", [](Reader& r, const Argument&) { r.Character().underline = Underline::None; }},
+    {"ulc", SetColor<&CharacterState::underlineColor>},
+    {"cf", SetColor<&CharacterState::foreground>},
+    {"cb", SetColor<&CharacterState::background>},
+    {"highlight", SetColor<&CharacterState::background>},
+    {"chcbpat", SetColor<&CharacterState::background>},
+    {"chcfpat", SetColor<&CharacterState::patternColor>},
+    {"chshdng", [](Reader& r, const Argument& a) { r.Character().shading = a.Within(0, 10000); }},
+    {"super", SetScript<Script::Super>},
+    {"sub", SetScript<Script::Sub>},
+    {"nosupersub", [](Reader& r, const Argument&) { r.Character().script = Script::Normal; }},
+    {"up", [](Reader& r, const Argument& a) { r.Character().raised = a.Within(0, 200, 6); }},
+    {"dn", [](Reader& r, const Argument& a) { r.Character().raised = -a.Within(0, 200, 6); }},
+    {"caps", SetCapitals<Capitals::All>},
+    {"scaps", SetCapitals<Capitals::Small>},
+    {"expnd", [](Reader& r, const Argument& a) { r.Character().spacing = 5 * a.Within(-300, 300); }},
+    {"expndtw", [](Reader& r, const Argument& a) { r.Character().spacing = a.Within(-1500, 1500); }},
+    {"charscalex", [](Reader& r, const Argument& a) { r.Character().stretch = a.Within(1, 600, 100); }},
+};
+
+} // namespace
+
+std::span<const WordEntry> CharacterWords()
+{
+    return Entries;
+}
+
+} // namespace torvik::rtf

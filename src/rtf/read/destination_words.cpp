@@ -1,0 +1,96 @@
+#include "rtf/read/reader.h"
+#include "rtf/read/word_table.h"
+
+// Words that say what the rest of their group is for.
+
+namespace torvik::rtf {
+
+namespace {
+
+void SkipGroup(Reader& reader, const Argument&)
+{
+    reader.Skip();
+}
+
+void Nothing(Reader&, const Argument&) {}
+
+template <Destination destination>
+void EnterGroup(Reader& reader, const Argument&)
+{
+    reader.Enter(destination);
+}
+
+constexpr WordEntry Entries[] = {
+    {"fonttbl", EnterGroup<Destination::Fonts>},
+    {"colortbl", EnterGroup<Destination::Colors>},
+    {"stylesheet", EnterGroup<Destination::Styles>},
+    {"listtable", EnterGroup<Destination::Lists>},
+    {"listoverridetable", EnterGroup<Destination::ListOverrides>},
+    {"fldinst", EnterGroup<Destination::FieldInstruction>},
+    {"bkmkstart", EnterGroup<Destination::Bookmark>},
+    {"field", [](Reader& r, const Argument&) { r.BeginField(); }},
+    {"fldrslt", [](Reader& r, const Argument&) { r.BeginFieldResult(); }},
+    {"footnote", [](Reader& r, const Argument&) { r.BeginNote(); }},
+    {"pict", [](Reader& r, const Argument&) { r.BeginPicture(); }},
+    {"shppict", [](Reader& r, const Argument&) { r.BeginShapePicture(); }},
+    {"nonshppict", [](Reader& r, const Argument&) { r.BeginPlainPicture(); }},
+    {"pntext", [](Reader& r, const Argument&) { r.BeginMark(); }},
+    {"listtext", [](Reader& r, const Argument&) { r.BeginMark(); }},
+    {"pn", EnterGroup<Destination::Numbering>},
+    // An object is shown by its result, a drawn shape by the picture and the text in it.
+    {"object", EnterGroup<Destination::Hidden>},
+    {"result", EnterGroup<Destination::Body>},
+    {"shpinst", EnterGroup<Destination::Hidden>},
+    {"shptxt", EnterGroup<Destination::Body>},
+    // Of two forms of a text the second, in Unicode, is the true one.
+    {"upr", [](Reader& r, const Argument&) { r.SkipNextGroup(); }},
+    {"ud", Nothing},
+    {"nesttableprops", [](Reader& r, const Argument&) { r.State().isNestedTableProperties = true; }},
+    {"nonesttables", SkipGroup},
+    {"info", SkipGroup},
+    {"header", SkipGroup},
+    {"headerl", SkipGroup},
+    {"headerr", SkipGroup},
+    {"headerf", SkipGroup},
+    {"footer", SkipGroup},
+    {"footerl", SkipGroup},
+    {"footerr", SkipGroup},
+    {"footerf", SkipGroup},
+    {"ftnsep", SkipGroup},
+    {"ftnsepc", SkipGroup},
+    {"ftncn", SkipGroup},
+    {"aftnsep", SkipGroup},
+    {"aftnsepc", SkipGroup},
+    {"aftncn", SkipGroup},
+    {"annotation", SkipGroup},
+    {"atnid", SkipGroup},
+    {"atnauthor", SkipGroup},
+    {"bkmkend", SkipGroup},
+    {"objdata", SkipGroup},
+    {"objclass", SkipGroup},
+    {"objname", SkipGroup},
+    {"shprslt", SkipGroup},
+    {"revtbl", SkipGroup},
+    {"filetbl", SkipGroup},
+    {"pntxta", SkipGroup},
+    {"pntxtb", SkipGroup},
+    {"pnseclvl", SkipGroup},
+    {"xe", SkipGroup},
+    {"tc", SkipGroup},
+    {"tcn", SkipGroup},
+    {"private", SkipGroup},
+    {"template", SkipGroup},
+    {"generator", SkipGroup},
+    {"themedata", SkipGroup},
+    {"datastore", SkipGroup},
+    {"background", SkipGroup},
+};
+
+} // namespace
+
+std::span<const WordEntry> DestinationWords()
+{
+    return Entries;
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,166 @@
+#include "rtf/bounds/limits.h"
+#include "rtf/read/reader.h"
+#include "rtf/read/word_table.h"
+
+// Words about the looks of paragraphs, and about borders, which paragraphs and cells share.
+
+namespace torvik::rtf {
+
+namespace {
+
+template <Alignment alignment>
+void SetAlignment(Reader& reader, const Argument&)
+{
+    reader.ParagraphFormat().alignment = alignment;
+}
+
+template <int ParagraphState::*length>
+void SetLength(Reader& reader, const Argument& argument)
+{
+    reader.ParagraphFormat().*length = argument.Within(-MaxTwips, MaxTwips);
+}
+
+/// Spaces are never negative.
+template <int ParagraphState::*space>
+void SetSpace(Reader& reader, const Argument& argument)
+{
+    reader.ParagraphFormat().*space = argument.Within(0, MaxTwips);
+}
+
+template <int ParagraphState::*color>
+void SetColor(Reader& reader, const Argument& argument)
+{
+    reader.ParagraphFormat().*color = argument.value;
+}
+
+template <bool ParagraphState::*flag>
+void SetFlag(Reader& reader, const Argument& argument)
+{
+    reader.ParagraphFormat().*flag = argument.IsOn();
+}
+
+/// The kind comes before the position: it is kept in a stop at no position until then.
+template <QTextOption::TabType type>
+void SetTabType(Reader& reader, const Argument&)
+{
+    QList<TabStop>& tabs = reader.ParagraphFormat().tabs;
+    if (tabs.isEmpty() || tabs.constLast().position != 0)
+        tabs.append({0, type});
+    else
+        tabs.last().type = type;
+}
+
+void SetTab(Reader& reader, const Argument& argument)
+{
+    QList<TabStop>& tabs = reader.ParagraphFormat().tabs;
+    const int position = argument.Within(-MaxTwips, MaxTwips);
+    if (!tabs.isEmpty() && tabs.constLast().position == 0)
+        tabs.last().position = position;
+    else if (tabs.size() < MaxTabs)
+        tabs.append({position, QTextOption::LeftTab});
+}
+
+template <Side side>
+void SelectSide(Reader& reader, const Argument&)
+{
+    reader.SelectBorder(&reader.ParagraphFormat().borders[side]);
+}
+
+template <BorderLine line>
+void SetLine(Reader& reader, const Argument&)
+{
+    if (Border* border = reader.SelectedBorder())
+        border->line = line;
+    else if (reader.BoxIsOpen())
+        reader.EachBoxBorder([](Border& edge) { edge.line = line; });
+}
+
+void SetBorderWidth(Reader& reader, const Argument& argument)
+{
+    const int width = argument.Within(0, 255, 15);
+    if (Border* border = reader.SelectedBorder())
+        border->width = width;
+    else if (reader.BoxIsOpen())
+        reader.EachBoxBorder([&](Border& edge) { edge.width = width; });
+}
+
+void SetBorderColor(Reader& reader, const Argument& argument)
+{
+    if (Border* border = reader.SelectedBorder())
+        border->color = argument.value;
+    else if (reader.BoxIsOpen())
+        reader.EachBoxBorder([&](Border& edge) { edge.color = argument.value; });
+}
+
+constexpr WordEntry Entries[] = {
+    {"pard", [](Reader& r, const Argument&) { r.ResetParagraph(); }},
+    {"s", [](Reader& r, const Argument& a) { r.ApplyParagraphStyle(a.value); }},
+    {"ql", SetAlignment<Alignment::Left>},
+    {"qr", SetAlignment<Alignment::Right>},
+    {"qc", SetAlignment<Alignment::Center>},
+    {"qj", SetAlignment<Alignment::Justify>},
+    {"qd", SetAlignment<Alignment::Justify>},
+    {"li", SetLength<&ParagraphState::leftIndent>},
+    {"lin", SetLength<&ParagraphState::leftIndent>},
+    {"ri", SetLength<&ParagraphState::rightIndent>},
+    {"rin", SetLength<&ParagraphState::rightIndent>},
+    {"fi", SetLength<&ParagraphState::firstIndent>},
+    {"sb", SetSpace<&ParagraphState::spaceBefore>},
+    {"sa", SetSpace<&ParagraphState::spaceAfter>},
+    {"sl",
+     [](Reader& r, const Argument& a) {
+         // A thousand is the word processors' way to write "automatic".
+         r.ParagraphFormat().lineSpacing = a.value == 1000 ? 0 : a.Within(-MaxTwips, MaxTwips);
+     }},
+    {"slmult", SetFlag<&ParagraphState::lineMultiple>},
+    {"keep", SetFlag<&ParagraphState::keepTogether>},
+    {"pagebb", SetFlag<&ParagraphState::breakBefore>},
+    {"rtlpar", [](Reader& r, const Argument&) { r.ParagraphFormat().rightToLeft = true; }},
+    {"ltrpar", [](Reader& r, const Argument&) { r.ParagraphFormat().rightToLeft = false; }},
+    {"cbpat", SetColor<&ParagraphState::background>},
+    {"cfpat", SetColor<&ParagraphState::patternColor>},
+    {"shading", [](Reader& r, const Argument& a) { r.ParagraphFormat().shading = a.Within(0, 10000); }},
+    {"tx", SetTab},
+    {"tqr", SetTabType<QTextOption::RightTab>},
+    {"tqc", SetTabType<QTextOption::CenterTab>},
+    {"tqdec", SetTabType<QTextOption::DelimiterTab>},
+    {"ls", [](Reader& r, const Argument& a) { r.ParagraphFormat().list = a.Within(0, 0x7fffffff); }},
+    {"ilvl",
+     [](Reader& r, const Argument& a) {
+         r.ParagraphFormat().listLevel = a.Within(0, ListTable::MaxLevels - 1);
+     }},
+    {"brdrt", SelectSide<SideTop>},
+    {"brdrl", SelectSide<SideLeft>},
+    {"brdrb", SelectSide<SideBottom>},
+    {"brdrr", SelectSide<SideRight>},
+    {"box", [](Reader& r, const Argument&) { r.OpenBox(); }},
+    {"brdrs", SetLine<BorderLine::Solid>},
+    {"brdrsh", SetLine<BorderLine::Solid>},
+    {"brdrhair", SetLine<BorderLine::Solid>},
+    {"brdrth", SetLine<BorderLine::Thick>},
+    {"brdrdb", SetLine<BorderLine::Double>},
+    {"brdrtriple", SetLine<BorderLine::Double>},
+    {"brdrdot", SetLine<BorderLine::Dotted>},
+    {"brdrdash", SetLine<BorderLine::Dashed>},
+    {"brdrdashsm", SetLine<BorderLine::Dashed>},
+    {"brdrdashd", SetLine<BorderLine::DotDash>},
+    {"brdrdashdd", SetLine<BorderLine::DotDotDash>},
+    {"brdrwavy", SetLine<BorderLine::Solid>},
+    {"brdremboss", SetLine<BorderLine::Ridge>},
+    {"brdrengrave", SetLine<BorderLine::Groove>},
+    {"brdrinset", SetLine<BorderLine::Inset>},
+    {"brdroutset", SetLine<BorderLine::Outset>},
+    {"brdrnone", SetLine<BorderLine::None>},
+    {"brdrnil", SetLine<BorderLine::None>},
+    {"brdrw", SetBorderWidth},
+    {"brdrcf", SetBorderColor},
+};
+
+} // namespace
+
+std::span<const WordEntry> ParagraphWords()
+{
+    return Entries;
+}
+
+} // namespace torvik::rtf

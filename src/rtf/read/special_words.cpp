@@ -1,0 +1,53 @@
+#include "rtf/read/reader.h"
+#include "rtf/read/word_table.h"
+
+// Words that stand for a character, and those that end a paragraph or a page.
+
+namespace torvik::rtf {
+
+namespace {
+
+template <char16_t unit>
+void Put(Reader& reader, const Argument&)
+{
+    reader.PutCharacter(unit);
+}
+
+constexpr char16_t LineSeparator = 0x2028;
+
+constexpr WordEntry Entries[] = {
+    {"par", [](Reader& r, const Argument&) { r.EndParagraph(); }},
+    {"page", [](Reader& r, const Argument&) { r.BreakPage(); }},
+    {"sect", [](Reader& r, const Argument&) { r.BreakPage(); }},
+    {"sbknone", [](Reader& r, const Argument&) { r.CancelBreak(); }},
+    {"sbkcol", [](Reader& r, const Argument&) { r.CancelBreak(); }},
+    {"chftn", [](Reader& r, const Argument&) { r.PutNoteReference(); }},
+    {"tab", Put<u'\t'>},
+    {"line", Put<LineSeparator>},
+    {"lbr", Put<LineSeparator>},
+    {"emdash", Put<u'\u2014'>},
+    {"endash", Put<u'\u2013'>},
+    {"emspace", Put<u'\u2003'>},
+    {"enspace", Put<u'\u2002'>},
+    {"qmspace", Put<u'\u2005'>},
+    {"bullet", Put<u'\u2022'>},
+    {"lquote", Put<u'\u2018'>},
+    {"rquote", Put<u'\u2019'>},
+    {"ldblquote", Put<u'\u201c'>},
+    {"rdblquote", Put<u'\u201d'>},
+    {"zwj", Put<u'\u200d'>},
+    {"zwnj", Put<u'\u200c'>},
+    {"zwbo", Put<u'\u200b'>},
+    {"zwnbo", Put<u'\u2060'>},
+    {"ltrmark", Put<u'\u200e'>},
+    {"rtlmark", Put<u'\u200f'>},
+};
+
+} // namespace
+
+std::span<const WordEntry> SpecialWords()
+{
+    return Entries;
+}
+
+} // namespace torvik::rtf
