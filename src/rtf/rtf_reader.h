@@ -10,7 +10,7 @@ namespace torvik::rtf {
 
 /// True in the block format of a paragraph that is to stand on one page. The toolkit itself knows nothing
 /// like it: lines that it calls unbreakable are never wrapped.
-inline constexpr int KeepTogetherProperty = QTextFormat::UserProperty + 1;
+inline constexpr int keepTogetherProperty = QTextFormat::UserProperty + 1;
 
 /// What came of reading a document.
 struct ReadResult {

@@ -11,8 +11,8 @@ QImage DecodeDeviceBitmap(const DeviceBitmap& bitmap, qint64 mostBytes)
 {
     const int bits = bitmap.bitsPerPixel;
     const bool isKnown = bits == 1 || bits == 24 || bits == 32;
-    if (!isKnown || bitmap.width <= 0 || bitmap.height <= 0 || bitmap.width > MaxPictureSide ||
-        bitmap.height > MaxPictureSide)
+    if (!isKnown || bitmap.width <= 0 || bitmap.height <= 0 || bitmap.width > maxPictureSide ||
+        bitmap.height > maxPictureSide)
         return {};
     const qint64 needed = (qint64(bitmap.width) * bits + 15) / 16 * 2;
     const qint64 line = std::max<qint64>(needed, bitmap.lineBytes);

@@ -12,9 +12,9 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t CoreHeaderBytes = 12;
-constexpr std::size_t InfoHeaderBytes = 40;
-constexpr std::size_t FileHeaderBytes = 14;
+constexpr std::size_t coreHeaderBytes = 12;
+constexpr std::size_t infoHeaderBytes = 40;
+constexpr std::size_t fileHeaderBytes = 14;
 
 enum Compression : quint32 { Rgb = 0, Rle8 = 1, Rle4 = 2, BitFields = 3, Jpeg = 4, Png = 5 };
 
@@ -40,7 +40,7 @@ bool ReadCoreHeader(const ByteReader& in, DibHeader& header)
     header.width = in.U16(4);
     header.height = in.U16(6);
     header.bitsPerPixel = in.U16(10);
-    header.paletteAt = CoreHeaderBytes;
+    header.paletteAt = coreHeaderBytes;
     header.paletteEntryBytes = 3;
     header.paletteSize = header.bitsPerPixel <= 8 ? 1 << header.bitsPerPixel : 0;
     return true;
@@ -59,10 +59,10 @@ bool ReadInfoHeader(const ByteReader& in, DibHeader& header)
     header.compression = in.U32(16);
     header.paletteAt = size;
     if (header.compression == BitFields) {
-        header.redMask = in.U32(InfoHeaderBytes);
-        header.greenMask = in.U32(InfoHeaderBytes + 4);
-        header.blueMask = in.U32(InfoHeaderBytes + 8);
-        if (size == InfoHeaderBytes)
+        header.redMask = in.U32(infoHeaderBytes);
+        header.greenMask = in.U32(infoHeaderBytes + 4);
+        header.blueMask = in.U32(infoHeaderBytes + 8);
+        if (size == infoHeaderBytes)
             header.paletteAt += 12;
     }
     const quint32 used = in.U32(32);
@@ -155,8 +155,8 @@ DibHeader ReadDibHeader(std::string_view bytes)
     const ByteReader in(bytes);
     DibHeader header;
     const quint32 size = in.U32(0);
-    const bool isCore = size == CoreHeaderBytes && in.Has(0, CoreHeaderBytes);
-    const bool isInfo = size >= InfoHeaderBytes && in.Has(0, InfoHeaderBytes);
+    const bool isCore = size == coreHeaderBytes && in.Has(0, coreHeaderBytes);
+    const bool isInfo = size >= infoHeaderBytes && in.Has(0, infoHeaderBytes);
     const quint16 bits = in.U16(isCore ? 10 : 14);
     const bool isStored = isInfo && (in.U32(16) == Jpeg || in.U32(16) == Png);
     const bool hasKnownDepth = bits == 1 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32;
@@ -164,8 +164,8 @@ DibHeader ReadDibHeader(std::string_view bytes)
         return {};
     if (!(isCore ? ReadCoreHeader(in, header) : ReadInfoHeader(in, header)))
         return {};
-    if (header.width <= 0 || header.height <= 0 || header.width > MaxPictureSide ||
-        header.height > MaxPictureSide || header.compression > Png)
+    if (header.width <= 0 || header.height <= 0 || header.width > maxPictureSide ||
+        header.height > maxPictureSide || header.compression > Png)
         return {};
     SetDefaultMasks(header);
     header.bytesBeforePixels =
@@ -206,7 +206,7 @@ QImage DecodeDib(std::string_view headerBytes, std::string_view pixels, qint64 m
 QImage DecodePackedDib(std::string_view bytes, qint64 mostBytes)
 {
     const std::string_view packed =
-        bytes.starts_with("BM") ? ByteReader(bytes).Slice(FileHeaderBytes) : bytes;
+        bytes.starts_with("BM") ? ByteReader(bytes).Slice(fileHeaderBytes) : bytes;
     const DibHeader header = ReadDibHeader(packed);
     if (!header.IsValid())
         return {};

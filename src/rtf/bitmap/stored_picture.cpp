@@ -12,8 +12,8 @@ namespace torvik::rtf {
 namespace {
 
 /// Decoding holds a second copy for a while, and a reader's pixels may be twice as wide as the image's.
-constexpr qint64 BytesPerPixel = 4;
-constexpr qint64 BytesPerDeepPixel = 8;
+constexpr qint64 bytesPerPixel = 4;
+constexpr qint64 bytesPerDeepPixel = 8;
 
 bool EndsEarly(std::string_view bytes)
 {
@@ -43,11 +43,11 @@ QImage DecodeStoredPicture(std::string_view bytes, qint64 mostBytes)
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, isJpeg ? "jpeg" : "png");
     const QSize size = reader.size();
-    if (!size.isValid() || size.isEmpty() || size.width() > MaxPictureSide || size.height() > MaxPictureSide)
+    if (!size.isValid() || size.isEmpty() || size.width() > maxPictureSide || size.height() > maxPictureSide)
         return {};
     const bool isDeep =
         reader.imageFormat() == QImage::Format_RGBX64 || reader.imageFormat() == QImage::Format_RGBA64;
-    const qint64 cost = qint64(size.width()) * size.height() * (isDeep ? BytesPerDeepPixel : BytesPerPixel);
+    const qint64 cost = qint64(size.width()) * size.height() * (isDeep ? bytesPerDeepPixel : bytesPerPixel);
     if (cost > mostBytes) {
         if (!isJpeg || mostBytes <= 0)
             return {};

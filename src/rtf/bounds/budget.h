@@ -8,7 +8,7 @@ namespace torvik::rtf {
 class Budget {
 public:
     /// The allowance grows with the size of the file, in bytes.
-    explicit Budget(qint64 fileBytes) : left_(Base + PerByte * fileBytes) {}
+    explicit Budget(qint64 fileBytes) : left_(base + perByte * fileBytes) {}
 
     /// Takes `bytes` off the allowance; false, and nothing taken, when less than that is left.
     bool Take(qint64 bytes)
@@ -27,8 +27,8 @@ public:
     bool Exhausted() const { return exhausted_; }
 
 private:
-    static constexpr qint64 Base = 40LL * 1024 * 1024;
-    static constexpr qint64 PerByte = 14;
+    static constexpr qint64 base = 40LL * 1024 * 1024;
+    static constexpr qint64 perByte = 14;
     qint64 left_;
     bool exhausted_ = false;
 };

@@ -7,34 +7,34 @@ namespace torvik::rtf {
 /// Bounds that keep a damaged or hostile document from costing more than it is worth.
 
 /// Groups nested deeper than this are read, but no longer keep formatting of their own.
-inline constexpr int MaxGroupDepth = 1000;
+inline constexpr int maxGroupDepth = 1000;
 /// Tables within tables; what lies deeper is shown as part of the cell around it.
-inline constexpr int MaxTableNesting = 6;
+inline constexpr int maxTableNesting = 6;
 /// Columns of the grid of one table.
-inline constexpr int MaxTableColumns = 64;
+inline constexpr int maxTableColumns = 64;
 /// Cell ends and cell definitions in one row.
-inline constexpr int MaxRowCells = MaxTableColumns;
+inline constexpr int maxRowCells = maxTableColumns;
 /// A longer table continues as a second one directly below, so that the cost of a table stays linear.
-inline constexpr int MaxTableCells = 4096;
+inline constexpr int maxTableCells = 4096;
 /// Distinct character formats and distinct paragraph formats of one document.
-inline constexpr int MaxFormats = 12000;
-inline constexpr int MaxFonts = 4000;
-inline constexpr int MaxColors = 65536;
-inline constexpr int MaxLists = 4000;
-inline constexpr int MaxStyles = 4000;
-inline constexpr int MaxTabs = 64;
+inline constexpr int maxFormats = 12000;
+inline constexpr int maxFonts = 4000;
+inline constexpr int maxColors = 65536;
+inline constexpr int maxLists = 4000;
+inline constexpr int maxStyles = 4000;
+inline constexpr int maxTabs = 64;
 /// Bytes of a field instruction, a font name, a list mark: all short texts that are gathered aside.
-inline constexpr int MaxAsideText = 8192;
+inline constexpr int maxAsideText = 8192;
 /// Pixels along one side of a picture.
-inline constexpr int MaxPictureSide = 32767;
+inline constexpr int maxPictureSide = 32767;
 /// Twips: no indent, margin or picture side is larger than this (22 inches, the format's own bound).
-inline constexpr int MaxTwips = 31680;
+inline constexpr int maxTwips = 31680;
 
 /// 1 pixel is 15 twips: 1440 twips and 96 pixels to the inch.
-inline constexpr double TwipsPerPixel = 15.0;
+inline constexpr double twipsPerPixel = 15.0;
 constexpr double PixelsFromTwips(double twips)
 {
-    return twips / TwipsPerPixel;
+    return twips / twipsPerPixel;
 }
 
 } // namespace torvik::rtf

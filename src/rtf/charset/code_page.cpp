@@ -23,7 +23,7 @@ struct Known {
 };
 
 // The names are those of the C library's converter.
-constexpr Known KnownPages[] = {
+constexpr Known knownPages[] = {
     {437, "CP437", Kind::SingleByte},
     {850, "CP850", Kind::SingleByte},
     {852, "CP852", Kind::SingleByte},
@@ -64,7 +64,7 @@ struct Charset {
     int page;
 };
 
-constexpr Charset Charsets[] = {
+constexpr Charset charsets[] = {
     {0, 1252},   {77, 10000}, {78, 10001}, {128, 932},  {129, 949},  {130, 1361}, {134, 936},
     {136, 950},  {161, 1253}, {162, 1254}, {163, 1258}, {177, 1255}, {178, 1256}, {186, 1257},
     {204, 1251}, {222, 874},  {238, 1250}, {254, 437},  {255, 850},
@@ -152,10 +152,10 @@ const CodePage& CodePage::Of(int number)
     static std::mutex guard;
     static std::map<int, std::unique_ptr<CodePage>> pages;
     const std::lock_guard lock(guard);
-    const auto* known = std::find_if(std::begin(KnownPages), std::end(KnownPages),
+    const auto* known = std::find_if(std::begin(knownPages), std::end(knownPages),
                                      [&](const Known& page) { return page.number == number; });
-    if (known == std::end(KnownPages))
-        known = std::find_if(std::begin(KnownPages), std::end(KnownPages),
+    if (known == std::end(knownPages))
+        known = std::find_if(std::begin(knownPages), std::end(knownPages),
                              [](const Known& page) { return page.number == 1252; });
     std::unique_ptr<CodePage>& page = pages[known->number];
     if (!page)
@@ -171,7 +171,7 @@ const CodePage& CodePage::OfSymbols()
 
 int CodePage::NumberForCharset(int charset)
 {
-    for (const Charset& known : Charsets) {
+    for (const Charset& known : charsets) {
         if (known.charset == charset)
             return known.page;
     }

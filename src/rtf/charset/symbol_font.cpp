@@ -5,10 +5,10 @@ namespace torvik::rtf {
 namespace {
 
 // Places 0x20 to 0x7e and 0xa0 to 0xfe of the Greek and mathematical symbol font.
-constexpr char16_t LowSymbols[] = u" !∀#∃%&∋()∗+,−./0123456789:;<=>?"
+constexpr char16_t lowSymbols[] = u" !∀#∃%&∋()∗+,−./0123456789:;<=>?"
                                   u"≅ΑΒΧΔΕΦΓΗΙϑΚΛΜΝΟΠΘΡΣΤΥςΩΞΨΖ[∴]⊥_"
                                   u"‾αβχδεφγηιϕκλμνοπθρστυϖωξψζ{|}∼";
-constexpr char16_t HighSymbols[] = u"€ϒ′≤⁄∞ƒ♣♦♥♠↔←↑→↓"
+constexpr char16_t highSymbols[] = u"€ϒ′≤⁄∞ƒ♣♦♥♠↔←↑→↓"
                                    u"°±″≥×∝∂•÷≠≡≈…⏐⎯↵"
                                    u"ℵℑℜ℘⊗⊕∅∩∪⊃⊇⊄⊂⊆∈∉"
                                    u"∠∇®©™∏√⋅¬∧∨⇔⇐⇑⇒⇓"
@@ -20,7 +20,7 @@ struct Ornament {
     char16_t character;
 };
 
-constexpr Ornament Ornaments[] = {
+constexpr Ornament ornaments[] = {
     {0x28, u'☎'}, {0x29, u'✆'}, {0x2a, u'✉'}, {0x36, u'⌛'}, {0x45, u'☜'}, {0x46, u'☞'}, {0x47, u'☝'},
     {0x48, u'☟'}, {0x4a, u'☺'}, {0x4b, u'☹'}, {0x4e, u'☠'}, {0x51, u'✈'}, {0x6c, u'●'}, {0x6d, u'❍'},
     {0x6e, u'■'}, {0x6f, u'□'}, {0x70, u'□'}, {0x71, u'❑'}, {0x72, u'❒'}, {0x73, u'◆'}, {0x74, u'◆'},
@@ -33,15 +33,15 @@ constexpr Ornament Ornaments[] = {
 char16_t GreekSymbol(char16_t place)
 {
     if (place >= 0x20 && place <= 0x7e)
-        return LowSymbols[place - 0x20];
+        return lowSymbols[place - 0x20];
     if (place >= 0xa0 && place <= 0xfe)
-        return HighSymbols[place - 0xa0];
+        return highSymbols[place - 0xa0];
     return place;
 }
 
 char16_t OrnamentSymbol(char16_t place)
 {
-    for (const Ornament& ornament : Ornaments) {
+    for (const Ornament& ornament : ornaments) {
         if (ornament.place == place)
             return ornament.character;
     }

@@ -10,9 +10,9 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t HeaderBytes = 88;
-constexpr quint32 Signature = 0x464d4520;
-constexpr double PixelsPerHundredthMillimetre = 96.0 / 2540.0;
+constexpr std::size_t headerBytes = 88;
+constexpr quint32 emfSignature = 0x464d4520;
+constexpr double pixelsPerHundredthMillimetre = 96.0 / 2540.0;
 
 QRectF Box(const ByteReader& in, std::size_t at)
 {
@@ -22,10 +22,10 @@ QRectF Box(const ByteReader& in, std::size_t at)
 /// Device units in a millimetre; a header without sizes is taken for a screen's.
 QSizeF UnitsPerMillimetre(const ByteReader& in)
 {
-    constexpr double Screen = 96 / 25.4;
-    const double across = in.S32(80) > 0 ? double(in.S32(72)) / in.S32(80) : Screen;
-    const double down = in.S32(84) > 0 ? double(in.S32(76)) / in.S32(84) : Screen;
-    return {across > 0 ? across : Screen, down > 0 ? down : Screen};
+    constexpr double screenUnits = 96 / 25.4;
+    const double across = in.S32(80) > 0 ? double(in.S32(72)) / in.S32(80) : screenUnits;
+    const double down = in.S32(84) > 0 ? double(in.S32(76)) / in.S32(84) : screenUnits;
+    return {across > 0 ? across : screenUnits, down > 0 ? down : screenUnits};
 }
 
 } // namespace
@@ -34,12 +34,12 @@ Drawing OpenEmf(std::string_view bytes)
 {
     const ByteReader in(bytes);
     Drawing drawing;
-    if (!in.Has(0, HeaderBytes) || in.U32(0) != 1 || in.U32(40) != Signature)
+    if (!in.Has(0, headerBytes) || in.U32(0) != 1 || in.U32(40) != emfSignature)
         return drawing;
     const QSizeF units = UnitsPerMillimetre(in);
     const QRectF frame = Box(in, 24).normalized();
     if (!frame.isEmpty()) {
-        drawing.naturalSize = frame.size() * PixelsPerHundredthMillimetre;
+        drawing.naturalSize = frame.size() * pixelsPerHundredthMillimetre;
         drawing.frame = QRectF(frame.left() / 100 * units.width(), frame.top() / 100 * units.height(),
                                frame.width() / 100 * units.width(), frame.height() / 100 * units.height());
     } else {

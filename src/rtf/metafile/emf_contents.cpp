@@ -10,9 +10,9 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr quint32 SourceCopy = 0xcc0020;
-constexpr int SymbolCharset = 2;
-constexpr std::size_t LongestText = 4000;
+constexpr quint32 sourceCopy = 0xcc0020;
+constexpr int symbolCharset = 2;
+constexpr std::size_t longestText = 4000;
 
 QRect SourceRect(const ByteReader& in, std::size_t placeAt, std::size_t sizeAt)
 {
@@ -39,10 +39,10 @@ bool EmfPlayer::PlayBitmap(quint32 type, const ByteReader& in)
         PutBitmap(in, 84, SourceRect(in, 44, 100), TargetRect(in, 24, 32), in.U32(40));
         return true;
     case 114:
-        PutBitmap(in, 84, SourceRect(in, 44, 100), TargetRect(in, 24, 32), SourceCopy);
+        PutBitmap(in, 84, SourceRect(in, 44, 100), TargetRect(in, 24, 32), sourceCopy);
         return true;
     case 80:
-        PutBitmap(in, 48, SourceRect(in, 32, 40), TargetRect(in, 24, 40), SourceCopy);
+        PutBitmap(in, 48, SourceRect(in, 32, 40), TargetRect(in, 24, 40), sourceCopy);
         return true;
     case 81:
         PutBitmap(in, 48, SourceRect(in, 32, 40), TargetRect(in, 24, 72), in.U32(68));
@@ -70,8 +70,8 @@ void EmfPlayer::PutBitmap(const ByteReader& in, std::size_t placesAt, const QRec
 
 void EmfPlayer::PlayText(const ByteReader& in, bool isWide)
 {
-    constexpr quint32 OptionOpaque = 2;
-    const std::size_t count = std::min<std::size_t>(in.U32(44), LongestText);
+    constexpr quint32 optionOpaque = 2;
+    const std::size_t count = std::min<std::size_t>(in.U32(44), longestText);
     const std::size_t textAt = in.U32(48);
     const std::size_t advancesAt = in.U32(72);
     const GdiFont& font = canvas_.State().font;
@@ -82,11 +82,11 @@ void EmfPlayer::PlayText(const ByteReader& in, bool isWide)
     } else {
         CodePage::Of(CodePage::NumberForCharset(font.charset)).Decode(in.Slice(textAt, count), text);
     }
-    if (font.charset == SymbolCharset) {
+    if (font.charset == symbolCharset) {
         for (QChar& c : text)
             c = SymbolCharacter(font.family, c.unicode());
     }
-    if ((in.U32(52) & OptionOpaque) != 0)
+    if ((in.U32(52) & optionOpaque) != 0)
         canvas_.FillWith({QPointF(in.S32(56), in.S32(60)), QPointF(in.S32(64), in.S32(68))},
                          canvas_.State().backColor);
     std::vector<double> advances;

@@ -6,10 +6,10 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t RecordHeaderBytes = 8;
-constexpr quint32 EndRecord = 14;
-constexpr quint32 StockObject = 0x80000000;
-constexpr std::size_t FaceBytes = 64;
+constexpr std::size_t recordHeaderBytes = 8;
+constexpr quint32 endRecord = 14;
+constexpr quint32 stockObject = 0x80000000;
+constexpr std::size_t faceBytes = 64;
 
 QPointF Point(const ByteReader& in, std::size_t at)
 {
@@ -42,7 +42,7 @@ GdiFont ReadFont(const ByteReader& in)
     font.underline = in.U8(33) != 0;
     font.strike = in.U8(34) != 0;
     font.charset = in.U8(35);
-    for (std::size_t at = 40; at < 40 + FaceBytes && in.U16(at) != 0; at += 2)
+    for (std::size_t at = 40; at < 40 + faceBytes && in.U16(at) != 0; at += 2)
         font.family += QChar(in.U16(at));
     return font;
 }
@@ -53,10 +53,10 @@ void EmfPlayer::Play(std::string_view bytes)
 {
     const ByteReader in(bytes);
     std::size_t at = 0;
-    while (canvas_.MayGoOn() && in.Has(at, RecordHeaderBytes)) {
+    while (canvas_.MayGoOn() && in.Has(at, recordHeaderBytes)) {
         const quint32 type = in.U32(at);
         const std::size_t size = in.U32(at + 4);
-        if (size < RecordHeaderBytes || type == EndRecord)
+        if (size < recordHeaderBytes || type == endRecord)
             return;
         const ByteReader record(in.Slice(at, size));
         if (!PlayState(type, record) && !PlayMapping(type, record) && !PlayObject(type, record) &&
@@ -104,18 +104,18 @@ bool EmfPlayer::PlayState(quint32 type, const ByteReader& in)
 
 void EmfPlayer::PlayClip(const ByteReader& in)
 {
-    constexpr quint32 And = 1;
-    constexpr quint32 Copy = 5;
-    constexpr std::size_t BoundsAt = 32;
+    constexpr quint32 combine = 1;
+    constexpr quint32 copy = 5;
+    constexpr std::size_t boundsAt = 32;
     const quint32 mode = in.U32(12);
     if (in.U32(8) == 0)
         return canvas_.Unclip();
-    if (mode != And && mode != Copy)
+    if (mode != combine && mode != copy)
         return;
     // Regions are in units of the device, whatever the window is.
     const GdiMapping mapping = canvas_.State().mapping;
     canvas_.State().mapping = GdiMapping();
-    canvas_.ClipTo(Box(in, BoundsAt), mode == And);
+    canvas_.ClipTo(Box(in, boundsAt), mode == combine);
     canvas_.State().mapping = mapping;
 }
 
@@ -163,14 +163,14 @@ void EmfPlayer::SetMapMode(quint32 mode)
 {
     // Units to the millimetre of the fixed modes: tenths and hundredths of a millimetre and of an inch,
     // twips.
-    constexpr double Units[] = {10, 100, 100 / 25.4, 1000 / 25.4, 1440 / 25.4};
+    constexpr double unitsOfMode[] = {10, 100, 100 / 25.4, 1000 / 25.4, 1440 / 25.4};
     GdiMapping& mapping = canvas_.State().mapping;
     scalesFreely_ = mode == 7 || mode == 8;
     if (mode == 1) {
         mapping.windowExtent = {1, 1};
         mapping.viewportExtent = {1, 1};
     } else if (mode >= 2 && mode <= 6) {
-        const double units = Units[mode - 2];
+        const double units = unitsOfMode[mode - 2];
         mapping.windowExtent = {units, units};
         // Here y grows upwards.
         mapping.viewportExtent = {unitsPerMillimetre_.width(), -unitsPerMillimetre_.height()};
@@ -182,7 +182,7 @@ bool EmfPlayer::PlayObject(quint32 type, const ByteReader& in)
     const quint32 number = in.U32(8);
     switch (type) {
     case 37:
-        if ((number & StockObject) != 0)
+        if ((number & stockObject) != 0)
             GdiObjects::Select(GdiStockObject(static_cast<int>(number & 0xffU)), canvas_.State());
         else
             objects_.Select(number, canvas_.State());

@@ -6,8 +6,8 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t CountAt = 24;
-constexpr std::size_t PointsAt = 28;
+constexpr std::size_t countAt = 24;
+constexpr std::size_t pointsAt = 28;
 
 QPolygonF Points(const ByteReader& in, std::size_t at, std::size_t count, bool isShort)
 {
@@ -29,7 +29,7 @@ bool EmfPlayer::PlayPoints(quint32 type, const ByteReader& in)
     const quint32 longType = isShort ? type - 83 : type;
     if (longType < 2 || longType > 8 || type > 91)
         return false;
-    const auto points = [&] { return Points(in, PointsAt, in.U32(CountAt), isShort); };
+    const auto points = [&] { return Points(in, pointsAt, in.U32(countAt), isShort); };
     switch (longType) {
     case 2:
         canvas_.Bezier(points(), false);
@@ -56,14 +56,14 @@ bool EmfPlayer::PlayPoints(quint32 type, const ByteReader& in)
 
 void EmfPlayer::PlayManyPoints(const ByteReader& in, bool isShort, bool closes)
 {
-    constexpr std::size_t CountsAt = 32;
-    const std::size_t count = in.U32(CountAt);
-    if (!in.Has(CountsAt, 4) || count > (in.Size() - CountsAt) / 4)
+    constexpr std::size_t countsAt = 32;
+    const std::size_t count = in.U32(countAt);
+    if (!in.Has(countsAt, 4) || count > (in.Size() - countsAt) / 4)
         return;
-    std::size_t at = CountsAt + count * 4;
+    std::size_t at = countsAt + count * 4;
     std::vector<QPolygonF> polygons;
     for (std::size_t i = 0; i < count && at < in.Size(); ++i) {
-        const std::size_t points = in.U32(CountsAt + i * 4);
+        const std::size_t points = in.U32(countsAt + i * 4);
         polygons.push_back(Points(in, at, points, isShort));
         at += points * (isShort ? 4 : 8);
     }

@@ -9,13 +9,13 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t MaxSavedStates = 256;
+constexpr std::size_t maxSavedStates = 256;
 /// Points further out than this are brought in: the painter walks along every pixel of a dashed line.
-constexpr double FarthestPixel = 20000;
+constexpr double farthestPixel = 20000;
 /// What a whole drawing may cost, counted in pixels painted.
-constexpr double WorkAllowed = 4e8;
-constexpr double WorkOfShape = 500;
-constexpr double WorkOfPoint = 50;
+constexpr double workAllowed = 4e8;
+constexpr double workOfShape = 500;
+constexpr double workOfPoint = 50;
 
 enum RasterOperation : quint32 { Blackness = 0x000042, PatternCopy = 0xf00021, Whiteness = 0xff0062 };
 
@@ -33,19 +33,19 @@ double Near(double value)
 {
     if (std::isnan(value))
         return 0;
-    return std::clamp(value, -FarthestPixel, FarthestPixel);
+    return std::clamp(value, -farthestPixel, farthestPixel);
 }
 
 GdiCanvas::GdiCanvas(QPainter* painter, const GdiMapping& mapping, const QTransform& deviceToCanvas,
                      qint64 mostBytes)
-    : painter_(painter), deviceToCanvas_(deviceToCanvas), mostBytes_(mostBytes), workLeft_(WorkAllowed)
+    : painter_(painter), deviceToCanvas_(deviceToCanvas), mostBytes_(mostBytes), workLeft_(workAllowed)
 {
     state_.mapping = mapping;
 }
 
 void GdiCanvas::Save()
 {
-    if (saved_.size() < MaxSavedStates)
+    if (saved_.size() < maxSavedStates)
         saved_.push_back(state_);
 }
 
@@ -109,7 +109,7 @@ void GdiCanvas::Draw(const QPainterPath& path, bool stroke, bool fill)
     const QRectF seen = painter_ != nullptr ? bounds & QRectF(painter_->viewport()) : QRectF();
     const double length = bounds.width() + bounds.height();
     if (!Note(bounds,
-              WorkOfShape + WorkOfPoint * mapped.elementCount() + seen.width() * seen.height() + length))
+              workOfShape + workOfPoint * mapped.elementCount() + seen.width() * seen.height() + length))
         return;
     painter_->setPen(stroke ? CanvasPen() : QPen(Qt::NoPen));
     painter_->setBrush(fill ? state_.brush : QBrush(Qt::NoBrush));

@@ -13,7 +13,7 @@ void GdiObjects::Add(GdiObject object)
 
 void GdiObjects::Put(std::size_t place, GdiObject object)
 {
-    if (place >= MaxObjects)
+    if (place >= maxObjects)
         return;
     if (place >= places_.size())
         places_.resize(place + 1);

@@ -21,7 +21,7 @@ private:
         bool isTaken = false;
         GdiObject object;
     };
-    static constexpr std::size_t MaxObjects = 4096;
+    static constexpr std::size_t maxObjects = 4096;
     std::vector<Place> places_;
 };
 

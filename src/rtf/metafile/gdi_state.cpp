@@ -6,9 +6,9 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr Qt::PenStyle PenStyles[] = {Qt::SolidLine,      Qt::DashLine, Qt::DotLine,  Qt::DashDotLine,
+constexpr Qt::PenStyle penStyles[] = {Qt::SolidLine,      Qt::DashLine, Qt::DotLine,  Qt::DashDotLine,
                                       Qt::DashDotDotLine, Qt::NoPen,    Qt::SolidLine};
-constexpr Qt::BrushStyle Hatches[] = {Qt::HorPattern,   Qt::VerPattern,   Qt::FDiagPattern,
+constexpr Qt::BrushStyle hatches[] = {Qt::HorPattern,   Qt::VerPattern,   Qt::FDiagPattern,
                                       Qt::BDiagPattern, Qt::CrossPattern, Qt::DiagCrossPattern};
 
 enum BrushKind { SolidBrush = 0, HollowBrush = 1, HatchedBrush = 2 };
@@ -39,7 +39,7 @@ QColor GdiColor(quint32 value)
 QPen GdiPen(int style, double width, quint32 color)
 {
     const auto place = static_cast<unsigned>(style) & 15U;
-    const Qt::PenStyle line = place < std::size(PenStyles) ? PenStyles[place] : Qt::SolidLine;
+    const Qt::PenStyle line = place < std::size(penStyles) ? penStyles[place] : Qt::SolidLine;
     return {GdiColor(color), std::abs(width), line, Qt::RoundCap, Qt::RoundJoin};
 }
 
@@ -51,8 +51,8 @@ QBrush GdiBrush(int style, quint32 color, int hatch)
     case HollowBrush:
         return {Qt::NoBrush};
     case HatchedBrush:
-        if (hatch >= 0 && hatch < static_cast<int>(std::size(Hatches)))
-            return {GdiColor(color), Hatches[hatch]};
+        if (hatch >= 0 && hatch < static_cast<int>(std::size(hatches)))
+            return {GdiColor(color), hatches[hatch]};
         return {GdiColor(color)};
     default:
         return {Qt::gray};

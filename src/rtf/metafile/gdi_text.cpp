@@ -15,10 +15,10 @@ namespace {
 enum TextAlign { UpdatePosition = 1, AlignRight = 2, AlignCenter = 6, AlignBottom = 8, AlignBaseline = 24 };
 
 /// Letters are so much of the height of their line.
-constexpr double LettersOfLine = 0.83;
-constexpr double WorkOfCharacter = 4000;
-constexpr double WorkOfText = 20000;
-constexpr qsizetype LongestText = 4000;
+constexpr double lettersOfLine = 0.83;
+constexpr double workOfCharacter = 4000;
+constexpr double workOfText = 20000;
+constexpr qsizetype longestText = 4000;
 
 double StartOf(int align, double width)
 {
@@ -39,7 +39,7 @@ double BaselineOf(int align, const QFontMetricsF& metrics)
 QFont GdiCanvas::CanvasFont() const
 {
     const GdiFont& wanted = state_.font;
-    const double letters = wanted.height < 0 ? -wanted.height : wanted.height * LettersOfLine;
+    const double letters = wanted.height < 0 ? -wanted.height : wanted.height * lettersOfLine;
     QFont font(wanted.family);
     font.setPixelSize(static_cast<int>(std::clamp(std::lround(letters * Scale()), 1L, 2000L)));
     font.setBold(wanted.weight >= 600);
@@ -53,9 +53,9 @@ void GdiCanvas::Text(const QPointF& at, const QString& text, const std::vector<d
 {
     const bool updates = (state_.textAlign & UpdatePosition) != 0;
     const QPointF origin = Map(updates ? state_.position : at);
-    const QString shown = text.left(LongestText);
+    const QString shown = text.left(longestText);
     ++survey_.shapes;
-    const double work = WorkOfText + WorkOfCharacter * static_cast<double>(shown.size());
+    const double work = workOfText + workOfCharacter * static_cast<double>(shown.size());
     // Fonts need the application's windowing side; without it the rest of the drawing is still good.
     const bool hasFonts = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
     if (!Note(QRectF(origin, QSizeF(1, 1)), work) || shown.isEmpty() || !hasFonts)

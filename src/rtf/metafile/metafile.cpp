@@ -13,21 +13,21 @@ namespace torvik::rtf {
 namespace {
 
 /// The canvas of the survey is so many units wide and high.
-constexpr double SurveySide = 1000;
+constexpr double surveySide = 1000;
 /// How much finer than the screen a drawing is made, for print and for large displays.
-constexpr double Fineness = 2;
-constexpr double MostDrawnPixels = 4e6;
-constexpr double MostBitmapPixels = 16e6;
-constexpr double DefaultSide = 300;
+constexpr double fineness = 2;
+constexpr double mostDrawnPixels = 4e6;
+constexpr double mostBitmapPixels = 16e6;
+constexpr double defaultSide = 300;
 
 /// A bitmap that lies within this of the edges fills the drawing.
-constexpr double EdgeSlack = SurveySide / 50;
+constexpr double edgeSlack = surveySide / 50;
 
 bool FillsCanvas(const QRectF& place)
 {
-    return std::abs(place.left()) < EdgeSlack && std::abs(place.top()) < EdgeSlack &&
-           std::abs(place.right() - SurveySide) < EdgeSlack &&
-           std::abs(place.bottom() - SurveySide) < EdgeSlack;
+    return std::abs(place.left()) < edgeSlack && std::abs(place.top()) < edgeSlack &&
+           std::abs(place.right() - surveySide) < edgeSlack &&
+           std::abs(place.bottom() - surveySide) < edgeSlack;
 }
 
 QTransform CanvasOf(const QRectF& frame, const QSizeF& size)
@@ -41,23 +41,23 @@ QTransform CanvasOf(const QRectF& frame, const QSizeF& size)
 /// The size of the image in pixels: fine enough for the screen, and for every bitmap of the drawing.
 QSize ImageSize(const GdiSurvey& survey, const QSizeF& shownSize, qint64 mostBytes)
 {
-    QSizeF size = shownSize * Fineness;
+    QSizeF size = shownSize * fineness;
     const double drawn = size.width() * size.height();
-    if (drawn > MostDrawnPixels)
-        size *= std::sqrt(MostDrawnPixels / drawn);
+    if (drawn > mostDrawnPixels)
+        size *= std::sqrt(mostDrawnPixels / drawn);
     if (survey.densityX > 0 && survey.densityY > 0)
-        size = size.expandedTo({survey.densityX * SurveySide, survey.densityY * SurveySide});
+        size = size.expandedTo({survey.densityX * surveySide, survey.densityY * surveySide});
     // Where bitmaps decide, their own pixels are what the eye compares.
     if (survey.shapes == 0 && survey.bitmaps > 0)
-        size = {survey.densityX * SurveySide, survey.densityY * SurveySide};
-    const double most = std::min(MostBitmapPixels, double(mostBytes) / 4);
+        size = {survey.densityX * surveySide, survey.densityY * surveySide};
+    const double most = std::min(mostBitmapPixels, double(mostBytes) / 4);
     const double wanted = size.width() * size.height();
     if (!(wanted > 0) || most < 1)
         return {};
     if (wanted > most)
         size *= std::sqrt(most / wanted);
     // What is a million times as long as wide is not drawn at its length.
-    const QSize rounded = size.boundedTo({MaxPictureSide, MaxPictureSide}).toSize().expandedTo({1, 1});
+    const QSize rounded = size.boundedTo({maxPictureSide, maxPictureSide}).toSize().expandedTo({1, 1});
     return double(rounded.width()) * rounded.height() * 4 <= double(mostBytes) + 4096 ? rounded : QSize();
 }
 
@@ -88,7 +88,7 @@ MetafileImage Draw(Drawing drawing, const QSizeF& shownSize, qint64 mostBytes)
     }
     if (drawing.frame.isEmpty())
         return result;
-    GdiCanvas stock(nullptr, drawing.mapping, CanvasOf(drawing.frame, {SurveySide, SurveySide}), mostBytes);
+    GdiCanvas stock(nullptr, drawing.mapping, CanvasOf(drawing.frame, {surveySide, surveySide}), mostBytes);
     drawing.play(stock);
     const GdiSurvey& survey = stock.Survey();
     if (survey.shapes + survey.bitmaps == 0)
@@ -101,7 +101,7 @@ MetafileImage Draw(Drawing drawing, const QSizeF& shownSize, qint64 mostBytes)
     }
     QSizeF shown = shownSize.isEmpty() ? drawing.naturalSize : shownSize;
     if (shown.isEmpty())
-        shown = {DefaultSide, DefaultSide};
+        shown = {defaultSide, defaultSide};
     const QSize size = ImageSize(survey, shown, mostBytes);
     if (!size.isEmpty())
         result.image = Paint(drawing, survey, size, mostBytes);

@@ -11,16 +11,16 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr quint32 PlaceableKey = 0x9ac6cdd7;
-constexpr std::size_t PlaceableBytes = 22;
-constexpr std::size_t HeaderBytes = 18;
-constexpr quint16 HeaderWords = 9;
-constexpr int DefaultUnitsPerInch = 1440;
+constexpr quint32 placeableKey = 0x9ac6cdd7;
+constexpr std::size_t placeableBytes = 22;
+constexpr std::size_t headerBytes = 18;
+constexpr quint16 headerWords = 9;
+constexpr int defaultUnitsPerInch = 1440;
 
 bool HasHeader(const ByteReader& in, std::size_t at)
 {
     const quint16 kind = in.U16(at);
-    return in.Has(at, HeaderBytes) && (kind == 1 || kind == 2) && in.U16(at + 2) == HeaderWords;
+    return in.Has(at, headerBytes) && (kind == 1 || kind == 2) && in.U16(at + 2) == headerWords;
 }
 
 void ReadPlaceable(const ByteReader& in, Drawing& drawing)
@@ -30,7 +30,7 @@ void ReadPlaceable(const ByteReader& in, Drawing& drawing)
     const QRectF box = QRectF(origin, corner).normalized();
     if (box.isEmpty())
         return;
-    const int inch = in.U16(14) != 0 ? in.U16(14) : DefaultUnitsPerInch;
+    const int inch = in.U16(14) != 0 ? in.U16(14) : defaultUnitsPerInch;
     drawing.frame = box;
     drawing.naturalSize = box.size() * 96.0 / inch;
 }
@@ -44,9 +44,9 @@ void FindWindow(std::string_view records, Drawing& drawing)
     WmfRecord record;
     while (extent.isEmpty() && walk.Next(record)) {
         const ByteReader in(record.parameters);
-        if (record.function == WmfSetWindowOrigin)
+        if (record.function == wmfSetWindowOrigin)
             origin = {double(in.S16(2)), double(in.S16(0))};
-        else if (record.function == WmfSetWindowExtent)
+        else if (record.function == wmfSetWindowExtent)
             extent = {std::abs(double(in.S16(2))), std::abs(double(in.S16(0)))};
     }
     if (extent.isEmpty())
@@ -60,13 +60,13 @@ Drawing OpenWmf(std::string_view bytes)
 {
     const ByteReader in(bytes);
     Drawing drawing;
-    const bool isPlaceable = in.U32(0) == PlaceableKey;
-    const std::size_t start = isPlaceable ? PlaceableBytes : 0;
+    const bool isPlaceable = in.U32(0) == placeableKey;
+    const std::size_t start = isPlaceable ? placeableBytes : 0;
     if (!HasHeader(in, start))
         return drawing;
     if (isPlaceable)
         ReadPlaceable(in, drawing);
-    const std::string_view records = in.Slice(start + HeaderBytes);
+    const std::string_view records = in.Slice(start + headerBytes);
     if (drawing.frame.isEmpty())
         FindWindow(records, drawing);
     if (!drawing.frame.isEmpty()) {

@@ -8,8 +8,8 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t DeviceBitmapHeaderBytes = 10;
-constexpr qint64 MostDeviceBitmapBytes = 16LL * 1024 * 1024;
+constexpr std::size_t deviceBitmapHeaderBytes = 10;
+constexpr qint64 mostDeviceBitmapBytes = 16LL * 1024 * 1024;
 
 struct Places {
     QRect source;
@@ -97,9 +97,9 @@ void WmfPlayer::PlayDeviceBitmap(const ByteReader& in, std::size_t sizesAt, std:
     stored.height = in.S16(bitmapAt + 4);
     stored.lineBytes = in.S16(bitmapAt + 6);
     stored.bitsPerPixel = in.U8(bitmapAt + 9);
-    stored.pixels = in.Slice(bitmapAt + DeviceBitmapHeaderBytes);
+    stored.pixels = in.Slice(bitmapAt + deviceBitmapHeaderBytes);
     GdiBitmap bitmap;
-    bitmap.image = DecodeDeviceBitmap(stored, MostDeviceBitmapBytes);
+    bitmap.image = DecodeDeviceBitmap(stored, mostDeviceBitmapBytes);
     bitmap.source = places.source;
     bitmap.target = places.target;
     bitmap.operation = in.U32(0);

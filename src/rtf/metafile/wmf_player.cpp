@@ -4,7 +4,7 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t RecordHeaderBytes = 6;
+constexpr std::size_t recordHeaderBytes = 6;
 
 QRectF Box(const ByteReader& in, std::size_t at)
 {
@@ -36,13 +36,13 @@ QSizeF Scaled(const QSizeF& size, const ByteReader& in)
 
 bool WmfRecords::Next(WmfRecord& record)
 {
-    if (!in_.Has(at_, RecordHeaderBytes))
+    if (!in_.Has(at_, recordHeaderBytes))
         return false;
     const std::size_t bytes = std::size_t(in_.U32(at_)) * 2;
     record.function = in_.U16(at_ + 4);
-    if (bytes < RecordHeaderBytes || record.function == 0)
+    if (bytes < recordHeaderBytes || record.function == 0)
         return false;
-    record.parameters = in_.Slice(at_ + RecordHeaderBytes, bytes - RecordHeaderBytes);
+    record.parameters = in_.Slice(at_ + recordHeaderBytes, bytes - recordHeaderBytes);
     at_ += bytes;
     return true;
 }
@@ -106,10 +106,10 @@ bool WmfPlayer::PlayWindow(quint16 function, const ByteReader& in)
 {
     GdiMapping& mapping = canvas_.State().mapping;
     switch (function) {
-    case WmfSetWindowOrigin:
+    case wmfSetWindowOrigin:
         mapping.windowOrigin = Point(in, 0);
         return true;
-    case WmfSetWindowExtent:
+    case wmfSetWindowExtent:
         mapping.windowExtent = {double(in.S16(2)), double(in.S16(0))};
         return true;
     case 0x020f:

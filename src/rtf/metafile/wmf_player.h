@@ -8,8 +8,8 @@
 
 namespace torvik::rtf {
 
-inline constexpr quint16 WmfSetWindowOrigin = 0x020b;
-inline constexpr quint16 WmfSetWindowExtent = 0x020c;
+inline constexpr quint16 wmfSetWindowOrigin = 0x020b;
+inline constexpr quint16 wmfSetWindowExtent = 0x020c;
 
 struct WmfRecord {
     quint16 function = 0;

@@ -9,7 +9,7 @@ namespace torvik::rtf {
 namespace {
 
 enum TextOption { OptionOpaque = 2, OptionClipped = 4 };
-constexpr int SymbolCharset = 2;
+constexpr int symbolCharset = 2;
 
 } // namespace
 
@@ -43,7 +43,7 @@ void WmfPlayer::PutText(const QPointF& at, std::string_view bytes, std::vector<d
 {
     const GdiFont& font = canvas_.State().font;
     QString text;
-    if (font.charset == SymbolCharset) {
+    if (font.charset == symbolCharset) {
         CodePage::OfSymbols().Decode(bytes, text);
         for (QChar& c : text)
             c = SymbolCharacter(font.family, c.unicode());

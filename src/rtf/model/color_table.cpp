@@ -9,7 +9,7 @@ namespace torvik::rtf {
 namespace {
 
 // Opaque colours have a full alpha part, so that nothing else can be the automatic one.
-constexpr QRgb Automatic = 0;
+constexpr QRgb automatic = 0;
 
 int Clamped(int value)
 {
@@ -43,8 +43,8 @@ void ColorTable::SetBlue(int value)
 
 void ColorTable::EndEntry()
 {
-    if (entries_.size() < static_cast<std::size_t>(MaxColors))
-        entries_.push_back(named_ ? qRgb(red_, green_, blue_) : Automatic);
+    if (entries_.size() < static_cast<std::size_t>(maxColors))
+        entries_.push_back(named_ ? qRgb(red_, green_, blue_) : automatic);
     red_ = green_ = blue_ = 0;
     named_ = false;
 }
@@ -54,7 +54,7 @@ QColor ColorTable::At(int index) const
     if (index < 0 || static_cast<std::size_t>(index) >= entries_.size())
         return {};
     const QRgb entry = entries_[static_cast<std::size_t>(index)];
-    return entry == Automatic ? QColor() : QColor(entry);
+    return entry == automatic ? QColor() : QColor(entry);
 }
 
 QColor ShadedColor(const QColor& front, const QColor& back, int percent)

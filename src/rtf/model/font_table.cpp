@@ -6,9 +6,9 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int SymbolCharset = 2;
+constexpr int symbolCharset = 2;
 
-constexpr const char* CharsetSuffixes[] = {" CE",       " CYR",          " Cyr",    " Greek",
+constexpr const char* charsetSuffixes[] = {" CE",       " CYR",          " Cyr",    " Greek",
                                            " TUR",      " Tur",          " Baltic", " (Hebrew)",
                                            " (Arabic)", " (Vietnamese)", " (Thai)", " (Cyrillic)"};
 
@@ -16,7 +16,7 @@ constexpr const char* CharsetSuffixes[] = {" CE",       " CYR",          " Cyr",
 
 bool FontEntry::IsSymbolFont() const
 {
-    return (hasCharset && charset == SymbolCharset) || family == QLatin1StringView("Symbol") ||
+    return (hasCharset && charset == symbolCharset) || family == QLatin1StringView("Symbol") ||
            family.startsWith(QLatin1StringView("Wingdings"));
 }
 
@@ -37,7 +37,7 @@ FontEntry& FontTable::Define(int number)
     const auto found = fonts_.find(number);
     if (found != fonts_.end())
         return found->second;
-    if (fonts_.size() >= static_cast<std::size_t>(MaxFonts))
+    if (fonts_.size() >= static_cast<std::size_t>(maxFonts))
         return overflow_;
     return fonts_[number];
 }
@@ -68,7 +68,7 @@ QString CleanFontName(const QString& written)
     if (end >= 0)
         name.truncate(end);
     name = name.trimmed();
-    for (const char* suffix : CharsetSuffixes) {
+    for (const char* suffix : charsetSuffixes) {
         const QLatin1StringView tail(suffix);
         if (name.endsWith(tail) && name.size() > tail.size())
             return name.chopped(tail.size());

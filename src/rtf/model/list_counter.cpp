@@ -7,7 +7,7 @@ namespace torvik::rtf {
 namespace {
 
 // Lists of the older kind have no number of their own.
-constexpr int KeyOfNumbering = -1;
+constexpr int keyOfNumbering = -1;
 
 int FormatOf(const ParagraphState& paragraph, const ListLevel* level)
 {
@@ -15,7 +15,7 @@ int FormatOf(const ParagraphState& paragraph, const ListLevel* level)
         return level->format;
     switch (paragraph.numbering.kind) {
     case ParagraphNumbering::Kind::Bullet:
-        return ListTable::BulletFormat;
+        return ListTable::bulletFormat;
     case ParagraphNumbering::Kind::Number:
         return paragraph.numbering.format;
     case ParagraphNumbering::Kind::None:
@@ -41,7 +41,7 @@ ListMark ListCounter::MarkOf(const ParagraphState& paragraph, const QString& wri
     } else if (isNumbered) {
         mark = MarkFromNumbering(paragraph.numbering, paragraph.numbering.start + numbering_ - 1);
     }
-    mark.listKey = paragraph.list != 0 ? lists_.KeyOf(paragraph.list) : KeyOfNumbering;
+    mark.listKey = paragraph.list != 0 ? lists_.KeyOf(paragraph.list) : keyOfNumbering;
     mark.level = paragraph.listLevel;
     return mark;
 }

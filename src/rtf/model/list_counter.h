@@ -19,7 +19,7 @@ public:
     ListMark MarkOf(const ParagraphState& paragraph, const QString& written);
 
 private:
-    using Values = std::array<int, ListTable::MaxLevels>;
+    using Values = std::array<int, ListTable::maxLevels>;
 
     ListMark CountedMark(const ParagraphState& paragraph);
     void Count(const ParagraphState& paragraph, Values& values) const;

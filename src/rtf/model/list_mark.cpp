@@ -7,25 +7,27 @@
 
 namespace torvik::rtf {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Style = QTextListFormat::Style;
 
-constexpr int LargestRoman = 3999;
+constexpr int largestRoman = 3999;
 
 struct Numeral {
     int value;
     const char* letters;
 };
 
-constexpr Numeral Numerals[] = {{1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"},
+constexpr Numeral numerals[] = {{1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"},
                                 {90, "xc"},  {50, "l"},   {40, "xl"}, {10, "x"},   {9, "ix"},
                                 {5, "v"},    {4, "iv"},   {1, "i"}};
 
 QString Roman(int value)
 {
     QString text;
-    for (const Numeral& numeral : Numerals) {
+    for (const Numeral& numeral : numerals) {
         while (value >= numeral.value) {
             text += QLatin1StringView(numeral.letters);
             value -= numeral.value;
@@ -39,14 +41,14 @@ int FromRoman(const QString& lower)
 {
     int value = 0;
     qsizetype at = 0;
-    for (const Numeral& numeral : Numerals) {
+    for (const Numeral& numeral : numerals) {
         const QLatin1StringView letters(numeral.letters);
         while (QStringView(lower).sliced(at).startsWith(letters)) {
             value += numeral.value;
             at += letters.size();
         }
     }
-    return at == lower.size() && value <= LargestRoman && Roman(value) == lower ? value : 0;
+    return at == lower.size() && value <= largestRoman && Roman(value) == lower ? value : 0;
 }
 
 /// a, b, ... z, aa, ab: 0 when the text is anything else.
@@ -89,8 +91,7 @@ Style BulletStyle(QChar glyph)
 
 bool IsBulletGlyph(QChar glyph)
 {
-    static const QString known =
-        QStringLiteral("o○◦❍■▪□◻❑❒§•·●◆❖➢✓★→➔-–—*\uf0b7\uf0a7\uf06c\uf06e\uf06f\uf0d8");
+    static const QString known = u"o○◦❍■▪□◻❑❒§•·●◆❖➢✓★→➔-–—*\uf0b7\uf0a7\uf06c\uf06e\uf06f\uf0d8"_s;
     return known.contains(glyph);
 }
 
@@ -159,7 +160,7 @@ QString NumberInStyle(int value, QTextListFormat::Style style)
     switch (style) {
     case QTextListFormat::ListLowerRoman:
     case QTextListFormat::ListUpperRoman:
-        text = value > 0 && value <= LargestRoman ? Roman(value) : QString::number(value);
+        text = value > 0 && value <= largestRoman ? Roman(value) : QString::number(value);
         break;
     case QTextListFormat::ListLowerAlpha:
     case QTextListFormat::ListUpperAlpha:
@@ -179,7 +180,7 @@ ListMark MarkFromText(const QString& written, int format)
     if (text.isEmpty())
         return {};
     ListMark mark;
-    if (format == ListTable::BulletFormat || (text.size() == 1 && format < 0 && IsBulletGlyph(text.at(0)))) {
+    if (format == ListTable::bulletFormat || (text.size() == 1 && format < 0 && IsBulletGlyph(text.at(0)))) {
         mark.kind = ListMark::Kind::Bullet;
         mark.style = BulletStyle(text.at(0));
         return mark;
@@ -201,7 +202,7 @@ ListMark MarkFromText(const QString& written, int format)
 
 ListMark MarkFromLevel(const ListLevel& level, const int* values, int count)
 {
-    if (level.format == ListTable::NoFormat || count <= 0)
+    if (level.format == ListTable::noFormat || count <= 0)
         return {};
     // The first character only tells how many follow.
     const QString pattern = level.text.mid(1);
@@ -209,7 +210,7 @@ ListMark MarkFromLevel(const ListLevel& level, const int* values, int count)
     int numbers = 0;
     for (const QChar c : pattern) {
         const int place = c.unicode();
-        if (place < ListTable::MaxLevels) {
+        if (place < ListTable::maxLevels) {
             written +=
                 place < count ? NumberInStyle(values[place], StyleOfNumberFormat(level.format)) : QString();
             ++numbers;
@@ -217,8 +218,8 @@ ListMark MarkFromLevel(const ListLevel& level, const int* values, int count)
             written += c;
         }
     }
-    if (level.format == ListTable::BulletFormat)
-        return MarkFromText(written.isEmpty() ? QStringLiteral("•") : written, ListTable::BulletFormat);
+    if (level.format == ListTable::bulletFormat)
+        return MarkFromText(written.isEmpty() ? u"•"_s : written, ListTable::bulletFormat);
     if (numbers == 0 && written.isEmpty())
         written = NumberInStyle(values[count - 1], StyleOfNumberFormat(level.format)) + u'.';
     return MarkFromText(written, level.format);
@@ -229,8 +230,7 @@ ListMark MarkFromNumbering(const ParagraphNumbering& numbering, int value)
     if (numbering.kind == ParagraphNumbering::Kind::None)
         return {};
     if (numbering.kind == ParagraphNumbering::Kind::Bullet)
-        return MarkFromText(numbering.before.isEmpty() ? QStringLiteral("•") : numbering.before,
-                            ListTable::BulletFormat);
+        return MarkFromText(numbering.before.isEmpty() ? u"•"_s : numbering.before, ListTable::bulletFormat);
     const QString number = NumberInStyle(value, StyleOfNumberFormat(numbering.format));
     return MarkFromText(numbering.before + number + numbering.after, numbering.format);
 }

@@ -8,7 +8,7 @@ namespace torvik::rtf {
 
 void ListTable::BeginList()
 {
-    if (lists_.size() < static_cast<std::size_t>(MaxLists))
+    if (lists_.size() < static_cast<std::size_t>(maxLists))
         lists_.emplace_back();
 }
 
@@ -20,7 +20,7 @@ void ListTable::SetListId(int id)
 
 ListLevel* ListTable::BeginLevel()
 {
-    if (lists_.empty() || lists_.back().levels.size() >= static_cast<std::size_t>(MaxLevels))
+    if (lists_.empty() || lists_.back().levels.size() >= static_cast<std::size_t>(maxLevels))
         return nullptr;
     return &lists_.back().levels.emplace_back();
 }
@@ -44,7 +44,7 @@ void ListTable::SetOverriddenList(int id)
 
 void ListTable::SetReference(int number)
 {
-    if (listOfReference_.size() < static_cast<std::size_t>(MaxLists))
+    if (listOfReference_.size() < static_cast<std::size_t>(maxLists))
         listOfReference_[number] = overriddenId_;
 }
 

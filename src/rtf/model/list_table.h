@@ -22,9 +22,9 @@ struct ListLevel {
 /// The list definitions of a document, and the numbers by which paragraphs refer to them.
 class ListTable {
 public:
-    static constexpr int BulletFormat = 23;
-    static constexpr int NoFormat = 255;
-    static constexpr int MaxLevels = 9;
+    static constexpr int bulletFormat = 23;
+    static constexpr int noFormat = 255;
+    static constexpr int maxLevels = 9;
 
     void BeginList();
     /// The list's own number, which the overrides refer to.

@@ -6,6 +6,8 @@
 
 namespace torvik::rtf {
 
+using namespace Qt::StringLiterals;
+
 int PictureStore::Add(const QImage& image, const QSizeF& size)
 {
     pictures_.push_back({image, size});
@@ -14,7 +16,7 @@ int PictureStore::Add(const QImage& image, const QSizeF& size)
 
 QString PictureStore::NameOf(int number)
 {
-    return QStringLiteral("rtf-picture:%1").arg(number);
+    return u"rtf-picture:%1"_s.arg(number);
 }
 
 QSizeF PictureStore::SizeOf(int number) const

@@ -15,8 +15,8 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr double PixelsPerHundredthMillimetre = 96.0 / 2540.0;
-constexpr double LargestShownSide = PixelsFromTwips(MaxTwips);
+constexpr double pixelsPerHundredthMillimetre = 96.0 / 2540.0;
+constexpr double largestShownSide = PixelsFromTwips(maxTwips);
 
 bool IsMetafile(PictureKind kind)
 {
@@ -36,8 +36,8 @@ PictureKind KindOf(const PictureSource& source)
         return PictureKind::Png;
     if (IsJpeg(bytes))
         return PictureKind::Jpeg;
-    constexpr std::size_t SignatureAt = 40;
-    if (bytes.size() > SignatureAt + 4 && bytes.substr(SignatureAt, 4) == " EMF")
+    constexpr std::size_t signatureAt = 40;
+    if (bytes.size() > signatureAt + 4 && bytes.substr(signatureAt, 4) == " EMF")
         return PictureKind::Emf;
     return source.kind;
 }
@@ -47,7 +47,7 @@ QSizeF StatedSize(const PictureSource& source)
 {
     double width = PixelsFromTwips(source.goalWidth);
     double height = PixelsFromTwips(source.goalHeight);
-    const double unit = IsMetafile(source.kind) ? PixelsPerHundredthMillimetre : 1.0;
+    const double unit = IsMetafile(source.kind) ? pixelsPerHundredthMillimetre : 1.0;
     if (source.goalWidth == 0)
         width = source.width * unit;
     if (source.goalHeight == 0)
@@ -135,8 +135,8 @@ ShownPicture ShowPicture(const PictureSource& source, Budget& budget)
     const Kept across = KeptPart(source.cropLeft, source.cropRight, size.width());
     const Kept down = KeptPart(source.cropTop, source.cropBottom, size.height());
     shown.image = Cropped(shown.image, across, down);
-    shown.size = {std::clamp(size.width() * across.length * source.scaleX / 100.0, 1.0, LargestShownSide),
-                  std::clamp(size.height() * down.length * source.scaleY / 100.0, 1.0, LargestShownSide)};
+    shown.size = {std::clamp(size.width() * across.length * source.scaleX / 100.0, 1.0, largestShownSide),
+                  std::clamp(size.height() * down.length * source.scaleY / 100.0, 1.0, largestShownSide)};
     return shown;
 }
 

@@ -1,5 +1,5 @@
 #include "rtf/bounds/limits.h"
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
 // Words about the looks of characters.
@@ -8,50 +8,50 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int LargestSize = 3276;
+constexpr int largestSize = 3276;
 
 template <Underline kind>
-void SetUnderline(Reader& reader, const Argument& argument)
+void SetUnderline(Interpreter& interpreter, const Argument& argument)
 {
-    reader.Character().underline = argument.IsOn() ? kind : Underline::None;
+    interpreter.Character().underline = argument.IsOn() ? kind : Underline::None;
 }
 
 template <bool CharacterState::*flag>
-void SetFlag(Reader& reader, const Argument& argument)
+void SetFlag(Interpreter& interpreter, const Argument& argument)
 {
-    reader.Character().*flag = argument.IsOn();
+    interpreter.Character().*flag = argument.IsOn();
 }
 
 template <int CharacterState::*color>
-void SetColor(Reader& reader, const Argument& argument)
+void SetColor(Interpreter& interpreter, const Argument& argument)
 {
-    reader.Character().*color = argument.value;
+    interpreter.Character().*color = argument.value;
 }
 
 template <Script script>
-void SetScript(Reader& reader, const Argument& argument)
+void SetScript(Interpreter& interpreter, const Argument& argument)
 {
-    reader.Character().script = argument.IsOn() ? script : Script::Normal;
+    interpreter.Character().script = argument.IsOn() ? script : Script::Normal;
 }
 
 template <Capitals capitals>
-void SetCapitals(Reader& reader, const Argument& argument)
+void SetCapitals(Interpreter& interpreter, const Argument& argument)
 {
-    reader.Character().capitals = argument.IsOn() ? capitals : Capitals::AsWritten;
+    interpreter.Character().capitals = argument.IsOn() ? capitals : Capitals::AsWritten;
 }
 
-constexpr WordEntry Entries[] = {
-    {"plain", [](Reader& r, const Argument&) { r.ResetCharacter(); }},
-    {"cs", [](Reader& r, const Argument& a) { r.ApplyCharacterStyle(a.value); }},
-    {"f", [](Reader& r, const Argument& a) { r.SetFont(a.value); }},
-    {"fs", [](Reader& r, const Argument& a) { r.Character().size = a.Within(2, LargestSize, 24); }},
+constexpr WordEntry characterEntries[] = {
+    {"plain", [](Interpreter& r, const Argument&) { r.ResetCharacter(); }},
+    {"cs", [](Interpreter& r, const Argument& a) { r.ApplyCharacterStyle(a.value); }},
+    {"f", [](Interpreter& r, const Argument& a) { r.SetFont(a.value); }},
+    {"fs", [](Interpreter& r, const Argument& a) { r.Character().size = a.Within(2, largestSize, 24); }},
     {"b", SetFlag<&CharacterState::bold>},
     {"i", SetFlag<&CharacterState::italic>},
     {"strike", SetFlag<&CharacterState::strike>},
     {"striked", SetFlag<&CharacterState::strike>},
     {"v", SetFlag<&CharacterState::hidden>},
-    {"rtlch", [](Reader& r, const Argument&) { r.Character().rightToLeft = true; }},
-    {"ltrch", [](Reader& r, const Argument&) { r.Character().rightToLeft = false; }},
+    {"rtlch", [](Interpreter& r, const Argument&) { r.Character().rightToLeft = true; }},
+    {"ltrch", [](Interpreter& r, const Argument&) { r.Character().rightToLeft = false; }},
     {"ul", SetUnderline<Underline::Single>},
     {"ulw", SetUnderline<Underline::Single>},
     {"uldb", SetUnderline<Underline::Single>},
@@ -69,31 +69,31 @@ constexpr WordEntry Entries[] = {
     {"ulwave", SetUnderline<Underline::Wave>},
     {"ulhwave", SetUnderline<Underline::Wave>},
     {"ululdbwave", SetUnderline<Underline::Wave>},
-    {"ulnone", [](Reader& r, const Argument&) { r.Character().underline = Underline::None; }},
+    {"ulnone", [](Interpreter& r, const Argument&) { r.Character().underline = Underline::None; }},
     {"ulc", SetColor<&CharacterState::underlineColor>},
     {"cf", SetColor<&CharacterState::foreground>},
     {"cb", SetColor<&CharacterState::background>},
     {"highlight", SetColor<&CharacterState::background>},
     {"chcbpat", SetColor<&CharacterState::background>},
     {"chcfpat", SetColor<&CharacterState::patternColor>},
-    {"chshdng", [](Reader& r, const Argument& a) { r.Character().shading = a.Within(0, 10000); }},
+    {"chshdng", [](Interpreter& r, const Argument& a) { r.Character().shading = a.Within(0, 10000); }},
     {"super", SetScript<Script::Super>},
     {"sub", SetScript<Script::Sub>},
-    {"nosupersub", [](Reader& r, const Argument&) { r.Character().script = Script::Normal; }},
-    {"up", [](Reader& r, const Argument& a) { r.Character().raised = a.Within(0, 200, 6); }},
-    {"dn", [](Reader& r, const Argument& a) { r.Character().raised = -a.Within(0, 200, 6); }},
+    {"nosupersub", [](Interpreter& r, const Argument&) { r.Character().script = Script::Normal; }},
+    {"up", [](Interpreter& r, const Argument& a) { r.Character().raised = a.Within(0, 200, 6); }},
+    {"dn", [](Interpreter& r, const Argument& a) { r.Character().raised = -a.Within(0, 200, 6); }},
     {"caps", SetCapitals<Capitals::All>},
     {"scaps", SetCapitals<Capitals::Small>},
-    {"expnd", [](Reader& r, const Argument& a) { r.Character().spacing = 5 * a.Within(-300, 300); }},
-    {"expndtw", [](Reader& r, const Argument& a) { r.Character().spacing = a.Within(-1500, 1500); }},
-    {"charscalex", [](Reader& r, const Argument& a) { r.Character().stretch = a.Within(1, 600, 100); }},
+    {"expnd", [](Interpreter& r, const Argument& a) { r.Character().spacing = 5 * a.Within(-300, 300); }},
+    {"expndtw", [](Interpreter& r, const Argument& a) { r.Character().spacing = a.Within(-1500, 1500); }},
+    {"charscalex", [](Interpreter& r, const Argument& a) { r.Character().stretch = a.Within(1, 600, 100); }},
 };
 
 } // namespace
 
 std::span<const WordEntry> CharacterWords()
 {
-    return Entries;
+    return characterEntries;
 }
 
 } // namespace torvik::rtf

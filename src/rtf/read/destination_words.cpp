@@ -1,4 +1,4 @@
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
 // Words that say what the rest of their group is for.
@@ -7,20 +7,20 @@ namespace torvik::rtf {
 
 namespace {
 
-void SkipGroup(Reader& reader, const Argument&)
+void SkipGroup(Interpreter& interpreter, const Argument&)
 {
-    reader.Skip();
+    interpreter.Skip();
 }
 
-void Nothing(Reader&, const Argument&) {}
+void Nothing(Interpreter&, const Argument&) {}
 
 template <Destination destination>
-void EnterGroup(Reader& reader, const Argument&)
+void EnterGroup(Interpreter& interpreter, const Argument&)
 {
-    reader.Enter(destination);
+    interpreter.Enter(destination);
 }
 
-constexpr WordEntry Entries[] = {
+constexpr WordEntry destinationEntries[] = {
     {"fonttbl", EnterGroup<Destination::Fonts>},
     {"colortbl", EnterGroup<Destination::Colors>},
     {"stylesheet", EnterGroup<Destination::Styles>},
@@ -28,14 +28,14 @@ constexpr WordEntry Entries[] = {
     {"listoverridetable", EnterGroup<Destination::ListOverrides>},
     {"fldinst", EnterGroup<Destination::FieldInstruction>},
     {"bkmkstart", EnterGroup<Destination::Bookmark>},
-    {"field", [](Reader& r, const Argument&) { r.BeginField(); }},
-    {"fldrslt", [](Reader& r, const Argument&) { r.BeginFieldResult(); }},
-    {"footnote", [](Reader& r, const Argument&) { r.BeginNote(); }},
-    {"pict", [](Reader& r, const Argument&) { r.BeginPicture(); }},
-    {"shppict", [](Reader& r, const Argument&) { r.BeginShapePicture(); }},
-    {"nonshppict", [](Reader& r, const Argument&) { r.BeginPlainPicture(); }},
-    {"pntext", [](Reader& r, const Argument&) { r.BeginMark(); }},
-    {"listtext", [](Reader& r, const Argument&) { r.BeginMark(); }},
+    {"field", [](Interpreter& r, const Argument&) { r.BeginField(); }},
+    {"fldrslt", [](Interpreter& r, const Argument&) { r.BeginFieldResult(); }},
+    {"footnote", [](Interpreter& r, const Argument&) { r.BeginNote(); }},
+    {"pict", [](Interpreter& r, const Argument&) { r.BeginPicture(); }},
+    {"shppict", [](Interpreter& r, const Argument&) { r.BeginShapePicture(); }},
+    {"nonshppict", [](Interpreter& r, const Argument&) { r.BeginPlainPicture(); }},
+    {"pntext", [](Interpreter& r, const Argument&) { r.BeginMark(); }},
+    {"listtext", [](Interpreter& r, const Argument&) { r.BeginMark(); }},
     {"pn", EnterGroup<Destination::Numbering>},
     // An object is shown by its result, a drawn shape by the picture and the text in it.
     {"object", EnterGroup<Destination::Hidden>},
@@ -43,9 +43,9 @@ constexpr WordEntry Entries[] = {
     {"shpinst", EnterGroup<Destination::Hidden>},
     {"shptxt", EnterGroup<Destination::Body>},
     // Of two forms of a text the second, in Unicode, is the true one.
-    {"upr", [](Reader& r, const Argument&) { r.SkipNextGroup(); }},
+    {"upr", [](Interpreter& r, const Argument&) { r.SkipNextGroup(); }},
     {"ud", Nothing},
-    {"nesttableprops", [](Reader& r, const Argument&) { r.State().isNestedTableProperties = true; }},
+    {"nesttableprops", [](Interpreter& r, const Argument&) { r.State().isNestedTableProperties = true; }},
     {"nonesttables", SkipGroup},
     {"info", SkipGroup},
     {"header", SkipGroup},
@@ -90,7 +90,7 @@ constexpr WordEntry Entries[] = {
 
 std::span<const WordEntry> DestinationWords()
 {
-    return Entries;
+    return destinationEntries;
 }
 
 } // namespace torvik::rtf

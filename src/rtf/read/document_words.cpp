@@ -1,4 +1,4 @@
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
 // Words about the whole document.
@@ -7,25 +7,25 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int LargestPage = 70000;
+constexpr int largestPage = 70000;
 
-constexpr WordEntry Entries[] = {
-    {"ansi", [](Reader& r, const Argument&) { r.SetDocumentPage(1252); }},
-    {"mac", [](Reader& r, const Argument&) { r.SetDocumentPage(10000); }},
-    {"pc", [](Reader& r, const Argument&) { r.SetDocumentPage(437); }},
-    {"pca", [](Reader& r, const Argument&) { r.SetDocumentPage(850); }},
-    {"ansicpg", [](Reader& r, const Argument& a) { r.SetDocumentPage(a.Within(1, LargestPage, 1252)); }},
-    {"deff", [](Reader& r, const Argument& a) { r.SetDefaultFont(a.value); }},
-    {"deftab", [](Reader& r, const Argument& a) { r.SetDefaultTab(a.Within(20, 14400, 720)); }},
-    {"uc", [](Reader& r, const Argument& a) { r.State().fallbackLength = a.Within(0, 64, 1); }},
-    {"u", [](Reader& r, const Argument& a) { r.PutUnicode(a.value); }},
+constexpr WordEntry documentEntries[] = {
+    {"ansi", [](Interpreter& r, const Argument&) { r.SetDocumentPage(1252); }},
+    {"mac", [](Interpreter& r, const Argument&) { r.SetDocumentPage(10000); }},
+    {"pc", [](Interpreter& r, const Argument&) { r.SetDocumentPage(437); }},
+    {"pca", [](Interpreter& r, const Argument&) { r.SetDocumentPage(850); }},
+    {"ansicpg", [](Interpreter& r, const Argument& a) { r.SetDocumentPage(a.Within(1, largestPage, 1252)); }},
+    {"deff", [](Interpreter& r, const Argument& a) { r.SetDefaultFont(a.value); }},
+    {"deftab", [](Interpreter& r, const Argument& a) { r.SetDefaultTab(a.Within(20, 14400, 720)); }},
+    {"uc", [](Interpreter& r, const Argument& a) { r.State().fallbackLength = a.Within(0, 64, 1); }},
+    {"u", [](Interpreter& r, const Argument& a) { r.PutUnicode(a.value); }},
 };
 
 } // namespace
 
 std::span<const WordEntry> DocumentWords()
 {
-    return Entries;
+    return documentEntries;
 }
 
 } // namespace torvik::rtf

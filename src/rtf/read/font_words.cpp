@@ -1,4 +1,4 @@
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
 // Words of the two tables that name fonts and colours.
@@ -8,67 +8,67 @@ namespace torvik::rtf {
 namespace {
 
 template <QFont::StyleHint hint>
-void SetHint(Reader& reader, const Argument&)
+void SetHint(Interpreter& interpreter, const Argument&)
 {
-    if (FontEntry* font = reader.CurrentFont())
+    if (FontEntry* font = interpreter.CurrentFont())
         font->hint = hint;
 }
 
-void SetCharset(Reader& reader, const Argument& argument)
+void SetCharset(Interpreter& interpreter, const Argument& argument)
 {
-    FontEntry* font = reader.CurrentFont();
+    FontEntry* font = interpreter.CurrentFont();
     if (font == nullptr)
         return;
     font->charset = argument.value;
     font->hasCharset = true;
-    reader.FontChanged();
+    interpreter.FontChanged();
 }
 
-void SetCodePage(Reader& reader, const Argument& argument)
+void SetCodePage(Interpreter& interpreter, const Argument& argument)
 {
-    FontEntry* font = reader.CurrentFont();
+    FontEntry* font = interpreter.CurrentFont();
     if (font == nullptr)
         return;
     font->codePage = argument.value;
-    reader.FontChanged();
+    interpreter.FontChanged();
 }
 
-constexpr WordEntry FontEntries[] = {
-    {"f", [](Reader& r, const Argument& a) { r.BeginFont(a.value); }},
+constexpr WordEntry fontEntries[] = {
+    {"f", [](Interpreter& r, const Argument& a) { r.BeginFont(a.value); }},
     {"froman", SetHint<QFont::Serif>},
     {"fswiss", SetHint<QFont::SansSerif>},
     {"fmodern", SetHint<QFont::Monospace>},
     {"fscript", SetHint<QFont::Cursive>},
     {"fdecor", SetHint<QFont::Decorative>},
     {"fprq",
-     [](Reader& r, const Argument& a) {
+     [](Interpreter& r, const Argument& a) {
          if (FontEntry* font = r.CurrentFont())
              font->fixedPitch = a.value == 1;
      }},
     {"fcharset", SetCharset},
     {"cpg", SetCodePage},
-    {"falt", [](Reader& r, const Argument&) { r.EnterAlternativeFont(); }},
-    {"fname", [](Reader& r, const Argument&) { r.Skip(); }},
-    {"panose", [](Reader& r, const Argument&) { r.Skip(); }},
-    {"fontemb", [](Reader& r, const Argument&) { r.Skip(); }},
+    {"falt", [](Interpreter& r, const Argument&) { r.EnterAlternativeFont(); }},
+    {"fname", [](Interpreter& r, const Argument&) { r.Skip(); }},
+    {"panose", [](Interpreter& r, const Argument&) { r.Skip(); }},
+    {"fontemb", [](Interpreter& r, const Argument&) { r.Skip(); }},
 };
 
-constexpr WordEntry ColorEntries[] = {
-    {"red", [](Reader& r, const Argument& a) { r.Colors().SetRed(a.value); }},
-    {"green", [](Reader& r, const Argument& a) { r.Colors().SetGreen(a.value); }},
-    {"blue", [](Reader& r, const Argument& a) { r.Colors().SetBlue(a.value); }},
+constexpr WordEntry colorEntries[] = {
+    {"red", [](Interpreter& r, const Argument& a) { r.Colors().SetRed(a.value); }},
+    {"green", [](Interpreter& r, const Argument& a) { r.Colors().SetGreen(a.value); }},
+    {"blue", [](Interpreter& r, const Argument& a) { r.Colors().SetBlue(a.value); }},
 };
 
 } // namespace
 
 std::span<const WordEntry> FontWords()
 {
-    return FontEntries;
+    return fontEntries;
 }
 
 std::span<const WordEntry> ColorWords()
 {
-    return ColorEntries;
+    return colorEntries;
 }
 
 } // namespace torvik::rtf

@@ -1,4 +1,4 @@
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
 // Words of the list tables, and of the older numbering that every paragraph carries with it.
@@ -9,76 +9,76 @@ namespace {
 
 using Kind = ParagraphNumbering::Kind;
 
-bool IsOverride(Reader& reader)
+bool IsOverride(Interpreter& interpreter)
 {
-    return reader.State().destination == Destination::ListOverrides;
+    return interpreter.State().destination == Destination::ListOverrides;
 }
 
-void SetListId(Reader& reader, const Argument& argument)
+void SetListId(Interpreter& interpreter, const Argument& argument)
 {
-    if (IsOverride(reader))
-        reader.Lists().SetOverriddenList(argument.value);
+    if (IsOverride(interpreter))
+        interpreter.Lists().SetOverriddenList(argument.value);
     else
-        reader.Lists().SetListId(argument.value);
+        interpreter.Lists().SetListId(argument.value);
 }
 
-void SetLevelFormat(Reader& reader, const Argument& argument)
+void SetLevelFormat(Interpreter& interpreter, const Argument& argument)
 {
-    if (ListLevel* level = reader.Lists().CurrentLevel(); level != nullptr && !IsOverride(reader))
+    if (ListLevel* level = interpreter.Lists().CurrentLevel(); level != nullptr && !IsOverride(interpreter))
         level->format = argument.Within(0, 255);
 }
 
-constexpr WordEntry ListEntries[] = {
-    {"list", [](Reader& r, const Argument&) { r.Lists().BeginList(); }},
+constexpr WordEntry listEntries[] = {
+    {"list", [](Interpreter& r, const Argument&) { r.Lists().BeginList(); }},
     {"listid", SetListId},
     {"listlevel",
-     [](Reader& r, const Argument&) {
+     [](Interpreter& r, const Argument&) {
          if (!IsOverride(r))
              r.Lists().BeginLevel();
      }},
     {"levelnfc", SetLevelFormat},
     {"levelnfcn", SetLevelFormat},
     {"levelstartat",
-     [](Reader& r, const Argument& a) {
+     [](Interpreter& r, const Argument& a) {
          if (ListLevel* level = r.Lists().CurrentLevel(); level != nullptr && !IsOverride(r))
              level->startAt = a.Within(0, 30000, 1);
      }},
     {"leveltext",
-     [](Reader& r, const Argument&) {
+     [](Interpreter& r, const Argument&) {
          if (IsOverride(r))
              r.Skip();
          else
              r.Enter(Destination::LevelText);
      }},
-    {"levelnumbers", [](Reader& r, const Argument&) { r.Skip(); }},
-    {"listname", [](Reader& r, const Argument&) { r.Skip(); }},
-    {"listpicture", [](Reader& r, const Argument&) { r.Skip(); }},
-    {"listoverride", [](Reader& r, const Argument&) { r.Lists().BeginOverride(); }},
-    {"ls", [](Reader& r, const Argument& a) { r.Lists().SetReference(a.value); }},
+    {"levelnumbers", [](Interpreter& r, const Argument&) { r.Skip(); }},
+    {"listname", [](Interpreter& r, const Argument&) { r.Skip(); }},
+    {"listpicture", [](Interpreter& r, const Argument&) { r.Skip(); }},
+    {"listoverride", [](Interpreter& r, const Argument&) { r.Lists().BeginOverride(); }},
+    {"ls", [](Interpreter& r, const Argument& a) { r.Lists().SetReference(a.value); }},
 };
 
-ParagraphNumbering& Numbering(Reader& reader)
+ParagraphNumbering& Numbering(Interpreter& interpreter)
 {
-    return reader.ParagraphFormat().numbering;
+    return interpreter.ParagraphFormat().numbering;
 }
 
 template <Kind kind>
-void SetKind(Reader& reader, const Argument&)
+void SetKind(Interpreter& interpreter, const Argument&)
 {
-    Numbering(reader) = ParagraphNumbering();
-    Numbering(reader).kind = kind;
+    Numbering(interpreter) = ParagraphNumbering();
+    Numbering(interpreter).kind = kind;
 }
 
 template <int format>
-void SetFormat(Reader& reader, const Argument&)
+void SetFormat(Interpreter& interpreter, const Argument&)
 {
-    ParagraphNumbering& numbering = Numbering(reader);
+    ParagraphNumbering& numbering = Numbering(interpreter);
     if (numbering.kind != Kind::Bullet)
         numbering.kind = Kind::Number;
     numbering.format = format;
 }
 
-constexpr WordEntry NumberingEntries[] = {
+constexpr WordEntry numberingEntries[] = {
     {"pnlvlblt", SetKind<Kind::Bullet>},
     {"pnlvlbody", SetKind<Kind::Number>},
     {"pnlvl", SetKind<Kind::Number>},
@@ -88,30 +88,30 @@ constexpr WordEntry NumberingEntries[] = {
     {"pnlcrm", SetFormat<2>},
     {"pnucltr", SetFormat<3>},
     {"pnlcltr", SetFormat<4>},
-    {"pnstart", [](Reader& r, const Argument& a) { Numbering(r).start = a.Within(0, 30000, 1); }},
+    {"pnstart", [](Interpreter& r, const Argument& a) { Numbering(r).start = a.Within(0, 30000, 1); }},
     {"pntxtb",
-     [](Reader& r, const Argument&) {
+     [](Interpreter& r, const Argument&) {
          Numbering(r).before.clear();
          r.Enter(Destination::NumberingBefore);
      }},
     {"pntxta",
-     [](Reader& r, const Argument&) {
+     [](Interpreter& r, const Argument&) {
          Numbering(r).after.clear();
          r.Enter(Destination::NumberingAfter);
      }},
-    {"pnf", [](Reader& r, const Argument& a) { r.SetFont(a.value); }},
+    {"pnf", [](Interpreter& r, const Argument& a) { r.SetFont(a.value); }},
 };
 
 } // namespace
 
 std::span<const WordEntry> ListWords()
 {
-    return ListEntries;
+    return listEntries;
 }
 
 std::span<const WordEntry> NumberingWords()
 {
-    return NumberingEntries;
+    return numberingEntries;
 }
 
 } // namespace torvik::rtf

@@ -1,5 +1,5 @@
 #include "rtf/bounds/limits.h"
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
 // Words about the looks of paragraphs, and about borders, which paragraphs and cells share.
@@ -9,92 +9,92 @@ namespace torvik::rtf {
 namespace {
 
 template <Alignment alignment>
-void SetAlignment(Reader& reader, const Argument&)
+void SetAlignment(Interpreter& interpreter, const Argument&)
 {
-    reader.ParagraphFormat().alignment = alignment;
+    interpreter.ParagraphFormat().alignment = alignment;
 }
 
 template <int ParagraphState::*length>
-void SetLength(Reader& reader, const Argument& argument)
+void SetLength(Interpreter& interpreter, const Argument& argument)
 {
-    reader.ParagraphFormat().*length = argument.Within(-MaxTwips, MaxTwips);
+    interpreter.ParagraphFormat().*length = argument.Within(-maxTwips, maxTwips);
 }
 
 /// Spaces are never negative.
 template <int ParagraphState::*space>
-void SetSpace(Reader& reader, const Argument& argument)
+void SetSpace(Interpreter& interpreter, const Argument& argument)
 {
-    reader.ParagraphFormat().*space = argument.Within(0, MaxTwips);
+    interpreter.ParagraphFormat().*space = argument.Within(0, maxTwips);
 }
 
 template <int ParagraphState::*color>
-void SetColor(Reader& reader, const Argument& argument)
+void SetColor(Interpreter& interpreter, const Argument& argument)
 {
-    reader.ParagraphFormat().*color = argument.value;
+    interpreter.ParagraphFormat().*color = argument.value;
 }
 
 template <bool ParagraphState::*flag>
-void SetFlag(Reader& reader, const Argument& argument)
+void SetFlag(Interpreter& interpreter, const Argument& argument)
 {
-    reader.ParagraphFormat().*flag = argument.IsOn();
+    interpreter.ParagraphFormat().*flag = argument.IsOn();
 }
 
 /// The kind comes before the position: it is kept in a stop at no position until then.
 template <QTextOption::TabType type>
-void SetTabType(Reader& reader, const Argument&)
+void SetTabType(Interpreter& interpreter, const Argument&)
 {
-    QList<TabStop>& tabs = reader.ParagraphFormat().tabs;
+    QList<TabStop>& tabs = interpreter.ParagraphFormat().tabs;
     if (tabs.isEmpty() || tabs.constLast().position != 0)
         tabs.append({0, type});
     else
         tabs.last().type = type;
 }
 
-void SetTab(Reader& reader, const Argument& argument)
+void SetTab(Interpreter& interpreter, const Argument& argument)
 {
-    QList<TabStop>& tabs = reader.ParagraphFormat().tabs;
-    const int position = argument.Within(-MaxTwips, MaxTwips);
+    QList<TabStop>& tabs = interpreter.ParagraphFormat().tabs;
+    const int position = argument.Within(-maxTwips, maxTwips);
     if (!tabs.isEmpty() && tabs.constLast().position == 0)
         tabs.last().position = position;
-    else if (tabs.size() < MaxTabs)
+    else if (tabs.size() < maxTabs)
         tabs.append({position, QTextOption::LeftTab});
 }
 
 template <Side side>
-void SelectSide(Reader& reader, const Argument&)
+void SelectSide(Interpreter& interpreter, const Argument&)
 {
-    reader.SelectBorder(&reader.ParagraphFormat().borders[side]);
+    interpreter.SelectBorder(&interpreter.ParagraphFormat().borders[side]);
 }
 
 template <BorderLine line>
-void SetLine(Reader& reader, const Argument&)
+void SetLine(Interpreter& interpreter, const Argument&)
 {
-    if (Border* border = reader.SelectedBorder())
+    if (Border* border = interpreter.SelectedBorder())
         border->line = line;
-    else if (reader.BoxIsOpen())
-        reader.EachBoxBorder([](Border& edge) { edge.line = line; });
+    else if (interpreter.BoxIsOpen())
+        interpreter.EachBoxBorder([](Border& edge) { edge.line = line; });
 }
 
-void SetBorderWidth(Reader& reader, const Argument& argument)
+void SetBorderWidth(Interpreter& interpreter, const Argument& argument)
 {
     const int width = argument.Within(0, 255, 15);
-    if (Border* border = reader.SelectedBorder())
+    if (Border* border = interpreter.SelectedBorder())
         border->width = width;
-    else if (reader.BoxIsOpen())
-        reader.EachBoxBorder([&](Border& edge) { edge.width = width; });
+    else if (interpreter.BoxIsOpen())
+        interpreter.EachBoxBorder([&](Border& edge) { edge.width = width; });
 }
 
-void SetBorderColor(Reader& reader, const Argument& argument)
+void SetBorderColor(Interpreter& interpreter, const Argument& argument)
 {
-    if (Border* border = reader.SelectedBorder())
+    if (Border* border = interpreter.SelectedBorder())
         border->color = argument.value;
-    else if (reader.BoxIsOpen())
-        reader.EachBoxBorder([&](Border& edge) { edge.color = argument.value; });
+    else if (interpreter.BoxIsOpen())
+        interpreter.EachBoxBorder([&](Border& edge) { edge.color = argument.value; });
 }
 
-constexpr WordEntry Entries[] = {
-    {"pard", [](Reader& r, const Argument&) { r.ResetParagraph(); }},
-    {"s", [](Reader& r, const Argument& a) { r.ApplyParagraphStyle(a.value); }},
+constexpr WordEntry paragraphEntries[] = {
+    {"pard", [](Interpreter& r, const Argument&) { r.ResetParagraph(); }},
+    {"s", [](Interpreter& r, const Argument& a) { r.ApplyParagraphStyle(a.value); }},
     {"ql", SetAlignment<Alignment::Left>},
     {"qr", SetAlignment<Alignment::Right>},
     {"qc", SetAlignment<Alignment::Center>},
@@ -108,32 +108,32 @@ constexpr WordEntry Entries[] = {
     {"sb", SetSpace<&ParagraphState::spaceBefore>},
     {"sa", SetSpace<&ParagraphState::spaceAfter>},
     {"sl",
-     [](Reader& r, const Argument& a) {
+     [](Interpreter& r, const Argument& a) {
          // A thousand is the word processors' way to write "automatic".
-         r.ParagraphFormat().lineSpacing = a.value == 1000 ? 0 : a.Within(-MaxTwips, MaxTwips);
+         r.ParagraphFormat().lineSpacing = a.value == 1000 ? 0 : a.Within(-maxTwips, maxTwips);
      }},
     {"slmult", SetFlag<&ParagraphState::lineMultiple>},
     {"keep", SetFlag<&ParagraphState::keepTogether>},
     {"pagebb", SetFlag<&ParagraphState::breakBefore>},
-    {"rtlpar", [](Reader& r, const Argument&) { r.ParagraphFormat().rightToLeft = true; }},
-    {"ltrpar", [](Reader& r, const Argument&) { r.ParagraphFormat().rightToLeft = false; }},
+    {"rtlpar", [](Interpreter& r, const Argument&) { r.ParagraphFormat().rightToLeft = true; }},
+    {"ltrpar", [](Interpreter& r, const Argument&) { r.ParagraphFormat().rightToLeft = false; }},
     {"cbpat", SetColor<&ParagraphState::background>},
     {"cfpat", SetColor<&ParagraphState::patternColor>},
-    {"shading", [](Reader& r, const Argument& a) { r.ParagraphFormat().shading = a.Within(0, 10000); }},
+    {"shading", [](Interpreter& r, const Argument& a) { r.ParagraphFormat().shading = a.Within(0, 10000); }},
     {"tx", SetTab},
     {"tqr", SetTabType<QTextOption::RightTab>},
     {"tqc", SetTabType<QTextOption::CenterTab>},
     {"tqdec", SetTabType<QTextOption::DelimiterTab>},
-    {"ls", [](Reader& r, const Argument& a) { r.ParagraphFormat().list = a.Within(0, 0x7fffffff); }},
+    {"ls", [](Interpreter& r, const Argument& a) { r.ParagraphFormat().list = a.Within(0, 0x7fffffff); }},
     {"ilvl",
-     [](Reader& r, const Argument& a) {
-         r.ParagraphFormat().listLevel = a.Within(0, ListTable::MaxLevels - 1);
+     [](Interpreter& r, const Argument& a) {
+         r.ParagraphFormat().listLevel = a.Within(0, ListTable::maxLevels - 1);
      }},
     {"brdrt", SelectSide<SideTop>},
     {"brdrl", SelectSide<SideLeft>},
     {"brdrb", SelectSide<SideBottom>},
     {"brdrr", SelectSide<SideRight>},
-    {"box", [](Reader& r, const Argument&) { r.OpenBox(); }},
+    {"box", [](Interpreter& r, const Argument&) { r.OpenBox(); }},
     {"brdrs", SetLine<BorderLine::Solid>},
     {"brdrsh", SetLine<BorderLine::Solid>},
     {"brdrhair", SetLine<BorderLine::Solid>},
@@ -160,7 +160,7 @@ constexpr WordEntry Entries[] = {
 
 std::span<const WordEntry> ParagraphWords()
 {
-    return Entries;
+    return paragraphEntries;
 }
 
 } // namespace torvik::rtf

@@ -1,5 +1,5 @@
 #include "rtf/bounds/limits.h"
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
 // Words that describe a picture.
@@ -8,46 +8,46 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int LargestNumber = 0x7fffffff;
+constexpr int largestNumber = 0x7fffffff;
 
 template <PictureKind kind>
-void SetKind(Reader& reader, const Argument&)
+void SetKind(Interpreter& interpreter, const Argument&)
 {
-    reader.Picture().kind = kind;
+    interpreter.Picture().kind = kind;
 }
 
 template <int PictureSource::*member, int least, int most>
-void SetNumber(Reader& reader, const Argument& argument)
+void SetNumber(Interpreter& interpreter, const Argument& argument)
 {
-    reader.Picture().*member = argument.Within(least, most);
+    interpreter.Picture().*member = argument.Within(least, most);
 }
 
-constexpr WordEntry Entries[] = {
+constexpr WordEntry pictureEntries[] = {
     {"pngblip", SetKind<PictureKind::Png>},
     {"jpegblip", SetKind<PictureKind::Jpeg>},
     {"dibitmap", SetKind<PictureKind::Dib>},
     {"wbitmap", SetKind<PictureKind::DeviceBitmap>},
     {"wmetafile", SetKind<PictureKind::Wmf>},
     {"emfblip", SetKind<PictureKind::Emf>},
-    {"picw", SetNumber<&PictureSource::width, 0, LargestNumber>},
-    {"pich", SetNumber<&PictureSource::height, 0, LargestNumber>},
-    {"picwgoal", SetNumber<&PictureSource::goalWidth, 0, MaxTwips>},
-    {"pichgoal", SetNumber<&PictureSource::goalHeight, 0, MaxTwips>},
+    {"picw", SetNumber<&PictureSource::width, 0, largestNumber>},
+    {"pich", SetNumber<&PictureSource::height, 0, largestNumber>},
+    {"picwgoal", SetNumber<&PictureSource::goalWidth, 0, maxTwips>},
+    {"pichgoal", SetNumber<&PictureSource::goalHeight, 0, maxTwips>},
     {"picscalex", SetNumber<&PictureSource::scaleX, 1, 10000>},
     {"picscaley", SetNumber<&PictureSource::scaleY, 1, 10000>},
-    {"piccropl", SetNumber<&PictureSource::cropLeft, -MaxTwips, MaxTwips>},
-    {"piccropt", SetNumber<&PictureSource::cropTop, -MaxTwips, MaxTwips>},
-    {"piccropr", SetNumber<&PictureSource::cropRight, -MaxTwips, MaxTwips>},
-    {"piccropb", SetNumber<&PictureSource::cropBottom, -MaxTwips, MaxTwips>},
+    {"piccropl", SetNumber<&PictureSource::cropLeft, -maxTwips, maxTwips>},
+    {"piccropt", SetNumber<&PictureSource::cropTop, -maxTwips, maxTwips>},
+    {"piccropr", SetNumber<&PictureSource::cropRight, -maxTwips, maxTwips>},
+    {"piccropb", SetNumber<&PictureSource::cropBottom, -maxTwips, maxTwips>},
     {"wbmbitspixel", SetNumber<&PictureSource::bitsPerPixel, 1, 32>},
-    {"wbmwidthbytes", SetNumber<&PictureSource::lineBytes, 0, LargestNumber>},
+    {"wbmwidthbytes", SetNumber<&PictureSource::lineBytes, 0, largestNumber>},
 };
 
 } // namespace
 
 std::span<const WordEntry> PictureWords()
 {
-    return Entries;
+    return pictureEntries;
 }
 
 } // namespace torvik::rtf

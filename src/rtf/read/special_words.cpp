@@ -1,4 +1,4 @@
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
 // Words that stand for a character, and those that end a paragraph or a page.
@@ -8,23 +8,23 @@ namespace torvik::rtf {
 namespace {
 
 template <char16_t unit>
-void Put(Reader& reader, const Argument&)
+void Put(Interpreter& interpreter, const Argument&)
 {
-    reader.PutCharacter(unit);
+    interpreter.PutCharacter(unit);
 }
 
-constexpr char16_t LineSeparator = 0x2028;
+constexpr char16_t lineSeparator = 0x2028;
 
-constexpr WordEntry Entries[] = {
-    {"par", [](Reader& r, const Argument&) { r.EndParagraph(); }},
-    {"page", [](Reader& r, const Argument&) { r.BreakPage(); }},
-    {"sect", [](Reader& r, const Argument&) { r.BreakPage(); }},
-    {"sbknone", [](Reader& r, const Argument&) { r.CancelBreak(); }},
-    {"sbkcol", [](Reader& r, const Argument&) { r.CancelBreak(); }},
-    {"chftn", [](Reader& r, const Argument&) { r.PutNoteReference(); }},
+constexpr WordEntry specialEntries[] = {
+    {"par", [](Interpreter& r, const Argument&) { r.EndParagraph(); }},
+    {"page", [](Interpreter& r, const Argument&) { r.BreakPage(); }},
+    {"sect", [](Interpreter& r, const Argument&) { r.BreakPage(); }},
+    {"sbknone", [](Interpreter& r, const Argument&) { r.CancelBreak(); }},
+    {"sbkcol", [](Interpreter& r, const Argument&) { r.CancelBreak(); }},
+    {"chftn", [](Interpreter& r, const Argument&) { r.PutNoteReference(); }},
     {"tab", Put<u'\t'>},
-    {"line", Put<LineSeparator>},
-    {"lbr", Put<LineSeparator>},
+    {"line", Put<lineSeparator>},
+    {"lbr", Put<lineSeparator>},
     {"emdash", Put<u'\u2014'>},
     {"endash", Put<u'\u2013'>},
     {"emspace", Put<u'\u2003'>},
@@ -47,7 +47,7 @@ constexpr WordEntry Entries[] = {
 
 std::span<const WordEntry> SpecialWords()
 {
-    return Entries;
+    return specialEntries;
 }
 
 } // namespace torvik::rtf

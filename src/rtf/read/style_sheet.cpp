@@ -6,7 +6,7 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t MaxStyleWords = 64;
+constexpr std::size_t maxStyleWords = 64;
 
 bool IsOf(std::span<const WordEntry> words, const WordEntry* word)
 {
@@ -37,7 +37,7 @@ bool StyleSheet::Take(std::string_view name, const Argument& argument)
     const WordEntry* word = FindWord(WordScope::Text, name);
     if (!IsLook(word))
         return false;
-    if (entry_.words.size() < MaxStyleWords)
+    if (entry_.words.size() < maxStyleWords)
         entry_.words.push_back({word, argument});
     return true;
 }
@@ -45,7 +45,7 @@ bool StyleSheet::Take(std::string_view name, const Argument& argument)
 void StyleSheet::EndEntry()
 {
     Styles& styles = this->*entry_.kind;
-    if (entry_.number != 0 && styles.size() < static_cast<std::size_t>(MaxStyles))
+    if (entry_.number != 0 && styles.size() < static_cast<std::size_t>(maxStyles))
         styles[entry_.number] = std::move(entry_.words);
     entry_ = Entry();
 }

@@ -1,5 +1,5 @@
 #include "rtf/bounds/limits.h"
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
 // Words about rows and cells.
@@ -9,47 +9,48 @@ namespace torvik::rtf {
 namespace {
 
 template <Side side>
-void SelectCellSide(Reader& reader, const Argument&)
+void SelectCellSide(Interpreter& interpreter, const Argument&)
 {
-    reader.SelectBorder(&reader.CurrentCell().borders[side]);
+    interpreter.SelectBorder(&interpreter.CurrentCell().borders[side]);
 }
 
 template <Side side>
-void SelectRowSide(Reader& reader, const Argument&)
+void SelectRowSide(Interpreter& interpreter, const Argument&)
 {
-    reader.SelectBorder(&reader.CurrentRow().borders[side]);
+    interpreter.SelectBorder(&interpreter.CurrentRow().borders[side]);
 }
 
 template <Merge CellStyle::*direction, Merge merge>
-void SetMerge(Reader& reader, const Argument&)
+void SetMerge(Interpreter& interpreter, const Argument&)
 {
-    reader.CurrentCell().*direction = merge;
+    interpreter.CurrentCell().*direction = merge;
 }
 
 template <Alignment alignment>
-void SetRowAlignment(Reader& reader, const Argument&)
+void SetRowAlignment(Interpreter& interpreter, const Argument&)
 {
-    reader.CurrentRow().alignment = alignment;
+    interpreter.CurrentRow().alignment = alignment;
 }
 
-void StartRow(Reader& reader, const Argument&)
+void StartRow(Interpreter& interpreter, const Argument&)
 {
-    reader.CurrentRow() = RowStyle();
-    reader.CurrentCell() = CellStyle();
-    reader.SelectBorder(nullptr);
+    interpreter.CurrentRow() = RowStyle();
+    interpreter.CurrentCell() = CellStyle();
+    interpreter.SelectBorder(nullptr);
 }
 
 template <quint8 alignment>
-void SetVerticalAlignment(Reader& reader, const Argument&)
+void SetVerticalAlignment(Interpreter& interpreter, const Argument&)
 {
-    reader.CurrentCell().verticalAlignment = alignment;
+    interpreter.CurrentCell().verticalAlignment = alignment;
 }
 
-constexpr WordEntry Entries[] = {
+constexpr WordEntry tableEntries[] = {
     {"trowd", StartRow},
-    {"trgaph", [](Reader& r, const Argument& a) { r.CurrentRow().gap = a.Within(0, MaxTwips); }},
-    {"trleft", [](Reader& r, const Argument& a) { r.CurrentRow().leftEdge = a.Within(-MaxTwips, MaxTwips); }},
-    {"trhdr", [](Reader& r, const Argument&) { r.CurrentRow().isHeader = true; }},
+    {"trgaph", [](Interpreter& r, const Argument& a) { r.CurrentRow().gap = a.Within(0, maxTwips); }},
+    {"trleft",
+     [](Interpreter& r, const Argument& a) { r.CurrentRow().leftEdge = a.Within(-maxTwips, maxTwips); }},
+    {"trhdr", [](Interpreter& r, const Argument&) { r.CurrentRow().isHeader = true; }},
     {"trql", SetRowAlignment<Alignment::Start>},
     {"trqc", SetRowAlignment<Alignment::Center>},
     {"trqr", SetRowAlignment<Alignment::Right>},
@@ -57,8 +58,8 @@ constexpr WordEntry Entries[] = {
     {"trbrdrl", SelectRowSide<SideLeft>},
     {"trbrdrb", SelectRowSide<SideBottom>},
     {"trbrdrr", SelectRowSide<SideRight>},
-    {"trbrdrh", [](Reader& r, const Argument&) { r.SelectBorder(&r.CurrentRow().innerHorizontal); }},
-    {"trbrdrv", [](Reader& r, const Argument&) { r.SelectBorder(&r.CurrentRow().innerVertical); }},
+    {"trbrdrh", [](Interpreter& r, const Argument&) { r.SelectBorder(&r.CurrentRow().innerHorizontal); }},
+    {"trbrdrv", [](Interpreter& r, const Argument&) { r.SelectBorder(&r.CurrentRow().innerVertical); }},
     {"clbrdrt", SelectCellSide<SideTop>},
     {"clbrdrl", SelectCellSide<SideLeft>},
     {"clbrdrb", SelectCellSide<SideBottom>},
@@ -70,28 +71,28 @@ constexpr WordEntry Entries[] = {
     {"clvertalt", SetVerticalAlignment<0>},
     {"clvertalc", SetVerticalAlignment<1>},
     {"clvertalb", SetVerticalAlignment<2>},
-    {"clcbpat", [](Reader& r, const Argument& a) { r.CurrentCell().background = a.value; }},
-    {"clcfpat", [](Reader& r, const Argument& a) { r.CurrentCell().patternColor = a.value; }},
-    {"clshdng", [](Reader& r, const Argument& a) { r.CurrentCell().shading = a.Within(0, 10000); }},
-    {"cellx", [](Reader& r, const Argument& a) { r.EndCellDefinition(a.Within(-MaxTwips, MaxTwips)); }},
+    {"clcbpat", [](Interpreter& r, const Argument& a) { r.CurrentCell().background = a.value; }},
+    {"clcfpat", [](Interpreter& r, const Argument& a) { r.CurrentCell().patternColor = a.value; }},
+    {"clshdng", [](Interpreter& r, const Argument& a) { r.CurrentCell().shading = a.Within(0, 10000); }},
+    {"cellx", [](Interpreter& r, const Argument& a) { r.EndCellDefinition(a.Within(-maxTwips, maxTwips)); }},
     {"intbl",
-     [](Reader& r, const Argument&) {
+     [](Interpreter& r, const Argument&) {
          int& depth = r.ParagraphFormat().tableDepth;
          depth = depth > 0 ? depth : 1;
      }},
-    {"itap",
-     [](Reader& r, const Argument& a) { r.ParagraphFormat().tableDepth = a.Within(0, MaxTableNesting); }},
-    {"cell", [](Reader& r, const Argument&) { r.EndCell(false); }},
-    {"row", [](Reader& r, const Argument&) { r.EndRow(false); }},
-    {"nestcell", [](Reader& r, const Argument&) { r.EndCell(true); }},
-    {"nestrow", [](Reader& r, const Argument&) { r.EndRow(true); }},
+    {"itap", [](Interpreter& r,
+                const Argument& a) { r.ParagraphFormat().tableDepth = a.Within(0, maxTableNesting); }},
+    {"cell", [](Interpreter& r, const Argument&) { r.EndCell(false); }},
+    {"row", [](Interpreter& r, const Argument&) { r.EndRow(false); }},
+    {"nestcell", [](Interpreter& r, const Argument&) { r.EndCell(true); }},
+    {"nestrow", [](Interpreter& r, const Argument&) { r.EndRow(true); }},
 };
 
 } // namespace
 
 std::span<const WordEntry> TableWords()
 {
-    return Entries;
+    return tableEntries;
 }
 
 } // namespace torvik::rtf

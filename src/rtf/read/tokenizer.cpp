@@ -7,8 +7,8 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int LongestWord = 32;
-constexpr int LargestValue = 0x7fffffff;
+constexpr int longestWord = 32;
+constexpr int largestValue = 0x7fffffff;
 
 bool IsLetter(char c)
 {
@@ -36,7 +36,7 @@ Token SymbolToken(char symbol)
 }
 
 /// The bytes that end a stretch of plain text.
-constexpr std::array<bool, 256> Stops = MakeStops();
+constexpr std::array<bool, 256> stops = MakeStops();
 
 } // namespace
 
@@ -81,7 +81,7 @@ Token Tokenizer::Next()
 Token Tokenizer::ReadText()
 {
     const std::size_t start = at_;
-    while (at_ < bytes_.size() && !Stops[static_cast<unsigned char>(bytes_[at_])])
+    while (at_ < bytes_.size() && !stops[static_cast<unsigned char>(bytes_[at_])])
         ++at_;
     return Token::Of(TokenKind::Text, bytes_.substr(start, at_ - start));
 }
@@ -116,7 +116,7 @@ Token Tokenizer::ReadEscape()
 Token Tokenizer::ReadWord()
 {
     const std::size_t start = at_;
-    while (at_ < bytes_.size() && at_ - start < LongestWord && IsLetter(bytes_[at_]))
+    while (at_ < bytes_.size() && at_ - start < longestWord && IsLetter(bytes_[at_]))
         ++at_;
     Token word = Token::Of(TokenKind::Word, bytes_.substr(start, at_ - start));
     const bool negative = at_ + 1 < bytes_.size() && bytes_[at_] == '-' && IsDigit(bytes_[at_ + 1]);
@@ -124,7 +124,7 @@ Token Tokenizer::ReadWord()
         ++at_;
     long long value = 0;
     while (at_ < bytes_.size() && IsDigit(bytes_[at_])) {
-        value = std::min<long long>(value * 10 + (bytes_[at_] - '0'), LargestValue);
+        value = std::min<long long>(value * 10 + (bytes_[at_] - '0'), largestValue);
         word.hasValue = true;
         ++at_;
     }

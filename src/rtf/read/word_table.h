@@ -5,7 +5,7 @@
 
 namespace torvik::rtf {
 
-class Reader;
+class Interpreter;
 
 /// The number behind a control word, where there is one.
 struct Argument {
@@ -22,7 +22,7 @@ struct Argument {
 /// One control word and what it does.
 struct WordEntry {
     const char* name;
-    void (*apply)(Reader& reader, const Argument& argument);
+    void (*apply)(Interpreter& interpreter, const Argument& argument);
 };
 
 /// Where control words mean what they mean: the same letters differ from table to table.

@@ -10,7 +10,7 @@ namespace torvik::rtf {
 namespace {
 
 /// Room for a bullet where the document leaves none, twips.
-constexpr int LeastMarkRoom = 300;
+constexpr int leastMarkRoom = 300;
 
 Qt::Alignment AlignmentOf(const ParagraphState& state)
 {
@@ -77,7 +77,7 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
     format.setAlignment(AlignmentOf(state));
     int left = state.leftIndent;
     if (state.markOutside)
-        left = std::max(left + std::max(state.firstIndent, 0), LeastMarkRoom);
+        left = std::max(left + std::max(state.firstIndent, 0), leastMarkRoom);
     if (left != 0)
         format.setLeftMargin(PixelsFromTwips(left));
     if (state.rightIndent != 0)
@@ -91,7 +91,7 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
     SetLineHeight(format, state);
     SetTabs(format, state);
     if (state.keepTogether)
-        format.setProperty(KeepTogetherProperty, true);
+        format.setProperty(keepTogetherProperty, true);
     if (state.breakBefore)
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     if (state.rightToLeft)

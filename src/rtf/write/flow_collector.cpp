@@ -8,14 +8,14 @@ namespace torvik::rtf {
 
 namespace {
 
-static_assert(MaxTableNesting < 8, "every level of table needs a row definition");
+static_assert(maxTableNesting < 8, "every level of table needs a row definition");
 
 // What a paragraph costs while it waits for its table, bytes; the writer counts it once more for good.
-constexpr qint64 WaitingCost = sizeof(Block) + 32;
+constexpr qint64 waitingCost = sizeof(Block) + 32;
 
 qint64 WaitingCostOf(const Paragraph& paragraph)
 {
-    return WaitingCost + 2 * paragraph.text.size() +
+    return waitingCost + 2 * paragraph.text.size() +
            static_cast<qint64>(paragraph.spans.size() * sizeof(Span));
 }
 
@@ -44,7 +44,7 @@ qint64 WaitingCostOf(const Table& table)
 
 int FlowCollector::Clamped(int depth)
 {
-    return std::clamp(depth, 0, MaxTableNesting);
+    return std::clamp(depth, 0, maxTableNesting);
 }
 
 RowStyle& FlowCollector::RowAt(int depth)
@@ -78,7 +78,7 @@ void FlowCollector::EndCell(int depth)
     const int level = std::max(Clamped(depth), 1);
     EndParagraph(level);
     Level& open = levels_.back();
-    if (open.row.cells.size() < static_cast<std::size_t>(MaxRowCells)) {
+    if (open.row.cells.size() < static_cast<std::size_t>(maxRowCells)) {
         open.row.cells.push_back(std::move(open.cell));
     } else {
         std::vector<Block>& last = open.row.cells.back();
@@ -96,7 +96,7 @@ void FlowCollector::EndRow(int depth)
         return;
     SetDepth(level);
     CloseRow(levels_.back(), level);
-    if (levels_.back().cells < MaxTableCells)
+    if (levels_.back().cells < maxTableCells)
         return;
     // The table goes on as another one below.
     SetDepth(level - 1);

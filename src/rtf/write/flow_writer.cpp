@@ -10,11 +10,11 @@ namespace torvik::rtf {
 namespace {
 
 // What the document keeps for a block, a run and a character of text, growing of its arrays included; bytes.
-constexpr qint64 BlockCost = 240;
-constexpr qint64 RunCost = 70;
-constexpr qint64 CharacterCost = 4;
-constexpr qint64 ListCost = 900;
-constexpr qint64 BoxCost = 4000;
+constexpr qint64 blockCost = 240;
+constexpr qint64 runCost = 70;
+constexpr qint64 characterCost = 4;
+constexpr qint64 listCost = 900;
+constexpr qint64 boxCost = 4000;
 
 } // namespace
 
@@ -24,7 +24,7 @@ FlowWriter::FlowWriter(WritingContext& context, const QTextCursor& cursor, Room 
 
 qint64 FlowWriter::CostOf(qsizetype characters, std::size_t runs)
 {
-    return BlockCost + RunCost * static_cast<qint64>(runs) + CharacterCost * characters;
+    return blockCost + runCost * static_cast<qint64>(runs) + characterCost * characters;
 }
 
 void FlowWriter::Write(const Paragraph& paragraph)
@@ -74,7 +74,7 @@ void FlowWriter::PlaceBox(const Paragraph& paragraph)
     if (box_ != nullptr && isBoxed && SharesBox(state, context_.formats.StateOf(boxFormat_)))
         return;
     LeaveBox();
-    if (!isBoxed || !context_.budget.Take(BoxCost))
+    if (!isBoxed || !context_.budget.Take(boxCost))
         return;
     box_ = InsertBox(cursor_, state, context_.formats.Colors());
     atCellStart_ = qobject_cast<QTextTable*>(box_) != nullptr;
@@ -109,7 +109,7 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
 {
     const QTextCharFormat& endFormat = context_.formats.CharacterFormat(paragraph.endFormat);
     ListWriter::Place place = lists_.Join(paragraph.mark);
-    if (place == ListWriter::Place::Starts && !context_.budget.Take(ListCost))
+    if (place == ListWriter::Place::Starts && !context_.budget.Take(listCost))
         place = ListWriter::Place::Outside;
     const bool isItem = place != ListWriter::Place::Outside;
     QTextBlockFormat format = context_.formats.BlockFormat(isItem ? paragraph.itemFormat : paragraph.format);

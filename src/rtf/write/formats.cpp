@@ -15,7 +15,7 @@ int Formats::Character(const CharacterState& state)
     const auto known = characterNumbers_.find(state);
     if (known != characterNumbers_.end())
         return known->second;
-    if (characterFormats_.size() >= static_cast<std::size_t>(MaxFormats))
+    if (characterFormats_.size() >= static_cast<std::size_t>(maxFormats))
         return 0;
     const int number = static_cast<int>(characterFormats_.size());
     characterFormats_.push_back(MakeCharacterFormat(state));
@@ -28,7 +28,7 @@ int Formats::Paragraph(const ParagraphState& state)
     const auto known = paragraphNumbers_.find(state);
     if (known != paragraphNumbers_.end())
         return known->second;
-    if (blockFormats_.size() >= static_cast<std::size_t>(MaxFormats))
+    if (blockFormats_.size() >= static_cast<std::size_t>(maxFormats))
         return 0;
     const int number = static_cast<int>(blockFormats_.size());
     blockFormats_.push_back(MakeBlockFormat(state));
@@ -54,7 +54,7 @@ const ParagraphState& Formats::StateOf(int number) const
 
 int Formats::AddLink(const QString& target)
 {
-    if (target.isEmpty() || links_.size() >= static_cast<std::size_t>(MaxFormats))
+    if (target.isEmpty() || links_.size() >= static_cast<std::size_t>(maxFormats))
         return 0;
     links_.push_back(target);
     return static_cast<int>(links_.size()) - 1;
@@ -62,7 +62,7 @@ int Formats::AddLink(const QString& target)
 
 int Formats::AddBookmark(const QString& name)
 {
-    if (name.isEmpty() || bookmarks_.size() >= static_cast<std::size_t>(MaxFormats))
+    if (name.isEmpty() || bookmarks_.size() >= static_cast<std::size_t>(maxFormats))
         return 0;
     bookmarks_.push_back(name);
     return static_cast<int>(bookmarks_.size()) - 1;

@@ -13,7 +13,7 @@ namespace torvik::rtf {
 namespace {
 
 /// Between border and text, pixels.
-constexpr double Padding = 4;
+constexpr double boxPadding = 4;
 
 QTextFrame* InsertFrame(QTextCursor& cursor, const ParagraphState& state, const ColorTable& colors,
                         const QColor& back)
@@ -25,7 +25,7 @@ QTextFrame* InsertFrame(QTextCursor& cursor, const ParagraphState& state, const 
     format.setBorder(BorderPixels(*edge));
     format.setBorderStyle(BorderStyleOf(edge->line));
     format.setBorderBrush(color.isValid() ? color : QColor(Qt::black));
-    format.setPadding(Padding);
+    format.setPadding(boxPadding);
     if (back.isValid())
         format.setBackground(back);
     QTextFrame* frame = cursor.insertFrame(format);

@@ -8,10 +8,10 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int LeastCellWidth = 60;
-constexpr int WidthOfUndefinedCell = 1440;
+constexpr int leastCellWidth = 60;
+constexpr int widthOfUndefinedCell = 1440;
 /// Edges nearer than this are one edge, twips.
-constexpr int EdgeTolerance = 30;
+constexpr int edgeTolerance = 30;
 
 /// The right edges of a row's cells, strictly growing, one for every cell that has contents or a definition.
 std::vector<int> EdgesOf(const Row& row)
@@ -22,8 +22,8 @@ std::vector<int> EdgesOf(const Row& row)
     int last = row.style.leftEdge;
     for (std::size_t i = 0; i < count; ++i) {
         const bool isDefined = i < row.style.cells.size();
-        const int wanted = isDefined ? row.style.cells[i].rightEdge : last + WidthOfUndefinedCell;
-        last = std::max(wanted, last + LeastCellWidth);
+        const int wanted = isDefined ? row.style.cells[i].rightEdge : last + widthOfUndefinedCell;
+        last = std::max(wanted, last + leastCellWidth);
         edges.push_back(last);
     }
     return edges;
@@ -48,15 +48,15 @@ std::vector<int> CommonEdges(const std::vector<std::vector<int>>& rows, const Ta
         all.insert(all.end(), rows[r].begin(), rows[r].end());
     }
     std::sort(all.begin(), all.end());
-    int tolerance = EdgeTolerance;
+    int tolerance = edgeTolerance;
     std::vector<int> edges = Thinned(all, tolerance);
-    while (edges.size() > static_cast<std::size_t>(MaxTableColumns) + 1) {
+    while (edges.size() > static_cast<std::size_t>(maxTableColumns) + 1) {
         tolerance *= 2;
         edges = Thinned(edges, tolerance);
     }
     if (edges.size() < 2)
         edges = {edges.empty() ? 0 : edges.front(),
-                 (edges.empty() ? 0 : edges.front()) + WidthOfUndefinedCell};
+                 (edges.empty() ? 0 : edges.front()) + widthOfUndefinedCell};
     return edges;
 }
 

@@ -13,8 +13,8 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr qint64 TableCost = 4000;
-constexpr qint64 CellCost = 400;
+constexpr qint64 tableCost = 4000;
+constexpr qint64 cellCost = 400;
 
 QTextTableFormat FormatOf(const Table& table, const TableGrid& grid)
 {
@@ -83,12 +83,12 @@ QTextTableCellFormat CellFormat(const GridCell& cell, const RowStyle& row, const
 int WriteTable(WritingContext& context, const QTextCursor& where, const Table& table)
 {
     // The grid is work too, so it is not made in vain.
-    const qint64 least = TableCost + CellCost * static_cast<qint64>(table.rows.size());
+    const qint64 least = tableCost + cellCost * static_cast<qint64>(table.rows.size());
     if (table.rows.empty() || context.budget.Left() < least)
         return -1;
     const TableGrid grid = MakeGrid(table);
     const auto columns = static_cast<int>(grid.columnWidths.size());
-    if (!context.budget.Take(TableCost + CellCost * columns * grid.rows))
+    if (!context.budget.Take(tableCost + cellCost * columns * grid.rows))
         return -1;
     QTextCursor cursor(where);
     QTextTable* written = cursor.insertTable(grid.rows, columns, FormatOf(table, grid));

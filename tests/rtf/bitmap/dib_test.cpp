@@ -7,8 +7,8 @@ using namespace torvik::rtf;
 class DibTest : public QObject {
     Q_OBJECT
 
-    static constexpr qint64 Plenty = 1 << 20;
-    static QImage Decode(const QByteArray& bytes, qint64 most = Plenty)
+    static constexpr qint64 plenty = 1 << 20;
+    static QImage Decode(const QByteArray& bytes, qint64 most = plenty)
     {
         return DecodePackedDib(ViewOf(bytes), most);
     }

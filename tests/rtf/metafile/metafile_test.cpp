@@ -7,7 +7,7 @@ using namespace torvik::rtf;
 class MetafileTest : public QObject {
     Q_OBJECT
 
-    static constexpr qint64 Plenty = 16 << 20;
+    static constexpr qint64 plenty = 16 << 20;
 
     static QByteArray Strip(int x, int y, int width, int height, const QByteArray& dib)
     {
@@ -29,11 +29,11 @@ class MetafileTest : public QObject {
     /// 100 by 100 units, shown at 50 by 50 pixels: one unit is one pixel of the image.
     static QImage Draw(const QByteArray& records)
     {
-        return DrawWmf(ViewOf(Wmf(100, 100, records)), {50, 50}, Plenty).image;
+        return DrawWmf(ViewOf(Wmf(100, 100, records)), {50, 50}, plenty).image;
     }
     static QImage DrawNew(const QByteArray& records)
     {
-        return DrawEmf(ViewOf(Emf(100, 100, records)), {50, 50}, Plenty).image;
+        return DrawEmf(ViewOf(Emf(100, 100, records)), {50, 50}, plenty).image;
     }
     static QColor At(const QImage& image, int x, int y) { return image.pixelColor(x, y); }
     static QByteArray NewBrush(int color)
@@ -194,7 +194,7 @@ private Q_SLOTS:
             Bytes().U32(0x9ac6cdd7).Words({0, 0, 0, 1440, 720, 1440}).U32(0).U16(0).Data();
         const QByteArray bytes =
             header + Wmf(1440, 720, Filled(255) + WmfRecord(0x041b, Bytes().Words({720, 1440, 0, 0}).Data()));
-        const MetafileImage drawn = DrawWmf(ViewOf(bytes), {}, Plenty);
+        const MetafileImage drawn = DrawWmf(ViewOf(bytes), {}, plenty);
         QCOMPARE(drawn.naturalSize, QSizeF(96, 48));
         QCOMPARE(drawn.image.size(), QSize(192, 96));
     }
@@ -224,7 +224,7 @@ private Q_SLOTS:
     {
         const QByteArray bytes =
             Emf(254, 127, NewBrush(255) + EmfRecord(43, Bytes().Longs({0, 0, 254, 127}).Data()));
-        QCOMPARE(DrawEmf(ViewOf(bytes), {}, Plenty).naturalSize, QSizeF(96, 48));
+        QCOMPARE(DrawEmf(ViewOf(bytes), {}, plenty).naturalSize, QSizeF(96, 48));
     }
 
     void a_bitmap_of_an_enhanced_metafile_comes_out_pixel_by_pixel()
@@ -247,7 +247,7 @@ private Q_SLOTS:
                 .Raw(FourColors())
                 .Data();
         const QImage image =
-            DrawEmf(ViewOf(Emf(200'000'000, 100, EmfRecord(81, record))), {50, 50}, Plenty).image;
+            DrawEmf(ViewOf(Emf(200'000'000, 100, EmfRecord(81, record))), {50, 50}, plenty).image;
         QVERIFY(!image.isNull());
         QVERIFY(image.width() <= 32767 && image.height() <= 32767);
     }
@@ -273,8 +273,8 @@ private Q_SLOTS:
                           Bytes().Words({2, 4, 4, 0, 0, 9, 0, 9, 9, 0, 9, 3, 3, 7, 3, 7, 7, 3, 7}).Data()) +
                 Strip(0, 0, 50, 50, FourColors()));
         for (qsizetype length = 0; length < whole.size(); ++length)
-            DrawWmf(ViewOf(whole.left(length)), {50, 50}, Plenty);
-        QVERIFY(DrawWmf(ViewOf(whole.left(17)), {50, 50}, Plenty).image.isNull());
+            DrawWmf(ViewOf(whole.left(length)), {50, 50}, plenty);
+        QVERIFY(DrawWmf(ViewOf(whole.left(17)), {50, 50}, plenty).image.isNull());
     }
 
     void a_drawing_may_not_cost_more_than_allowed()
@@ -295,8 +295,8 @@ private Q_SLOTS:
 
     void other_bytes_are_no_metafile()
     {
-        QVERIFY(DrawWmf("GIF89a, or some such", {}, Plenty).image.isNull());
-        QVERIFY(DrawEmf({}, {}, Plenty).image.isNull());
+        QVERIFY(DrawWmf("GIF89a, or some such", {}, plenty).image.isNull());
+        QVERIFY(DrawEmf({}, {}, plenty).image.isNull());
     }
 };
 

@@ -3,6 +3,7 @@
 #include "support/test_class.h"
 
 using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
 
 class ListMarkTest : public QObject {
     Q_OBJECT
@@ -39,9 +40,9 @@ private Q_SLOTS:
 
     void bullets_keep_their_shape()
     {
-        QCOMPARE(MarkFromText(QStringLiteral("•"), -1).style, QTextListFormat::ListDisc);
-        QCOMPARE(MarkFromText(QStringLiteral("o"), 23).style, QTextListFormat::ListCircle);
-        QCOMPARE(MarkFromText(QStringLiteral("▪"), -1).style, QTextListFormat::ListSquare);
+        QCOMPARE(MarkFromText(u"•"_s, -1).style, QTextListFormat::ListDisc);
+        QCOMPARE(MarkFromText(u"o"_s, 23).style, QTextListFormat::ListCircle);
+        QCOMPARE(MarkFromText(u"▪"_s, -1).style, QTextListFormat::ListSquare);
     }
 
     void marks_that_no_list_shows_stay_text()
@@ -53,16 +54,13 @@ private Q_SLOTS:
         }
     }
 
-    void nothing_written_is_no_mark()
-    {
-        QCOMPARE(MarkFromText(QStringLiteral(" \t"), -1).kind, ListMark::Kind::None);
-    }
+    void nothing_written_is_no_mark() { QCOMPARE(MarkFromText(u" \t"_s, -1).kind, ListMark::Kind::None); }
 
     void numbers_are_written_in_every_style()
     {
-        QCOMPARE(NumberInStyle(1994, QTextListFormat::ListLowerRoman), QStringLiteral("mcmxciv"));
-        QCOMPARE(NumberInStyle(28, QTextListFormat::ListUpperAlpha), QStringLiteral("AB"));
-        QCOMPARE(NumberInStyle(7, QTextListFormat::ListDecimal), QStringLiteral("7"));
+        QCOMPARE(NumberInStyle(1994, QTextListFormat::ListLowerRoman), u"mcmxciv"_s);
+        QCOMPARE(NumberInStyle(28, QTextListFormat::ListUpperAlpha), u"AB"_s);
+        QCOMPARE(NumberInStyle(7, QTextListFormat::ListDecimal), u"7"_s);
     }
 
     void a_level_of_a_list_makes_its_mark()
@@ -74,7 +72,7 @@ private Q_SLOTS:
         const ListMark mark = MarkFromLevel(level, values, 2);
         QCOMPARE(mark.kind, ListMark::Kind::Number);
         QCOMPARE(mark.value, 2);
-        QCOMPARE(mark.after, QStringLiteral(")"));
+        QCOMPARE(mark.after, u")"_s);
     }
 };
 

@@ -7,6 +7,7 @@
 #include <QUrl>
 
 using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
 
 class PicturesTest : public QObject {
     Q_OBJECT
@@ -27,8 +28,7 @@ class PicturesTest : public QObject {
     }
     static QImage ImageOf(const Reading& read, int number)
     {
-        return read.document
-            ->resource(QTextDocument::ImageResource, QUrl(QStringLiteral("rtf-picture:%1").arg(number)))
+        return read.document->resource(QTextDocument::ImageResource, QUrl(u"rtf-picture:%1"_s.arg(number)))
             .value<QImage>();
     }
     static QTextImageFormat ImageFormat(const Reading& read)
@@ -53,10 +53,10 @@ private Q_SLOTS:
             QCOMPARE(ImageOf(read, 1).size(), QSize(40, 20));
             QVERIFY(ImageOf(read, 1).pixelColor(5, 5).red() > 200 &&
                     ImageOf(read, 1).pixelColor(5, 5).green() < 60);
-            QCOMPARE(ImageFormat(read).name(), QStringLiteral("rtf-picture:1"));
+            QCOMPARE(ImageFormat(read).name(), u"rtf-picture:1"_s);
             QCOMPARE(ImageFormat(read).width(), 80.0);
             QCOMPARE(ImageFormat(read).height(), 40.0);
-            QCOMPARE(read.Text(), QStringLiteral("a\ufffcb"));
+            QCOMPARE(read.Text(), u"a\ufffcb"_s);
         }
     }
 
@@ -103,7 +103,7 @@ private Q_SLOTS:
         const Reading read =
             ReadBody("{\\pict\\pngblip\\bin" + QByteArray::number(png.size()) + " " + png + "}after\\par");
         QCOMPARE(read.result.pictures, 1);
-        QVERIFY(read.Text().endsWith(QStringLiteral("after")));
+        QVERIFY(read.Text().endsWith(u"after"_s));
     }
 
     void bitmaps_and_metafiles()
@@ -162,7 +162,7 @@ private Q_SLOTS:
             ReadBody("{\\object\\objemb{\\*\\objclass Paint}{\\*\\objdata 0105}{\\result{\\pict\\dibitmap0 " +
                      FourColors().toHex() + "}}}after\\par");
         QCOMPARE(read.result.pictures, 1);
-        QCOMPARE(read.Text(), QStringLiteral("\ufffcafter"));
+        QCOMPARE(read.Text(), u"\ufffcafter"_s);
     }
 
     void the_picture_of_a_drawn_shape_is_shown()
@@ -171,7 +171,7 @@ private Q_SLOTS:
             "{\\shp{\\*\\shpinst\\shpleft0{\\sp{\\sn pib}{\\sv {\\pict\\dibitmap0 " + FourColors().toHex() +
             "}}}}{\\shprslt{\\pict\\dibitmap0 " + FourColors().toHex() + "}}}x\\par");
         QCOMPARE(read.result.pictures, 1);
-        QCOMPARE(read.Text(), QStringLiteral("\ufffcx"));
+        QCOMPARE(read.Text(), u"\ufffcx"_s);
     }
 
     void pictures_that_cannot_be_read_are_counted_and_left_out()
@@ -182,7 +182,7 @@ private Q_SLOTS:
                      File("jpeg").chopped(30).toHex() + "}{\\pict\\wmetafile8 zz}b\\par");
         QCOMPARE(read.result.pictures, 0);
         QCOMPARE(read.result.lostPictures, 3);
-        QCOMPARE(read.Text(), QStringLiteral("ab"));
+        QCOMPARE(read.Text(), u"ab"_s);
     }
 
     void pictures_in_link_text_keep_the_link()
@@ -190,7 +190,7 @@ private Q_SLOTS:
         const Reading read =
             ReadBody("{\\field{\\*\\fldinst HYPERLINK \"http://a.example/\"}{\\fldrslt{\\pict\\dibitmap0 " +
                      FourColors().toHex() + "}}}\\par");
-        QCOMPARE(ImageFormat(read).anchorHref(), QStringLiteral("http://a.example/"));
+        QCOMPARE(ImageFormat(read).anchorHref(), u"http://a.example/"_s);
     }
 };
 

@@ -2,6 +2,7 @@
 #include "support/test_class.h"
 
 using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
 
 class CharactersTest : public QObject {
     Q_OBJECT
@@ -20,7 +21,7 @@ private Q_SLOTS:
         const Reading read =
             ReadBytes("{\\rtf1{\\fonttbl\\f0\\fmodern\\fprq1 Courier New;\\f1\\fswiss Helvetica;"
                       "{\\f2{\\*\\panose 020b}Wide{\\*\\falt Broad};}}\\f1 a\\f0 b\\f2 c\\par}");
-        QCOMPARE(read.Text(), QStringLiteral("abc"));
+        QCOMPARE(read.Text(), u"abc"_s);
         QCOMPARE(read.Format("a").fontFamilies().toStringList(), QStringList{"Helvetica"});
         QVERIFY(read.Format("b").fontFixedPitch());
         QCOMPARE(read.Format("c").fontFamilies().toStringList(), (QStringList{"Wide", "Broad"}));
@@ -130,7 +131,7 @@ private Q_SLOTS:
 
     void hidden_text_is_not_shown()
     {
-        QCOMPARE(ReadBody("seen{\\v hidden \\u8364? \\emdash}too\\par").Text(), QStringLiteral("seentoo"));
+        QCOMPARE(ReadBody("seen{\\v hidden \\u8364? \\emdash}too\\par").Text(), u"seentoo"_s);
     }
 
     void plain_takes_everything_back()
@@ -145,57 +146,57 @@ private Q_SLOTS:
     void bytes_follow_the_page_of_document_and_font()
     {
         QCOMPARE(ReadBody("caf\\'e9 {\\f3\\'cf\\'f0\\'e8} {\\f4\\'93\\'fa\\'96{}\\'7b}\\par").Text().left(9),
-                 QStringLiteral("café При "));
-        QCOMPARE(ReadBody("{\\f4\\'93\\'fa\\'96\\'7b}\\par").Text(), QStringLiteral("日本"));
-        QCOMPARE(ReadBytes("{\\rtf1\\ansi\\ansicpg1251 \\'cf\\'f0\\'e8\\par}").Text(), QStringLiteral("При"));
-        QCOMPARE(ReadBytes("{\\rtf1\\mac \\'8e\\par}").Text(), QStringLiteral("é"));
-        QCOMPARE(ReadBytes("{\\rtf1\\pc \\'82\\par}").Text(), QStringLiteral("é"));
-        QCOMPARE(ReadBytes("{\\rtf1\\pca \\'9b\\par}").Text(), QStringLiteral("ø"));
+                 u"café При "_s);
+        QCOMPARE(ReadBody("{\\f4\\'93\\'fa\\'96\\'7b}\\par").Text(), u"日本"_s);
+        QCOMPARE(ReadBytes("{\\rtf1\\ansi\\ansicpg1251 \\'cf\\'f0\\'e8\\par}").Text(), u"При"_s);
+        QCOMPARE(ReadBytes("{\\rtf1\\mac \\'8e\\par}").Text(), u"é"_s);
+        QCOMPARE(ReadBytes("{\\rtf1\\pc \\'82\\par}").Text(), u"é"_s);
+        QCOMPARE(ReadBytes("{\\rtf1\\pca \\'9b\\par}").Text(), u"ø"_s);
     }
 
     void the_second_half_of_a_character_may_be_an_escape()
     {
         // The second byte of this character is the backslash itself.
-        QCOMPARE(ReadBody("{\\f4\\'83\\\\}\\par").Text(), QStringLiteral("ソ"));
-        QCOMPARE(ReadBody("{\\f4\\'82\\'a0A}\\par").Text(), QStringLiteral("あA"));
+        QCOMPARE(ReadBody("{\\f4\\'83\\\\}\\par").Text(), u"ソ"_s);
+        QCOMPARE(ReadBody("{\\f4\\'82\\'a0A}\\par").Text(), u"あA"_s);
     }
 
     void unicode_takes_the_place_of_its_stand_in()
     {
-        QCOMPARE(ReadBody("a\\u8364?b\\par").Text(), QStringLiteral("a€b"));
-        QCOMPARE(ReadBody("a\\u8364\\'80b\\par").Text(), QStringLiteral("a€b"));
-        QCOMPARE(ReadBody("\\uc2 a\\u8364\\'a1\\'a2b\\par").Text(), QStringLiteral("a€b"));
-        QCOMPARE(ReadBody("\\uc0 a\\u8364 b\\par").Text(), QStringLiteral("a€b"));
-        QCOMPARE(ReadBody("{\\uc0 a\\u8364}b\\u8364?c\\par").Text(), QStringLiteral("a€b€c"));
-        QCOMPARE(ReadBody("a\\u-4064?\\par").Text(), QStringLiteral("a\uf020"));
+        QCOMPARE(ReadBody("a\\u8364?b\\par").Text(), u"a€b"_s);
+        QCOMPARE(ReadBody("a\\u8364\\'80b\\par").Text(), u"a€b"_s);
+        QCOMPARE(ReadBody("\\uc2 a\\u8364\\'a1\\'a2b\\par").Text(), u"a€b"_s);
+        QCOMPARE(ReadBody("\\uc0 a\\u8364 b\\par").Text(), u"a€b"_s);
+        QCOMPARE(ReadBody("{\\uc0 a\\u8364}b\\u8364?c\\par").Text(), u"a€b€c"_s);
+        QCOMPARE(ReadBody("a\\u-4064?\\par").Text(), u"a\uf020"_s);
     }
 
     void a_missing_stand_in_costs_no_paragraph()
     {
-        QCOMPARE(ReadBody("a\\u8364\\par b\\par").Text(), QStringLiteral("a€\nb"));
+        QCOMPARE(ReadBody("a\\u8364\\par b\\par").Text(), u"a€\nb"_s);
     }
 
     void pairs_of_surrogates_are_one_character()
     {
-        QCOMPARE(ReadBody("\\u-10179?\\u-8704?\\par").Text(), QStringLiteral("😀"));
-        QCOMPARE(ReadBody("\\uc0\\u55357\\u56832 x\\par").Text(), QStringLiteral("😀x"));
-        QCOMPARE(ReadBody("\\uc1\\u-10179?\\uc1\\u-8704?\\par").Text(), QStringLiteral("😀"));
-        QCOMPARE(ReadBody("a\\u-10179?b\\u-8704?c\\par").Text(), QStringLiteral("a\ufffdb\ufffdc"));
+        QCOMPARE(ReadBody("\\u-10179?\\u-8704?\\par").Text(), u"😀"_s);
+        QCOMPARE(ReadBody("\\uc0\\u55357\\u56832 x\\par").Text(), u"😀x"_s);
+        QCOMPARE(ReadBody("\\uc1\\u-10179?\\uc1\\u-8704?\\par").Text(), u"😀"_s);
+        QCOMPARE(ReadBody("a\\u-10179?b\\u-8704?c\\par").Text(), u"a\ufffdb\ufffdc"_s);
     }
 
     void symbol_fonts_become_unicode()
     {
         const Reading read = ReadBody("{\\f2 abg}{\\f5\\'fc}\\par");
-        QCOMPARE(read.Text(), QStringLiteral("αβγ✓"));
+        QCOMPARE(read.Text(), u"αβγ✓"_s);
         QVERIFY(read.Format("α").fontFamilies().toStringList().isEmpty());
     }
 
     void named_characters_are_shown()
     {
         QCOMPARE(ReadBody("\\lquote a\\rquote\\ldblquote b\\rdblquote\\endash\\emdash\\bullet\\par").Text(),
-                 QStringLiteral("‘a’“b”–—•"));
+                 u"‘a’“b”–—•"_s);
         const Reading read = ReadBody("a\\~b\\-c\\_d\\{e\\}\\\\\\tab f\\line g\\par");
-        QCOMPARE(read.document->firstBlock().text(), QStringLiteral("a\u00a0b\u00adc\u2011d{e}\\\tf\u2028g"));
+        QCOMPARE(read.document->firstBlock().text(), u"a\u00a0b\u00adc\u2011d{e}\\\tf\u2028g"_s);
     }
 
     void characters_of_the_documents_own_structure_do_no_harm()
@@ -203,14 +204,14 @@ private Q_SLOTS:
         const Reading read = ReadBody("a\\u-560?b\\u-559?c\\u-4?d\\u8233?e\\u0?f\\par");
         QCOMPARE(read.document->blockCount(), 1);
         QCOMPARE(read.document->firstBlock().text(),
-                 QStringLiteral("a\ufdd0b").left(1) + QStringLiteral("\ufffdb\ufffdc\ufffdd\u2028e\ufffdf"));
+                 u"a\ufdd0b"_s.left(1) + u"\ufffdb\ufffdc\ufffdd\u2028e\ufffdf"_s);
     }
 
     void escaped_line_ends_stay_in_their_paragraph()
     {
         const Reading read = ReadBody("a\\'0db\\'0ac\\'00d\\par");
         QCOMPARE(read.document->blockCount(), 1);
-        QCOMPARE(read.document->firstBlock().text(), QStringLiteral("a\u2028b\u2028c\ufffdd"));
+        QCOMPARE(read.document->firstBlock().text(), u"a\u2028b\u2028c\ufffdd"_s);
     }
 
     void runs_that_look_the_same_are_one()

@@ -2,6 +2,7 @@
 #include "support/test_class.h"
 
 using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
 
 class FieldsTest : public QObject {
     Q_OBJECT
@@ -11,8 +12,8 @@ private Q_SLOTS:
     {
         const Reading read = ReadBody("see {\\field{\\*\\fldinst{HYPERLINK \"http://www.torvik.example/\" "
                                       "}}{\\fldrslt{\\ul\\cf3 the club}}} now\\par");
-        QCOMPARE(read.Text(), QStringLiteral("see the club now"));
-        QCOMPARE(read.Format("club").anchorHref(), QStringLiteral("http://www.torvik.example/"));
+        QCOMPARE(read.Text(), u"see the club now"_s);
+        QCOMPARE(read.Format("club").anchorHref(), u"http://www.torvik.example/"_s);
         QVERIFY(!read.Format("now").isAnchor());
         QVERIFY(!read.Format("see").isAnchor());
     }
@@ -28,7 +29,7 @@ private Q_SLOTS:
     {
         const Reading read =
             ReadBody("{\\field{\\*\\fldinst HYPERLINK \"file:///c:/windows\"}{\\fldrslt files}}\\par");
-        QCOMPARE(read.Text(), QStringLiteral("files"));
+        QCOMPARE(read.Text(), u"files"_s);
         QVERIFY(!read.Format("files").isAnchor());
     }
 
@@ -36,7 +37,7 @@ private Q_SLOTS:
     {
         const Reading read = ReadBody("{\\field{\\*\\fldinst HYPERLINK \\\\l \"w\"}{\\fldrslt "
                                       "go}}\\par{\\*\\bkmkstart w}wheels{\\*\\bkmkend w} more\\par");
-        QCOMPARE(read.Format("go").anchorHref(), QStringLiteral("#w"));
+        QCOMPARE(read.Format("go").anchorHref(), u"#w"_s);
         QCOMPARE(read.Format("wheels").anchorNames(), QStringList{"w"});
     }
 
@@ -45,7 +46,7 @@ private Q_SLOTS:
         QCOMPARE(ReadBody("page {\\field{\\*\\fldinst PAGE }{\\fldrslt 7}} of {\\field\\fldedit{\\*\\fldinst "
                           "{DATE \\\\@ \"d\"}}{\\fldrslt {1 May}}}\\par")
                      .Text(),
-                 QStringLiteral("page 7 of 1 May"));
+                 u"page 7 of 1 May"_s);
     }
 
     void a_symbol_field_without_a_result_is_its_character()
@@ -54,7 +55,7 @@ private Q_SLOTS:
             ReadBody(
                 "a{\\field{\\*\\fldinst SYMBOL 183 \\\\f \"Symbol\" \\\\s 10}{\\fldrslt{\\f2\\fs20}}}b\\par")
                 .Text(),
-            QStringLiteral("a•b"));
+            u"a•b"_s);
     }
 
     void a_field_inside_an_instruction_stays_there()
@@ -62,14 +63,14 @@ private Q_SLOTS:
         QCOMPARE(ReadBody("a{\\field{\\*\\fldinst IF {\\field{\\*\\fldinst PAGE}{\\fldrslt 3}} = "
                           "3}{\\fldrslt yes}}b\\par")
                      .Text(),
-                 QStringLiteral("ayesb"));
+                 u"ayesb"_s);
     }
 
     void footnotes_stand_below_everything()
     {
         const Reading read = ReadBody("one{\\super\\chftn{\\footnote\\pard{\\super\\chftn} first note}} "
                                       "two{\\chftn{\\footnote second {\\b\\chftn}\\par}}\\par three\\par");
-        QCOMPARE(read.Text(), QStringLiteral("one1 two2\nthree\n1 first note\nsecond 2"));
+        QCOMPARE(read.Text(), u"one1 two2\nthree\n1 first note\nsecond 2"_s);
         QCOMPARE(read.Format("one").fontWeight(), int(QFont::Normal));
     }
 
@@ -78,24 +79,22 @@ private Q_SLOTS:
         QCOMPARE(ReadBody("{\\info{\\title T}{\\author A}}{\\header\\pard H\\par}{\\footerl "
                           "F\\par}{\\stylesheet{\\s1\\b heading 1;}}{\\*\\generator G;}text\\par")
                      .Text(),
-                 QStringLiteral("text"));
+                 u"text"_s);
     }
 
     void unknown_groups_are_skipped_only_when_marked_so()
     {
-        QCOMPARE(ReadBody("{\\*\\unheardof{\\b deep} of}{\\unheardof shown}\\par").Text(),
-                 QStringLiteral("shown"));
+        QCOMPARE(ReadBody("{\\*\\unheardof{\\b deep} of}{\\unheardof shown}\\par").Text(), u"shown"_s);
     }
 
     void raw_bytes_in_skipped_groups_hide_braces()
     {
-        QCOMPARE(ReadBody("{\\*\\unheardof\\bin3 }}}}shown\\par").Text(), QStringLiteral("shown"));
+        QCOMPARE(ReadBody("{\\*\\unheardof\\bin3 }}}}shown\\par").Text(), u"shown"_s);
     }
 
     void of_two_forms_of_a_text_the_second_is_taken()
     {
-        QCOMPARE(ReadBody("a{\\upr{old}{\\*\\ud{\\uc0 new\\u8364 }}}b\\par").Text(),
-                 QStringLiteral("anew€b"));
+        QCOMPARE(ReadBody("a{\\upr{old}{\\*\\ud{\\uc0 new\\u8364 }}}b\\par").Text(), u"anew€b"_s);
     }
 
     void text_in_drawn_shapes_is_shown()
@@ -103,7 +102,7 @@ private Q_SLOTS:
         QVERIFY(
             ReadBody("{\\shp{\\*\\shpinst{\\sp{\\sn fLine}{\\sv 0}}{\\shptxt in the box\\par}}}after\\par")
                 .Text()
-                .contains(QStringLiteral("in the box")));
+                .contains(u"in the box"_s));
     }
 };
 

@@ -5,6 +5,7 @@
 #include <QFile>
 
 using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
 
 class HostileTest : public QObject {
     Q_OBJECT
@@ -18,7 +19,7 @@ class HostileTest : public QObject {
 #ifdef __SANITIZE_ADDRESS__
         return 0;
 #endif
-        QFile file(QStringLiteral("/proc/self/statm"));
+        QFile file(u"/proc/self/statm"_s);
         if (!file.open(QIODevice::ReadOnly))
             return 0;
         return file.readAll().split(' ').value(1).toLongLong() * 4096;
@@ -29,13 +30,12 @@ private Q_SLOTS:
     {
         const Reading read = ReadBytes("{\\rtf1 a" + Repeated("{", 1000000) + "b");
         QVERIFY(read.result.wasDamaged);
-        QCOMPARE(read.Text(), QStringLiteral("ab"));
+        QCOMPARE(read.Text(), u"ab"_s);
     }
 
     void deep_groups_that_are_closed_again_lose_nothing()
     {
-        QCOMPARE(ReadBody("a" + Repeated("{", 5000) + "b" + Repeated("}", 5000) + "c\\par").Text(),
-                 QStringLiteral("abc"));
+        QCOMPARE(ReadBody("a" + Repeated("{", 5000) + "b" + Repeated("}", 5000) + "c\\par").Text(), u"abc"_s);
     }
 
     void destinations_nested_without_end()
@@ -44,19 +44,18 @@ private Q_SLOTS:
         ReadBytes("{\\rtf1" + Repeated("{\\footnote ", 20000));
         ReadBytes("{\\rtf1" + Repeated("{\\*\\pn{\\pntxtb ", 20000));
         ReadBytes("{\\rtf1" + Repeated("{\\upr", 20000));
-        QCOMPARE(ReadBytes("{\\rtf1" + Repeated("{\\object{\\result ", 2000) + "x").Text(),
-                 QStringLiteral("x"));
+        QCOMPARE(ReadBytes("{\\rtf1" + Repeated("{\\object{\\result ", 2000) + "x").Text(), u"x"_s);
     }
 
     void braces_that_close_nothing_end_the_document()
     {
-        QCOMPARE(ReadBytes("{\\rtf1 a}}}}}b").Text(), QStringLiteral("a"));
+        QCOMPARE(ReadBytes("{\\rtf1 a}}}}}b").Text(), u"a"_s);
     }
 
     void a_huge_count_of_raw_bytes()
     {
         const Reading read = ReadBody("a\\par{\\pict\\pngblip\\bin2147483647 xx");
-        QCOMPARE(read.Text(), QStringLiteral("a"));
+        QCOMPARE(read.Text(), u"a"_s);
         QVERIFY(read.result.wasDamaged);
     }
 
@@ -128,7 +127,7 @@ private Q_SLOTS:
                                       Dib(32000, 32000, 8, {}, {}, 1).toHex() + "}x\\par");
         QCOMPARE(read.result.pictures, 0);
         QCOMPARE(read.result.lostPictures, 3);
-        QCOMPARE(read.Text(), QStringLiteral("x"));
+        QCOMPARE(read.Text(), u"x"_s);
     }
 
     void many_pictures_together_do_not_break_the_bounds()
@@ -148,9 +147,9 @@ private Q_SLOTS:
 
     void hexadecimal_digits_that_break_off()
     {
-        QCOMPARE(ReadBytes("{\\rtf1 a\\'").Text(), QStringLiteral("a"));
-        QCOMPARE(ReadBytes("{\\rtf1 a\\'e").Text(), QStringLiteral("a"));
-        QCOMPARE(ReadBody("a\\'zzb\\par").Text(), QStringLiteral("azzb"));
+        QCOMPARE(ReadBytes("{\\rtf1 a\\'").Text(), u"a"_s);
+        QCOMPARE(ReadBytes("{\\rtf1 a\\'e").Text(), u"a"_s);
+        QCOMPARE(ReadBody("a\\'zzb\\par").Text(), u"azzb"_s);
     }
 
     void numbers_at_their_limits_in_every_word_data()

@@ -3,6 +3,7 @@
 #include "support/test_class.h"
 
 using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
 
 class StyleSheetTest : public QObject {
     Q_OBJECT
@@ -21,7 +22,7 @@ private Q_SLOTS:
     void a_paragraph_that_only_names_its_style_looks_like_it()
     {
         const Reading read = ReadStyled("\\s1 title {\\i slanted}\\par");
-        QCOMPARE(read.Text(), QStringLiteral("title slanted"));
+        QCOMPARE(read.Text(), u"title slanted"_s);
         QCOMPARE(read.Format("title").fontWeight(), int(QFont::Bold));
         QCOMPARE(read.Format("title").fontPointSize(), 20.0);
         QCOMPARE(read.Format("title").foreground().color(), QColor(255, 0, 0));
@@ -83,7 +84,7 @@ private Q_SLOTS:
     {
         const Reading read = ReadBody("{\\stylesheet{\\s1\\s2\\b\\plain\\pard\\cs2 "
                                       "odd;}{\\s2\\s2\\cs2\\s2\\i odd;}}\\pard\\fs30\\s2 text\\par");
-        QCOMPARE(read.Text(), QStringLiteral("text"));
+        QCOMPARE(read.Text(), u"text"_s);
         QCOMPARE(read.Format("text").fontPointSize(), 15.0);
     }
 

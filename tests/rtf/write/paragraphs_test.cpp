@@ -6,13 +6,14 @@
 #include <QTextTable>
 
 using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
 
 class ParagraphsTest : public QObject {
     Q_OBJECT
 
     static QTextBlockFormat FormatOf(const QByteArray& words)
     {
-        return ReadBody("\\pard" + words + " text\\par").Block(QStringLiteral("text")).blockFormat();
+        return ReadBody("\\pard" + words + " text\\par").Block(u"text"_s).blockFormat();
     }
 
 private Q_SLOTS:
@@ -43,8 +44,8 @@ private Q_SLOTS:
     void a_paragraph_keeps_its_format_until_pard()
     {
         const Reading read = ReadBody("\\qc one\\par two\\par\\pard three\\par");
-        QVERIFY((read.Block(QStringLiteral("two")).blockFormat().alignment() & Qt::AlignHCenter) != 0);
-        QVERIFY((read.Block(QStringLiteral("three")).blockFormat().alignment() & Qt::AlignHCenter) == 0);
+        QVERIFY((read.Block(u"two"_s).blockFormat().alignment() & Qt::AlignHCenter) != 0);
+        QVERIFY((read.Block(u"three"_s).blockFormat().alignment() & Qt::AlignHCenter) == 0);
     }
 
     void line_spacing()
@@ -90,14 +91,12 @@ private Q_SLOTS:
 
     void keeping_together_and_page_breaks()
     {
-        QVERIFY(FormatOf("\\keep").property(KeepTogetherProperty).toBool());
-        QVERIFY(!FormatOf("\\keep\\keep0").property(KeepTogetherProperty).toBool());
+        QVERIFY(FormatOf("\\keep").property(keepTogetherProperty).toBool());
+        QVERIFY(!FormatOf("\\keep\\keep0").property(keepTogetherProperty).toBool());
         QCOMPARE(FormatOf("\\pagebb").pageBreakPolicy(), QTextFormat::PageBreak_AlwaysBefore);
         const Reading read = ReadBody("one\\par\\page two\\par three\\par");
-        QCOMPARE(read.Block(QStringLiteral("two")).blockFormat().pageBreakPolicy(),
-                 QTextFormat::PageBreak_AlwaysBefore);
-        QCOMPARE(read.Block(QStringLiteral("three")).blockFormat().pageBreakPolicy(),
-                 QTextFormat::PageBreak_Auto);
+        QCOMPARE(read.Block(u"two"_s).blockFormat().pageBreakPolicy(), QTextFormat::PageBreak_AlwaysBefore);
+        QCOMPARE(read.Block(u"three"_s).blockFormat().pageBreakPolicy(), QTextFormat::PageBreak_Auto);
     }
 
     void a_paragraph_that_is_kept_together_is_wrapped_all_the_same()
@@ -111,7 +110,7 @@ private Q_SLOTS:
     void a_page_break_inside_a_paragraph_ends_it()
     {
         const Reading read = ReadBody("one\\page two\\par");
-        QCOMPARE(read.Text(), QStringLiteral("one\ntwo"));
+        QCOMPARE(read.Text(), u"one\ntwo"_s);
         QCOMPARE(read.document->lastBlock().blockFormat().pageBreakPolicy(),
                  QTextFormat::PageBreak_AlwaysBefore);
     }
@@ -138,8 +137,8 @@ private Q_SLOTS:
         QCOMPARE(format.borderBrush().color(), QColor(255, 0, 0));
         QCOMPARE(format.borderStyle(), QTextFrameFormat::BorderStyle_Solid);
         QCOMPARE(read.document->rootFrame()->childFrames().first()->firstCursorPosition().block().text(),
-                 QStringLiteral("one"));
-        QCOMPARE(read.Text(), QStringLiteral("before\none\ntwo\nafter"));
+                 u"one"_s);
+        QCOMPARE(read.Text(), u"before\none\ntwo\nafter"_s);
     }
 
     void four_single_borders_are_a_box_too()
@@ -172,7 +171,7 @@ private Q_SLOTS:
 
     void text_without_an_end_of_paragraph_is_one_all_the_same()
     {
-        QCOMPARE(ReadBody("one\\par two").Text(), QStringLiteral("one\ntwo"));
+        QCOMPARE(ReadBody("one\\par two").Text(), u"one\ntwo"_s);
         QCOMPARE(ReadBody("one\\par two\\par").document->blockCount(), 2);
     }
 

@@ -4,6 +4,7 @@
 #include <QTextTable>
 
 using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
 
 class TablesTest : public QObject {
     Q_OBJECT
@@ -35,12 +36,12 @@ private Q_SLOTS:
         QVERIFY(table != nullptr);
         QCOMPARE(table->rows(), 2);
         QCOMPARE(table->columns(), 2);
-        QCOMPARE(CellText(table, 0, 0), QStringLiteral("a"));
-        QCOMPARE(CellText(table, 0, 1), QStringLiteral("b/c"));
-        QCOMPARE(CellText(table, 1, 1), QStringLiteral("e"));
+        QCOMPARE(CellText(table, 0, 0), u"a"_s);
+        QCOMPARE(CellText(table, 0, 1), u"b/c"_s);
+        QCOMPARE(CellText(table, 1, 1), u"e"_s);
         QCOMPARE(table->format().columnWidthConstraints().at(0).rawValue(), 100.0);
         QCOMPARE(table->format().columnWidthConstraints().at(1).rawValue(), 200.0);
-        QCOMPARE(read.document->lastBlock().text(), QStringLiteral("after"));
+        QCOMPARE(read.document->lastBlock().text(), u"after"_s);
         QCOMPARE(read.result.tables, 1);
     }
 
@@ -49,7 +50,7 @@ private Q_SLOTS:
         const Reading read =
             ReadBody("\\pard\\intbl a\\cell b\\cell\\trowd\\cellx1500\\cellx3000\\row\\pard x\\par");
         QCOMPARE(TableOf(read)->columns(), 2);
-        QCOMPARE(CellText(TableOf(read), 0, 1), QStringLiteral("b"));
+        QCOMPARE(CellText(TableOf(read), 0, 1), u"b"_s);
     }
 
     void a_definition_holds_for_the_rows_that_follow()
@@ -57,7 +58,7 @@ private Q_SLOTS:
         const Reading read = ReadBody(
             "\\trowd\\cellx1500\\cellx3000\\intbl a\\cell b\\cell\\row c\\cell d\\cell\\row\\pard x\\par");
         QCOMPARE(TableOf(read)->rows(), 2);
-        QCOMPARE(CellText(TableOf(read), 1, 0), QStringLiteral("c"));
+        QCOMPARE(CellText(TableOf(read), 1, 0), u"c"_s);
     }
 
     void rows_with_other_edges_span_the_common_columns()
@@ -68,7 +69,7 @@ private Q_SLOTS:
         const QTextTable* table = TableOf(read);
         QCOMPARE(table->columns(), 3);
         QCOMPARE(table->cellAt(1, 0).columnSpan(), 2);
-        QCOMPARE(CellText(table, 1, 2), QStringLiteral("d"));
+        QCOMPARE(CellText(table, 1, 2), u"d"_s);
     }
 
     void cells_merged_across()
@@ -78,8 +79,8 @@ private Q_SLOTS:
             "\\trowd\\cellx1000\\cellx2000\\cellx3000\\intbl d\\cell e\\cell f\\cell\\row\\pard x\\par");
         const QTextTable* table = TableOf(read);
         QCOMPARE(table->cellAt(0, 0).columnSpan(), 2);
-        QCOMPARE(CellText(table, 0, 0), QStringLiteral("wide"));
-        QCOMPARE(CellText(table, 0, 2), QStringLiteral("c"));
+        QCOMPARE(CellText(table, 0, 0), u"wide"_s);
+        QCOMPARE(CellText(table, 0, 2), u"c"_s);
     }
 
     void cells_merged_down()
@@ -90,8 +91,8 @@ private Q_SLOTS:
                      "\\trowd\\clvmrg\\cellx1000\\cellx2000\\intbl\\cell f\\cell\\row\\pard x\\par");
         const QTextTable* table = TableOf(read);
         QCOMPARE(table->cellAt(0, 0).rowSpan(), 3);
-        QCOMPARE(CellText(table, 2, 0), QStringLiteral("tall"));
-        QCOMPARE(CellText(table, 2, 1), QStringLiteral("f"));
+        QCOMPARE(CellText(table, 2, 0), u"tall"_s);
+        QCOMPARE(CellText(table, 2, 1), u"f"_s);
     }
 
     void borders_shading_and_alignment_of_cells()
@@ -151,16 +152,16 @@ private Q_SLOTS:
         auto* inner = qobject_cast<QTextTable*>(outer->childFrames().value(0));
         QVERIFY(inner != nullptr);
         QCOMPARE(inner->columns(), 2);
-        QCOMPARE(CellText(inner, 0, 1), QStringLiteral("in2"));
+        QCOMPARE(CellText(inner, 0, 1), u"in2"_s);
         QCOMPARE(inner->format().columnWidthConstraints().at(0).rawValue(), 100.0);
-        QVERIFY(read.Text().contains(QStringLiteral("below")));
+        QVERIFY(read.Text().contains(u"below"_s));
     }
 
     void lists_and_formats_inside_cells()
     {
         const Reading read = ReadBody("\\trowd\\cellx4000\\intbl{\\pntext\\f2\\'b7\\tab}one\\par{"
                                       "\\pntext\\f2\\'b7\\tab}\\b two\\b0\\cell\\row\\pard x\\par");
-        QVERIFY(read.Block(QStringLiteral("two")).textList() != nullptr);
+        QVERIFY(read.Block(u"two"_s).textList() != nullptr);
         QCOMPARE(read.Format("two").fontWeight(), int(QFont::Bold));
     }
 
@@ -169,7 +170,7 @@ private Q_SLOTS:
         const Reading read =
             ReadBody("\\trowd\\cellx1000\\intbl a\\cell b\\cell c\\cell\\row\\pard between\\par"
                      "\\trowd\\cellx1000\\cellx2000\\cellx3000\\intbl d\\cell\\row\\pard x\\par");
-        QCOMPARE(CellText(TableOf(read), 0, 2), QStringLiteral("c"));
+        QCOMPARE(CellText(TableOf(read), 0, 2), u"c"_s);
         QCOMPARE(TableOf(read, 1)->columns(), 3);
     }
 
@@ -184,7 +185,7 @@ private Q_SLOTS:
     void a_row_without_an_end_is_shown()
     {
         const Reading read = ReadBody("\\trowd\\cellx1000\\cellx2000\\intbl a\\cell b");
-        QCOMPARE(CellText(TableOf(read), 0, 1), QStringLiteral("b"));
+        QCOMPARE(CellText(TableOf(read), 0, 1), u"b"_s);
     }
 
     void a_long_table_is_continued_below()
@@ -194,7 +195,7 @@ private Q_SLOTS:
             rows += "\\trowd\\cellx1000\\cellx2000\\intbl r" + QByteArray::number(i) + "\\cell b\\cell\\row";
         const Reading read = ReadBody(rows + "\\pard x\\par");
         QCOMPARE(read.result.tables, 2);
-        QVERIFY(read.Text().contains(QStringLiteral("r2999")));
+        QVERIFY(read.Text().contains(u"r2999"_s));
     }
 };
 

@@ -1,5 +1,5 @@
 #include "rtf/bounds/limits.h"
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 
 #include <QTextDocument>
 
@@ -9,7 +9,7 @@
 
 namespace torvik::rtf {
 
-void Reader::FinishDraft()
+void Interpreter::FinishDraft()
 {
     FlushText();
     Paragraph& draft = flow_.Draft();
@@ -37,7 +37,7 @@ void Reader::FinishDraft()
     breakPending_ = false;
 }
 
-void Reader::EndParagraph()
+void Interpreter::EndParagraph()
 {
     if (!IsBody())
         return;
@@ -45,7 +45,7 @@ void Reader::EndParagraph()
     flow_.EndParagraph(state_.paragraph.tableDepth);
 }
 
-void Reader::EndCell(bool nested)
+void Interpreter::EndCell(bool nested)
 {
     if (!IsBody())
         return;
@@ -53,7 +53,7 @@ void Reader::EndCell(bool nested)
     flow_.EndCell(nested ? std::max(2, state_.paragraph.tableDepth) : 1);
 }
 
-void Reader::EndRow(bool nested)
+void Interpreter::EndRow(bool nested)
 {
     if (!IsBody())
         return;
@@ -63,7 +63,7 @@ void Reader::EndRow(bool nested)
     flow_.EndRow(nested ? std::max(2, state_.paragraph.tableDepth) : 1);
 }
 
-void Reader::BreakPage()
+void Interpreter::BreakPage()
 {
     if (!IsBody() || flow_.InNote() || state_.paragraph.tableDepth > 0)
         return;
@@ -73,7 +73,7 @@ void Reader::BreakPage()
     breakPending_ = true;
 }
 
-void Reader::BeginMark()
+void Interpreter::BeginMark()
 {
     if (!IsBody())
         return Skip();
@@ -81,7 +81,7 @@ void Reader::BeginMark()
     mark_.clear();
 }
 
-void Reader::ResetCharacter()
+void Interpreter::ResetCharacter()
 {
     const CharacterState before = state_.character;
     state_.character = CharacterState();
@@ -90,7 +90,7 @@ void Reader::ResetCharacter()
     beforeStyle_ = state_.character;
 }
 
-void Reader::LeaveParagraphStyle()
+void Interpreter::LeaveParagraphStyle()
 {
     if (state_.paragraph.style == 0)
         return;
@@ -100,7 +100,7 @@ void Reader::LeaveParagraphStyle()
     SetFont(beforeStyle_.font);
 }
 
-void Reader::ApplyParagraphStyle(int number)
+void Interpreter::ApplyParagraphStyle(int number)
 {
     LeaveParagraphStyle();
     beforeStyle_ = state_.character;
@@ -111,7 +111,7 @@ void Reader::ApplyParagraphStyle(int number)
 }
 
 /// Looks ahead as far as the words go that stand before the text.
-bool Reader::SpellsLooksOut() const
+bool Interpreter::SpellsLooksOut() const
 {
     constexpr int mostWords = 32;
     Tokenizer ahead = tokens_;
@@ -125,46 +125,46 @@ bool Reader::SpellsLooksOut() const
     return false;
 }
 
-void Reader::ApplyStyle(const StyleWords& style)
+void Interpreter::ApplyStyle(const StyleWords& style)
 {
     for (const StyleWord& look : style)
         look.word->apply(*this, look.argument);
     SelectBorder(nullptr);
 }
 
-void Reader::ApplyCharacterStyle(int number)
+void Interpreter::ApplyCharacterStyle(int number)
 {
     const StyleWords* style = styles_.OfCharacter(number);
     if (style != nullptr && !SpellsLooksOut())
         ApplyStyle(*style);
 }
 
-void Reader::ResetParagraph()
+void Interpreter::ResetParagraph()
 {
     LeaveParagraphStyle();
     state_.paragraph = ParagraphState();
     SelectBorder(nullptr);
 }
 
-void Reader::SetFont(int number)
+void Interpreter::SetFont(int number)
 {
     state_.character.font = number;
     state_.page = &fonts_.PageOf(number, documentPage_);
 }
 
-void Reader::SetDocumentPage(int number)
+void Interpreter::SetDocumentPage(int number)
 {
     documentPage_ = number;
     state_.page = &fonts_.PageOf(state_.character.font, documentPage_);
 }
 
-void Reader::SetDefaultFont(int number)
+void Interpreter::SetDefaultFont(int number)
 {
     defaultFont_ = number;
     SetFont(number);
 }
 
-void Reader::SetDefaultTab(int twips)
+void Interpreter::SetDefaultTab(int twips)
 {
     QTextOption option = document_.defaultTextOption();
     option.setTabStopDistance(PixelsFromTwips(twips));

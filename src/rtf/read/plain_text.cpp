@@ -1,4 +1,4 @@
-#include "rtf/read/plain_reader.h"
+#include "rtf/read/plain_text.h"
 
 #include "rtf/charset/code_page.h"
 #include "rtf/write/flow_writer.h"

@@ -18,9 +18,9 @@ namespace torvik::rtf {
 
 /// Walks through the tokens of a document and keeps the state that they change. What the single control words
 /// do stands in tables of their own (see word_table.h); they work on the members offered here.
-class Reader {
+class Interpreter {
 public:
-    Reader(const QByteArray& bytes, QTextDocument& into);
+    Interpreter(const QByteArray& bytes, QTextDocument& into);
     ReadResult Read();
 
     GroupState& State() { return state_; }

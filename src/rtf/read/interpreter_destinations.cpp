@@ -1,11 +1,11 @@
 #include "rtf/bounds/limits.h"
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 
 // What happens where a destination ends, and how fields, notes and pictures come into the text.
 
 namespace torvik::rtf {
 
-void Reader::EndDestination(const GroupState& ended)
+void Interpreter::EndDestination(const GroupState& ended)
 {
     switch (ended.destination) {
     case Destination::Fonts:
@@ -40,19 +40,19 @@ void Reader::EndDestination(const GroupState& ended)
     }
 }
 
-void Reader::BeginFont(int number)
+void Interpreter::BeginFont(int number)
 {
     FinishFont();
     currentFont_ = &fonts_.Define(number);
     currentFontNumber_ = number;
 }
 
-void Reader::FontChanged()
+void Interpreter::FontChanged()
 {
     state_.page = &fonts_.PageOf(currentFontNumber_, documentPage_);
 }
 
-void Reader::FinishFont()
+void Interpreter::FinishFont()
 {
     if (currentFont_ != nullptr) {
         currentFont_->family = CleanFontName(aside_);
@@ -62,13 +62,13 @@ void Reader::FinishFont()
     aside_.clear();
 }
 
-void Reader::EnterAlternativeFont()
+void Interpreter::EnterAlternativeFont()
 {
     // The name that is being gathered goes on after the group.
     state_.destination = Destination::AlternativeFont;
 }
 
-void Reader::BeginField()
+void Interpreter::BeginField()
 {
     if (!IsBody() || state_.opensField)
         return;
@@ -76,14 +76,14 @@ void Reader::BeginField()
     fields_.emplace_back().start = flow_.Draft().text.size();
 }
 
-void Reader::ReadField()
+void Interpreter::ReadField()
 {
     Field& field = fields_.back();
     field.read = ReadInstruction(field.instruction);
     field.link = formats_.AddLink(field.read.target);
 }
 
-void Reader::BeginFieldResult()
+void Interpreter::BeginFieldResult()
 {
     if (fields_.empty() || !IsBody())
         return;
@@ -91,7 +91,7 @@ void Reader::BeginFieldResult()
         state_.character.link = fields_.back().link;
 }
 
-void Reader::EndField()
+void Interpreter::EndField()
 {
     if (fields_.empty())
         return;
@@ -102,7 +102,7 @@ void Reader::EndField()
         PutSymbol(field.read);
 }
 
-void Reader::BeginNote()
+void Interpreter::BeginNote()
 {
     if (!IsBody() || flow_.InNote() || state_.destination == Destination::Note) {
         Skip();
@@ -112,7 +112,7 @@ void Reader::BeginNote()
     flow_.BeginNote();
 }
 
-void Reader::EndNote(const GroupState& ended)
+void Interpreter::EndNote(const GroupState& ended)
 {
     if (!flow_.Draft().IsEmpty()) {
         const GroupState around = std::move(state_);
@@ -123,7 +123,7 @@ void Reader::EndNote(const GroupState& ended)
     flow_.EndNote();
 }
 
-void Reader::PutNoteReference()
+void Interpreter::PutNoteReference()
 {
     if (!IsBody())
         return;
@@ -132,13 +132,13 @@ void Reader::PutNoteReference()
     PutText(QString::number(notes_));
 }
 
-void Reader::BeginPicture()
+void Interpreter::BeginPicture()
 {
     Enter(Destination::Picture);
     picture_ = PictureSource();
 }
 
-void Reader::EndPicture(const GroupState& ended)
+void Interpreter::EndPicture(const GroupState& ended)
 {
     PictureSource source = std::move(picture_);
     picture_ = PictureSource();
@@ -156,13 +156,13 @@ void Reader::EndPicture(const GroupState& ended)
     ++result_.pictures;
 }
 
-void Reader::BeginShapePicture()
+void Interpreter::BeginShapePicture()
 {
     state_.isShapePicture = true;
     shapePictureShown_ = false;
 }
 
-void Reader::BeginPlainPicture()
+void Interpreter::BeginPlainPicture()
 {
     // The same picture once more for older readers: wanted only when the better one could not be read.
     if (shapePictureShown_)

@@ -1,4 +1,4 @@
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 
 #include "rtf/bounds/limits.h"
 #include "rtf/read/word_table.h"
@@ -12,8 +12,8 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int DefaultTab = 720;
-constexpr int NoFont = -0x7fffffff - 1;
+constexpr int defaultTab = 720;
+constexpr int noFont = -0x7fffffff - 1;
 
 WordScope ScopeOf(Destination destination)
 {
@@ -48,22 +48,22 @@ bool IsNeverFallback(std::string_view word)
 
 } // namespace
 
-Reader::Reader(const QByteArray& bytes, QTextDocument& into)
+Interpreter::Interpreter(const QByteArray& bytes, QTextDocument& into)
     : tokens_({bytes.constData(), static_cast<std::size_t>(bytes.size())}), document_(into),
       budget_(bytes.size()), counter_(lists_),
       formats_(fonts_, colors_), context_{formats_, pictures_, budget_}, cursor_(&into),
       body_(context_, cursor_, FlowWriter::Room::Body), flow_(context_, body_)
 {
     state_.page = &CodePage::Of(documentPage_);
-    SetDefaultTab(DefaultTab);
+    SetDefaultTab(defaultTab);
     // What looks plain must not wait for the table of fonts, so it has none.
     CharacterState plain;
-    plain.font = NoFont;
+    plain.font = noFont;
     formats_.Character(plain);
     formats_.Paragraph(state_.paragraph);
 }
 
-ReadResult Reader::Read()
+ReadResult Interpreter::Read()
 {
     cursor_.beginEditBlock();
     while (!ended_) {
@@ -84,7 +84,7 @@ ReadResult Reader::Read()
     return result_;
 }
 
-void Reader::FinishDocument()
+void Interpreter::FinishDocument()
 {
     // A file that ends within a destination leaves nothing to show of it, but the text before it stays.
     state_.destination = Destination::Body;
@@ -99,7 +99,7 @@ void Reader::FinishDocument()
     flow_.Finish();
 }
 
-void Reader::Handle(const Token& token)
+void Interpreter::Handle(const Token& token)
 {
     if (fallbackLeft_ > 0 && ConsumesFallback(token))
         return;
@@ -135,7 +135,7 @@ void Reader::Handle(const Token& token)
     }
 }
 
-bool Reader::ConsumesFallback(const Token& token)
+bool Interpreter::ConsumesFallback(const Token& token)
 {
     switch (token.kind) {
     case TokenKind::Text:
@@ -160,14 +160,14 @@ bool Reader::ConsumesFallback(const Token& token)
     return true;
 }
 
-void Reader::HandleStyleWord(const Token& token)
+void Interpreter::HandleStyleWord(const Token& token)
 {
     const bool isOptional = std::exchange(starPending_, false);
     if (!styles_.Take(token.text, {token.hasValue, token.value}) && isOptional)
         Skip();
 }
 
-void Reader::HandleWord(const Token& token)
+void Interpreter::HandleWord(const Token& token)
 {
     if (state_.destination == Destination::Styles)
         return HandleStyleWord(token);
@@ -185,7 +185,7 @@ void Reader::HandleWord(const Token& token)
         Skip();
 }
 
-void Reader::HandleSymbol(char symbol)
+void Interpreter::HandleSymbol(char symbol)
 {
     switch (symbol) {
     case '*':
@@ -213,11 +213,11 @@ void Reader::HandleSymbol(char symbol)
     }
 }
 
-void Reader::OpenGroup()
+void Interpreter::OpenGroup()
 {
     FlushText();
     starPending_ = false;
-    if (groups_.size() >= static_cast<std::size_t>(MaxGroupDepth)) {
+    if (groups_.size() >= static_cast<std::size_t>(maxGroupDepth)) {
         ++overflowDepth_;
         return;
     }
@@ -228,7 +228,7 @@ void Reader::OpenGroup()
     state_.opensField = false;
 }
 
-void Reader::CloseGroup()
+void Interpreter::CloseGroup()
 {
     FlushText();
     starPending_ = false;
@@ -252,42 +252,42 @@ void Reader::CloseGroup()
         EndField();
 }
 
-void Reader::Enter(Destination destination)
+void Interpreter::Enter(Destination destination)
 {
     state_.destination = destination;
     state_.opensDestination = true;
     aside_.clear();
 }
 
-void Reader::Skip()
+void Interpreter::Skip()
 {
     if (!tokens_.SkipGroup())
         return;
     CloseGroup();
 }
 
-void Reader::SkipNextGroup()
+void Interpreter::SkipNextGroup()
 {
     const Tokenizer here = tokens_;
     if (tokens_.Next().kind != TokenKind::GroupOpen || !tokens_.SkipGroup())
         tokens_ = here;
 }
 
-bool Reader::IsBody() const
+bool Interpreter::IsBody() const
 {
     return state_.destination == Destination::Body || state_.destination == Destination::Note;
 }
 
-RowStyle& Reader::CurrentRow()
+RowStyle& Interpreter::CurrentRow()
 {
     return flow_.RowAt(state_.isNestedTableProperties ? std::max(2, state_.paragraph.tableDepth) : 1);
 }
 
-void Reader::EndCellDefinition(int rightEdge)
+void Interpreter::EndCellDefinition(int rightEdge)
 {
     RowStyle& row = CurrentRow();
     cell_.rightEdge = rightEdge;
-    if (row.cells.size() < static_cast<std::size_t>(MaxRowCells))
+    if (row.cells.size() < static_cast<std::size_t>(maxRowCells))
         row.cells.push_back(cell_);
     cell_ = CellStyle();
     SelectBorder(nullptr);

@@ -1,6 +1,6 @@
 #include "rtf/bounds/limits.h"
 #include "rtf/charset/symbol_font.h"
-#include "rtf/read/reader.h"
+#include "rtf/read/interpreter.h"
 
 #include <algorithm>
 
@@ -10,8 +10,8 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr char16_t FrameStart = 0xfdd0;
-constexpr char16_t FrameEnd = 0xfdd1;
+constexpr char16_t frameStart = 0xfdd0;
+constexpr char16_t frameEnd = 0xfdd1;
 
 /// Characters that the document would take for its own structure.
 char16_t Harmless(char16_t unit)
@@ -21,8 +21,8 @@ char16_t Harmless(char16_t unit)
     case u'\r':
     case 0x2029:
         return 0x2028;
-    case FrameStart:
-    case FrameEnd:
+    case frameStart:
+    case frameEnd:
     case QChar::ObjectReplacementCharacter:
     case 0:
         return QChar::ReplacementCharacter;
@@ -33,7 +33,7 @@ char16_t Harmless(char16_t unit)
 
 } // namespace
 
-void Reader::PutBytes(std::string_view bytes)
+void Interpreter::PutBytes(std::string_view bytes)
 {
     if (fallbackLeft_ > 0) {
         const std::size_t skipped = std::min(bytes.size(), static_cast<std::size_t>(fallbackLeft_));
@@ -81,7 +81,7 @@ void Reader::PutBytes(std::string_view bytes)
     PutText(scratch_);
 }
 
-void Reader::FlushText()
+void Interpreter::FlushText()
 {
     FlushBytes();
     if (highSurrogate_ == 0)
@@ -90,7 +90,7 @@ void Reader::FlushText()
     PutText(QString(QChar(QChar::ReplacementCharacter)));
 }
 
-void Reader::FlushBytes()
+void Interpreter::FlushBytes()
 {
     if (pendingBytes_.empty())
         return;
@@ -100,7 +100,7 @@ void Reader::FlushBytes()
     PutText(text);
 }
 
-void Reader::PutText(const QString& text)
+void Interpreter::PutText(const QString& text)
 {
     QString shown = text;
     const bool isFontName =
@@ -111,7 +111,7 @@ void Reader::PutText(const QString& text)
             c = SymbolCharacter(font != nullptr ? font->family : QString(), c.unicode());
     }
     if (QString* aside = AsideText()) {
-        if (aside->size() < MaxAsideText)
+        if (aside->size() < maxAsideText)
             aside->append(shown);
         return;
     }
@@ -123,13 +123,13 @@ void Reader::PutText(const QString& text)
     bookmark_ = 0;
 }
 
-void Reader::PutCharacter(char16_t unit)
+void Interpreter::PutCharacter(char16_t unit)
 {
     FlushText();
     PutText(QString(QChar(unit)));
 }
 
-void Reader::PutUnicode(int value)
+void Interpreter::PutUnicode(int value)
 {
     const char16_t held = highSurrogate_;
     highSurrogate_ = 0;
@@ -155,7 +155,7 @@ void Reader::PutUnicode(int value)
         PutText(QString::fromUcs4(&point, 1));
 }
 
-void Reader::PutSymbol(const FieldInstruction& symbol)
+void Interpreter::PutSymbol(const FieldInstruction& symbol)
 {
     char16_t unit = static_cast<char16_t>(symbol.symbol);
     const bool isSymbolFont = symbol.symbolFont == QLatin1StringView("Symbol") ||
@@ -165,7 +165,7 @@ void Reader::PutSymbol(const FieldInstruction& symbol)
     PutText(QString(QChar(unit)));
 }
 
-QString* Reader::AsideText()
+QString* Interpreter::AsideText()
 {
     switch (state_.destination) {
     case Destination::Fonts:
@@ -187,7 +187,7 @@ QString* Reader::AsideText()
     }
 }
 
-int Reader::CurrentFormat()
+int Interpreter::CurrentFormat()
 {
     if (bookmark_ != 0) {
         CharacterState marked = state_.character;
