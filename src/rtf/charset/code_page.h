@@ -6,6 +6,9 @@
 
 namespace torvik::rtf {
 
+/// The character set of a font whose places hold symbols (see symbol_font.h).
+inline constexpr int symbolCharset = 2;
+
 /// A table of characters that single bytes or pairs of bytes stand for.
 class CodePage {
 public:

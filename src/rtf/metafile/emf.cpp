@@ -1,6 +1,7 @@
 #include "rtf/metafile/emf.h"
 
 #include "rtf/bitmap/byte_reader.h"
+#include "rtf/metafile/emf_geometry.h"
 #include "rtf/metafile/emf_player.h"
 #include "rtf/metafile/gdi_canvas.h"
 
@@ -10,14 +11,9 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t headerBytes = 88;
+constexpr std::size_t emfHeaderBytes = 88;
 constexpr quint32 emfSignature = 0x464d4520;
 constexpr double pixelsPerHundredthMillimetre = 96.0 / 2540.0;
-
-QRectF Box(const ByteReader& in, std::size_t at)
-{
-    return {QPointF(in.S32(at), in.S32(at + 4)), QPointF(in.S32(at + 8), in.S32(at + 12))};
-}
 
 /// Device units in a millimetre; a header without sizes is taken for a screen's.
 QSizeF UnitsPerMillimetre(const ByteReader& in)
@@ -34,16 +30,16 @@ Drawing OpenEmf(std::string_view bytes)
 {
     const ByteReader in(bytes);
     Drawing drawing;
-    if (!in.Has(0, headerBytes) || in.U32(0) != 1 || in.U32(40) != emfSignature)
+    if (!in.Has(0, emfHeaderBytes) || EmfRecord(in.U32(0)) != EmfRecord::Header || in.U32(40) != emfSignature)
         return drawing;
     const QSizeF units = UnitsPerMillimetre(in);
-    const QRectF frame = Box(in, 24).normalized();
+    const QRectF frame = EmfBox(in, 24).normalized();
     if (!frame.isEmpty()) {
         drawing.naturalSize = frame.size() * pixelsPerHundredthMillimetre;
         drawing.frame = QRectF(frame.left() / 100 * units.width(), frame.top() / 100 * units.height(),
                                frame.width() / 100 * units.width(), frame.height() / 100 * units.height());
     } else {
-        drawing.frame = Box(in, 8).normalized();
+        drawing.frame = EmfBox(in, 8).normalized();
     }
     drawing.play = [bytes, units](GdiCanvas& canvas) { EmfPlayer(canvas, units).Play(bytes); };
     return drawing;

@@ -1,25 +1,18 @@
 #include "rtf/metafile/emf_player.h"
 
+#include "rtf/metafile/emf_geometry.h"
+#include "rtf/metafile/gdi_numbers.h"
+
 #include <array>
 
 namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t recordHeaderBytes = 8;
-constexpr quint32 endRecord = 14;
-constexpr quint32 stockObject = 0x80000000;
+constexpr std::size_t emfRecordHeaderBytes = 8;
+/// The bit of an object's number that says it exists without being made.
+constexpr quint32 stockObjectFlag = 0x80000000;
 constexpr std::size_t faceBytes = 64;
-
-QPointF Point(const ByteReader& in, std::size_t at)
-{
-    return {double(in.S32(at)), double(in.S32(at + 4))};
-}
-
-QRectF Box(const ByteReader& in, std::size_t at)
-{
-    return {Point(in, at), Point(in, at + 8)};
-}
 
 QTransform Transform(const ByteReader& in, std::size_t at)
 {
@@ -53,48 +46,48 @@ void EmfPlayer::Play(std::string_view bytes)
 {
     const ByteReader in(bytes);
     std::size_t at = 0;
-    while (canvas_.MayGoOn() && in.Has(at, recordHeaderBytes)) {
-        const quint32 type = in.U32(at);
+    while (canvas_.MayGoOn() && in.Has(at, emfRecordHeaderBytes)) {
+        const auto type = static_cast<EmfRecord>(in.U32(at));
         const std::size_t size = in.U32(at + 4);
-        if (size < recordHeaderBytes || type == endRecord)
+        if (size < emfRecordHeaderBytes || type == EmfRecord::Eof)
             return;
         const ByteReader record(in.Slice(at, size));
         if (!PlayState(type, record) && !PlayMapping(type, record) && !PlayObject(type, record) &&
-            !PlayShape(type, record) && !PlayPoints(type, record) && !PlayPath(type, record))
+            !PlayShape(type, record) && !PlayPoints(type, record) && !PlayPath(type))
             PlayBitmap(type, record);
         at += size;
     }
 }
 
-bool EmfPlayer::PlayState(quint32 type, const ByteReader& in)
+bool EmfPlayer::PlayState(EmfRecord type, const ByteReader& in)
 {
     GdiState& state = canvas_.State();
     switch (type) {
-    case 18:
-        state.isOpaque = in.U32(8) == 2;
+    case EmfRecord::SetBkMode:
+        state.isOpaque = BackgroundMode(in.U32(8)) == BackgroundMode::Opaque;
         return true;
-    case 19:
-        state.fillRule = in.U32(8) == 2 ? Qt::WindingFill : Qt::OddEvenFill;
+    case EmfRecord::SetPolyFillMode:
+        state.fillRule = PolyFillMode(in.U32(8)) == PolyFillMode::Winding ? Qt::WindingFill : Qt::OddEvenFill;
         return true;
-    case 22:
+    case EmfRecord::SetTextAlign:
         state.textAlign = in.S32(8);
         return true;
-    case 24:
+    case EmfRecord::SetTextColor:
         state.textColor = GdiColor(in.U32(8));
         return true;
-    case 25:
+    case EmfRecord::SetBkColor:
         state.backColor = GdiColor(in.U32(8));
         return true;
-    case 30:
-        canvas_.ClipTo(Box(in, 8), true);
+    case EmfRecord::IntersectClipRect:
+        canvas_.ClipTo(EmfBox(in, 8), true);
         return true;
-    case 33:
+    case EmfRecord::SaveDc:
         canvas_.Save();
         return true;
-    case 34:
+    case EmfRecord::RestoreDc:
         canvas_.Restore(in.S32(8));
         return true;
-    case 75:
+    case EmfRecord::ExtSelectClipRgn:
         PlayClip(in);
         return true;
     default:
@@ -104,106 +97,138 @@ bool EmfPlayer::PlayState(quint32 type, const ByteReader& in)
 
 void EmfPlayer::PlayClip(const ByteReader& in)
 {
-    constexpr quint32 combine = 1;
-    constexpr quint32 copy = 5;
     constexpr std::size_t boundsAt = 32;
-    const quint32 mode = in.U32(12);
+    const auto mode = static_cast<RegionMode>(in.U32(12));
     if (in.U32(8) == 0)
         return canvas_.Unclip();
-    if (mode != combine && mode != copy)
+    if (mode != RegionMode::And && mode != RegionMode::Copy)
         return;
     // Regions are in units of the device, whatever the window is.
     const GdiMapping mapping = canvas_.State().mapping;
     canvas_.State().mapping = GdiMapping();
-    canvas_.ClipTo(Box(in, boundsAt), mode == combine);
+    canvas_.ClipTo(EmfBox(in, boundsAt), mode == RegionMode::And);
     canvas_.State().mapping = mapping;
 }
 
-bool EmfPlayer::PlayMapping(quint32 type, const ByteReader& in)
+bool EmfPlayer::PlayMapping(EmfRecord type, const ByteReader& in)
 {
     GdiMapping& mapping = canvas_.State().mapping;
     const QSizeF size(in.S32(8), in.S32(12));
     switch (type) {
-    case 9:
+    case EmfRecord::SetWindowExtEx:
         if (scalesFreely_)
             mapping.windowExtent = size;
         return true;
-    case 10:
-        mapping.windowOrigin = Point(in, 8);
+    case EmfRecord::SetWindowOrgEx:
+        mapping.windowOrigin = EmfPoint(in, 8);
         return true;
-    case 11:
+    case EmfRecord::SetViewportExtEx:
         if (scalesFreely_)
             mapping.viewportExtent = size;
         return true;
-    case 12:
-        mapping.viewportOrigin = Point(in, 8);
+    case EmfRecord::SetViewportOrgEx:
+        mapping.viewportOrigin = EmfPoint(in, 8);
         return true;
-    case 17:
-        SetMapMode(in.U32(8));
+    case EmfRecord::SetMapMode:
+        SetMapMode(static_cast<MapMode>(in.U32(8)));
         return true;
-    case 35:
+    case EmfRecord::SetWorldTransform:
         mapping.world = Transform(in, 8);
         return true;
-    case 36:
-        if (in.U32(32) == 1)
-            mapping.world = QTransform();
-        else if (in.U32(32) == 2)
-            mapping.world = Transform(in, 8) * mapping.world;
-        else if (in.U32(32) == 3)
-            mapping.world = mapping.world * Transform(in, 8);
-        else
-            mapping.world = Transform(in, 8);
+    case EmfRecord::ModifyWorldTransform:
+        ModifyWorldTransform(in);
         return true;
     default:
         return false;
     }
 }
 
-void EmfPlayer::SetMapMode(quint32 mode)
+void EmfPlayer::ModifyWorldTransform(const ByteReader& in)
 {
-    // Units to the millimetre of the fixed modes: tenths and hundredths of a millimetre and of an inch,
-    // twips.
-    constexpr double unitsOfMode[] = {10, 100, 100 / 25.4, 1000 / 25.4, 1440 / 25.4};
-    GdiMapping& mapping = canvas_.State().mapping;
-    scalesFreely_ = mode == 7 || mode == 8;
-    if (mode == 1) {
-        mapping.windowExtent = {1, 1};
-        mapping.viewportExtent = {1, 1};
-    } else if (mode >= 2 && mode <= 6) {
-        const double units = unitsOfMode[mode - 2];
-        mapping.windowExtent = {units, units};
-        // Here y grows upwards.
-        mapping.viewportExtent = {unitsPerMillimetre_.width(), -unitsPerMillimetre_.height()};
+    QTransform& world = canvas_.State().mapping.world;
+    const QTransform change = Transform(in, 8);
+    switch (static_cast<ModifyWorld>(in.U32(32))) {
+    case ModifyWorld::Identity:
+        world = QTransform();
+        break;
+    case ModifyWorld::LeftMultiply:
+        world = change * world;
+        break;
+    case ModifyWorld::RightMultiply:
+        world = world * change;
+        break;
+    default:
+        world = change;
+        break;
     }
 }
 
-bool EmfPlayer::PlayObject(quint32 type, const ByteReader& in)
+void EmfPlayer::SetMapMode(MapMode mode)
+{
+    scalesFreely_ = mode == MapMode::Isotropic || mode == MapMode::Anisotropic;
+    switch (mode) {
+    case MapMode::Text: {
+        GdiMapping& mapping = canvas_.State().mapping;
+        mapping.windowExtent = {1, 1};
+        mapping.viewportExtent = {1, 1};
+        break;
+    }
+    case MapMode::LoMetric:
+        SetUnits(10);
+        break;
+    case MapMode::HiMetric:
+        SetUnits(100);
+        break;
+    case MapMode::LoEnglish:
+        SetUnits(100 / 25.4);
+        break;
+    case MapMode::HiEnglish:
+        SetUnits(1000 / 25.4);
+        break;
+    case MapMode::Twips:
+        SetUnits(1440 / 25.4);
+        break;
+    case MapMode::Isotropic:
+    case MapMode::Anisotropic:
+        break;
+    }
+}
+
+void EmfPlayer::SetUnits(double perMillimetre)
+{
+    GdiMapping& mapping = canvas_.State().mapping;
+    mapping.windowExtent = {perMillimetre, perMillimetre};
+    // In these modes y grows upwards.
+    mapping.viewportExtent = {unitsPerMillimetre_.width(), -unitsPerMillimetre_.height()};
+}
+
+bool EmfPlayer::PlayObject(EmfRecord type, const ByteReader& in)
 {
     const quint32 number = in.U32(8);
     switch (type) {
-    case 37:
-        if ((number & stockObject) != 0)
-            GdiObjects::Select(GdiStockObject(static_cast<int>(number & 0xffU)), canvas_.State());
+    case EmfRecord::SelectObject:
+        if ((number & stockObjectFlag) != 0)
+            GdiObjects::Select(GdiStockObject(static_cast<StockObject>(number & 0xffU)), canvas_.State());
         else
             objects_.Select(number, canvas_.State());
         return true;
-    case 38:
+    case EmfRecord::CreatePen:
         objects_.Put(number, GdiPen(in.S32(12), in.S32(16), in.U32(24)));
         return true;
-    case 95:
+    case EmfRecord::ExtCreatePen:
         objects_.Put(number, GdiPen(in.S32(28), in.U32(32), in.U32(40)));
         return true;
-    case 39:
+    case EmfRecord::CreateBrushIndirect:
         objects_.Put(number, GdiBrush(in.S32(12), in.U32(16), in.S32(20)));
         return true;
-    case 93:
-    case 94:
+    case EmfRecord::CreateMonoBrush:
+    case EmfRecord::CreateDibPatternBrushPt:
         objects_.Put(number, QBrush(Qt::gray));
         return true;
-    case 82:
+    case EmfRecord::ExtCreateFontIndirectW:
         objects_.Put(number, ReadFont(in));
         return true;
-    case 40:
+    case EmfRecord::DeleteObject:
         objects_.Remove(number);
         return true;
     default:
@@ -211,40 +236,40 @@ bool EmfPlayer::PlayObject(quint32 type, const ByteReader& in)
     }
 }
 
-bool EmfPlayer::PlayShape(quint32 type, const ByteReader& in)
+bool EmfPlayer::PlayShape(EmfRecord type, const ByteReader& in)
 {
     switch (type) {
-    case 15:
-        canvas_.Pixel(Point(in, 8), GdiColor(in.U32(16)));
+    case EmfRecord::SetPixelV:
+        canvas_.Pixel(EmfPoint(in, 8), GdiColor(in.U32(16)));
         return true;
-    case 27:
-        canvas_.MoveTo(Point(in, 8));
+    case EmfRecord::MoveToEx:
+        canvas_.MoveTo(EmfPoint(in, 8));
         return true;
-    case 54:
-        canvas_.LineTo(Point(in, 8));
+    case EmfRecord::LineTo:
+        canvas_.LineTo(EmfPoint(in, 8));
         return true;
-    case 42:
-        canvas_.Ellipse(Box(in, 8));
+    case EmfRecord::Ellipse:
+        canvas_.Ellipse(EmfBox(in, 8));
         return true;
-    case 43:
-        canvas_.Rectangle(Box(in, 8));
+    case EmfRecord::Rectangle:
+        canvas_.Rectangle(EmfBox(in, 8));
         return true;
-    case 44:
-        canvas_.RoundedRectangle(Box(in, 8), {double(in.S32(24)), double(in.S32(28))});
+    case EmfRecord::RoundRect:
+        canvas_.RoundedRectangle(EmfBox(in, 8), {double(in.S32(24)), double(in.S32(28))});
         return true;
-    case 45:
-        canvas_.Arc(Box(in, 8), Point(in, 24), Point(in, 32), GdiCanvas::ArcKind::Open);
+    case EmfRecord::Arc:
+        canvas_.Arc(EmfBox(in, 8), EmfPoint(in, 24), EmfPoint(in, 32), GdiCanvas::ArcKind::Open);
         return true;
-    case 46:
-        canvas_.Arc(Box(in, 8), Point(in, 24), Point(in, 32), GdiCanvas::ArcKind::Chord);
+    case EmfRecord::Chord:
+        canvas_.Arc(EmfBox(in, 8), EmfPoint(in, 24), EmfPoint(in, 32), GdiCanvas::ArcKind::Chord);
         return true;
-    case 47:
-        canvas_.Arc(Box(in, 8), Point(in, 24), Point(in, 32), GdiCanvas::ArcKind::Pie);
+    case EmfRecord::Pie:
+        canvas_.Arc(EmfBox(in, 8), EmfPoint(in, 24), EmfPoint(in, 32), GdiCanvas::ArcKind::Pie);
         return true;
-    case 83:
+    case EmfRecord::ExtTextOutA:
         PlayText(in, false);
         return true;
-    case 84:
+    case EmfRecord::ExtTextOutW:
         PlayText(in, true);
         return true;
     default:
@@ -252,26 +277,26 @@ bool EmfPlayer::PlayShape(quint32 type, const ByteReader& in)
     }
 }
 
-bool EmfPlayer::PlayPath(quint32 type, const ByteReader&)
+bool EmfPlayer::PlayPath(EmfRecord type)
 {
     switch (type) {
-    case 59:
+    case EmfRecord::BeginPath:
         canvas_.BeginPath();
         return true;
-    case 60:
-    case 68:
+    case EmfRecord::EndPath:
+    case EmfRecord::AbortPath:
         canvas_.EndPath();
         return true;
-    case 61:
+    case EmfRecord::CloseFigure:
         canvas_.CloseFigure();
         return true;
-    case 62:
+    case EmfRecord::FillPath:
         canvas_.DrawPath(false, true);
         return true;
-    case 63:
+    case EmfRecord::StrokeAndFillPath:
         canvas_.DrawPath(true, true);
         return true;
-    case 64:
+    case EmfRecord::StrokePath:
         canvas_.DrawPath(true, false);
         return true;
     default:

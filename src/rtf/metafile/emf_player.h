@@ -1,7 +1,9 @@
 #pragma once
 
 #include "rtf/bitmap/byte_reader.h"
+#include "rtf/metafile/emf_records.h"
 #include "rtf/metafile/gdi_canvas.h"
+#include "rtf/metafile/gdi_numbers.h"
 #include "rtf/metafile/gdi_objects.h"
 
 #include <string_view>
@@ -19,19 +21,24 @@ public:
     void Play(std::string_view bytes);
 
 private:
-    bool PlayState(quint32 type, const ByteReader& in);
-    bool PlayMapping(quint32 type, const ByteReader& in);
-    bool PlayObject(quint32 type, const ByteReader& in);
-    bool PlayShape(quint32 type, const ByteReader& in);
-    bool PlayPoints(quint32 type, const ByteReader& in);
-    bool PlayPath(quint32 type, const ByteReader& in);
-    bool PlayBitmap(quint32 type, const ByteReader& in);
-    void PlayManyPoints(const ByteReader& in, bool isShort, bool closes);
+    enum class PointSize { Short, Long };
+
+    bool PlayState(EmfRecord type, const ByteReader& in);
+    bool PlayMapping(EmfRecord type, const ByteReader& in);
+    bool PlayObject(EmfRecord type, const ByteReader& in);
+    bool PlayShape(EmfRecord type, const ByteReader& in);
+    bool PlayPoints(EmfRecord type, const ByteReader& in);
+    bool PlayPath(EmfRecord type);
+    bool PlayBitmap(EmfRecord type, const ByteReader& in);
+    void LinesTo(const QPolygonF& points);
+    void PlayManyPoints(const ByteReader& in, PointSize size, bool closes);
     void PlayText(const ByteReader& in, bool isWide);
-    void SetMapMode(quint32 mode);
+    void ModifyWorldTransform(const ByteReader& in);
+    void SetMapMode(MapMode mode);
+    void SetUnits(double perMillimetre);
     void PlayClip(const ByteReader& in);
     void PutBitmap(const ByteReader& in, std::size_t placesAt, const QRect& source, const QRectF& target,
-                   quint32 operation);
+                   RasterOperation operation);
 
     GdiCanvas& canvas_;
     QSizeF unitsPerMillimetre_;

@@ -1,3 +1,4 @@
+#include "rtf/metafile/emf_geometry.h"
 #include "rtf/metafile/emf_player.h"
 
 // The records of enhanced metafiles that draw through many points, in their long and short forms.
@@ -9,54 +10,82 @@ namespace {
 constexpr std::size_t countAt = 24;
 constexpr std::size_t pointsAt = 28;
 
-QPolygonF Points(const ByteReader& in, std::size_t at, std::size_t count, bool isShort)
+QPolygonF EmfPoints(const ByteReader& in, std::size_t at, std::size_t count, bool isShort)
 {
     QPolygonF points;
     const std::size_t step = isShort ? 4 : 8;
     for (std::size_t i = 0; i < count && in.Has(at + i * step, step); ++i) {
         const std::size_t place = at + i * step;
-        points.append(isShort ? QPointF(in.S16(place), in.S16(place + 2))
-                              : QPointF(in.S32(place), in.S32(place + 4)));
+        points.append(isShort ? QPointF(in.S16(place), in.S16(place + 2)) : EmfPoint(in, place));
     }
     return points;
 }
 
 } // namespace
 
-bool EmfPlayer::PlayPoints(quint32 type, const ByteReader& in)
+bool EmfPlayer::PlayPoints(EmfRecord type, const ByteReader& in)
 {
-    const bool isShort = type >= 85;
-    const quint32 longType = isShort ? type - 83 : type;
-    if (longType < 2 || longType > 8 || type > 91)
-        return false;
-    const auto points = [&] { return Points(in, pointsAt, in.U32(countAt), isShort); };
-    switch (longType) {
-    case 2:
-        canvas_.Bezier(points(), false);
-        break;
-    case 3:
-        canvas_.Polygon(points());
-        break;
-    case 4:
-        canvas_.Polyline(points());
-        break;
-    case 5:
-        canvas_.Bezier(points(), true);
-        break;
-    case 6:
-        for (const QPointF& point : points())
-            canvas_.LineTo(point);
-        break;
+    const auto points = [&](PointSize size) {
+        return EmfPoints(in, pointsAt, in.U32(countAt), size == PointSize::Short);
+    };
+    switch (type) {
+    case EmfRecord::PolyBezier:
+        canvas_.Bezier(points(PointSize::Long), false);
+        return true;
+    case EmfRecord::PolyBezier16:
+        canvas_.Bezier(points(PointSize::Short), false);
+        return true;
+    case EmfRecord::Polygon:
+        canvas_.Polygon(points(PointSize::Long));
+        return true;
+    case EmfRecord::Polygon16:
+        canvas_.Polygon(points(PointSize::Short));
+        return true;
+    case EmfRecord::Polyline:
+        canvas_.Polyline(points(PointSize::Long));
+        return true;
+    case EmfRecord::Polyline16:
+        canvas_.Polyline(points(PointSize::Short));
+        return true;
+    case EmfRecord::PolyBezierTo:
+        canvas_.Bezier(points(PointSize::Long), true);
+        return true;
+    case EmfRecord::PolyBezierTo16:
+        canvas_.Bezier(points(PointSize::Short), true);
+        return true;
+    case EmfRecord::PolylineTo:
+        LinesTo(points(PointSize::Long));
+        return true;
+    case EmfRecord::PolylineTo16:
+        LinesTo(points(PointSize::Short));
+        return true;
+    case EmfRecord::PolyPolyline:
+        PlayManyPoints(in, PointSize::Long, false);
+        return true;
+    case EmfRecord::PolyPolyline16:
+        PlayManyPoints(in, PointSize::Short, false);
+        return true;
+    case EmfRecord::PolyPolygon:
+        PlayManyPoints(in, PointSize::Long, true);
+        return true;
+    case EmfRecord::PolyPolygon16:
+        PlayManyPoints(in, PointSize::Short, true);
+        return true;
     default:
-        PlayManyPoints(in, isShort, longType == 8);
-        break;
+        return false;
     }
-    return true;
 }
 
-void EmfPlayer::PlayManyPoints(const ByteReader& in, bool isShort, bool closes)
+void EmfPlayer::LinesTo(const QPolygonF& points)
+{
+    for (const QPointF& point : points)
+        canvas_.LineTo(point);
+}
+
+void EmfPlayer::PlayManyPoints(const ByteReader& in, PointSize size, bool closes)
 {
     constexpr std::size_t countsAt = 32;
+    const bool isShort = size == PointSize::Short;
     const std::size_t count = in.U32(countAt);
     if (!in.Has(countsAt, 4) || count > (in.Size() - countsAt) / 4)
         return;
@@ -64,7 +93,7 @@ void EmfPlayer::PlayManyPoints(const ByteReader& in, bool isShort, bool closes)
     std::vector<QPolygonF> polygons;
     for (std::size_t i = 0; i < count && at < in.Size(); ++i) {
         const std::size_t points = in.U32(countsAt + i * 4);
-        polygons.push_back(Points(in, at, points, isShort));
+        polygons.push_back(EmfPoints(in, at, points, isShort));
         at += points * (isShort ? 4 : 8);
     }
     if (closes)

@@ -10,27 +10,18 @@ namespace torvik::rtf {
 
 namespace {
 
-enum RasterOperation : quint32 {
-    SourceInvert = 0x660046,
-    SourceAnd = 0x8800c6,
-    MergePaint = 0xbb0226,
-    SourceCopy = 0xcc0020,
-    SourcePaint = 0xee0086,
-    NotSourceCopy = 0x330008
-};
-
-QPainter::CompositionMode ModeOf(quint32 operation)
+QPainter::CompositionMode ModeOf(RasterOperation operation)
 {
     switch (operation) {
-    case SourceInvert:
+    case RasterOperation::SourceInvert:
         return QPainter::RasterOp_SourceXorDestination;
-    case SourceAnd:
+    case RasterOperation::SourceAnd:
         return QPainter::RasterOp_SourceAndDestination;
-    case SourcePaint:
+    case RasterOperation::SourcePaint:
         return QPainter::RasterOp_SourceOrDestination;
-    case MergePaint:
+    case RasterOperation::MergePaint:
         return QPainter::RasterOp_NotSourceOrDestination;
-    case NotSourceCopy:
+    case RasterOperation::NotSourceCopy:
         return QPainter::RasterOp_NotSource;
     default:
         return QPainter::CompositionMode_SourceOver;

@@ -17,8 +17,6 @@ constexpr double workAllowed = 4e8;
 constexpr double workOfShape = 500;
 constexpr double workOfPoint = 50;
 
-enum RasterOperation : quint32 { Blackness = 0x000042, PatternCopy = 0xf00021, Whiteness = 0xff0062 };
-
 double AngleOf(const QRectF& rect, const QPointF& towards)
 {
     const QPointF offset = towards - rect.center();
@@ -210,13 +208,13 @@ void GdiCanvas::Arc(const QRectF& rect, const QPointF& from, const QPointF& to, 
     Draw(path, true, kind != ArcKind::Open);
 }
 
-void GdiCanvas::Fill(const QRectF& rect, quint32 operation)
+void GdiCanvas::Fill(const QRectF& rect, RasterOperation operation)
 {
-    if (operation == Blackness)
+    if (operation == RasterOperation::Blackness)
         return FillWith(rect, Qt::black);
-    if (operation == Whiteness)
+    if (operation == RasterOperation::Whiteness)
         return FillWith(rect, Qt::white);
-    if (operation != PatternCopy)
+    if (operation != RasterOperation::PatternCopy)
         return;
     QPainterPath path;
     path.addRect(rect.normalized());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rtf/metafile/gdi_numbers.h"
 #include "rtf/metafile/gdi_state.h"
 
 #include <QImage>
@@ -22,7 +23,7 @@ struct GdiBitmap {
     bool sourceFromBottom = false;
     /// Where it goes, in the drawing's units; sides may be negative, which mirrors it.
     QRectF target;
-    quint32 operation = 0;
+    RasterOperation operation = RasterOperation::SourceCopy;
     /// Already decoded bitmaps come this way.
     QImage image;
 };
@@ -78,7 +79,7 @@ public:
     void Ellipse(const QRectF& rect);
     enum class ArcKind { Open, Chord, Pie };
     void Arc(const QRectF& rect, const QPointF& from, const QPointF& to, ArcKind kind);
-    void Fill(const QRectF& rect, quint32 operation);
+    void Fill(const QRectF& rect, RasterOperation operation);
     void FillWith(const QRectF& rect, const QColor& color);
     void Pixel(const QPointF& at, const QColor& color);
     void Bitmap(const GdiBitmap& bitmap);

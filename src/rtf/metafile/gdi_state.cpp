@@ -59,31 +59,37 @@ QBrush GdiBrush(int style, quint32 color, int hatch)
     }
 }
 
-GdiObject GdiStockObject(int number)
+GdiObject GdiStockObject(StockObject object)
 {
-    switch (number) {
-    case 0:
+    switch (object) {
+    case StockObject::WhiteBrush:
         return QBrush(Qt::white);
-    case 1:
+    case StockObject::LightGrayBrush:
         return QBrush(QColor(192, 192, 192));
-    case 2:
+    case StockObject::GrayBrush:
         return QBrush(QColor(128, 128, 128));
-    case 3:
+    case StockObject::DarkGrayBrush:
         return QBrush(QColor(64, 64, 64));
-    case 4:
+    case StockObject::BlackBrush:
         return QBrush(Qt::black);
-    case 5:
+    case StockObject::NullBrush:
         return QBrush(Qt::NoBrush);
-    case 6:
+    case StockObject::WhitePen:
         return QPen(Qt::white);
-    case 7:
+    case StockObject::BlackPen:
         return QPen(Qt::black);
-    case 8:
+    case StockObject::NullPen:
         return QPen(Qt::NoPen);
-    default:
-        // Fonts and palettes.
-        return number >= 10 && number <= 17 && number != 15 ? GdiObject(GdiFont()) : GdiObject();
+    case StockObject::OemFixedFont:
+    case StockObject::AnsiFixedFont:
+    case StockObject::AnsiVarFont:
+    case StockObject::SystemFont:
+    case StockObject::DeviceDefaultFont:
+    case StockObject::SystemFixedFont:
+    case StockObject::DefaultGuiFont:
+        return GdiFont();
     }
+    return {};
 }
 
 } // namespace torvik::rtf

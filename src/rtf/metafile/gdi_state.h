@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rtf/metafile/gdi_numbers.h"
+
 #include <QBrush>
 #include <QPen>
 #include <QPointF>
@@ -61,7 +63,7 @@ QColor GdiColor(quint32 value);
 /// Pens and brushes by the numbers of their styles.
 QPen GdiPen(int style, double width, quint32 color);
 QBrush GdiBrush(int style, quint32 color, int hatch);
-/// One of the objects that exist without being made; `number` is 0 to 19.
-GdiObject GdiStockObject(int number);
+/// One of the objects that exist without being made; any other number is an object that changes nothing.
+GdiObject GdiStockObject(StockObject object);
 
 } // namespace torvik::rtf

@@ -13,14 +13,14 @@ namespace {
 
 constexpr quint32 placeableKey = 0x9ac6cdd7;
 constexpr std::size_t placeableBytes = 22;
-constexpr std::size_t headerBytes = 18;
+constexpr std::size_t wmfHeaderBytes = 18;
 constexpr quint16 headerWords = 9;
 constexpr int defaultUnitsPerInch = 1440;
 
 bool HasHeader(const ByteReader& in, std::size_t at)
 {
     const quint16 kind = in.U16(at);
-    return in.Has(at, headerBytes) && (kind == 1 || kind == 2) && in.U16(at + 2) == headerWords;
+    return in.Has(at, wmfHeaderBytes) && (kind == 1 || kind == 2) && in.U16(at + 2) == headerWords;
 }
 
 void ReadPlaceable(const ByteReader& in, Drawing& drawing)
@@ -44,9 +44,9 @@ void FindWindow(std::string_view records, Drawing& drawing)
     WmfRecord record;
     while (extent.isEmpty() && walk.Next(record)) {
         const ByteReader in(record.parameters);
-        if (record.function == wmfSetWindowOrigin)
+        if (record.function == WmfFunction::SetWindowOrg)
             origin = {double(in.S16(2)), double(in.S16(0))};
-        else if (record.function == wmfSetWindowExtent)
+        else if (record.function == WmfFunction::SetWindowExt)
             extent = {std::abs(double(in.S16(2))), std::abs(double(in.S16(0)))};
     }
     if (extent.isEmpty())
@@ -66,7 +66,7 @@ Drawing OpenWmf(std::string_view bytes)
         return drawing;
     if (isPlaceable)
         ReadPlaceable(in, drawing);
-    const std::string_view records = in.Slice(start + headerBytes);
+    const std::string_view records = in.Slice(start + wmfHeaderBytes);
     if (drawing.frame.isEmpty())
         FindWindow(records, drawing);
     if (!drawing.frame.isEmpty()) {

@@ -32,19 +32,19 @@ Places ReadPlaces(const ByteReader& in, std::size_t at, bool scales)
 
 } // namespace
 
-bool WmfPlayer::PlayBitmap(quint16 function, const ByteReader& in)
+bool WmfPlayer::PlayBitmap(WmfFunction function, const ByteReader& in)
 {
     switch (function) {
-    case 0x0f43:
+    case WmfFunction::StretchDib:
         PlayDib(in, 6, 22, true);
         return true;
-    case 0x0b41:
+    case WmfFunction::DibStretchBlt:
         PlayDib(in, 4, 20, true);
         return true;
-    case 0x0940:
+    case WmfFunction::DibBitBlt:
         PlayDib(in, 4, 16, false);
         return true;
-    case 0x0d33: {
+    case WmfFunction::SetDibToDev: {
         // The operation is missing here, and two numbers of scan lines stand before the places.
         GdiBitmap bitmap;
         const Places places = ReadPlaces(in, 6, false);
@@ -56,10 +56,10 @@ bool WmfPlayer::PlayBitmap(quint16 function, const ByteReader& in)
         canvas_.Bitmap(bitmap);
         return true;
     }
-    case 0x0b23:
+    case WmfFunction::StretchBlt:
         PlayDeviceBitmap(in, 4, 20, true);
         return true;
-    case 0x0922:
+    case WmfFunction::BitBlt:
         PlayDeviceBitmap(in, 4, 16, false);
         return true;
     default:
@@ -76,7 +76,7 @@ void WmfPlayer::PlayDib(const ByteReader& in, std::size_t sizesAt, std::size_t d
         // Without a bitmap the record fills with the brush, and a number without meaning stands before the
         // size.
         if (!scales && in.Size() <= dibAt + 2)
-            canvas_.Fill(ReadPlaces(in, sizesAt + 2, scales).target, in.U32(0));
+            canvas_.Fill(ReadPlaces(in, sizesAt + 2, scales).target, static_cast<RasterOperation>(in.U32(0)));
         return;
     }
     GdiBitmap bitmap;
@@ -85,7 +85,7 @@ void WmfPlayer::PlayDib(const ByteReader& in, std::size_t sizesAt, std::size_t d
     bitmap.source = places.source;
     bitmap.sourceFromBottom = sizesAt == 6 && !header.topDown;
     bitmap.target = places.target;
-    bitmap.operation = in.U32(0);
+    bitmap.operation = static_cast<RasterOperation>(in.U32(0));
     canvas_.Bitmap(bitmap);
 }
 
@@ -102,7 +102,7 @@ void WmfPlayer::PlayDeviceBitmap(const ByteReader& in, std::size_t sizesAt, std:
     bitmap.image = DecodeDeviceBitmap(stored, mostDeviceBitmapBytes);
     bitmap.source = places.source;
     bitmap.target = places.target;
-    bitmap.operation = in.U32(0);
+    bitmap.operation = static_cast<RasterOperation>(in.U32(0));
     if (!bitmap.image.isNull())
         canvas_.Bitmap(bitmap);
 }

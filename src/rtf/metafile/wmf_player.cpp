@@ -1,23 +1,25 @@
 #include "rtf/metafile/wmf_player.h"
 
+#include "rtf/metafile/gdi_numbers.h"
+
 namespace torvik::rtf {
 
 namespace {
 
-constexpr std::size_t recordHeaderBytes = 6;
+constexpr std::size_t wmfRecordHeaderBytes = 6;
 
-QRectF Box(const ByteReader& in, std::size_t at)
+QRectF WmfBox(const ByteReader& in, std::size_t at)
 {
     // Written from the lower right to the upper left, each as y before x.
     return {QPointF(in.S16(at + 6), in.S16(at + 4)), QPointF(in.S16(at + 2), in.S16(at))};
 }
 
-QPointF Point(const ByteReader& in, std::size_t at)
+QPointF WmfPoint(const ByteReader& in, std::size_t at)
 {
     return {double(in.S16(at + 2)), double(in.S16(at))};
 }
 
-QPolygonF Points(const ByteReader& in, std::size_t at, std::size_t count)
+QPolygonF WmfPoints(const ByteReader& in, std::size_t at, std::size_t count)
 {
     QPolygonF points;
     for (std::size_t i = 0; i < count && in.Has(at + i * 4, 4); ++i)
@@ -36,13 +38,13 @@ QSizeF Scaled(const QSizeF& size, const ByteReader& in)
 
 bool WmfRecords::Next(WmfRecord& record)
 {
-    if (!in_.Has(at_, recordHeaderBytes))
+    if (!in_.Has(at_, wmfRecordHeaderBytes))
         return false;
     const std::size_t bytes = std::size_t(in_.U32(at_)) * 2;
-    record.function = in_.U16(at_ + 4);
-    if (bytes < recordHeaderBytes || record.function == 0)
+    record.function = static_cast<WmfFunction>(in_.U16(at_ + 4));
+    if (bytes < wmfRecordHeaderBytes || record.function == WmfFunction::EndOfFile)
         return false;
-    record.parameters = in_.Slice(at_ + recordHeaderBytes, bytes - recordHeaderBytes);
+    record.parameters = in_.Slice(at_ + wmfRecordHeaderBytes, bytes - wmfRecordHeaderBytes);
     at_ += bytes;
     return true;
 }
@@ -58,42 +60,42 @@ void WmfPlayer::Play(std::string_view records)
 void WmfPlayer::Play(const WmfRecord& record)
 {
     const ByteReader in(record.parameters);
-    const quint16 function = record.function;
+    const WmfFunction function = record.function;
     if (PlayState(function, in) || PlayWindow(function, in) || PlayObject(function, in) ||
         PlayShape(function, in))
         return;
     PlayBitmap(function, in);
 }
 
-bool WmfPlayer::PlayState(quint16 function, const ByteReader& in)
+bool WmfPlayer::PlayState(WmfFunction function, const ByteReader& in)
 {
     GdiState& state = canvas_.State();
     switch (function) {
-    case 0x001e:
+    case WmfFunction::SaveDc:
         canvas_.Save();
         return true;
-    case 0x0127:
+    case WmfFunction::RestoreDc:
         canvas_.Restore(in.S16(0));
         return true;
-    case 0x0102:
-        state.isOpaque = in.U16(0) == 2;
+    case WmfFunction::SetBkMode:
+        state.isOpaque = BackgroundMode(in.U16(0)) == BackgroundMode::Opaque;
         return true;
-    case 0x0106:
-        state.fillRule = in.U16(0) == 2 ? Qt::WindingFill : Qt::OddEvenFill;
+    case WmfFunction::SetPolyFillMode:
+        state.fillRule = PolyFillMode(in.U16(0)) == PolyFillMode::Winding ? Qt::WindingFill : Qt::OddEvenFill;
         return true;
-    case 0x0201:
+    case WmfFunction::SetBkColor:
         state.backColor = GdiColor(in.U32(0));
         return true;
-    case 0x0209:
+    case WmfFunction::SetTextColor:
         state.textColor = GdiColor(in.U32(0));
         return true;
-    case 0x012e:
+    case WmfFunction::SetTextAlign:
         state.textAlign = in.U16(0);
         return true;
-    case 0x0416:
-        canvas_.ClipTo(Box(in, 0), true);
+    case WmfFunction::IntersectClipRect:
+        canvas_.ClipTo(WmfBox(in, 0), true);
         return true;
-    case 0x012c:
+    case WmfFunction::SelectClipRegion:
         // Regions themselves are not drawn with; selecting one at least ends the clipping so far.
         canvas_.Unclip();
         return true;
@@ -102,20 +104,20 @@ bool WmfPlayer::PlayState(quint16 function, const ByteReader& in)
     }
 }
 
-bool WmfPlayer::PlayWindow(quint16 function, const ByteReader& in)
+bool WmfPlayer::PlayWindow(WmfFunction function, const ByteReader& in)
 {
     GdiMapping& mapping = canvas_.State().mapping;
     switch (function) {
-    case wmfSetWindowOrigin:
-        mapping.windowOrigin = Point(in, 0);
+    case WmfFunction::SetWindowOrg:
+        mapping.windowOrigin = WmfPoint(in, 0);
         return true;
-    case wmfSetWindowExtent:
+    case WmfFunction::SetWindowExt:
         mapping.windowExtent = {double(in.S16(2)), double(in.S16(0))};
         return true;
-    case 0x020f:
-        mapping.windowOrigin += Point(in, 0);
+    case WmfFunction::OffsetWindowOrg:
+        mapping.windowOrigin += WmfPoint(in, 0);
         return true;
-    case 0x0410:
+    case WmfFunction::ScaleWindowExt:
         mapping.windowExtent = Scaled(mapping.windowExtent, in);
         return true;
     default:
@@ -123,16 +125,16 @@ bool WmfPlayer::PlayWindow(quint16 function, const ByteReader& in)
     }
 }
 
-bool WmfPlayer::PlayObject(quint16 function, const ByteReader& in)
+bool WmfPlayer::PlayObject(WmfFunction function, const ByteReader& in)
 {
     switch (function) {
-    case 0x02fa:
+    case WmfFunction::CreatePenIndirect:
         objects_.Add(GdiPen(in.U16(0), in.S16(2), in.U32(6)));
         return true;
-    case 0x02fc:
+    case WmfFunction::CreateBrushIndirect:
         objects_.Add(GdiBrush(in.U16(0), in.U32(2), in.U16(6)));
         return true;
-    case 0x02fb: {
+    case WmfFunction::CreateFontIndirect: {
         GdiFont font;
         font.height = in.S16(0);
         font.escapement = in.S16(4);
@@ -147,18 +149,18 @@ bool WmfPlayer::PlayObject(quint16 function, const ByteReader& in)
         objects_.Add(font);
         return true;
     }
-    case 0x01f9:
-    case 0x0142:
+    case WmfFunction::CreatePatternBrush:
+    case WmfFunction::DibCreatePatternBrush:
         objects_.Add(QBrush(Qt::gray));
         return true;
-    case 0x00f7:
-    case 0x06ff:
+    case WmfFunction::CreatePalette:
+    case WmfFunction::CreateRegion:
         objects_.Add(std::monostate());
         return true;
-    case 0x012d:
+    case WmfFunction::SelectObject:
         objects_.Select(in.U16(0), canvas_.State());
         return true;
-    case 0x01f0:
+    case WmfFunction::DeleteObject:
         objects_.Remove(in.U16(0));
         return true;
     default:
@@ -166,52 +168,53 @@ bool WmfPlayer::PlayObject(quint16 function, const ByteReader& in)
     }
 }
 
-bool WmfPlayer::PlayShape(quint16 function, const ByteReader& in)
+bool WmfPlayer::PlayShape(WmfFunction function, const ByteReader& in)
 {
     switch (function) {
-    case 0x0214:
-        canvas_.MoveTo(Point(in, 0));
+    case WmfFunction::MoveTo:
+        canvas_.MoveTo(WmfPoint(in, 0));
         return true;
-    case 0x0213:
-        canvas_.LineTo(Point(in, 0));
+    case WmfFunction::LineTo:
+        canvas_.LineTo(WmfPoint(in, 0));
         return true;
-    case 0x0325:
-        canvas_.Polyline(Points(in, 2, in.U16(0)));
+    case WmfFunction::Polyline:
+        canvas_.Polyline(WmfPoints(in, 2, in.U16(0)));
         return true;
-    case 0x0324:
-        canvas_.Polygon(Points(in, 2, in.U16(0)));
+    case WmfFunction::Polygon:
+        canvas_.Polygon(WmfPoints(in, 2, in.U16(0)));
         return true;
-    case 0x0538:
+    case WmfFunction::PolyPolygon:
         PlayPolyPolygon(in);
         return true;
-    case 0x041b:
-        canvas_.Rectangle(Box(in, 0));
+    case WmfFunction::Rectangle:
+        canvas_.Rectangle(WmfBox(in, 0));
         return true;
-    case 0x061c:
-        canvas_.RoundedRectangle(Box(in, 4), {double(in.S16(2)), double(in.S16(0))});
+    case WmfFunction::RoundRect:
+        canvas_.RoundedRectangle(WmfBox(in, 4), {double(in.S16(2)), double(in.S16(0))});
         return true;
-    case 0x0418:
-        canvas_.Ellipse(Box(in, 0));
+    case WmfFunction::Ellipse:
+        canvas_.Ellipse(WmfBox(in, 0));
         return true;
-    case 0x0817:
-        canvas_.Arc(Box(in, 8), Point(in, 4), Point(in, 0), GdiCanvas::ArcKind::Open);
+    case WmfFunction::Arc:
+        canvas_.Arc(WmfBox(in, 8), WmfPoint(in, 4), WmfPoint(in, 0), GdiCanvas::ArcKind::Open);
         return true;
-    case 0x081a:
-        canvas_.Arc(Box(in, 8), Point(in, 4), Point(in, 0), GdiCanvas::ArcKind::Pie);
+    case WmfFunction::Pie:
+        canvas_.Arc(WmfBox(in, 8), WmfPoint(in, 4), WmfPoint(in, 0), GdiCanvas::ArcKind::Pie);
         return true;
-    case 0x0830:
-        canvas_.Arc(Box(in, 8), Point(in, 4), Point(in, 0), GdiCanvas::ArcKind::Chord);
+    case WmfFunction::Chord:
+        canvas_.Arc(WmfBox(in, 8), WmfPoint(in, 4), WmfPoint(in, 0), GdiCanvas::ArcKind::Chord);
         return true;
-    case 0x041f:
-        canvas_.Pixel(Point(in, 4), GdiColor(in.U32(0)));
+    case WmfFunction::SetPixel:
+        canvas_.Pixel(WmfPoint(in, 4), GdiColor(in.U32(0)));
         return true;
-    case 0x061d:
-        canvas_.Fill({Point(in, 8), QSizeF(in.S16(6), in.S16(4))}, in.U32(0));
+    case WmfFunction::PatBlt:
+        canvas_.Fill({WmfPoint(in, 8), QSizeF(in.S16(6), in.S16(4))},
+                     static_cast<RasterOperation>(in.U32(0)));
         return true;
-    case 0x0521:
+    case WmfFunction::TextOut:
         PlayText(in);
         return true;
-    case 0x0a32:
+    case WmfFunction::ExtTextOut:
         PlayExtendedText(in);
         return true;
     default:
@@ -226,7 +229,7 @@ void WmfPlayer::PlayPolyPolygon(const ByteReader& in)
     std::size_t at = 2 + count * 2;
     for (std::size_t i = 0; i < count && in.Has(at, 4); ++i) {
         const std::size_t points = in.U16(2 + i * 2);
-        polygons.push_back(Points(in, at, points));
+        polygons.push_back(WmfPoints(in, at, points));
         at += points * 4;
     }
     canvas_.PolyPolygon(polygons);

@@ -3,16 +3,14 @@
 #include "rtf/bitmap/byte_reader.h"
 #include "rtf/metafile/gdi_canvas.h"
 #include "rtf/metafile/gdi_objects.h"
+#include "rtf/metafile/wmf_records.h"
 
 #include <string_view>
 
 namespace torvik::rtf {
 
-inline constexpr quint16 wmfSetWindowOrigin = 0x020b;
-inline constexpr quint16 wmfSetWindowExtent = 0x020c;
-
 struct WmfRecord {
-    quint16 function = 0;
+    WmfFunction function = WmfFunction::EndOfFile;
     std::string_view parameters;
 };
 
@@ -36,11 +34,11 @@ public:
 
 private:
     void Play(const WmfRecord& record);
-    bool PlayState(quint16 function, const ByteReader& in);
-    bool PlayWindow(quint16 function, const ByteReader& in);
-    bool PlayObject(quint16 function, const ByteReader& in);
-    bool PlayShape(quint16 function, const ByteReader& in);
-    bool PlayBitmap(quint16 function, const ByteReader& in);
+    bool PlayState(WmfFunction function, const ByteReader& in);
+    bool PlayWindow(WmfFunction function, const ByteReader& in);
+    bool PlayObject(WmfFunction function, const ByteReader& in);
+    bool PlayShape(WmfFunction function, const ByteReader& in);
+    bool PlayBitmap(WmfFunction function, const ByteReader& in);
     void PlayPolyPolygon(const ByteReader& in);
     void PlayText(const ByteReader& in);
     void PlayExtendedText(const ByteReader& in);

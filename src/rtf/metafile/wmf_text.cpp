@@ -6,12 +6,7 @@
 
 namespace torvik::rtf {
 
-namespace {
-
-enum TextOption { OptionOpaque = 2, OptionClipped = 4 };
-constexpr int symbolCharset = 2;
-
-} // namespace
+namespace {} // namespace
 
 void WmfPlayer::PlayText(const ByteReader& in)
 {
@@ -24,12 +19,12 @@ void WmfPlayer::PlayExtendedText(const ByteReader& in)
 {
     const QPointF at(in.S16(2), in.S16(0));
     const std::size_t length = in.U16(4);
-    const int options = in.U16(6);
+    const unsigned options = in.U16(6);
     std::size_t textAt = 8;
-    if ((options & (OptionOpaque | OptionClipped)) != 0) {
+    if ((options & (TextOptionOpaque | TextOptionClipped)) != 0) {
         const QRectF box(QPointF(in.S16(8), in.S16(10)), QPointF(in.S16(12), in.S16(14)));
         textAt += 8;
-        if ((options & OptionOpaque) != 0)
+        if ((options & TextOptionOpaque) != 0)
             canvas_.FillWith(box, canvas_.State().backColor);
     }
     const std::size_t advancesAt = textAt + (length + 1) / 2 * 2;

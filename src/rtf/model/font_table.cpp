@@ -6,8 +6,6 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int symbolCharset = 2;
-
 constexpr const char* charsetSuffixes[] = {" CE",       " CYR",          " Cyr",    " Greek",
                                            " TUR",      " Tur",          " Baltic", " (Hebrew)",
                                            " (Arabic)", " (Vietnamese)", " (Thai)", " (Cyrillic)"};
