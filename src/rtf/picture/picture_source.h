@@ -1,12 +1,8 @@
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
-#include <QSizeF>
 
 namespace torvik::rtf {
-
-class Budget;
 
 enum class PictureKind { Unknown, Png, Jpeg, Dib, DeviceBitmap, Wmf, Emf };
 
@@ -31,21 +27,6 @@ struct PictureSource {
     /// For bitmaps that depend on a device: bits for each pixel and bytes for each line.
     int bitsPerPixel = 1;
     int lineBytes = 0;
-    /// Half a byte that waits for its other half.
-    int halfByte = -1;
-
-    /// Adds bytes that are written as hexadecimal digits; other characters are passed over.
-    void AppendHex(const char* digits, std::size_t count);
 };
-
-struct ShownPicture {
-    QImage image;
-    /// Pixels at 96 to the inch.
-    QSizeF size;
-};
-
-/// Makes the image that a source stands for, cropped, and the size at which it is shown. The image is null
-/// when the bytes are no picture, end early, or would cost more than the document may.
-ShownPicture ShowPicture(const PictureSource& source, Budget& budget);
 
 } // namespace torvik::rtf

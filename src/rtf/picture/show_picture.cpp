@@ -1,10 +1,11 @@
+#include "rtf/picture/show_picture.h"
+
 #include "rtf/bitmap/device_bitmap.h"
 #include "rtf/bitmap/dib.h"
 #include "rtf/bitmap/stored_picture.h"
 #include "rtf/bounds/budget.h"
 #include "rtf/bounds/limits.h"
 #include "rtf/metafile/metafile.h"
-#include "rtf/picture/picture_source.h"
 
 #include <algorithm>
 #include <cmath>

@@ -17,13 +17,13 @@ void SetUnderline(Interpreter& interpreter, const Argument& argument)
 }
 
 template <bool CharacterState::*flag>
-void SetFlag(Interpreter& interpreter, const Argument& argument)
+void SetCharacterFlag(Interpreter& interpreter, const Argument& argument)
 {
     interpreter.Character().*flag = argument.IsOn();
 }
 
 template <int CharacterState::*color>
-void SetColor(Interpreter& interpreter, const Argument& argument)
+void SetCharacterColor(Interpreter& interpreter, const Argument& argument)
 {
     interpreter.Character().*color = argument.value;
 }
@@ -41,15 +41,15 @@ void SetCapitals(Interpreter& interpreter, const Argument& argument)
 }
 
 constexpr WordEntry characterEntries[] = {
-    {"plain", [](Interpreter& r, const Argument&) { r.ResetCharacter(); }},
-    {"cs", [](Interpreter& r, const Argument& a) { r.ApplyCharacterStyle(a.value); }},
-    {"f", [](Interpreter& r, const Argument& a) { r.SetFont(a.value); }},
+    {"plain", [](Interpreter& r, const Argument&) { r.Looks().Reset(); }},
+    {"cs", [](Interpreter& r, const Argument& a) { r.Styles().ApplyToCharacters(a.value); }},
+    {"f", [](Interpreter& r, const Argument& a) { r.Looks().SetFont(a.value); }},
     {"fs", [](Interpreter& r, const Argument& a) { r.Character().size = a.Within(2, largestSize, 24); }},
-    {"b", SetFlag<&CharacterState::bold>},
-    {"i", SetFlag<&CharacterState::italic>},
-    {"strike", SetFlag<&CharacterState::strike>},
-    {"striked", SetFlag<&CharacterState::strike>},
-    {"v", SetFlag<&CharacterState::hidden>},
+    {"b", SetCharacterFlag<&CharacterState::bold>},
+    {"i", SetCharacterFlag<&CharacterState::italic>},
+    {"strike", SetCharacterFlag<&CharacterState::strike>},
+    {"striked", SetCharacterFlag<&CharacterState::strike>},
+    {"v", SetCharacterFlag<&CharacterState::hidden>},
     {"rtlch", [](Interpreter& r, const Argument&) { r.Character().rightToLeft = true; }},
     {"ltrch", [](Interpreter& r, const Argument&) { r.Character().rightToLeft = false; }},
     {"ul", SetUnderline<Underline::Single>},
@@ -70,12 +70,12 @@ constexpr WordEntry characterEntries[] = {
     {"ulhwave", SetUnderline<Underline::Wave>},
     {"ululdbwave", SetUnderline<Underline::Wave>},
     {"ulnone", [](Interpreter& r, const Argument&) { r.Character().underline = Underline::None; }},
-    {"ulc", SetColor<&CharacterState::underlineColor>},
-    {"cf", SetColor<&CharacterState::foreground>},
-    {"cb", SetColor<&CharacterState::background>},
-    {"highlight", SetColor<&CharacterState::background>},
-    {"chcbpat", SetColor<&CharacterState::background>},
-    {"chcfpat", SetColor<&CharacterState::patternColor>},
+    {"ulc", SetCharacterColor<&CharacterState::underlineColor>},
+    {"cf", SetCharacterColor<&CharacterState::foreground>},
+    {"cb", SetCharacterColor<&CharacterState::background>},
+    {"highlight", SetCharacterColor<&CharacterState::background>},
+    {"chcbpat", SetCharacterColor<&CharacterState::background>},
+    {"chcfpat", SetCharacterColor<&CharacterState::patternColor>},
     {"chshdng", [](Interpreter& r, const Argument& a) { r.Character().shading = a.Within(0, 10000); }},
     {"super", SetScript<Script::Super>},
     {"sub", SetScript<Script::Sub>},

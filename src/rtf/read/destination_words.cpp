@@ -20,6 +20,36 @@ void EnterGroup(Interpreter& interpreter, const Argument&)
     interpreter.Enter(destination);
 }
 
+void BeginNote(Interpreter& interpreter, const Argument&)
+{
+    if (!interpreter.Notes().MayBegin())
+        return interpreter.Skip();
+    interpreter.Enter(Destination::Note);
+    interpreter.Notes().Begin();
+}
+
+void BeginPicture(Interpreter& interpreter, const Argument&)
+{
+    interpreter.Enter(Destination::Picture);
+    interpreter.Pictures().Begin();
+}
+
+/// The same picture once more for older readers: wanted only when the better one could not be read.
+void BeginPlainPicture(Interpreter& interpreter, const Argument&)
+{
+    if (interpreter.Pictures().ShapeWasShown())
+        interpreter.Skip();
+    interpreter.Pictures().ForgetShape();
+}
+
+void BeginMark(Interpreter& interpreter, const Argument&)
+{
+    if (!interpreter.Document().IsBody())
+        return interpreter.Skip();
+    interpreter.Enter(Destination::Mark);
+    interpreter.Paragraphs().Mark().clear();
+}
+
 constexpr WordEntry destinationEntries[] = {
     {"fonttbl", EnterGroup<Destination::Fonts>},
     {"colortbl", EnterGroup<Destination::Colors>},
@@ -28,14 +58,14 @@ constexpr WordEntry destinationEntries[] = {
     {"listoverridetable", EnterGroup<Destination::ListOverrides>},
     {"fldinst", EnterGroup<Destination::FieldInstruction>},
     {"bkmkstart", EnterGroup<Destination::Bookmark>},
-    {"field", [](Interpreter& r, const Argument&) { r.BeginField(); }},
-    {"fldrslt", [](Interpreter& r, const Argument&) { r.BeginFieldResult(); }},
-    {"footnote", [](Interpreter& r, const Argument&) { r.BeginNote(); }},
-    {"pict", [](Interpreter& r, const Argument&) { r.BeginPicture(); }},
-    {"shppict", [](Interpreter& r, const Argument&) { r.BeginShapePicture(); }},
-    {"nonshppict", [](Interpreter& r, const Argument&) { r.BeginPlainPicture(); }},
-    {"pntext", [](Interpreter& r, const Argument&) { r.BeginMark(); }},
-    {"listtext", [](Interpreter& r, const Argument&) { r.BeginMark(); }},
+    {"field", [](Interpreter& r, const Argument&) { r.Fields().Begin(); }},
+    {"fldrslt", [](Interpreter& r, const Argument&) { r.Fields().BeginResult(); }},
+    {"footnote", BeginNote},
+    {"pict", BeginPicture},
+    {"shppict", [](Interpreter& r, const Argument&) { r.Pictures().BeginShape(); }},
+    {"nonshppict", BeginPlainPicture},
+    {"pntext", BeginMark},
+    {"listtext", BeginMark},
     {"pn", EnterGroup<Destination::Numbering>},
     // An object is shown by its result, a drawn shape by the picture and the text in it.
     {"object", EnterGroup<Destination::Hidden>},
@@ -45,7 +75,8 @@ constexpr WordEntry destinationEntries[] = {
     // Of two forms of a text the second, in Unicode, is the true one.
     {"upr", [](Interpreter& r, const Argument&) { r.SkipNextGroup(); }},
     {"ud", Nothing},
-    {"nesttableprops", [](Interpreter& r, const Argument&) { r.State().isNestedTableProperties = true; }},
+    {"nesttableprops",
+     [](Interpreter& r, const Argument&) { r.Document().group.isNestedTableProperties = true; }},
     {"nonesttables", SkipGroup},
     {"info", SkipGroup},
     {"header", SkipGroup},

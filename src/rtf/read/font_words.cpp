@@ -1,7 +1,7 @@
 #include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
-// Words of the two tables that name fonts and colours.
+// Words of the table of fonts.
 
 namespace torvik::rtf {
 
@@ -10,31 +10,31 @@ namespace {
 template <QFont::StyleHint hint>
 void SetHint(Interpreter& interpreter, const Argument&)
 {
-    if (FontEntry* font = interpreter.CurrentFont())
+    if (FontEntry* font = interpreter.Fonts().Entry())
         font->hint = hint;
 }
 
 void SetCharset(Interpreter& interpreter, const Argument& argument)
 {
-    FontEntry* font = interpreter.CurrentFont();
+    FontEntry* font = interpreter.Fonts().Entry();
     if (font == nullptr)
         return;
     font->charset = argument.value;
     font->hasCharset = true;
-    interpreter.FontChanged();
+    interpreter.Fonts().TakeCodePage();
 }
 
 void SetCodePage(Interpreter& interpreter, const Argument& argument)
 {
-    FontEntry* font = interpreter.CurrentFont();
+    FontEntry* font = interpreter.Fonts().Entry();
     if (font == nullptr)
         return;
     font->codePage = argument.value;
-    interpreter.FontChanged();
+    interpreter.Fonts().TakeCodePage();
 }
 
 constexpr WordEntry fontEntries[] = {
-    {"f", [](Interpreter& r, const Argument& a) { r.BeginFont(a.value); }},
+    {"f", [](Interpreter& r, const Argument& a) { r.Fonts().BeginEntry(a.value); }},
     {"froman", SetHint<QFont::Serif>},
     {"fswiss", SetHint<QFont::SansSerif>},
     {"fmodern", SetHint<QFont::Monospace>},
@@ -42,21 +42,15 @@ constexpr WordEntry fontEntries[] = {
     {"fdecor", SetHint<QFont::Decorative>},
     {"fprq",
      [](Interpreter& r, const Argument& a) {
-         if (FontEntry* font = r.CurrentFont())
+         if (FontEntry* font = r.Fonts().Entry())
              font->fixedPitch = a.value == 1;
      }},
     {"fcharset", SetCharset},
     {"cpg", SetCodePage},
-    {"falt", [](Interpreter& r, const Argument&) { r.EnterAlternativeFont(); }},
+    {"falt", [](Interpreter& r, const Argument&) { r.Fonts().BeginAlternative(); }},
     {"fname", [](Interpreter& r, const Argument&) { r.Skip(); }},
     {"panose", [](Interpreter& r, const Argument&) { r.Skip(); }},
     {"fontemb", [](Interpreter& r, const Argument&) { r.Skip(); }},
-};
-
-constexpr WordEntry colorEntries[] = {
-    {"red", [](Interpreter& r, const Argument& a) { r.Colors().SetRed(a.value); }},
-    {"green", [](Interpreter& r, const Argument& a) { r.Colors().SetGreen(a.value); }},
-    {"blue", [](Interpreter& r, const Argument& a) { r.Colors().SetBlue(a.value); }},
 };
 
 } // namespace
@@ -64,11 +58,6 @@ constexpr WordEntry colorEntries[] = {
 std::span<const WordEntry> FontWords()
 {
     return fontEntries;
-}
-
-std::span<const WordEntry> ColorWords()
-{
-    return colorEntries;
 }
 
 } // namespace torvik::rtf

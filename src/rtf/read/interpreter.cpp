@@ -5,7 +5,6 @@
 
 #include <QTextDocument>
 
-#include <algorithm>
 #include <utility>
 
 namespace torvik::rtf {
@@ -13,7 +12,6 @@ namespace torvik::rtf {
 namespace {
 
 constexpr int defaultTab = 720;
-constexpr int noFont = -0x7fffffff - 1;
 
 WordScope ScopeOf(Destination destination)
 {
@@ -40,7 +38,7 @@ WordScope ScopeOf(Destination destination)
 
 /// Words that are never taken for the stand-in of a Unicode character: writers that forget the stand-in are
 /// more common than those that use such a word for one.
-bool IsNeverFallback(std::string_view word)
+bool IsNeverStandIn(std::string_view word)
 {
     return word == "u" || word == "uc" || word == "par" || word == "pard" || word == "plain" ||
            word == "cell" || word == "row";
@@ -49,69 +47,63 @@ bool IsNeverFallback(std::string_view word)
 } // namespace
 
 Interpreter::Interpreter(const QByteArray& bytes, QTextDocument& into)
-    : tokens_({bytes.constData(), static_cast<std::size_t>(bytes.size())}), document_(into),
-      budget_(bytes.size()), counter_(lists_),
-      formats_(fonts_, colors_), context_{formats_, pictures_, budget_}, cursor_(&into),
-      body_(context_, cursor_, FlowWriter::Room::Body), flow_(context_, body_)
+    : tokens_({bytes.constData(), static_cast<std::size_t>(bytes.size())}), document_(bytes.size(), into),
+      looks_(document_), borders_(document_), rows_(document_, borders_), fonts_(document_, looks_),
+      fields_(document_), paragraphs_(document_, looks_), notes_(document_, paragraphs_),
+      pictures_(document_, looks_), router_(document_, looks_, fonts_, fields_, paragraphs_),
+      text_(document_, router_), styles_(*this, tokens_)
 {
-    state_.page = &CodePage::Of(documentPage_);
-    SetDefaultTab(defaultTab);
-    // What looks plain must not wait for the table of fonts, so it has none.
-    CharacterState plain;
-    plain.font = noFont;
-    formats_.Character(plain);
-    formats_.Paragraph(state_.paragraph);
+    paragraphs_.SetDefaultTab(defaultTab);
 }
 
 ReadResult Interpreter::Read()
 {
-    cursor_.beginEditBlock();
+    ReadResult result;
+    document_.cursor.beginEditBlock();
     while (!ended_) {
         const Token token = tokens_.Next();
         if (token.kind == TokenKind::End) {
-            result_.wasDamaged = true;
+            result.wasDamaged = true;
             break;
         }
         Handle(token);
     }
     FinishDocument();
-    cursor_.endEditBlock();
-    pictures_.GiveTo(document_);
-    result_.wasRtf = true;
-    result_.wasCut = budget_.Exhausted();
-    result_.paragraphs = context_.paragraphs;
-    result_.tables = context_.tables;
-    return result_;
+    document_.cursor.endEditBlock();
+    document_.pictures.GiveTo(document_.document);
+    result.wasRtf = true;
+    result.wasCut = document_.budget.Exhausted();
+    result.paragraphs = document_.context.paragraphs;
+    result.tables = document_.context.tables;
+    result.pictures = pictures_.Shown();
+    result.lostPictures = pictures_.Lost();
+    return result;
 }
 
 void Interpreter::FinishDocument()
 {
     // A file that ends within a destination leaves nothing to show of it, but the text before it stays.
-    state_.destination = Destination::Body;
-    FlushText();
-    if (flow_.InNote()) {
-        if (!flow_.Draft().IsEmpty())
-            EndParagraph();
-        flow_.EndNote();
-    }
-    if (!flow_.Draft().IsEmpty())
-        EndParagraph();
-    flow_.Finish();
+    document_.group.destination = Destination::Body;
+    text_.Flush();
+    notes_.EndUnfinished();
+    if (!document_.flow.Draft().IsEmpty())
+        paragraphs_.EndParagraph();
+    document_.flow.Finish();
 }
 
 void Interpreter::Handle(const Token& token)
 {
-    if (fallbackLeft_ > 0 && ConsumesFallback(token))
+    if (text_.InStandIn() && IsStandIn(token))
         return;
     switch (token.kind) {
     case TokenKind::Text:
         starPending_ = false;
-        PutBytes(token.text);
+        HandleBytes(token.text);
         break;
     case TokenKind::Hex: {
         const char byte = static_cast<char>(token.value);
         if (token.hasValue)
-            PutBytes({&byte, 1});
+            HandleBytes({&byte, 1});
         break;
     }
     case TokenKind::Word:
@@ -121,8 +113,8 @@ void Interpreter::Handle(const Token& token)
         HandleSymbol(token.symbol);
         break;
     case TokenKind::Binary:
-        if (state_.destination == Destination::Picture)
-            picture_.data.append(token.text.data(), static_cast<qsizetype>(token.text.size()));
+        if (document_.group.destination == Destination::Picture)
+            pictures_.AppendBytes(token.text);
         break;
     case TokenKind::GroupOpen:
         OpenGroup();
@@ -135,14 +127,16 @@ void Interpreter::Handle(const Token& token)
     }
 }
 
-bool Interpreter::ConsumesFallback(const Token& token)
+/// Whether a token stands in for a Unicode character, and is passed over. Bytes are looked at one by one
+/// where they are handled.
+bool Interpreter::IsStandIn(const Token& token)
 {
     switch (token.kind) {
     case TokenKind::Text:
         return false;
     case TokenKind::Word:
-        if (IsNeverFallback(token.text)) {
-            fallbackLeft_ = 0;
+        if (IsNeverStandIn(token.text)) {
+            text_.EndStandIn();
             return false;
         }
         break;
@@ -153,32 +147,31 @@ bool Interpreter::ConsumesFallback(const Token& token)
     case TokenKind::GroupOpen:
     case TokenKind::GroupClose:
     case TokenKind::End:
-        fallbackLeft_ = 0;
+        text_.EndStandIn();
         return false;
     }
-    --fallbackLeft_;
+    text_.PassOneOfStandIn();
     return true;
 }
 
 void Interpreter::HandleStyleWord(const Token& token)
 {
     const bool isOptional = std::exchange(starPending_, false);
-    if (!styles_.Take(token.text, {token.hasValue, token.value}) && isOptional)
+    if (!styles_.Sheet().Take(token.text, {token.hasValue, token.value}) && isOptional)
         Skip();
 }
 
 void Interpreter::HandleWord(const Token& token)
 {
-    if (state_.destination == Destination::Styles)
+    if (document_.group.destination == Destination::Styles)
         return HandleStyleWord(token);
     // The two halves of a character beyond the first plane come as two words.
     if (token.text == "u" || token.text == "uc")
-        FlushBytes();
+        text_.FlushBytes();
     else
-        FlushText();
-    const WordEntry* word = FindWord(ScopeOf(state_.destination), token.text);
-    const bool isOptional = starPending_;
-    starPending_ = false;
+        text_.Flush();
+    const WordEntry* word = FindWord(ScopeOf(document_.group.destination), token.text);
+    const bool isOptional = std::exchange(starPending_, false);
     if (word != nullptr)
         word->apply(*this, {token.hasValue, token.value});
     else if (isOptional)
@@ -192,45 +185,74 @@ void Interpreter::HandleSymbol(char symbol)
         starPending_ = true;
         break;
     case '\n':
-        EndParagraph();
+        // Elsewhere a line end may stand between the two halves of a character.
+        if (document_.IsBody())
+            text_.Flush();
+        paragraphs_.EndParagraph();
         break;
     case '~':
-        PutCharacter(u'\u00a0');
+        text_.PutCharacter(u'\u00a0');
         break;
     case '-':
-        PutCharacter(u'\u00ad');
+        text_.PutCharacter(u'\u00ad');
         break;
     case '_':
-        PutCharacter(u'\u2011');
+        text_.PutCharacter(u'\u2011');
         break;
     case '\\':
     case '{':
     case '}':
-        PutBytes({&symbol, 1});
+        HandleBytes({&symbol, 1});
         break;
     default:
         break;
     }
 }
 
+void Interpreter::HandleBytes(std::string_view bytes)
+{
+    const std::string_view meant = text_.WithoutStandIn(bytes);
+    if (meant.empty())
+        return;
+    text_.FlushHalfCharacter();
+    switch (document_.group.destination) {
+    case Destination::Picture:
+        pictures_.AppendHex(meant);
+        break;
+    case Destination::Colors:
+        for (const char c : meant) {
+            if (c == ';')
+                document_.colors.EndEntry();
+        }
+        break;
+    case Destination::Hidden:
+    case Destination::Styles:
+        break;
+    default:
+        text_.PutBytes(meant);
+        break;
+    }
+}
+
 void Interpreter::OpenGroup()
 {
-    FlushText();
+    text_.Flush();
     starPending_ = false;
     if (groups_.size() >= static_cast<std::size_t>(maxGroupDepth)) {
         ++overflowDepth_;
         return;
     }
-    groups_.push_back(state_);
-    if (state_.destination == Destination::Styles && state_.opensDestination)
-        styles_.BeginEntry();
-    state_.opensDestination = false;
-    state_.opensField = false;
+    GroupState& group = document_.group;
+    groups_.push_back(group);
+    if (group.destination == Destination::Styles && group.opensDestination)
+        styles_.Sheet().BeginEntry();
+    group.opensDestination = false;
+    group.opensField = false;
 }
 
 void Interpreter::CloseGroup()
 {
-    FlushText();
+    text_.Flush();
     starPending_ = false;
     if (overflowDepth_ > 0) {
         --overflowDepth_;
@@ -241,22 +263,58 @@ void Interpreter::CloseGroup()
         ended_ = true;
         return;
     }
-    const GroupState ended = std::move(state_);
-    state_ = std::move(groups_.back());
+    GroupState& group = document_.group;
+    const GroupState ended = std::exchange(group, std::move(groups_.back()));
     groups_.pop_back();
-    if (state_.destination == Destination::Styles && state_.opensDestination)
-        styles_.EndEntry();
+    if (group.destination == Destination::Styles && group.opensDestination)
+        styles_.Sheet().EndEntry();
     if (ended.opensDestination)
         EndDestination(ended);
-    if (ended.opensField)
-        EndField();
+    if (ended.opensField) {
+        const QString character = fields_.End();
+        if (!character.isEmpty())
+            text_.Put(character);
+    }
+}
+
+void Interpreter::EndDestination(const GroupState& ended)
+{
+    switch (ended.destination) {
+    case Destination::Fonts:
+        fonts_.End();
+        break;
+    case Destination::LevelText:
+        if (ListLevel* level = document_.lists.CurrentLevel())
+            level->text = document_.aside;
+        break;
+    case Destination::FieldInstruction:
+        fields_.EndInstruction();
+        break;
+    case Destination::Picture:
+        pictures_.End(ended);
+        break;
+    case Destination::Bookmark:
+        looks_.SetBookmark(document_.formats.AddBookmark(document_.aside.trimmed()));
+        break;
+    case Destination::NumberingBefore:
+    case Destination::NumberingAfter:
+    case Destination::Numbering:
+        // The numbering stays with the paragraph when its group is closed.
+        document_.group.paragraph.numbering = ended.paragraph.numbering;
+        break;
+    case Destination::Note:
+        notes_.End(ended);
+        break;
+    default:
+        break;
+    }
 }
 
 void Interpreter::Enter(Destination destination)
 {
-    state_.destination = destination;
-    state_.opensDestination = true;
-    aside_.clear();
+    document_.group.destination = destination;
+    document_.group.opensDestination = true;
+    document_.aside.clear();
 }
 
 void Interpreter::Skip()
@@ -271,26 +329,6 @@ void Interpreter::SkipNextGroup()
     const Tokenizer here = tokens_;
     if (tokens_.Next().kind != TokenKind::GroupOpen || !tokens_.SkipGroup())
         tokens_ = here;
-}
-
-bool Interpreter::IsBody() const
-{
-    return state_.destination == Destination::Body || state_.destination == Destination::Note;
-}
-
-RowStyle& Interpreter::CurrentRow()
-{
-    return flow_.RowAt(state_.isNestedTableProperties ? std::max(2, state_.paragraph.tableDepth) : 1);
-}
-
-void Interpreter::EndCellDefinition(int rightEdge)
-{
-    RowStyle& row = CurrentRow();
-    cell_.rightEdge = rightEdge;
-    if (row.cells.size() < static_cast<std::size_t>(maxRowCells))
-        row.cells.push_back(cell_);
-    cell_ = CellStyle();
-    SelectBorder(nullptr);
 }
 
 } // namespace torvik::rtf

@@ -11,39 +11,39 @@ namespace {
 template <Alignment alignment>
 void SetAlignment(Interpreter& interpreter, const Argument&)
 {
-    interpreter.ParagraphFormat().alignment = alignment;
+    interpreter.Paragraph().alignment = alignment;
 }
 
 template <int ParagraphState::*length>
 void SetLength(Interpreter& interpreter, const Argument& argument)
 {
-    interpreter.ParagraphFormat().*length = argument.Within(-maxTwips, maxTwips);
+    interpreter.Paragraph().*length = argument.Within(-maxTwips, maxTwips);
 }
 
 /// Spaces are never negative.
 template <int ParagraphState::*space>
 void SetSpace(Interpreter& interpreter, const Argument& argument)
 {
-    interpreter.ParagraphFormat().*space = argument.Within(0, maxTwips);
+    interpreter.Paragraph().*space = argument.Within(0, maxTwips);
 }
 
 template <int ParagraphState::*color>
-void SetColor(Interpreter& interpreter, const Argument& argument)
+void SetParagraphColor(Interpreter& interpreter, const Argument& argument)
 {
-    interpreter.ParagraphFormat().*color = argument.value;
+    interpreter.Paragraph().*color = argument.value;
 }
 
 template <bool ParagraphState::*flag>
-void SetFlag(Interpreter& interpreter, const Argument& argument)
+void SetParagraphFlag(Interpreter& interpreter, const Argument& argument)
 {
-    interpreter.ParagraphFormat().*flag = argument.IsOn();
+    interpreter.Paragraph().*flag = argument.IsOn();
 }
 
 /// The kind comes before the position: it is kept in a stop at no position until then.
 template <QTextOption::TabType type>
 void SetTabType(Interpreter& interpreter, const Argument&)
 {
-    QList<TabStop>& tabs = interpreter.ParagraphFormat().tabs;
+    QList<TabStop>& tabs = interpreter.Paragraph().tabs;
     if (tabs.isEmpty() || tabs.constLast().position != 0)
         tabs.append({0, type});
     else
@@ -52,7 +52,7 @@ void SetTabType(Interpreter& interpreter, const Argument&)
 
 void SetTab(Interpreter& interpreter, const Argument& argument)
 {
-    QList<TabStop>& tabs = interpreter.ParagraphFormat().tabs;
+    QList<TabStop>& tabs = interpreter.Paragraph().tabs;
     const int position = argument.Within(-maxTwips, maxTwips);
     if (!tabs.isEmpty() && tabs.constLast().position == 0)
         tabs.last().position = position;
@@ -63,38 +63,29 @@ void SetTab(Interpreter& interpreter, const Argument& argument)
 template <Side side>
 void SelectSide(Interpreter& interpreter, const Argument&)
 {
-    interpreter.SelectBorder(&interpreter.ParagraphFormat().borders[side]);
+    interpreter.Borders().Choose(interpreter.Paragraph().borders[side]);
 }
 
 template <BorderLine line>
 void SetLine(Interpreter& interpreter, const Argument&)
 {
-    if (Border* border = interpreter.SelectedBorder())
-        border->line = line;
-    else if (interpreter.BoxIsOpen())
-        interpreter.EachBoxBorder([](Border& edge) { edge.line = line; });
+    interpreter.Borders().Change([](Border& border) { border.line = line; });
 }
 
 void SetBorderWidth(Interpreter& interpreter, const Argument& argument)
 {
     const int width = argument.Within(0, 255, 15);
-    if (Border* border = interpreter.SelectedBorder())
-        border->width = width;
-    else if (interpreter.BoxIsOpen())
-        interpreter.EachBoxBorder([&](Border& edge) { edge.width = width; });
+    interpreter.Borders().Change([&](Border& border) { border.width = width; });
 }
 
 void SetBorderColor(Interpreter& interpreter, const Argument& argument)
 {
-    if (Border* border = interpreter.SelectedBorder())
-        border->color = argument.value;
-    else if (interpreter.BoxIsOpen())
-        interpreter.EachBoxBorder([&](Border& edge) { edge.color = argument.value; });
+    interpreter.Borders().Change([&](Border& border) { border.color = argument.value; });
 }
 
 constexpr WordEntry paragraphEntries[] = {
-    {"pard", [](Interpreter& r, const Argument&) { r.ResetParagraph(); }},
-    {"s", [](Interpreter& r, const Argument& a) { r.ApplyParagraphStyle(a.value); }},
+    {"pard", [](Interpreter& r, const Argument&) { r.Styles().ResetParagraph(); }},
+    {"s", [](Interpreter& r, const Argument& a) { r.Styles().ApplyToParagraph(a.value); }},
     {"ql", SetAlignment<Alignment::Left>},
     {"qr", SetAlignment<Alignment::Right>},
     {"qc", SetAlignment<Alignment::Center>},
@@ -110,30 +101,28 @@ constexpr WordEntry paragraphEntries[] = {
     {"sl",
      [](Interpreter& r, const Argument& a) {
          // A thousand is the word processors' way to write "automatic".
-         r.ParagraphFormat().lineSpacing = a.value == 1000 ? 0 : a.Within(-maxTwips, maxTwips);
+         r.Paragraph().lineSpacing = a.value == 1000 ? 0 : a.Within(-maxTwips, maxTwips);
      }},
-    {"slmult", SetFlag<&ParagraphState::lineMultiple>},
-    {"keep", SetFlag<&ParagraphState::keepTogether>},
-    {"pagebb", SetFlag<&ParagraphState::breakBefore>},
-    {"rtlpar", [](Interpreter& r, const Argument&) { r.ParagraphFormat().rightToLeft = true; }},
-    {"ltrpar", [](Interpreter& r, const Argument&) { r.ParagraphFormat().rightToLeft = false; }},
-    {"cbpat", SetColor<&ParagraphState::background>},
-    {"cfpat", SetColor<&ParagraphState::patternColor>},
-    {"shading", [](Interpreter& r, const Argument& a) { r.ParagraphFormat().shading = a.Within(0, 10000); }},
+    {"slmult", SetParagraphFlag<&ParagraphState::lineMultiple>},
+    {"keep", SetParagraphFlag<&ParagraphState::keepTogether>},
+    {"pagebb", SetParagraphFlag<&ParagraphState::breakBefore>},
+    {"rtlpar", [](Interpreter& r, const Argument&) { r.Paragraph().rightToLeft = true; }},
+    {"ltrpar", [](Interpreter& r, const Argument&) { r.Paragraph().rightToLeft = false; }},
+    {"cbpat", SetParagraphColor<&ParagraphState::background>},
+    {"cfpat", SetParagraphColor<&ParagraphState::patternColor>},
+    {"shading", [](Interpreter& r, const Argument& a) { r.Paragraph().shading = a.Within(0, 10000); }},
     {"tx", SetTab},
     {"tqr", SetTabType<QTextOption::RightTab>},
     {"tqc", SetTabType<QTextOption::CenterTab>},
     {"tqdec", SetTabType<QTextOption::DelimiterTab>},
-    {"ls", [](Interpreter& r, const Argument& a) { r.ParagraphFormat().list = a.Within(0, 0x7fffffff); }},
-    {"ilvl",
-     [](Interpreter& r, const Argument& a) {
-         r.ParagraphFormat().listLevel = a.Within(0, ListTable::maxLevels - 1);
-     }},
+    {"ls", [](Interpreter& r, const Argument& a) { r.Paragraph().list = a.Within(0, 0x7fffffff); }},
+    {"ilvl", [](Interpreter& r,
+                const Argument& a) { r.Paragraph().listLevel = a.Within(0, ListTable::maxLevels - 1); }},
     {"brdrt", SelectSide<SideTop>},
     {"brdrl", SelectSide<SideLeft>},
     {"brdrb", SelectSide<SideBottom>},
     {"brdrr", SelectSide<SideRight>},
-    {"box", [](Interpreter& r, const Argument&) { r.OpenBox(); }},
+    {"box", [](Interpreter& r, const Argument&) { r.Borders().ChooseBox(); }},
     {"brdrs", SetLine<BorderLine::Solid>},
     {"brdrsh", SetLine<BorderLine::Solid>},
     {"brdrhair", SetLine<BorderLine::Solid>},

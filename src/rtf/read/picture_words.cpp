@@ -8,29 +8,29 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int largestNumber = 0x7fffffff;
+constexpr int largestPictureNumber = 0x7fffffff;
 
 template <PictureKind kind>
-void SetKind(Interpreter& interpreter, const Argument&)
+void SetPictureKind(Interpreter& interpreter, const Argument&)
 {
-    interpreter.Picture().kind = kind;
+    interpreter.Pictures().Source().kind = kind;
 }
 
 template <int PictureSource::*member, int least, int most>
 void SetNumber(Interpreter& interpreter, const Argument& argument)
 {
-    interpreter.Picture().*member = argument.Within(least, most);
+    interpreter.Pictures().Source().*member = argument.Within(least, most);
 }
 
 constexpr WordEntry pictureEntries[] = {
-    {"pngblip", SetKind<PictureKind::Png>},
-    {"jpegblip", SetKind<PictureKind::Jpeg>},
-    {"dibitmap", SetKind<PictureKind::Dib>},
-    {"wbitmap", SetKind<PictureKind::DeviceBitmap>},
-    {"wmetafile", SetKind<PictureKind::Wmf>},
-    {"emfblip", SetKind<PictureKind::Emf>},
-    {"picw", SetNumber<&PictureSource::width, 0, largestNumber>},
-    {"pich", SetNumber<&PictureSource::height, 0, largestNumber>},
+    {"pngblip", SetPictureKind<PictureKind::Png>},
+    {"jpegblip", SetPictureKind<PictureKind::Jpeg>},
+    {"dibitmap", SetPictureKind<PictureKind::Dib>},
+    {"wbitmap", SetPictureKind<PictureKind::DeviceBitmap>},
+    {"wmetafile", SetPictureKind<PictureKind::Wmf>},
+    {"emfblip", SetPictureKind<PictureKind::Emf>},
+    {"picw", SetNumber<&PictureSource::width, 0, largestPictureNumber>},
+    {"pich", SetNumber<&PictureSource::height, 0, largestPictureNumber>},
     {"picwgoal", SetNumber<&PictureSource::goalWidth, 0, maxTwips>},
     {"pichgoal", SetNumber<&PictureSource::goalHeight, 0, maxTwips>},
     {"picscalex", SetNumber<&PictureSource::scaleX, 1, 10000>},
@@ -40,7 +40,7 @@ constexpr WordEntry pictureEntries[] = {
     {"piccropr", SetNumber<&PictureSource::cropRight, -maxTwips, maxTwips>},
     {"piccropb", SetNumber<&PictureSource::cropBottom, -maxTwips, maxTwips>},
     {"wbmbitspixel", SetNumber<&PictureSource::bitsPerPixel, 1, 32>},
-    {"wbmwidthbytes", SetNumber<&PictureSource::lineBytes, 0, largestNumber>},
+    {"wbmwidthbytes", SetNumber<&PictureSource::lineBytes, 0, largestPictureNumber>},
 };
 
 } // namespace

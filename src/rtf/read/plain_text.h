@@ -1,6 +1,10 @@
 #pragma once
 
-#include "rtf/rtf_reader.h"
+#include "rtf/parts/read_result.h"
+
+#include <QByteArray>
+
+class QTextDocument;
 
 namespace torvik::rtf {
 

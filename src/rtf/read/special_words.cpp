@@ -10,18 +10,18 @@ namespace {
 template <char16_t unit>
 void Put(Interpreter& interpreter, const Argument&)
 {
-    interpreter.PutCharacter(unit);
+    interpreter.Text().PutCharacter(unit);
 }
 
 constexpr char16_t lineSeparator = 0x2028;
 
 constexpr WordEntry specialEntries[] = {
-    {"par", [](Interpreter& r, const Argument&) { r.EndParagraph(); }},
-    {"page", [](Interpreter& r, const Argument&) { r.BreakPage(); }},
-    {"sect", [](Interpreter& r, const Argument&) { r.BreakPage(); }},
-    {"sbknone", [](Interpreter& r, const Argument&) { r.CancelBreak(); }},
-    {"sbkcol", [](Interpreter& r, const Argument&) { r.CancelBreak(); }},
-    {"chftn", [](Interpreter& r, const Argument&) { r.PutNoteReference(); }},
+    {"par", [](Interpreter& r, const Argument&) { r.Paragraphs().EndParagraph(); }},
+    {"page", [](Interpreter& r, const Argument&) { r.Paragraphs().BreakPage(); }},
+    {"sect", [](Interpreter& r, const Argument&) { r.Paragraphs().BreakPage(); }},
+    {"sbknone", [](Interpreter& r, const Argument&) { r.Paragraphs().CancelBreak(); }},
+    {"sbkcol", [](Interpreter& r, const Argument&) { r.Paragraphs().CancelBreak(); }},
+    {"chftn", [](Interpreter& r, const Argument&) { r.Text().Put(r.Notes().Reference()); }},
     {"tab", Put<u'\t'>},
     {"line", Put<lineSeparator>},
     {"lbr", Put<lineSeparator>},

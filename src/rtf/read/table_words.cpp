@@ -11,46 +11,39 @@ namespace {
 template <Side side>
 void SelectCellSide(Interpreter& interpreter, const Argument&)
 {
-    interpreter.SelectBorder(&interpreter.CurrentCell().borders[side]);
+    interpreter.Borders().Choose(interpreter.Rows().Cell().borders[side]);
 }
 
 template <Side side>
 void SelectRowSide(Interpreter& interpreter, const Argument&)
 {
-    interpreter.SelectBorder(&interpreter.CurrentRow().borders[side]);
+    interpreter.Borders().Choose(interpreter.Rows().Row().borders[side]);
 }
 
 template <Merge CellStyle::*direction, Merge merge>
 void SetMerge(Interpreter& interpreter, const Argument&)
 {
-    interpreter.CurrentCell().*direction = merge;
+    interpreter.Rows().Cell().*direction = merge;
 }
 
 template <Alignment alignment>
 void SetRowAlignment(Interpreter& interpreter, const Argument&)
 {
-    interpreter.CurrentRow().alignment = alignment;
-}
-
-void StartRow(Interpreter& interpreter, const Argument&)
-{
-    interpreter.CurrentRow() = RowStyle();
-    interpreter.CurrentCell() = CellStyle();
-    interpreter.SelectBorder(nullptr);
+    interpreter.Rows().Row().alignment = alignment;
 }
 
 template <quint8 alignment>
 void SetVerticalAlignment(Interpreter& interpreter, const Argument&)
 {
-    interpreter.CurrentCell().verticalAlignment = alignment;
+    interpreter.Rows().Cell().verticalAlignment = alignment;
 }
 
 constexpr WordEntry tableEntries[] = {
-    {"trowd", StartRow},
-    {"trgaph", [](Interpreter& r, const Argument& a) { r.CurrentRow().gap = a.Within(0, maxTwips); }},
+    {"trowd", [](Interpreter& r, const Argument&) { r.Rows().Begin(); }},
+    {"trgaph", [](Interpreter& r, const Argument& a) { r.Rows().Row().gap = a.Within(0, maxTwips); }},
     {"trleft",
-     [](Interpreter& r, const Argument& a) { r.CurrentRow().leftEdge = a.Within(-maxTwips, maxTwips); }},
-    {"trhdr", [](Interpreter& r, const Argument&) { r.CurrentRow().isHeader = true; }},
+     [](Interpreter& r, const Argument& a) { r.Rows().Row().leftEdge = a.Within(-maxTwips, maxTwips); }},
+    {"trhdr", [](Interpreter& r, const Argument&) { r.Rows().Row().isHeader = true; }},
     {"trql", SetRowAlignment<Alignment::Start>},
     {"trqc", SetRowAlignment<Alignment::Center>},
     {"trqr", SetRowAlignment<Alignment::Right>},
@@ -58,8 +51,8 @@ constexpr WordEntry tableEntries[] = {
     {"trbrdrl", SelectRowSide<SideLeft>},
     {"trbrdrb", SelectRowSide<SideBottom>},
     {"trbrdrr", SelectRowSide<SideRight>},
-    {"trbrdrh", [](Interpreter& r, const Argument&) { r.SelectBorder(&r.CurrentRow().innerHorizontal); }},
-    {"trbrdrv", [](Interpreter& r, const Argument&) { r.SelectBorder(&r.CurrentRow().innerVertical); }},
+    {"trbrdrh", [](Interpreter& r, const Argument&) { r.Borders().Choose(r.Rows().Row().innerHorizontal); }},
+    {"trbrdrv", [](Interpreter& r, const Argument&) { r.Borders().Choose(r.Rows().Row().innerVertical); }},
     {"clbrdrt", SelectCellSide<SideTop>},
     {"clbrdrl", SelectCellSide<SideLeft>},
     {"clbrdrb", SelectCellSide<SideBottom>},
@@ -71,21 +64,21 @@ constexpr WordEntry tableEntries[] = {
     {"clvertalt", SetVerticalAlignment<0>},
     {"clvertalc", SetVerticalAlignment<1>},
     {"clvertalb", SetVerticalAlignment<2>},
-    {"clcbpat", [](Interpreter& r, const Argument& a) { r.CurrentCell().background = a.value; }},
-    {"clcfpat", [](Interpreter& r, const Argument& a) { r.CurrentCell().patternColor = a.value; }},
-    {"clshdng", [](Interpreter& r, const Argument& a) { r.CurrentCell().shading = a.Within(0, 10000); }},
-    {"cellx", [](Interpreter& r, const Argument& a) { r.EndCellDefinition(a.Within(-maxTwips, maxTwips)); }},
+    {"clcbpat", [](Interpreter& r, const Argument& a) { r.Rows().Cell().background = a.value; }},
+    {"clcfpat", [](Interpreter& r, const Argument& a) { r.Rows().Cell().patternColor = a.value; }},
+    {"clshdng", [](Interpreter& r, const Argument& a) { r.Rows().Cell().shading = a.Within(0, 10000); }},
+    {"cellx", [](Interpreter& r, const Argument& a) { r.Rows().EndCell(a.Within(-maxTwips, maxTwips)); }},
     {"intbl",
      [](Interpreter& r, const Argument&) {
-         int& depth = r.ParagraphFormat().tableDepth;
+         int& depth = r.Paragraph().tableDepth;
          depth = depth > 0 ? depth : 1;
      }},
-    {"itap", [](Interpreter& r,
-                const Argument& a) { r.ParagraphFormat().tableDepth = a.Within(0, maxTableNesting); }},
-    {"cell", [](Interpreter& r, const Argument&) { r.EndCell(false); }},
-    {"row", [](Interpreter& r, const Argument&) { r.EndRow(false); }},
-    {"nestcell", [](Interpreter& r, const Argument&) { r.EndCell(true); }},
-    {"nestrow", [](Interpreter& r, const Argument&) { r.EndRow(true); }},
+    {"itap",
+     [](Interpreter& r, const Argument& a) { r.Paragraph().tableDepth = a.Within(0, maxTableNesting); }},
+    {"cell", [](Interpreter& r, const Argument&) { r.Paragraphs().EndCell(false); }},
+    {"row", [](Interpreter& r, const Argument&) { r.Paragraphs().EndRow(false); }},
+    {"nestcell", [](Interpreter& r, const Argument&) { r.Paragraphs().EndCell(true); }},
+    {"nestrow", [](Interpreter& r, const Argument&) { r.Paragraphs().EndRow(true); }},
 };
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "rtf/read/tokenizer.h"
 
+#include "rtf/charset/hex_digit.h"
+
 #include <algorithm>
 #include <array>
 
@@ -39,17 +41,6 @@ Token SymbolToken(char symbol)
 constexpr std::array<bool, 256> stops = MakeStops();
 
 } // namespace
-
-int HexDigit(char c)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return -1;
-}
 
 Token Tokenizer::Next()
 {

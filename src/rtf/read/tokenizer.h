@@ -36,8 +36,6 @@ public:
     /// Passes over everything up to and including the brace that closes the group the tokenizer stands in.
     /// Returns false when the bytes end first.
     bool SkipGroup();
-    /// The bytes that are not read yet.
-    std::string_view Rest() const { return bytes_.substr(at_); }
 
 private:
     Token ReadEscape();
@@ -47,8 +45,5 @@ private:
     std::string_view bytes_;
     std::size_t at_ = 0;
 };
-
-/// The value of a hexadecimal digit, -1 for any other character.
-int HexDigit(char c);
 
 } // namespace torvik::rtf

@@ -1,6 +1,6 @@
 #include "rtf/bounds/limits.h"
-#include "rtf/rtf_reader.h"
 #include "rtf/write/formats.h"
+#include "rtf/write/keep_together.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -21,8 +21,6 @@ public:
     void EndRow(int depth);
     /// The row definition that table words change; `depth` from 1.
     RowStyle& RowAt(int depth);
-    /// Whether cells of an unfinished row are waiting.
-    bool IsRowOpen() const { return !levels_.empty() && !levels_.front().row.cells.empty(); }
 
     void BeginNote();
     void EndNote();

@@ -1,4 +1,4 @@
-#include "rtf/read/field_instruction.h"
+#include "rtf/parts/field_instruction.h"
 
 #include <QStringList>
 #include <QUrl>
