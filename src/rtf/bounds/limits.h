@@ -8,6 +8,8 @@ namespace torvik::rtf {
 
 /// Groups nested deeper than this are read, but no longer keep formatting of their own.
 inline constexpr int maxGroupDepth = 1000;
+/// Groups that turned out to have no end; after so many no group is looked through for its end in advance.
+inline constexpr int maxUnendingGroups = 32;
 /// Tables within tables; what lies deeper is shown as part of the cell around it.
 inline constexpr int maxTableNesting = 6;
 /// Columns of the grid of one table.
@@ -32,6 +34,8 @@ inline constexpr int maxTwips = 31680;
 
 /// 1 pixel is 15 twips: 1440 twips and 96 pixels to the inch.
 inline constexpr double twipsPerPixel = 15.0;
+/// The unit of metafiles.
+inline constexpr double pixelsPerHundredthMillimetre = 96.0 / 2540.0;
 constexpr double PixelsFromTwips(double twips)
 {
     return twips / twipsPerPixel;

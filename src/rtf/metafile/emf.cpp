@@ -1,6 +1,7 @@
 #include "rtf/metafile/emf.h"
 
 #include "rtf/bitmap/byte_reader.h"
+#include "rtf/bounds/limits.h"
 #include "rtf/metafile/emf_geometry.h"
 #include "rtf/metafile/emf_player.h"
 #include "rtf/metafile/gdi_canvas.h"
@@ -13,7 +14,6 @@ namespace {
 
 constexpr std::size_t emfHeaderBytes = 88;
 constexpr quint32 emfSignature = 0x464d4520;
-constexpr double pixelsPerHundredthMillimetre = 96.0 / 2540.0;
 
 /// Device units in a millimetre; a header without sizes is taken for a screen's.
 QSizeF UnitsPerMillimetre(const ByteReader& in)

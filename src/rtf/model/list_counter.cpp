@@ -9,7 +9,7 @@ namespace {
 // Lists of the older kind have no number of their own.
 constexpr int keyOfNumbering = -1;
 
-int FormatOf(const ParagraphState& paragraph, const ListLevel* level)
+int NumberFormatOf(const ParagraphState& paragraph, const ListLevel* level)
 {
     if (level != nullptr)
         return level->format;
@@ -33,7 +33,7 @@ ListMark ListCounter::MarkOf(const ParagraphState& paragraph, const QString& wri
     numbering_ = isNumbered ? numbering_ + 1 : 0;
     ListMark mark;
     if (!written.trimmed().isEmpty()) {
-        mark = MarkFromText(written, FormatOf(paragraph, level));
+        mark = MarkFromText(written, NumberFormatOf(paragraph, level));
         if (level != nullptr)
             Count(paragraph, values_[lists_.KeyOf(paragraph.list)]);
     } else if (level != nullptr) {

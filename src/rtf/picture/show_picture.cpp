@@ -16,7 +16,6 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr double pixelsPerHundredthMillimetre = 96.0 / 2540.0;
 constexpr double largestShownSide = PixelsFromTwips(maxTwips);
 
 bool IsMetafile(PictureKind kind)
@@ -95,7 +94,7 @@ QImage Cropped(const QImage& image, const Kept& across, const Kept& down)
     return image.copy(QRect(left, top, width, height) & image.rect());
 }
 
-QImage Decoded(const PictureSource& source, QSizeF& size, qint64 mostBytes)
+QImage DecodedPicture(const PictureSource& source, QSizeF& size, qint64 mostBytes)
 {
     const std::string_view bytes = BytesOf(source);
     MetafileImage drawn;
@@ -127,7 +126,7 @@ ShownPicture ShowPicture(const PictureSource& source, Budget& budget)
 {
     QSizeF size = StatedSize(source);
     ShownPicture shown;
-    shown.image = Decoded(source, size, budget.Left() / 2);
+    shown.image = DecodedPicture(source, size, budget.Left() / 2);
     if (shown.image.isNull() || !budget.Take(shown.image.sizeInBytes())) {
         shown.image = QImage();
         return shown;

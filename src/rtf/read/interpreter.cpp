@@ -326,9 +326,15 @@ void Interpreter::Skip()
 
 void Interpreter::SkipNextGroup()
 {
+    // A group without an end is looked through to the end of the file.
+    if (unendingGroups_ >= maxUnendingGroups)
+        return;
     const Tokenizer here = tokens_;
-    if (tokens_.Next().kind != TokenKind::GroupOpen || !tokens_.SkipGroup())
-        tokens_ = here;
+    const bool isGroup = tokens_.Next().kind == TokenKind::GroupOpen;
+    if (isGroup && tokens_.SkipGroup())
+        return;
+    tokens_ = here;
+    unendingGroups_ += isGroup ? 1 : 0;
 }
 
 } // namespace torvik::rtf

@@ -77,6 +77,7 @@ private:
     std::vector<GroupState> groups_;
     /// How many groups are open that are nested too deeply to be kept.
     int overflowDepth_ = 0;
+    int unendingGroups_ = 0;
     bool ended_ = false;
     /// The next word may be passed over with its group by readers that do not know it.
     bool starPending_ = false;

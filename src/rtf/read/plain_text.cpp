@@ -12,7 +12,7 @@ namespace torvik::rtf {
 
 namespace {
 
-QString Decoded(const QByteArray& bytes)
+QString DecodedText(const QByteArray& bytes)
 {
     // A mark of the order of bytes at the start says what the text is.
     const auto marked = QStringConverter::encodingForData(bytes);
@@ -38,7 +38,7 @@ ReadResult ReadPlainText(const QByteArray& bytes, QTextDocument& into)
 {
     ReadResult result;
     result.wasEmpty = bytes.isEmpty();
-    QString text = Decoded(bytes);
+    QString text = DecodedText(bytes);
     text.replace(QLatin1StringView("\r\n"), QLatin1StringView("\n"));
     text.replace(u'\r', u'\n');
     text.replace(QChar(QChar::ParagraphSeparator), u'\n');

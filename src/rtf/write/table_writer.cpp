@@ -16,7 +16,7 @@ namespace {
 constexpr qint64 tableCost = 4000;
 constexpr qint64 cellCost = 400;
 
-QTextTableFormat FormatOf(const Table& table, const TableGrid& grid)
+QTextTableFormat TableFormatOf(const Table& table, const TableGrid& grid)
 {
     const RowStyle& first = table.rows.front().style;
     QTextTableFormat format;
@@ -91,7 +91,7 @@ int WriteTable(WritingContext& context, const QTextCursor& where, const Table& t
     if (!context.budget.Take(tableCost + cellCost * columns * grid.rows))
         return -1;
     QTextCursor cursor(where);
-    QTextTable* written = cursor.insertTable(grid.rows, columns, FormatOf(table, grid));
+    QTextTable* written = cursor.insertTable(grid.rows, columns, TableFormatOf(table, grid));
     for (const GridCell& cell : grid.cells) {
         if (cell.rowSpan > 1 || cell.columnSpan > 1)
             written->mergeCells(cell.row, cell.column, cell.rowSpan, cell.columnSpan);
