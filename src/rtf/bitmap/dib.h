@@ -30,7 +30,7 @@ struct DibHeader {
 /// Reads a header; invalid when the bytes are none, or when its sides or colours are out of bounds.
 DibHeader ReadDibHeader(std::string_view bytes);
 
-/// The image of a bitmap whose header and pixels lie apart. Null when the pixels end early or are none, and
+/// The image of a bitmap whose header and pixels are apart. Null when the pixels end early or are none, and
 /// when the image would take more than `mostBytes` bytes. No other bytes than those given are read.
 QImage DecodeDib(std::string_view header, std::string_view pixels, qint64 mostBytes);
 /// The same for header and pixels in one piece; a file header in front ("BM") is passed over.

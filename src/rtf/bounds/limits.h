@@ -8,9 +8,9 @@ namespace torvik::rtf {
 
 /// Groups nested deeper than this are read, but no longer keep formatting of their own.
 inline constexpr int maxGroupDepth = 1000;
-/// Groups that turned out to have no end; after so many no group is looked through for its end in advance.
+/// Groups that turned out to have no end; after so many, no group is searched for its end in advance.
 inline constexpr int maxUnendingGroups = 32;
-/// Tables within tables; what lies deeper is shown as part of the cell around it.
+/// Tables within tables; what is nested deeper is shown as part of the cell around it.
 inline constexpr int maxTableNesting = 6;
 /// Columns of the grid of one table.
 inline constexpr int maxTableColumns = 64;
@@ -25,7 +25,8 @@ inline constexpr int maxColors = 65536;
 inline constexpr int maxLists = 4000;
 inline constexpr int maxStyles = 4000;
 inline constexpr int maxTabs = 64;
-/// Bytes of a field instruction, a font name, a list mark: all short texts that are gathered aside.
+/// Characters of a field instruction, a font name, a list mark: all short texts that are no part of a
+/// paragraph.
 inline constexpr int maxAsideText = 8192;
 /// Pixels along one side of a picture.
 inline constexpr int maxPictureSide = 32767;

@@ -22,7 +22,7 @@ struct Known {
     Kind kind;
 };
 
-// The names are those of the C library's converter.
+// The names that iconv has for them.
 constexpr Known knownPages[] = {
     {437, "CP437", Kind::SingleByte},
     {850, "CP850", Kind::SingleByte},
@@ -70,7 +70,7 @@ constexpr Charset charsets[] = {
     {204, 1251}, {222, 874},  {238, 1250}, {254, 437},  {255, 850},
 };
 
-/// A conversion of the C library, closed at the end of its life.
+/// A conversion by iconv. It works on texts alone and touches nothing of the machine.
 class Converter {
 public:
     explicit Converter(const char* from) : handle_(iconv_open("UTF-16LE", from)) {}
@@ -82,7 +82,7 @@ public:
     Converter(const Converter&) = delete;
     Converter& operator=(const Converter&) = delete;
 
-    /// The library's sign for a failure is a pointer that was a number.
+    /// iconv reports a failure as the pointer -1.
     bool Usable() const
     {
         return handle_ != reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr)
@@ -90,7 +90,7 @@ public:
 
     void Append(std::string_view bytes, QString& text)
     {
-        // The converter takes a pointer to changeable bytes, but never changes them.
+        // iconv asks for a pointer to writable bytes, but never writes to them.
         char* in = const_cast<char*>(bytes.data());
         std::size_t inLeft = bytes.size();
         char16_t chunk[512];

@@ -56,7 +56,7 @@ char16_t SymbolCharacter(const QString& family, char16_t unit)
     if (unit > 0xff && !isPrivate)
         return unit;
     const auto place = static_cast<char16_t>(unit & 0xff);
-    // The many fonts of ornaments agree in the most usual ones; none of them holds Greek letters.
+    // The many ornament fonts agree on the most common ones; none of them has Greek letters.
     const bool isGreek =
         family.isEmpty() || family.contains(QLatin1StringView("Symbol"), Qt::CaseInsensitive);
     const char16_t found = isGreek ? GreekSymbol(place) : OrnamentSymbol(place);

@@ -8,7 +8,7 @@ namespace torvik::rtf {
 
 class GdiCanvas;
 
-/// A metafile that was opened: how its units lie, and its records, which can be played more than once.
+/// A metafile that was opened: the mapping of its units, and its records, which can be played more than once.
 struct Drawing {
     GdiMapping mapping;
     /// The part of the device that is the picture; empty when the records alone can tell.

@@ -9,7 +9,7 @@ namespace torvik::rtf {
 
 namespace {
 
-/// Where the places of a bitmap's two parts stand in its record.
+/// Where a record holds the offsets of a bitmap's header and pixels.
 constexpr std::size_t placesOfBlt = 84;
 constexpr std::size_t placesOfDibits = 48;
 

@@ -72,7 +72,7 @@ enum class EmfRecord : quint32 {
     AlphaBlend = 114,
 };
 
-/// How the units of a drawing lie on its device.
+/// How the units of a drawing are mapped to its device.
 enum class MapMode : quint32 {
     Text = 1,
     LoMetric = 2,

@@ -37,7 +37,7 @@ QImage DecodeGdiBitmap(const GdiBitmap& bitmap, qint64 mostBytes);
 struct GdiSurvey {
     int shapes = 0;
     int bitmaps = 0;
-    /// Some bitmap is combined with what lies below it.
+    /// Some bitmap is combined with what is below it.
     bool combines = false;
     /// The first bitmap, and its place on the canvas.
     GdiBitmap first;
@@ -51,7 +51,7 @@ struct GdiSurvey {
     double densityY = 0;
 };
 
-/// A coordinate of the canvas, brought in where it lies too far out to be painted in reasonable time.
+/// A coordinate of the canvas, brought in where it is too far out to be painted in reasonable time.
 double Near(double value);
 
 /// The surface that the records of a drawing act upon. Without a painter it only takes stock.

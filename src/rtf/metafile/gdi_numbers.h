@@ -19,7 +19,7 @@ enum class RasterOperation : quint32 {
     Whiteness = 0xff0062,
 };
 
-/// What lies between the letters of a text and the strokes of a hatch.
+/// What is drawn between the letters of a text and the strokes of a hatch.
 enum class BackgroundMode : quint32 { Transparent = 1, Opaque = 2 };
 
 /// What counts as the inside of a polygon that crosses itself.

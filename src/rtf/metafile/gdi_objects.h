@@ -17,7 +17,7 @@ public:
     static void Select(const GdiObject& object, GdiState& state);
 
 private:
-    struct Place { // NOLINT(bugprone-exception-escape): the moves of the toolkit's classes do not throw
+    struct Place { // NOLINT(bugprone-exception-escape): the moves of Qt's classes do not throw
         bool isTaken = false;
         GdiObject object;
     };

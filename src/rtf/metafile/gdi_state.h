@@ -17,7 +17,7 @@ namespace torvik::rtf {
 /// alone.
 struct GdiFont {
     double height = 12;
-    /// Tenths of a degree, against the clock.
+    /// Tenths of a degree, counterclockwise.
     int escapement = 0;
     int weight = 400;
     bool italic = false;
@@ -27,7 +27,7 @@ struct GdiFont {
     QString family;
 };
 
-/// What a drawing can select. Things that change nothing here still take a number.
+/// What a drawing can select. Objects that change nothing here still take up a number.
 using GdiObject = std::variant<std::monostate, QPen, QBrush, GdiFont>;
 
 /// How the drawing's units become those of its device: first the world, then window to viewport.

@@ -14,7 +14,7 @@ namespace {
 
 enum TextAlign { UpdatePosition = 1, AlignRight = 2, AlignCenter = 6, AlignBottom = 8, AlignBaseline = 24 };
 
-/// Letters are so much of the height of their line.
+/// The part of a line's height that its letters take up.
 constexpr double lettersOfLine = 0.83;
 constexpr double workOfCharacter = 4000;
 constexpr double workOfText = 20000;
@@ -56,7 +56,7 @@ void GdiCanvas::Text(const QPointF& at, const QString& text, const std::vector<d
     const QString shown = text.left(longestText);
     ++survey_.shapes;
     const double work = workOfText + workOfCharacter * static_cast<double>(shown.size());
-    // Fonts need the application's windowing side; without it the rest of the drawing is still good.
+    // Fonts need a QGuiApplication; without one the rest of the drawing is still good.
     const bool hasFonts = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
     if (!Note(QRectF(origin, QSizeF(1, 1)), work) || shown.isEmpty() || !hasFonts)
         return;

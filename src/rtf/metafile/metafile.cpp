@@ -12,7 +12,7 @@ namespace torvik::rtf {
 
 namespace {
 
-/// The canvas of the survey is so many units wide and high.
+/// The width and height of the survey's canvas.
 constexpr double surveySide = 1000;
 /// How much finer than the screen a drawing is made, for print and for large displays.
 constexpr double fineness = 2;
@@ -20,7 +20,7 @@ constexpr double mostDrawnPixels = 4e6;
 constexpr double mostBitmapPixels = 16e6;
 constexpr double defaultSide = 300;
 
-/// A bitmap that lies within this of the edges fills the drawing.
+/// A bitmap whose edges are within this of the canvas's fills the drawing.
 constexpr double edgeSlack = surveySide / 50;
 
 bool FillsCanvas(const QRectF& place)
@@ -56,7 +56,7 @@ QSize ImageSize(const GdiSurvey& survey, const QSizeF& shownSize, qint64 mostByt
         return {};
     if (wanted > most)
         size *= std::sqrt(most / wanted);
-    // What is a million times as long as wide is not drawn at its length.
+    // A drawing a million times as long as it is wide is not drawn at full length.
     const QSize rounded = size.boundedTo({maxPictureSide, maxPictureSide}).toSize().expandedTo({1, 1});
     return double(rounded.width()) * rounded.height() * 4 <= double(mostBytes) + 4096 ? rounded : QSize();
 }

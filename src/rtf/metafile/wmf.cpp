@@ -70,7 +70,7 @@ Drawing OpenWmf(std::string_view bytes)
     if (drawing.frame.isEmpty())
         FindWindow(records, drawing);
     if (!drawing.frame.isEmpty()) {
-        // Later windows are scaled onto the room of the first.
+        // Later windows are scaled to the area of the first.
         drawing.mapping.windowOrigin = drawing.frame.topLeft();
         drawing.mapping.windowExtent = drawing.frame.size();
         drawing.mapping.viewportExtent = drawing.frame.size();

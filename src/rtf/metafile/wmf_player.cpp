@@ -96,7 +96,7 @@ bool WmfPlayer::PlayState(WmfFunction function, const ByteReader& in)
         canvas_.ClipTo(WmfBox(in, 0), true);
         return true;
     case WmfFunction::SelectClipRegion:
-        // Regions themselves are not drawn with; selecting one at least ends the clipping so far.
+        // Regions are not supported; selecting one at least ends the clipping that holds.
         canvas_.Unclip();
         return true;
     default:

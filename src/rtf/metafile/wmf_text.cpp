@@ -11,8 +11,8 @@ namespace {} // namespace
 void WmfPlayer::PlayText(const ByteReader& in)
 {
     const std::size_t length = in.U16(0);
-    const std::size_t behind = 2 + (length + 1) / 2 * 2;
-    PutText({double(in.S16(behind + 2)), double(in.S16(behind))}, in.Slice(2, length), {});
+    const std::size_t placeAt = 2 + (length + 1) / 2 * 2;
+    PutText({double(in.S16(placeAt + 2)), double(in.S16(placeAt))}, in.Slice(2, length), {});
 }
 
 void WmfPlayer::PlayExtendedText(const ByteReader& in)

@@ -28,7 +28,8 @@ struct FontEntry {
 /// The fonts of a document by number.
 class FontTable {
 public:
-    /// The entry with a number, made when there is none yet. Beyond the limit of entries all share one.
+    /// The entry with a number, made when there is none yet. Past the limit, all further fonts share one
+    /// entry.
     FontEntry& Define(int number);
     /// nullptr when the document defines no such font.
     const FontEntry* Find(int number) const;

@@ -100,7 +100,7 @@ bool IsCore(QChar c)
     return c.isDigit() || (c.unicode() < 128 && c.isLetter());
 }
 
-/// Finds number and style of the middle of a mark; 0 when it has none that a list can show.
+/// Reads number and style from the middle of a mark; 0 when it has none that a list can show.
 int ReadNumber(const QString& core, int format, Style& style)
 {
     bool isNumber = false;

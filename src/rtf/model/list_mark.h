@@ -30,7 +30,7 @@ QTextListFormat::Style StyleOfNumberFormat(int format);
 /// is known from elsewhere (23 for bullets), -1 when none is.
 ListMark MarkFromText(const QString& written, int format);
 
-/// The mark of a paragraph whose text of the mark was not written: made from the list's definition and the
+/// The mark of a paragraph that comes without the text of its mark: made from the list's definition and the
 /// numbers of its levels, the paragraph's own last. `values` holds `count` numbers.
 ListMark MarkFromLevel(const ListLevel& level, const int* values, int count);
 ListMark MarkFromNumbering(const ParagraphNumbering& numbering, int value);

@@ -12,7 +12,7 @@ struct ListLevel {
     /// 0 decimal, 1 and 2 roman, 3 and 4 letters (upper case, lower case), 23 bullet, 255 nothing.
     int format = 0;
     int startAt = 1;
-    /// What stands before the text: a length, then characters; values below 9 stand for the number of a
+    /// What comes before the text: a length, then characters; values below 9 stand for the number of a
     /// level.
     QString text;
     /// The font of the mark, -1 for that of the text.
@@ -39,7 +39,7 @@ public:
     /// The number by which paragraphs refer to the override that is being read.
     void SetReference(int number);
 
-    /// The definition behind a paragraph's list number and level; nullptr when the document has none.
+    /// The definition for a paragraph's list number and level; nullptr when the document has none.
     const ListLevel* Find(int reference, int level) const;
     /// A key that is the same for all references to one list.
     int KeyOf(int reference) const;

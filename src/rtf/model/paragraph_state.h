@@ -85,7 +85,7 @@ struct ParagraphState {
     ParagraphNumbering numbering;
     /// Number of the style whose looks were taken on, 0 for none.
     int style = 0;
-    /// Depth of table that the paragraph stands in; 0 outside tables.
+    /// How many tables the paragraph is nested in; 0 outside tables.
     int tableDepth = 0;
 
     bool operator==(const ParagraphState&) const = default;

@@ -13,7 +13,7 @@ public:
     void SetDefaultFont(int number);
     /// The code page of text whose font names none.
     void SetCodePage(int number);
-    /// Takes all looks back. Text of a link stays text of a link.
+    /// Resets all looks. The text of a link stays a link.
     void Reset();
 
     /// Keeps the looks for the time when the paragraph's style no longer holds.

@@ -18,7 +18,7 @@ DocumentState::DocumentState(qint64 fileBytes, QTextDocument& into)
       flow(context, body)
 {
     group.page = &CodePage::Of(codePage);
-    // What looks plain must not wait for the table of fonts, so it has none.
+    // The plain format is made before the table of fonts is read, so it names no font.
     CharacterState plain;
     plain.font = noFont;
     formats.Character(plain);

@@ -36,7 +36,7 @@ QStringList Pieces(const QString& instruction)
     return pieces;
 }
 
-/// The piece behind a switch such as \l, empty when the switch is not there.
+/// The piece after a switch such as \l, empty when the switch is not there.
 QString ValueOfSwitch(const QStringList& pieces, QLatin1StringView name)
 {
     const qsizetype at = pieces.indexOf(name);

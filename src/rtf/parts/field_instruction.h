@@ -4,7 +4,7 @@
 
 namespace torvik::rtf {
 
-/// What the instruction of a field asks for, as far as a reader on paper-like pages can do it.
+/// What the instruction of a field asks for, as far as it means anything on a page.
 struct FieldInstruction {
     /// Where a link leads: a web or mail address, or "#name" for a bookmark of the document; empty for no
     /// link.

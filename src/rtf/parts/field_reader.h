@@ -7,7 +7,7 @@
 
 namespace torvik::rtf {
 
-/// Reads fields: an instruction, and the result of it that was last seen. Fields may stand within fields.
+/// Reads fields: an instruction and the result that it last gave. Fields can be nested.
 class FieldReader {
 public:
     explicit FieldReader(DocumentState& document) : document_(document) {}

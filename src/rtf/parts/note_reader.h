@@ -12,7 +12,7 @@ public:
         : document_(document), paragraphs_(paragraphs)
     {}
 
-    /// Notes stand in the text, and never in each other.
+    /// Notes belong to the text, and never to each other.
     bool MayBegin() const;
     void Begin() { document_.flow.BeginNote(); }
     /// Ends the note whose group had the state `ended`.

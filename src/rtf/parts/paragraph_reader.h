@@ -14,7 +14,7 @@ public:
     {}
 
     void EndParagraph();
-    /// `nested` for a table that stands in a cell of another one.
+    /// `nested` for a table in a cell of another one.
     void EndCell(bool nested);
     void EndRow(bool nested);
     void BreakPage();

@@ -22,9 +22,9 @@ public:
     void PutUnicode(int value);
     void PutCharacter(char16_t unit);
     void Put(const QString& text);
-    /// Gives out bytes that wait for their other half.
+    /// Decodes bytes that wait for their other half.
     void FlushBytes();
-    /// Gives out the first half of a character beyond the first plane whose second half does not come.
+    /// Replaces the first half of a surrogate pair whose second half does not come.
     void FlushHalfCharacter();
     void Flush();
 

@@ -38,7 +38,7 @@ bool TextRouter::PutPlainBytes(std::string_view bytes)
         return true;
     Paragraph& draft = document_.flow.Draft();
     page.Decode(bytes, draft.text);
-    if (bytes.size() == 1) // only an escape gives out line ends
+    if (bytes.size() == 1) // only an escape can stand for a line end
         draft.text.back() = Harmless(draft.text.back().unicode());
     draft.CoverTail(looks_.Format());
     return true;

@@ -82,7 +82,7 @@ ReadResult Interpreter::Read()
 
 void Interpreter::FinishDocument()
 {
-    // A file that ends within a destination leaves nothing to show of it, but the text before it stays.
+    // Nothing is shown of a destination that the file ends in, but the text before it stays.
     document_.group.destination = Destination::Body;
     text_.Flush();
     notes_.EndUnfinished();
@@ -326,7 +326,7 @@ void Interpreter::Skip()
 
 void Interpreter::SkipNextGroup()
 {
-    // A group without an end is looked through to the end of the file.
+    // A group without an end is searched to the end of the file.
     if (unendingGroups_ >= maxUnendingGroups)
         return;
     const Tokenizer here = tokens_;

@@ -19,8 +19,8 @@
 
 namespace torvik::rtf {
 
-/// Walks through the tokens and the groups of a document. What the single control words do stands in tables
-/// (see word_table.h): each turns to the part of the reader that it concerns.
+/// Walks through the tokens and the groups of a document. What each control word does is in tables (see
+/// word_table.h): it turns to the part of the reader that it concerns.
 class Interpreter {
 public:
     Interpreter(const QByteArray& bytes, QTextDocument& into);

@@ -39,7 +39,7 @@ void SetParagraphFlag(Interpreter& interpreter, const Argument& argument)
     interpreter.Paragraph().*flag = argument.IsOn();
 }
 
-/// The kind comes before the position: it is kept in a stop at no position until then.
+/// The kind comes before the position: until then it is kept in a stop at position 0.
 template <QTextOption::TabType type>
 void SetTabType(Interpreter& interpreter, const Argument&)
 {

@@ -14,7 +14,7 @@ namespace {
 
 QString DecodedText(const QByteArray& bytes)
 {
-    // A mark of the order of bytes at the start says what the text is.
+    // A byte-order mark at the start says what the text is.
     const auto marked = QStringConverter::encodingForData(bytes);
     QStringDecoder decoder(marked.value_or(QStringConverter::Utf8));
     QString text = decoder.decode(bytes);

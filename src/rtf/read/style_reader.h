@@ -6,12 +6,12 @@
 
 namespace torvik::rtf {
 
-/// Reads the sheet of styles and gives their looks to the text. Word processors mostly spell the looks of a
-/// style out behind its number, and leave out what the text no longer shares with it; then its looks are not
-/// taken from the sheet.
+/// Reads the sheet of styles and gives their looks to the text. Word processors mostly spell out the looks
+/// of a style right after its number, without those that the text does not share with it; then the looks are
+/// not taken from the sheet.
 class StyleReader {
 public:
-    /// `tokens` stand behind the word that is being read.
+    /// `tokens` is right after the word that is being read.
     StyleReader(Interpreter& interpreter, const Tokenizer& tokens)
         : interpreter_(interpreter), tokens_(tokens)
     {}
@@ -19,7 +19,7 @@ public:
     StyleSheet& Sheet() { return sheet_; }
     void ApplyToParagraph(int number);
     void ApplyToCharacters(int number);
-    /// Takes all looks of the paragraph back, and those that its style gave to its characters.
+    /// Resets all looks of the paragraph, and those that its style gave to its characters.
     void ResetParagraph();
 
 private:

@@ -15,7 +15,7 @@ bool IsOf(std::span<const WordEntry> words, const WordEntry* word)
 
 } // namespace
 
-/// Words that take all looks back are none of a style's own, and every item of a list names its list itself.
+/// Words that reset all looks are no part of a style, and every item of a list names its list itself.
 bool IsLook(const WordEntry* word)
 {
     if (word == nullptr)

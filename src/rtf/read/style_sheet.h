@@ -18,7 +18,7 @@ using StyleWords = std::vector<StyleWord>;
 /// Whether a control word is a look that a style can stand for.
 bool IsLook(const WordEntry* word);
 
-/// The styles of a document by their numbers. Their names mean nothing here.
+/// The styles of a document by number; their names are not needed.
 class StyleSheet {
 public:
     void BeginEntry() { entry_ = Entry(); }

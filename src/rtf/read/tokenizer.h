@@ -33,7 +33,7 @@ public:
     explicit Tokenizer(std::string_view bytes) : bytes_(bytes) {}
 
     Token Next();
-    /// Passes over everything up to and including the brace that closes the group the tokenizer stands in.
+    /// Passes over everything up to and including the brace that closes the group that the tokenizer is in.
     /// Returns false when the bytes end first.
     bool SkipGroup();
 

@@ -7,7 +7,7 @@ namespace torvik::rtf {
 
 class Interpreter;
 
-/// The number behind a control word, where there is one.
+/// The number after a control word, if there is one.
 struct Argument {
     bool isGiven = false;
     int value = 0;
@@ -25,10 +25,10 @@ struct WordEntry {
     void (*apply)(Interpreter& interpreter, const Argument& argument);
 };
 
-/// Where control words mean what they mean: the same letters differ from table to table.
+/// Where a control word is read: the same word has different meanings in different tables.
 enum class WordScope { Everywhere, Text, Fonts, Colors, Lists, Picture, Numbering, Count };
 
-// Each table stands in the file of its own name.
+// Each table is in the file of its name.
 std::span<const WordEntry> DocumentWords();
 std::span<const WordEntry> DestinationWords();
 std::span<const WordEntry> CharacterWords();

@@ -98,7 +98,7 @@ void FlowCollector::EndRow(int depth)
     CloseRow(levels_.back(), level);
     if (levels_.back().cells < maxTableCells)
         return;
-    // The table goes on as another one below.
+    // The table continues as another one below it.
     SetDepth(level - 1);
     SetDepth(level);
 }

@@ -7,7 +7,7 @@
 
 namespace torvik::rtf {
 
-/// Gathers paragraphs as the reader ends them: those of the body are written at once, those of cells when
+/// Gathers paragraphs as they end: those of the body are written at once, those of cells when
 /// their table ends, those of footnotes below everything else.
 class FlowCollector {
 public:

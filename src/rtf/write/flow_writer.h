@@ -24,7 +24,7 @@ class FlowWriter {
 public:
     enum class Room { Body, Cell };
 
-    /// The cursor stands in an empty block, which the first paragraph takes over.
+    /// The cursor is in an empty block, which the first paragraph takes over.
     FlowWriter(WritingContext& context, const QTextCursor& cursor, Room room);
 
     /// Bytes that a paragraph costs in a document, by estimate.

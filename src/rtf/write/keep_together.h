@@ -4,7 +4,7 @@
 
 namespace torvik::rtf {
 
-/// True in the block format of a paragraph that is to stand on one page. The toolkit itself knows nothing
+/// True in the block format of a paragraph that is to stand on one page. Qt has nothing
 /// like it: lines that it calls unbreakable are never wrapped.
 inline constexpr int keepTogetherProperty = QTextFormat::UserProperty + 1;
 

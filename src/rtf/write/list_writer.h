@@ -10,8 +10,8 @@
 
 namespace torvik::rtf {
 
-/// Puts paragraphs into the lists of a document. A list here counts from 1 and by one; a paragraph whose
-/// number does not fit so keeps its number as text.
+/// Puts paragraphs into the lists of a document. A list counts from 1 in steps of 1; a paragraph whose
+/// number does not fit that keeps it as text.
 class ListWriter {
 public:
     enum class Place { Outside, Continues, Starts };
@@ -22,7 +22,7 @@ public:
     int IndexOf(const ListMark& mark) const;
     /// Starts a list with the cursor's block.
     void Start(const ListMark& mark, QTextCursor& cursor);
-    /// Something stands between the list so far and what follows.
+    /// Something comes between the list so far and what follows.
     void Interrupt() { previousWasItem_ = false; }
 
 private:

@@ -29,7 +29,7 @@ std::vector<int> EdgesOf(const Row& row)
     return edges;
 }
 
-/// Sorted edges without those that lie close to the one before.
+/// Sorted edges without those that are close to the one before.
 std::vector<int> Thinned(const std::vector<int>& sorted, int tolerance)
 {
     std::vector<int> kept;
@@ -123,7 +123,7 @@ private:
         above_ = std::move(here);
     }
 
-    /// A cell that came from the row above keeps its width.
+    /// A cell that continues one of the row above keeps its width.
     void Widen(int cell, int columns)
     {
         GridCell& widened = grid_.cells[static_cast<std::size_t>(cell)];
@@ -150,7 +150,7 @@ private:
         GridCell& target = grid_.cells[static_cast<std::size_t>(cell)];
         const bool isBlank =
             blocks.size() == 1 && !blocks.front().table && blocks.front().paragraph.IsEmpty();
-        // The empty text of a merged cell adds nothing to the one it belongs to.
+        // The empty text of a merged cell adds nothing to the cell that it is part of.
         if (target.contents.empty() || !isBlank)
             target.contents.push_back(&blocks);
     }
@@ -158,7 +158,7 @@ private:
     const Table& table_;
     TableGrid grid_;
     std::vector<int> edges_;
-    /// For every column the cell that stands in it in the row above, -1 for none.
+    /// For every column the cell of the row above, -1 for none.
     std::vector<int> above_;
 };
 

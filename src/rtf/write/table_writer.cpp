@@ -82,7 +82,7 @@ QTextTableCellFormat CellFormat(const GridCell& cell, const RowStyle& row, const
 
 int WriteTable(WritingContext& context, const QTextCursor& where, const Table& table)
 {
-    // The grid is work too, so it is not made in vain.
+    // Making the grid costs time too, so it is not made for nothing.
     const qint64 least = tableCost + cellCost * static_cast<qint64>(table.rows.size());
     if (table.rows.empty() || context.budget.Left() < least)
         return -1;
@@ -99,7 +99,7 @@ int WriteTable(WritingContext& context, const QTextCursor& where, const Table& t
     for (const GridCell& cell : grid.cells) {
         QTextTableCell place = written->cellAt(cell.row, cell.column);
         const RowStyle& row = table.rows[static_cast<std::size_t>(cell.row)].style;
-        // Spans live in the cell's format, so it is built upon.
+        // The cell's format already holds its spans, so the rest is merged into it.
         QTextCharFormat format = place.format();
         format.merge(CellFormat(cell, row, grid, context.formats.Colors()));
         place.setFormat(format);

@@ -86,9 +86,9 @@ private Q_SLOTS:
         QCOMPARE(whole.Text(), u"a"_s + shown + u"c"_s);
     }
 
-    void groups_without_an_end_are_not_looked_through_again_and_again()
+    void groups_without_an_end_are_not_searched_again_and_again()
     {
-        // Looked through each time, this takes most of an hour.
+        // Searched to the end of the file each time, this takes most of an hour.
         const Reading read = ReadBytes("{\\rtf1 a" + Repeated("{\\upr", 200000) + "b");
         QVERIFY(read.result.wasDamaged);
         QCOMPARE(read.Text(), u"a"_s);
