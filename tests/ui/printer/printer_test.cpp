@@ -1,6 +1,7 @@
 #include "platform/system/print_jobs.h"
 #include "runtime/failure.h"
 #include "support/full_disk.h"
+#include "support/ordinary_user.h"
 #include "support/print_folder.h"
 #include "support/test_class.h"
 #include "ui/pictures/picture.h"
@@ -13,6 +14,9 @@
 #include <QPainter>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -130,14 +134,20 @@ private Q_SLOTS:
 
     void a_folder_that_cannot_be_is_a_printer_error()
     {
-        Printer.PrintTo(u"/proc/nothing/here"_s);
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        Printer.PrintTo(file.fileName() + u"/nothing/here"_s);
         QCOMPARE(ResumeNext([] { Printer.Print(u"lost"_s); }), failure::printerError);
         QVERIFY(!Printer.HasJob());
     }
 
     void a_folder_that_takes_no_file_is_a_printer_error()
     {
-        Printer.PrintTo(u"/proc"_s);
+        const QTemporaryDir closed;
+        QCOMPARE(chmod(qPrintable(closed.path()), 0555), 0);
+        const OrdinaryUser user;
+        QVERIFY(OrdinaryUser::IsOne());
+        Printer.PrintTo(closed.path());
         QCOMPARE(ResumeNext([] { Printer.Print(u"lost"_s); }), failure::printerError);
         QVERIFY(!Printer.HasJob());
     }
