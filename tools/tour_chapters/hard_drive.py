@@ -5,7 +5,7 @@ from support.waiting import wait_until
 
 
 def prepare(program_folder):
-    """A folder in the place of a copy lets the copying stop there with a message, so that it can be looked at."""
+    """A folder in the place of a copy makes the copying stop there with a message, so that a picture can be taken."""
     (program_folder / "Torviks" / "84TOR003.JPG").mkdir(parents=True)
 
 

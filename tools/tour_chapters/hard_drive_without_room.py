@@ -1,4 +1,4 @@
-"""A copy that is asked for where there is no room."""
+"""A copy where there is no room for it."""
 
 from support.program import BOX_TITLE
 

@@ -1,4 +1,4 @@
-"""The movie player, standing and playing, and the panel of sound effects."""
+"""The movie player, waiting and playing, and the panel of sound effects."""
 
 from support.waiting import wait_until
 
@@ -43,7 +43,7 @@ def sound_effects(program):
 
 
 def go_on_to(program, share):
-    """Presses the groove of the position, behind the title card."""
+    """Presses the groove of the position, after the title card."""
     wait_until(lambda: program.find("Play").enabled, "the movie")
     position = program.find("Position")
     program.screen.press_mouse(position.left + position.width * share, position.middle[1])

@@ -1,4 +1,4 @@
-"""The slide show: paused, at work, at its beginning and middle, and what it leaves on the main window."""
+"""The slide show: paused, running, at its beginning and middle, and the photo that it leaves on the main window."""
 
 from support.waiting import wait_until
 
@@ -50,7 +50,7 @@ def main_window_after_the_show(program):
 
 
 def position(program):
-    """What the show says of its place, "5 of 900"; None while it says nothing."""
+    """The place that the show tells, "5 of 900"; None while it tells none."""
     return next((element.name for element in program.elements()
                  if element.window == SHOW_TITLE and " of " in element.name), None)
 
