@@ -1,14 +1,14 @@
-#include "disc_maker.h"
+#include "sample/disc_maker.h"
 
-#include "captions.h"
-#include "in_parallel.h"
-#include "jpeg_file.h"
-#include "movies/cards.h"
-#include "movies/movie_plan.h"
-#include "photographer.h"
-#include "slide_show_art.h"
-#include "sounds/effects.h"
-#include "title_art.h"
+#include "sample/files/in_parallel.h"
+#include "sample/files/jpeg_file.h"
+#include "sample/movies/cards.h"
+#include "sample/movies/movie_plan.h"
+#include "sample/photos/captions.h"
+#include "sample/photos/photographer.h"
+#include "sample/sounds/effects.h"
+#include "sample/titles/slide_show_art.h"
+#include "sample/titles/title_art.h"
 
 #include <QBuffer>
 

@@ -1,7 +1,7 @@
-#include "artwork/art_maker.h"
-#include "disc_maker.h"
-#include "documents/document_plan.h"
-#include "documents/help_file.h"
+#include "sample/artwork/art_maker.h"
+#include "sample/disc_maker.h"
+#include "sample/documents/document_plan.h"
+#include "sample/documents/help_file.h"
 
 #include <QGuiApplication>
 #include <QStringList>

@@ -1,6 +1,6 @@
-#include "ad_art.h"
+#include "sample/artwork/ad_art.h"
 
-#include "ad_layouts.h"
+#include "sample/artwork/ad_layouts.h"
 
 namespace torvik::sample {
 

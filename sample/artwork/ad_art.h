@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ad_plan.h"
+#include "sample/artwork/ad_plan.h"
 
 #include <QImage>
 

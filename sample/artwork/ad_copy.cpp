@@ -1,4 +1,4 @@
-#include "ad_copy.h"
+#include "sample/artwork/ad_copy.h"
 
 #include "sample/documents/engines.h"
 #include "sample/documents/model_years.h"

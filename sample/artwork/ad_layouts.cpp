@@ -1,6 +1,6 @@
-#include "ad_layouts.h"
+#include "sample/artwork/ad_layouts.h"
 
-#include "ad_type.h"
+#include "sample/artwork/ad_type.h"
 
 #include <array>
 

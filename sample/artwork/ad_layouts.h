@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ad_parts.h"
+#include "sample/artwork/ad_parts.h"
 
 namespace torvik::sample {
 

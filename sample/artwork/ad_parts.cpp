@@ -1,15 +1,15 @@
-#include "ad_parts.h"
+#include "sample/artwork/ad_parts.h"
 
-#include "ad_type.h"
-#include "car_drawing.h"
+#include "sample/artwork/ad_type.h"
+#include "sample/artwork/car_drawing.h"
+#include "sample/car/paints.h"
 #include "sample/documents/colour_cards.h"
 #include "sample/documents/engines.h"
 #include "sample/documents/model_years.h"
 #include "sample/documents/options.h"
-#include "sample/film.h"
-#include "sample/paints.h"
-#include "sample/photographer.h"
-#include "sample/tabletop.h"
+#include "sample/photos/photographer.h"
+#include "sample/render/film.h"
+#include "sample/render/tabletop.h"
 
 #include <algorithm>
 #include <stdexcept>

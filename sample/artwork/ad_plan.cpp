@@ -1,6 +1,6 @@
-#include "ad_plan.h"
+#include "sample/artwork/ad_plan.h"
 
-#include "art_plan.h"
+#include "sample/artwork/art_plan.h"
 
 #include <algorithm>
 #include <array>

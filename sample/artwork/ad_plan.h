@@ -1,7 +1,7 @@
 #pragma once
 
-#include "lettering.h"
-#include "sample/photo_plan.h"
+#include "sample/geometry/lettering.h"
+#include "sample/photos/photo_plan.h"
 
 #include <QColor>
 #include <QSize>

@@ -1,4 +1,4 @@
-#include "ad_type.h"
+#include "sample/artwork/ad_type.h"
 
 #include <QTextLayout>
 

@@ -1,12 +1,12 @@
-#include "art_maker.h"
+#include "sample/artwork/art_maker.h"
 
-#include "ad_art.h"
-#include "booklet_art.h"
-#include "clip_art.h"
-#include "emblem_art.h"
-#include "sample/in_parallel.h"
-#include "sample/jpeg_file.h"
-#include "script_art.h"
+#include "sample/artwork/ad_art.h"
+#include "sample/artwork/booklet_art.h"
+#include "sample/artwork/clip_art.h"
+#include "sample/artwork/emblem_art.h"
+#include "sample/artwork/script_art.h"
+#include "sample/files/in_parallel.h"
+#include "sample/files/jpeg_file.h"
 
 #include <QBuffer>
 

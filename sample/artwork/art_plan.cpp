@@ -1,4 +1,4 @@
-#include "art_plan.h"
+#include "sample/artwork/art_plan.h"
 
 #include "sample/documents/model_years.h"
 

@@ -1,9 +1,9 @@
-#include "booklet_art.h"
+#include "sample/artwork/booklet_art.h"
 
-#include "lettering.h"
-#include "pen_script.h"
-#include "relief.h"
-#include "sample/tabletop.h"
+#include "sample/artwork/pen_script.h"
+#include "sample/geometry/lettering.h"
+#include "sample/render/relief.h"
+#include "sample/render/tabletop.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
-#include "car_drawing.h"
+#include "sample/artwork/car_drawing.h"
 
-#include "clip_icon.h"
-#include "sample/car_mesh.h"
+#include "sample/artwork/clip_icon.h"
+#include "sample/car/car_mesh.h"
 
 #include <QPainterPath>
 

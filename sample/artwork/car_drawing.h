@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sample/skin.h"
+#include "sample/car/skin.h"
 
 #include <QPainter>
 

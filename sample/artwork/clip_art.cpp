@@ -1,11 +1,11 @@
-#include "clip_art.h"
+#include "sample/artwork/clip_art.h"
 
-#include "car_drawing.h"
-#include "clip_icon.h"
-#include "lettering.h"
+#include "sample/artwork/car_drawing.h"
+#include "sample/artwork/clip_icon.h"
+#include "sample/car/paints.h"
 #include "sample/documents/text_store.h"
-#include "sample/paints.h"
-#include "sample/tabletop.h"
+#include "sample/geometry/lettering.h"
+#include "sample/render/tabletop.h"
 
 #include <array>
 

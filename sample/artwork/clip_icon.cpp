@@ -1,7 +1,7 @@
-#include "clip_icon.h"
+#include "sample/artwork/clip_icon.h"
 
-#include "lettering.h"
-#include "path_text.h"
+#include "sample/geometry/lettering.h"
+#include "sample/geometry/path_text.h"
 
 #include <QStringList>
 

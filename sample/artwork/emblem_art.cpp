@@ -1,10 +1,10 @@
-#include "emblem_art.h"
+#include "sample/artwork/emblem_art.h"
 
-#include "lettering.h"
-#include "path_text.h"
-#include "relief.h"
-#include "sample/car_shape.h"
-#include "sample/tabletop.h"
+#include "sample/car/car_shape.h"
+#include "sample/geometry/lettering.h"
+#include "sample/geometry/path_text.h"
+#include "sample/render/relief.h"
+#include "sample/render/tabletop.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
-#include "pen_script.h"
+#include "sample/artwork/pen_script.h"
 
-#include "path_text.h"
+#include "sample/geometry/path_text.h"
 
 #include <cmath>
 #include <map>

@@ -1,10 +1,10 @@
-#include "script_art.h"
+#include "sample/artwork/script_art.h"
 
-#include "lettering.h"
-#include "pen_script.h"
-#include "relief.h"
-#include "sample/car_shape.h"
-#include "sample/paints.h"
+#include "sample/artwork/pen_script.h"
+#include "sample/car/car_shape.h"
+#include "sample/car/paints.h"
+#include "sample/geometry/lettering.h"
+#include "sample/render/relief.h"
 
 namespace torvik::sample {
 

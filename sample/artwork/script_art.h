@@ -1,6 +1,6 @@
 #pragma once
 
-#include "art_plan.h"
+#include "sample/artwork/art_plan.h"
 
 #include <QImage>
 

@@ -1,4 +1,4 @@
-#include "article.h"
+#include "sample/documents/article.h"
 
 namespace torvik::sample {
 

@@ -1,7 +1,7 @@
-#include "article_source.h"
+#include "sample/documents/article_source.h"
 
-#include "drawings.h"
-#include "text_store.h"
+#include "sample/documents/drawings.h"
+#include "sample/documents/text_store.h"
 
 #include <QRegularExpression>
 #include <QStringList>

@@ -1,6 +1,6 @@
-#include "colour_cards.h"
+#include "sample/documents/colour_cards.h"
 
-#include "sample/paints.h"
+#include "sample/car/paints.h"
 
 #include <algorithm>
 #include <array>

@@ -1,12 +1,12 @@
-#include "document_plan.h"
+#include "sample/documents/document_plan.h"
 
-#include "article_source.h"
-#include "library_statistics.h"
-#include "model_years.h"
-#include "rich_writer.h"
-#include "sample/jpeg_file.h"
-#include "text_store.h"
-#include "year_articles.h"
+#include "sample/documents/article_source.h"
+#include "sample/documents/library_statistics.h"
+#include "sample/documents/model_years.h"
+#include "sample/documents/text_store.h"
+#include "sample/documents/year_articles.h"
+#include "sample/files/jpeg_file.h"
+#include "sample/files/rich_writer.h"
 
 #include <algorithm>
 #include <array>

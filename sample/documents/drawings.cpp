@@ -1,7 +1,7 @@
-#include "drawings.h"
+#include "sample/documents/drawings.h"
 
-#include "sample/car_shape.h"
-#include "sample/paints.h"
+#include "sample/car/car_shape.h"
+#include "sample/car/paints.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,4 +1,4 @@
-#include "engines.h"
+#include "sample/documents/engines.h"
 
 #include <cmath>
 

@@ -1,9 +1,9 @@
-#include "help_file.h"
+#include "sample/documents/help_file.h"
 
-#include "article_source.h"
-#include "rich_writer.h"
-#include "sample/jpeg_file.h"
-#include "text_store.h"
+#include "sample/documents/article_source.h"
+#include "sample/documents/text_store.h"
+#include "sample/files/jpeg_file.h"
+#include "sample/files/rich_writer.h"
 
 namespace torvik::sample {
 

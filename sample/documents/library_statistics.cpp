@@ -1,10 +1,10 @@
-#include "library_statistics.h"
+#include "sample/documents/library_statistics.h"
 
-#include "article.h"
-#include "engines.h"
-#include "model_years.h"
-#include "options.h"
-#include "sample/car_shape.h"
+#include "sample/car/car_shape.h"
+#include "sample/documents/article.h"
+#include "sample/documents/engines.h"
+#include "sample/documents/model_years.h"
+#include "sample/documents/options.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "model_years.h"
+#include "sample/documents/model_years.h"
 
-#include "sample/car_shape.h"
+#include "sample/car/car_shape.h"
 
 #include <array>
 #include <cmath>

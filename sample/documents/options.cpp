@@ -1,6 +1,6 @@
-#include "options.h"
+#include "sample/documents/options.h"
 
-#include "model_years.h"
+#include "sample/documents/model_years.h"
 
 #include <array>
 

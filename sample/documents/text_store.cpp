@@ -1,4 +1,4 @@
-#include "text_store.h"
+#include "sample/documents/text_store.h"
 
 #include <QFile>
 #include <QStringList>

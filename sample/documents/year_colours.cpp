@@ -1,8 +1,8 @@
-#include "article.h"
-#include "colour_cards.h"
-#include "options.h"
-#include "year_articles.h"
-#include "year_style.h"
+#include "sample/documents/article.h"
+#include "sample/documents/colour_cards.h"
+#include "sample/documents/options.h"
+#include "sample/documents/year_articles.h"
+#include "sample/documents/year_style.h"
 
 #include <algorithm>
 

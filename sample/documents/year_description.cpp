@@ -1,12 +1,12 @@
-#include "article_source.h"
-#include "drawings.h"
-#include "engines.h"
-#include "model_years.h"
-#include "options.h"
-#include "sample/car_shape.h"
-#include "text_store.h"
-#include "year_articles.h"
-#include "year_style.h"
+#include "sample/car/car_shape.h"
+#include "sample/documents/article_source.h"
+#include "sample/documents/drawings.h"
+#include "sample/documents/engines.h"
+#include "sample/documents/model_years.h"
+#include "sample/documents/options.h"
+#include "sample/documents/text_store.h"
+#include "sample/documents/year_articles.h"
+#include "sample/documents/year_style.h"
 
 namespace torvik::sample {
 

@@ -1,9 +1,9 @@
-#include "article_source.h"
-#include "model_years.h"
-#include "options.h"
-#include "text_store.h"
-#include "year_articles.h"
-#include "year_style.h"
+#include "sample/documents/article_source.h"
+#include "sample/documents/model_years.h"
+#include "sample/documents/options.h"
+#include "sample/documents/text_store.h"
+#include "sample/documents/year_articles.h"
+#include "sample/documents/year_style.h"
 
 #include <cmath>
 

@@ -1,10 +1,10 @@
-#include "article.h"
-#include "engines.h"
-#include "model_years.h"
-#include "options.h"
-#include "text_store.h"
-#include "year_articles.h"
-#include "year_style.h"
+#include "sample/documents/article.h"
+#include "sample/documents/engines.h"
+#include "sample/documents/model_years.h"
+#include "sample/documents/options.h"
+#include "sample/documents/text_store.h"
+#include "sample/documents/year_articles.h"
+#include "sample/documents/year_style.h"
 
 namespace torvik::sample {
 

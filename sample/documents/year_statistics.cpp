@@ -1,9 +1,9 @@
-#include "article.h"
-#include "engines.h"
-#include "model_years.h"
-#include "options.h"
-#include "year_articles.h"
-#include "year_style.h"
+#include "sample/documents/article.h"
+#include "sample/documents/engines.h"
+#include "sample/documents/model_years.h"
+#include "sample/documents/options.h"
+#include "sample/documents/year_articles.h"
+#include "sample/documents/year_style.h"
 
 namespace torvik::sample {
 

@@ -1,6 +1,6 @@
-#include "year_style.h"
+#include "sample/documents/year_style.h"
 
-#include "sample/car_shape.h"
+#include "sample/car/car_shape.h"
 
 #include <array>
 

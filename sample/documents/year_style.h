@@ -1,6 +1,6 @@
 #pragma once
 
-#include "article.h"
+#include "sample/documents/article.h"
 
 namespace torvik::sample {
 

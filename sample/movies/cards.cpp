@@ -1,8 +1,8 @@
-#include "cards.h"
+#include "sample/movies/cards.h"
 
-#include "../photographer.h"
-#include "../vec.h"
-#include "stage.h"
+#include "sample/geometry/vec.h"
+#include "sample/movies/stage.h"
+#include "sample/photos/photographer.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,8 +1,8 @@
-#include "../in_parallel.h"
-#include "../jpeg_file.h"
-#include "../sounds/wave_file.h"
-#include "avi_file.h"
-#include "movie_plan.h"
+#include "sample/files/avi_file.h"
+#include "sample/files/in_parallel.h"
+#include "sample/files/jpeg_file.h"
+#include "sample/movies/movie_plan.h"
+#include "sample/sounds/wave_file.h"
 
 #include <cmath>
 

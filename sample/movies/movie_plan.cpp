@@ -1,4 +1,4 @@
-#include "movie_plan.h"
+#include "sample/movies/movie_plan.h"
 
 namespace torvik::sample {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "../curve.h"
-#include "../sounds/sound.h"
-#include "cards.h"
-#include "stage.h"
+#include "sample/geometry/curve.h"
+#include "sample/movies/cards.h"
+#include "sample/movies/stage.h"
+#include "sample/sounds/sound.h"
 
 #include <functional>
 #include <memory>

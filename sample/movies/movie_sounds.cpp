@@ -1,9 +1,9 @@
-#include "../sounds/engine.h"
-#include "../sounds/filters.h"
-#include "../sounds/motion.h"
-#include "../sounds/road.h"
-#include "../vec.h"
-#include "movie_plan.h"
+#include "sample/geometry/vec.h"
+#include "sample/movies/movie_plan.h"
+#include "sample/sounds/engine.h"
+#include "sample/sounds/filters.h"
+#include "sample/sounds/motion.h"
+#include "sample/sounds/road.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
-#include "stage.h"
+#include "sample/movies/stage.h"
 
-#include "../car_mesh.h"
-#include "../night_lights.h"
+#include "sample/car/car_mesh.h"
+#include "sample/render/night_lights.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../paints.h"
-#include "../renderer.h"
-#include "../scenery.h"
+#include "sample/car/paints.h"
+#include "sample/render/renderer.h"
+#include "sample/scenery/scenery.h"
 
 namespace torvik::sample {
 

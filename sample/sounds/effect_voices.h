@@ -1,6 +1,6 @@
 #pragma once
 
-#include "motion.h"
+#include "sample/sounds/motion.h"
 
 namespace torvik::sample {
 

@@ -1,6 +1,6 @@
-#include "effects.h"
+#include "sample/sounds/effects.h"
 
-#include "effect_voices.h"
+#include "sample/sounds/effect_voices.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "wave_file.h"
+#include "sample/sounds/wave_file.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,6 @@
-#include "effect_voices.h"
-#include "engine.h"
-#include "road.h"
+#include "sample/sounds/effect_voices.h"
+#include "sample/sounds/engine.h"
+#include "sample/sounds/road.h"
 
 #include <utility>
 

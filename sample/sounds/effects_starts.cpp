@@ -1,7 +1,7 @@
-#include "effect_voices.h"
-#include "engine.h"
-#include "filters.h"
-#include "road.h"
+#include "sample/sounds/effect_voices.h"
+#include "sample/sounds/engine.h"
+#include "sample/sounds/filters.h"
+#include "sample/sounds/road.h"
 
 #include <utility>
 

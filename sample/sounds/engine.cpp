@@ -1,8 +1,8 @@
-#include "engine.h"
+#include "sample/sounds/engine.h"
 
-#include "../noise.h"
-#include "../vec.h"
-#include "filters.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/vec.h"
+#include "sample/sounds/filters.h"
 
 namespace torvik::sample {
 

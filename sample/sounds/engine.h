@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sources.h"
+#include "sample/sounds/sources.h"
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include "filters.h"
+#include "sample/sounds/filters.h"
 
-#include "../vec.h"
+#include "sample/geometry/vec.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
-#include "horns.h"
+#include "sample/sounds/horns.h"
 
-#include "../vec.h"
-#include "filters.h"
+#include "sample/geometry/vec.h"
+#include "sample/sounds/filters.h"
 
 namespace torvik::sample {
 

@@ -1,6 +1,6 @@
-#include "motion.h"
+#include "sample/sounds/motion.h"
 
-#include "../vec.h"
+#include "sample/geometry/vec.h"
 
 namespace torvik::sample {
 

@@ -1,8 +1,8 @@
-#include "road.h"
+#include "sample/sounds/road.h"
 
-#include "../noise.h"
-#include "../vec.h"
-#include "filters.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/vec.h"
+#include "sample/sounds/filters.h"
 
 namespace torvik::sample {
 

@@ -1,6 +1,6 @@
-#include "sound.h"
+#include "sample/sounds/sound.h"
 
-#include "../vec.h"
+#include "sample/geometry/vec.h"
 
 namespace torvik::sample {
 

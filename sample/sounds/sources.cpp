@@ -1,7 +1,7 @@
-#include "sources.h"
+#include "sample/sounds/sources.h"
 
-#include "../noise.h"
-#include "../vec.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/vec.h"
 
 namespace torvik::sample {
 

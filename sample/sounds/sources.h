@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../curve.h"
-#include "sound.h"
+#include "sample/geometry/curve.h"
+#include "sample/sounds/sound.h"
 
 #include <cstdint>
 #include <functional>

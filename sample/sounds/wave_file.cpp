@@ -1,8 +1,8 @@
-#include "wave_file.h"
+#include "sample/sounds/wave_file.h"
 
-#include "../noise.h"
-#include "../riff.h"
-#include "../vec.h"
+#include "sample/files/riff.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/vec.h"
 
 namespace torvik::sample {
 

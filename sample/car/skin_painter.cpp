@@ -1,0 +1,182 @@
+#include "sample/car/skin_painter.h"
+
+namespace torvik::sample {
+
+namespace {
+
+constexpr int kLevel = 128;
+
+QColor Grey(int level, int second = 0)
+{
+    return QColor(std::clamp(level, 0, 255), std::clamp(second, 0, 255), 0);
+}
+
+} // namespace
+
+SkinPainter::SkinPainter(double left, double bottom, double width, double height, double pixelsPerMetre,
+                         const QColor& base)
+    : left_(left), bottom_(bottom), scale_(pixelsPerMetre)
+{
+    const QSize size(static_cast<int>(std::ceil(width * scale_)),
+                     static_cast<int>(std::ceil(height * scale_)));
+    colour_ = QImage(size, QImage::Format_RGB32);
+    material_ = QImage(size, QImage::Format_RGB32);
+    relief_ = QImage(size, QImage::Format_RGB32);
+    colour_.fill(base);
+    material_.fill(Qt::black);
+    relief_.fill(Grey(kLevel));
+    const auto open = [&](QImage& image) {
+        auto painter = std::make_unique<QPainter>(&image);
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(-left_ * scale_, size.height() + bottom_ * scale_);
+        painter->scale(scale_, -scale_);
+        return painter;
+    };
+    colourPainter_ = open(colour_);
+    materialPainter_ = open(material_);
+    reliefPainter_ = open(relief_);
+}
+
+void SkinPainter::Fill(const QPainterPath& path, const Look& look)
+{
+    colourPainter_->fillPath(path, look.colour);
+    materialPainter_->fillPath(path, QColor(look.metal, look.glass, look.rough));
+    if (look.glow > 0)
+        reliefPainter_->fillPath(path, Grey(kLevel, look.glow));
+}
+
+void SkinPainter::Line(const QPainterPath& path, double width, const Look& look)
+{
+    colourPainter_->strokePath(path, QPen(look.colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    materialPainter_->strokePath(path, QPen(QColor(look.metal, look.glass, look.rough), width, Qt::SolidLine,
+                                            Qt::RoundCap, Qt::RoundJoin));
+}
+
+void SkinPainter::Ridge(const QPainterPath& path, double width, int steps)
+{
+    constexpr int kLayers = 5;
+    for (int i = 1; i <= kLayers; ++i) {
+        const double share = 1.0 - static_cast<double>(i - 1) / kLayers;
+        const double rise = std::sqrt(static_cast<double>(i) / kLayers);
+        reliefPainter_->strokePath(path, QPen(Grey(kLevel + static_cast<int>(steps * rise)), width * share,
+                                              Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+}
+
+void SkinPainter::Raise(const QPainterPath& path, double edge, int steps)
+{
+    constexpr int kLayers = 6;
+    for (int i = kLayers; i >= 1; --i) {
+        const int level = kLevel + steps * (kLayers - i + 1) / (kLayers + 1);
+        reliefPainter_->strokePath(
+            path, QPen(Grey(level), 2.0 * edge * i / kLayers, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+    reliefPainter_->fillPath(path, Grey(kLevel + steps));
+}
+
+void SkinPainter::Gap(const QPainterPath& path)
+{
+    Line(path, 0.006, {QColor(8, 8, 9), 0, 0, 255, 0});
+    reliefPainter_->strokePath(path,
+                               QPen(Grey(kLevel - 14), 0.014, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    reliefPainter_->strokePath(path,
+                               QPen(Grey(kLevel - 40), 0.006, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
+void SkinPainter::ChromeBar(const QPainterPath& path, double width)
+{
+    Line(path, width, ChromeLook());
+    Ridge(path, width, 70);
+}
+
+void SkinPainter::Text(const QString& text, double u, double v, double height, const QString& family,
+                       bool italic, bool mirrored, const Look& look)
+{
+    QFont font(family);
+    font.setPixelSize(100);
+    font.setBold(true);
+    font.setItalic(italic);
+    QPainterPath letters;
+    letters.addText(0, 0, font, text);
+    const double middle = letters.boundingRect().center().x();
+    QTransform transform;
+    transform.translate(u, v);
+    transform.scale((mirrored ? -1.0 : 1.0) * height / 100.0, -height / 100.0);
+    transform.translate(-middle, 0);
+    const QPainterPath placed = transform.map(letters);
+    Fill(placed, look);
+    if (look.metal > 0)
+        Raise(placed, 0.003, 30);
+}
+
+SkinMap SkinPainter::Finish()
+{
+    colourPainter_.reset();
+    materialPainter_.reset();
+    reliefPainter_.reset();
+    return SkinMap(colour_, material_, relief_, left_, bottom_, scale_);
+}
+
+QPainterPath EllipsePath(double u, double v, double radiusU, double radiusV)
+{
+    QPainterPath path;
+    path.addEllipse(QPointF(u, v), radiusU, radiusV);
+    return path;
+}
+
+QPainterPath RoundedPath(double u0, double v0, double u1, double v1, double radius)
+{
+    QPainterPath path;
+    path.addRoundedRect(
+        QRectF(QPointF(std::min(u0, u1), std::min(v0, v1)), QPointF(std::max(u0, u1), std::max(v0, v1))),
+        radius, radius);
+    return path;
+}
+
+QPainterPath PolyPath(std::initializer_list<QPointF> points, bool closed)
+{
+    QPainterPath path;
+    bool first = true;
+    for (const QPointF& point : points) {
+        if (first)
+            path.moveTo(point);
+        else
+            path.lineTo(point);
+        first = false;
+    }
+    if (closed)
+        path.closeSubpath();
+    return path;
+}
+
+QPainterPath Mirrored(const QPainterPath& path)
+{
+    return QTransform::fromScale(-1, 1).map(path);
+}
+
+Look ChromeLook()
+{
+    return {QColor(246, 246, 248), 255, 0, 0, 0};
+}
+Look RubberLook()
+{
+    return {QColor(34, 34, 36), 0, 0, 215, 0};
+}
+Look DarkLook()
+{
+    return {QColor(10, 10, 11), 0, 0, 235, 0};
+}
+Look GlassLook()
+{
+    return {QColor(30, 38, 40), 0, 255, 0, 0};
+}
+Look PaintLook(const QColor& colour)
+{
+    return {colour, 0, 0, 0, 0};
+}
+Look LampLook(const QBrush& colour, int glow)
+{
+    return {colour, 0, 0, 0, glow};
+}
+
+} // namespace torvik::sample

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "sample/car/skin.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <memory>
+
+namespace torvik::sample {
+
+/// How a shape on a sheet looks. What is negative is left as it was.
+struct Look {
+    QBrush colour;
+    int metal = 0;
+    int glass = 0;
+    int rough = 0;
+    int glow = 0;
+};
+
+/// Draws colour, material and relief of a sheet at once, in metres with v upward.
+class SkinPainter {
+public:
+    SkinPainter(double left, double bottom, double width, double height, double pixelsPerMetre,
+                const QColor& base);
+
+    void Fill(const QPainterPath& path, const Look& look);
+    void Line(const QPainterPath& path, double width, const Look& look);
+    /// Raises (or sinks) a line; `steps` of 0.1 mm.
+    void Ridge(const QPainterPath& path, double width, int steps);
+    /// Raises a whole shape with a soft edge of the given width.
+    void Raise(const QPainterPath& path, double edge, int steps);
+    /// A gap between panels: dark and sunk.
+    void Gap(const QPainterPath& path);
+    /// A bar of bright metal with a rounded face.
+    void ChromeBar(const QPainterPath& path, double width);
+    void Text(const QString& text, double u, double v, double height, const QString& family, bool italic,
+              bool mirrored, const Look& look);
+    SkinMap Finish();
+
+private:
+    QImage colour_;
+    QImage material_;
+    QImage relief_;
+    std::unique_ptr<QPainter> colourPainter_;
+    std::unique_ptr<QPainter> materialPainter_;
+    std::unique_ptr<QPainter> reliefPainter_;
+    double left_;
+    double bottom_;
+    double scale_;
+};
+
+QPainterPath EllipsePath(double u, double v, double radiusU, double radiusV);
+QPainterPath RoundedPath(double u0, double v0, double u1, double v1, double radius);
+QPainterPath PolyPath(std::initializer_list<QPointF> points, bool closed);
+/// The path mirrored in the vertical axis.
+QPainterPath Mirrored(const QPainterPath& path);
+
+/// Looks that occur everywhere.
+Look ChromeLook();
+Look RubberLook();
+Look DarkLook();
+Look GlassLook();
+Look PaintLook(const QColor& colour);
+Look LampLook(const QBrush& colour, int glow);
+
+} // namespace torvik::sample

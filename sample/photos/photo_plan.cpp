@@ -1,0 +1,174 @@
+#include "sample/photos/photo_plan.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace torvik::sample {
+
+namespace {
+
+constexpr int kFirstYear = 1967;
+constexpr int kLastYear = 2001;
+
+QString FileName(const QString& prefix, const QString& letters, int number)
+{
+    return QStringLiteral("%1%2%3.JPG").arg(prefix, letters).arg(number, 3, 10, QLatin1Char('0'));
+}
+
+/// The photos of a year: the hero picture first, then the other sides, details between them.
+PlannedPhoto YearPhoto(int year, int number)
+{
+    constexpr std::array kPlaces = {Place::Coast,    Place::Autumn, Place::City, Place::Desert,
+                                    Place::Showroom, Place::Strip,  Place::Snow};
+    const int turn = year - kFirstYear;
+    PlannedPhoto photo;
+    photo.prefix = PrefixOfYear(year);
+    photo.number = number;
+    photo.file = FileName(photo.prefix, QStringLiteral("TOR"), number);
+    photo.year = year;
+    photo.variant = turn * 3 + number;
+    photo.place = kPlaces[static_cast<std::size_t>(turn * 3 + (number - 1) * 2) % kPlaces.size()];
+    switch (number) {
+    case 1:
+        photo.view = turn % 3 == 2 ? View::FrontRight : View::FrontLeft;
+        break;
+    case 2:
+        photo.view = turn % 4 == 1 ? View::SideRight : View::Side;
+        break;
+    case 3:
+        photo.view = turn % 2 == 0 ? View::RearRight : View::RearLeft;
+        break;
+    case 4: {
+        constexpr std::array kDetails = {Motif::Car,    Motif::Dashboard, Motif::Car,
+                                         Motif::Engine, Motif::Badge,     Motif::Car};
+        constexpr std::array kClose = {View::Wheel, View::Nose, View::Nose,
+                                       View::Nose,  View::Nose, View::Tail};
+        photo.motif = kDetails[static_cast<std::size_t>(turn) % kDetails.size()];
+        photo.view = kClose[static_cast<std::size_t>(turn) % kClose.size()];
+        break;
+    }
+    case 5:
+        photo.view = turn % 2 == 0 ? View::LowFront : View::High;
+        break;
+    case 6:
+        if (turn % 2 == 0)
+            photo.motif = turn % 4 == 0 ? Motif::Dashboard : Motif::Engine;
+        photo.view = turn % 4 == 1 ? View::Wheel : View::Tail;
+        break;
+    default:
+        photo.view = turn % 2 == 0 ? View::HeadOn : View::FrontRight;
+        break;
+    }
+    if (year == 1985 && number == 1)
+        photo.size = {4000, 3000};
+    if ((year == 1990 || year == 1970) && number == 5)
+        photo.size = {1920, 1164};
+    if (year == 1973 && number == 5) {
+        photo.view = View::LowFront;
+        photo.size = {900, 1280};
+    }
+    if (year == 1998 && number == 3) {
+        photo.size = {900, 1280};
+        photo.storing = Storing::TurnedWithTag;
+    }
+    return photo;
+}
+
+PlannedPhoto TopicPhoto(const Topic& topic, int number)
+{
+    constexpr std::array kViews = {View::FrontLeft, View::Side, View::RearRight,
+                                   View::Wheel,     View::High, View::FrontRight};
+    PlannedPhoto photo;
+    photo.prefix = topic.prefix;
+    photo.number = number;
+    photo.file = FileName(topic.prefix, topic.letters, number);
+    photo.variant = number - 1;
+    photo.view = kViews[static_cast<std::size_t>(number - 1) % kViews.size()];
+    const auto car = [&](Model model, int year, Place first, Place second) {
+        photo.model = model;
+        photo.year = year;
+        photo.place = number % 2 == 1 ? first : second;
+    };
+    if (topic.prefix == QLatin1String("PT")) {
+        photo.place = Place::Studio;
+        photo.motif = number % 3 == 1 ? Motif::Sketch : Motif::Clay;
+        constexpr std::array kProjects = {1967, 1967, 1967, 1971, 1971, 1979};
+        photo.year = kProjects[static_cast<std::size_t>(number - 1) % kProjects.size()];
+    } else if (topic.prefix == QLatin1String("SB")) {
+        car(Model::Harwell, 1967, Place::Autumn, Place::Coast);
+    } else if (topic.prefix == QLatin1String("M1")) {
+        car(Model::KestraOne, 1970, Place::Strip, Place::Coast);
+    } else if (topic.prefix == QLatin1String("M3")) {
+        car(Model::KestraThree, 1986, Place::City, Place::Desert);
+    } else if (topic.prefix == QLatin1String("MS")) {
+        car(Model::SuperStallion, 2001, Place::Showroom, Place::Strip);
+    } else if (topic.prefix == QLatin1String("CW")) {
+        car(Model::Tarrant, 1968, Place::Strip, Place::Desert);
+    } else if (topic.prefix == QLatin1String("ZZ")) {
+        photo.motif = Motif::Stamps;
+    } else if (topic.prefix == QLatin1String("VM")) {
+        photo.motif = Motif::Sign;
+    } else if (topic.prefix == QLatin1String("TD") || topic.prefix == QLatin1String("TF")) {
+        photo.motif = Motif::DieCast;
+        photo.year = topic.prefix == QLatin1String("TD") ? 1967 + 4 * (number - 1) : 1970 + 7 * (number - 1);
+    } else if (topic.prefix == QLatin1String("TE")) {
+        photo.motif = Motif::Knife;
+    } else if (topic.prefix == QLatin1String("VC")) {
+        photo.motif = Motif::Cookies;
+    } else if (topic.prefix == QLatin1String("US")) {
+        photo.motif = Motif::BoardGame;
+    }
+    return photo;
+}
+
+} // namespace
+
+QString PrefixOfYear(int year)
+{
+    if (year >= 2000)
+        return QStringLiteral("A%1").arg(year - 2000);
+    return QString::number(year - 1900);
+}
+
+const std::vector<Topic>& Topics()
+{
+    const auto text = [](const char* latin) { return QString::fromLatin1(latin); };
+    static const std::vector<Topic> topics = {
+        {text("CW"), text("TAR"), text("The Tarrant Torvik"), 3, {}, {}},
+        {text("M1"), text("KES"), text("Torvik Kestra I"), 6, text("m100"), text("m10")},
+        {text("M3"), text("KES"), text("Torvik Kestra III"), 4, {}, {}},
+        {text("MS"), text("STA"), text("Torvik Super Stallion"), 4, {}, {}},
+        {text("PT"), text("PRO"), text("Early Torvik Prototypes"), 6, text("pt00"), text("pt0")},
+        {text("SB"), text("HAR"), text("The Classic Harwell"), 4, {}, {}},
+        {text("TD"), text("DIE"), text("Danbury Mint Die Cast Models"), 6, text("tdm00"), text("tdm0")},
+        {text("TE"), text("KNI"), text("Franklin Mint Collector Knives"), 4, text("tek00"), text("tek0")},
+        {text("TF"), text("DIE"), text("Franklin Mint Die Cast Models"), 4, text("tfm00"), text("tfm0")},
+        {text("US"), text("BRD"), text("The Torvik Monopoly Game"), 3, text("vck00"), text("vck00")},
+        {text("VC"), text("COO"), text("Torvik Cookies"), 3, {}, {}},
+        {text("VM"), text("SIG"), text("Torvik Metal Signs"), 5, text("vms0"), text("vms0")},
+        {text("ZZ"), text("STP"), text("Torvik Postage Stamps"), 5, text("zz00"), text("zz0")},
+    };
+    return topics;
+}
+
+std::vector<PlannedPhoto> PlanPhotos()
+{
+    std::vector<PlannedPhoto> photos;
+    for (int year = kFirstYear; year <= kLastYear; ++year) {
+        constexpr std::array kMore = {1, 0, 0, 2, 0, 1, 0};
+        const int count = 5 + kMore[static_cast<std::size_t>(year - kFirstYear) % kMore.size()];
+        for (int number = 1; number <= count; ++number)
+            photos.push_back(YearPhoto(year, number));
+    }
+    for (const Topic& topic : Topics()) {
+        for (int number = 1; number <= topic.photos; ++number)
+            photos.push_back(TopicPhoto(topic, number));
+    }
+    std::sort(photos.begin(), photos.end(),
+              [](const PlannedPhoto& a, const PlannedPhoto& b) { return a.file < b.file; });
+    return photos;
+}
+
+} // namespace torvik::sample

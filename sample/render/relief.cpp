@@ -1,0 +1,172 @@
+#include "sample/render/relief.h"
+
+#include "sample/render/distance.h"
+#include "sample/render/tone.h"
+
+#include <QPainter>
+
+namespace torvik::sample {
+
+namespace {
+
+/// What a polished surface mirrors in this direction: a bright sky, a dark skyline and the warm ground below
+/// it. `up` is the height of the direction, -1 to 1.
+Rgb Mirrored(double up, double aside)
+{
+    const double skyline = up + 0.03 * std::sin(aside * 5.0);
+    if (skyline > 0)
+        return Mix(Rgb{1.05, 1.05, 1.05}, Rgb{0.16, 0.22, 0.32}, SmoothStep(0.0, 0.95, skyline));
+    return Mix(Rgb{0.012, 0.013, 0.016}, Rgb{0.42, 0.38, 0.33}, SmoothStep(0.0, -0.5, skyline));
+}
+
+} // namespace
+
+Coat Chrome()
+{
+    return {};
+}
+
+Coat Gold()
+{
+    return {Coat::Kind::Metal, QColor(226, 178, 84), 0, {}};
+}
+
+Coat Enamel(const QColor& colour)
+{
+    return {Coat::Kind::Enamel, colour, 0, {}};
+}
+
+Coat Matte(const QColor& colour)
+{
+    return {Coat::Kind::Matte, colour, 0, {}};
+}
+
+Relief::Relief(QSize size)
+    : width_(size.width() * kFine), height_(size.height() * kFine),
+      heights_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), 0.0F),
+      shade_(heights_.size(), 0.0F), coatOf_(heights_.size(), -1)
+{}
+
+void Relief::Add(const QPainterPath& shape, const Coat& coat, const Rise& rise)
+{
+    QImage drawn(width_, height_, QImage::Format_Alpha8);
+    drawn.fill(0);
+    QPainter painter(&drawn);
+    painter.scale(kFine, kFine);
+    painter.fillPath(shape, Qt::black);
+    painter.end();
+
+    Field mask(heights_.size());
+    for (int y = 0; y < height_; ++y) {
+        const uchar* line = drawn.constScanLine(y);
+        for (int x = 0; x < width_; ++x)
+            mask[Index(x, y)] = line[x] > 127 ? 1.0F : 0.0F;
+    }
+    const QSize fine(width_, height_);
+    Field profile = DistancesInside(mask, fine);
+    for (float& value : profile) {
+        const double inside = Clamp01(static_cast<double>(value) / (rise.edge * kFine));
+        value = static_cast<float>(rise.height * kFine * std::sqrt(1.0 - (1.0 - inside) * (1.0 - inside)));
+    }
+    Soften(profile, fine, std::max(1, Floor(rise.edge * kFine / 5)));
+    if (rise.lift > 0) {
+        Field shadow(mask.size(), 0.0F);
+        const int down = Floor(rise.lift * kFine * 0.9);
+        for (int y = down; y < height_; ++y) {
+            for (int x = down; x < width_; ++x)
+                shadow[Index(x, y)] = mask[Index(x - down, y - down)];
+        }
+        Soften(shadow, fine, std::max(1, Floor(rise.lift * kFine * 0.45)));
+        for (std::size_t i = 0; i < shade_.size(); ++i)
+            shade_[i] = std::max(shade_[i], shadow[i] * 0.72F);
+    }
+    const auto number = static_cast<std::int16_t>(coats_.size());
+    coats_.push_back(coat);
+    for (std::size_t i = 0; i < mask.size(); ++i) {
+        if (mask[i] < 0.5F)
+            continue;
+        heights_[i] = static_cast<float>(rise.foot * kFine) + profile[i];
+        shade_[i] = 0;
+        coatOf_[i] = number;
+    }
+}
+
+float Relief::HeightAt(int x, int y) const
+{
+    return heights_[Index(std::clamp(x, 0, width_ - 1), std::clamp(y, 0, height_ - 1))];
+}
+
+Rgb Relief::ColourAt(int x, int y) const
+{
+    const Coat& coat = coats_[static_cast<std::size_t>(coatOf_[Index(x, y)])];
+    // Steps between shapes are walls, not slopes: what is too steep is bent back.
+    const auto slope = [](float rise) { return std::clamp(static_cast<double>(rise) / 2.0, -1.6, 1.6); };
+    const Vec normal = Unit({-slope(HeightAt(x + 1, y) - HeightAt(x - 1, y)),
+                             slope(HeightAt(x, y + 1) - HeightAt(x, y - 1)), 1.0});
+    const Vec mirror = normal * (2.0 * normal.z) - Vec{0, 0, 1};
+    const double across = static_cast<double>(x) / width_;
+    const double down = static_cast<double>(y) / height_;
+    // Flat faces are a little bowed, so that they run from sky to skyline instead of being one grey.
+    const double up = mirror.y + (0.86 - down) * 0.8;
+    const Rgb seen = Mirrored(std::clamp(up, -1.0, 1.0), across * 2 + mirror.x);
+    const Vec toLight = Unit({-0.45, 0.62, 0.65});
+    const double lamp = std::pow(std::max(0.0, Dot(mirror, toLight)), 26.0);
+    const Rgb base = LinearOfPixel(coat.colour.rgb());
+    const double facing = std::max(0.0, Dot(normal, toLight));
+    switch (coat.kind) {
+    case Coat::Kind::Metal:
+        return base * (seen * 1.05 + Rgb{1, 1, 1} * (0.9 * lamp));
+    case Coat::Kind::Enamel: {
+        double light = 0.45 + 0.95 * facing;
+        if (coat.rays > 0) {
+            const double angle = std::atan2(y - coat.rayFrom.y() * kFine, x - coat.rayFrom.x() * kFine);
+            light *= 1.0 + 0.28 * std::sin(angle * coat.rays);
+        }
+        const double rim = 0.05 + 0.5 * std::pow(1.0 - normal.z, 2.0);
+        const double gloss = 0.16 * SmoothStep(0.62, 0.12, down + 0.25 * across);
+        return base * light + seen * rim + Rgb{1, 1, 1} * (0.8 * lamp + gloss * (0.3 + base.x * 0.3));
+    }
+    case Coat::Kind::Matte:
+        break;
+    }
+    return base * (0.35 + 0.95 * facing) + Rgb{1, 1, 1} * (0.05 * lamp);
+}
+
+QImage Relief::Over(const QImage& ground) const
+{
+    QImage picture = ground.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            const Rgb below = LinearOfPixel(line[x]);
+            Rgb sum;
+            for (int k = 0; k < kFine * kFine; ++k) {
+                const int fx = x * kFine + k % kFine;
+                const int fy = y * kFine + k / kFine;
+                const Rgb own = coatOf_[Index(fx, fy)] < 0 ? below : Shoulder(ColourAt(fx, fy));
+                sum = sum + own * (1.0 - static_cast<double>(shade_[Index(fx, fy)]));
+            }
+            line[x] = PixelOf(sum * (1.0 / (kFine * kFine)));
+        }
+    }
+    return picture;
+}
+
+QImage SoftGround(QSize size, const QColor& middle, const QColor& rim)
+{
+    QImage ground(size, QImage::Format_RGB32);
+    QPainter painter(&ground);
+    const QRectF all(QPointF(0, 0), QSizeF(size));
+    QRadialGradient soft(QPointF(size.width() * 0.42, size.height() * 0.38), size.width() * 0.66);
+    soft.setColorAt(0, middle);
+    soft.setColorAt(1, rim);
+    painter.fillRect(all, soft);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(255, 255, 255, 60), 1));
+    painter.drawRect(all.adjusted(1.5, 1.5, -1.5, -1.5));
+    painter.setPen(QPen(QColor(0, 0, 0, 160), 1));
+    painter.drawRect(all.adjusted(0.5, 0.5, -0.5, -0.5));
+    return ground;
+}
+
+} // namespace torvik::sample
