@@ -12,6 +12,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString OptionPrice(int year, const QString& word)
@@ -32,28 +34,28 @@ QString FigureOf(int year, const QString& name)
     const std::vector<Engine> engines = EnginesOf(year);
     const Engine& strongest = *std::max_element(
         engines.begin(), engines.end(), [](const Engine& a, const Engine& b) { return a.power < b.power; });
-    if (name == QLatin1String("price"))
+    if (name == "price"_L1)
         return Dollars(model.price);
-    if (name == QLatin1String("power"))
+    if (name == "power"_L1)
         return QString::number(strongest.power);
-    if (name == QLatin1String("engine"))
+    if (name == "engine"_L1)
         return EngineName(strongest);
-    if (name == QLatin1String("standard"))
+    if (name == "standard"_L1)
         return EngineName(engines.front());
-    if (name == QLatin1String("sixty"))
+    if (name == "sixty"_L1)
         return QString::number(SecondsToSixty(strongest, model.weight), 'f', 1);
-    if (name == QLatin1String("speed"))
+    if (name == "speed"_L1)
         return QString::number(TopSpeed(strongest));
-    if (name == QLatin1String("weight"))
+    if (name == "weight"_L1)
         return Grouped(model.weight);
-    if (name.startsWith(QLatin1String("option ")))
+    if (name.startsWith("option "_L1))
         return OptionPrice(year, name.mid(7));
     throw std::runtime_error("There is no such figure: " + name.toStdString());
 }
 
 QString WithFigures(int year, QString text)
 {
-    static const QRegularExpression figure(QStringLiteral("\\{([^}]*)\\}"));
+    static const QRegularExpression figure(u"\\{([^}]*)\\}"_s);
     for (QRegularExpressionMatch match = figure.match(text); match.hasMatch(); match = figure.match(text))
         text.replace(match.capturedStart(), match.capturedLength(), FigureOf(year, match.captured(1)));
     return text.replace(u'\'', QChar(0x2019));
@@ -63,7 +65,7 @@ QString WithFigures(int year, QString text)
 
 AdCopy AdCopyOf(int year)
 {
-    const TextSection section = StoredSections(QStringLiteral("ad_copy")).at(QString::number(year));
+    const TextSection section = StoredSections(u"ad_copy"_s).at(QString::number(year));
     QStringList lines = section.body.split(u'\n', Qt::SkipEmptyParts);
     AdCopy copy;
     copy.headline = section.title;

@@ -8,7 +8,7 @@ namespace torvik::sample {
 
 namespace {
 
-constexpr double kWidth = 1232; // of a standing page
+constexpr double pageWidth = 1232; // of a standing page
 
 TextLook BodyLook(const AdPage& page, double largest, Qt::Alignment alignment = Qt::AlignJustify)
 {
@@ -57,46 +57,46 @@ void DrawVeil(QPainter& p, const QRectF& box, const QColor& colour, bool fromTop
 void SetPictureOverText(const AdPage& page)
 {
     QPainter& p = page.painter;
-    const QRectF picture(56, 56, kWidth - 112, 800);
+    const QRectF picture(56, 56, pageWidth - 112, 800);
     p.drawImage(picture, AdPhoto(page.plan, picture.size().toSize()));
-    const QRectF head(56, 900, kWidth - 112, 132);
+    const QRectF head(56, 900, pageWidth - 112, 132);
     const QPainterPath headline =
         FittedHeadline(page.copy.headline, head, page.plan.headline, 1, 72, Qt::AlignHCenter);
     p.fillPath(headline, page.plan.ink);
     const double below = headline.boundingRect().bottom() + 18;
-    SetLead(page, QRectF(56, below, kWidth - 112, 40), LeadInk(page), 29, Qt::AlignHCenter);
-    const QRectF text(56, below + 66, kWidth - 112, 1440 - below - 66);
+    SetLead(page, QRectF(56, below, pageWidth - 112, 40), LeadInk(page), 29, Qt::AlignHCenter);
+    const QRectF text(56, below + 66, pageWidth - 112, 1440 - below - 66);
     const std::vector<QRectF> columns = ColumnsIn(text, 3, 34);
     SetColumns(p, page.copy.paragraphs, {columns[0], columns[1]}, BodyLook(page, 28, EdgeOf(page)));
     const QRectF last = columns[2];
     DrawEngines(page, QRectF(last.left(), last.top() + 6, last.width(), last.height() - 180), page.plan.ink);
     DrawPriceBox(page, QRectF(last.left(), last.bottom() - 156, last.width(), 150), page.plan.paper,
                  page.plan.ink);
-    p.fillRect(QRectF(56, 1462, kWidth - 112, 2), page.plan.accent);
-    DrawSignature(page, QRectF(56, 1480, kWidth - 112, 92), page.plan.ink);
+    p.fillRect(QRectF(56, 1462, pageWidth - 112, 2), page.plan.accent);
+    DrawSignature(page, QRectF(56, 1480, pageWidth - 112, 92), page.plan.ink);
 }
 
 void SetFullPicture(const AdPage& page)
 {
     QPainter& p = page.painter;
     const double band = 1130;
-    const QRectF picture(0, 0, kWidth, band);
+    const QRectF picture(0, 0, pageWidth, band);
     p.drawImage(picture, AdPhoto(page.plan, picture.size().toSize()));
-    DrawVeil(p, QRectF(0, 0, kWidth, 380), page.plan.paper, true);
-    DrawVeil(p, QRectF(0, band - 70, kWidth, 70), page.plan.paper, false);
-    const QPainterPath headline = FittedHeadline(page.copy.headline, QRectF(70, 70, kWidth - 140, 200),
+    DrawVeil(p, QRectF(0, 0, pageWidth, 380), page.plan.paper, true);
+    DrawVeil(p, QRectF(0, band - 70, pageWidth, 70), page.plan.paper, false);
+    const QPainterPath headline = FittedHeadline(page.copy.headline, QRectF(70, 70, pageWidth - 140, 200),
                                                  page.plan.headline, 2, 104, Qt::AlignLeft);
     p.fillPath(headline, page.plan.ink);
-    SetLead(page, QRectF(72, headline.boundingRect().bottom() + 20, kWidth - 340, 84), page.plan.ink, 28);
+    SetLead(page, QRectF(72, headline.boundingRect().bottom() + 20, pageWidth - 340, 84), page.plan.ink, 28);
     p.fillRect(QRectF(70, band + 24, 120, 7), page.plan.accent);
-    std::vector<QRectF> columns = ColumnsIn(QRectF(70, band + 50, kWidth - 140, 280), 3, 36);
+    std::vector<QRectF> columns = ColumnsIn(QRectF(70, band + 50, pageWidth - 140, 280), 3, 36);
     const QRectF last = columns.back();
     columns.pop_back();
     SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 27, EdgeOf(page)));
     DrawPriceBox(page, QRectF(last.left(), last.top(), last.width(), 138), page.plan.accent,
                  qGray(page.plan.accent.rgb()) > 140 ? QColor(20, 20, 22) : QColor(255, 255, 255));
     DrawEngines(page, QRectF(last.left(), last.top() + 152, last.width(), 128), page.plan.ink);
-    DrawSignature(page, QRectF(70, 1484, kWidth - 140, 92), page.plan.ink);
+    DrawSignature(page, QRectF(70, 1484, pageWidth - 140, 92), page.plan.ink);
 }
 
 void SetStripes(const AdPage& page)
@@ -110,17 +110,17 @@ void SetStripes(const AdPage& page)
         QPainterPath stripe(QPointF(70 + inset, 0));
         stripe.lineTo(70 + inset, 954 - inset);
         stripe.quadTo(70 + inset, 1070 - inset, 190, 1070 - inset);
-        stripe.lineTo(kWidth, 1070 - inset);
+        stripe.lineTo(pageWidth, 1070 - inset);
         p.strokePath(stripe, QPen(tones[i], 20, Qt::SolidLine, Qt::FlatCap));
     }
     const double left = 206;
     const QPainterPath headline =
-        FittedHeadline(page.copy.headline, QRectF(left, 70, kWidth - left - 60, 200), page.plan.headline, 2,
-                       100, Qt::AlignLeft);
+        FittedHeadline(page.copy.headline, QRectF(left, 70, pageWidth - left - 60, 200), page.plan.headline,
+                       2, 100, Qt::AlignLeft);
     p.fillPath(headline, page.plan.ink);
     const double below = std::max(200.0, headline.boundingRect().bottom() + 20);
-    SetLead(page, QRectF(left, below, kWidth - left - 60, 76), page.plan.ink, 28);
-    const QRectF picture(left, below + 92, kWidth - left - 60, 940 - below - 92);
+    SetLead(page, QRectF(left, below, pageWidth - left - 60, 76), page.plan.ink, 28);
+    const QRectF picture(left, below + 92, pageWidth - left - 60, 940 - below - 92);
     QPainterPath frame;
     frame.addRoundedRect(picture, 46, 46);
     p.save();
@@ -128,40 +128,40 @@ void SetStripes(const AdPage& page)
     p.drawImage(picture, AdPhoto(page.plan, picture.size().toSize()));
     p.restore();
     p.strokePath(frame, QPen(page.plan.ink, 5));
-    std::vector<QRectF> columns = ColumnsIn(QRectF(60, 1106, kWidth - 120, 262), 3, 34);
+    std::vector<QRectF> columns = ColumnsIn(QRectF(60, 1106, pageWidth - 120, 262), 3, 34);
     const QRectF last = columns.back();
     columns.pop_back();
     SetColumns(p, page.copy.paragraphs, columns, BodyLook(page, 27));
     DrawPriceBox(page, QRectF(last.left(), last.top() + 6, last.width(), 136), page.plan.ink,
                  page.plan.paper);
     DrawEngines(page, QRectF(last.left(), last.top() + 154, last.width(), 102), page.plan.ink);
-    DrawColourRow(page, QRectF(60, 1376, kWidth - 120, 96), page.plan.ink);
-    DrawSignature(page, QRectF(60, 1488, kWidth - 120, 92), page.plan.ink);
+    DrawColourRow(page, QRectF(60, 1376, pageWidth - 120, 96), page.plan.ink);
+    DrawSignature(page, QRectF(60, 1488, pageWidth - 120, 92), page.plan.ink);
 }
 
 void SetGrid(const AdPage& page)
 {
     QPainter& p = page.painter;
-    p.fillRect(QRectF(0, 0, kWidth, 26), page.plan.accent);
-    const QPainterPath headline = FittedHeadline(page.copy.headline, QRectF(60, 78, kWidth - 120, 190),
+    p.fillRect(QRectF(0, 0, pageWidth, 26), page.plan.accent);
+    const QPainterPath headline = FittedHeadline(page.copy.headline, QRectF(60, 78, pageWidth - 120, 190),
                                                  page.plan.headline, 1, 124, Qt::AlignLeft);
     p.fillPath(headline, page.plan.ink);
     const double below = headline.boundingRect().bottom() + 24;
-    SetLead(page, QRectF(60, below, kWidth - 120, 46), LeadInk(page), 31);
-    const QRectF picture(0, below + 66, kWidth, 1010 - below - 66);
+    SetLead(page, QRectF(60, below, pageWidth - 120, 46), LeadInk(page), 31);
+    const QRectF picture(0, below + 66, pageWidth, 1010 - below - 66);
     p.drawImage(picture, AdPhoto(page.plan, picture.size().toSize()));
-    p.fillRect(QRectF(0, 1010, kWidth, 8), page.plan.accent);
+    p.fillRect(QRectF(0, 1010, pageWidth, 8), page.plan.accent);
     p.setPen(QPen(page.plan.accent, 1));
-    for (const double x : {kWidth * 0.355, kWidth * 0.655})
+    for (const double x : {pageWidth * 0.355, pageWidth * 0.655})
         p.drawLine(QPointF(x, 1046), QPointF(x, 1452));
-    const std::vector<QRectF> columns = ColumnsIn(QRectF(60, 1046, kWidth - 120, 400), 3, 44);
+    const std::vector<QRectF> columns = ColumnsIn(QRectF(60, 1046, pageWidth - 120, 400), 3, 44);
     SetColumns(p, page.copy.paragraphs, {columns[0], columns[1]}, BodyLook(page, 27, Qt::AlignLeft));
     const QRectF last = columns[2];
     DrawPriceBox(page, QRectF(last.left(), last.top(), last.width(), 150), page.plan.accent,
                  qGray(page.plan.accent.rgb()) > 140 ? QColor(20, 20, 22) : QColor(255, 255, 255));
     DrawEngines(page, QRectF(last.left(), last.top() + 170, last.width(), 136), page.plan.ink);
     DrawColourRow(page, QRectF(last.left(), last.top() + 316, last.width(), 92), page.plan.ink);
-    DrawSignature(page, QRectF(60, 1482, kWidth - 120, 92), page.plan.ink);
+    DrawSignature(page, QRectF(60, 1482, pageWidth - 120, 92), page.plan.ink);
 }
 
 void SetSpread(const AdPage& page)

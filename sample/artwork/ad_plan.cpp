@@ -7,13 +7,15 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const char kSerif[] = "Liberation Serif";
-const char kSans[] = "Liberation Sans";
-const char kNarrow[] = "Liberation Sans Narrow";
-const char kSlab[] = "DejaVu Serif";
-const char kWide[] = "DejaVu Sans";
+const char serif[] = "Liberation Serif";
+const char sans[] = "Liberation Sans";
+const char narrow[] = "Liberation Sans Narrow";
+const char slab[] = "DejaVu Serif";
+const char wide[] = "DejaVu Sans";
 
 Type TypeOf(const char* family, bool bold = false, bool italic = false, double spacing = 100,
             double stretch = 1)
@@ -33,7 +35,7 @@ struct Row {
 };
 
 using enum AdLayout;
-constexpr std::array kRows = {
+constexpr std::array adRows = {
     Row{1967, PictureOverText, View::FrontLeft, Place::Coast, "Ember Red", 0xFAF7EE, 0x1A1818, 0x9A1420},
     Row{1968, PictureOverText, View::Side, Place::Coast, "Wharf Blue", 0xF8F6F0, 0x181A1E, 0x1F4E86},
     Row{1969, FullPicture, View::LowFront, Place::Desert, "Vermilion Sands", 0xF6F2E8, 0x1A1614, 0xC04420},
@@ -74,30 +76,30 @@ constexpr std::array kRows = {
 Type HeadlineOf(int year)
 {
     if (year < 1971)
-        return TypeOf(kSerif, true);
+        return TypeOf(serif, true);
     if (year < 1979)
-        return year % 2 == 0 ? TypeOf(kSlab, true, false, 94, 1.0) : TypeOf(kSerif, true, true, 98, 1.05);
+        return year % 2 == 0 ? TypeOf(slab, true, false, 94, 1.0) : TypeOf(serif, true, true, 98, 1.05);
     if (year < 1989)
-        return year % 2 == 0 ? TypeOf(kNarrow, true, false, 98) : TypeOf(kSans, true, false, 94);
+        return year % 2 == 0 ? TypeOf(narrow, true, false, 98) : TypeOf(sans, true, false, 94);
     if (year < 1997)
-        return year % 2 == 0 ? TypeOf(kSerif, false, true, 102) : TypeOf(kWide, false, false, 96, 0.92);
-    return TypeOf(kSans, false, false, 104);
+        return year % 2 == 0 ? TypeOf(serif, false, true, 102) : TypeOf(wide, false, false, 96, 0.92);
+    return TypeOf(sans, false, false, 104);
 }
 
 Type BodyOf(int year)
 {
     if (year < 1979)
-        return TypeOf(kSerif);
+        return TypeOf(serif);
     if (year < 1989)
-        return TypeOf(year % 3 == 0 ? kSans : kNarrow);
-    return year < 1997 ? TypeOf(kSerif) : TypeOf(kSans);
+        return TypeOf(year % 3 == 0 ? sans : narrow);
+    return year < 1997 ? TypeOf(serif) : TypeOf(sans);
 }
 
 } // namespace
 
 QString PlannedAd::File() const
 {
-    return QStringLiteral("ads/%1brto00.jpg").arg(TwoDigits(year));
+    return u"ads/%1brto00.jpg"_s.arg(TwoDigits(year));
 }
 
 QSize PlannedAd::Size() const
@@ -115,8 +117,8 @@ const std::vector<PlannedAd>& PlanAds()
 {
     static const std::vector<PlannedAd> ads = [] {
         std::vector<PlannedAd> planned;
-        planned.reserve(kRows.size());
-        for (const Row& row : kRows)
+        planned.reserve(adRows.size());
+        for (const Row& row : adRows)
             planned.push_back({row.year, row.layout, row.view, row.place, QString::fromLatin1(row.paint),
                                QColor(row.paper), QColor(row.ink), QColor(row.accent), HeadlineOf(row.year),
                                BodyOf(row.year)});

@@ -9,8 +9,8 @@ namespace torvik::sample {
 
 namespace {
 
-const QColor kChrome(206, 210, 216);
-const QColor kDark(30, 30, 34);
+const QColor chromeTone(206, 210, 216);
+const QColor darkTone(30, 30, 34);
 
 /// Metres of the car to pixels of the drawing.
 struct Sheet {
@@ -63,7 +63,7 @@ void DrawEnds(QPainter& p, const CarShape& c, const Sheet& sheet, double outline
     const double z = c.bumperHeight;
     const bool chrome = c.bumper == Bumper::ChromeBlade;
     if (chrome || c.bumper == Bumper::RubberStrip) {
-        const QColor colour = chrome ? kChrome : kDark;
+        const QColor colour = chrome ? chromeTone : darkTone;
         FillOutlined(p, sheet.Box(-0.04, z - 0.06, 0.24, z + 0.04), colour, outline * 0.6);
         FillOutlined(p, sheet.Box(c.length - 0.22, z - 0.06, c.length + 0.04, z + 0.04), colour,
                      outline * 0.6);
@@ -84,8 +84,8 @@ void DrawWheel(QPainter& p, WheelFace face, const QPointF& middle, double radius
         path.addEllipse(middle, radius * share, radius * share);
         FillOutlined(p, path, colour, outline);
     };
-    disc(1.0, kDark, radius * 0.05);
-    disc(0.68, kChrome, radius * 0.04);
+    disc(1.0, darkTone, radius * 0.05);
+    disc(0.68, chromeTone, radius * 0.04);
     const int spokes = face == WheelFace::FiveSpoke || face == WheelFace::FiveStar ? 5
                        : face == WheelFace::TenSpoke                               ? 10
                        : face == WheelFace::Turbine                                ? 16
@@ -93,7 +93,7 @@ void DrawWheel(QPainter& p, WheelFace face, const QPointF& middle, double radius
                                                                                    : 0;
     if (spokes == 0) {
         disc(0.50, QColor(150, 156, 164), radius * 0.03);
-        disc(0.44, kChrome, radius * 0.02);
+        disc(0.44, chromeTone, radius * 0.02);
     } else {
         disc(0.60, QColor(70, 74, 80), radius * 0.02);
         for (int i = 0; i < spokes; ++i) {
@@ -101,7 +101,7 @@ void DrawWheel(QPainter& p, WheelFace face, const QPointF& middle, double radius
             p.translate(middle);
             p.rotate(360.0 * i / spokes);
             const double half = radius * (spokes == 5 ? 0.12 : spokes == 8 ? 0.11 : 0.05);
-            p.fillRect(QRectF(-half, -radius * 0.62, half * 2, radius * 0.6), kChrome);
+            p.fillRect(QRectF(-half, -radius * 0.62, half * 2, radius * 0.6), chromeTone);
             p.restore();
         }
     }
@@ -147,7 +147,7 @@ void DrawCarSide(QPainter& p, const CarShape& c, const QColor& paint, const QPoi
     for (const double axle : {c.frontAxle, c.rearAxle}) {
         QPainterPath arch;
         arch.addEllipse(sheet.At(axle, c.wheelRadius), c.archRadius * scale, c.archRadius * scale);
-        p.fillPath(arch.intersected(body), kDark);
+        p.fillPath(arch.intersected(body), darkTone);
         DrawWheel(p, c.wheel, sheet.At(axle, c.wheelRadius), c.wheelRadius * scale);
     }
     p.restore();

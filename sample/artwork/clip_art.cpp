@@ -11,10 +11,12 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QSize kSize(480, 80);
-constexpr double kGround = 68;
+const QSize stripSize(480, 80);
+constexpr double groundLine = 68;
 
 /// A few flat shapes behind the car, another place every year.
 void DrawBackdrop(QPainter& p, const QRectF& box, int year)
@@ -39,7 +41,7 @@ void DrawBackdrop(QPainter& p, const QRectF& box, int year)
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(255, 250, 225));
     p.drawEllipse(QPointF(x + w * (0.2 + 0.12 * static_cast<double>(number % 6)), 21), 10, 10);
-    QPainterPath far(QPointF(x, kGround));
+    QPainterPath far(QPointF(x, groundLine));
     switch (number % 4) {
     case 0: // hills
         far.cubicTo(x + w * 0.2, 18, x + w * 0.35, 44, x + w * 0.5, 46);
@@ -63,9 +65,9 @@ void DrawBackdrop(QPainter& p, const QRectF& box, int year)
         far.lineTo(x + w, 46);
         break;
     }
-    far.lineTo(x + w, kGround);
+    far.lineTo(x + w, groundLine);
     p.fillPath(far, QColor(tone.far));
-    p.fillRect(QRectF(x, kGround - 8, w, 30), QColor(tone.near));
+    p.fillRect(QRectF(x, groundLine - 8, w, 30), QColor(tone.near));
     p.restore();
     p.strokePath(frame, QPen(QColor(26, 24, 26), 1.4));
 }
@@ -78,10 +80,10 @@ void DrawYear(QPainter& p, const QRectF& box, int year, const QColor& paint)
     const bool pale = qGray(paint.rgb()) > 140;
     FillOutlined(p, plate, paint, 1.4);
     const QColor ink = pale ? QColor(30, 28, 32) : QColor(252, 248, 236);
-    const std::array<Type, 4> types = {{{QStringLiteral("Liberation Serif"), true, true, 100, 1.0},
-                                        {QStringLiteral("DejaVu Serif"), true, false, 100, 1.0},
-                                        {QStringLiteral("Liberation Sans Narrow"), true, false, 110, 1.15},
-                                        {QStringLiteral("Liberation Sans"), true, true, 100, 1.0}}};
+    const std::array<Type, 4> types = {{{u"Liberation Serif"_s, true, true, 100, 1.0},
+                                        {u"DejaVu Serif"_s, true, false, 100, 1.0},
+                                        {u"Liberation Sans Narrow"_s, true, false, 110, 1.15},
+                                        {u"Liberation Sans"_s, true, true, 100, 1.0}}};
     const auto decade = static_cast<std::size_t>(std::min(3, (year - 1960) / 10));
     p.fillPath(Centred(Lettering(QString::number(year), 19, types[decade]), box.center() - QPointF(0, 9)),
                ink);
@@ -95,11 +97,11 @@ void DrawYear(QPainter& p, const QRectF& box, int year, const QColor& paint)
 
 QImage PaintClipArt(const SmallPicture& strip)
 {
-    QImage picture(kSize, QImage::Format_RGB32);
+    QImage picture(stripSize, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter p(&picture);
     p.setRenderHint(QPainter::Antialiasing);
-    const std::map<QString, TextSection> icons = StoredSections(QStringLiteral("clip_icons"));
+    const std::map<QString, TextSection> icons = StoredSections(u"clip_icons"_s);
     DrawIcon(p, QRectF(8, 8, 64, 64), icons.at(QString::number(strip.year)).body);
     const std::vector<Paint>& card = PaintsOfYear(strip.year);
     const QColor paint = card[static_cast<std::size_t>(strip.year * 3) % card.size()].colour;
@@ -107,7 +109,7 @@ QImage PaintClipArt(const SmallPicture& strip)
     DrawBackdrop(p, scene, strip.year);
     const CarShape shape = ShapeOfYear(strip.year);
     const double scale = 41;
-    DrawCarSide(p, shape, paint, {scene.center().x() - shape.length * scale / 2, kGround}, scale);
+    DrawCarSide(p, shape, paint, {scene.center().x() - shape.length * scale / 2, groundLine}, scale);
     DrawWheel(p, shape.wheel, {344, 40}, 30);
     DrawYear(p, QRectF(386, 5, 88, 70), strip.year, paint);
     return picture;

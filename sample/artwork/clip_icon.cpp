@@ -9,13 +9,15 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr double kOutline = 1.8;
+constexpr double iconOutline = 1.8;
 
 QColor ColourOf(const QString& word)
 {
-    const QColor colour(QLatin1Char('#') + word);
+    const QColor colour(u'#' + word);
     if (!colour.isValid())
         throw std::runtime_error("There is no such colour: " + word.toStdString());
     return colour;
@@ -23,7 +25,7 @@ QColor ColourOf(const QString& word)
 
 QPointF PointOf(const QString& word)
 {
-    return PathFromText(QLatin1Char('M') + word + QStringLiteral(" L") + word).elementAt(0);
+    return PathFromText(u'M' + word + u" L"_s + word).elementAt(0);
 }
 
 QPainterPath Disc(const QPointF& middle, double radius)
@@ -40,17 +42,16 @@ void DrawLine(QPainter& p, const QStringList& words)
     const QColor colour = ColourOf(words[1]);
     const double size = words[2].toDouble();
     const auto rest = [&](qsizetype from) { return QStringList(words.mid(from)).join(u' '); };
-    if (words[0] == QLatin1String("fill"))
-        FillOutlined(p, PathFromText(rest(2)), colour, kOutline);
-    else if (words[0] == QLatin1String("disc"))
-        FillOutlined(p, Disc(PointOf(words[2]), words[3].toDouble()), colour, kOutline);
-    else if (words[0] == QLatin1String("line"))
+    if (words[0] == "fill"_L1)
+        FillOutlined(p, PathFromText(rest(2)), colour, iconOutline);
+    else if (words[0] == "disc"_L1)
+        FillOutlined(p, Disc(PointOf(words[2]), words[3].toDouble()), colour, iconOutline);
+    else if (words[0] == "line"_L1)
         p.strokePath(PathFromText(rest(3)), QPen(colour, size, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    else if (words[0] == QLatin1String("ring"))
+    else if (words[0] == "ring"_L1)
         p.strokePath(Disc(PointOf(words[3]), words.value(4).toDouble()), QPen(colour, size));
-    else if (words[0] == QLatin1String("text"))
-        p.fillPath(Centred(Lettering(rest(4), size * 0.72, {QStringLiteral("Liberation Sans"), true}),
-                           PointOf(words[3])),
+    else if (words[0] == "text"_L1)
+        p.fillPath(Centred(Lettering(rest(4), size * 0.72, {u"Liberation Sans"_s, true}), PointOf(words[3])),
                    colour);
     else
         throw std::runtime_error("A small picture has an unknown line: " + words[0].toStdString());

@@ -34,9 +34,9 @@ Section RoundedLine(const Section& corners, const std::vector<double>& radii,
         const SectionPoint end{Mix(corners[i - 1].y, to.y, share), Mix(corners[i - 1].z, to.z, share)};
         const double dy = end.y - from.y;
         const double dz = end.z - from.z;
-        constexpr int kSteps = 8;
-        for (int k = 0; k < kSteps; ++k) {
-            const double t = static_cast<double>(k) / kSteps;
+        constexpr int stepsPerSide = 8;
+        for (int k = 0; k < stepsPerSide; ++k) {
+            const double t = static_cast<double>(k) / stepsPerSide;
             const double bow = bulges[i - 1] * 4 * t * (1 - t);
             const double span = std::max(1e-9, std::hypot(dy, dz));
             line.push_back({from.y + dy * t + bow * dz / span, from.z + dz * t - bow * dy / span});
@@ -48,9 +48,9 @@ Section RoundedLine(const Section& corners, const std::vector<double>& radii,
         const double next = std::max(1e-9, std::hypot(corners[i + 1].y - to.y, corners[i + 1].z - to.z));
         const SectionPoint leave{Mix(to.y, corners[i + 1].y, cut / next),
                                  Mix(to.z, corners[i + 1].z, cut / next)};
-        constexpr int kBend = 5;
-        for (int k = 0; k < kBend; ++k) {
-            const double t = static_cast<double>(k) / kBend;
+        constexpr int stepsPerBend = 5;
+        for (int k = 0; k < stepsPerBend; ++k) {
+            const double t = static_cast<double>(k) / stepsPerBend;
             const double a = (1 - t) * (1 - t);
             const double b = 2 * t * (1 - t);
             const double c = t * t;
@@ -239,7 +239,7 @@ Mesh BumperBar(const CarShape& c, bool front, double height, double tall, double
             std::min<double>(static_cast<double>(i), static_cast<double>(path.size() - 1 - i)) / 3.0 + 0.15);
         std::vector<Vec> ring;
         for (int k = 0; k <= 14; ++k) {
-            const double angle = 2 * kPi * k / 14;
+            const double angle = 2 * pi * k / 14;
             const double outward = 0.045 * std::cos(angle);
             const double up = tall * std::copysign(std::pow(std::abs(std::sin(angle)), 0.7), std::sin(angle));
             ring.push_back(path[i] + out * (outward * thin) + Vec{0, 0, up * thin});
@@ -287,7 +287,7 @@ void AddWing(const CarShape& c, std::vector<Mesh>& parts)
         const double drop = 0.09 * std::pow(std::abs(t), 8.0);
         std::vector<Vec> ring;
         for (int k = 0; k <= 12; ++k) {
-            const double angle = 2 * kPi * k / 12;
+            const double angle = 2 * pi * k / 12;
             ring.push_back({x + 0.12 * std::cos(angle) - 0.05 * t * t, reach * t,
                             deck + 0.135 + 0.018 * std::sin(angle) + 0.03 * std::cos(angle) - drop});
         }
@@ -338,11 +338,11 @@ void AddInterior(const CarShape& c, std::vector<Mesh>& parts)
     std::vector<std::vector<Vec>> rows;
     const Vec hub{c.cowl + 0.66 - half, -0.36, belt + 0.0};
     for (int i = 0; i <= 28; ++i) {
-        const double a = 2 * kPi * i / 28;
+        const double a = 2 * pi * i / 28;
         const Vec out{std::sin(a) * 0.35, std::cos(a), std::sin(a) * 0.93};
         std::vector<Vec> circle;
         for (int k = 0; k <= 8; ++k) {
-            const double b = 2 * kPi * k / 8;
+            const double b = 2 * pi * k / 8;
             circle.push_back(hub + out * (0.19 + 0.014 * std::cos(b)) +
                              Vec{-0.93, 0, 0.35} * (0.014 * std::sin(b)));
         }
@@ -418,7 +418,7 @@ std::vector<Mesh> BuildCar(const CarShape& c)
         for (int i = 0; i <= 3; ++i) {
             std::vector<Vec> ring;
             for (int k = 0; k <= 14; ++k) {
-                const double a = 2 * kPi * k / 14;
+                const double a = 2 * pi * k / 14;
                 ring.push_back({half - 0.12 + 0.05 * i, side + 0.03 * std::cos(a),
                                 c.bottom(c.length) - 0.05 + 0.03 * std::sin(a)});
             }

@@ -4,6 +4,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Paint Named(const char* name, QRgb colour, double metallic)
@@ -80,35 +82,35 @@ Trim TrimOf(const PlannedPhoto& photo)
 {
     Trim trim;
     trim.plate = QString::number(photo.year);
-    trim.script = QStringLiteral("Vollandry");
+    trim.script = u"Vollandry"_s;
     trim.lampsLit = photo.place == Place::City;
     const bool dark = PaintOf(photo).colour.lightness() < 90;
     const QColor contrast = dark ? QColor(232, 230, 222) : QColor(18, 18, 20);
     switch (photo.model) {
     case Model::KestraOne:
-        trim.script = QStringLiteral("Kestra I");
+        trim.script = u"Kestra I"_s;
         trim.stripe = Trim::Stripe::Hockey;
         trim.stripeColour = QColor(16, 16, 18);
         trim.redLine = true;
         return trim;
     case Model::KestraThree:
-        trim.script = QStringLiteral("Kestra III");
+        trim.script = u"Kestra III"_s;
         trim.stripe = Trim::Stripe::Rocker;
         trim.stripeColour = QColor(200, 150, 50);
         return trim;
     case Model::SuperStallion:
-        trim.script = QStringLiteral("Super Stallion");
+        trim.script = u"Super Stallion"_s;
         trim.stripe = Trim::Stripe::Racing;
         trim.stripeColour = QColor(24, 26, 30);
         return trim;
     case Model::Tarrant:
-        trim.script = QStringLiteral("Tarrant");
+        trim.script = u"Tarrant"_s;
         trim.stripe = Trim::Stripe::Racing;
         trim.stripeColour = dark ? QColor(236, 234, 226) : QColor(24, 60, 140);
         trim.redLine = true;
         return trim;
     case Model::Harwell:
-        trim.script = QStringLiteral("Harwell");
+        trim.script = u"Harwell"_s;
         trim.whiteWalls = true;
         trim.vinylRoof = photo.variant % 2 == 1;
         return trim;
@@ -119,12 +121,12 @@ Trim TrimOf(const PlannedPhoto& photo)
     trim.whiteWalls = generation == 1 && photo.variant % 3 == 0;
     trim.redLine = generation <= 2 && photo.variant % 3 == 1;
     trim.vinylRoof = generation <= 3 && photo.variant % 4 == 2;
-    constexpr std::array kEarly = {Trim::Stripe::None, Trim::Stripe::Racing, Trim::Stripe::None,
-                                   Trim::Stripe::Rocker, Trim::Stripe::Hockey};
-    constexpr std::array kLate = {Trim::Stripe::None, Trim::Stripe::None, Trim::Stripe::Rocker,
-                                  Trim::Stripe::None, Trim::Stripe::Racing};
-    trim.stripe = generation <= 3 ? kEarly[static_cast<std::size_t>(photo.variant) % kEarly.size()]
-                                  : kLate[static_cast<std::size_t>(photo.variant) % kLate.size()];
+    constexpr std::array early = {Trim::Stripe::None, Trim::Stripe::Racing, Trim::Stripe::None,
+                                  Trim::Stripe::Rocker, Trim::Stripe::Hockey};
+    constexpr std::array late = {Trim::Stripe::None, Trim::Stripe::None, Trim::Stripe::Rocker,
+                                 Trim::Stripe::None, Trim::Stripe::Racing};
+    trim.stripe = generation <= 3 ? early[static_cast<std::size_t>(photo.variant) % early.size()]
+                                  : late[static_cast<std::size_t>(photo.variant) % late.size()];
     trim.stripeColour = contrast;
     return trim;
 }

@@ -3,6 +3,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void DrawRoundLamp(SkinPainter& p, double u, double v, double radius, bool lit)
@@ -57,8 +59,8 @@ void DrawGrille(SkinPainter& p, const CarShape& c, const QPainterPath& opening)
     depth.setColorAt(0, QColor(4, 4, 5));
     depth.setColorAt(1, QColor(26, 26, 28));
     p.Fill(opening, {depth, 0, 0, 240, 0});
-    const Look mesh = {c.chromeTrim ? QColor(150, 152, 156) : QColor(52, 53, 56), c.chromeTrim ? 190 : 40, 0,
-                       60, 0};
+    const Surface mesh = {c.chromeTrim ? QColor(150, 152, 156) : QColor(52, 53, 56), c.chromeTrim ? 190 : 40,
+                          0, 60, 0};
     QPainterPath bars;
     for (double v = c.grilleLow + 0.022; v < c.grilleHigh - 0.01; v += 0.026) {
         bars.moveTo(-c.grilleHalf, v);
@@ -85,7 +87,7 @@ void DrawBadge(SkinPainter& p, double u, double v, double size, bool chrome)
     shield.quadTo(u, v + size * 1.05, u + size, v + size * 0.8);
     shield.quadTo(u + size * 0.9, v - size * 0.6, u, v - size * 1.1);
     shield.quadTo(u - size * 0.9, v - size * 0.6, u - size, v + size * 0.8);
-    p.Fill(shield, chrome ? ChromeLook() : Look{QColor(200, 202, 206), 220, 0, 20, 0});
+    p.Fill(shield, chrome ? ChromeLook() : Surface{QColor(200, 202, 206), 220, 0, 20, 0});
     p.Raise(shield, 0.008, 60);
     QTransform inner;
     inner.translate(u, v);
@@ -110,9 +112,8 @@ void DrawPlate(SkinPainter& p, double u, double v, const QString& text)
     p.Fill(plate, {QColor(236, 226, 190), 0, 0, 150, 0});
     p.Line(RoundedPath(u - 0.155, v - 0.053, u + 0.155, v + 0.053, 0.01), 0.003,
            {QColor(30, 44, 92), 0, 0, 150, 0});
-    p.Text(text, u, v - 0.036, 0.088, QStringLiteral("Liberation Sans"), false, false,
-           {QColor(26, 40, 90), 0, 0, 150, 0});
-    p.Text(QStringLiteral("TORVIK"), u, v + 0.035, 0.016, QStringLiteral("Liberation Sans"), false, false,
+    p.Text(text, u, v - 0.036, 0.088, u"Liberation Sans"_s, false, false, {QColor(26, 40, 90), 0, 0, 150, 0});
+    p.Text(u"TORVIK"_s, u, v + 0.035, 0.016, u"Liberation Sans"_s, false, false,
            {QColor(26, 40, 90), 0, 0, 150, 0});
 }
 

@@ -4,7 +4,7 @@ namespace torvik::sample {
 
 namespace {
 
-constexpr int kLevel = 128;
+constexpr int reliefLevel = 128;
 
 QColor Grey(int level, int second = 0)
 {
@@ -24,7 +24,7 @@ SkinPainter::SkinPainter(double left, double bottom, double width, double height
     relief_ = QImage(size, QImage::Format_RGB32);
     colour_.fill(base);
     material_.fill(Qt::black);
-    relief_.fill(Grey(kLevel));
+    relief_.fill(Grey(reliefLevel));
     const auto open = [&](QImage& image) {
         auto painter = std::make_unique<QPainter>(&image);
         painter->setRenderHint(QPainter::Antialiasing);
@@ -37,15 +37,15 @@ SkinPainter::SkinPainter(double left, double bottom, double width, double height
     reliefPainter_ = open(relief_);
 }
 
-void SkinPainter::Fill(const QPainterPath& path, const Look& look)
+void SkinPainter::Fill(const QPainterPath& path, const Surface& look)
 {
     colourPainter_->fillPath(path, look.colour);
     materialPainter_->fillPath(path, QColor(look.metal, look.glass, look.rough));
     if (look.glow > 0)
-        reliefPainter_->fillPath(path, Grey(kLevel, look.glow));
+        reliefPainter_->fillPath(path, Grey(reliefLevel, look.glow));
 }
 
-void SkinPainter::Line(const QPainterPath& path, double width, const Look& look)
+void SkinPainter::Line(const QPainterPath& path, double width, const Surface& look)
 {
     colourPainter_->strokePath(path, QPen(look.colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     materialPainter_->strokePath(path, QPen(QColor(look.metal, look.glass, look.rough), width, Qt::SolidLine,
@@ -54,33 +54,33 @@ void SkinPainter::Line(const QPainterPath& path, double width, const Look& look)
 
 void SkinPainter::Ridge(const QPainterPath& path, double width, int steps)
 {
-    constexpr int kLayers = 5;
-    for (int i = 1; i <= kLayers; ++i) {
-        const double share = 1.0 - static_cast<double>(i - 1) / kLayers;
-        const double rise = std::sqrt(static_cast<double>(i) / kLayers);
-        reliefPainter_->strokePath(path, QPen(Grey(kLevel + static_cast<int>(steps * rise)), width * share,
-                                              Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    constexpr int layers = 5;
+    for (int i = 1; i <= layers; ++i) {
+        const double share = 1.0 - static_cast<double>(i - 1) / layers;
+        const double rise = std::sqrt(static_cast<double>(i) / layers);
+        reliefPainter_->strokePath(path, QPen(Grey(reliefLevel + static_cast<int>(steps * rise)),
+                                              width * share, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     }
 }
 
 void SkinPainter::Raise(const QPainterPath& path, double edge, int steps)
 {
-    constexpr int kLayers = 6;
-    for (int i = kLayers; i >= 1; --i) {
-        const int level = kLevel + steps * (kLayers - i + 1) / (kLayers + 1);
+    constexpr int layers = 6;
+    for (int i = layers; i >= 1; --i) {
+        const int level = reliefLevel + steps * (layers - i + 1) / (layers + 1);
         reliefPainter_->strokePath(
-            path, QPen(Grey(level), 2.0 * edge * i / kLayers, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            path, QPen(Grey(level), 2.0 * edge * i / layers, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     }
-    reliefPainter_->fillPath(path, Grey(kLevel + steps));
+    reliefPainter_->fillPath(path, Grey(reliefLevel + steps));
 }
 
 void SkinPainter::Gap(const QPainterPath& path)
 {
     Line(path, 0.006, {QColor(8, 8, 9), 0, 0, 255, 0});
-    reliefPainter_->strokePath(path,
-                               QPen(Grey(kLevel - 14), 0.014, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    reliefPainter_->strokePath(path,
-                               QPen(Grey(kLevel - 40), 0.006, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    reliefPainter_->strokePath(
+        path, QPen(Grey(reliefLevel - 14), 0.014, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    reliefPainter_->strokePath(
+        path, QPen(Grey(reliefLevel - 40), 0.006, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 void SkinPainter::ChromeBar(const QPainterPath& path, double width)
@@ -90,7 +90,7 @@ void SkinPainter::ChromeBar(const QPainterPath& path, double width)
 }
 
 void SkinPainter::Text(const QString& text, double u, double v, double height, const QString& family,
-                       bool italic, bool mirrored, const Look& look)
+                       bool italic, bool mirrored, const Surface& look)
 {
     QFont font(family);
     font.setPixelSize(100);
@@ -154,27 +154,27 @@ QPainterPath Mirrored(const QPainterPath& path)
     return QTransform::fromScale(-1, 1).map(path);
 }
 
-Look ChromeLook()
+Surface ChromeLook()
 {
     return {QColor(246, 246, 248), 255, 0, 0, 0};
 }
-Look RubberLook()
+Surface RubberLook()
 {
     return {QColor(34, 34, 36), 0, 0, 215, 0};
 }
-Look DarkLook()
+Surface DarkLook()
 {
     return {QColor(10, 10, 11), 0, 0, 235, 0};
 }
-Look GlassLook()
+Surface GlassLook()
 {
     return {QColor(30, 38, 40), 0, 255, 0, 0};
 }
-Look PaintLook(const QColor& colour)
+Surface PaintLook(const QColor& colour)
 {
     return {colour, 0, 0, 0, 0};
 }
-Look LampLook(const QBrush& colour, int glow)
+Surface LampLook(const QBrush& colour, int glow)
 {
     return {colour, 0, 0, 0, glow};
 }

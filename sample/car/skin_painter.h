@@ -10,7 +10,7 @@
 namespace torvik::sample {
 
 /// How a shape on a sheet looks. What is negative is left as it was.
-struct Look {
+struct Surface {
     QBrush colour;
     int metal = 0;
     int glass = 0;
@@ -24,8 +24,8 @@ public:
     SkinPainter(double left, double bottom, double width, double height, double pixelsPerMetre,
                 const QColor& base);
 
-    void Fill(const QPainterPath& path, const Look& look);
-    void Line(const QPainterPath& path, double width, const Look& look);
+    void Fill(const QPainterPath& path, const Surface& look);
+    void Line(const QPainterPath& path, double width, const Surface& look);
     /// Raises (or sinks) a line; `steps` of 0.1 mm.
     void Ridge(const QPainterPath& path, double width, int steps);
     /// Raises a whole shape with a soft edge of the given width.
@@ -35,7 +35,7 @@ public:
     /// A bar of bright metal with a rounded face.
     void ChromeBar(const QPainterPath& path, double width);
     void Text(const QString& text, double u, double v, double height, const QString& family, bool italic,
-              bool mirrored, const Look& look);
+              bool mirrored, const Surface& look);
     SkinMap Finish();
 
 private:
@@ -57,11 +57,11 @@ QPainterPath PolyPath(std::initializer_list<QPointF> points, bool closed);
 QPainterPath Mirrored(const QPainterPath& path);
 
 /// Looks that occur everywhere.
-Look ChromeLook();
-Look RubberLook();
-Look DarkLook();
-Look GlassLook();
-Look PaintLook(const QColor& colour);
-Look LampLook(const QBrush& colour, int glow);
+Surface ChromeLook();
+Surface RubberLook();
+Surface DarkLook();
+Surface GlassLook();
+Surface PaintLook(const QColor& colour);
+Surface LampLook(const QBrush& colour, int glow);
 
 } // namespace torvik::sample

@@ -3,6 +3,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void DrawTailLamp(SkinPainter& p, const QPainterPath& outline, bool lit, bool framed)
@@ -101,8 +103,8 @@ SkinMap DrawRearSkin(const CarShape& c, const Paint& paint, const Trim& trim, do
     p.Fill(cap, ChromeLook());
     p.Raise(cap, 0.02, 80);
     p.Fill(EllipsePath(0, (low + high) / 2, 0.038, 0.038), PaintLook(QColor(140, 16, 24)));
-    p.Text(QStringLiteral("T O R V I K"), half * 0.0, high + 0.025, 0.032, QStringLiteral("Liberation Sans"),
-           false, false, ChromeLook());
+    p.Text(u"T O R V I K"_s, half * 0.0, high + 0.025, 0.032, u"Liberation Sans"_s, false, false,
+           ChromeLook());
     if (c.bumper == Bumper::Hidden) {
         p.Gap(PolyPath({{-1.0, low - 0.03}, {1.0, low - 0.03}}, false));
         p.Fill(RoundedPath(-0.5, 0.20, 0.5, c.bottom(c.length) + 0.03, 0.03), RubberLook());

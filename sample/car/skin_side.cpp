@@ -4,6 +4,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The opening of the side windows: from the front corner along under the roof and down the rear edge.
@@ -41,7 +43,7 @@ QPainterPath AlongFlank(const CarShape& c, double from, double to, const Curve& 
 
 void DrawStripe(SkinPainter& p, const CarShape& c, const Trim& trim)
 {
-    const Look look = PaintLook(trim.stripeColour);
+    const Surface look = PaintLook(trim.stripeColour);
     const double rear = c.length - 0.15;
     switch (trim.stripe) {
     case Trim::Stripe::Rocker:
@@ -206,8 +208,8 @@ SkinMap DrawSideSkin(const CarShape& c, const Paint& paint, const Trim& trim, Ca
     p.Raise(rear, 0.006, 40);
     if (!trim.script.isEmpty())
         p.Text(trim.script, c.frontAxle + c.archRadius + 0.20, c.shoulder(1.3) - 0.16, 0.06,
-               QStringLiteral("Liberation Serif"), true, mirrored,
-               c.chromeTrim ? ChromeLook() : Look{QColor(225, 226, 228), 200, 0, 20, 0});
+               u"Liberation Serif"_s, true, mirrored,
+               c.chromeTrim ? ChromeLook() : Surface{QColor(225, 226, 228), 200, 0, 20, 0});
     return p.Finish();
 }
 

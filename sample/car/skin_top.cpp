@@ -10,10 +10,10 @@ namespace {
 QPainterPath PanePath(const CarShape& c, double from, double to, double pillar)
 {
     QPainterPath path;
-    constexpr int kSteps = 16;
+    constexpr int paneSteps = 16;
     for (int pass = 0; pass < 2; ++pass) {
-        for (int i = 0; i <= kSteps; ++i) {
-            const double t = static_cast<double>(pass == 0 ? i : kSteps - i) / kSteps;
+        for (int i = 0; i <= paneSteps; ++i) {
+            const double t = static_cast<double>(pass == 0 ? i : paneSteps - i) / paneSteps;
             const double s = Mix(from, to, t);
             const double y = (RoofRailAt(c, s).halfWidth - pillar) * (pass == 0 ? -1.0 : 1.0);
             if (pass == 0 && i == 0)

@@ -17,7 +17,7 @@ QPainterPath Spoke(double inner, double outer, double innerHalf, double outerHal
     return path;
 }
 
-void Spokes(SkinPainter& p, const QPainterPath& spoke, int count, const Look& look, double edge, int steps)
+void Spokes(SkinPainter& p, const QPainterPath& spoke, int count, const Surface& look, double edge, int steps)
 {
     for (int i = 0; i < count; ++i) {
         QTransform turn;
@@ -31,7 +31,7 @@ void Spokes(SkinPainter& p, const QPainterPath& spoke, int count, const Look& lo
 void Nuts(SkinPainter& p, int count, double radius)
 {
     for (int i = 0; i < count; ++i) {
-        const double a = 2 * kPi * (i + 0.5) / count;
+        const double a = 2 * pi * (i + 0.5) / count;
         const QPainterPath nut = EllipsePath(radius * std::cos(a), radius * std::sin(a), 0.0085, 0.0085);
         p.Fill(nut, ChromeLook());
         p.Raise(nut, 0.004, 60);
@@ -59,7 +59,7 @@ SkinMap DrawWheelSkin(const CarShape& c, const Paint& paint, const Trim& trim, d
     p.Ridge(EllipsePath(0, 0, Mix(rim, c.wheelRadius, 0.25), Mix(rim, c.wheelRadius, 0.25)), 0.02, 25);
     p.Ridge(EllipsePath(0, 0, Mix(rim, c.wheelRadius, 0.82), Mix(rim, c.wheelRadius, 0.82)), 0.02, 30);
     for (int i = 0; i < 90; ++i) {
-        const double a = 2 * kPi * i / 90;
+        const double a = 2 * pi * i / 90;
         p.Line(PolyPath({{c.wheelRadius * 0.955 * std::cos(a), c.wheelRadius * 0.955 * std::sin(a)},
                          {c.wheelRadius * std::cos(a), c.wheelRadius * std::sin(a)}},
                         false),
@@ -79,14 +79,14 @@ SkinMap DrawWheelSkin(const CarShape& c, const Paint& paint, const Trim& trim, d
     p.Fill(EllipsePath(0, 0, rim, rim), {hollow, 0, 0, 230, 0});
     p.Fill(EllipsePath(0, 0, rim * 0.66, rim * 0.66), {QColor(74, 74, 76), 90, 0, 130, 0});
     p.Fill(EllipsePath(0, 0, rim * 0.36, rim * 0.36), DarkLook());
-    const Look alloy = {QColor(196, 198, 202), 170, 0, 110, 0};
+    const Surface alloy = {QColor(196, 198, 202), 170, 0, 110, 0};
     switch (c.wheel) {
     case WheelFace::ChromeCap: {
         const QPainterPath dish = EllipsePath(0, 0, rim * 0.9, rim * 0.9);
         p.Fill(dish, ChromeLook());
         p.Ridge(EllipsePath(0, 0, rim * 0.78, rim * 0.78), 0.02, 60);
         for (int i = 0; i < 14; ++i) {
-            const double a = 2 * kPi * i / 14;
+            const double a = 2 * pi * i / 14;
             QTransform turn;
             turn.rotateRadians(a);
             const QPainterPath slot = turn.map(RoundedPath(rim * 0.50, -0.011, rim * 0.68, 0.011, 0.011));

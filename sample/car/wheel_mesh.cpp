@@ -36,7 +36,7 @@ void AddWheel(std::vector<Mesh>& parts, const Vec& hub, double radius, double ri
     for (const auto& [r, out] : profile) {
         std::vector<Vec> ring;
         for (int k = 0; k <= 56; ++k) {
-            const double a = 2 * kPi * k / 56;
+            const double a = 2 * pi * k / 56;
             ring.push_back(hub + Vec{r * std::cos(a), side * out, r * std::sin(a)});
         }
         rows.push_back(ring);

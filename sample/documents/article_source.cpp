@@ -10,6 +10,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SourceReader {
@@ -26,8 +28,8 @@ public:
     }
 
 private:
-    static constexpr const char* kKinds[] = {">< ", ">> ", "|= ", "== ", "= ", "- ",
-                                             "+ ",  "> ",  "% ",  ": ",  "| ", "@"};
+    static constexpr const char* lineKinds[] = {">< ", ">> ", "|= ", "== ", "= ", "- ",
+                                                "+ ",  "> ",  "% ",  ": ",  "| ", "@"};
 
     void ReadLine(const QString& line)
     {
@@ -36,7 +38,7 @@ private:
             FinishTable();
             return;
         }
-        for (const char* kind : kKinds) {
+        for (const char* kind : lineKinds) {
             const QString sign = QString::fromLatin1(kind);
             if (line.startsWith(sign)) {
                 const QString begun = line.mid(sign.size()).trimmed();
@@ -59,11 +61,11 @@ private:
         text_ += line.trimmed();
     }
 
-    bool SentenceEnds() const { return text_.isEmpty() || QStringLiteral(".?!”").contains(text_.back()); }
+    bool SentenceEnds() const { return text_.isEmpty() || u".?!”"_s.contains(text_.back()); }
 
     void FinishText()
     {
-        const QString text = QString(text_).replace(QStringLiteral("\\ "), QStringLiteral("\n"));
+        const QString text = QString(text_).replace(u"\\ "_s, u"\n"_s);
         const QString kind = kind_;
         text_.clear();
         kind_.clear();
@@ -155,7 +157,7 @@ private:
 
     static int Twips(const QString& word)
     {
-        static const QRegularExpression digits(QStringLiteral("^\\d+"));
+        static const QRegularExpression digits(u"^\\d+"_s);
         return digits.match(word).captured().toInt();
     }
 
@@ -213,7 +215,7 @@ void AddSource(Article& article, const QString& source)
 
 RichDocument ArticleOfSource(const QString& source)
 {
-    const QString divider = QStringLiteral("\n---\n");
+    const QString divider = u"\n---\n"_s;
     const qsizetype end = source.indexOf(divider);
     if (end < 0)
         throw std::runtime_error("An article has no head.");

@@ -19,7 +19,7 @@ struct SpecialColour {
     int to;
 };
 
-constexpr std::array kSpecials = {
+constexpr std::array specialColours = {
     SpecialColour{"Sea Holly Blue", 0x7FA3C4, false, 1967, 1968},
     SpecialColour{"Honeycomb", 0xD9A441, false, 1967, 1967},
     SpecialColour{"Cape Orrin Rose", 0xC98A8A, false, 1968, 1968},
@@ -56,7 +56,7 @@ constexpr std::array kSpecials = {
     SpecialColour{"Mineral Grey", 0x55585C, true, 2001, 2001},
 };
 
-constexpr std::array kTrims = {
+constexpr std::array seatTrims = {
     SeatTrim{"Black", "ribbed vinyl", 0x1A1A1C, 1967, 1978},
     SeatTrim{"Parchment", "ribbed vinyl", 0xD8CDB0, 1967, 1971},
     SeatTrim{"Saddle", "vinyl with stitched centre", 0x8A5A2E, 1967, 1976},
@@ -86,7 +86,7 @@ std::vector<CardColour> ColourCard(int year)
     std::vector<CardColour> card;
     for (const Paint& paint : PaintsOfYear(year))
         card.push_back({paint.name, paint.colour, paint.metallic > 0.15, {}, 0, false});
-    for (const SpecialColour& special : kSpecials) {
+    for (const SpecialColour& special : specialColours) {
         if (special.from <= year && year <= special.to)
             card.push_back(
                 {NameOf(special.name), QColor(QRgb(special.colour)), special.metallic, {}, 0, true});
@@ -114,7 +114,7 @@ std::vector<CardColour> ColourCard(int year)
 std::vector<SeatTrim> SeatTrims(int year)
 {
     std::vector<SeatTrim> found;
-    std::copy_if(kTrims.begin(), kTrims.end(), std::back_inserter(found),
+    std::copy_if(seatTrims.begin(), seatTrims.end(), std::back_inserter(found),
                  [year](const SeatTrim& trim) { return trim.from <= year && year <= trim.to; });
     return found;
 }

@@ -13,6 +13,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// An article that is one stored text.
@@ -21,7 +23,7 @@ struct LibraryFile {
     const char* text;
 };
 
-constexpr std::array kLibrary = {
+constexpr std::array libraryFiles = {
     LibraryFile{"books.rtf", "books"},
     LibraryFile{"carstuff.rtf", "calendars"},
     LibraryFile{"catalogs.rtf", "catalogs"},
@@ -65,7 +67,7 @@ constexpr std::array kLibrary = {
 /// "67" to "99", then "a0" and "a1": how the names of the articles of a year begin.
 QString ArticlePrefix(int year)
 {
-    return year < 2000 ? QString::number(year - 1900) : QStringLiteral("a%1").arg(year - 2000);
+    return year < 2000 ? QString::number(year - 1900) : u"a%1"_s.arg(year - 2000);
 }
 
 } // namespace
@@ -79,17 +81,16 @@ std::vector<PlannedDocument> PlanDocuments()
     for (const ModelYear& figures : ModelYears()) {
         const int year = figures.year;
         const QString prefix = ArticlePrefix(year);
-        add(prefix + QStringLiteral("desc.rtf"), YearDescription(year));
-        add(prefix + QStringLiteral("stats.rtf"), YearStatistics(year));
-        add(prefix + QStringLiteral("colors.rtf"), YearColours(year));
-        add(prefix + (year < 2000 ? QStringLiteral("opts.rtf") : QStringLiteral("OPTS.rtf")),
-            YearOptions(year));
-        add(QStringLiteral("nostalgia%1.rtf").arg(year % 100, 2, 10, QLatin1Char('0')), YearNostalgia(year));
+        add(prefix + u"desc.rtf"_s, YearDescription(year));
+        add(prefix + u"stats.rtf"_s, YearStatistics(year));
+        add(prefix + u"colors.rtf"_s, YearColours(year));
+        add(prefix + (year < 2000 ? u"opts.rtf"_s : u"OPTS.rtf"_s), YearOptions(year));
+        add(u"nostalgia%1.rtf"_s.arg(year % 100, 2, 10, '0'_L1), YearNostalgia(year));
     }
-    for (const LibraryFile& library : kLibrary)
+    for (const LibraryFile& library : libraryFiles)
         add(QString::fromLatin1(library.file),
             ArticleOfSource(StoredText(QString::fromLatin1(library.text))));
-    add(QStringLiteral("stats.rtf"), LibraryStatistics());
+    add(u"stats.rtf"_s, LibraryStatistics());
     std::sort(documents.begin(), documents.end(),
               [](const PlannedDocument& a, const PlannedDocument& b) { return a.file < b.file; });
     return documents;
@@ -98,7 +99,7 @@ std::vector<PlannedDocument> PlanDocuments()
 void MakeDocuments(const QString& disc)
 {
     for (const PlannedDocument& document : PlanDocuments())
-        WriteFile(disc + QStringLiteral("/RichText/") + document.file, document.text);
+        WriteFile(disc + u"/RichText/"_s + document.file, document.text);
 }
 
 } // namespace torvik::sample

@@ -14,8 +14,8 @@ namespace torvik::sample {
 
 namespace {
 
-constexpr double kPixelsWide = 440;
-const QColor kInk(40, 38, 44);
+constexpr double pixelsWide = 440;
+const QColor drawingInk(40, 38, 44);
 
 /// Colours between two, both included, are all that smooth edges need.
 void AddMixtures(QList<QRgb>& table, const QColor& from, const QColor& to, int count)
@@ -33,9 +33,9 @@ void AddMixtures(QList<QRgb>& table, const QColor& from, const QColor& to, int c
 QImage Reduced(const QImage& picture, const QColor& body)
 {
     QList<QRgb> table;
-    AddMixtures(table, Qt::white, kInk, 6);
+    AddMixtures(table, Qt::white, drawingInk, 6);
     AddMixtures(table, body, Qt::white, 5);
-    AddMixtures(table, body, kInk, 5);
+    AddMixtures(table, body, drawingInk, 5);
     return picture.convertToFormat(QImage::Format_Indexed8, table, Qt::ThresholdDither | Qt::AvoidDither);
 }
 
@@ -66,7 +66,7 @@ public:
     }
 
 private:
-    static constexpr double kStep = 0.04;
+    static constexpr double step = 0.04;
 
     double Top(double s) const
     {
@@ -75,7 +75,7 @@ private:
 
     void Ground()
     {
-        painter_.setPen(QPen(kInk, 0.012));
+        painter_.setPen(QPen(drawingInk, 0.012));
         painter_.drawLine(QPointF(-0.12, 0), QPointF(shape_.length + 0.12, 0));
     }
 
@@ -84,12 +84,12 @@ private:
         QPainterPath path(QPointF(0.05, shape_.bottom(0) + 0.02));
         path.lineTo(0.0, shape_.centre(0) - 0.16);
         path.quadTo(0.0, shape_.centre(0), 0.09, shape_.centre(0.09));
-        for (double s = 0.12; s < shape_.length - 0.08; s += kStep)
+        for (double s = 0.12; s < shape_.length - 0.08; s += step)
             path.lineTo(s, Top(s));
         path.quadTo(shape_.length, shape_.centre(shape_.length), shape_.length,
                     shape_.centre(shape_.length) - 0.1);
         path.lineTo(shape_.length - 0.05, shape_.bottom(shape_.length));
-        for (double s = shape_.length - 0.08; s > 0.1; s -= kStep)
+        for (double s = shape_.length - 0.08; s > 0.1; s -= step)
             path.lineTo(s, shape_.bottom(s));
         path.closeSubpath();
         for (const double axle : {shape_.frontAxle, shape_.rearAxle}) {
@@ -102,7 +102,7 @@ private:
 
     void Body()
     {
-        painter_.setPen(QPen(kInk, 0.022, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter_.setPen(QPen(drawingInk, 0.022, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter_.setBrush(body_);
         painter_.drawPath(Outline());
     }
@@ -116,11 +116,11 @@ private:
         const double highFront = shape_.header + 0.06;
         const double highRear = shape_.windowRear - shape_.windowLean;
         path.lineTo(highFront, shape_.roof(highFront) - 0.07);
-        for (double s = highFront; s < highRear; s += kStep)
+        for (double s = highFront; s < highRear; s += step)
             path.lineTo(s, shape_.roof(s) - 0.07);
         path.lineTo(shape_.windowRear, sill(shape_.windowRear));
         path.closeSubpath();
-        painter_.setPen(QPen(kInk, 0.014, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter_.setPen(QPen(drawingInk, 0.014, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter_.setBrush(QColor(226, 226, 228));
         painter_.drawPath(path);
         const double post = shape_.doorRear - 0.03;
@@ -131,9 +131,9 @@ private:
     void Lines()
     {
         painter_.setBrush(Qt::NoBrush);
-        painter_.setPen(QPen(kInk, 0.011));
+        painter_.setPen(QPen(drawingInk, 0.011));
         QPainterPath shoulder(QPointF(0.2, shape_.shoulder(0.2)));
-        for (double s = 0.2; s < shape_.length - 0.1; s += kStep)
+        for (double s = 0.2; s < shape_.length - 0.1; s += step)
             shoulder.lineTo(s, shape_.shoulder(s));
         painter_.drawPath(shoulder);
         const double sill = 0.06;
@@ -142,10 +142,10 @@ private:
         painter_.drawLine(QPointF(shape_.doorRear, shape_.bottom(shape_.doorRear) + sill),
                           QPointF(shape_.doorRear, shape_.shoulder(shape_.doorRear)));
         const double handle = shape_.shoulder(shape_.doorRear) - 0.11;
-        painter_.setPen(QPen(kInk, 0.022));
+        painter_.setPen(QPen(drawingInk, 0.022));
         painter_.drawLine(QPointF(shape_.doorRear - 0.24, handle), QPointF(shape_.doorRear - 0.1, handle));
         if (shape_.sideScoop) {
-            painter_.setPen(QPen(kInk, 0.014));
+            painter_.setPen(QPen(drawingInk, 0.014));
             const double at = shape_.doorRear + 0.1;
             painter_.drawLine(QPointF(at, 0.47), QPointF(at + 0.05, 0.72));
             painter_.drawLine(QPointF(at + 0.05, 0.72), QPointF(shape_.doorFront - 0.1, 0.66));
@@ -155,7 +155,7 @@ private:
 
     void Ends()
     {
-        painter_.setPen(QPen(kInk, 0.014));
+        painter_.setPen(QPen(drawingInk, 0.014));
         painter_.setBrush(Qt::white);
         const double lamp = shape_.centre(0) - 0.12;
         painter_.drawEllipse(QPointF(0.075, lamp), 0.035, 0.07);
@@ -184,14 +184,14 @@ private:
     {
         const QPointF hub(axle, shape_.wheelRadius);
         painter_.setPen(Qt::NoPen);
-        painter_.setBrush(kInk);
+        painter_.setBrush(drawingInk);
         painter_.drawEllipse(hub, shape_.wheelRadius, shape_.wheelRadius);
         painter_.setBrush(Qt::white);
         painter_.drawEllipse(hub, shape_.rimRadius, shape_.rimRadius);
         const int spokes = shape_.wheel == WheelFace::TenSpoke  ? 10
                            : shape_.wheel == WheelFace::Turbine ? 14
                                                                 : 5;
-        painter_.setPen(QPen(kInk, shape_.wheel == WheelFace::FiveStar ? 0.05 : 0.024));
+        painter_.setPen(QPen(drawingInk, shape_.wheel == WheelFace::FiveStar ? 0.05 : 0.024));
         if (shape_.wheel != WheelFace::ChromeCap) {
             for (int i = 0; i < spokes; ++i) {
                 const double angle = 2 * std::numbers::pi * i / spokes + 0.3;
@@ -202,7 +202,7 @@ private:
             painter_.setBrush(Qt::NoBrush);
             painter_.drawEllipse(hub, shape_.rimRadius * 0.62, shape_.rimRadius * 0.62);
         }
-        painter_.setPen(QPen(kInk, 0.014));
+        painter_.setPen(QPen(drawingInk, 0.014));
         painter_.setBrush(Qt::white);
         painter_.drawEllipse(hub, 0.05, 0.05);
     }
@@ -215,8 +215,8 @@ private:
 Drawing SideOf(const CarShape& shape, const QColor& body, int width)
 {
     const double metres = shape.length + 0.3;
-    const double scale = kPixelsWide / metres;
-    QImage picture(static_cast<int>(kPixelsWide), static_cast<int>(1.5 * scale), QImage::Format_RGB32);
+    const double scale = pixelsWide / metres;
+    QImage picture(static_cast<int>(pixelsWide), static_cast<int>(1.5 * scale), QImage::Format_RGB32);
     picture.fill(Qt::white);
     {
         QPainter painter(&picture);
@@ -262,7 +262,7 @@ Drawing EngineDrawing(const QString& layout, int width)
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.translate(150, 165);
-        painter.setPen(QPen(kInk, 2.2));
+        painter.setPen(QPen(drawingInk, 2.2));
         const bool vee = layout.startsWith(u'v');
         const double lean = layout == u"v6" ? 30 : 45;
         const std::vector<double> banks = vee ? std::vector<double>{-lean, lean} : std::vector<double>{0.0};
@@ -292,7 +292,7 @@ Drawing EngineDrawing(const QString& layout, int width)
         painter.drawEllipse(QPointF(-66, 10), 22, 22);
         painter.drawEllipse(QPointF(66, -6), 18, 18);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(kInk, 4));
+        painter.setPen(QPen(drawingInk, 4));
         painter.drawLine(QPointF(-78, -9), QPointF(78, -20));
         painter.drawLine(QPointF(-62, 32), QPointF(0, 29));
         painter.drawLine(QPointF(0, 29), QPointF(70, 12));

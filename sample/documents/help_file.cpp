@@ -7,14 +7,16 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 QByteArray HelpText()
 {
-    return WriteRichText(ArticleOfSource(StoredText(QStringLiteral("help"))));
+    return WriteRichText(ArticleOfSource(StoredText(u"help"_s)));
 }
 
 void MakeHelpFile(const QString& program)
 {
-    WriteFile(program + QStringLiteral("/Torvik2001.HLP"), HelpText());
+    WriteFile(program + u"/Torvik2001.HLP"_s, HelpText());
 }
 
 } // namespace torvik::sample

@@ -10,6 +10,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Row RowOf(const Article& article, const QStringList& parts, const QColor& shade)
@@ -36,7 +38,7 @@ Row HeadOf(const Article& article, const QStringList& parts)
 
 QString OrDash(int number)
 {
-    return number > 0 ? Grouped(number) : QStringLiteral("–");
+    return number > 0 ? Grouped(number) : u"–"_s;
 }
 
 int MostPower(int year)
@@ -55,18 +57,16 @@ RichDocument LibraryStatistics()
     style.body = Typeface::Sans;
     style.bodySize = 20;
     style.accent = QColor(31, 63, 119);
-    Article article(QStringLiteral("Torvik statistics"), Dialect::Styled, 1998, style);
-    article.Title(QStringLiteral("All years in figures"));
-    article.Text(QStringLiteral(
-        "Cars built by season and body, the price of the simplest coupe, and the power of the strongest "
-        "engine on the order sheet. The ground changes its shade with the generation of the body."));
+    Article article(u"Torvik statistics"_s, Dialect::Styled, 1998, style);
+    article.Title(u"All years in figures"_s);
+    article.Text(
+        u"Cars built by season and body, the price of the simplest coupe, and the power of the strongest "
+        "engine on the order sheet. The ground changes its shade with the generation of the body."_s);
     Table table;
     table.border = Border::Rules;
     table.widths = {850, 1100, 1150, 1200, 1250, 950, 700};
-    table.rows.push_back(
-        HeadOf(article, {QStringLiteral("Season"), QStringLiteral("Coupe"), QStringLiteral("Fastback"),
-                         QStringLiteral("Convertible"), QStringLiteral("All"), QStringLiteral("Price"),
-                         QStringLiteral("bhp")}));
+    table.rows.push_back(HeadOf(
+        article, {u"Season"_s, u"Coupe"_s, u"Fastback"_s, u"Convertible"_s, u"All"_s, u"Price"_s, u"bhp"_s}));
     ModelYear sum{};
     const ModelYear* best = &ModelYearOf(1967);
     const ModelYear* least = best;
@@ -84,21 +84,19 @@ RichDocument LibraryStatistics()
         least = year.Built() < least->Built() ? &year : least;
     }
     table.rows.push_back(
-        HeadOf(article, {QStringLiteral("All"), Grouped(sum.coupes), Grouped(sum.fastbacks),
-                         Grouped(sum.convertibles), Grouped(sum.Built()), QString(), QString()}));
+        HeadOf(article, {u"All"_s, Grouped(sum.coupes), Grouped(sum.fastbacks), Grouped(sum.convertibles),
+                         Grouped(sum.Built()), QString(), QString()}));
     article.AddTable(table);
-    article.Heading(QStringLiteral("High and low"));
-    article.Bullet(QStringLiteral("The best season was *%1* with %2 cars, the weakest *%3* with %4.")
-                       .arg(best->year)
+    article.Heading(u"High and low"_s);
+    article.Bullet(u"The best season was *%1* with %2 cars, the weakest *%3* with %4."_s.arg(best->year)
                        .arg(Grouped(best->Built()))
                        .arg(least->year)
                        .arg(Grouped(least->Built())));
-    article.Bullet(QStringLiteral("One car in %1 was a convertible, though there was none in nine seasons.")
-                       .arg(sum.Built() / sum.convertibles));
-    article.Bullet(QStringLiteral("From %1 to %2 the coupe’s price rose to %3 times what it had been.")
-                       .arg(1967)
-                       .arg(2001)
-                       .arg(double(ModelYearOf(2001).price) / ModelYearOf(1967).price, 0, 'f', 1));
+    article.Bullet(u"One car in %1 was a convertible, though there was none in nine seasons."_s.arg(
+        sum.Built() / sum.convertibles));
+    article.Bullet(
+        u"From %1 to %2 the coupe’s price rose to %3 times what it had been."_s.arg(1967).arg(2001).arg(
+            double(ModelYearOf(2001).price) / ModelYearOf(1967).price, 0, 'f', 1));
     return article.Take();
 }
 

@@ -8,9 +8,11 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr std::array<ModelYear, 35> kYears = {{
+constexpr std::array<ModelYear, 35> modelYears = {{
     // Year, price, coupes, fastbacks, convertibles, weight.
     {1967, 2490, 52140, 18360, 9410, 1265},  {1968, 2580, 61075, 24910, 10230, 1290},
     {1969, 2665, 55320, 33480, 8115, 1330},  {1970, 2760, 41230, 29945, 5870, 1350},
@@ -36,19 +38,19 @@ constexpr std::array<ModelYear, 35> kYears = {{
 
 std::span<const ModelYear> ModelYears()
 {
-    return kYears;
+    return modelYears;
 }
 
 const ModelYear& ModelYearOf(int year)
 {
-    if (year < kYears.front().year || year > kYears.back().year)
+    if (year < modelYears.front().year || year > modelYears.back().year)
         throw std::out_of_range("There is no such model year.");
-    return kYears.at(static_cast<std::size_t>(year - kYears.front().year));
+    return modelYears.at(static_cast<std::size_t>(year - modelYears.front().year));
 }
 
 QString FastbackName(int year)
 {
-    return year < 1974 ? QStringLiteral("Fastback") : QStringLiteral("Hatchback");
+    return year < 1974 ? u"Fastback"_s : u"Hatchback"_s;
 }
 
 Measures MeasuresOf(int year)

@@ -6,11 +6,13 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using enum OptionGroup;
 
-constexpr std::array kOptions = {
+constexpr std::array allOptions = {
     Option{Drive, "Three-speed automatic, “Glide-Matic”", 1967, 1979, 178},
     Option{Drive, "Four-speed automatic with overdrive", 1980, 2001, 165},
     Option{Drive, "Four-speed gearbox, floor lever", 1967, 1978, 172},
@@ -68,7 +70,7 @@ constexpr std::array kOptions = {
 std::vector<Option> OptionsOf(int year, OptionGroup group)
 {
     std::vector<Option> found;
-    for (const Option& option : kOptions) {
+    for (const Option& option : allOptions) {
         if (option.group == group && option.from <= year && year <= option.to)
             found.push_back(option);
     }
@@ -79,15 +81,15 @@ QString GroupName(OptionGroup group)
 {
     switch (group) {
     case Drive:
-        return QStringLiteral("Drive, brakes and springs");
+        return u"Drive, brakes and springs"_s;
     case Comfort:
-        return QStringLiteral("Comfort");
+        return u"Comfort"_s;
     case Looks:
-        return QStringLiteral("Appearance");
+        return u"Appearance"_s;
     case Sound:
         break;
     }
-    return QStringLiteral("Sound");
+    return u"Sound"_s;
 }
 
 int PriceIn(int year, int priceOf1967)
@@ -108,7 +110,7 @@ QString Grouped(int number)
 
 QString Dollars(int amount)
 {
-    return QStringLiteral("$") + Grouped(amount);
+    return u"$"_s + Grouped(amount);
 }
 
 } // namespace torvik::sample

@@ -7,9 +7,11 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 QString StoredText(const QString& name)
 {
-    QFile file(QStringLiteral(":/sample/documents/%1.txt").arg(name));
+    QFile file(u":/sample/documents/%1.txt"_s.arg(name));
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error("A text of the articles is missing: " + name.toStdString());
     return QString::fromUtf8(file.readAll());
@@ -17,7 +19,7 @@ QString StoredText(const QString& name)
 
 QByteArray StoredScreen(const QString& name)
 {
-    QFile file(QStringLiteral(":/sample/screens/%1.png").arg(name));
+    QFile file(u":/sample/screens/%1.png"_s.arg(name));
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error("A picture of a screen is missing: " + name.toStdString());
     return file.readAll();

@@ -27,12 +27,12 @@ int LongestOf(const std::vector<QByteArray>& frames)
 
 QByteArray MainHeader(const AviMovie& movie)
 {
-    constexpr int kHasIndexAndIsInterleaved = 0x10 | 0x100;
+    constexpr int hasIndexAndIsInterleaved = 0x10 | 0x100;
     const int frames = static_cast<int>(movie.frames.size());
     const int longest = LongestOf(movie.frames);
     return RiffChunk(
         "avih", Numbers({1000000 / movie.framesPerSecond,
-                         longest * movie.framesPerSecond + movie.bytesPerSecond, 0, kHasIndexAndIsInterleaved,
+                         longest * movie.framesPerSecond + movie.bytesPerSecond, 0, hasIndexAndIsInterleaved,
                          frames, 0, 2, longest, movie.size.width(), movie.size.height(), 0, 0, 0, 0}));
 }
 
@@ -79,7 +79,7 @@ qsizetype SoundBefore(const AviMovie& movie, std::size_t frame)
 
 QByteArray AviFile(const AviMovie& movie)
 {
-    constexpr int kKeyFrame = 0x10;
+    constexpr int keyFrame = 0x10;
     QByteArray headers = MainHeader(movie);
     headers += PictureStream(movie);
     headers += SoundStream(movie);
@@ -88,7 +88,7 @@ QByteArray AviFile(const AviMovie& movie)
     const auto add = [&](const char* name, const QByteArray& content) {
         index += QByteArray(name, 4);
         // Places count from the word "movi".
-        index += Numbers({kKeyFrame, static_cast<int>(pieces.size()) + 4, static_cast<int>(content.size())});
+        index += Numbers({keyFrame, static_cast<int>(pieces.size()) + 4, static_cast<int>(content.size())});
         pieces += RiffChunk(name, content);
     };
     for (std::size_t i = 0; i < movie.frames.size(); ++i) {

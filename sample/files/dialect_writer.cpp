@@ -112,10 +112,10 @@ QByteArray Word(const char* name, qint64 number)
 
 QByteArray HexLines(const QByteArray& bytes)
 {
-    constexpr int kBytesInLine = 64;
+    constexpr int bytesInLine = 64;
     QByteArray lines;
-    for (qsizetype i = 0; i < bytes.size(); i += kBytesInLine)
-        lines += "\r\n" + bytes.mid(i, kBytesInLine).toHex();
+    for (qsizetype i = 0; i < bytes.size(); i += bytesInLine)
+        lines += "\r\n" + bytes.mid(i, bytesInLine).toHex();
     return lines;
 }
 

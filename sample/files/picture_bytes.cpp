@@ -8,7 +8,7 @@ namespace torvik::sample {
 
 namespace {
 
-constexpr int kColours = 16;
+constexpr int colourCount = 16;
 
 void PutWord(QByteArray& bytes, int value)
 {
@@ -57,7 +57,7 @@ QByteArray PngOfDrawing(const QImage& drawing)
 
 QByteArray DibOfDrawing(const QImage& drawing)
 {
-    if (drawing.format() != QImage::Format_Indexed8 || drawing.colorCount() > kColours)
+    if (drawing.format() != QImage::Format_Indexed8 || drawing.colorCount() > colourCount)
         throw std::runtime_error("A drawing has too many colours.");
     const QByteArray runs = RunsOf(drawing);
     QByteArray bytes;
@@ -70,9 +70,9 @@ QByteArray DibOfDrawing(const QImage& drawing)
     PutLong(bytes, runs.size());
     PutLong(bytes, 3780); // pixels to the metre
     PutLong(bytes, 3780);
-    PutLong(bytes, kColours);
+    PutLong(bytes, colourCount);
     PutLong(bytes, 0);
-    for (int i = 0; i < kColours; ++i) {
+    for (int i = 0; i < colourCount; ++i) {
         const QRgb colour = i < drawing.colorCount() ? drawing.color(i) : 0;
         bytes += static_cast<char>(qBlue(colour));
         bytes += static_cast<char>(qGreen(colour));

@@ -139,9 +139,9 @@ QByteArray StyledWriter::HeadEnd() const
 {
     QByteArray end = "\\widowctrl\\ftnbj\\aenddoc\\hyphcaps0\\formshade\\viewkind4\\viewscale100\\pgbrdrhead"
                      "\\pgbrdrfoot \\fet0\\sectd \\linex0\\endnhere\\sectdefaultcl ";
-    constexpr const char* kKinds[] = {"\\pnucrm", "\\pnucltr", "\\pndec", "\\pnlcltr"};
+    constexpr const char* kinds[] = {"\\pnucrm", "\\pnucltr", "\\pndec", "\\pnlcltr"};
     for (int i = 0; i < 4; ++i)
-        end += "{\\*" + Word("pnseclvl", i + 1) + kKinds[i] + "\\pnstart1\\pnindent720\\pnhang{\\pntxta .}}";
+        end += "{\\*" + Word("pnseclvl", i + 1) + kinds[i] + "\\pnstart1\\pnindent720\\pnhang{\\pntxta .}}";
     return end + "\r\n";
 }
 

@@ -4,10 +4,12 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Outlines are taken from letters of this size, so that hinting does not show.
-constexpr int kOutlineSize = 200;
+constexpr int outlineSize = 200;
 
 } // namespace
 
@@ -24,9 +26,9 @@ QFont FontOf(const Type& type, double size)
 
 QPainterPath Lettering(const QString& text, double height, const Type& type)
 {
-    const QFont font = FontOf(type, kOutlineSize);
+    const QFont font = FontOf(type, outlineSize);
     QPainterPath capital;
-    capital.addText(0, 0, font, QStringLiteral("H"));
+    capital.addText(0, 0, font, u"H"_s);
     QPainterPath path;
     path.addText(0, 0, font, text);
     const double scale = height / capital.boundingRect().height();

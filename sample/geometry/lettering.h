@@ -9,7 +9,7 @@ namespace torvik::sample {
 
 /// How printed words are set. The families are those that the project installs for itself.
 struct Type {
-    QString family = QStringLiteral("Liberation Sans");
+    QString family = QString::fromLatin1("Liberation Sans");
     bool bold = false;
     bool italic = false;
     double spacing = 100; ///< percent of the usual distance of letters

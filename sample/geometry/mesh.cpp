@@ -40,9 +40,9 @@ Mesh Ellipsoid(const Vec& centre, const Vec& radii, Finish finish)
     std::vector<std::vector<Vec>> rows;
     for (int i = 0; i <= 12; ++i) {
         std::vector<Vec> row;
-        const double latitude = -kPi / 2 + kPi * (i + 0.001) / 12.002;
+        const double latitude = -pi / 2 + pi * (i + 0.001) / 12.002;
         for (int j = 0; j <= 20; ++j) {
-            const double longitude = 2 * kPi * j / 20;
+            const double longitude = 2 * pi * j / 20;
             row.push_back(centre + Vec{radii.x * std::cos(latitude) * std::cos(longitude),
                                        radii.y * std::cos(latitude) * std::sin(longitude),
                                        radii.z * std::sin(latitude)});

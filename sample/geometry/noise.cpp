@@ -25,9 +25,9 @@ inline int FloorFast(double v)
     return v < whole ? whole - 1 : whole;
 }
 
-constexpr std::uint32_t kAcross = 0x8DA6B343U;
-constexpr std::uint32_t kDown = 0xD8163841U;
-constexpr std::uint32_t kSeed = 0xCB1AB31FU;
+constexpr std::uint32_t acrossFactor = 0x8DA6B343U;
+constexpr std::uint32_t downFactor = 0xD8163841U;
+constexpr std::uint32_t seedFactor = 0xCB1AB31FU;
 
 } // namespace
 
@@ -52,8 +52,8 @@ int Random::Below(int count)
 
 double Hash(int x, int y, std::uint32_t seed)
 {
-    return Scrambled(static_cast<std::uint32_t>(x) * kAcross + static_cast<std::uint32_t>(y) * kDown +
-                     seed * kSeed);
+    return Scrambled(static_cast<std::uint32_t>(x) * acrossFactor +
+                     static_cast<std::uint32_t>(y) * downFactor + seed * seedFactor);
 }
 
 double Noise(double x, double y, std::uint32_t seed)
@@ -64,10 +64,11 @@ double Noise(double x, double y, std::uint32_t seed)
     double fy = y - iy;
     fx = fx * fx * (3.0 - 2.0 * fx);
     fy = fy * fy * (3.0 - 2.0 * fy);
-    const std::uint32_t corner =
-        static_cast<std::uint32_t>(ix) * kAcross + static_cast<std::uint32_t>(iy) * kDown + seed * kSeed;
-    const double top = Mix(Scrambled(corner), Scrambled(corner + kAcross), fx);
-    const double bottom = Mix(Scrambled(corner + kDown), Scrambled(corner + kDown + kAcross), fx);
+    const std::uint32_t corner = static_cast<std::uint32_t>(ix) * acrossFactor +
+                                 static_cast<std::uint32_t>(iy) * downFactor + seed * seedFactor;
+    const double top = Mix(Scrambled(corner), Scrambled(corner + acrossFactor), fx);
+    const double bottom =
+        Mix(Scrambled(corner + downFactor), Scrambled(corner + downFactor + acrossFactor), fx);
     return Mix(top, bottom, fy);
 }
 

@@ -14,7 +14,7 @@ struct Vec {
 
 using Rgb = Vec;
 
-constexpr double kPi = 3.14159265358979323846;
+constexpr double pi = 3.14159265358979323846;
 
 inline Vec operator+(const Vec& a, const Vec& b)
 {

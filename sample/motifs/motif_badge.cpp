@@ -7,6 +7,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 QImage PaintBadge(const PlannedPhoto& photo)
 {
     QImage picture(photo.size, QImage::Format_ARGB32_Premultiplied);
@@ -51,7 +53,7 @@ QImage PaintBadge(const PlannedPhoto& photo)
     p.setClipPath(inner);
     p.setPen(QPen(QColor(255, 120, 100, 50), 2));
     for (int i = 0; i < 40; ++i) {
-        const double a = kPi * i / 40;
+        const double a = pi * i / 40;
         p.drawLine(m + QPointF(0, size),
                    m + QPointF(0, size) + QPointF(std::cos(a), -std::sin(a)) * size * 3);
     }
@@ -61,13 +63,13 @@ QImage PaintBadge(const PlannedPhoto& photo)
     DropShadow(p, tee, size * 0.05, 0.8);
     FillMetal(p, tee, QColor(206, 208, 212), 1.2);
     p.strokePath(tee, QPen(QColor(255, 255, 255, 170), 2));
-    QFont font(QStringLiteral("Liberation Serif"));
+    QFont font(u"Liberation Serif"_s);
     font.setItalic(true);
     font.setBold(true);
     font.setPixelSize(static_cast<int>(h * (lettering ? 0.22 : 0.105)));
     QPainterPath script;
     script.addText(QPointF(lettering ? w * 0.36 : w * 0.34, lettering ? h * 0.54 : h * 0.93), font,
-                   QStringLiteral("Vollandry"));
+                   u"Vollandry"_s);
     // The letters stand on a bar, as cast ones do.
     const QRectF box = script.boundingRect();
     QPainterPath bar;

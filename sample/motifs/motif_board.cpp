@@ -6,14 +6,16 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int kSide = 900;
+constexpr int boardSide = 900;
 
 /// The board seen straight from above.
 QImage Board()
 {
-    QImage board(kSide, kSide, QImage::Format_ARGB32_Premultiplied);
+    QImage board(boardSide, boardSide, QImage::Format_ARGB32_Premultiplied);
     QPainter p(&board);
     p.setRenderHint(QPainter::Antialiasing);
     p.fillRect(board.rect(), QColor(214, 226, 208));
@@ -25,15 +27,15 @@ QImage Board()
                                          "Lantern St.", "Hessel Pass", "Saltmarsh"};
     static const char* const corners[] = {"START", "PIT STOP", "PARKING", "TOW-AWAY"};
     const double corner = 120;
-    const double field = (kSide - 2 * corner) / 9;
-    QFont font(QStringLiteral("Liberation Sans"));
+    const double field = (boardSide - 2 * corner) / 9;
+    QFont font(u"Liberation Sans"_s);
     for (int side = 0; side < 4; ++side) {
         p.save();
-        p.translate(kSide / 2.0, kSide / 2.0);
+        p.translate(boardSide / 2.0, boardSide / 2.0);
         p.rotate(90 * side);
-        p.translate(-kSide / 2.0, -kSide / 2.0);
+        p.translate(-boardSide / 2.0, -boardSide / 2.0);
         for (int i = 0; i < 9; ++i) {
-            const QRectF box(corner + i * field, kSide - corner, field, corner);
+            const QRectF box(corner + i * field, boardSide - corner, field, corner);
             p.setPen(QPen(QColor(24, 26, 24), 3));
             p.setBrush(Qt::NoBrush);
             p.drawRect(box);
@@ -46,9 +48,9 @@ QImage Board()
             p.drawText(QRectF(box.left() + 2, box.top() + 30, field - 4, 40),
                        Qt::AlignHCenter | Qt::TextWordWrap, QString::fromLatin1(fields[(i + side * 2) % 9]));
             p.drawText(QRectF(box.left(), box.bottom() - 24, field, 20), Qt::AlignCenter,
-                       QStringLiteral("%1").arg(60 + 20 * (i + side * 9)));
+                       u"%1"_s.arg(60 + 20 * (i + side * 9)));
         }
-        const QRectF box(kSide - corner, kSide - corner, corner, corner);
+        const QRectF box(boardSide - corner, boardSide - corner, corner, corner);
         p.drawRect(box);
         font.setPixelSize(19);
         p.setFont(font);
@@ -58,7 +60,7 @@ QImage Board()
         p.restore();
     }
     // The middle: the name across, two piles of cards.
-    p.translate(kSide / 2.0, kSide / 2.0);
+    p.translate(boardSide / 2.0, boardSide / 2.0);
     p.rotate(-45);
     p.fillRect(QRectF(-290, -52, 580, 104), QColor(176, 24, 32));
     p.setPen(QPen(QColor(250, 240, 214), 4));
@@ -66,15 +68,14 @@ QImage Board()
     font.setPixelSize(54);
     p.setFont(font);
     p.setPen(QColor(252, 244, 222));
-    p.drawText(QRectF(-290, -52, 580, 104), Qt::AlignCenter, QStringLiteral("VOLLANDRY"));
+    p.drawText(QRectF(-290, -52, 580, 104), Qt::AlignCenter, u"VOLLANDRY"_s);
     for (const double y : {-190.0, 120.0}) {
         p.setPen(QPen(QColor(40, 40, 40), 2));
         p.setBrush(y < 0 ? QColor(238, 170, 60) : QColor(120, 180, 206));
         p.drawRoundedRect(QRectF(-90, y, 180, 96), 8, 8);
         font.setPixelSize(18);
         p.setFont(font);
-        p.drawText(QRectF(-90, y, 180, 96), Qt::AlignCenter,
-                   y < 0 ? QStringLiteral("BREAKDOWN") : QStringLiteral("GOOD FORTUNE"));
+        p.drawText(QRectF(-90, y, 180, 96), Qt::AlignCenter, y < 0 ? u"BREAKDOWN"_s : u"GOOD FORTUNE"_s);
     }
     return board;
 }
@@ -127,7 +128,8 @@ QImage PaintBoardGame(const PlannedPhoto& photo)
     for (const QPointF& corner : corners[photo.variant % 3])
         target << QPointF(corner.x() * w, corner.y() * h);
     QTransform lie;
-    QTransform::quadToQuad(QPolygonF({{0, 0}, {kSide, 0}, {kSide, kSide}, {0, kSide}}), target, lie);
+    QTransform::quadToQuad(QPolygonF({{0, 0}, {boardSide, 0}, {boardSide, boardSide}, {0, boardSide}}),
+                           target, lie);
     QPainterPath outline;
     outline.addPolygon(target);
     outline.closeSubpath();
@@ -145,7 +147,8 @@ QImage PaintBoardGame(const PlannedPhoto& photo)
     Trim trim;
     static const int years[] = {1967, 1972, 1985, 1999};
     for (int i = 0; i < 4; ++i) {
-        const QPointF on = lie.map(QPointF(kSide * (0.18 + 0.2 * i), kSide * (i % 2 == 0 ? 0.93 : 0.72)));
+        const QPointF on =
+            lie.map(QPointF(boardSide * (0.18 + 0.2 * i), boardSide * (i % 2 == 0 ? 0.93 : 0.72)));
         const double wide = w * (0.17 + 0.06 * on.y() / h);
         const Paint pewter{QString(), QColor(126, 128, 132), 1.0};
         const QImage car =
@@ -176,7 +179,7 @@ QImage PaintBoardGame(const PlannedPhoto& photo)
         p.fillPath(paper, QColor::fromHsv((i * 70 + 90) % 360, 60, 226));
         p.setPen(QPen(QColor(60, 60, 60), 2));
         p.drawRect(note.adjusted(6, 6, -6, -6));
-        QFont font(QStringLiteral("Liberation Serif"));
+        QFont font(u"Liberation Serif"_s);
         font.setBold(true);
         font.setPixelSize(static_cast<int>(h * 0.05));
         p.setFont(font);

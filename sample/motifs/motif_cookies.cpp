@@ -128,7 +128,7 @@ QImage PaintCookies(const PlannedPhoto& photo)
         p.strokePath(line, QPen(photo.variant == 0 ? QColor(30, 60, 130) : QColor(160, 30, 40), 5));
         const int count = photo.variant == 0 ? 6 : 7;
         for (int i = 0; i < count; ++i) {
-            const double a = 2 * kPi * i / (count - 1) + 0.4;
+            const double a = 2 * pi * i / (count - 1) + 0.4;
             const double away = i == count - 1 ? 0.0 : 1.0;
             p.save();
             p.translate(m + QPointF(std::cos(a) * w * 0.215 * away, std::sin(a) * h * 0.255 * away));

@@ -6,6 +6,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void PaintDial(QPainter& p, const QPointF& m, double r, int highest, const QString& unit, double share,
@@ -25,11 +27,11 @@ void PaintDial(QPainter& p, const QPointF& m, double r, int highest, const QStri
     p.setBrush(face);
     p.drawEllipse(m, r, r);
     const int marks = 10;
-    QFont font(QStringLiteral("Liberation Sans"));
+    QFont font(u"Liberation Sans"_s);
     font.setPixelSize(std::max(6, static_cast<int>(r * 0.15)));
     p.setFont(font);
     for (int i = 0; i <= marks * 5; ++i) {
-        const double a = (225.0 - 270.0 * i / (marks * 5)) / 180 * kPi;
+        const double a = (225.0 - 270.0 * i / (marks * 5)) / 180 * pi;
         const QPointF way(std::cos(a), -std::sin(a));
         const bool major = i % 5 == 0;
         p.setPen(QPen(ink, major ? r * 0.022 : r * 0.010));
@@ -41,7 +43,7 @@ void PaintDial(QPainter& p, const QPointF& m, double r, int highest, const QStri
         }
     }
     p.drawText(QRectF(m.x() - r * 0.5, m.y() + r * 0.28, r, r * 0.2), Qt::AlignCenter, unit);
-    const double a = (225.0 - 270.0 * share) / 180 * kPi;
+    const double a = (225.0 - 270.0 * share) / 180 * pi;
     const QPointF tip = m + QPointF(std::cos(a), -std::sin(a)) * r * 0.86;
     const QPointF tail = m - QPointF(std::cos(a), -std::sin(a)) * r * 0.2;
     p.setPen(QPen(QColor(0, 0, 0, 120), r * 0.05, Qt::SolidLine, Qt::RoundCap));
@@ -76,9 +78,9 @@ void PaintSteeringWheel(QPainter& p, const QPointF& m, double r, int generation)
     for (int i = 0; i < spokes; ++i) {
         const double a = spokes == 3
                              ? (i == 0   ? 0.05
-                                : i == 1 ? kPi - 0.05
-                                         : kPi / 2)
-                             : (i < 2 ? (i == 0 ? 0.15 : kPi - 0.15) : (i == 2 ? kPi * 0.33 : kPi * 0.67));
+                                : i == 1 ? pi - 0.05
+                                         : pi / 2)
+                             : (i < 2 ? (i == 0 ? 0.15 : pi - 0.15) : (i == 2 ? pi * 0.33 : pi * 0.67));
         const QPointF way(std::cos(a), std::sin(a));
         const QPointF across(-way.y(), way.x());
         QPainterPath spoke;
@@ -218,12 +220,12 @@ QImage PaintDashboard(const PlannedPhoto& photo)
     const QColor ink = generation == 5 ? QColor(255, 176, 80) : QColor(226, 232, 226);
     const bool chrome = generation <= 3 || generation == 6;
     const double share = 0.05 + 0.12 * (photo.variant % 5);
-    PaintDial(p, {w * 0.185, h * 0.66}, h * 0.125, generation >= 4 ? 140 : 120, QStringLiteral("MPH"),
-              share * 0.4, chrome, ink);
-    PaintDial(p, {w * 0.40, h * 0.66}, h * 0.125, 80, QStringLiteral("RPM x100"), 0.14, chrome, ink);
-    PaintDial(p, {w * 0.62, h * 0.635}, h * 0.062, 100, QStringLiteral("OIL"), 0.55, chrome, ink);
-    PaintDial(p, {w * 0.725, h * 0.63}, h * 0.062, 240, QStringLiteral("TEMP"), 0.48, chrome, ink);
-    PaintDial(p, {w * 0.83, h * 0.625}, h * 0.062, 60, QStringLiteral("CLOCK"), 0.7, chrome, ink);
+    PaintDial(p, {w * 0.185, h * 0.66}, h * 0.125, generation >= 4 ? 140 : 120, u"MPH"_s, share * 0.4, chrome,
+              ink);
+    PaintDial(p, {w * 0.40, h * 0.66}, h * 0.125, 80, u"RPM x100"_s, 0.14, chrome, ink);
+    PaintDial(p, {w * 0.62, h * 0.635}, h * 0.062, 100, u"OIL"_s, 0.55, chrome, ink);
+    PaintDial(p, {w * 0.725, h * 0.63}, h * 0.062, 240, u"TEMP"_s, 0.48, chrome, ink);
+    PaintDial(p, {w * 0.83, h * 0.625}, h * 0.062, 60, u"CLOCK"_s, 0.7, chrome, ink);
     // Radio.
     QPainterPath radio;
     radio.addRoundedRect(QRectF(w * 0.61, h * 0.80, w * 0.26, h * 0.10), 6, 6);

@@ -7,6 +7,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 QImage PaintDieCast(const PlannedPhoto& photo)
 {
     const double w = photo.size.width();
@@ -37,10 +39,10 @@ QImage PaintDieCast(const PlannedPhoto& photo)
     const Paint paint = PaintsOfYear(photo.year)[static_cast<std::size_t>(photo.variant + 1) % 6];
     Trim trim;
     trim.plate = QString::number(photo.year);
-    trim.script = QStringLiteral("Vollandry");
+    trim.script = u"Vollandry"_s;
     trim.stripe = photo.variant % 2 == 0 ? Trim::Stripe::Racing : Trim::Stripe::None;
     trim.stripeColour = paint.colour.lightness() < 100 ? QColor(238, 236, 228) : QColor(20, 20, 22);
-    const bool boxed = photo.prefix == QLatin1String("TF");
+    const bool boxed = photo.prefix == "TF"_L1;
     // The box, with a window or a picture.
     QPainterPath carton;
     carton.addRect(QRectF(w * 0.52, h * 0.10, w * 0.40, h * 0.52));
@@ -65,18 +67,18 @@ QImage PaintDieCast(const PlannedPhoto& photo)
     p.setPen(QPen(QColor(226, 192, 110), 4));
     p.setBrush(Qt::NoBrush);
     p.drawRect(QRectF(w * 0.535, h * 0.125, w * 0.37, h * 0.47));
-    QFont font(QStringLiteral("Liberation Serif"));
+    QFont font(u"Liberation Serif"_s);
     font.setBold(true);
     font.setPixelSize(static_cast<int>(h * 0.048));
     p.setFont(font);
     p.setPen(QColor(238, 208, 130));
     p.drawText(QRectF(w * 0.54, h * 0.13, w * 0.36, h * 0.07), Qt::AlignCenter,
-               QStringLiteral("%1 Torvik Vollandry").arg(photo.year));
+               u"%1 Torvik Vollandry"_s.arg(photo.year));
     font.setPixelSize(static_cast<int>(h * 0.026));
     font.setItalic(true);
     p.setFont(font);
     p.drawText(QRectF(w * 0.54, h * 0.54, w * 0.36, h * 0.05), Qt::AlignCenter,
-               QStringLiteral("Precision model, scale 1:24"));
+               u"Precision model, scale 1:24"_s);
     const QImage small = CutOutCar(shape, paint, trim, View::Side,
                                    QSize(static_cast<int>(w * 0.5), static_cast<int>(w * 0.3)));
     p.fillRect(QRectF(w * 0.555, h * 0.21, w * 0.33, h * 0.32), QColor(222, 214, 194));
@@ -102,7 +104,7 @@ QImage PaintDieCast(const PlannedPhoto& photo)
     p.setFont(font);
     p.setPen(QColor(50, 34, 10));
     p.drawText(QRectF(w * 0.60, h * 0.84, w * 0.24, h * 0.075), Qt::AlignCenter,
-               QStringLiteral("No. %1 of 2500").arg(214 + photo.variant * 377));
+               u"No. %1 of 2500"_s.arg(214 + photo.variant * 377));
     return picture;
 }
 

@@ -6,6 +6,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Hose(QPainter& p, const QPainterPath& way, double thick, const QColor& colour)
@@ -94,7 +96,7 @@ QImage PaintEngine(const PlannedPhoto& photo)
         FillGlossy(p, tower, paint.darker(150));
         for (int i = 0; i < 3; ++i) {
             QPainterPath nut;
-            const double a = 2 * kPi * i / 3 + 0.4;
+            const double a = 2 * pi * i / 3 + 0.4;
             nut.addEllipse(QPointF(x(0.165) + std::cos(a) * w * 0.035, h * 0.44 + std::sin(a) * w * 0.035), 8,
                            8);
             FillMetal(p, nut, QColor(196, 196, 200), 0.9);
@@ -145,13 +147,12 @@ QImage PaintEngine(const PlannedPhoto& photo)
         p.save();
         p.translate(w * 0.5, h * 0.47);
         p.rotate(-90);
-        QFont font(QStringLiteral("Liberation Sans"));
+        QFont font(u"Liberation Sans"_s);
         font.setBold(true);
         font.setPixelSize(static_cast<int>(h * 0.06));
         p.setFont(font);
         p.setPen(QColor(24, 24, 26));
-        p.drawText(QRectF(-h * 0.26, -h * 0.05, h * 0.52, h * 0.1), Qt::AlignCenter,
-                   QStringLiteral("TORVIK V8"));
+        p.drawText(QRectF(-h * 0.26, -h * 0.05, h * 0.52, h * 0.1), Qt::AlignCenter, u"TORVIK V8"_s);
         p.restore();
     } else {
         // The round air cleaner.
@@ -174,17 +175,16 @@ QImage PaintEngine(const PlannedPhoto& photo)
         QPainterPath label;
         label.addEllipse(m, w * 0.066, w * 0.066);
         p.fillPath(label, QColor(18, 18, 20));
-        QFont font(QStringLiteral("Liberation Sans"));
+        QFont font(u"Liberation Sans"_s);
         font.setBold(true);
         font.setPixelSize(static_cast<int>(w * 0.022));
         p.setFont(font);
         p.setPen(QColor(232, 206, 120));
-        p.drawText(QRectF(m.x() - 120, m.y() - w * 0.05, 240, w * 0.03), Qt::AlignCenter,
-                   QStringLiteral("TORVIK"));
+        p.drawText(QRectF(m.x() - 120, m.y() - w * 0.05, 240, w * 0.03), Qt::AlignCenter, u"TORVIK"_s);
         font.setPixelSize(static_cast<int>(w * 0.016));
         p.setFont(font);
         p.drawText(QRectF(m.x() - 120, m.y() + w * 0.018, 240, w * 0.03), Qt::AlignCenter,
-                   generation == 3 ? QStringLiteral("2.3 LITRE") : QStringLiteral("V8 351"));
+                   generation == 3 ? u"2.3 LITRE"_s : u"V8 351"_s);
         p.setPen(Qt::NoPen);
         QPainterPath nut;
         nut.addEllipse(m, 15, 15);

@@ -6,6 +6,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 QImage PaintKnife(const PlannedPhoto& photo)
 {
     const double w = photo.size.width();
@@ -40,12 +42,12 @@ QImage PaintKnife(const PlannedPhoto& photo)
     p.strokePath(blade, QPen(QColor(255, 255, 255, 120), 2 * u));
     p.setPen(QPen(QColor(60, 64, 70), 3 * u));
     p.drawLine(QPointF(90 * u, -42 * u), QPointF(330 * u, -46 * u));
-    QFont font(QStringLiteral("Liberation Serif"));
+    QFont font(u"Liberation Serif"_s);
     font.setItalic(true);
     font.setPixelSize(static_cast<int>(44 * u));
     p.setFont(font);
     p.setPen(QColor(70, 76, 84));
-    p.drawText(QPointF(130 * u, 4 * u), QStringLiteral("Vollandry"));
+    p.drawText(QPointF(130 * u, 4 * u), u"Vollandry"_s);
     // The handle, in resin over a painted car.
     QPainterPath handle;
     handle.moveTo(60 * u, -74 * u);

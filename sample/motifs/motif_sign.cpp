@@ -7,6 +7,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A wall of bricks with deep joints.
@@ -95,8 +97,8 @@ QImage PaintSign(const PlannedPhoto& photo)
         QPainterPath wedge;
         const QPointF m(box.center().x(), box.center().y() + h * 0.1);
         wedge.moveTo(m);
-        wedge.lineTo(m + QPointF(std::cos(i * kPi / 12), -std::sin(i * kPi / 12)) * w);
-        wedge.lineTo(m + QPointF(std::cos((i + 1) * kPi / 12), -std::sin((i + 1) * kPi / 12)) * w);
+        wedge.lineTo(m + QPointF(std::cos(i * pi / 12), -std::sin(i * pi / 12)) * w);
+        wedge.lineTo(m + QPointF(std::cos((i + 1) * pi / 12), -std::sin((i + 1) * pi / 12)) * w);
         p.fillPath(wedge, ray);
     }
     p.restore();
@@ -106,7 +108,7 @@ QImage PaintSign(const PlannedPhoto& photo)
     p.drawImage(QRectF(box.left() + box.width() * 0.06, box.top() + box.height() * 0.14, box.width() * 0.88,
                        box.width() * 0.88 * 0.6),
                 car);
-    QFont font(QStringLiteral("Liberation Sans"));
+    QFont font(u"Liberation Sans"_s);
     font.setBold(true);
     font.setPixelSize(static_cast<int>(box.height() * 0.15));
     const auto lettering = [&](const QString& text, double y, double high) {

@@ -6,6 +6,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The edge of a stamp: a row of half circles bitten out of each side.
@@ -57,13 +59,13 @@ QImage PaintStamps(const PlannedPhoto& photo)
         cream.setColorAt(0, QColor(250, 246, 234));
         cream.setColorAt(1, QColor(220, 212, 192));
         p.fillPath(paper, cream);
-        QFont font(QStringLiteral("Liberation Serif"));
+        QFont font(u"Liberation Serif"_s);
         font.setPixelSize(static_cast<int>(sh * 0.11));
         font.setItalic(true);
         p.setFont(font);
         p.setPen(QColor(80, 66, 50));
         p.drawText(QRectF(-sw * 1.7, -sh * 1.29, sw * 3.4, sh * 0.2), Qt::AlignCenter,
-                   QStringLiteral("The Torvik Vollandry - six seasons in six stamps"));
+                   u"The Torvik Vollandry - six seasons in six stamps"_s);
     }
     static const int years[] = {1967, 1971, 1976, 1985, 1995, 1999};
     for (int r = 0; r < rows; ++r) {
@@ -103,19 +105,19 @@ QImage PaintStamps(const PlannedPhoto& photo)
             p.drawEllipse(QPointF(0, art.bottom() - art.height() * 0.25), art.width() * 0.42,
                           art.height() * 0.07);
             p.drawImage(QRectF(art.left(), art.top() + art.height() * 0.06, art.width(), art.height()), car);
-            QFont font(QStringLiteral("Liberation Sans"));
+            QFont font(u"Liberation Sans"_s);
             font.setBold(true);
             font.setPixelSize(static_cast<int>(sh * 0.13));
             p.setFont(font);
             p.setPen(QColor(255, 255, 255));
             p.drawText(art.adjusted(sw * 0.02, sh * 0.01, 0, 0), Qt::AlignLeft | Qt::AlignTop,
-                       QStringLiteral("%1c").arg(15 + 5 * which));
+                       u"%1c"_s.arg(15 + 5 * which));
             font.setPixelSize(static_cast<int>(sh * 0.075));
             p.setFont(font);
             p.drawText(art.adjusted(0, 0, -sw * 0.02, -sh * 0.01), Qt::AlignRight | Qt::AlignBottom,
-                       QStringLiteral("VOLLANDRY %1").arg(years[which]));
+                       u"VOLLANDRY %1"_s.arg(years[which]));
             p.drawText(art.adjusted(sw * 0.02, 0, 0, -sh * 0.01), Qt::AlignLeft | Qt::AlignBottom,
-                       QStringLiteral("AVEREL"));
+                       u"AVEREL"_s);
             p.setPen(QPen(QColor(255, 255, 255, 120), 1.5));
             p.setBrush(Qt::NoBrush);
             p.drawRect(art);

@@ -7,6 +7,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A study that never went into production: the body of its year with other proportions.
@@ -143,7 +145,7 @@ QImage PaintSketch(const PlannedPhoto& photo)
             draw(ring, 1.4);
         }
         for (int i = 0; i < 5; ++i) {
-            const double a = 2 * kPi * i / 5 + 0.3;
+            const double a = 2 * pi * i / 5 + 0.3;
             QPainterPath spoke;
             spoke.moveTo(at(axle + 0.05 * std::cos(a), shape.wheelRadius + 0.05 * std::sin(a)));
             spoke.lineTo(at(axle + 0.18 * std::cos(a), shape.wheelRadius + 0.18 * std::sin(a)));
@@ -157,19 +159,19 @@ QImage PaintSketch(const PlannedPhoto& photo)
         p.drawLine(at(axle, -0.28), at(axle, 1.4));
     p.drawLine(at(0, 1.0), at(0, -0.42));
     p.drawLine(at(shape.length, 1.0), at(shape.length, -0.42));
-    QFont font(QStringLiteral("Liberation Serif"));
+    QFont font(u"Liberation Serif"_s);
     font.setItalic(true);
     font.setPixelSize(static_cast<int>(h * 0.032));
     p.setFont(font);
     p.setPen(ink);
     p.drawText(QPointF(at(1.9, -0.24)),
-               QStringLiteral("%1 mm").arg(static_cast<int>((shape.rearAxle - shape.frontAxle) * 1000)));
-    p.drawText(QPointF(at(2.0, -0.40)), QStringLiteral("%1 mm").arg(static_cast<int>(shape.length * 1000)));
+               u"%1 mm"_s.arg(static_cast<int>((shape.rearAxle - shape.frontAxle) * 1000)));
+    p.drawText(QPointF(at(2.0, -0.40)), u"%1 mm"_s.arg(static_cast<int>(shape.length * 1000)));
     font.setPixelSize(static_cast<int>(h * 0.045));
     p.setFont(font);
     p.drawText(QPointF(sheet.left() + 40, sheet.top() + h * 0.08),
-               photo.year < 1971 ? QStringLiteral("Project X-4, fastback, third idea")
-                                 : QStringLiteral("Project X-7, longer and wider"));
+               photo.year < 1971 ? u"Project X-4, fastback, third idea"_s
+                                 : u"Project X-7, longer and wider"_s);
     // A small view from the front in the corner.
     p.save();
     p.translate(sheet.right() - w * 0.15, sheet.top() + h * 0.15);

@@ -9,6 +9,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Write(QPainter& painter, const QString& text, const QPointF& middle, double height,
@@ -16,7 +18,7 @@ void Write(QPainter& painter, const QString& text, const QPointF& middle, double
 {
     QFont font(family);
     font.setBold(true);
-    font.setItalic(family.contains(QLatin1String("Serif")));
+    font.setItalic(family.contains("Serif"_L1));
     font.setPixelSize(100);
     QPainterPath path;
     path.addText(0, 0, font, text);
@@ -58,8 +60,8 @@ QImage DrawCard(const Card& card, double age, QSize size)
     painter.setPen(QPen(QColor(236, 214, 160, 170), 1.5));
     painter.drawRect(QRectF(10.5, 10.5, w - 21, h - 21));
     painter.drawLine(QPointF(w * 0.28, h * 0.66), QPointF(w * 0.72, h * 0.66));
-    const QString serif = QStringLiteral("Liberation Serif");
-    const QString plain = QStringLiteral("Liberation Sans");
+    const QString serif = u"Liberation Serif"_s;
+    const QString plain = u"Liberation Sans"_s;
     Write(painter, card.small, {w / 2, h * 0.27}, h * 0.058, plain, QColor(232, 220, 190));
     QLinearGradient shine(QPointF(w * (age * 0.9 - 0.5), 0), QPointF(w * (age * 0.9), h * 0.3));
     shine.setColorAt(0, QColor(238, 206, 136));
@@ -90,7 +92,7 @@ QImage PaintMovieOpening(QSize size)
     const double bottom = h * 0.84;
     PaintFilmEdges(painter, w, top, bottom, h * 0.055);
     Trim trim;
-    trim.plate = QStringLiteral("1967");
+    trim.plate = u"1967"_s;
     trim.whiteWalls = true;
     const Stage stage(ShapeOfYear(1967), PaintsOfYear(1967)[0], trim, CoastScenery(4));
     const QSizeF frame(w * 0.46, (bottom - top) - h * 0.15);
@@ -104,10 +106,9 @@ QImage PaintMovieOpening(QSize size)
     QLinearGradient gold(0, h * 0.08, 0, h * 0.22);
     gold.setColorAt(0, QColor(255, 246, 214));
     gold.setColorAt(1, QColor(226, 178, 96));
-    Write(painter, QStringLiteral("Torvik Movies"), {w / 2, h * 0.15}, h * 0.155,
-          QStringLiteral("Liberation Serif"), gold);
-    Write(painter, QStringLiteral("The Vollandry in motion"), {w / 2, h * 0.92}, h * 0.058,
-          QStringLiteral("Liberation Sans"), QColor(236, 224, 200));
+    Write(painter, u"Torvik Movies"_s, {w / 2, h * 0.15}, h * 0.155, u"Liberation Serif"_s, gold);
+    Write(painter, u"The Vollandry in motion"_s, {w / 2, h * 0.92}, h * 0.058, u"Liberation Sans"_s,
+          QColor(236, 224, 200));
     return picture;
 }
 

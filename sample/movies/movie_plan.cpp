@@ -50,7 +50,7 @@ Shot Tracking(double seconds, const Vec& from, const Vec& to, double lens, doubl
 {
     return {seconds, [=](double t) {
                 const double share = SmoothStep(0, seconds, t);
-                return Look{Mix(from, to, share), {-0.05, 0, 0.68}, lens, start + speed * t};
+                return Moment{Mix(from, to, share), {-0.05, 0, 0.68}, lens, start + speed * t};
             }};
 }
 
@@ -59,7 +59,7 @@ Shot Roadside(double seconds, double passing, double aside, double high, double 
 {
     return {seconds, [=](double t) {
                 const double ahead = speed * (t - passing);
-                return Look{{ahead, -aside, high}, {0, 0, 0.62}, lens, ahead};
+                return Moment{{ahead, -aside, high}, {0, 0, 0.62}, lens, ahead};
             }};
 }
 
@@ -67,7 +67,7 @@ Shot Roadside(double seconds, double passing, double aside, double high, double 
 
 double MoviePlan::Seconds() const
 {
-    double seconds = kTitleSeconds + kEndSeconds;
+    double seconds = titleSeconds + endSeconds;
     for (const Shot& shot : shots)
         seconds += shot.seconds;
     return seconds;
@@ -102,8 +102,8 @@ const std::vector<MoviePlan>& Movies()
           {3.5,
            [](double t) {
                // Seen from the car, the world slides to one side and back while the tail swings out.
-               const double swing = 1.1 * std::sin(2 * kPi * t / 3.5);
-               return Look{{-5.8 * std::sin(swing), -6.2 * std::cos(swing), 1.2}, {0, 0, 0.62}, 42, 9 * t};
+               const double swing = 1.1 * std::sin(2 * pi * t / 3.5);
+               return Moment{{-5.8 * std::sin(swing), -6.2 * std::cos(swing), 1.2}, {0, 0, 0.62}, 42, 9 * t};
            }},
           Roadside(3.25, 1.7, 5.2, 1.5, 36, 9)},
          GliderSound},
@@ -124,18 +124,18 @@ const std::vector<MoviePlan>& Movies()
          {{3.5,
            [](double t) {
                // The camera nods to the beat.
-               const double beat = std::abs(std::sin(kPi * t / 0.4375));
-               return Look{{-5.6 + 0.5 * t, -4.6, 0.6 + 0.16 * beat}, {-0.1, 0, 0.68}, 42, 0};
+               const double beat = std::abs(std::sin(pi * t / 0.4375));
+               return Moment{{-5.6 + 0.5 * t, -4.6, 0.6 + 0.16 * beat}, {-0.1, 0, 0.68}, 42, 0};
            }},
           {2.625,
            [](double t) {
                const double ahead = 4.5 * t * t;
-               return Look{{1.2 + 0.35 * ahead, -6.4, 1.0}, {0.2, 0, 0.66}, 38, ahead};
+               return Moment{{1.2 + 0.35 * ahead, -6.4, 1.0}, {0.2, 0, 0.66}, 38, ahead};
            }},
           {1.75,
            [](double t) {
                const double angle = 0.6 + 1.7 * t;
-               return Look{{-6.4 * std::cos(angle), -6.4 * std::sin(angle), 1.3}, {0, 0, 0.66}, 40, 14 * t};
+               return Moment{{-6.4 * std::cos(angle), -6.4 * std::sin(angle), 1.3}, {0, 0, 0.66}, 40, 14 * t};
            }},
           Roadside(2.625, 1.1, 4.6, 0.7, 32, 18)},
          RockSound},

@@ -17,7 +17,7 @@ Stage::Stage(CarShape shape, const Paint& paint, const Trim& trim, Scenery scene
         std::make_shared<GroundShadow>(parts_, scenery_.light.toSun, scenery_.shadowStrength, 1);
 }
 
-QImage Stage::Draw(const Look& look, QSize size) const
+QImage Stage::Draw(const Moment& look, QSize size) const
 {
     const Camera camera = LookAt(look.eye, look.target, look.lens, size);
     const double driven = look.driven;

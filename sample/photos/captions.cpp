@@ -7,6 +7,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString Pick(std::initializer_list<const char*> choices, int variant)
@@ -50,7 +52,7 @@ QString PlaceText(Place place, int variant)
     case Place::Studio:
         break;
     }
-    return QStringLiteral("in the studio of the works");
+    return u"in the studio of the works"_s;
 }
 
 QString ViewText(View view, int variant)
@@ -95,8 +97,8 @@ QString ViewText(View view, int variant)
 QString CarText(const PlannedPhoto& photo)
 {
     const Paint paint = PaintOf(photo);
-    return ViewText(photo.view, photo.variant) % QStringLiteral(": a car in ") % paint.name %
-           QLatin1Char(' ') % PlaceText(photo.place, photo.variant) % QStringLiteral(". ") %
+    return ViewText(photo.view, photo.variant) % u": a car in "_s % paint.name % u' ' %
+           PlaceText(photo.place, photo.variant) % u". "_s %
            Pick({"Owned from new by one family.", "Restored over four winters.",
                  "The tyres are of a later make.", "It has covered more than 90,000 miles.",
                  "The picture hung in the dealer's office for years.", "Only the mirrors are not original.",
@@ -181,9 +183,9 @@ QString Heading(const PlannedPhoto& photo)
 {
     for (const Topic& topic : Topics()) {
         if (topic.prefix == photo.prefix)
-            return topic.title % QStringLiteral(", no. ") % QString::number(photo.number);
+            return topic.title % u", no. "_s % QString::number(photo.number);
     }
-    return QString::number(photo.year) % QStringLiteral(" Torvik Vollandry");
+    return QString::number(photo.year) % u" Torvik Vollandry"_s;
 }
 
 QString NoteText(const PlannedPhoto& photo)
@@ -230,7 +232,7 @@ QString NoteText(const PlannedPhoto& photo)
 
 Caption CaptionOf(const PlannedPhoto& photo)
 {
-    return {photo.Stem().toLower() % QStringLiteral(".rtf"), ShortDocument(Heading(photo), TopicText(photo))};
+    return {photo.Stem().toLower() % u".rtf"_s, ShortDocument(Heading(photo), TopicText(photo))};
 }
 
 std::vector<Caption> PlanNotes()
@@ -241,7 +243,7 @@ std::vector<Caption> PlanNotes()
             if (topic.prefix != photo.prefix || topic.notePrefixLow.isEmpty())
                 continue;
             const QString& prefix = photo.number < 5 ? topic.notePrefixLow : topic.notePrefixHigh;
-            notes.push_back({prefix % QString::number(photo.number * 2) % QStringLiteral(".rtf"),
+            notes.push_back({prefix % QString::number(photo.number * 2) % u".rtf"_s,
                              ShortDocument(Heading(photo), NoteText(photo))});
         }
     }
@@ -254,9 +256,8 @@ std::vector<Caption> PlanNotes()
         "A remarque of the badge stands in the margin of the first fifty sheets.",
         "The original hangs in the canteen of the works."};
     for (std::size_t i = 0; i < prints.size(); ++i) {
-        notes.push_back(
-            {QStringLiteral("glsj0%1.rtf").arg((i + 1) * 2),
-             ShortDocument(QStringLiteral("Arlen Mercer Art Print"), QString::fromLatin1(prints[i]))});
+        notes.push_back({u"glsj0%1.rtf"_s.arg((i + 1) * 2),
+                         ShortDocument(u"Arlen Mercer Art Print"_s, QString::fromLatin1(prints[i]))});
     }
     return notes;
 }

@@ -7,29 +7,31 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int kFirstYear = 1967;
-constexpr int kLastYear = 2001;
+constexpr int firstYear = 1967;
+constexpr int lastYear = 2001;
 
 QString FileName(const QString& prefix, const QString& letters, int number)
 {
-    return QStringLiteral("%1%2%3.JPG").arg(prefix, letters).arg(number, 3, 10, QLatin1Char('0'));
+    return u"%1%2%3.JPG"_s.arg(prefix, letters).arg(number, 3, 10, '0'_L1);
 }
 
 /// The photos of a year: the hero picture first, then the other sides, details between them.
 PlannedPhoto YearPhoto(int year, int number)
 {
-    constexpr std::array kPlaces = {Place::Coast,    Place::Autumn, Place::City, Place::Desert,
-                                    Place::Showroom, Place::Strip,  Place::Snow};
-    const int turn = year - kFirstYear;
+    constexpr std::array places = {Place::Coast,    Place::Autumn, Place::City, Place::Desert,
+                                   Place::Showroom, Place::Strip,  Place::Snow};
+    const int turn = year - firstYear;
     PlannedPhoto photo;
     photo.prefix = PrefixOfYear(year);
     photo.number = number;
-    photo.file = FileName(photo.prefix, QStringLiteral("TOR"), number);
+    photo.file = FileName(photo.prefix, u"TOR"_s, number);
     photo.year = year;
     photo.variant = turn * 3 + number;
-    photo.place = kPlaces[static_cast<std::size_t>(turn * 3 + (number - 1) * 2) % kPlaces.size()];
+    photo.place = places[static_cast<std::size_t>(turn * 3 + (number - 1) * 2) % places.size()];
     switch (number) {
     case 1:
         photo.view = turn % 3 == 2 ? View::FrontRight : View::FrontLeft;
@@ -41,12 +43,12 @@ PlannedPhoto YearPhoto(int year, int number)
         photo.view = turn % 2 == 0 ? View::RearRight : View::RearLeft;
         break;
     case 4: {
-        constexpr std::array kDetails = {Motif::Car,    Motif::Dashboard, Motif::Car,
-                                         Motif::Engine, Motif::Badge,     Motif::Car};
-        constexpr std::array kClose = {View::Wheel, View::Nose, View::Nose,
-                                       View::Nose,  View::Nose, View::Tail};
-        photo.motif = kDetails[static_cast<std::size_t>(turn) % kDetails.size()];
-        photo.view = kClose[static_cast<std::size_t>(turn) % kClose.size()];
+        constexpr std::array details = {Motif::Car,    Motif::Dashboard, Motif::Car,
+                                        Motif::Engine, Motif::Badge,     Motif::Car};
+        constexpr std::array close = {View::Wheel, View::Nose, View::Nose,
+                                      View::Nose,  View::Nose, View::Tail};
+        photo.motif = details[static_cast<std::size_t>(turn) % details.size()];
+        photo.view = close[static_cast<std::size_t>(turn) % close.size()];
         break;
     }
     case 5:
@@ -78,46 +80,46 @@ PlannedPhoto YearPhoto(int year, int number)
 
 PlannedPhoto TopicPhoto(const Topic& topic, int number)
 {
-    constexpr std::array kViews = {View::FrontLeft, View::Side, View::RearRight,
-                                   View::Wheel,     View::High, View::FrontRight};
+    constexpr std::array views = {View::FrontLeft, View::Side, View::RearRight,
+                                  View::Wheel,     View::High, View::FrontRight};
     PlannedPhoto photo;
     photo.prefix = topic.prefix;
     photo.number = number;
     photo.file = FileName(topic.prefix, topic.letters, number);
     photo.variant = number - 1;
-    photo.view = kViews[static_cast<std::size_t>(number - 1) % kViews.size()];
+    photo.view = views[static_cast<std::size_t>(number - 1) % views.size()];
     const auto car = [&](Model model, int year, Place first, Place second) {
         photo.model = model;
         photo.year = year;
         photo.place = number % 2 == 1 ? first : second;
     };
-    if (topic.prefix == QLatin1String("PT")) {
+    if (topic.prefix == "PT"_L1) {
         photo.place = Place::Studio;
         photo.motif = number % 3 == 1 ? Motif::Sketch : Motif::Clay;
-        constexpr std::array kProjects = {1967, 1967, 1967, 1971, 1971, 1979};
-        photo.year = kProjects[static_cast<std::size_t>(number - 1) % kProjects.size()];
-    } else if (topic.prefix == QLatin1String("SB")) {
+        constexpr std::array projects = {1967, 1967, 1967, 1971, 1971, 1979};
+        photo.year = projects[static_cast<std::size_t>(number - 1) % projects.size()];
+    } else if (topic.prefix == "SB"_L1) {
         car(Model::Harwell, 1967, Place::Autumn, Place::Coast);
-    } else if (topic.prefix == QLatin1String("M1")) {
+    } else if (topic.prefix == "M1"_L1) {
         car(Model::KestraOne, 1970, Place::Strip, Place::Coast);
-    } else if (topic.prefix == QLatin1String("M3")) {
+    } else if (topic.prefix == "M3"_L1) {
         car(Model::KestraThree, 1986, Place::City, Place::Desert);
-    } else if (topic.prefix == QLatin1String("MS")) {
+    } else if (topic.prefix == "MS"_L1) {
         car(Model::SuperStallion, 2001, Place::Showroom, Place::Strip);
-    } else if (topic.prefix == QLatin1String("CW")) {
+    } else if (topic.prefix == "CW"_L1) {
         car(Model::Tarrant, 1968, Place::Strip, Place::Desert);
-    } else if (topic.prefix == QLatin1String("ZZ")) {
+    } else if (topic.prefix == "ZZ"_L1) {
         photo.motif = Motif::Stamps;
-    } else if (topic.prefix == QLatin1String("VM")) {
+    } else if (topic.prefix == "VM"_L1) {
         photo.motif = Motif::Sign;
-    } else if (topic.prefix == QLatin1String("TD") || topic.prefix == QLatin1String("TF")) {
+    } else if (topic.prefix == "TD"_L1 || topic.prefix == "TF"_L1) {
         photo.motif = Motif::DieCast;
-        photo.year = topic.prefix == QLatin1String("TD") ? 1967 + 4 * (number - 1) : 1970 + 7 * (number - 1);
-    } else if (topic.prefix == QLatin1String("TE")) {
+        photo.year = topic.prefix == "TD"_L1 ? 1967 + 4 * (number - 1) : 1970 + 7 * (number - 1);
+    } else if (topic.prefix == "TE"_L1) {
         photo.motif = Motif::Knife;
-    } else if (topic.prefix == QLatin1String("VC")) {
+    } else if (topic.prefix == "VC"_L1) {
         photo.motif = Motif::Cookies;
-    } else if (topic.prefix == QLatin1String("US")) {
+    } else if (topic.prefix == "US"_L1) {
         photo.motif = Motif::BoardGame;
     }
     return photo;
@@ -128,7 +130,7 @@ PlannedPhoto TopicPhoto(const Topic& topic, int number)
 QString PrefixOfYear(int year)
 {
     if (year >= 2000)
-        return QStringLiteral("A%1").arg(year - 2000);
+        return u"A%1"_s.arg(year - 2000);
     return QString::number(year - 1900);
 }
 
@@ -156,9 +158,9 @@ const std::vector<Topic>& Topics()
 std::vector<PlannedPhoto> PlanPhotos()
 {
     std::vector<PlannedPhoto> photos;
-    for (int year = kFirstYear; year <= kLastYear; ++year) {
-        constexpr std::array kMore = {1, 0, 0, 2, 0, 1, 0};
-        const int count = 5 + kMore[static_cast<std::size_t>(year - kFirstYear) % kMore.size()];
+    for (int year = firstYear; year <= lastYear; ++year) {
+        constexpr std::array more = {1, 0, 0, 2, 0, 1, 0};
+        const int count = 5 + more[static_cast<std::size_t>(year - firstYear) % more.size()];
         for (int number = 1; number <= count; ++number)
             photos.push_back(YearPhoto(year, number));
     }

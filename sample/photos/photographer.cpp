@@ -72,7 +72,7 @@ Camera CameraFor(const CarShape& c, View view, QSize size, std::uint32_t seed)
     Random random(seed);
     const double half = c.length / 2;
     const auto orbit = [&](double degrees, double away, double high, double lens, Vec target) {
-        const double angle = (degrees + random.Between(-4, 4)) / 180 * kPi;
+        const double angle = (degrees + random.Between(-4, 4)) / 180 * pi;
         const double reach =
             away * random.Between(0.96, 1.06) * (size.height() > size.width() ? 1.42 : 1.0) * c.length / 4.65;
         return LookAt({-std::cos(angle) * reach, -std::sin(angle) * reach, high * random.Between(0.9, 1.12)},

@@ -7,7 +7,7 @@ namespace torvik::sample {
 
 namespace {
 
-constexpr float kFar = 1e12F;
+constexpr float farAway = 1e12F;
 
 /// The lower envelope of the parabolas that stand on the values of a line: squares of distances along it.
 void TransformLine(const std::vector<float>& from, std::vector<float>& to, std::vector<int>& places,
@@ -22,15 +22,15 @@ void TransformLine(const std::vector<float>& from, std::vector<float>& to, std::
     };
     int last = 0;
     place(0) = 0;
-    bound(0) = -kFar;
-    bound(1) = kFar;
+    bound(0) = -farAway;
+    bound(1) = farAway;
     for (int i = 1; i < count; ++i) {
         float at = meeting(i, place(last));
         while (at <= bound(last))
             at = meeting(i, place(--last));
         place(++last) = i;
         bound(last) = at;
-        bound(last + 1) = kFar;
+        bound(last + 1) = farAway;
     }
     last = 0;
     for (int i = 0; i < count; ++i) {
@@ -49,7 +49,7 @@ std::vector<float> DistancesInside(const std::vector<float>& field, QSize size)
     const int height = size.height();
     std::vector<float> squares(field.size());
     std::transform(field.begin(), field.end(), squares.begin(),
-                   [](float value) { return value < 0.5F ? 0.0F : kFar / 4; });
+                   [](float value) { return value < 0.5F ? 0.0F : farAway / 4; });
     const auto longest = static_cast<std::size_t>(std::max(width, height));
     std::vector<float> from(longest);
     std::vector<float> to(longest);
@@ -67,7 +67,7 @@ std::vector<float> DistancesInside(const std::vector<float>& field, QSize size)
     for (int y = 0; y < height; ++y)
         run(width, static_cast<std::size_t>(y) * static_cast<std::size_t>(width), 1);
     for (float& square : squares)
-        square = std::sqrt(std::min(square, kFar / 4));
+        square = std::sqrt(std::min(square, farAway / 4));
     return squares;
 }
 

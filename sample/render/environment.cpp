@@ -34,7 +34,7 @@ void BoxPass(std::vector<float>& cells, int count, int radius, bool columns)
 } // namespace
 
 GroundShadow::GroundShadow(const std::vector<Mesh>& parts, const Vec& toLight, double strength, int blur)
-    : cells_(static_cast<std::size_t>(kCells) * kCells, 0.0F)
+    : cells_(static_cast<std::size_t>(cellsAcross) * cellsAcross, 0.0F)
 {
     const double slopeX = toLight.x / std::max(0.2, toLight.z);
     const double slopeY = toLight.y / std::max(0.2, toLight.z);
@@ -47,16 +47,16 @@ GroundShadow::GroundShadow(const std::vector<Mesh>& parts, const Vec& toLight, d
                 double py[3];
                 for (std::size_t i = 0; i < 3; ++i) {
                     const Vec& v = part.vertices[triangle[i]].at;
-                    px[i] = (v.x - sx * v.z) / kCell + kCells / 2.0;
-                    py[i] = (v.y - sy * v.z) / kCell + kCells / 2.0;
+                    px[i] = (v.x - sx * v.z) / cellSize + cellsAcross / 2.0;
+                    py[i] = (v.y - sy * v.z) / cellSize + cellsAcross / 2.0;
                 }
                 const int x0 = std::max(0, Floor(std::min({px[0], px[1], px[2]})));
-                const int x1 = std::min(kCells - 1, Floor(std::max({px[0], px[1], px[2]})));
+                const int x1 = std::min(cellsAcross - 1, Floor(std::max({px[0], px[1], px[2]})));
                 const int y0 = std::max(0, Floor(std::min({py[0], py[1], py[2]})));
-                const int y1 = std::min(kCells - 1, Floor(std::max({py[0], py[1], py[2]})));
+                const int y1 = std::min(cellsAcross - 1, Floor(std::max({py[0], py[1], py[2]})));
                 for (int y = y0; y <= y1; ++y) {
                     for (int x = x0; x <= x1; ++x)
-                        target[static_cast<std::size_t>(y * kCells + x)] = value;
+                        target[static_cast<std::size_t>(y * cellsAcross + x)] = value;
                 }
             }
         };
@@ -64,15 +64,15 @@ GroundShadow::GroundShadow(const std::vector<Mesh>& parts, const Vec& toLight, d
         spread(below, 0, 0, 1.0F);
     }
     for (int pass = 0; pass < 3; ++pass) {
-        BoxPass(cells_, kCells, blur, false);
-        BoxPass(cells_, kCells, blur, true);
+        BoxPass(cells_, cellsAcross, blur, false);
+        BoxPass(cells_, cellsAcross, blur, true);
     }
     std::vector<float> wide = below;
     for (int pass = 0; pass < 3; ++pass) {
-        BoxPass(below, kCells, 1, false);
-        BoxPass(below, kCells, 1, true);
-        BoxPass(wide, kCells, 6, false);
-        BoxPass(wide, kCells, 6, true);
+        BoxPass(below, cellsAcross, 1, false);
+        BoxPass(below, cellsAcross, 1, true);
+        BoxPass(wide, cellsAcross, 6, false);
+        BoxPass(wide, cellsAcross, 6, true);
     }
     for (std::size_t i = 0; i < cells_.size(); ++i)
         cells_[i] = 1.0F - (1.0F - cells_[i]) * (1.0F - 0.82F * below[i]) * (1.0F - 0.45F * wide[i]);
@@ -80,14 +80,14 @@ GroundShadow::GroundShadow(const std::vector<Mesh>& parts, const Vec& toLight, d
 
 double GroundShadow::At(double x, double y) const
 {
-    const double cx = x / kCell + kCells / 2.0 - 0.5;
-    const double cy = y / kCell + kCells / 2.0 - 0.5;
+    const double cx = x / cellSize + cellsAcross / 2.0 - 0.5;
+    const double cy = y / cellSize + cellsAcross / 2.0 - 0.5;
     const int ix = Floor(cx);
     const int iy = Floor(cy);
-    if (ix < 0 || iy < 0 || ix + 1 >= kCells || iy + 1 >= kCells)
+    if (ix < 0 || iy < 0 || ix + 1 >= cellsAcross || iy + 1 >= cellsAcross)
         return 0.0;
     const auto cell = [this](int px, int py) {
-        return static_cast<double>(cells_[static_cast<std::size_t>(py * kCells + px)]);
+        return static_cast<double>(cells_[static_cast<std::size_t>(py * cellsAcross + px)]);
     };
     return Mix(Mix(cell(ix, iy), cell(ix + 1, iy), cx - ix),
                Mix(cell(ix, iy + 1), cell(ix + 1, iy + 1), cx - ix), cy - iy);
@@ -113,8 +113,8 @@ Rgb Environment::Sky(const Vec& way) const
 
 namespace {
 
-constexpr int kAround = 512; // steps of azimuth
-constexpr int kUp = 128;     // steps of height, closer together near the horizon
+constexpr int azimuthSteps = 512; // steps of azimuth
+constexpr int heightSteps = 128;  // steps of height, closer together near the horizon
 
 } // namespace
 
@@ -122,13 +122,13 @@ void Environment::Prepare()
 {
     prepared_.clear();
     std::vector<Tone> table;
-    table.reserve(static_cast<std::size_t>(kAround) * kUp);
-    for (int row = 0; row < kUp; ++row) {
-        const double share = (row + 0.5) / kUp;
+    table.reserve(static_cast<std::size_t>(azimuthSteps) * heightSteps);
+    for (int row = 0; row < heightSteps; ++row) {
+        const double share = (row + 0.5) / heightSteps;
         const double z = share * share;
         const double flat = std::sqrt(1.0 - z * z);
-        for (int column = 0; column < kAround; ++column) {
-            const double azimuth = (column + 0.5) / kAround * 2 * kPi - kPi;
+        for (int column = 0; column < azimuthSteps; ++column) {
+            const double azimuth = (column + 0.5) / azimuthSteps * 2 * pi - pi;
             const Rgb c = Sky({flat * std::cos(azimuth), flat * std::sin(azimuth), z});
             table.push_back({static_cast<float>(c.x), static_cast<float>(c.y), static_cast<float>(c.z)});
         }
@@ -138,12 +138,14 @@ void Environment::Prepare()
 
 Rgb Environment::PreparedSky(const Vec& way) const
 {
-    const double u = (std::atan2(way.y, way.x) + kPi) / (2 * kPi) * kAround - 0.5;
-    const double v = std::clamp(std::sqrt(std::max(0.0, way.z)) * kUp - 0.5, 0.0, kUp - 1.001);
+    const double u = (std::atan2(way.y, way.x) + pi) / (2 * pi) * azimuthSteps - 0.5;
+    const double v =
+        std::clamp(std::sqrt(std::max(0.0, way.z)) * heightSteps - 0.5, 0.0, heightSteps - 1.001);
     const int iu = Floor(u);
     const int iv = Floor(v);
     const auto tone = [this](int column, int row) {
-        const Tone& t = prepared_[static_cast<std::size_t>(row * kAround + (column + kAround) % kAround)];
+        const Tone& t =
+            prepared_[static_cast<std::size_t>(row * azimuthSteps + (column + azimuthSteps) % azimuthSteps)];
         return Rgb{static_cast<double>(t.red), static_cast<double>(t.green), static_cast<double>(t.blue)};
     };
     return Mix(Mix(tone(iu, iv), tone(iu + 1, iv), u - iu),

@@ -19,8 +19,8 @@ public:
     double At(double x, double y) const;
 
 private:
-    static constexpr int kCells = 256;
-    static constexpr double kCell = 0.05;
+    static constexpr int cellsAcross = 256;
+    static constexpr double cellSize = 0.05;
     std::vector<float> cells_;
 };
 

@@ -42,7 +42,7 @@ Coat Matte(const QColor& colour)
 }
 
 Relief::Relief(QSize size)
-    : width_(size.width() * kFine), height_(size.height() * kFine),
+    : width_(size.width() * fineness), height_(size.height() * fineness),
       heights_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), 0.0F),
       shade_(heights_.size(), 0.0F), coatOf_(heights_.size(), -1)
 {}
@@ -52,7 +52,7 @@ void Relief::Add(const QPainterPath& shape, const Coat& coat, const Rise& rise)
     QImage drawn(width_, height_, QImage::Format_Alpha8);
     drawn.fill(0);
     QPainter painter(&drawn);
-    painter.scale(kFine, kFine);
+    painter.scale(fineness, fineness);
     painter.fillPath(shape, Qt::black);
     painter.end();
 
@@ -65,18 +65,18 @@ void Relief::Add(const QPainterPath& shape, const Coat& coat, const Rise& rise)
     const QSize fine(width_, height_);
     Field profile = DistancesInside(mask, fine);
     for (float& value : profile) {
-        const double inside = Clamp01(static_cast<double>(value) / (rise.edge * kFine));
-        value = static_cast<float>(rise.height * kFine * std::sqrt(1.0 - (1.0 - inside) * (1.0 - inside)));
+        const double inside = Clamp01(static_cast<double>(value) / (rise.edge * fineness));
+        value = static_cast<float>(rise.height * fineness * std::sqrt(1.0 - (1.0 - inside) * (1.0 - inside)));
     }
-    Soften(profile, fine, std::max(1, Floor(rise.edge * kFine / 5)));
+    Soften(profile, fine, std::max(1, Floor(rise.edge * fineness / 5)));
     if (rise.lift > 0) {
         Field shadow(mask.size(), 0.0F);
-        const int down = Floor(rise.lift * kFine * 0.9);
+        const int down = Floor(rise.lift * fineness * 0.9);
         for (int y = down; y < height_; ++y) {
             for (int x = down; x < width_; ++x)
                 shadow[Index(x, y)] = mask[Index(x - down, y - down)];
         }
-        Soften(shadow, fine, std::max(1, Floor(rise.lift * kFine * 0.45)));
+        Soften(shadow, fine, std::max(1, Floor(rise.lift * fineness * 0.45)));
         for (std::size_t i = 0; i < shade_.size(); ++i)
             shade_[i] = std::max(shade_[i], shadow[i] * 0.72F);
     }
@@ -85,7 +85,7 @@ void Relief::Add(const QPainterPath& shape, const Coat& coat, const Rise& rise)
     for (std::size_t i = 0; i < mask.size(); ++i) {
         if (mask[i] < 0.5F)
             continue;
-        heights_[i] = static_cast<float>(rise.foot * kFine) + profile[i];
+        heights_[i] = static_cast<float>(rise.foot * fineness) + profile[i];
         shade_[i] = 0;
         coatOf_[i] = number;
     }
@@ -119,7 +119,7 @@ Rgb Relief::ColourAt(int x, int y) const
     case Coat::Kind::Enamel: {
         double light = 0.45 + 0.95 * facing;
         if (coat.rays > 0) {
-            const double angle = std::atan2(y - coat.rayFrom.y() * kFine, x - coat.rayFrom.x() * kFine);
+            const double angle = std::atan2(y - coat.rayFrom.y() * fineness, x - coat.rayFrom.x() * fineness);
             light *= 1.0 + 0.28 * std::sin(angle * coat.rays);
         }
         const double rim = 0.05 + 0.5 * std::pow(1.0 - normal.z, 2.0);
@@ -140,13 +140,13 @@ QImage Relief::Over(const QImage& ground) const
         for (int x = 0; x < picture.width(); ++x) {
             const Rgb below = LinearOfPixel(line[x]);
             Rgb sum;
-            for (int k = 0; k < kFine * kFine; ++k) {
-                const int fx = x * kFine + k % kFine;
-                const int fy = y * kFine + k / kFine;
+            for (int k = 0; k < fineness * fineness; ++k) {
+                const int fx = x * fineness + k % fineness;
+                const int fy = y * fineness + k / fineness;
                 const Rgb own = coatOf_[Index(fx, fy)] < 0 ? below : Shoulder(ColourAt(fx, fy));
                 sum = sum + own * (1.0 - static_cast<double>(shade_[Index(fx, fy)]));
             }
-            line[x] = PixelOf(sum * (1.0 / (kFine * kFine)));
+            line[x] = PixelOf(sum * (1.0 / (fineness * fineness)));
         }
     }
     return picture;

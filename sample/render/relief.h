@@ -43,7 +43,7 @@ public:
 
 private:
     using Field = std::vector<float>;
-    static constexpr int kFine = 3; ///< points per pixel, each way
+    static constexpr int fineness = 3; ///< points per pixel, each way
 
     Rgb ColourAt(int x, int y) const;
     std::size_t Index(int x, int y) const

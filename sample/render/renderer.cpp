@@ -162,9 +162,9 @@ void Render(QImage& picture, const Subject& subject, const Camera& camera, const
     const int lastColumn = std::clamp(Floor(right / 2) + 2, 0, picture.width());
     const Shader shader(subject, light, camera.eye);
 
-    constexpr int kRows = 96;
-    for (int row = firstRow; row < lastRow; row += kRows) {
-        const int rows = std::min(kRows, lastRow - row);
+    constexpr int rowsInStrip = 96;
+    for (int row = firstRow; row < lastRow; row += rowsInStrip) {
+        const int rows = std::min(rowsInStrip, lastRow - row);
         Strip strip(firstColumn * 2, (lastColumn - firstColumn) * 2, row * 2, rows * 2);
         for (int y = row; y < row + rows; ++y) {
             const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));

@@ -6,7 +6,7 @@ namespace torvik::sample {
 
 namespace {
 
-constexpr int kSteps = 4096;
+constexpr int toneSteps = 4096;
 
 const std::array<float, 256>& ToLinear()
 {
@@ -21,17 +21,17 @@ const std::array<float, 256>& ToLinear()
 
 int ToByte(double light)
 {
-    static const std::array<unsigned char, kSteps + 1> table = [] {
-        std::array<unsigned char, kSteps + 1> values{};
+    static const std::array<unsigned char, toneSteps + 1> table = [] {
+        std::array<unsigned char, toneSteps + 1> values{};
         for (std::size_t i = 0; i < values.size(); ++i) {
             // The table runs over the square root of the light, so that the darks have enough steps.
-            const double root = static_cast<double>(i) / kSteps;
+            const double root = static_cast<double>(i) / toneSteps;
             values[i] = static_cast<unsigned char>(std::pow(root * root, 1.0 / 2.2) * 255.0 + 0.5);
         }
         return values;
     }();
     const double root = std::sqrt(Clamp01(light));
-    return table[static_cast<std::size_t>(root * kSteps + 0.5)];
+    return table[static_cast<std::size_t>(root * toneSteps + 0.5)];
 }
 
 } // namespace

@@ -50,7 +50,7 @@ void PaintTree(QPainter& painter, const Standing& at, double tall, const QColor&
     painter.fillPath(trunk, Hazed(QColor(44, 34, 28), dark, 0.2));
     const int blobs = std::clamp(static_cast<int>(tall * m * 1.6), 40, 420);
     for (int i = 0; i < blobs; ++i) {
-        const double angle = random.Between(0, 2 * kPi);
+        const double angle = random.Between(0, 2 * pi);
         const double away = std::sqrt(random.Unit());
         const double px = std::cos(angle) * away * tall * 0.34;
         const double pz = tall * 0.66 + std::sin(angle) * away * tall * 0.34;

@@ -5,6 +5,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 Scenery CityScenery(std::uint32_t seed)
 {
     Scenery s;
@@ -24,7 +26,7 @@ Scenery CityScenery(std::uint32_t seed)
             return {};
         const double flat = std::max(1e-4, std::hypot(way.x, way.y));
         const double height = way.z / flat;
-        const double azimuth = std::atan2(way.y, way.x) / kPi * 26.0;
+        const double azimuth = std::atan2(way.y, way.x) / pi * 26.0;
         if (height < 0.34 && height > 0.02) {
             const int column = Floor(azimuth);
             const int row = Floor(height * 30);
@@ -130,7 +132,7 @@ Scenery CityScenery(std::uint32_t seed)
                         const Standing d = StandAt(camera, x + wide - 1.2, depth - 0.2, 4.0);
                         const QColor neon = QColor::fromHsv(random.Below(360), 215, 255);
                         const QRectF sign = QRectF(QPointF(c.x, c.y), QPointF(d.x, d.y)).normalized();
-                        QFont font(QStringLiteral("Liberation Sans"));
+                        QFont font(u"Liberation Sans"_s);
                         font.setBold(true);
                         font.setPixelSize(std::max(6, static_cast<int>(sign.height() * 0.9)));
                         painter.setFont(font);

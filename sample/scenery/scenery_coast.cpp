@@ -64,7 +64,7 @@ Scenery CoastScenery(std::uint32_t seed)
             PaintRidge(
                 painter, camera,
                 [=](double azimuth) {
-                    const double open = std::abs(azimuth - kPi / 2 - 0.25 * (layer - 1));
+                    const double open = std::abs(azimuth - pi / 2 - 0.25 * (layer - 1));
                     const double rise = SmoothStep(0.32 + 0.16 * layer, 1.1 + 0.1 * layer, open);
                     return rise * (0.035 + 0.03 * layer) *
                            (0.6 + 0.8 * Fractal(azimuth * 5 + 9 * layer, 2.0, 4, seed + shift));

@@ -4,6 +4,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Rows of long soft boxes under a ceiling 4 m high.
@@ -108,7 +110,7 @@ Scenery ShowroomScenery(std::uint32_t seed)
         }
         const Standing sign = StandAt(camera, 0, 8.8, 3.0);
         if (sign.visible) {
-            QFont font(QStringLiteral("Liberation Serif"));
+            QFont font(u"Liberation Serif"_s);
             font.setItalic(true);
             font.setBold(true);
             font.setPixelSize(std::max(8, static_cast<int>(0.75 * sign.metre)));
@@ -116,7 +118,7 @@ Scenery ShowroomScenery(std::uint32_t seed)
             painter.setPen(QColor(236, 206, 140));
             painter.drawText(
                 QRectF(sign.x - 5 * sign.metre, sign.y - 0.7 * sign.metre, 10 * sign.metre, 1.0 * sign.metre),
-                Qt::AlignCenter, QStringLiteral("Torvik Vollandry"));
+                Qt::AlignCenter, u"Torvik Vollandry"_s);
             painter.setPen(Qt::NoPen);
         }
         // Plants in tubs.

@@ -63,23 +63,23 @@ Sound ThreeStarts()
 
 Sound OldColumnShift()
 {
-    constexpr double kLong = 6.2;
+    constexpr double lasting = 6.2;
     const Curve revs{{0, 620},     {0.5, 620},  {0.8, 1300},  {2.0, 2700}, {2.3, 2000},
                      {2.45, 1500}, {3.9, 2900}, {4.25, 2000}, {4.4, 1650}, {6.2, 2500}};
     const Curve throttle{{0, 0.12},  {0.5, 0.12}, {0.7, 0.8},   {2.0, 0.8},   {2.06, 0.02}, {2.4, 0.02},
                          {2.5, 0.9}, {3.9, 0.9},  {3.96, 0.02}, {4.35, 0.02}, {4.5, 0.8}};
     EngineKind kind = StraightSix();
     kind.lope = 0.2;
-    Sound sound = Levelled(RunEngine(kind, {kLong, revs, throttle, 191}), 0.8);
+    Sound sound = Levelled(RunEngine(kind, {lasting, revs, throttle, 191}), 0.8);
     // The first gear is cut straight and sings; so, lower, does the second.
     const Course gear = [=](double t) { return revs(t) / 60 * (t < 2.2 ? 14.0 : t < 4.2 ? 9.0 : 5.5); };
     const Curve strain{{0, 0},     {0.5, 0},   {0.9, 1},   {2.0, 1},  {2.1, 0.1},
                        {2.5, 0.7}, {3.9, 0.7}, {4.0, 0.1}, {4.5, 0.3}};
-    Add(sound, Shaped(RichTone(kLong, gear, 4, 1.3), [&](double t) { return 0.09 * strain(t); }));
+    Add(sound, Shaped(RichTone(lasting, gear, 4, 1.3), [&](double t) { return 0.09 * strain(t); }));
     for (const double at : {2.18, 4.1})
         Add(sound, Struck(0.1, {310, 640, 1500}, 0.025), at, 0.35);
     const Curve speed{{0, 0}, {0.5, 0}, {2, 7}, {4, 14}, {6.2, 19}};
-    Add(sound, Levelled(TyreRoll(kLong, speed, 0, 192), 0.16));
+    Add(sound, Levelled(TyreRoll(lasting, speed, 0, 192), 0.16));
     return InRoom(Filtered(std::move(sound), Filter::LowPass(3800)), 0.25, 0.15);
 }
 
@@ -99,7 +99,7 @@ Sound BigEightStart()
 
 Sound BlownHotRod()
 {
-    constexpr double kLong = 6.2;
+    constexpr double lasting = 6.2;
     const Curve revs{{0, 950},    {0.9, 950},  {1.15, 5200}, {1.8, 1300}, {2.3, 960}, {2.55, 4400},
                      {2.8, 2500}, {3.0, 6200}, {3.9, 1400},  {4.4, 980},  {6.2, 940}};
     const Curve throttle{{0, 0.15}, {0.9, 0.15}, {1.0, 1}, {1.2, 0}, {2.0, 0.15}, {2.3, 0.15},
@@ -112,7 +112,7 @@ Sound BlownHotRod()
     kind.crackle = 1;
     kind.whine = 0.22;
     kind.whineRatio = 9.5;
-    Sound sound = Levelled(RunEngine(kind, {kLong, revs, throttle, 222}), 0.95);
+    Sound sound = Levelled(RunEngine(kind, {lasting, revs, throttle, 222}), 0.95);
     Add(sound, Backfire(223), 1.5, 0.35);
     Add(sound, Backfire(224), 3.42, 0.5);
     return InRoom(sound, 0.5, 0.1);

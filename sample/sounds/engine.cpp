@@ -8,14 +8,14 @@ namespace torvik::sample {
 
 namespace {
 
-constexpr double kSoundSpeedInPipe = 480; // metres a second, in hot gas
-constexpr double kMouth = 210;            // hertz below which the end of a pipe sounds less and less
+constexpr double soundSpeedInPipe = 480; // metres a second, in hot gas
+constexpr double mouthHertz = 210;       // hertz below which the end of a pipe sounds less and less
 
 /// A pipe, open at its far end: what comes back from there is turned over and a little duller.
 class Pipe {
 public:
     Pipe(double metres, double ring)
-        : line_(std::max<std::size_t>(8, SamplesIn(2 * metres / kSoundSpeedInPipe)), 0.0), ring_(ring)
+        : line_(std::max<std::size_t>(8, SamplesIn(2 * metres / soundSpeedInPipe)), 0.0), ring_(ring)
     {}
 
     double operator()(double in)
@@ -37,8 +37,7 @@ private:
 /// The bang of a cylinder: up at once, then down within `seconds`.
 class Bang {
 public:
-    explicit Bang(double seconds) : keep_(std::exp(-1.0 / (seconds * kSoundRate))), rise_((1 - keep_) * 2.7)
-    {}
+    explicit Bang(double seconds) : keep_(std::exp(-1.0 / (seconds * soundRate))), rise_((1 - keep_) * 2.7) {}
 
     void Fire(double strength) { charge_ += strength; }
     double operator()()
@@ -70,10 +69,10 @@ std::vector<Firing> Evenly(int cylinders)
 EngineKind BurblingEight()
 {
     EngineKind kind;
-    constexpr std::array kPipe = {0, 1, 1, 0, 1, 0, 0, 1};
-    constexpr std::array kBang = {1.0, 0.78, 0.95, 0.7, 1.0, 0.84, 0.74, 0.92};
-    for (std::size_t i = 0; i < kPipe.size(); ++i)
-        kind.firings.push_back({static_cast<double>(i) / 8, kBang[i], kPipe[i]});
+    constexpr std::array pipeOf = {0, 1, 1, 0, 1, 0, 0, 1};
+    constexpr std::array bangOf = {1.0, 0.78, 0.95, 0.7, 1.0, 0.84, 0.74, 0.92};
+    for (std::size_t i = 0; i < pipeOf.size(); ++i)
+        kind.firings.push_back({static_cast<double>(i) / 8, bangOf[i], pipeOf[i]});
     kind.pulse = 0.0017;
     kind.pipes = {1.9, 2.25};
     kind.muffler = 1100;
@@ -201,17 +200,16 @@ Sound RunEngine(const EngineKind& kind, const Driving& driving)
     double overrun = 0;
     std::size_t next = 0;
     for (std::size_t i = 0; i < sound.size(); ++i) {
-        const double t = static_cast<double>(i) / kSoundRate;
+        const double t = static_cast<double>(i) / soundRate;
         const double throttle = Clamp01(driving.throttle(t));
         const double revs = std::max(60.0, driving.revs(t));
         // An idling engine with a sporty camshaft falls over its own feet.
         const double calm = kind.lope * std::exp(-std::max(0.0, revs - 700) / 500);
-        const double stumble =
-            1 + 0.10 * calm * std::sin(2 * kPi * 2.1 * t) * std::sin(2 * kPi * 0.73 * t + 1);
-        phase += revs * stumble / 120.0 / kSoundRate;
+        const double stumble = 1 + 0.10 * calm * std::sin(2 * pi * 2.1 * t) * std::sin(2 * pi * 0.73 * t + 1);
+        phase += revs * stumble / 120.0 / soundRate;
         // A throttle that closes leaves fuel in the pipes for a while.
         overrun =
-            std::max(overrun * (1 - 1.2 / kSoundRate), std::min(1.0, (throttleBefore - throttle) * 4000));
+            std::max(overrun * (1 - 1.2 / soundRate), std::min(1.0, (throttleBefore - throttle) * 4000));
         throttleBefore += (throttle - throttleBefore) * 0.0005;
         while (next < kind.firings.size() && phase >= kind.firings[next].at) {
             const Firing& firing = kind.firings[next];
@@ -235,21 +233,21 @@ Sound RunEngine(const EngineKind& kind, const Driving& driving)
         const double gasNoise = gas(white) * kind.hiss * 6 * (left + right);
         double out = pipes[0](left + gasNoise + burst * white * 0.5) + pipes[1](right + gasNoise * 0.8);
         const double open = kind.muffler * (0.55 + 0.75 * throttle + revs / 9000) + 2500 * burst;
-        const double share = 1 - std::exp(-2 * kPi * open / kSoundRate);
+        const double share = 1 - std::exp(-2 * pi * open / soundRate);
         for (double& stage : behindMuffler) {
             stage += (out - stage) * share;
             out = stage;
         }
         // A pipe's mouth is small beside the waves of deep tones and gives little of them to the air.
-        standing += (out - standing) * (1 - std::exp(-2 * kPi * kMouth / kSoundRate));
+        standing += (out - standing) * (1 - std::exp(-2 * pi * mouthHertz / soundRate));
         out -= standing;
-        whinePhase += revs / 60.0 * kind.whineRatio / kSoundRate;
+        whinePhase += revs / 60.0 * kind.whineRatio / soundRate;
         whinePhase -= std::floor(whinePhase);
         const double effort = throttle * std::min(1.0, revs / 5000);
         sound[i] =
             out + kind.intake * roar(white) * (left + right) * (0.3 + 2.2 * effort) +
             kind.ticking * rattle(white) * valve() * 1.6 +
-            kind.whine * std::sin(2 * kPi * whinePhase) * (0.3 + 0.7 * throttle) * std::min(1.5, revs / 3500);
+            kind.whine * std::sin(2 * pi * whinePhase) * (0.3 + 0.7 * throttle) * std::min(1.5, revs / 3500);
     }
     return Filtered(std::move(sound), Filter::HighPass(45));
 }
@@ -259,7 +257,7 @@ Sound CrankEngine(double seconds, double turns, std::uint32_t seed)
     Random random(seed);
     const double lag = random.Between(0, 1);
     // Each compression slows the motor down; then it runs away until the next.
-    const auto load = [=](double t) { return 0.5 + 0.5 * std::sin(2 * kPi * (turns * t + lag)); };
+    const auto load = [=](double t) { return 0.5 + 0.5 * std::sin(2 * pi * (turns * t + lag)); };
     const Course hertz = [=](double t) { return 165 + 9 * turns - 42 * load(t); };
     Sound motor = RichTone(seconds, hertz, 18, 0.85);
     motor = Filtered(std::move(motor), Filter::BandPass(900, 0.6));

@@ -15,7 +15,7 @@ struct Corner {
 
 Corner CornerAt(double hertz, double q)
 {
-    const double w = 2 * kPi * std::clamp(hertz, 5.0, kSoundRate * 0.48) / kSoundRate;
+    const double w = 2 * pi * std::clamp(hertz, 5.0, soundRate * 0.48) / soundRate;
     return {std::cos(w), std::sin(w) / (2 * q)};
 }
 
@@ -81,11 +81,11 @@ Sound InRoom(const Sound& sound, double seconds, double share)
         double keep = 0;
         double dull = 0;
     };
-    constexpr std::array kDelays = {0.0297, 0.0371, 0.0411, 0.0437};
+    constexpr std::array delays = {0.0297, 0.0371, 0.0411, 0.0437};
     std::array<Echo, 4> echoes;
     for (std::size_t i = 0; i < echoes.size(); ++i) {
-        echoes[i].line.assign(SamplesIn(kDelays[i]), 0.0);
-        echoes[i].keep = std::pow(0.001, kDelays[i] / seconds);
+        echoes[i].line.assign(SamplesIn(delays[i]), 0.0);
+        echoes[i].keep = std::pow(0.001, delays[i] / seconds);
     }
     std::array<Echo, 2> blurs;
     blurs[0].line.assign(SamplesIn(0.005), 0.0);

@@ -12,7 +12,7 @@ Sound CarHorn(double seconds, const std::vector<double>& tones, double harsh)
         // The diaphragm needs a moment to find its pitch, and sags when the button is let go.
         const Course hertz = [=](double t) {
             return tone * (1 - 0.06 * std::exp(-t / 0.018) - 0.05 * SmoothStep(seconds - 0.05, seconds, t)) *
-                   (1 + 0.002 * std::sin(2 * kPi * 23 * t));
+                   (1 + 0.002 * std::sin(2 * pi * 23 * t));
         };
         Add(horn, RichTone(seconds, hertz, 24, 1.1 - 0.5 * harsh), 0, 0.5);
     }

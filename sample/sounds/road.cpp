@@ -61,13 +61,13 @@ Sound WheelOnIce(double seconds, const Course& spin, std::uint32_t seed)
 
 Sound Backfire(std::uint32_t seed)
 {
-    constexpr double kSeconds = 0.55;
+    constexpr double seconds = 0.55;
     Random random(seed);
     const double deep = random.Between(58, 84);
-    Sound bang = Shaped(WhiteNoise(kSeconds, seed), [](double t) { return std::exp(-t / 0.012) * 2.2; });
-    Sound body = Filtered(WhiteNoise(kSeconds, seed + 1), Filter::BandPass(random.Between(300, 420), 0.8));
+    Sound bang = Shaped(WhiteNoise(seconds, seed), [](double t) { return std::exp(-t / 0.012) * 2.2; });
+    Sound body = Filtered(WhiteNoise(seconds, seed + 1), Filter::BandPass(random.Between(300, 420), 0.8));
     Add(bang, Shaped(std::move(body), [](double t) { return std::exp(-t / 0.07) * 5; }));
-    Sound thump = PureTone(kSeconds, [=](double t) { return deep + 110 * std::exp(-t / 0.025); });
+    Sound thump = PureTone(seconds, [=](double t) { return deep + 110 * std::exp(-t / 0.025); });
     Add(bang, Shaped(std::move(thump), [](double t) { return std::exp(-t / 0.09) * 1.5; }));
     return InRoom(Faded(Driven(std::move(bang), 1.2), 0.0005, 0.2), 0.7, 0.25);
 }
@@ -88,7 +88,7 @@ Sound DoorCreak(double seconds, std::uint32_t seed)
     Sound creak = Silence(seconds);
     double t = 0.02;
     while (t < seconds - 0.03) {
-        const double pace = 38 + 75 * std::sin(kPi * t / seconds) + 14 * drift[SamplesIn(t)];
+        const double pace = 38 + 75 * std::sin(pi * t / seconds) + 14 * drift[SamplesIn(t)];
         Add(creak, Struck(0.03, {480, 910, 1480, 2210}, 0.010), t, random.Between(0.5, 1.0));
         t += 1.0 / std::max(12.0, pace);
     }
@@ -97,11 +97,11 @@ Sound DoorCreak(double seconds, std::uint32_t seed)
 
 Sound DoorSlam(double heavy, std::uint32_t seed)
 {
-    constexpr double kSeconds = 0.6;
-    Sound slam = Shaped(WhiteNoise(kSeconds, seed), [](double t) { return 1.3 * std::exp(-t / 0.008); });
-    Sound sheet = Filtered(WhiteNoise(kSeconds, seed + 1), Filter::BandPass(420 - 190 * heavy, 1.1));
+    constexpr double seconds = 0.6;
+    Sound slam = Shaped(WhiteNoise(seconds, seed), [](double t) { return 1.3 * std::exp(-t / 0.008); });
+    Sound sheet = Filtered(WhiteNoise(seconds, seed + 1), Filter::BandPass(420 - 190 * heavy, 1.1));
     Add(slam, Shaped(std::move(sheet), [](double t) { return 6 * std::exp(-t / 0.05); }));
-    Sound thump = PureTone(kSeconds, [=](double t) { return 72 - 14 * heavy + 60 * std::exp(-t / 0.02); });
+    Sound thump = PureTone(seconds, [=](double t) { return 72 - 14 * heavy + 60 * std::exp(-t / 0.02); });
     Add(slam, Shaped(std::move(thump), [=](double t) { return (0.9 + heavy) * std::exp(-t / 0.085); }));
     // The lock catches just after, and the window rattles in its frame.
     Add(slam, Struck(0.1, {690, 1610, 2800}, 0.02), 0.022, 0.6);

@@ -6,7 +6,7 @@ namespace torvik::sample {
 
 std::size_t SamplesIn(double seconds)
 {
-    return static_cast<std::size_t>(std::lround(std::max(0.0, seconds) * kSoundRate));
+    return static_cast<std::size_t>(std::lround(std::max(0.0, seconds) * soundRate));
 }
 
 Sound Silence(double seconds)
@@ -16,7 +16,7 @@ Sound Silence(double seconds)
 
 double SecondsOf(const Sound& sound)
 {
-    return static_cast<double>(sound.size()) / kSoundRate;
+    return static_cast<double>(sound.size()) / soundRate;
 }
 
 void Add(Sound& onto, const Sound& what, double at, double gain)

@@ -4,12 +4,12 @@
 
 namespace torvik::sample {
 
-/// One channel of sound while it is being made: numbers around 0, `kSoundRate` of them a second.
+/// One channel of sound while it is being made: numbers around 0, `soundRate` of them a second.
 using Sound = std::vector<double>;
 
 /// Twice the rate of most finished files, so that what is sharp can be made sharp and is smoothed once, at
 /// the end.
-constexpr double kSoundRate = 44100;
+constexpr double soundRate = 44100;
 
 Sound Silence(double seconds);
 double SecondsOf(const Sound& sound);
@@ -23,7 +23,7 @@ template <typename Gain>
 Sound Shaped(Sound sound, const Gain& gain)
 {
     for (std::size_t i = 0; i < sound.size(); ++i)
-        sound[i] *= gain(static_cast<double>(i) / kSoundRate);
+        sound[i] *= gain(static_cast<double>(i) / soundRate);
     return sound;
 }
 double Loudest(const Sound& sound);

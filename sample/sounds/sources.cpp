@@ -18,7 +18,7 @@ Sound SlowNoise(double seconds, double hertz, std::uint32_t seed)
 {
     Sound sound = Silence(seconds);
     for (std::size_t i = 0; i < sound.size(); ++i)
-        sound[i] = Noise(static_cast<double>(i) / kSoundRate * hertz, 0.5, seed) * 2 - 1;
+        sound[i] = Noise(static_cast<double>(i) / soundRate * hertz, 0.5, seed) * 2 - 1;
     return sound;
 }
 
@@ -27,8 +27,8 @@ Sound PureTone(double seconds, const Course& hertz)
     Sound sound = Silence(seconds);
     double phase = 0;
     for (std::size_t i = 0; i < sound.size(); ++i) {
-        phase += hertz(static_cast<double>(i) / kSoundRate) / kSoundRate;
-        sound[i] = std::sin(2 * kPi * phase);
+        phase += hertz(static_cast<double>(i) / soundRate) / soundRate;
+        sound[i] = std::sin(2 * pi * phase);
     }
     return sound;
 }
@@ -41,16 +41,16 @@ Sound RichTone(double seconds, const Course& hertz, int harmonics, double fall)
     Sound sound = Silence(seconds);
     double phase = 0;
     for (std::size_t i = 0; i < sound.size(); ++i) {
-        const double pitch = hertz(static_cast<double>(i) / kSoundRate);
-        phase += pitch / kSoundRate;
+        const double pitch = hertz(static_cast<double>(i) / soundRate);
+        phase += pitch / soundRate;
         phase -= std::floor(phase);
         // Each harmonic is the one before it turned on by the angle of the first.
-        const double c = std::cos(2 * kPi * phase);
-        const double s = std::sin(2 * kPi * phase);
+        const double c = std::cos(2 * pi * phase);
+        const double s = std::sin(2 * pi * phase);
         double re = c;
         double im = s;
         for (std::size_t k = 0; k < strengths.size(); ++k) {
-            if (pitch * static_cast<double>(k + 1) > kSoundRate * 0.42)
+            if (pitch * static_cast<double>(k + 1) > soundRate * 0.42)
                 break;
             sound[i] += im * strengths[k];
             const double turned = re * c - im * s;
@@ -68,8 +68,8 @@ Sound Struck(double seconds, const std::vector<double>& partials, double ring)
         const double lasting = ring * partials.front() / partials[k];
         const double strength = 1.0 / (1.0 + 0.6 * static_cast<double>(k));
         for (std::size_t i = 0; i < sound.size(); ++i) {
-            const double t = static_cast<double>(i) / kSoundRate;
-            sound[i] += strength * std::exp(-t / lasting) * std::sin(2 * kPi * partials[k] * t);
+            const double t = static_cast<double>(i) / soundRate;
+            sound[i] += strength * std::exp(-t / lasting) * std::sin(2 * pi * partials[k] * t);
         }
     }
     return sound;

@@ -8,7 +8,7 @@ namespace torvik::sample {
 
 Sound AtRate(const Sound& sound, int rate)
 {
-    const int step = static_cast<int>(kSoundRate) / rate;
+    const int step = static_cast<int>(soundRate) / rate;
     if (step == 1)
         return sound;
     // A low pass of 16 lobes on each side, in a window that ends in zero.
@@ -17,8 +17,8 @@ Sound AtRate(const Sound& sound, int rate)
     double sum = 0;
     for (int k = -reach; k <= reach; ++k) {
         const double x = 0.92 * k / step;
-        const double wave = k == 0 ? 1.0 : std::sin(kPi * x) / (kPi * x);
-        const double window = 0.42 + 0.5 * std::cos(kPi * k / reach) + 0.08 * std::cos(2 * kPi * k / reach);
+        const double wave = k == 0 ? 1.0 : std::sin(pi * x) / (pi * x);
+        const double window = 0.42 + 0.5 * std::cos(pi * k / reach) + 0.08 * std::cos(2 * pi * k / reach);
         weights.push_back(wave * window);
         sum += weights.back();
     }

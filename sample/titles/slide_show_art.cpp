@@ -11,14 +11,16 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A framed transparency: which photo, where its middle lies (parts of the whole), how far it is turned.
 struct Transparency {
-    const char* Prefix;
-    int Number;
-    const char* Label;
-    double X, Y, Degrees;
+    const char* prefix;
+    int number;
+    const char* label;
+    double x, y, degrees;
 };
 
 // The lowest in the pile first.
@@ -34,7 +36,7 @@ QImage PhotoFor(const Transparency& slide, QSize size)
 {
     const std::vector<PlannedPhoto> photos = PlanPhotos();
     auto found = std::find_if(photos.begin(), photos.end(), [&](const PlannedPhoto& photo) {
-        return photo.prefix == QLatin1String(slide.Prefix) && photo.number == slide.Number;
+        return photo.prefix == QLatin1String(slide.prefix) && photo.number == slide.number;
     });
     PlannedPhoto photo = *found;
     photo.size = size;
@@ -67,8 +69,8 @@ void PaintTransparency(QPainter& p, const Transparency& slide, QSize size)
     QPainterPath card;
     card.addRoundedRect(body, frame * 0.035, frame * 0.035);
     p.save();
-    p.translate(size.width() * slide.X, size.height() * slide.Y);
-    p.rotate(slide.Degrees);
+    p.translate(size.width() * slide.x, size.height() * slide.y);
+    p.rotate(slide.degrees);
     DropShadow(p, card, frame * 0.035, 0.85);
     QLinearGradient paper(body.topLeft(), body.bottomRight());
     paper.setColorAt(0, QColor(252, 249, 240));
@@ -79,14 +81,14 @@ void PaintTransparency(QPainter& p, const Transparency& slide, QSize size)
     const QRectF rim = aperture.adjusted(-frame * 0.012, -frame * 0.012, frame * 0.012, frame * 0.012);
     p.fillRect(rim, QColor(52, 46, 40));
     p.drawImage(aperture, PhotoFor(slide, (aperture.size() * 1.0).toSize()));
-    QFont hand(QStringLiteral("Liberation Serif"));
+    QFont hand(u"Liberation Serif"_s);
     hand.setItalic(true);
     hand.setBold(true);
     hand.setPixelSize(static_cast<int>(frame * 0.08));
     p.setFont(hand);
     p.setPen(QColor(142, 27, 31));
     p.drawText(QRectF(body.left(), rim.bottom(), frame, body.bottom() - rim.bottom()), Qt::AlignCenter,
-               QString::fromLatin1(slide.Label));
+               QString::fromLatin1(slide.label));
     p.restore();
 }
 
@@ -108,10 +110,9 @@ QImage PaintSlideShow(QSize size)
     veil.setColorAt(0.6, QColor(8, 5, 4, 120));
     veil.setColorAt(1, QColor(8, 5, 4, 0));
     p.fillRect(QRectF(0, 0, w, h * 0.26), veil);
-    TitleText(p, QStringLiteral("The Torvik Vollandry"), {w * 0.5, h * 0.085}, h * 0.105,
-              QStringLiteral("Liberation Serif"), true, 100);
-    TitleText(p, QStringLiteral("SLIDE SHOW"), {w * 0.5, h * 0.172}, h * 0.045,
-              QStringLiteral("Liberation Sans"), false, 150);
+    TitleText(p, u"The Torvik Vollandry"_s, {w * 0.5, h * 0.085}, h * 0.105, u"Liberation Serif"_s, true,
+              100);
+    TitleText(p, u"SLIDE SHOW"_s, {w * 0.5, h * 0.172}, h * 0.045, u"Liberation Sans"_s, false, 150);
     p.end();
     return picture.convertToFormat(QImage::Format_RGB32);
 }

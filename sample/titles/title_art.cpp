@@ -10,6 +10,8 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Scenery Evening(std::uint32_t seed)
@@ -119,7 +121,7 @@ QImage PaintOpening(QSize size)
     for (const Guest& guest : guests) {
         Trim trim;
         trim.plate = QString::number(guest.year);
-        trim.script = QStringLiteral("Vollandry");
+        trim.script = u"Vollandry"_s;
         trim.lampsLit = true;
         const auto& card = PaintsOfYear(guest.year);
         AddCar(picture, ShapeOfYear(guest.year), card[static_cast<std::size_t>(guest.paint) % card.size()],
@@ -132,10 +134,8 @@ QImage PaintOpening(QSize size)
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     const double w = size.width();
     const double h = size.height();
-    TitleText(p, QStringLiteral("The Torvik Vollandry"), {w * 0.5, h * 0.13}, h * 0.155,
-              QStringLiteral("Liberation Serif"), true, 100);
-    TitleText(p, QStringLiteral("1967 - 2001"), {w * 0.5, h * 0.245}, h * 0.06,
-              QStringLiteral("Liberation Sans"), false, 130);
+    TitleText(p, u"The Torvik Vollandry"_s, {w * 0.5, h * 0.13}, h * 0.155, u"Liberation Serif"_s, true, 100);
+    TitleText(p, u"1967 - 2001"_s, {w * 0.5, h * 0.245}, h * 0.06, u"Liberation Sans"_s, false, 130);
     return picture;
 }
 
@@ -145,8 +145,8 @@ QImage PaintSplash(int factor)
     const Camera camera = LookAt({-6.2, -5.6, 1.05}, {0.15, 0.2, 1.12}, 44, size);
     const CarShape shape = ShapeOfYear(1967);
     Trim trim;
-    trim.plate = QStringLiteral("2001");
-    trim.script = QStringLiteral("Vollandry");
+    trim.plate = u"2001"_s;
+    trim.script = u"Vollandry"_s;
     trim.lampsLit = true;
     QImage picture =
         PhotographCar(shape, PaintsOfYear(1967)[0], trim, Evening(11), camera, size, CarSide::Left);
@@ -159,10 +159,8 @@ QImage PaintSplash(int factor)
     veil.setColorAt(0, QColor(14, 8, 24, 170));
     veil.setColorAt(1, QColor(14, 8, 24, 0));
     p.fillRect(QRectF(0, 0, w, h * 0.5), veil);
-    TitleText(p, QStringLiteral("The Torvik"), {w * 0.5, h * 0.105}, h * 0.115,
-              QStringLiteral("Liberation Serif"), true, 100);
-    TitleText(p, QStringLiteral("Vollandry 2001"), {w * 0.5, h * 0.235}, h * 0.165,
-              QStringLiteral("Liberation Serif"), true, 100);
+    TitleText(p, u"The Torvik"_s, {w * 0.5, h * 0.105}, h * 0.115, u"Liberation Serif"_s, true, 100);
+    TitleText(p, u"Vollandry 2001"_s, {w * 0.5, h * 0.235}, h * 0.165, u"Liberation Serif"_s, true, 100);
     p.setPen(QPen(QColor(240, 214, 160), 2.0 * factor));
     p.setBrush(Qt::NoBrush);
     p.drawRect(QRectF(5.0 * factor, 5.0 * factor, w - 10.0 * factor, h - 10.0 * factor));
@@ -196,7 +194,7 @@ QImage PaintIcon(int size)
     p.fillPath(raise.map(tee), QColor(250, 226, 180, 90));
     p.restore();
     Trim trim;
-    trim.plate = QStringLiteral("2001");
+    trim.plate = u"2001"_s;
     const Paint silver{QString(), QColor(206, 210, 216), 0.9};
     const QImage car =
         CutOutCar(ShapeOfYear(1967), silver, trim, View::FrontLeft, QSize(size * 2, size * 6 / 5));

@@ -12,6 +12,7 @@
 #include <QTest>
 
 using namespace torvik::sample;
+using namespace Qt::StringLiterals;
 
 class AdPlanTest : public QObject {
     Q_OBJECT
@@ -21,8 +22,7 @@ private Q_SLOTS:
     {
         QStringList expected;
         for (int year = 67; year <= 100; ++year)
-            expected.append(
-                QStringLiteral("ads/%1brto00.jpg").arg(QString::number(year % 100).rightJustified(2, u'0')));
+            expected.append(u"ads/%1brto00.jpg"_s.arg(QString::number(year % 100).rightJustified(2, u'0')));
         QStringList files;
         for (const PlannedAd& ad : PlanAds())
             files.append(ad.File());
@@ -58,10 +58,10 @@ private Q_SLOTS:
 
     void every_headline_is_on_the_collectors_checklist_of_its_year()
     {
-        const QString checklist = StoredText(QStringLiteral("advertisements"));
+        const QString checklist = StoredText(u"advertisements"_s);
         for (const PlannedAd& ad : PlanAds()) {
             const QString headline = QString(AdCopyOf(ad.year).headline).replace(u'\'', QChar(0x2019));
-            const QString row = QStringLiteral("| %1 | “%2” |").arg(ad.year).arg(headline);
+            const QString row = u"| %1 | “%2” |"_s.arg(ad.year).arg(headline);
             QVERIFY2(checklist.contains(row), qPrintable(row));
         }
     }
@@ -94,9 +94,8 @@ private Q_SLOTS:
             const QString text = copy.headline + copy.lead + copy.paragraphs.join(u' ');
             QVERIFY2(!text.contains(u'{') && !text.contains(u'}'), qPrintable(text));
         }
-        QVERIFY(AdCopyOf(1967).paragraphs.join(u' ').contains(QStringLiteral("a V8 of 318 horsepower")));
-        QVERIFY(
-            AdCopyOf(1979).paragraphs.join(u' ').contains(QStringLiteral("It is 1,205 kilograms in all.")));
+        QVERIFY(AdCopyOf(1967).paragraphs.join(u' ').contains(u"a V8 of 318 horsepower"_s));
+        QVERIFY(AdCopyOf(1979).paragraphs.join(u' ').contains(u"It is 1,205 kilograms in all."_s));
     }
 
     void a_page_is_drawn_in_its_size_on_its_paper_and_the_same_each_time()

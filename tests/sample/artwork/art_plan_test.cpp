@@ -9,6 +9,7 @@
 #include <QTest>
 
 using namespace torvik::sample;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,9 +40,9 @@ private Q_SLOTS:
     {
         QStringList expected;
         for (const QString& digits : YearsOnFiles())
-            expected.append(QStringLiteral("emblems/emb%1.jpg").arg(digits));
-        expected.append(QStringLiteral("emblems/embsb.jpg"));
-        expected.append(QStringLiteral("emblems/EMBpt.jpg"));
+            expected.append(u"emblems/emb%1.jpg"_s.arg(digits));
+        expected.append(u"emblems/embsb.jpg"_s);
+        expected.append(u"emblems/EMBpt.jpg"_s);
         QCOMPARE(FilesOf(PlanEmblems()), expected);
     }
 
@@ -49,9 +50,9 @@ private Q_SLOTS:
     {
         QStringList expected;
         for (const QString& digits : YearsOnFiles())
-            expected.append(QStringLiteral("SCRIPTS/scri%1.jpg").arg(digits));
-        expected.append(QStringLiteral("SCRIPTS/SCRISB.jpg"));
-        expected.append(QStringLiteral("SCRIPTS/SCRIpt.jpg"));
+            expected.append(u"SCRIPTS/scri%1.jpg"_s.arg(digits));
+        expected.append(u"SCRIPTS/SCRISB.jpg"_s);
+        expected.append(u"SCRIPTS/SCRIpt.jpg"_s);
         QCOMPARE(FilesOf(PlanScripts()), expected);
     }
 
@@ -59,16 +60,16 @@ private Q_SLOTS:
     {
         QStringList expected;
         for (const QString& digits : YearsOnFiles())
-            expected.append(QStringLiteral("Clipart/%1clip.jpg").arg(digits));
+            expected.append(u"Clipart/%1clip.jpg"_s.arg(digits));
         QCOMPARE(FilesOf(PlanClipArt()), expected);
     }
 
     void the_years_after_1999_go_by_their_two_digits_here_and_not_by_the_codes_of_the_photos()
     {
-        QCOMPARE(TwoDigits(1967), QStringLiteral("67"));
-        QCOMPARE(TwoDigits(1999), QStringLiteral("99"));
-        QCOMPARE(TwoDigits(2000), QStringLiteral("00"));
-        QCOMPARE(TwoDigits(2001), QStringLiteral("01"));
+        QCOMPARE(TwoDigits(1967), u"67"_s);
+        QCOMPARE(TwoDigits(1999), u"99"_s);
+        QCOMPARE(TwoDigits(2000), u"00"_s);
+        QCOMPARE(TwoDigits(2001), u"01"_s);
     }
 
     void every_emblem_fits_over_a_photo_and_no_two_are_alike_between_generations()

@@ -8,6 +8,7 @@
 #include <QTest>
 
 using namespace torvik::sample;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -59,15 +60,15 @@ private Q_SLOTS:
         const QTemporaryDir disc;
         MakeBookletArt(disc.path());
         const auto check = [&](const QString& name, const QByteArray& format, QSize size) {
-            QImageReader reader(disc.filePath(QStringLiteral("graphics/") + name));
+            QImageReader reader(disc.filePath(u"graphics/"_s + name));
             QCOMPARE(reader.format(), format);
             const QImage picture = reader.read();
             QCOMPARE(picture.size(), size);
             QCOMPARE(qRound(picture.dotsPerMeterX() * 0.0254), 96);
         };
-        check(QStringLiteral("logo.jpg"), "jpeg", {560, 160});
-        check(QStringLiteral("bklettxt.jpg"), "jpeg", {700, 190});
-        check(QStringLiteral("quillon3.bmp"), "bmp", {420, 130});
+        check(u"logo.jpg"_s, "jpeg", {560, 160});
+        check(u"bklettxt.jpg"_s, "jpeg", {700, 190});
+        check(u"quillon3.bmp"_s, "bmp", {420, 130});
     }
 };
 

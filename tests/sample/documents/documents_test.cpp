@@ -12,6 +12,7 @@
 #include <algorithm>
 
 using namespace torvik;
+using namespace Qt::StringLiterals;
 using sample::PlannedDocument;
 
 namespace {
@@ -81,14 +82,13 @@ void DocumentsTest::EveryYearHasItsFiveArticles()
     for (int year = 1967; year <= 2001; ++year) {
         const QString twoDigits = QString::number(year).mid(2);
         const QString prefix = year < 2000 ? twoDigits : u'a' + twoDigits.mid(1);
-        const QString options = year < 2000 ? QStringLiteral("opts.rtf") : QStringLiteral("OPTS.rtf");
-        for (const QString& ending : {QStringLiteral("desc.rtf"), QStringLiteral("stats.rtf"),
-                                      QStringLiteral("colors.rtf"), options}) {
+        const QString options = year < 2000 ? u"opts.rtf"_s : u"OPTS.rtf"_s;
+        for (const QString& ending : {u"desc.rtf"_s, u"stats.rtf"_s, u"colors.rtf"_s, options}) {
             const QString file = prefix + ending;
             QVERIFY2(Find(file), qPrintable(file));
             QCOMPARE(Find(file)->file, file);
         }
-        const QString nostalgia = QStringLiteral("nostalgia") + twoDigits + QStringLiteral(".rtf");
+        const QString nostalgia = u"nostalgia"_s + twoDigits + u".rtf"_s;
         QVERIFY2(Find(nostalgia), qPrintable(nostalgia));
     }
 }
@@ -225,22 +225,22 @@ void DocumentsTest::NoTextIsLeftUnfinished()
 void DocumentsTest::TheFiguresOfAYearAgree()
 {
     for (const sample::ModelYear& year : sample::ModelYears()) {
-        const QString prefix = year.year < 2000 ? QString::number(year.year - 1900)
-                                                : QStringLiteral("a%1").arg(year.year - 2000);
+        const QString prefix =
+            year.year < 2000 ? QString::number(year.year - 1900) : u"a%1"_s.arg(year.year - 2000);
         const QString built = sample::Grouped(year.Built());
         const QString price = sample::Dollars(year.price);
-        QVERIFY2(TextOf(prefix + QStringLiteral("desc.rtf")).contains(built), qPrintable(prefix));
-        QVERIFY2(TextOf(prefix + QStringLiteral("desc.rtf")).contains(price), qPrintable(prefix));
-        QVERIFY2(TextOf(prefix + QStringLiteral("stats.rtf")).contains(built), qPrintable(prefix));
-        QVERIFY2(TextOf(prefix + QStringLiteral("stats.rtf")).contains(price), qPrintable(prefix));
-        QVERIFY2(TextOf(prefix + QStringLiteral("opts.rtf")).contains(price), qPrintable(prefix));
-        QVERIFY2(TextOf(QStringLiteral("stats.rtf")).contains(built), qPrintable(prefix));
+        QVERIFY2(TextOf(prefix + u"desc.rtf"_s).contains(built), qPrintable(prefix));
+        QVERIFY2(TextOf(prefix + u"desc.rtf"_s).contains(price), qPrintable(prefix));
+        QVERIFY2(TextOf(prefix + u"stats.rtf"_s).contains(built), qPrintable(prefix));
+        QVERIFY2(TextOf(prefix + u"stats.rtf"_s).contains(price), qPrintable(prefix));
+        QVERIFY2(TextOf(prefix + u"opts.rtf"_s).contains(price), qPrintable(prefix));
+        QVERIFY2(TextOf(u"stats.rtf"_s).contains(built), qPrintable(prefix));
     }
 }
 
 void DocumentsTest::ColoursAreShownAsSwatches()
 {
-    const PlannedDocument* colours = Find(QStringLiteral("72colors.rtf"));
+    const PlannedDocument* colours = Find(u"72colors.rtf"_s);
     QVERIFY(colours);
     QVERIFY(TextOf(colours->file).contains(u"Ice Lilac"));
     QVERIFY(colours->text.contains("\\red185\\green168\\blue201;"));
@@ -250,12 +250,12 @@ void DocumentsTest::ColoursAreShownAsSwatches()
 void DocumentsTest::CharactersOfTheCodePageArriveInEveryDialect()
 {
     // One document of each dialect, told by a word that only that one writes.
-    QVERIFY(!Find(QStringLiteral("plates.rtf"))->text.contains("\\stylesheet"));
-    QVERIFY(Find(QStringLiteral("danbury.rtf"))->text.contains("\\listoverridetable"));
-    QVERIFY(Find(QStringLiteral("sbopts.rtf"))->text.contains("\\rsidtbl"));
-    QVERIFY(Find(QStringLiteral("danbury.rtf"))->text.contains("\\ldblquote "));
-    QVERIFY(Find(QStringLiteral("sbopts.rtf"))->text.contains("\\u8220\\'93"));
-    QVERIFY(Find(QStringLiteral("plates.rtf"))->text.contains("\\'93"));
+    QVERIFY(!Find(u"plates.rtf"_s)->text.contains("\\stylesheet"));
+    QVERIFY(Find(u"danbury.rtf"_s)->text.contains("\\listoverridetable"));
+    QVERIFY(Find(u"sbopts.rtf"_s)->text.contains("\\rsidtbl"));
+    QVERIFY(Find(u"danbury.rtf"_s)->text.contains("\\ldblquote "));
+    QVERIFY(Find(u"sbopts.rtf"_s)->text.contains("\\u8220\\'93"));
+    QVERIFY(Find(u"plates.rtf"_s)->text.contains("\\'93"));
     for (const char* file : {"danbury.rtf", "sbopts.rtf", "plates.rtf"}) {
         const QString text = TextOf(QString::fromLatin1(file));
         QVERIFY2(text.contains(u'“') && text.contains(u'”'), file);
@@ -264,7 +264,7 @@ void DocumentsTest::CharactersOfTheCodePageArriveInEveryDialect()
 
 void DocumentsTest::AddressesBecomeLinks()
 {
-    const PlannedDocument* news = Find(QStringLiteral("whatsnew.rtf"));
+    const PlannedDocument* news = Find(u"whatsnew.rtf"_s);
     QVERIFY(news);
     QVERIFY(news->text.contains("HYPERLINK \"https://www.torvik-vollandry.example/changes/\""));
 }
@@ -293,9 +293,9 @@ void DocumentsTest::TheDocumentsAreWrittenIntoTheirFolder()
 {
     const QTemporaryDir disc;
     sample::MakeDocuments(disc.path());
-    QFile first(disc.filePath(QStringLiteral("RichText/67desc.rtf")));
+    QFile first(disc.filePath(u"RichText/67desc.rtf"_s));
     QVERIFY(first.open(QIODevice::ReadOnly));
-    QCOMPARE(first.readAll(), Find(QStringLiteral("67desc.rtf"))->text);
+    QCOMPARE(first.readAll(), Find(u"67desc.rtf"_s)->text);
 }
 
 QTEST_MAIN(DocumentsTest)

@@ -9,6 +9,7 @@
 #include <QTextFragment>
 
 using namespace torvik;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -46,7 +47,7 @@ private Q_SLOTS:
     {
         const std::vector<HelpTopic> topics = TopicsOf(help_);
         QVERIFY(topics.size() > 20);
-        QCOMPARE(topics.front().Anchor, QStringLiteral("welcome"));
+        QCOMPARE(topics.front().Anchor, u"welcome"_s);
         QSet<QString> anchors;
         for (const HelpTopic& topic : topics) {
             QVERIFY2(!topic.Title.isEmpty() && !topic.Title.contains(u'{'), qPrintable(topic.Anchor));

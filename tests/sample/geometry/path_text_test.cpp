@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 using namespace torvik::sample;
+using namespace Qt::StringLiterals;
 
 class PathTextTest : public QObject {
     Q_OBJECT
@@ -18,32 +19,31 @@ private Q_SLOTS:
         expected.quadTo(5, 6, 7, 8);
         expected.cubicTo(1, 1, 2, 2, -3, .5);
         expected.closeSubpath();
-        QCOMPARE(PathFromText(QStringLiteral("M1,2 L3,4.5 Q5,6 7,8 C1,1 2,2 -3,.5 Z")), expected);
+        QCOMPARE(PathFromText(u"M1,2 L3,4.5 Q5,6 7,8 C1,1 2,2 -3,.5 Z"_s), expected);
     }
 
     void points_after_a_start_are_lines_without_saying_so()
     {
-        QCOMPARE(PathFromText(QStringLiteral("M0,0 4,0 4,4")),
-                 PathFromText(QStringLiteral("M0,0 L4,0 L4,4")));
+        QCOMPARE(PathFromText(u"M0,0 4,0 4,4"_s), PathFromText(u"M0,0 L4,0 L4,4"_s));
     }
 
     void what_cannot_be_read_is_refused()
     {
-        QVERIFY_EXCEPTION_THROWN(PathFromText(QStringLiteral("M1")), std::runtime_error);
-        QVERIFY_EXCEPTION_THROWN(PathFromText(QStringLiteral("M1,2 L3,x")), std::runtime_error);
-        QVERIFY_EXCEPTION_THROWN(PathFromText(QStringLiteral("M1,2 A3,4")), std::runtime_error);
+        QVERIFY_EXCEPTION_THROWN(PathFromText(u"M1"_s), std::runtime_error);
+        QVERIFY_EXCEPTION_THROWN(PathFromText(u"M1,2 L3,x"_s), std::runtime_error);
+        QVERIFY_EXCEPTION_THROWN(PathFromText(u"M1,2 A3,4"_s), std::runtime_error);
     }
 
     void a_written_word_is_as_wide_as_its_letters_and_stands_on_its_line()
     {
         Pen pen;
         pen.xHeight = 20;
-        const QRectF word = WriteWord(QStringLiteral("Torvik"), pen).boundingRect();
+        const QRectF word = WriteWord(u"Torvik"_s, pen).boundingRect();
         QVERIFY(word.width() > 70 && word.width() < 160);
         QVERIFY(word.top() < -35 && word.bottom() < 6);
-        const QRectF tailed = WriteWord(QStringLiteral("Vollandry"), pen).boundingRect();
+        const QRectF tailed = WriteWord(u"Vollandry"_s, pen).boundingRect();
         QVERIFY(tailed.bottom() > 15);
-        QVERIFY_EXCEPTION_THROWN(WriteWord(QStringLiteral("Zebra"), pen), std::out_of_range);
+        QVERIFY_EXCEPTION_THROWN(WriteWord(u"Zebra"_s, pen), std::out_of_range);
     }
 };
 

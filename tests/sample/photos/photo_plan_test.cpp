@@ -6,6 +6,7 @@
 #include <QtTest>
 
 using namespace torvik::sample;
+using namespace Qt::StringLiterals;
 
 class PhotoPlanTest : public QObject {
     Q_OBJECT
@@ -24,7 +25,7 @@ private:
 private Q_SLOTS:
     void every_file_name_is_an_upper_case_8_3_name_that_begins_with_its_prefix()
     {
-        const QRegularExpression name(QStringLiteral("^[0-9A-Z]{2}[A-Z]+[0-9]+\\.JPG$"));
+        const QRegularExpression name(u"^[0-9A-Z]{2}[A-Z]+[0-9]+\\.JPG$"_s);
         for (const PlannedPhoto& photo : plan_) {
             QVERIFY2(name.match(photo.file).hasMatch(), qPrintable(photo.file));
             QCOMPARE(photo.file.size(), 12);
@@ -56,11 +57,11 @@ private Q_SLOTS:
 
     void the_years_come_before_the_topics_and_2000_after_1999()
     {
-        QCOMPARE(PrefixOfYear(1967), QStringLiteral("67"));
-        QCOMPARE(PrefixOfYear(1999), QStringLiteral("99"));
-        QCOMPARE(PrefixOfYear(2000), QStringLiteral("A0"));
-        QCOMPARE(PrefixOfYear(2001), QStringLiteral("A1"));
-        QCOMPARE(plan_.front().prefix, QStringLiteral("67"));
+        QCOMPARE(PrefixOfYear(1967), u"67"_s);
+        QCOMPARE(PrefixOfYear(1999), u"99"_s);
+        QCOMPARE(PrefixOfYear(2000), u"A0"_s);
+        QCOMPARE(PrefixOfYear(2001), u"A1"_s);
+        QCOMPARE(plan_.front().prefix, u"67"_s);
         for (const Topic& topic : Topics())
             QVERIFY2(topic.prefix > PrefixOfYear(2001), qPrintable(topic.prefix));
     }
@@ -86,8 +87,8 @@ private Q_SLOTS:
             QVERIFY2(CountOf(topic.prefix) >= 3, qPrintable(topic.prefix));
         }
         QCOMPARE(found, expected);
-        QVERIFY(CountOf(QStringLiteral("PT")) >= 6);
-        QVERIFY(CountOf(QStringLiteral("M1")) >= 6);
+        QVERIFY(CountOf(u"PT"_s) >= 6);
+        QVERIFY(CountOf(u"M1"_s) >= 6);
     }
 
     void every_photo_has_a_caption_under_its_own_name()
@@ -95,7 +96,7 @@ private Q_SLOTS:
         QSet<QString> files;
         for (const PlannedPhoto& photo : plan_) {
             const Caption caption = CaptionOf(photo);
-            QCOMPARE(caption.file, QString(photo.file.left(8).toLower() + QStringLiteral(".rtf")));
+            QCOMPARE(caption.file, QString(photo.file.left(8).toLower() + u".rtf"_s));
             QVERIFY(caption.text.startsWith("{\\rtf1"));
             QCOMPARE(caption.text.count('{') - caption.text.count("\\{"),
                      caption.text.count('}') - caption.text.count("\\}"));
@@ -120,7 +121,7 @@ private Q_SLOTS:
     void the_cookies_have_no_notes()
     {
         for (const Caption& note : PlanNotes())
-            QVERIFY2(!note.file.startsWith(QStringLiteral("usa")), qPrintable(note.file));
+            QVERIFY2(!note.file.startsWith(u"usa"_s), qPrintable(note.file));
     }
 
     void notes_and_captions_never_share_a_name()
