@@ -2,12 +2,11 @@
 
 #include "sample/files/in_parallel.h"
 #include "sample/files/jpeg_file.h"
+#include "sample/motifs/motifs.h"
 #include "sample/movies/cards.h"
 #include "sample/movies/movie_plan.h"
 #include "sample/photos/captions.h"
-#include "sample/photos/photographer.h"
 #include "sample/sounds/effects.h"
-#include "sample/titles/slide_show_art.h"
 #include "sample/titles/title_art.h"
 
 #include <QBuffer>

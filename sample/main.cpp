@@ -1,7 +1,6 @@
 #include "sample/artwork/art_maker.h"
 #include "sample/disc_maker.h"
 #include "sample/documents/document_plan.h"
-#include "sample/documents/help_file.h"
 
 #include <QGuiApplication>
 #include <QStringList>

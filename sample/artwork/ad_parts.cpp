@@ -1,12 +1,10 @@
 #include "sample/artwork/ad_parts.h"
 
 #include "sample/artwork/ad_type.h"
-#include "sample/artwork/car_drawing.h"
+#include "sample/artwork/flat_drawing.h"
 #include "sample/car/paints.h"
 #include "sample/documents/colour_cards.h"
-#include "sample/documents/engines.h"
-#include "sample/documents/model_years.h"
-#include "sample/documents/options.h"
+#include "sample/documents/figures.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/film.h"
 #include "sample/render/tabletop.h"
@@ -31,12 +29,11 @@ Paint PaintNamed(int year, const QString& name)
 
 Trim AdTrim(const PlannedAd& plan)
 {
-    Trim trim;
-    trim.plate = QString::number(plan.year);
-    trim.script = u"Vollandry"_s;
-    trim.lampsLit = plan.place == Place::City;
-    trim.whiteWalls = plan.year <= 1968;
-    trim.redLine = plan.year == 1969 || plan.year == 1970;
+    Trim trim{.plate = QString::number(plan.year),
+              .script = u"Vollandry"_s,
+              .lampsLit = plan.place == Place::City,
+              .whiteWalls = plan.year <= 1968,
+              .redLine = plan.year == 1969 || plan.year == 1970};
     if (plan.year == 1976) {
         trim.stripe = Trim::Stripe::Racing;
         trim.stripeColour = QColor(36, 86, 176);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "sample/artwork/ad_copy.h"
 #include "sample/artwork/ad_plan.h"
 
 #include <QImage>

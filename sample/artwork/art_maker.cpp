@@ -1,10 +1,7 @@
 #include "sample/artwork/art_maker.h"
 
-#include "sample/artwork/ad_art.h"
-#include "sample/artwork/booklet_art.h"
-#include "sample/artwork/clip_art.h"
-#include "sample/artwork/emblem_art.h"
-#include "sample/artwork/script_art.h"
+#include "sample/artwork/ad_layouts.h"
+#include "sample/artwork/art_plan.h"
 #include "sample/files/in_parallel.h"
 #include "sample/files/jpeg_file.h"
 

@@ -1,6 +1,6 @@
 #include "sample/artwork/art_plan.h"
 
-#include "sample/documents/model_years.h"
+#include "sample/documents/figures.h"
 
 namespace torvik::sample {
 

@@ -1,7 +1,7 @@
-#include "sample/artwork/booklet_art.h"
-
+#include "sample/artwork/art_plan.h"
 #include "sample/artwork/pen_script.h"
 #include "sample/geometry/lettering.h"
+#include "sample/geometry/shapes.h"
 #include "sample/render/relief.h"
 #include "sample/render/tabletop.h"
 
@@ -31,21 +31,16 @@ QPainterPath Sword(double length, double height)
     const double guard = length * 0.27;
     sword.addEllipse(QPointF(height * 0.15, 0), height * 0.13, height * 0.13);
     sword.addRoundedRect(QRectF(height * 0.2, -height * 0.055, guard - height * 0.2, height * 0.11), 3, 3);
-    QPainterPath cross;
-    cross.moveTo(guard - height * 0.07, -height * 0.40);
-    cross.quadTo(guard + height * 0.02, 0, guard - height * 0.07, height * 0.40);
-    cross.quadTo(guard + height * 0.03, height * 0.54, guard + height * 0.13, height * 0.40);
-    cross.quadTo(guard + height * 0.06, 0, guard + height * 0.13, -height * 0.40);
-    cross.quadTo(guard + height * 0.03, -height * 0.54, guard - height * 0.07, -height * 0.40);
-    sword.addPath(cross);
-    QPainterPath blade;
-    blade.moveTo(guard + height * 0.08, -height * 0.085);
-    blade.lineTo(length * 0.93, -height * 0.05);
-    blade.lineTo(length, 0);
-    blade.lineTo(length * 0.93, height * 0.05);
-    blade.lineTo(guard + height * 0.08, height * 0.085);
-    blade.closeSubpath();
-    sword.addPath(blade);
+    sword.addPath(Outline({{guard - height * 0.07, -height * 0.40},
+                           {guard + height * 0.02, 0, guard - height * 0.07, height * 0.40},
+                           {guard + height * 0.03, height * 0.54, guard + height * 0.13, height * 0.40},
+                           {guard + height * 0.06, 0, guard + height * 0.13, -height * 0.40},
+                           {guard + height * 0.03, -height * 0.54, guard - height * 0.07, -height * 0.40}}));
+    sword.addPath(ClosedOutline({{guard + height * 0.08, -height * 0.085},
+                                 {length * 0.93, -height * 0.05},
+                                 {length, 0},
+                                 {length * 0.93, height * 0.05},
+                                 {guard + height * 0.08, height * 0.085}}));
     return sword;
 }
 
@@ -62,11 +57,7 @@ QImage PaintBookletLogo()
     red.rayFrom = middle + QPointF(0, 60);
     relief.Add(ShieldPath(middle, 51), red, {4, -1.5, 4, 0});
     relief.Add(WingedT(middle + QPointF(0, 2), 40), Chrome(), {4, 3.5, 5, 2});
-    Pen pen;
-    pen.xHeight = 37;
-    pen.spread = 1.22;
-    pen.broad = 0.25;
-    pen.fine = 0.15;
+    const Pen pen{.xHeight = 37, .broad = 0.25, .fine = 0.15, .spread = 1.22};
     const QPainterPath word = WriteWord(u"Vollandry"_s, pen).translated(176, 95);
     Pen wide = pen;
     wide.broad += 0.2;
@@ -83,8 +74,7 @@ QImage PaintBookletTitle()
 {
     const QSize size(700, 190);
     QImage picture = Paper(size);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter p(&picture);
     const auto line = [&](const QString& text, double y, double height, const Type& type, const QColor& ink) {
         QPainterPath path = Lettering(text, height, type);
         path.translate(350 - path.boundingRect().center().x(), y);
@@ -107,8 +97,7 @@ QImage PaintPublisherMark()
 {
     const QSize size(420, 130);
     QImage picture = Paper(size);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter p(&picture);
     p.fillPath(Sword(396, 84).translated(12, 46), printInk);
     // The blade's middle rib, and the winding of the grip.
     p.setPen(QPen(Qt::white, 1.2));
@@ -116,9 +105,7 @@ QImage PaintPublisherMark()
     p.setPen(QPen(Qt::white, 1.6));
     for (int i = 0; i < 8; ++i)
         p.drawLine(QPointF(40 + i * 9.0, 51), QPointF(45 + i * 9.0, 41));
-    QPainterPath jewel;
-    jewel.addEllipse(QPointF(24.6, 46), 5, 5);
-    p.fillPath(jewel, wine);
+    p.fillPath(Disc({24.6, 46}, 5), wine);
     p.fillPath(
         Centred(Lettering(u"QUILLON"_s, 21, {u"Liberation Serif"_s, true, false, 160, 1.0}), {256, 80}),
         printInk);

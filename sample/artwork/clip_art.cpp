@@ -1,10 +1,10 @@
-#include "sample/artwork/clip_art.h"
-
-#include "sample/artwork/car_drawing.h"
-#include "sample/artwork/clip_icon.h"
+#include "sample/artwork/art_plan.h"
+#include "sample/artwork/flat_drawing.h"
 #include "sample/car/paints.h"
-#include "sample/documents/text_store.h"
+#include "sample/files/text_store.h"
 #include "sample/geometry/lettering.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/render/tabletop.h"
 
 #include <array>
@@ -32,8 +32,7 @@ void DrawBackdrop(QPainter& p, const QRectF& box, int year)
     const auto number = static_cast<std::size_t>(year - 1967);
     const Tones& tone = tones[number % tones.size()];
     p.save();
-    QPainterPath frame;
-    frame.addRoundedRect(box, 8, 8);
+    const QPainterPath frame = Rounded(box, 8);
     p.setClipPath(frame);
     p.fillRect(box, QColor(tone.sky));
     const double x = box.left();
@@ -75,8 +74,7 @@ void DrawBackdrop(QPainter& p, const QRectF& box, int year)
 /// The year in the lettering of its decade, on a plate in the colour of the car.
 void DrawYear(QPainter& p, const QRectF& box, int year, const QColor& paint)
 {
-    QPainterPath plate;
-    plate.addRoundedRect(box, 8, 8);
+    const QPainterPath plate = Rounded(box, 8);
     const bool pale = qGray(paint.rgb()) > 140;
     FillOutlined(p, plate, paint, 1.4);
     const QColor ink = pale ? QColor(30, 28, 32) : QColor(252, 248, 236);
@@ -99,12 +97,11 @@ QImage PaintClipArt(const SmallPicture& strip)
 {
     QImage picture(stripSize, QImage::Format_RGB32);
     picture.fill(Qt::white);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter p(&picture);
     const std::map<QString, TextSection> icons = StoredSections(u"clip_icons"_s);
     DrawIcon(p, QRectF(8, 8, 64, 64), icons.at(QString::number(strip.year)).body);
     const std::vector<Paint>& card = PaintsOfYear(strip.year);
-    const QColor paint = card[static_cast<std::size_t>(strip.year * 3) % card.size()].colour;
+    const QColor paint = Cycled(card, strip.year * 3).colour;
     const QRectF scene(84, 5, 220, 70);
     DrawBackdrop(p, scene, strip.year);
     const CarShape shape = ShapeOfYear(strip.year);

@@ -1,8 +1,8 @@
-#include "sample/artwork/emblem_art.h"
-
+#include "sample/artwork/art_plan.h"
 #include "sample/car/car_shape.h"
 #include "sample/geometry/lettering.h"
-#include "sample/geometry/path_text.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/render/relief.h"
 #include "sample/render/tabletop.h"
 
@@ -17,20 +17,6 @@ namespace {
 constexpr int emblemWidth = 200;
 constexpr int emblemHeight = 124;
 const QPointF emblemMiddle(100, 61);
-
-QPainterPath Ellipse(const QPointF& middle, double across, double down)
-{
-    QPainterPath path;
-    path.addEllipse(middle, across, down);
-    return path;
-}
-
-QPainterPath Panel(const QRectF& box, double radius)
-{
-    QPainterPath path;
-    path.addRoundedRect(box, radius, radius);
-    return path;
-}
 
 /// The three bars of the tail lamps, which all bodies but one have in common.
 QPainterPath ThreeBars(const QPointF& middle, double width, double height)
@@ -60,8 +46,8 @@ void AddPlate(Relief& relief, const QString& words, double y, const QColor& enam
 {
     QPainterPath letters = Lettering(words, 8.5, {u"Liberation Sans"_s, true, false, 135, 1.0});
     const double half = letters.boundingRect().width() / 2 + 9;
-    relief.Add(Panel(QRectF(100 - half, y - 9, half * 2, 18), 4), Chrome(), {3, 3, 3, 2});
-    relief.Add(Panel(QRectF(100 - half + 2.5, y - 6.5, half * 2 - 5, 13), 2.5), Enamel(enamel),
+    relief.Add(Rounded(QRectF(100 - half, y - 9, half * 2, 18), 4), Chrome(), {3, 3, 3, 2});
+    relief.Add(Rounded(QRectF(100 - half + 2.5, y - 6.5, half * 2 - 5, 13), 2.5), Enamel(enamel),
                {5, -1, 2, 0});
     relief.Add(Centred(letters, {100, y}), Chrome(), {5, 0.5, 0.6, 0.5});
 }
@@ -84,13 +70,13 @@ void FirstEmblem(Relief& relief, int year)
 void SecondEmblem(Relief& relief, int year)
 {
     constexpr std::array<QRgb, 3> grounds = {0x101216, 0x2A1636, 0x33400F};
-    relief.Add(Panel(QRectF(14, 26, 172, 70), 16), Chrome(), {0, 6, 7, 4});
-    relief.Add(Panel(QRectF(23, 35, 154, 52), 10),
+    relief.Add(Rounded(QRectF(14, 26, 172, 70), 16), Chrome(), {0, 6, 7, 4});
+    relief.Add(Rounded(QRectF(23, 35, 154, 52), 10),
                Enamel(QColor(grounds[static_cast<std::size_t>(year - 1971)])), {5, -2.5, 4, 0});
     const std::array<QColor, 3> bars = {QColor(190, 20, 28), QColor(236, 232, 222), QColor(26, 70, 160)};
     for (int i = 0; i < 3; ++i) {
-        relief.Add(Panel(QRectF(32, 41.0 + i * 14, 136, 11), 2), Chrome(), {3, 1.5, 2, 0});
-        relief.Add(Panel(QRectF(34, 42.5 + i * 14, 132, 8), 1), Enamel(bars[static_cast<std::size_t>(i)]),
+        relief.Add(Rounded(QRectF(32, 41.0 + i * 14, 136, 11), 2), Chrome(), {3, 1.5, 2, 0});
+        relief.Add(Rounded(QRectF(34, 42.5 + i * 14, 132, 8), 1), Enamel(bars[static_cast<std::size_t>(i)]),
                    {4, -0.8, 1.5, 0});
     }
     relief.Add(WingedT(emblemMiddle + QPointF(0, 2), 40), Chrome(), {5, 5, 6, 4});
@@ -122,8 +108,8 @@ void ThirdEmblem(Relief& relief, int year)
                 .rotate(degrees)
                 .translate(0, -42.5);
         };
-        const QPainterPath letter = Centred(Lettering(words.mid(i, 1), 8, type), {0, 0});
-        relief.Add(around(angle).map(letter), Chrome(), {4, 0.7, 0.8, 0.5});
+        relief.Add(around(angle).map(Centred(Lettering(words.mid(i, 1), 8, type), {0, 0})), Chrome(),
+                   {4, 0.7, 0.8, 0.5});
         relief.Add(around(180 + angle).map(Ellipse({0, 0}, 2.2, 2.2)), Chrome(), {4, 0.7, 0.8, 0.5});
     }
 }
@@ -141,8 +127,7 @@ void FourthEmblem(Relief& relief, int year)
         const double x = 121.0 + i * 11;
         const QPainterPath bar =
             PathFromText(u"M%1,40 L%2,40 L%3,72 L%4,72 Z"_s.arg(x + 9).arg(x + 16).arg(x + 7).arg(x));
-        relief.Add(bar, Enamel(QColor(colours[static_cast<std::size_t>(year - 1979 + i) % colours.size()])),
-                   {3, 1.5, 1.5, 0.5});
+        relief.Add(bar, Enamel(QColor(Cycled(colours, year - 1979 + i))), {3, 1.5, 1.5, 0.5});
     }
     QTransform lean;
     lean.translate(76, 57).shear(-0.28, 0);
@@ -212,31 +197,13 @@ void HarwellEmblem(Relief& relief)
 
 void PrototypeEmblem(Relief& relief)
 {
-    relief.Add(Panel(QRectF(22, 14, 156, 94), 5), Matte(QColor(126, 98, 70)), {0, 4, 3, 3});
+    relief.Add(Rounded(QRectF(22, 14, 156, 94), 5), Matte(QColor(126, 98, 70)), {0, 4, 3, 3});
     for (const QPointF& hole : {QPointF(34, 26), QPointF(166, 26), QPointF(34, 96), QPointF(166, 96)})
         relief.Add(Ellipse(hole, 4.5, 4.5), Chrome(), {3, 2, 4, 1});
     relief.Add(WingedT(emblemMiddle + QPointF(0, -8), 40), Gold(), {4, 5, 6, 4});
     relief.Add(
         Centred(Lettering(u"PROJECT T-5"_s, 9, {u"Liberation Mono"_s, true, false, 120, 1.0}), {100, 96}),
         Gold(), {3.5, 0.6, 0.8, 0.8});
-}
-
-void AddYear(Relief& relief, int year)
-{
-    switch (GenerationOfYear(year)) {
-    case 1:
-        return FirstEmblem(relief, year);
-    case 2:
-        return SecondEmblem(relief, year);
-    case 3:
-        return ThirdEmblem(relief, year);
-    case 4:
-        return FourthEmblem(relief, year);
-    case 5:
-        return FifthEmblem(relief, year);
-    default:
-        return SixthEmblem(relief, year);
-    }
 }
 
 } // namespace
@@ -255,7 +222,9 @@ QImage PaintEmblem(const SmallPicture& emblem)
     case Marque::Vollandry:
         break;
     }
-    AddYear(relief, emblem.year);
+    constexpr void (*generations[])(Relief&, int) = {FirstEmblem,  SecondEmblem, ThirdEmblem,
+                                                     FourthEmblem, FifthEmblem,  SixthEmblem};
+    generations[GenerationOfYear(emblem.year) - 1](relief, emblem.year);
     return relief.Over(SoftGround(size, QColor(196, 200, 206), QColor(120, 126, 136)));
 }
 

@@ -1,9 +1,10 @@
-#include "sample/artwork/script_art.h"
-
+#include "sample/artwork/art_plan.h"
 #include "sample/artwork/pen_script.h"
 #include "sample/car/car_shape.h"
 #include "sample/car/paints.h"
 #include "sample/geometry/lettering.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/render/relief.h"
 
 namespace torvik::sample {
@@ -21,12 +22,8 @@ QImage Lacquer(const QColor& paint)
     QPainter painter(&ground);
     const QColor mild = QColor::fromHsv(std::max(0, paint.hue()), paint.saturation() * 6 / 10,
                                         std::clamp(paint.value() * 6 / 10, 44, 104));
-    QLinearGradient light(0, 0, 0, plateSize.height());
-    light.setColorAt(0, mild.lighter(165));
-    light.setColorAt(0.42, mild.lighter(118));
-    light.setColorAt(0.52, mild.darker(112));
-    light.setColorAt(1, mild.darker(135));
-    painter.fillRect(ground.rect(), light);
+    painter.fillRect(ground.rect(), Linear({0, 0}, {0, plateSize.height() * 1.0},
+                                           Shades(mild, {{0, 165}, {0.42, 118}, {0.52, -112}, {1, -135}})));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(255, 255, 255, 70), 1));
     painter.drawRect(QRectF(1.5, 1.5, plateSize.width() - 3, plateSize.height() - 3));
@@ -38,19 +35,13 @@ QImage Lacquer(const QColor& paint)
 void AddInk(Relief& relief, const QString& word, const QPointF& at, double xHeight, double spread,
             const Coat& coat)
 {
-    Pen pen;
-    pen.xHeight = xHeight;
-    pen.spread = spread;
-    pen.broad = 0.22;
-    pen.fine = 0.13;
+    const Pen pen{.xHeight = xHeight, .broad = 0.22, .fine = 0.13, .spread = spread};
     relief.Add(WriteWord(word, pen).translated(at), coat, {0, 3, 2.6, 2});
 }
 
 QPainterPath Bar(const QRectF& box)
 {
-    QPainterPath path;
-    path.addRoundedRect(box, box.height() / 2, box.height() / 2);
-    return path;
+    return Rounded(box, box.height() / 2);
 }
 
 void AddLetters(Relief& relief, const QString& words, const QPointF& middle, double height, const Type& type,
@@ -131,24 +122,6 @@ void SixthScript(Relief& relief, int year)
     AddLetters(relief, plate, {78, 64.5}, 7.5, blockType, Chrome());
 }
 
-void AddYear(Relief& relief, int year)
-{
-    switch (GenerationOfYear(year)) {
-    case 1:
-        return FirstScript(relief, year);
-    case 2:
-        return SecondScript(relief, year);
-    case 3:
-        return ThirdScript(relief, year);
-    case 4:
-        return FourthScript(relief, year);
-    case 5:
-        return FifthScript(relief, year);
-    default:
-        return SixthScript(relief, year);
-    }
-}
-
 } // namespace
 
 QImage PaintScript(const SmallPicture& script)
@@ -164,9 +137,11 @@ QImage PaintScript(const SmallPicture& script)
     case Marque::Vollandry:
         break;
     }
-    AddYear(relief, script.year);
+    constexpr void (*generations[])(Relief&, int) = {FirstScript,  SecondScript, ThirdScript,
+                                                     FourthScript, FifthScript,  SixthScript};
+    generations[GenerationOfYear(script.year) - 1](relief, script.year);
     const std::vector<Paint>& card = PaintsOfYear(script.year);
-    return relief.Over(Lacquer(card[static_cast<std::size_t>(script.year * 3) % card.size()].colour));
+    return relief.Over(Lacquer(Cycled(card, script.year * 3).colour));
 }
 
 } // namespace torvik::sample

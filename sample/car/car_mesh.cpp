@@ -1,7 +1,5 @@
 #include "sample/car/car_mesh.h"
 
-#include "sample/car/wheel_mesh.h"
-
 namespace torvik::sample {
 
 namespace {
@@ -107,13 +105,12 @@ Vec Shaped(const CarShape& c, double s, double y, double z)
 
 std::vector<double> Stations(const CarShape& c)
 {
-    std::vector<double> stations;
-    for (const double step : {0.0, 0.004, 0.010, 0.018, 0.028, 0.042, 0.06, 0.08})
-        stations.push_back(step);
+    constexpr std::array ends = {0.0, 0.004, 0.010, 0.018, 0.028, 0.042, 0.06, 0.08};
+    std::vector<double> stations(ends.begin(), ends.end());
     for (double s = 0.105; s < c.length - 0.1; s += 0.04)
         stations.push_back(s);
-    for (const double step : {0.08, 0.06, 0.042, 0.028, 0.018, 0.010, 0.004, 0.0})
-        stations.push_back(c.length - step);
+    for (auto end = ends.rbegin(); end != ends.rend(); ++end)
+        stations.push_back(c.length - *end);
     return stations;
 }
 
@@ -201,9 +198,6 @@ Mesh Cabin(const CarShape& c)
 /// A bar with a rounded section that follows the plan of nose or tail.
 Mesh BumperBar(const CarShape& c, bool front, double height, double tall, double stand, Finish finish)
 {
-    Mesh mesh;
-    mesh.finish = finish;
-    std::vector<std::vector<Vec>> rows;
     const double s = front ? 0.0 : c.length;
     const double reach = c.halfWidth(s) + 0.012;
     const double sign = front ? -1.0 : 1.0;
@@ -227,28 +221,21 @@ Mesh BumperBar(const CarShape& c, bool front, double height, double tall, double
         path.insert(path.begin(), q);
     }
     const Vec middle{s - c.length / 2, 0, height};
-    for (std::size_t i = 0; i < path.size(); ++i) {
-        const Vec& before = path[i == 0 ? 0 : i - 1];
-        const Vec& after = path[i + 1 == path.size() ? i : i + 1];
-        const Vec along = Unit(after - before);
+    const int count = static_cast<int>(path.size());
+    // The normals of a tube are best judged from its own path; each ring is closed, so the sum decides well
+    // enough.
+    Mesh mesh = Lofted(finish, count, 15, middle + Vec{-sign * 0.3, 0, 0}, [&](int row, int k) {
+        const auto i = static_cast<std::size_t>(row);
+        const Vec along = Unit(path[row + 1 == count ? i : i + 1] - path[row == 0 ? 0 : i - 1]);
         Vec out = Unit(Cross(along, {0, 0, 1}));
         if (Dot(out, path[i] - Vec{0, 0, height}) < 0)
             out = out * -1.0;
-        const double thin = std::min(
-            1.0,
-            std::min<double>(static_cast<double>(i), static_cast<double>(path.size() - 1 - i)) / 3.0 + 0.15);
-        std::vector<Vec> ring;
-        for (int k = 0; k <= 14; ++k) {
-            const double angle = 2 * pi * k / 14;
-            const double outward = 0.045 * std::cos(angle);
-            const double up = tall * std::copysign(std::pow(std::abs(std::sin(angle)), 0.7), std::sin(angle));
-            ring.push_back(path[i] + out * (outward * thin) + Vec{0, 0, up * thin});
-        }
-        rows.push_back(ring);
-    }
-    // The normals of a tube are best judged from its own path; each ring is closed, so the sum decides well
-    // enough.
-    AddGrid(mesh, rows, middle + Vec{-sign * 0.3, 0, 0});
+        const double thin = std::min(1.0, std::min<double>(row, count - 1 - row) / 3.0 + 0.15);
+        const double angle = 2 * pi * k / 14;
+        const double outward = 0.045 * std::cos(angle);
+        const double up = tall * std::copysign(std::pow(std::abs(std::sin(angle)), 0.7), std::sin(angle));
+        return path[i] + out * (outward * thin) + Vec{0, 0, up * thin};
+    });
     for (std::size_t i = 0; i < mesh.vertices.size(); ++i) {
         const Vec& onPath = path[i / 15];
         if (Dot(mesh.vertices[i].normal, mesh.vertices[i].at - onPath) < 0)
@@ -262,15 +249,14 @@ Mesh Box(const Vec& low, const Vec& high, Finish finish)
     Mesh mesh;
     mesh.finish = finish;
     const Vec middle = Mix(low, high, 0.5);
-    const auto face = [&](const Vec& a, const Vec& b, const Vec& c, const Vec& d) {
-        AddGrid(mesh, {{a, b}, {d, c}}, middle);
+    // The corners as bits: 1 for high x, 2 for high y, 4 for high z.
+    constexpr int faces[6][4] = {{0, 1, 5, 4}, {2, 3, 7, 6}, {0, 2, 6, 4},
+                                 {1, 3, 7, 5}, {4, 5, 7, 6}, {0, 1, 3, 2}};
+    const auto corner = [&](int bits) {
+        return Vec{bits & 1 ? high.x : low.x, bits & 2 ? high.y : low.y, bits & 4 ? high.z : low.z};
     };
-    face({low.x, low.y, low.z}, {high.x, low.y, low.z}, {high.x, low.y, high.z}, {low.x, low.y, high.z});
-    face({low.x, high.y, low.z}, {high.x, high.y, low.z}, {high.x, high.y, high.z}, {low.x, high.y, high.z});
-    face({low.x, low.y, low.z}, {low.x, high.y, low.z}, {low.x, high.y, high.z}, {low.x, low.y, high.z});
-    face({high.x, low.y, low.z}, {high.x, high.y, low.z}, {high.x, high.y, high.z}, {high.x, low.y, high.z});
-    face({low.x, low.y, high.z}, {high.x, low.y, high.z}, {high.x, high.y, high.z}, {low.x, high.y, high.z});
-    face({low.x, low.y, low.z}, {high.x, low.y, low.z}, {high.x, high.y, low.z}, {low.x, high.y, low.z});
+    for (const auto& face : faces)
+        AddGrid(mesh, {{corner(face[0]), corner(face[1])}, {corner(face[3]), corner(face[2])}}, middle);
     return mesh;
 }
 
@@ -279,22 +265,13 @@ void AddWing(const CarShape& c, std::vector<Mesh>& parts)
     const double x = c.length - 0.16 - c.length / 2;
     const double deck = c.centre(c.length - 0.2);
     const double reach = c.halfWidth(c.length - 0.2) - 0.12;
-    Mesh blade;
-    blade.finish = Finish::Paint;
-    std::vector<std::vector<Vec>> rows;
-    for (int i = -20; i <= 20; ++i) {
-        const double t = i / 20.0;
+    parts.push_back(Lofted(Finish::Paint, 41, 13, {x, 0, deck + 0.13}, [&](int row, int k) {
+        const double t = (row - 20) / 20.0;
         const double drop = 0.09 * std::pow(std::abs(t), 8.0);
-        std::vector<Vec> ring;
-        for (int k = 0; k <= 12; ++k) {
-            const double angle = 2 * pi * k / 12;
-            ring.push_back({x + 0.12 * std::cos(angle) - 0.05 * t * t, reach * t,
-                            deck + 0.135 + 0.018 * std::sin(angle) + 0.03 * std::cos(angle) - drop});
-        }
-        rows.push_back(ring);
-    }
-    AddGrid(blade, rows, {x, 0, deck + 0.13});
-    parts.push_back(blade);
+        const double angle = 2 * pi * k / 12;
+        return Vec{x + 0.12 * std::cos(angle) - 0.05 * t * t, reach * t,
+                   deck + 0.135 + 0.018 * std::sin(angle) + 0.03 * std::cos(angle) - drop};
+    }));
     for (const double side : {-1.0, 1.0})
         parts.push_back(
             Ellipsoid({x + 0.01, side * reach * 0.93, deck + 0.05}, {0.10, 0.025, 0.10}, Finish::Paint));
@@ -333,26 +310,58 @@ void AddInterior(const CarShape& c, std::vector<Mesh>& parts)
     parts.push_back(Ellipsoid({seat + 0.8, 0, belt - 0.1}, {0.12, 0.55, 0.20}, Finish::Cloth));
     parts.push_back(Ellipsoid({c.cowl + 0.38 - half, 0, belt - 0.045}, {0.26, 0.66, 0.07}, Finish::Dark));
     // The steering wheel, on the left.
-    Mesh ring;
-    ring.finish = Finish::Dark;
-    std::vector<std::vector<Vec>> rows;
     const Vec hub{c.cowl + 0.66 - half, -0.36, belt + 0.0};
-    for (int i = 0; i <= 28; ++i) {
+    parts.push_back(Lofted(Finish::Dark, 29, 9, hub, [&](int i, int k) {
         const double a = 2 * pi * i / 28;
+        const double b = 2 * pi * k / 8;
         const Vec out{std::sin(a) * 0.35, std::cos(a), std::sin(a) * 0.93};
-        std::vector<Vec> circle;
-        for (int k = 0; k <= 8; ++k) {
-            const double b = 2 * pi * k / 8;
-            circle.push_back(hub + out * (0.19 + 0.014 * std::cos(b)) +
-                             Vec{-0.93, 0, 0.35} * (0.014 * std::sin(b)));
-        }
-        rows.push_back(circle);
-    }
-    AddGrid(ring, rows, hub);
-    parts.push_back(ring);
+        return hub + out * (0.19 + 0.014 * std::cos(b)) + Vec{-0.93, 0, 0.35} * (0.014 * std::sin(b));
+    }));
 }
 
 } // namespace
+
+void AddWheel(std::vector<Mesh>& parts, const Vec& hub, double radius, double rimRadius, double side,
+              double turn)
+{
+    // From the middle of the face outward over the side wall and the tread to the inner side; the second
+    // number is the distance from the wheel's middle plane, positive toward the viewer of the face.
+    const std::vector<std::pair<double, double>> profile{{0.004, 0.088},
+                                                         {0.03, 0.088},
+                                                         {0.06, 0.082},
+                                                         {0.10, 0.068},
+                                                         {rimRadius * 0.70, 0.052},
+                                                         {rimRadius * 0.86, 0.060},
+                                                         {rimRadius * 0.93, 0.085},
+                                                         {rimRadius * 0.965, 0.100},
+                                                         {rimRadius, 0.104},
+                                                         {rimRadius + 0.006, 0.098},
+                                                         {rimRadius + 0.02, 0.106},
+                                                         {Mix(rimRadius, radius, 0.5), 0.116},
+                                                         {Mix(rimRadius, radius, 0.8), 0.110},
+                                                         {radius - 0.012, 0.098},
+                                                         {radius - 0.002, 0.084},
+                                                         {radius, 0.05},
+                                                         {radius, 0.0},
+                                                         {radius, -0.06},
+                                                         {radius - 0.02, -0.10},
+                                                         {rimRadius, -0.10},
+                                                         {0.05, -0.09}};
+    const int points = 57;
+    Mesh wheel = Lofted(Finish::Wheel, static_cast<int>(profile.size()), points, hub, [&](int row, int k) {
+        const auto& [r, out] = profile[static_cast<std::size_t>(row)];
+        const double a = 2 * pi * k / (points - 1);
+        return hub + Vec{r * std::cos(a), side * out, r * std::sin(a)};
+    });
+    wheel.centre = hub;
+    wheel.turn = turn;
+    // The dished part of the face points toward the hub's outside, not away from the hub itself.
+    for (std::size_t i = 0; i < 9U * 57U; ++i) {
+        if (wheel.vertices[i].normal.y * side < 0)
+            wheel.vertices[i].normal = wheel.vertices[i].normal * -1.0;
+    }
+    parts.push_back(wheel);
+}
 
 double ShoulderHalfWidth(const CarShape& shape, double s)
 {
@@ -390,15 +399,18 @@ std::vector<Mesh> BuildCar(const CarShape& c)
     parts.push_back(Box({0.5 - half, -c.halfWidth(1.0) + 0.16, c.bottom(2.0) + 0.02},
                         {c.length - 0.5 - half, c.halfWidth(1.0) - 0.16, c.bottom(2.0) + 0.06},
                         Finish::Dark));
-    if (c.bumper == Bumper::ChromeBlade) {
-        parts.push_back(BumperBar(c, true, c.bumperHeight, 0.055, 0.03, Finish::Chrome));
-        parts.push_back(BumperBar(c, false, c.bumperHeight + 0.06, 0.055, 0.03, Finish::Chrome));
-    } else if (c.bumper == Bumper::RubberStrip) {
-        parts.push_back(BumperBar(c, true, c.bumperHeight, 0.065, 0.06, Finish::Rubber));
-        parts.push_back(BumperBar(c, false, c.bumperHeight + 0.05, 0.065, 0.06, Finish::Rubber));
-    } else if (c.bumper == Bumper::BodyColour) {
-        parts.push_back(BumperBar(c, true, c.bumperHeight, 0.075, 0.04, Finish::Paint));
-        parts.push_back(BumperBar(c, false, c.bumperHeight + 0.05, 0.075, 0.04, Finish::Paint));
+    struct Bar {
+        double rear, tall, stand; ///< how much higher the one at the rear sits
+        Finish finish;
+    };
+    // In the order of the bumpers; the last kind has no bar.
+    constexpr Bar bars[] = {{0.06, 0.055, 0.03, Finish::Chrome},
+                            {0.05, 0.075, 0.04, Finish::Paint},
+                            {0.05, 0.065, 0.06, Finish::Rubber}};
+    if (c.bumper != Bumper::Hidden) {
+        const Bar& bar = bars[static_cast<std::size_t>(c.bumper)];
+        parts.push_back(BumperBar(c, true, c.bumperHeight, bar.tall, bar.stand, bar.finish));
+        parts.push_back(BumperBar(c, false, c.bumperHeight + bar.rear, bar.tall, bar.stand, bar.finish));
     }
     AddPlates(c, parts);
     AddInterior(c, parts);
@@ -412,20 +424,11 @@ std::vector<Mesh> BuildCar(const CarShape& c)
                                   {0.02, 0.06, 0.02}, Finish::Dark));
     }
     for (const double side : {-0.45, 0.45}) {
-        Mesh pipe;
-        pipe.finish = Finish::Chrome;
-        std::vector<std::vector<Vec>> rows;
-        for (int i = 0; i <= 3; ++i) {
-            std::vector<Vec> ring;
-            for (int k = 0; k <= 14; ++k) {
-                const double a = 2 * pi * k / 14;
-                ring.push_back({half - 0.12 + 0.05 * i, side + 0.03 * std::cos(a),
-                                c.bottom(c.length) - 0.05 + 0.03 * std::sin(a)});
-            }
-            rows.push_back(ring);
-        }
-        AddGrid(pipe, rows, {half - 0.05, side, c.bottom(c.length) - 0.05});
-        parts.push_back(pipe);
+        const double low = c.bottom(c.length) - 0.05;
+        parts.push_back(Lofted(Finish::Chrome, 4, 15, {half - 0.05, side, low}, [&](int i, int k) {
+            const double a = 2 * pi * k / 14;
+            return Vec{half - 0.12 + 0.05 * i, side + 0.03 * std::cos(a), low + 0.03 * std::sin(a)};
+        }));
     }
     if (c.wing)
         AddWing(c, parts);

@@ -5,6 +5,11 @@
 
 namespace torvik::sample {
 
+/// Adds tyre and wheel. `side` is -1 for wheels whose face looks toward -y, +1 for the others; `turn` is in
+/// radians.
+void AddWheel(std::vector<Mesh>& parts, const Vec& hub, double radius, double rimRadius, double side,
+              double turn);
+
 /// All parts of one car, standing on the ground with its middle at the origin and its nose toward -x.
 std::vector<Mesh> BuildCar(const CarShape& shape);
 

@@ -1,17 +1,12 @@
 #pragma once
 
 #include "sample/car/skin.h"
-#include "sample/photos/photo_plan.h"
 
 namespace torvik::sample {
 
+/// A lacquer by its name and its colour, 0xRRGGBB.
+Paint Named(const char* name, QRgb colour, double metallic);
 /// The colours of the colour card of the year.
 const std::vector<Paint>& PaintsOfYear(int year);
-/// The lacquer of the car on the photo.
-Paint PaintOf(const PlannedPhoto& photo);
-/// Stripes, plate and lettering of the car on the photo.
-Trim TrimOf(const PlannedPhoto& photo);
-/// The body of the car on the photo.
-CarShape ShapeOf(const PlannedPhoto& photo);
 
 } // namespace torvik::sample

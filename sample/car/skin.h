@@ -60,8 +60,8 @@ struct Trim {
     enum class Stripe { None, Rocker, Racing, Flank, Hockey, Flames };
     Stripe stripe = Stripe::None;
     QColor stripeColour = Qt::white;
-    QString plate;  ///< what the number plate says
-    QString script; ///< the lettering on the wing
+    QString plate{};  ///< what the number plate says
+    QString script{}; ///< the lettering on the wing
     bool vinylRoof = false;
     bool lampsLit = false;
     bool whiteWalls = false;

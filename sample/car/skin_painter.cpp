@@ -85,7 +85,7 @@ void SkinPainter::Gap(const QPainterPath& path)
 
 void SkinPainter::ChromeBar(const QPainterPath& path, double width)
 {
-    Line(path, width, ChromeLook());
+    Line(path, width, chromeLook);
     Ridge(path, width, 70);
 }
 
@@ -117,66 +117,11 @@ SkinMap SkinPainter::Finish()
     return SkinMap(colour_, material_, relief_, left_, bottom_, scale_);
 }
 
-QPainterPath EllipsePath(double u, double v, double radiusU, double radiusV)
-{
-    QPainterPath path;
-    path.addEllipse(QPointF(u, v), radiusU, radiusV);
-    return path;
-}
-
 QPainterPath RoundedPath(double u0, double v0, double u1, double v1, double radius)
 {
-    QPainterPath path;
-    path.addRoundedRect(
+    return Rounded(
         QRectF(QPointF(std::min(u0, u1), std::min(v0, v1)), QPointF(std::max(u0, u1), std::max(v0, v1))),
-        radius, radius);
-    return path;
-}
-
-QPainterPath PolyPath(std::initializer_list<QPointF> points, bool closed)
-{
-    QPainterPath path;
-    bool first = true;
-    for (const QPointF& point : points) {
-        if (first)
-            path.moveTo(point);
-        else
-            path.lineTo(point);
-        first = false;
-    }
-    if (closed)
-        path.closeSubpath();
-    return path;
-}
-
-QPainterPath Mirrored(const QPainterPath& path)
-{
-    return QTransform::fromScale(-1, 1).map(path);
-}
-
-Surface ChromeLook()
-{
-    return {QColor(246, 246, 248), 255, 0, 0, 0};
-}
-Surface RubberLook()
-{
-    return {QColor(34, 34, 36), 0, 0, 215, 0};
-}
-Surface DarkLook()
-{
-    return {QColor(10, 10, 11), 0, 0, 235, 0};
-}
-Surface GlassLook()
-{
-    return {QColor(30, 38, 40), 0, 255, 0, 0};
-}
-Surface PaintLook(const QColor& colour)
-{
-    return {colour, 0, 0, 0, 0};
-}
-Surface LampLook(const QBrush& colour, int glow)
-{
-    return {colour, 0, 0, 0, glow};
+        radius);
 }
 
 } // namespace torvik::sample

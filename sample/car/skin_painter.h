@@ -1,9 +1,7 @@
 #pragma once
 
 #include "sample/car/skin.h"
-
-#include <QPainter>
-#include <QPainterPath>
+#include "sample/geometry/shapes.h"
 
 #include <memory>
 
@@ -50,18 +48,24 @@ private:
     double scale_;
 };
 
-QPainterPath EllipsePath(double u, double v, double radiusU, double radiusV);
 QPainterPath RoundedPath(double u0, double v0, double u1, double v1, double radius);
-QPainterPath PolyPath(std::initializer_list<QPointF> points, bool closed);
-/// The path mirrored in the vertical axis.
-QPainterPath Mirrored(const QPainterPath& path);
 
 /// Looks that occur everywhere.
-Surface ChromeLook();
-Surface RubberLook();
-Surface DarkLook();
-Surface GlassLook();
-Surface PaintLook(const QColor& colour);
-Surface LampLook(const QBrush& colour, int glow);
+inline const Surface chromeLook{QColor(246, 246, 248), 255, 0, 0, 0};
+inline const Surface rubberLook{QColor(34, 34, 36), 0, 0, 215, 0};
+inline const Surface darkLook{QColor(10, 10, 11), 0, 0, 235, 0};
+inline const Surface glassLook{QColor(30, 38, 40), 0, 255, 0, 0};
+
+SkinMap DrawSideSkin(const CarShape& shape, const Paint& paint, const Trim& trim, CarSide side,
+                     double pointsPerMetre);
+SkinMap DrawTopSkin(const CarShape& shape, const Paint& paint, const Trim& trim, double pointsPerMetre);
+SkinMap DrawFrontSkin(const CarShape& shape, const Paint& paint, const Trim& trim, double pointsPerMetre);
+SkinMap DrawRearSkin(const CarShape& shape, const Paint& paint, const Trim& trim, double pointsPerMetre);
+/// The face of wheel and tyre, centred on the hub.
+SkinMap DrawWheelSkin(const CarShape& shape, const Paint& paint, const Trim& trim, double pointsPerMetre);
+
+/// The number plate with its middle at (u, v); used by front and rear.
+class SkinPainter;
+void DrawPlate(SkinPainter& painter, double u, double v, const QString& text);
 
 } // namespace torvik::sample

@@ -1,6 +1,6 @@
 #include "sample/car/car_mesh.h"
 #include "sample/car/skin_painter.h"
-#include "sample/car/skin_sides.h"
+#include "sample/geometry/shapes.h"
 
 namespace torvik::sample {
 
@@ -43,7 +43,7 @@ QPainterPath AlongFlank(const CarShape& c, double from, double to, const Curve& 
 
 void DrawStripe(SkinPainter& p, const CarShape& c, const Trim& trim)
 {
-    const Surface look = PaintLook(trim.stripeColour);
+    const Surface look = Surface{trim.stripeColour};
     const double rear = c.length - 0.15;
     switch (trim.stripe) {
     case Trim::Stripe::Rocker:
@@ -59,17 +59,17 @@ void DrawStripe(SkinPainter& p, const CarShape& c, const Trim& trim)
         p.Line(AlongFlank(c, 0.2, rear, c.shoulder, -0.145), 0.012, look);
         break;
     case Trim::Stripe::Hockey: {
-        QPainterPath path;
-        path.moveTo(0.35, c.shoulder(0.35) - 0.09);
-        path.cubicTo(1.6, c.shoulder(1.6) - 0.10, 2.4, c.shoulder(2.4) - 0.13, c.doorRear - 0.1,
-                     c.shoulder(c.doorRear) - 0.16);
-        path.quadTo(c.doorRear + 0.12, c.shoulder(c.doorRear) - 0.14, c.doorRear + 0.34,
-                    c.shoulder(c.doorRear) + 0.0);
-        path.lineTo(c.doorRear + 0.22, c.shoulder(c.doorRear) + 0.0);
-        path.quadTo(c.doorRear + 0.02, c.shoulder(c.doorRear) - 0.20, c.doorRear - 0.2,
-                    c.shoulder(c.doorRear) - 0.22);
-        path.cubicTo(2.2, c.shoulder(2.2) - 0.19, 1.4, c.shoulder(1.4) - 0.13, 0.35, c.shoulder(0.35) - 0.09);
-        p.Fill(path, look);
+        p.Fill(Outline({{0.35, c.shoulder(0.35) - 0.09},
+                        {1.6, c.shoulder(1.6) - 0.10, 2.4, c.shoulder(2.4) - 0.13, c.doorRear - 0.1,
+                         c.shoulder(c.doorRear) - 0.16},
+                        {c.doorRear + 0.12, c.shoulder(c.doorRear) - 0.14, c.doorRear + 0.34,
+                         c.shoulder(c.doorRear) + 0.0},
+                        {c.doorRear + 0.22, c.shoulder(c.doorRear) + 0.0},
+                        {c.doorRear + 0.02, c.shoulder(c.doorRear) - 0.20, c.doorRear - 0.2,
+                         c.shoulder(c.doorRear) - 0.22},
+                        {2.2, c.shoulder(2.2) - 0.19, 1.4, c.shoulder(1.4) - 0.13, 0.35,
+                         c.shoulder(0.35) - 0.09}}),
+               look);
         break;
     }
     case Trim::Stripe::Flames: {
@@ -96,39 +96,34 @@ void DrawStripe(SkinPainter& p, const CarShape& c, const Trim& trim)
 void DrawDoor(SkinPainter& p, const CarShape& c)
 {
     const double foot = c.bottom(2.2) + 0.10;
-    QPainterPath door;
-    door.moveTo(c.doorFront + 0.12, BeltAt(c, c.doorFront) + 0.02);
-    door.cubicTo(c.doorFront + 0.05, 0.75, c.doorFront, 0.6, c.doorFront + 0.02, foot + 0.05);
-    door.quadTo(c.doorFront + 0.03, foot, c.doorFront + 0.10, foot);
-    door.lineTo(c.doorRear - 0.14, foot);
-    door.quadTo(c.doorRear - 0.04, foot, c.doorRear - 0.02, foot + 0.08);
-    door.cubicTo(c.doorRear + 0.03, 0.6, c.doorRear + 0.02, 0.75, c.doorRear - 0.02,
-                 BeltAt(c, c.doorRear) + 0.03);
-    p.Gap(door);
+    p.Gap(Outline({{c.doorFront + 0.12, BeltAt(c, c.doorFront) + 0.02},
+                   {c.doorFront + 0.05, 0.75, c.doorFront, 0.6, c.doorFront + 0.02, foot + 0.05},
+                   {c.doorFront + 0.03, foot, c.doorFront + 0.10, foot},
+                   {c.doorRear - 0.14, foot},
+                   {c.doorRear - 0.04, foot, c.doorRear - 0.02, foot + 0.08},
+                   {c.doorRear + 0.03, 0.6, c.doorRear + 0.02, 0.75, c.doorRear - 0.02,
+                    BeltAt(c, c.doorRear) + 0.03}}));
     // The handle.
     const double handleS = c.doorRear - 0.20;
     const double handleZ = c.shoulder(handleS) - 0.115;
     const QPainterPath handle =
         RoundedPath(handleS - 0.075, handleZ - 0.013, handleS + 0.075, handleZ + 0.013, 0.013);
     p.Raise(RoundedPath(handleS - 0.06, handleZ - 0.028, handleS + 0.05, handleZ + 0.024, 0.02), 0.015, -35);
-    p.Fill(handle, c.chromeTrim ? ChromeLook() : RubberLook());
+    p.Fill(handle, c.chromeTrim ? chromeLook : rubberLook);
     p.Raise(handle, 0.005, 60);
-    const QPainterPath lock = EllipsePath(handleS + 0.04, handleZ - 0.05, 0.009, 0.009);
-    p.Fill(lock, ChromeLook());
+    p.Fill(Disc({handleS + 0.04, handleZ - 0.05}, 0.009), chromeLook);
 }
 
 void DrawScoop(SkinPainter& p, const CarShape& c)
 {
     const double s = c.doorRear + 0.16;
     const double z = c.widest(s) + 0.03;
-    QPainterPath scoop;
-    scoop.moveTo(s + 0.24, z + 0.075);
-    scoop.cubicTo(s + 0.1, z + 0.07, s - 0.02, z + 0.04, s - 0.03, z - 0.01);
-    scoop.cubicTo(s, z - 0.05, s + 0.08, z - 0.06, s + 0.20, z - 0.055);
-    scoop.quadTo(s + 0.26, z + 0.01, s + 0.24, z + 0.075);
-    QLinearGradient dark(QPointF(s + 0.22, 0), QPointF(s - 0.04, 0));
-    dark.setColorAt(0, QColor(6, 6, 7));
-    dark.setColorAt(1, QColor(30, 30, 32));
+    const QPainterPath scoop = Outline({{s + 0.24, z + 0.075},
+                                        {s + 0.1, z + 0.07, s - 0.02, z + 0.04, s - 0.03, z - 0.01},
+                                        {s, z - 0.05, s + 0.08, z - 0.06, s + 0.20, z - 0.055},
+                                        {s + 0.26, z + 0.01, s + 0.24, z + 0.075}});
+    const QLinearGradient dark =
+        Linear({s + 0.22, 0}, {s - 0.04, 0}, {{0, QColor(6, 6, 7)}, {1, QColor(30, 30, 32)}});
     p.Raise(scoop, 0.03, -70);
     p.Fill(scoop, {dark, 0, 0, 255, 0});
     if (c.chromeTrim)
@@ -159,57 +154,55 @@ SkinMap DrawSideSkin(const CarShape& c, const Paint& paint, const Trim& trim, Ca
     if (c.chromeTrim)
         p.ChromeBar(sill, 0.022);
     else
-        p.Line(sill, 0.05, RubberLook());
+        p.Line(sill, 0.05, rubberLook);
     if (c.bumper == Bumper::RubberStrip) {
         const QPainterPath strip =
             AlongFlank(c, 0.12, c.length - 0.12, Curve{{0, c.bumperHeight + 0.07}}, 0.0);
-        p.Line(strip, 0.05, RubberLook());
+        p.Line(strip, 0.05, rubberLook);
         p.Ridge(strip, 0.05, 60);
-        p.Line(strip, 0.010, ChromeLook());
+        p.Line(strip, 0.010, chromeLook);
     }
     for (const double axle : {c.frontAxle, c.rearAxle}) {
-        const QPainterPath arch =
-            EllipsePath(axle, c.wheelRadius, c.archRadius + 0.006, c.archRadius + 0.006);
+        const QPainterPath arch = Disc({axle, c.wheelRadius}, c.archRadius + 0.006);
         if (c.chromeTrim)
             p.ChromeBar(arch, 0.016);
         else
             p.Ridge(arch, 0.03, 40);
-        p.Line(EllipsePath(axle, c.wheelRadius, c.archRadius, c.archRadius), 0.008, DarkLook());
+        p.Line(Disc({axle, c.wheelRadius}, c.archRadius), 0.008, darkLook);
     }
     // Windows: frame, rubber, panes with their pillars.
     const QPainterPath opening = WindowPath(c, -0.012);
-    p.Line(opening, 0.016, c.chromeTrim ? ChromeLook() : RubberLook());
+    p.Line(opening, 0.016, c.chromeTrim ? chromeLook : rubberLook);
     p.Ridge(opening, 0.016, 60);
-    p.Fill(opening, DarkLook());
+    p.Fill(opening, darkLook);
     QPainterPath panes = WindowPath(c, 0.010);
     const double post = c.doorRear - 0.10;
     QPainterPath pillar =
-        PolyPath({{post, 0.7}, {post + 0.04, 0.7}, {post - 0.04, 1.5}, {post - 0.065, 1.5}}, true);
-    QPainterPath vent = PolyPath({{c.windowFront + 0.30, 0.7},
-                                  {c.windowFront + 0.312, 0.7},
-                                  {c.windowFront + 0.372, 1.5},
-                                  {c.windowFront + 0.36, 1.5}},
-                                 true);
-    p.Fill(panes.subtracted(pillar), GlassLook());
+        ClosedOutline({{post, 0.7}, {post + 0.04, 0.7}, {post - 0.04, 1.5}, {post - 0.065, 1.5}});
+    QPainterPath vent = ClosedOutline({{c.windowFront + 0.30, 0.7},
+                                       {c.windowFront + 0.312, 0.7},
+                                       {c.windowFront + 0.372, 1.5},
+                                       {c.windowFront + 0.36, 1.5}});
+    p.Fill(panes.subtracted(pillar), glassLook);
     if (c.chromeTrim) {
-        p.Fill(panes.intersected(vent), ChromeLook());
+        p.Fill(panes.intersected(vent), chromeLook);
         p.ChromeBar(AlongFlank(c, c.windowFront - 0.05, c.windowRear, c.shoulder, 0.006), 0.012);
     }
     if (trim.vinylRoof) {
-        p.Line(WindowPath(c, -0.02), 0.012, ChromeLook());
+        p.Line(WindowPath(c, -0.02), 0.012, chromeLook);
     }
     // Side lamps and lettering.
     const QPainterPath front = RoundedPath(0.30, c.bumperHeight + 0.11, 0.42, c.bumperHeight + 0.15, 0.012);
     const QPainterPath rear =
         RoundedPath(c.length - 0.42, c.bumperHeight + 0.14, c.length - 0.30, c.bumperHeight + 0.18, 0.012);
-    p.Fill(front, LampLook(QColor(225, 120, 20), trim.lampsLit ? 90 : 0));
-    p.Fill(rear, LampLook(QColor(170, 14, 14), trim.lampsLit ? 90 : 0));
+    p.Fill(front, Surface{QColor(225, 120, 20), 0, 0, 0, trim.lampsLit ? 90 : 0});
+    p.Fill(rear, Surface{QColor(170, 14, 14), 0, 0, 0, trim.lampsLit ? 90 : 0});
     p.Raise(front, 0.006, 40);
     p.Raise(rear, 0.006, 40);
     if (!trim.script.isEmpty())
         p.Text(trim.script, c.frontAxle + c.archRadius + 0.20, c.shoulder(1.3) - 0.16, 0.06,
                u"Liberation Serif"_s, true, mirrored,
-               c.chromeTrim ? ChromeLook() : Surface{QColor(225, 226, 228), 200, 0, 20, 0});
+               c.chromeTrim ? chromeLook : Surface{QColor(225, 226, 228), 200, 0, 20, 0});
     return p.Finish();
 }
 

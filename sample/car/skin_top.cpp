@@ -1,6 +1,6 @@
 #include "sample/car/car_mesh.h"
 #include "sample/car/skin_painter.h"
-#include "sample/car/skin_sides.h"
+#include "sample/geometry/shapes.h"
 
 namespace torvik::sample {
 
@@ -33,55 +33,45 @@ SkinMap DrawTopSkin(const CarShape& c, const Paint& paint, const Trim& trim, dou
     SkinPainter p(-0.05, -1.05, c.length + 0.1, 2.1, pointsPerMetre, paint.colour);
     if (trim.stripe == Trim::Stripe::Racing) {
         for (const double y : {-0.19, 0.19})
-            p.Fill(RoundedPath(-0.05, y - 0.11, c.length + 0.05, y + 0.11, 0), PaintLook(trim.stripeColour));
+            p.Fill(RoundedPath(-0.05, y - 0.11, c.length + 0.05, y + 0.11, 0), Surface{trim.stripeColour});
     } else if (trim.stripe == Trim::Stripe::Hockey || trim.stripe == Trim::Stripe::Flames) {
-        p.Fill(PolyPath({{0.1, -0.30}, {0.1, 0.30}, {c.cowl - 0.05, 0.36}, {c.cowl - 0.05, -0.36}}, true),
-               PaintLook(trim.stripeColour));
+        p.Fill(ClosedOutline({{0.1, -0.30}, {0.1, 0.30}, {c.cowl - 0.05, 0.36}, {c.cowl - 0.05, -0.36}}),
+               Surface{trim.stripeColour});
     }
     if (trim.vinylRoof)
         p.Fill(RoundedPath(c.header - 0.1, -0.8, c.cabinEnd - 0.12, 0.8, 0.05),
                {QColor(28, 26, 25), 0, 0, 170, 0});
     // Bonnet and boot lid.
     for (const double sign : {-1.0, 1.0}) {
-        QPainterPath bonnet;
-        bonnet.moveTo(0.06, sign * (c.halfWidth(0.06) - 0.14));
-        bonnet.quadTo(0.8, sign * (ShoulderHalfWidth(c, 0.8) - 0.05), c.cowl - 0.06,
-                      sign * (ShoulderHalfWidth(c, c.cowl) - 0.04));
-        p.Gap(bonnet);
-        QPainterPath fold;
-        fold.moveTo(0.12, sign * 0.25);
-        fold.lineTo(c.cowl - 0.1, sign * 0.31);
-        p.Ridge(fold, 0.06, 16);
-        QPainterPath lid;
-        lid.moveTo(c.cabinEnd + 0.04, sign * (ShoulderHalfWidth(c, c.cabinEnd) - 0.10));
-        lid.lineTo(c.length - 0.02, sign * (c.halfWidth(c.length) - 0.12));
-        p.Gap(lid);
+        p.Gap(Outline({{0.06, sign * (c.halfWidth(0.06) - 0.14)},
+                       {0.8, sign * (ShoulderHalfWidth(c, 0.8) - 0.05), c.cowl - 0.06,
+                        sign * (ShoulderHalfWidth(c, c.cowl) - 0.04)}}));
+        p.Ridge(Outline({{0.12, sign * 0.25}, {c.cowl - 0.1, sign * 0.31}}), 0.06, 16);
+        p.Gap(Outline({{c.cabinEnd + 0.04, sign * (ShoulderHalfWidth(c, c.cabinEnd) - 0.10)},
+                       {c.length - 0.02, sign * (c.halfWidth(c.length) - 0.12)}}));
     }
-    p.Gap(PolyPath({{c.cowl - 0.055, -0.82},
-                    {c.cowl - 0.02, -0.4},
-                    {c.cowl - 0.01, 0},
-                    {c.cowl - 0.02, 0.4},
-                    {c.cowl - 0.055, 0.82}},
-                   false));
-    p.Gap(PolyPath({{c.cabinEnd + 0.04, -0.75}, {c.cabinEnd + 0.06, 0}, {c.cabinEnd + 0.04, 0.75}}, false));
+    p.Gap(Outline({{c.cowl - 0.055, -0.82},
+                   {c.cowl - 0.02, -0.4},
+                   {c.cowl - 0.01, 0},
+                   {c.cowl - 0.02, 0.4},
+                   {c.cowl - 0.055, 0.82}}));
+    p.Gap(Outline({{c.cabinEnd + 0.04, -0.75}, {c.cabinEnd + 0.06, 0}, {c.cabinEnd + 0.04, 0.75}}));
     if (c.bonnetScoop) {
-        const QPainterPath mouth = RoundedPath(0.79, -0.135, 0.835, 0.135, 0.01);
-        p.Fill(mouth, DarkLook());
+        p.Fill(RoundedPath(0.79, -0.135, 0.835, 0.135, 0.01), darkLook);
     }
     // Grille before the windscreen, wipers.
-    p.Fill(RoundedPath(c.cowl - 0.01, -0.62, c.cowl + 0.045, 0.62, 0.01), DarkLook());
+    p.Fill(RoundedPath(c.cowl - 0.01, -0.62, c.cowl + 0.045, 0.62, 0.01), darkLook);
     const auto pane = [&](double from, double to) {
         const QPainterPath frame = PanePath(c, from - 0.025, to + 0.025, 0.045);
-        p.Fill(frame, c.chromeTrim ? ChromeLook() : RubberLook());
+        p.Fill(frame, c.chromeTrim ? chromeLook : rubberLook);
         p.Ridge(frame, 0.03, 40);
-        p.Fill(PanePath(c, from - 0.005, to + 0.005, 0.062), DarkLook());
-        p.Fill(PanePath(c, from + 0.008, to - 0.008, 0.075), GlassLook());
+        p.Fill(PanePath(c, from - 0.005, to + 0.005, 0.062), darkLook);
+        p.Fill(PanePath(c, from + 0.008, to - 0.008, 0.075), glassLook);
     };
     pane(c.cowl + 0.06, c.header);
     pane(c.rearHeader, c.cabinEnd - 0.10);
     for (const double y : {-0.42, 0.12}) {
-        const QPainterPath wiper = PolyPath({{c.cowl + 0.055, y}, {c.cowl + 0.13, y + 0.36}}, false);
-        p.Line(wiper, 0.012, DarkLook());
+        p.Line(Outline({{c.cowl + 0.055, y}, {c.cowl + 0.13, y + 0.36}}), 0.012, darkLook);
     }
     return p.Finish();
 }

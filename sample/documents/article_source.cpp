@@ -1,7 +1,7 @@
 #include "sample/documents/article_source.h"
 
 #include "sample/documents/drawings.h"
-#include "sample/documents/text_store.h"
+#include "sample/files/text_store.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -28,8 +28,8 @@ public:
     }
 
 private:
-    static constexpr const char* lineKinds[] = {">< ", ">> ", "|= ", "== ", "= ", "- ",
-                                                "+ ",  "> ",  "% ",  ": ",  "| ", "@"};
+    static constexpr const char* lineKinds[] = {">< ", ">> ", "|= ", "|+ ", "== ", "= ", "- ",
+                                                "+ ",  "> ",  "% ",  ": ",  "| ",  "@"};
 
     void ReadLine(const QString& line)
     {
@@ -92,7 +92,7 @@ private:
         else if (kind == u":")
             article_.Tabbed(PartsOf(text).join(u'\t'), tabs_);
         else if (kind.startsWith(u'|'))
-            AddRow(PartsOf(text), kind == u"|=");
+            AddRow(PartsOf(text), kind);
         else if (kind == u"@")
             Obey(text.split(u' ', Qt::SkipEmptyParts));
         else
@@ -113,8 +113,7 @@ private:
 
     static Drawing ScreenNamed(const QString& name, int width)
     {
-        Drawing drawing;
-        drawing.png = StoredScreen(name);
+        Drawing drawing{.png = StoredScreen(name)};
         const QSize pixels = QImage::fromData(drawing.png).size();
         if (pixels.isEmpty())
             throw std::runtime_error("A picture of a screen is damaged: " + name.toStdString());
@@ -131,14 +130,17 @@ private:
         return parts;
     }
 
-    void AddRow(const QStringList& parts, bool heading)
+    void AddRow(const QStringList& parts, const QString& kind)
     {
-        Row row;
-        row.heading = heading;
+        const bool sum = kind == u"|+";
+        Row row{.heading = kind == u"|="};
         for (qsizetype i = 0; i < parts.size(); ++i) {
             const Align align = aligns_.at(static_cast<std::size_t>(i));
-            Cell cell = heading ? article_.HeadCell(parts[i], align) : article_.CellOf(parts[i], align);
-            if (!heading && table_.rows.size() % 2 == 0 && table_.border != Border::None)
+            const QString part = sum ? u'*' + parts[i] + u'*' : parts[i];
+            Cell cell = row.heading ? article_.HeadCell(part, align) : article_.CellOf(part, align);
+            if (sum)
+                cell.shade = QColor(217, 217, 217);
+            else if (!row.heading && table_.rows.size() % 2 == 0 && table_.border != Border::None)
                 cell.shade = article_.Tint();
             row.cells.push_back(cell);
         }

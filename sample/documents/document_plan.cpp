@@ -1,15 +1,13 @@
 #include "sample/documents/document_plan.h"
 
 #include "sample/documents/article_source.h"
-#include "sample/documents/library_statistics.h"
-#include "sample/documents/model_years.h"
-#include "sample/documents/text_store.h"
+#include "sample/documents/figures.h"
 #include "sample/documents/year_articles.h"
 #include "sample/files/jpeg_file.h"
-#include "sample/files/rich_writer.h"
+#include "sample/files/rich_document.h"
+#include "sample/files/text_store.h"
 
 #include <algorithm>
-#include <array>
 
 namespace torvik::sample {
 
@@ -23,46 +21,44 @@ struct LibraryFile {
     const char* text;
 };
 
-constexpr std::array libraryFiles = {
-    LibraryFile{"books.rtf", "books"},
-    LibraryFile{"carstuff.rtf", "calendars"},
-    LibraryFile{"catalogs.rtf", "catalogs"},
-    LibraryFile{"contrib.rtf", "contributions"},
-    LibraryFile{"credits.rtf", "credits"},
-    LibraryFile{"danbury.rtf", "danbury"},
-    LibraryFile{"desc.rtf", "how_to_read"},
-    LibraryFile{"desperat.rtf", "metal_signs"},
-    LibraryFile{"ENGINES.rtf", "engines"},
-    LibraryFile{"franklin.rtf", "franklin"},
-    LibraryFile{"glossary.rtf", "glossary"},
-    LibraryFile{"idsellark.rtf", "sellark_guide"},
-    LibraryFile{"idTorvik.rtf", "identification"},
-    LibraryFile{"Introduction.rtf", "introduction"},
-    LibraryFile{"knives.rtf", "knives"},
-    LibraryFile{"m1stats.rtf", "kestra_one"},
-    LibraryFile{"m3stats.rtf", "kestra_three"},
-    LibraryFile{"mag4.rtf", "magazine_torvik_fords"},
-    LibraryFile{"mag5.rtf", "magazine_five"},
-    LibraryFile{"magmi.rtf", "magazine_illustrated"},
-    LibraryFile{"magmm.rtf", "magazine_monthly"},
-    LibraryFile{"magmmff.rtf", "magazine_muscle"},
-    LibraryFile{"monopoly.rtf", "monopoly"},
-    LibraryFile{"msstats.rtf", "super_stallion"},
-    LibraryFile{"notice.rtf", "notice"},
-    LibraryFile{"plates.rtf", "plates"},
-    LibraryFile{"PRIntro.rtf", "press_introduction"},
-    LibraryFile{"PRMarket.rtf", "press_market"},
-    LibraryFile{"PROptions.rtf", "press_options"},
-    LibraryFile{"ptdesc.rtf", "prototypes"},
-    LibraryFile{"sbcolors.rtf", "harwell_colours"},
-    LibraryFile{"sbopts.rtf", "harwell_options"},
-    LibraryFile{"sbstats.rtf", "harwell_figures"},
-    LibraryFile{"sshelp.rtf", "saver_help"},
-    LibraryFile{"stamps.rtf", "stamps"},
-    LibraryFile{"timeline.rtf", "timeline"},
-    LibraryFile{"TorvikAdsList.rtf", "advertisements"},
-    LibraryFile{"whatsnew.rtf", "whats_new"},
-};
+constexpr LibraryFile libraryFiles[] = {{"books.rtf", "books"},
+                                        {"carstuff.rtf", "calendars"},
+                                        {"catalogs.rtf", "catalogs"},
+                                        {"contrib.rtf", "contributions"},
+                                        {"credits.rtf", "credits"},
+                                        {"danbury.rtf", "danbury"},
+                                        {"desc.rtf", "how_to_read"},
+                                        {"desperat.rtf", "metal_signs"},
+                                        {"ENGINES.rtf", "engines"},
+                                        {"franklin.rtf", "franklin"},
+                                        {"glossary.rtf", "glossary"},
+                                        {"idsellark.rtf", "sellark_guide"},
+                                        {"idTorvik.rtf", "identification"},
+                                        {"Introduction.rtf", "introduction"},
+                                        {"knives.rtf", "knives"},
+                                        {"m1stats.rtf", "kestra_one"},
+                                        {"m3stats.rtf", "kestra_three"},
+                                        {"mag4.rtf", "magazine_torvik_fords"},
+                                        {"mag5.rtf", "magazine_five"},
+                                        {"magmi.rtf", "magazine_illustrated"},
+                                        {"magmm.rtf", "magazine_monthly"},
+                                        {"magmmff.rtf", "magazine_muscle"},
+                                        {"monopoly.rtf", "monopoly"},
+                                        {"msstats.rtf", "super_stallion"},
+                                        {"notice.rtf", "notice"},
+                                        {"plates.rtf", "plates"},
+                                        {"PRIntro.rtf", "press_introduction"},
+                                        {"PRMarket.rtf", "press_market"},
+                                        {"PROptions.rtf", "press_options"},
+                                        {"ptdesc.rtf", "prototypes"},
+                                        {"sbcolors.rtf", "harwell_colours"},
+                                        {"sbopts.rtf", "harwell_options"},
+                                        {"sbstats.rtf", "harwell_figures"},
+                                        {"sshelp.rtf", "saver_help"},
+                                        {"stamps.rtf", "stamps"},
+                                        {"timeline.rtf", "timeline"},
+                                        {"TorvikAdsList.rtf", "advertisements"},
+                                        {"whatsnew.rtf", "whats_new"}};
 
 /// "67" to "99", then "a0" and "a1": how the names of the articles of a year begin.
 QString ArticlePrefix(int year)
@@ -71,6 +67,16 @@ QString ArticlePrefix(int year)
 }
 
 } // namespace
+
+QByteArray HelpText()
+{
+    return WriteRichText(ArticleOfSource(StoredText(u"help"_s)));
+}
+
+void MakeHelpFile(const QString& program)
+{
+    WriteFile(program + u"/Torvik2001.HLP"_s, HelpText());
+}
 
 std::vector<PlannedDocument> PlanDocuments()
 {

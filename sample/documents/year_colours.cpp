@@ -1,8 +1,7 @@
 #include "sample/documents/article.h"
 #include "sample/documents/colour_cards.h"
-#include "sample/documents/options.h"
+#include "sample/documents/figures.h"
 #include "sample/documents/year_articles.h"
-#include "sample/documents/year_style.h"
 
 #include <algorithm>
 
@@ -40,13 +39,11 @@ Cell Swatch(const Article& article, const QColor& colour)
 
 void AddCard(Article& article, const std::vector<CardColour>& card, int year)
 {
-    Table table;
-    table.widths = {1300, 2800, 800, 1200, 1100};
-    Row head;
-    head.heading = true;
-    head.cells = {article.HeadCell(u"Colour"_s), article.HeadCell(u"Name"_s),
-                  article.HeadCell(u"Code"_s, Align::Centre), article.HeadCell(u"Finish"_s),
-                  article.HeadCell(u"Share"_s, Align::Right)};
+    Table table{.widths = {1300, 2800, 800, 1200, 1100}};
+    Row head{.cells = {article.HeadCell(u"Colour"_s), article.HeadCell(u"Name"_s),
+                       article.HeadCell(u"Code"_s, Align::Centre), article.HeadCell(u"Finish"_s),
+                       article.HeadCell(u"Share"_s, Align::Right)},
+             .heading = true};
     table.rows.push_back(head);
     for (const CardColour& colour : card) {
         Row row;
@@ -65,17 +62,15 @@ void AddCard(Article& article, const std::vector<CardColour>& card, int year)
 void AddTrims(Article& article, int year)
 {
     article.Heading(u"Seats and trim"_s);
-    Table table;
-    table.border = Border::Rules;
-    table.widths = {1300, 2500, 3400};
-    Row head;
-    head.heading = true;
-    head.cells = {article.HeadCell(u"Trim"_s), article.HeadCell(u"Name"_s), article.HeadCell(u"Material"_s)};
+    Table table{.widths = {1300, 2500, 3400}, .border = Border::Rules};
+    Row head{
+        .cells = {article.HeadCell(u"Trim"_s), article.HeadCell(u"Name"_s), article.HeadCell(u"Material"_s)},
+        .heading = true};
     table.rows.push_back(head);
     for (const SeatTrim& trim : SeatTrims(year)) {
-        Row row;
-        row.cells = {Swatch(article, QColor(QRgb(trim.colour))), article.CellOf(QString::fromUtf8(trim.name)),
-                     article.CellOf(QString::fromUtf8(trim.cloth))};
+        Row row{.cells = {Swatch(article, QColor(QRgb(trim.colour))),
+                          article.CellOf(QString::fromUtf8(trim.name)),
+                          article.CellOf(QString::fromUtf8(trim.cloth))}};
         table.rows.push_back(row);
     }
     article.AddTable(table);

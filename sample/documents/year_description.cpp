@@ -1,12 +1,9 @@
 #include "sample/car/car_shape.h"
 #include "sample/documents/article_source.h"
 #include "sample/documents/drawings.h"
-#include "sample/documents/engines.h"
-#include "sample/documents/model_years.h"
-#include "sample/documents/options.h"
-#include "sample/documents/text_store.h"
+#include "sample/documents/figures.h"
 #include "sample/documents/year_articles.h"
-#include "sample/documents/year_style.h"
+#include "sample/files/text_store.h"
 
 namespace torvik::sample {
 
@@ -52,9 +49,7 @@ Table FactsOf(const Article& article, const ModelYear& year)
     const auto inches = [](int millimetres) -> QString {
         return QString::number(millimetres / 25.4, 'f', 1) + u'″';
     };
-    Table table;
-    table.border = Border::Rules;
-    table.widths = {3600, 3600};
+    Table table{.widths = {3600, 3600}, .border = Border::Rules};
     Cell left{{Fact(article, "Bodies", BodiesOf(year)), Fact(article, "Engines", EngineRange(year.year)),
                Fact(article, "Built", Grouped(year.Built()))},
               article.Tint(),
@@ -65,9 +60,7 @@ Table FactsOf(const Article& article, const ModelYear& year)
                 Fact(article, "Weight", u"%1 kg, coupe"_s.arg(Grouped(year.weight)))},
                article.Tint(),
                1};
-    Row row;
-    row.heading = true;
-    row.cells = {left, right};
+    Row row{.cells = {left, right}, .heading = true};
     table.rows.push_back(row);
     return table;
 }

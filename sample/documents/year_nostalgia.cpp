@@ -1,9 +1,7 @@
 #include "sample/documents/article_source.h"
-#include "sample/documents/model_years.h"
-#include "sample/documents/options.h"
-#include "sample/documents/text_store.h"
+#include "sample/documents/figures.h"
 #include "sample/documents/year_articles.h"
-#include "sample/documents/year_style.h"
+#include "sample/files/text_store.h"
 
 #include <cmath>
 

@@ -3,19 +3,10 @@
 #include "sample/files/riff.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace torvik::sample {
 
 namespace {
-
-QByteArray Numbers(std::initializer_list<int> values)
-{
-    QByteArray bytes;
-    for (const int value : values)
-        AppendNumber(bytes, static_cast<std::uint32_t>(value), 4);
-    return bytes;
-}
 
 int LongestOf(const std::vector<QByteArray>& frames)
 {
@@ -31,9 +22,9 @@ QByteArray MainHeader(const AviMovie& movie)
     const int frames = static_cast<int>(movie.frames.size());
     const int longest = LongestOf(movie.frames);
     return RiffChunk(
-        "avih", Numbers({1000000 / movie.framesPerSecond,
-                         longest * movie.framesPerSecond + movie.bytesPerSecond, 0, hasIndexAndIsInterleaved,
-                         frames, 0, 2, longest, movie.size.width(), movie.size.height(), 0, 0, 0, 0}));
+        "avih", Longs({1000000 / movie.framesPerSecond,
+                       longest * movie.framesPerSecond + movie.bytesPerSecond, 0, hasIndexAndIsInterleaved,
+                       frames, 0, 2, longest, movie.size.width(), movie.size.height(), 0, 0, 0, 0}));
 }
 
 QByteArray PictureStream(const AviMovie& movie)
@@ -41,30 +32,21 @@ QByteArray PictureStream(const AviMovie& movie)
     const int width = movie.size.width();
     const int height = movie.size.height();
     QByteArray header("vidsMJPG");
-    header += Numbers({0, 0, 0, 1, movie.framesPerSecond, 0, static_cast<int>(movie.frames.size()),
-                       LongestOf(movie.frames), -1, 0});
-    AppendNumber(header, 0, 4);
-    AppendNumber(header, static_cast<std::uint32_t>(width), 2);
-    AppendNumber(header, static_cast<std::uint32_t>(height), 2);
-    QByteArray bitmap = Numbers({40, width, height});
-    AppendNumber(bitmap, 1, 2);
-    AppendNumber(bitmap, 24, 2);
-    bitmap += "MJPG";
-    bitmap += Numbers({width * height * 3, 0, 0, 0, 0});
-    QByteArray chunks = RiffChunk("strh", header);
-    chunks += RiffChunk("strf", bitmap);
-    return RiffList("LIST", "strl", chunks);
+    header += Longs({0, 0, 0, 1, movie.framesPerSecond, 0, static_cast<int>(movie.frames.size()),
+                     LongestOf(movie.frames), -1, 0});
+    header += Longs({0}) + Words({width, height});
+    const QByteArray bitmap =
+        Longs({40, width, height}) + Words({1, 24}) + "MJPG" + Longs({width * height * 3, 0, 0, 0, 0});
+    return RiffList("LIST", "strl", RiffChunk("strh", header) + RiffChunk("strf", bitmap));
 }
 
 QByteArray SoundStream(const AviMovie& movie)
 {
     QByteArray header("auds");
-    header += Numbers({0, 0, 0, 0, movie.bytesPerSample, movie.bytesPerSecond, 0,
-                       static_cast<int>(movie.sound.size()) / movie.bytesPerSample, movie.bytesPerSecond, -1,
-                       movie.bytesPerSample, 0, 0});
-    QByteArray chunks = RiffChunk("strh", header);
-    chunks += RiffChunk("strf", movie.soundFormat);
-    return RiffList("LIST", "strl", chunks);
+    header += Longs({0, 0, 0, 0, movie.bytesPerSample, movie.bytesPerSecond, 0,
+                     static_cast<int>(movie.sound.size()) / movie.bytesPerSample, movie.bytesPerSecond, -1,
+                     movie.bytesPerSample, 0, 0});
+    return RiffList("LIST", "strl", RiffChunk("strh", header) + RiffChunk("strf", movie.soundFormat));
 }
 
 /// The byte of the sound that belongs to the beginning of the frame.
@@ -80,15 +62,13 @@ qsizetype SoundBefore(const AviMovie& movie, std::size_t frame)
 QByteArray AviFile(const AviMovie& movie)
 {
     constexpr int keyFrame = 0x10;
-    QByteArray headers = MainHeader(movie);
-    headers += PictureStream(movie);
-    headers += SoundStream(movie);
+    const QByteArray headers = MainHeader(movie) + PictureStream(movie) + SoundStream(movie);
     QByteArray pieces;
     QByteArray index;
     const auto add = [&](const char* name, const QByteArray& content) {
         index += QByteArray(name, 4);
         // Places count from the word "movi".
-        index += Numbers({keyFrame, static_cast<int>(pieces.size()) + 4, static_cast<int>(content.size())});
+        index += Longs({keyFrame, static_cast<int>(pieces.size()) + 4, static_cast<int>(content.size())});
         pieces += RiffChunk(name, content);
     };
     for (std::size_t i = 0; i < movie.frames.size(); ++i) {
@@ -98,10 +78,9 @@ QByteArray AviFile(const AviMovie& movie)
         if (to > from)
             add("01wb", movie.sound.mid(from, to - from));
     }
-    QByteArray file = RiffList("LIST", "hdrl", headers);
-    file += RiffList("LIST", "movi", pieces);
-    file += RiffChunk("idx1", index);
-    return RiffList("RIFF", "AVI ", file);
+    return RiffList("RIFF", "AVI ",
+                    RiffList("LIST", "hdrl", headers) + RiffList("LIST", "movi", pieces) +
+                        RiffChunk("idx1", index));
 }
 
 } // namespace torvik::sample

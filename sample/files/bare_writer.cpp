@@ -1,32 +1,10 @@
-#include "sample/files/bare_writer.h"
-
-#include "sample/files/code_page_1252.h"
+#include "sample/files/dialect_writer.h"
+#include "sample/files/dialects.h"
 #include "sample/files/picture_bytes.h"
 
 namespace torvik::sample {
 
 namespace {
-
-QByteArray Spelled(const QString& text)
-{
-    QByteArray spelled;
-    for (const QChar ch : text) {
-        const int byte = ByteOfWestern(ch);
-        if (ch == u'\t')
-            spelled += "\\tab ";
-        else if (ch == u'\n')
-            spelled += "\\line ";
-        else if (ch == u'\\' || ch == u'{' || ch == u'}')
-            spelled += '\\' + QByteArray(1, static_cast<char>(byte));
-        else if (byte < 0)
-            spelled += Word("u", static_cast<short>(ch.unicode())) + '?';
-        else if (byte >= 0x80)
-            spelled += "\\'" + QByteArray::number(byte, 16);
-        else
-            spelled += static_cast<char>(byte);
-    }
-    return spelled;
-}
 
 void Switch(QByteArray& words, const char* name, bool before, bool now)
 {
@@ -106,17 +84,7 @@ void BareWriter::WriteRun(const Run& run)
 
 void BareWriter::BeginRow(const Table& table, const Row& row, bool)
 {
-    out_ += "\\trowd\\trgaph70" + Word("trleft", table.left);
-    const std::vector<int> edges = CellEdges(table, row);
-    for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        out_ += CellStand(row.cells[i]);
-        for (const char side : {'t', 'l', 'b', 'r'})
-            out_ += BorderWords(table, row.heading, side);
-        if (row.cells[i].shade.isValid())
-            out_ += Word("clcbpat", Colours().NumberOf(row.cells[i].shade));
-        out_ += Word("cellx", edges[i]);
-    }
-    out_ += "\r\n";
+    out_ += "\\trowd\\trgaph70" + Word("trleft", table.left) + CellWords(table, row) + "\r\n";
 }
 
 void BareWriter::EndRow(const Table&, const Row&, bool)
@@ -126,8 +94,7 @@ void BareWriter::EndRow(const Table&, const Row&, bool)
 
 void BareWriter::WriteDrawing(const Drawing& drawing)
 {
-    Paragraph around;
-    around.align = drawing.align;
+    const Paragraph around{.align = drawing.align};
     out_ += "\\pard" + ParagraphWords(around) + " {\\pict";
     // The editor kept what was pasted: sometimes a bitmap, sometimes a metafile around one.
     if (Document().written % 2 != 0) {
@@ -137,12 +104,20 @@ void BareWriter::WriteDrawing(const Drawing& drawing)
                 Word("pich", drawing.image.height()) + Word("picwgoal", drawing.width) +
                 Word("pichgoal", drawing.height) + ' ' + HexLines(DibOfDrawing(drawing.image));
     } else {
-        out_ += Word("wmetafile", 8) + Word("picw", drawing.width * 2540 / 1440) +
-                Word("pich", drawing.height * 2540 / 1440) + Word("picwgoal", drawing.width) +
-                Word("pichgoal", drawing.height) + ' ' + HexLines(MetafileOfDrawing(drawing.image));
+        out_ +=
+            Word("wmetafile", 8) + PictureExtent(drawing) + ' ' + HexLines(MetafileOfDrawing(drawing.image));
     }
     out_ += "}\\par\r\n";
     openList_ = Mark::None;
+}
+
+QByteArray BareWriter::WordFor(QChar character, int byte) const
+{
+    if (character == u'\t')
+        return "\\tab ";
+    if (character == u'\n')
+        return "\\line ";
+    return byte < 0 ? Word("u", static_cast<short>(character.unicode())) + '?' : QByteArray();
 }
 
 void BareWriter::WriteTail()

@@ -1,11 +1,34 @@
 #pragma once
 
-#include "sample/files/document_tables.h"
 #include "sample/files/rich_document.h"
 
 #include <QByteArray>
+#include <QChar>
 
 namespace torvik::sample {
+
+/// The colours of a document in the order of its colour table. Number 0 is the reader's own colour.
+class DocumentColours {
+public:
+    /// `standard` colours come first, whether used or not.
+    DocumentColours(const RichDocument& document, const std::vector<QColor>& standard);
+
+    /// Number of the colour in the table; 0 for an invalid one.
+    int NumberOf(const QColor& colour) const;
+    const std::vector<QColor>& All() const { return colours_; }
+
+private:
+    void Add(const QColor& colour);
+    void AddOf(const Paragraph& paragraph);
+
+    std::vector<QColor> colours_;
+};
+
+/// How many lists of numbered paragraphs a document has; each begins with the number 1.
+int NumberedListsIn(const RichDocument& document);
+
+/// The byte of a character in the Western code page, or -1 where it has none.
+int ByteOfWestern(QChar character);
 
 /// Walks through a document and writes its blocks; how each is spelled is the dialect's affair.
 class DialectWriter {
@@ -27,7 +50,16 @@ protected:
     virtual void BeginRow(const Table& table, const Row& row, bool last) = 0;
     virtual void EndRow(const Table& table, const Row& row, bool last) = 0;
     virtual void WriteDrawing(const Drawing& drawing) = 0;
-    virtual void WriteTail();
+    virtual void WriteTail() { out_ += "}\r\n"; }
+    /// What is written for a character that has a word of its own or no byte; empty for others.
+    virtual QByteArray WordFor(QChar character, int byte) const = 0;
+    virtual QByteArray CellShade(const Cell& cell) const;
+    /// Words on the flow and width, in twips, of a cell.
+    virtual QByteArray CellFlow(int) const { return {}; }
+
+    QByteArray Spelled(const QString& text) const;
+    /// Stand, borders, shade and right edge of the cells of a row.
+    QByteArray CellWords(const Table& table, const Row& row) const;
 
     const RichDocument& Document() const { return document_; }
     const DocumentColours& Colours() const { return colours_; }
@@ -51,11 +83,7 @@ private:
 QByteArray Word(const char* name, qint64 number);
 /// Bytes as hexadecimal digits in lines of 128.
 QByteArray HexLines(const QByteArray& bytes);
-/// The right edges of the cells of a row, in twips.
-std::vector<int> CellEdges(const Table& table, const Row& row);
-/// Where the text of a cell stands: one line in the middle, several from the top.
-QByteArray CellStand(const Cell& cell);
-/// One word for a border's line, where there is one.
-QByteArray BorderWords(const Table& table, bool rowIsHeading, char side);
+/// The extent of a drawing as a metafile has it, and on the page.
+QByteArray PictureExtent(const Drawing& drawing);
 
 } // namespace torvik::sample

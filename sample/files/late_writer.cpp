@@ -1,7 +1,7 @@
-#include "sample/files/late_writer.h"
-
-#include "sample/files/code_page_1252.h"
+#include "sample/files/dialect_writer.h"
+#include "sample/files/dialects.h"
 #include "sample/files/picture_bytes.h"
+#include "sample/files/rich_document.h"
 
 #include <QCryptographicHash>
 
@@ -22,21 +22,19 @@ LateWriter::LateWriter(const RichDocument& document)
     : StyledWriter(document), revision_(NumberOfText(document.title.toUtf8()))
 {}
 
-QByteArray LateWriter::Spelled(const QString& text) const
+QByteArray LateWriter::WordFor(QChar character, int byte) const
 {
-    QByteArray spelled;
-    for (const QChar ch : text) {
-        const int byte = ByteOfWestern(ch);
-        if (ch.unicode() >= 0x100) {
-            const QByteArray fallback = byte < 0 ? QByteArray("3f") : QByteArray::number(byte, 16);
-            spelled += Word("u", static_cast<short>(ch.unicode())) + "\\'" + fallback;
-        } else if (byte >= 0x80) {
-            spelled += "\\'" + QByteArray::number(byte, 16);
-        } else {
-            spelled += StyledWriter::Spelled(ch);
-        }
-    }
-    return spelled;
+    if (character.unicode() < 0x80)
+        return StyledWriter::WordFor(character, byte);
+    if (character.unicode() < 0x100 && byte >= 0)
+        return {};
+    const QByteArray fallback = byte < 0 ? QByteArray("3f") : QByteArray::number(byte, 16);
+    return Word("u", static_cast<short>(character.unicode())) + "\\'" + fallback;
+}
+
+QByteArray LateWriter::CellFlow(int width) const
+{
+    return "\\cltxlrtb\\clftsWidth3" + Word("clwWidth", width);
 }
 
 QByteArray LateWriter::RunWords() const
@@ -76,17 +74,7 @@ QByteArray LateWriter::RowWords(const Table& table, const Row& row, bool last) c
     if (row.heading)
         words += "\\trhdr";
     words += "\\trftsWidth1\\trftsWidthB3\\trautofit1\\trpaddl108\\trpaddr108\\trpaddfl3\\trpaddfr3";
-    const std::vector<int> edges = CellEdges(table, row);
-    int before = table.left;
-    for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        words += CellStand(row.cells[i]);
-        for (const char side : {'t', 'l', 'b', 'r'})
-            words += BorderWords(table, row.heading, side);
-        words += CellShade(row.cells[i]) + "\\cltxlrtb\\clftsWidth3" + Word("clwWidth", edges[i] - before) +
-                 Word("cellx", edges[i]);
-        before = edges[i];
-    }
-    return words;
+    return words + CellWords(table, row);
 }
 
 void LateWriter::EndRow(const Table& table, const Row& row, bool last)
@@ -99,14 +87,11 @@ void LateWriter::EndRow(const Table& table, const Row& row, bool last)
 
 void LateWriter::WriteDrawing(const Drawing& drawing)
 {
-    Paragraph around;
-    around.align = drawing.align;
+    const Paragraph around{.align = drawing.align};
     const QByteArray png = PngOfDrawing(drawing.image);
     const QByteArray metafile = MetafileOfDrawing(drawing.image);
     const QByteArray digest = QCryptographicHash::hash(png, QCryptographicHash::Md5).toHex();
-    const QByteArray size = Word("picw", drawing.width * 2540 / 1440) +
-                            Word("pich", drawing.height * 2540 / 1440) + Word("picwgoal", drawing.width) +
-                            Word("pichgoal", drawing.height);
+    const QByteArray size = PictureExtent(drawing);
     const QByteArray tag = Word("bliptag", digest.left(7).toInt(nullptr, 16));
     out_ += "\\pard\\plain " + ParagraphWords(around) +
             "\\widctlpar\\adjustright \\fs22\\cgrid {{\\*\\shppict{\\pict{\\*\\picprop\\shplid1025{\\sp{\\sn "
@@ -116,6 +101,19 @@ void LateWriter::WriteDrawing(const Drawing& drawing)
             "}}{\\nonshppict{\\pict\\picscalex100\\picscaley100\\piccropl0\\piccropr0\\piccropt0\\piccropb0" +
             size + "\\wmetafile8" + tag + "\\blipupi96{\\*\\blipuid " + digest + '}' + HexLines(metafile) +
             "}}}{\\par }\r\n";
+}
+
+QByteArray WriteRichText(const RichDocument& document)
+{
+    switch (document.dialect) {
+    case Dialect::Bare:
+        return BareWriter(document).Write();
+    case Dialect::Styled:
+        return StyledWriter(document).Write();
+    case Dialect::Late:
+        break;
+    }
+    return LateWriter(document).Write();
 }
 
 } // namespace torvik::sample

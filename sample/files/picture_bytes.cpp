@@ -1,5 +1,7 @@
 #include "sample/files/picture_bytes.h"
 
+#include "sample/files/riff.h"
+
 #include <QBuffer>
 
 #include <stdexcept>
@@ -9,18 +11,6 @@ namespace torvik::sample {
 namespace {
 
 constexpr int colourCount = 16;
-
-void PutWord(QByteArray& bytes, int value)
-{
-    bytes += static_cast<char>(value & 0xFF);
-    bytes += static_cast<char>((value >> 8) & 0xFF);
-}
-
-void PutLong(QByteArray& bytes, qsizetype value)
-{
-    PutWord(bytes, static_cast<int>(value & 0xFFFF));
-    PutWord(bytes, static_cast<int>((value >> 16) & 0xFFFF));
-}
 
 /// The rows from the bottom up, as runs of one colour; each row and the whole have their end marks.
 QByteArray RunsOf(const QImage& drawing)
@@ -60,18 +50,9 @@ QByteArray DibOfDrawing(const QImage& drawing)
     if (drawing.format() != QImage::Format_Indexed8 || drawing.colorCount() > colourCount)
         throw std::runtime_error("A drawing has too many colours.");
     const QByteArray runs = RunsOf(drawing);
-    QByteArray bytes;
-    PutLong(bytes, 40);
-    PutLong(bytes, drawing.width());
-    PutLong(bytes, drawing.height());
-    PutWord(bytes, 1);
-    PutWord(bytes, 4);
-    PutLong(bytes, 2); // in runs of 4-bit colours
-    PutLong(bytes, runs.size());
-    PutLong(bytes, 3780); // pixels to the metre
-    PutLong(bytes, 3780);
-    PutLong(bytes, colourCount);
-    PutLong(bytes, 0);
+    // Runs of 4-bit colours, 3780 pixels to the metre.
+    QByteArray bytes = Longs({40, drawing.width(), drawing.height()}) + Words({1, 4}) +
+                       Longs({2, runs.size(), 3780, 3780, colourCount, 0});
     for (int i = 0; i < colourCount; ++i) {
         const QRgb colour = i < drawing.colorCount() ? drawing.color(i) : 0;
         bytes += static_cast<char>(qBlue(colour));
@@ -90,35 +71,16 @@ QByteArray MetafileOfDrawing(const QImage& drawing)
     if (dib.size() % 2 != 0)
         dib += '\0';
 
-    QByteArray records;
-    const auto record = [&records](int function, std::initializer_list<int> words) {
-        PutLong(records, 3 + static_cast<qsizetype>(words.size()));
-        PutWord(records, function);
-        for (const int word : words)
-            PutWord(records, word);
-    };
-    record(0x0103, {8});             // units of our own, different in x and y
-    record(0x020B, {0, 0});          // origin
-    record(0x020C, {height, width}); // extent
-    PutLong(records, 3 + 11 + dib.size() / 2);
-    PutWord(records, 0x0F43); // stretch a bitmap
-    PutLong(records, 0x00CC0020);
-    PutWord(records, 0);
-    for (const int word : {height, width, 0, 0, height, width, 0, 0})
-        PutWord(records, word);
+    QByteArray records = Longs({4}) + Words({0x0103, 8});   // units of our own, different in x and y
+    records += Longs({5}) + Words({0x020B, 0, 0});          // origin
+    records += Longs({5}) + Words({0x020C, height, width}); // extent
     const qsizetype largest = 3 + 11 + dib.size() / 2;
-    records += dib;
-    record(0, {});
-
-    QByteArray bytes;
-    PutWord(bytes, 1); // kept in memory
-    PutWord(bytes, 9); // words of this header
-    PutWord(bytes, 0x0300);
-    PutLong(bytes, 9 + records.size() / 2);
-    PutWord(bytes, 0);
-    PutLong(bytes, largest);
-    PutWord(bytes, 0);
-    return bytes + records;
+    records += Longs({largest}) + Words({0x0F43}) + Longs({0x00CC0020}) + // stretch a bitmap
+               Words({0, height, width, 0, 0, height, width, 0, 0}) + dib;
+    records += Longs({3}) + Words({0});
+    // Kept in memory; nine words of this header.
+    return Words({1, 9, 0x0300}) + Longs({9 + records.size() / 2}) + Words({0}) + Longs({largest}) +
+           Words({0}) + records;
 }
 
 } // namespace torvik::sample

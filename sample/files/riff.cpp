@@ -8,6 +8,22 @@ void AppendNumber(QByteArray& bytes, std::uint32_t value, int count)
         bytes += static_cast<char>((value >> (8 * i)) & 0xFFU);
 }
 
+QByteArray Words(std::initializer_list<qint64> values)
+{
+    QByteArray bytes;
+    for (const qint64 value : values)
+        AppendNumber(bytes, static_cast<std::uint32_t>(value), 2);
+    return bytes;
+}
+
+QByteArray Longs(std::initializer_list<qint64> values)
+{
+    QByteArray bytes;
+    for (const qint64 value : values)
+        AppendNumber(bytes, static_cast<std::uint32_t>(value), 4);
+    return bytes;
+}
+
 QByteArray RiffChunk(const char* name, const QByteArray& content)
 {
     QByteArray chunk(name, 4);

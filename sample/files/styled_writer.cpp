@@ -1,6 +1,5 @@
-#include "sample/files/styled_writer.h"
-
-#include "sample/files/code_page_1252.h"
+#include "sample/files/dialect_writer.h"
+#include "sample/files/dialects.h"
 #include "sample/files/picture_bytes.h"
 
 namespace torvik::sample {
@@ -18,74 +17,40 @@ Look LinkLook(Look look)
 /// The colours that the word processor always lists.
 std::vector<QColor> OfficeColours()
 {
-    return {Qt::black,
-            QColor(0, 0, 255),
-            QColor(0, 255, 255),
-            QColor(0, 255, 0),
-            QColor(255, 0, 255),
-            Qt::red,
-            QColor(255, 255, 0),
-            Qt::white,
-            QColor(0, 0, 128),
-            QColor(0, 128, 128),
-            QColor(0, 128, 0),
-            QColor(128, 0, 128),
-            QColor(128, 0, 0),
-            QColor(128, 128, 0),
-            QColor(128, 128, 128),
-            QColor(192, 192, 192)};
+    std::vector<QColor> colours;
+    for (const QRgb colour : {0x000000, 0x0000FF, 0x00FFFF, 0x00FF00, 0xFF00FF, 0xFF0000, 0xFFFF00, 0xFFFFFF,
+                              0x000080, 0x008080, 0x008000, 0x800080, 0x800000, 0x808000, 0x808080, 0xC0C0C0})
+        colours.emplace_back(colour);
+    return colours;
 }
 
 /// Characters that have words of their own.
 const char* WordOf(QChar ch)
 {
-    switch (ch.unicode()) {
-    case '\t':
-        return "\\tab ";
-    case '\n':
-        return "\\line ";
-    case 0x00A0:
-        return "\\~";
-    case 0x2013:
-        return "\\endash ";
-    case 0x2014:
-        return "\\emdash ";
-    case 0x2018:
-        return "\\lquote ";
-    case 0x2019:
-        return "\\rquote ";
-    case 0x201C:
-        return "\\ldblquote ";
-    case 0x201D:
-        return "\\rdblquote ";
-    case 0x2022:
-        return "\\bullet ";
-    default:
-        return nullptr;
+    struct Spelling {
+        char16_t character;
+        const char* word;
+    };
+    constexpr Spelling spellings[] = {
+        {u'\t', "\\tab "},        {u'\n', "\\line "},    {0x00A0, "\\~"},       {0x2013, "\\endash "},
+        {0x2014, "\\emdash "},    {0x2018, "\\lquote "}, {0x2019, "\\rquote "}, {0x201C, "\\ldblquote "},
+        {0x201D, "\\rdblquote "}, {0x2022, "\\bullet "}};
+    for (const Spelling& spelling : spellings) {
+        if (spelling.character == ch.unicode())
+            return spelling.word;
     }
+    return nullptr;
 }
 
 } // namespace
 
 StyledWriter::StyledWriter(const RichDocument& document) : DialectWriter(document, OfficeColours()) {}
 
-QByteArray StyledWriter::Spelled(const QString& text) const
+QByteArray StyledWriter::WordFor(QChar character, int byte) const
 {
-    QByteArray spelled;
-    for (const QChar ch : text) {
-        const int byte = ByteOfWestern(ch);
-        if (const char* word = WordOf(ch))
-            spelled += word;
-        else if (ch == u'\\' || ch == u'{' || ch == u'}')
-            spelled += '\\' + QByteArray(1, static_cast<char>(byte));
-        else if (byte < 0)
-            spelled += Word("u", static_cast<short>(ch.unicode())) + "\\'3f";
-        else if (byte >= 0x80)
-            spelled += "\\'" + QByteArray::number(byte, 16);
-        else
-            spelled += static_cast<char>(byte);
-    }
-    return spelled;
+    if (const char* word = WordOf(character))
+        return word;
+    return byte < 0 ? Word("u", static_cast<short>(character.unicode())) + "\\'3f" : QByteArray();
 }
 
 QByteArray StyledWriter::Fonts() const
@@ -215,24 +180,12 @@ void StyledWriter::WriteParagraph(const Paragraph& paragraph, Stand stand)
     out_ += stand == Stand::LastInCell ? "{\\cell }\r\n" : "{\\par }\r\n";
 }
 
-QByteArray StyledWriter::CellShade(const Cell& cell) const
-{
-    return cell.shade.isValid() ? Word("clcbpat", Colours().NumberOf(cell.shade)) : QByteArray();
-}
-
 QByteArray StyledWriter::RowWords(const Table& table, const Row& row, bool) const
 {
     QByteArray words = "\\trowd \\trgaph108" + Word("trleft", table.left);
     if (row.heading)
         words += "\\trhdr";
-    const std::vector<int> edges = CellEdges(table, row);
-    for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        words += CellStand(row.cells[i]);
-        for (const char side : {'t', 'l', 'b', 'r'})
-            words += BorderWords(table, row.heading, side);
-        words += CellShade(row.cells[i]) + "\\cltxlrtb" + Word("cellx", edges[i]);
-    }
-    return words;
+    return words + CellWords(table, row);
 }
 
 void StyledWriter::BeginRow(const Table& table, const Row& row, bool last)
@@ -247,14 +200,11 @@ void StyledWriter::EndRow(const Table&, const Row&, bool)
 
 void StyledWriter::WriteDrawing(const Drawing& drawing)
 {
-    Paragraph around;
-    around.align = drawing.align;
+    const Paragraph around{.align = drawing.align};
     const QByteArray png = drawing.png.isEmpty() ? PngOfDrawing(drawing.image) : drawing.png;
     out_ += "\\pard\\plain " + ParagraphWords(around) + "\\widctlpar\\adjustright \\fs22\\cgrid {{\\pict" +
             Word("picscalex", 100) + Word("picscaley", 100) + "\\piccropl0\\piccropr0\\piccropt0\\piccropb0" +
-            Word("picw", drawing.width * 2540 / 1440) + Word("pich", drawing.height * 2540 / 1440) +
-            Word("picwgoal", drawing.width) + Word("pichgoal", drawing.height) + "\\pngblip" + HexLines(png) +
-            "}}{\\par }\r\n";
+            PictureExtent(drawing) + "\\pngblip" + HexLines(png) + "}}{\\par }\r\n";
 }
 
 } // namespace torvik::sample

@@ -4,9 +4,22 @@
 
 namespace torvik::sample {
 
-Curve::Curve(std::initializer_list<Point> points) : points_(points), slopes_(points.size(), 0.0)
+Curve::Curve(std::initializer_list<Point> points) : points_(points)
+{
+    FindSlopes();
+}
+
+Curve::Curve(std::initializer_list<double> placesAndValues)
+{
+    for (const double* place = placesAndValues.begin(); place != placesAndValues.end(); place += 2)
+        points_.push_back({place[0], place[1]});
+    FindSlopes();
+}
+
+void Curve::FindSlopes()
 {
     const std::size_t count = points_.size();
+    slopes_.assign(count, 0.0);
     const auto slopeAfter = [this](std::size_t i) {
         return (points_[i + 1].value - points_[i].value) / (points_[i + 1].at - points_[i].at);
     };

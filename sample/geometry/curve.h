@@ -18,11 +18,16 @@ public:
     /// At least one point, in ascending order of `at`.
     Curve(std::initializer_list<Point> points);
 
+    /// The same from places and values in turn.
+    Curve(std::initializer_list<double> placesAndValues);
+
     double operator()(double at) const;
     /// The same curve with every value raised by `amount`.
     Curve Raised(double amount) const;
 
 private:
+    void FindSlopes();
+
     std::vector<Point> points_;
     std::vector<double> slopes_;
 };

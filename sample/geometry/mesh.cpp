@@ -33,24 +33,28 @@ void AddGrid(Mesh& mesh, const std::vector<std::vector<Vec>>& rows, const Vec& i
     }
 }
 
-Mesh Ellipsoid(const Vec& centre, const Vec& radii, Finish finish)
+Mesh Lofted(Finish finish, int rows, int columns, const Vec& inside,
+            const std::function<Vec(int row, int column)>& at)
 {
+    std::vector<std::vector<Vec>> grid(static_cast<std::size_t>(rows));
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column)
+            grid[static_cast<std::size_t>(row)].push_back(at(row, column));
+    }
     Mesh mesh;
     mesh.finish = finish;
-    std::vector<std::vector<Vec>> rows;
-    for (int i = 0; i <= 12; ++i) {
-        std::vector<Vec> row;
-        const double latitude = -pi / 2 + pi * (i + 0.001) / 12.002;
-        for (int j = 0; j <= 20; ++j) {
-            const double longitude = 2 * pi * j / 20;
-            row.push_back(centre + Vec{radii.x * std::cos(latitude) * std::cos(longitude),
-                                       radii.y * std::cos(latitude) * std::sin(longitude),
-                                       radii.z * std::sin(latitude)});
-        }
-        rows.push_back(row);
-    }
-    AddGrid(mesh, rows, centre);
+    AddGrid(mesh, grid, inside);
     return mesh;
+}
+
+Mesh Ellipsoid(const Vec& centre, const Vec& radii, Finish finish)
+{
+    return Lofted(finish, 13, 21, centre, [&](int i, int j) {
+        const double latitude = -pi / 2 + pi * (i + 0.001) / 12.002;
+        const double longitude = 2 * pi * j / 20;
+        return centre + Vec{radii.x * std::cos(latitude) * std::cos(longitude),
+                            radii.y * std::cos(latitude) * std::sin(longitude), radii.z * std::sin(latitude)};
+    });
 }
 
 Mesh MirroredInFloor(const Mesh& mesh)

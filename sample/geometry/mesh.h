@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace torvik::sample {
@@ -30,6 +31,9 @@ struct Mesh {
 /// Joins a grid of points (rows of equal length) to `mesh`, with smooth normals that point away from
 /// `inside`.
 void AddGrid(Mesh& mesh, const std::vector<std::vector<Vec>>& rows, const Vec& inside);
+/// A mesh of `rows` rows of `columns` points each, found one by one.
+Mesh Lofted(Finish finish, int rows, int columns, const Vec& inside,
+            const std::function<Vec(int row, int column)>& at);
 /// A closed ball squeezed to the three radii.
 Mesh Ellipsoid(const Vec& centre, const Vec& radii, Finish finish);
 /// The upside-down picture that a polished floor shows.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 
 namespace torvik::sample {
 
@@ -21,6 +22,13 @@ public:
 private:
     std::uint64_t state_;
 };
+
+/// The element that a number of any size, 0 or more, comes to when it is counted round and round.
+template <typename List>
+const auto& Cycled(const List& list, int number)
+{
+    return list[static_cast<std::size_t>(number) % std::size(list)];
+}
 
 /// A fixed random number from 0 to 1 for each point of the grid.
 double Hash(int x, int y, std::uint32_t seed);

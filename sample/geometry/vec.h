@@ -10,28 +10,17 @@ struct Vec {
     double x = 0;
     double y = 0;
     double z = 0;
+
+    Vec operator+(const Vec& b) const { return {x + b.x, y + b.y, z + b.z}; }
+    Vec operator-(const Vec& b) const { return {x - b.x, y - b.y, z - b.z}; }
+    Vec operator*(double k) const { return {x * k, y * k, z * k}; }
+    Vec operator*(const Vec& b) const { return {x * b.x, y * b.y, z * b.z}; }
 };
 
 using Rgb = Vec;
 
 constexpr double pi = 3.14159265358979323846;
 
-inline Vec operator+(const Vec& a, const Vec& b)
-{
-    return {a.x + b.x, a.y + b.y, a.z + b.z};
-}
-inline Vec operator-(const Vec& a, const Vec& b)
-{
-    return {a.x - b.x, a.y - b.y, a.z - b.z};
-}
-inline Vec operator*(const Vec& a, double k)
-{
-    return {a.x * k, a.y * k, a.z * k};
-}
-inline Vec operator*(const Vec& a, const Vec& b)
-{
-    return {a.x * b.x, a.y * b.y, a.z * b.z};
-}
 inline double Dot(const Vec& a, const Vec& b)
 {
     return a.x * b.x + a.y * b.y + a.z * b.z;

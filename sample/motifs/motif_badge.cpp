@@ -1,9 +1,9 @@
-#include "sample/car/paints.h"
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/motifs/motifs.h"
 #include "sample/photos/photographer.h"
+#include "sample/render/film.h"
 #include "sample/render/tabletop.h"
-#include "sample/render/tone.h"
 
 namespace torvik::sample {
 
@@ -31,20 +31,16 @@ QImage PaintBadge(const PlannedPhoto& photo)
             line[x] = PixelOf(Shoulder(base * (lit + flake) + seen * 0.16));
         }
     }
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter p(&picture);
     // A panel gap, for scale.
-    QPainterPath gap;
-    gap.moveTo(w * 0.86, -10);
-    gap.quadTo(w * 0.82, h * 0.5, w * 0.87, h + 10);
+    const QPainterPath gap = Outline({{w * 0.86, -10}, {w * 0.82, h * 0.5, w * 0.87, h + 10}});
     p.strokePath(gap, QPen(QColor(0, 0, 0, 220), 7));
     p.strokePath(gap.translated(6, 0), QPen(QColor(255, 255, 255, 80), 3));
     const bool lettering = photo.variant % 3 == 1;
     const QPointF m(w * (lettering ? 0.20 : 0.42), h * 0.48);
     const double size = h * (lettering ? 0.17 : 0.30);
     const QPainterPath outer = ShieldPath(m, size);
-    DropShadow(p, outer, size * 0.13, 0.75);
-    FillMetal(p, outer, QColor(196, 198, 204), 0.9);
+    LayMetal(p, outer, size * 0.13, 0.75, QColor(196, 198, 204), 0.9);
     p.strokePath(outer, QPen(QColor(250, 250, 252, 150), 3));
     const QPainterPath inner = ShieldPath(m, size * 0.86);
     FillGlossy(p, inner, QColor(150, 14, 24));
@@ -60,24 +56,17 @@ QImage PaintBadge(const PlannedPhoto& photo)
     p.restore();
     p.strokePath(inner, QPen(QColor(60, 4, 8), 3));
     const QPainterPath tee = WingedT(m + QPointF(0, size * 0.02), size * 0.70);
-    DropShadow(p, tee, size * 0.05, 0.8);
-    FillMetal(p, tee, QColor(206, 208, 212), 1.2);
+    LayMetal(p, tee, size * 0.05, 0.8, QColor(206, 208, 212), 1.2);
     p.strokePath(tee, QPen(QColor(255, 255, 255, 170), 2));
-    QFont font(u"Liberation Serif"_s);
-    font.setItalic(true);
-    font.setBold(true);
-    font.setPixelSize(static_cast<int>(h * (lettering ? 0.22 : 0.105)));
+    const QFont font = FontOf("Liberation Serif", h * (lettering ? 0.22 : 0.105), true, true);
     QPainterPath script;
     script.addText(QPointF(lettering ? w * 0.36 : w * 0.34, lettering ? h * 0.54 : h * 0.93), font,
                    u"Vollandry"_s);
     // The letters stand on a bar, as cast ones do.
     const QRectF box = script.boundingRect();
-    QPainterPath bar;
-    bar.addRoundedRect(
-        QRectF(box.left() - 6, box.bottom() - box.height() * 0.25, box.width() + 14, h * 0.012), 4, 4);
-    QPainterPath cast = script.united(bar);
-    DropShadow(p, cast, h * 0.018, 0.8);
-    FillMetal(p, cast, QColor(204, 206, 212), 1.35);
+    QPainterPath cast = script.united(
+        Rounded(QRectF(box.left() - 6, box.bottom() - box.height() * 0.25, box.width() + 14, h * 0.012), 4));
+    LayMetal(p, cast, h * 0.018, 0.8, QColor(204, 206, 212), 1.35);
     p.strokePath(cast, QPen(QColor(255, 255, 255, 140), 1.6));
     return picture;
 }

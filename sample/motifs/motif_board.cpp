@@ -1,5 +1,5 @@
-#include "sample/car/paints.h"
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/motifs/motifs.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/tabletop.h"
@@ -16,8 +16,7 @@ constexpr int boardSide = 900;
 QImage Board()
 {
     QImage board(boardSide, boardSide, QImage::Format_ARGB32_Premultiplied);
-    QPainter p(&board);
-    p.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter p(&board);
     p.fillRect(board.rect(), QColor(214, 226, 208));
     static const QColor groups[] = {QColor(110, 60, 36),  QColor(120, 186, 220), QColor(190, 60, 130),
                                     QColor(232, 140, 40), QColor(200, 34, 36),   QColor(236, 208, 50),
@@ -82,10 +81,8 @@ QImage Board()
 
 void PaintDie(QPainter& p, double size, int points)
 {
-    QPainterPath cube;
-    cube.addRoundedRect(QRectF(-size, -size, 2 * size, 2 * size), size * 0.3, size * 0.3);
-    DropShadow(p, cube, size * 0.5, 0.7);
-    FillGlossy(p, cube, QColor(240, 236, 226));
+    LayGlossy(p, Rounded(QRectF(-size, -size, 2 * size, 2 * size), size * 0.3), size * 0.5, 0.7,
+              QColor(240, 236, 226));
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(20, 20, 22));
     const auto dot = [&](double x, double y) {
@@ -116,9 +113,7 @@ QImage PaintBoardGame(const PlannedPhoto& photo)
     const std::uint32_t seed = SeedOf(photo);
     Random random(seed);
     QImage picture = WoodTable(photo.size, QColor(112, 66, 38), seed);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    SmoothPainter p(&picture);
     // The board lies in perspective.
     static const QPolygonF corners[] = {
         QPolygonF({{0.24, 0.06}, {0.80, 0.10}, {1.02, 0.92}, {0.03, 0.86}}),
@@ -138,11 +133,10 @@ QImage PaintBoardGame(const PlannedPhoto& photo)
     p.setTransform(lie);
     p.drawImage(0, 0, Board());
     p.resetTransform();
-    QLinearGradient light(0, 0, w, h);
-    light.setColorAt(0, QColor(255, 246, 220, 60));
-    light.setColorAt(0.5, QColor(255, 246, 220, 0));
-    light.setColorAt(1, QColor(0, 0, 10, 80));
-    p.fillPath(outline, light);
+    p.fillPath(
+        outline,
+        Linear({0, 0}, {w, h},
+               {{0, QColor(255, 246, 220, 60)}, {0.5, QColor(255, 246, 220, 0)}, {1, QColor(0, 0, 10, 80)}}));
     // The tokens: small cars of pewter.
     Trim trim;
     static const int years[] = {1967, 1972, 1985, 1999};
@@ -155,9 +149,7 @@ QImage PaintBoardGame(const PlannedPhoto& photo)
             CutOutCar(ShapeOfYear(years[i]), i == 0 ? Paint{QString(), QColor(206, 166, 70), 1.0} : pewter,
                       trim, i % 2 == 0 ? View::FrontLeft : View::FrontRight,
                       QSize(static_cast<int>(wide * 1.5), static_cast<int>(wide * 0.9)));
-        QPainterPath ground;
-        ground.addEllipse(on + QPointF(0, wide * 0.03), wide * 0.36, wide * 0.06);
-        DropShadow(p, ground, 8, 0.8);
+        DropShadow(p, Ellipse(on + QPointF(0, wide * 0.03), wide * 0.36, wide * 0.06), 8, 0.8);
         p.drawImage(QRectF(on.x() - wide / 2, on.y() - wide * 0.42, wide, wide * 0.6), car);
     }
     for (int i = 0; i < 2; ++i) {
@@ -173,16 +165,10 @@ QImage PaintBoardGame(const PlannedPhoto& photo)
         p.translate(w * (0.10 + 0.012 * i), h * (0.16 + 0.035 * i));
         p.rotate(-20 + random.Between(-10, 10));
         const QRectF note(-w * 0.075, -h * 0.05, w * 0.15, h * 0.10);
-        QPainterPath paper;
-        paper.addRect(note);
-        DropShadow(p, paper, 5, 0.5);
-        p.fillPath(paper, QColor::fromHsv((i * 70 + 90) % 360, 60, 226));
+        LayFlat(p, Rectangle(note), 5, 0.5, QColor::fromHsv((i * 70 + 90) % 360, 60, 226));
         p.setPen(QPen(QColor(60, 60, 60), 2));
         p.drawRect(note.adjusted(6, 6, -6, -6));
-        QFont font(u"Liberation Serif"_s);
-        font.setBold(true);
-        font.setPixelSize(static_cast<int>(h * 0.05));
-        p.setFont(font);
+        p.setFont(FontOf("Liberation Serif", h * 0.05, true));
         p.drawText(note, Qt::AlignCenter, QString::number(100 * (i + 1)));
         p.restore();
     }

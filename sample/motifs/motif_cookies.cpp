@@ -1,4 +1,5 @@
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/motifs/motifs.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/tabletop.h"
@@ -33,34 +34,24 @@ void PaintCookie(QPainter& p, double size, const QColor& icing, Random& random)
     round.setWidth(size * 0.12);
     round.setJoinStyle(Qt::RoundJoin);
     const QPainterPath body = dough.united(round.createStroke(dough));
-    DropShadow(p, body, size * 0.09, 0.65);
-    QRadialGradient baked(QPointF(-size * 0.2, -size * 0.2), size * 1.3);
-    baked.setColorAt(0, QColor(240, 200, 130));
-    baked.setColorAt(0.7, QColor(216, 160, 84));
-    baked.setColorAt(1, QColor(150, 88, 34));
-    p.fillPath(body, baked);
+    LayFlat(p, body, size * 0.09, 0.65,
+            Radial({-size * 0.2, -size * 0.2}, size * 1.3,
+                   {{0, QColor(240, 200, 130)}, {0.7, QColor(216, 160, 84)}, {1, QColor(150, 88, 34)}}));
     p.strokePath(body, QPen(QColor(140, 80, 30, 120), size * 0.02));
     if (icing.isValid()) {
         QTransform smaller = QTransform::fromScale(0.92, 0.86);
         smaller.translate(0, -size * 0.02);
-        const QPainterPath sugar = smaller.map(dough);
-        DropShadow(p, sugar, size * 0.025, 0.4);
-        FillGlossy(p, sugar, icing);
-        QPainterPath window;
-        window.moveTo(-size * 0.24, -size * 0.19);
-        window.quadTo(-size * 0.05, -size * 0.42, size * 0.18, -size * 0.40);
-        window.quadTo(size * 0.4, -size * 0.36, size * 0.5, -size * 0.2);
-        window.closeSubpath();
-        p.fillPath(window, QColor(255, 250, 240));
+        LayGlossy(p, smaller.map(dough), size * 0.025, 0.4, icing);
+        p.fillPath(ClosedOutline({{-size * 0.24, -size * 0.19},
+                                  {-size * 0.05, -size * 0.42, size * 0.18, -size * 0.40},
+                                  {size * 0.4, -size * 0.36, size * 0.5, -size * 0.2}}),
+                   QColor(255, 250, 240));
         p.setPen(QPen(QColor(255, 250, 240), size * 0.025, Qt::SolidLine, Qt::RoundCap));
         p.drawLine(QPointF(-size * 0.8, -size * 0.0), QPointF(size * 0.85, -size * 0.03));
     }
     p.setPen(Qt::NoPen);
     for (const double x : {-0.61, 0.61}) {
-        QPainterPath wheel;
-        wheel.addEllipse(QPointF(size * x, size * 0.24), size * 0.15, size * 0.15);
-        DropShadow(p, wheel, size * 0.03, 0.5);
-        FillGlossy(p, wheel, QColor(66, 34, 18));
+        LayGlossy(p, Disc({size * x, size * 0.24}, size * 0.15), size * 0.03, 0.5, QColor(66, 34, 18));
         p.setBrush(QColor(250, 240, 220));
         p.drawEllipse(QPointF(size * x, size * 0.24), size * 0.05, size * 0.05);
     }
@@ -83,22 +74,16 @@ QImage PaintCookies(const PlannedPhoto& photo)
     Random random(seed);
     QImage picture = photo.variant % 2 == 0 ? WoodTable(photo.size, QColor(176, 128, 84), seed)
                                             : ClothTable(photo.size, QColor(196, 190, 178), seed);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter p(&picture);
     static const QColor icings[] = {QColor(190, 26, 34), QColor(40, 100, 170), QColor(236, 190, 50),
                                     QColor(60, 130, 84), QColor()};
     if (photo.variant == 1) {
         // The tin, open, with the cookies in rows.
-        QPainterPath tin;
-        tin.addRoundedRect(QRectF(w * 0.12, h * 0.08, w * 0.76, h * 0.84), 60, 60);
-        DropShadow(p, tin, 26, 0.7);
-        FillMetal(p, tin, QColor(150, 24, 34), 0.6);
-        QPainterPath inside;
-        inside.addRoundedRect(QRectF(w * 0.145, h * 0.12, w * 0.71, h * 0.76), 46, 46);
-        QLinearGradient dark(0, h * 0.1, 0, h * 0.9);
-        dark.setColorAt(0, QColor(40, 34, 30));
-        dark.setColorAt(1, QColor(120, 112, 104));
-        p.fillPath(inside, dark);
+        LayMetal(p, Rounded(QRectF(w * 0.12, h * 0.08, w * 0.76, h * 0.84), 60), 26, 0.7, QColor(150, 24, 34),
+                 0.6);
+        const QPainterPath inside = Rounded(QRectF(w * 0.145, h * 0.12, w * 0.71, h * 0.76), 46);
+        p.fillPath(inside,
+                   Linear({0, h * 0.1}, {0, h * 0.9}, {{0, QColor(40, 34, 30)}, {1, QColor(120, 112, 104)}}));
         p.strokePath(inside, QPen(QColor(230, 204, 140), 6));
         for (int r = 0; r < 4; ++r) {
             for (int c = 0; c < 3; ++c) {
@@ -113,19 +98,15 @@ QImage PaintCookies(const PlannedPhoto& photo)
         }
     } else {
         const QPointF m(w * 0.5, h * 0.52);
-        QPainterPath plate;
-        plate.addEllipse(m, w * 0.40, h * 0.46);
-        DropShadow(p, plate, 26, 0.65);
-        QRadialGradient china(m, w * 0.40, m - QPointF(w * 0.1, h * 0.1));
-        china.setColorAt(0, QColor(250, 249, 245));
-        china.setColorAt(0.78, QColor(236, 234, 228));
-        china.setColorAt(0.80, QColor(206, 204, 198));
-        china.setColorAt(0.86, QColor(252, 252, 250));
-        china.setColorAt(1, QColor(196, 194, 190));
-        p.fillPath(plate, china);
-        QPainterPath line;
-        line.addEllipse(m, w * 0.375, h * 0.432);
-        p.strokePath(line, QPen(photo.variant == 0 ? QColor(30, 60, 130) : QColor(160, 30, 40), 5));
+        LayFlat(p, Ellipse(m, w * 0.40, h * 0.46), 26, 0.65,
+                Radial(m, w * 0.40, m - QPointF(w * 0.1, h * 0.1),
+                       {{0, QColor(250, 249, 245)},
+                        {0.78, QColor(236, 234, 228)},
+                        {0.80, QColor(206, 204, 198)},
+                        {0.86, QColor(252, 252, 250)},
+                        {1, QColor(196, 194, 190)}}));
+        p.strokePath(Ellipse(m, w * 0.375, h * 0.432),
+                     QPen(photo.variant == 0 ? QColor(30, 60, 130) : QColor(160, 30, 40), 5));
         const int count = photo.variant == 0 ? 6 : 7;
         for (int i = 0; i < count; ++i) {
             const double a = 2 * pi * i / (count - 1) + 0.4;

@@ -1,5 +1,5 @@
-#include "sample/car/paints.h"
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/motifs/motifs.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/tabletop.h"
@@ -30,16 +30,9 @@ void Hose(QPainter& p, const QPainterPath& way, double thick, const QColor& colo
 
 void RockerCover(QPainter& p, const QRectF& box, const QColor& colour)
 {
-    QPainterPath cover;
-    cover.addRoundedRect(box, box.width() * 0.25, box.width() * 0.25);
-    DropShadow(p, cover, 16, 0.7);
-    QLinearGradient body(box.topLeft(), box.topRight());
-    body.setColorAt(0, colour.darker(210));
-    body.setColorAt(0.25, colour.lighter(150));
-    body.setColorAt(0.4, colour.lighter(112));
-    body.setColorAt(0.8, colour.darker(140));
-    body.setColorAt(1, colour.darker(260));
-    p.fillPath(cover, body);
+    LayFlat(p, Rounded(box, box.width() * 0.25), 16, 0.7,
+            Linear(box.topLeft(), box.topRight(),
+                   Shades(colour, {{0, -210}, {0.25, 150}, {0.4, 112}, {0.8, -140}, {1, -260}})));
     for (int i = 0; i < 6; ++i) {
         const double x = box.left() + box.width() * (0.26 + 0.1 * i);
         p.setPen(QPen(QColor(0, 0, 0, 90), 3));
@@ -50,9 +43,8 @@ void RockerCover(QPainter& p, const QRectF& box, const QColor& colour)
     p.setPen(Qt::NoPen);
     for (int i = 0; i < 5; ++i) {
         for (const double x : {box.left() + 11, box.right() - 11}) {
-            QPainterPath bolt;
-            bolt.addEllipse(QPointF(x, box.top() + 26 + i * (box.height() - 52) / 4), 7, 7);
-            FillMetal(p, bolt, QColor(200, 200, 204), 0.8);
+            FillMetal(p, Disc({x, box.top() + 26 + i * (box.height() - 52) / 4}, 7), QColor(200, 200, 204),
+                      0.8);
         }
     }
 }
@@ -67,33 +59,20 @@ QImage PaintEngine(const PlannedPhoto& photo)
     const int generation = GenerationOfYear(photo.year);
     Random random(SeedOf(photo));
     const QColor paint = PaintOf(photo).colour;
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient bay(0, 0, 0, h);
-    bay.setColorAt(0, QColor(38, 38, 40));
-    bay.setColorAt(0.5, QColor(22, 22, 23));
-    bay.setColorAt(1, QColor(10, 10, 11));
-    p.fillRect(picture.rect(), bay);
+    SmoothPainter p(&picture);
+    p.fillRect(picture.rect(),
+               Linear({0, 0}, {0, h},
+                      {{0, QColor(38, 38, 40)}, {0.5, QColor(22, 22, 23)}, {1, QColor(10, 10, 11)}}));
     // Body-coloured inner wings on both sides, with the light of the sky along their edges.
     for (const double side : {-1.0, 1.0}) {
         const auto x = [&](double v) { return side < 0 ? w * v : w * (1 - v); };
-        QPainterPath wing;
-        wing.moveTo(x(-0.01), 0);
-        wing.lineTo(x(0.13), 0);
-        wing.cubicTo(x(0.15), h * 0.3, x(0.11), h * 0.7, x(0.09), h);
-        wing.lineTo(x(-0.01), h);
-        wing.closeSubpath();
-        QLinearGradient tone(x(0), 0, x(0.15), 0);
-        tone.setColorAt(0, paint.lighter(125));
-        tone.setColorAt(0.5, paint);
-        tone.setColorAt(0.72, paint.lighter(180));
-        tone.setColorAt(0.8, paint.darker(150));
-        tone.setColorAt(1, paint.darker(320));
-        p.fillPath(wing, tone);
-        QPainterPath tower;
-        tower.addEllipse(QPointF(x(0.165), h * 0.44), w * 0.062, w * 0.062);
-        DropShadow(p, tower, 14, 0.6);
-        FillGlossy(p, tower, paint.darker(150));
+        p.fillPath(ClosedOutline({{x(-0.01), 0},
+                                  {x(0.13), 0},
+                                  {x(0.15), h * 0.3, x(0.11), h * 0.7, x(0.09), h},
+                                  {x(-0.01), h}}),
+                   Linear({x(0), 0}, {x(0.15), 0},
+                          Shades(paint, {{0, 125}, {0.5, 100}, {0.72, 180}, {0.8, -150}, {1, -320}})));
+        LayGlossy(p, Disc({x(0.165), h * 0.44}, w * 0.062), 14, 0.6, paint.darker(150));
         for (int i = 0; i < 3; ++i) {
             QPainterPath nut;
             const double a = 2 * pi * i / 3 + 0.4;
@@ -103,25 +82,13 @@ QImage PaintEngine(const PlannedPhoto& photo)
         }
     }
     // Radiator with its cap, at the lower edge; the bulkhead at the upper one.
-    QPainterPath bulkhead;
-    bulkhead.addRoundedRect(QRectF(w * 0.12, -20, w * 0.76, h * 0.13), 14, 14);
-    QLinearGradient steel(0, 0, 0, h * 0.12);
-    steel.setColorAt(0, paint.darker(170));
-    steel.setColorAt(1, paint.darker(300));
-    p.fillPath(bulkhead, steel);
-    QPainterPath radiator;
-    radiator.addRoundedRect(QRectF(w * 0.22, h * 0.90, w * 0.56, h * 0.13), 12, 12);
-    DropShadow(p, radiator, 12, 0.6);
-    QLinearGradient black(0, h * 0.9, 0, h);
-    black.setColorAt(0, QColor(74, 74, 77));
-    black.setColorAt(0.3, QColor(30, 30, 31));
-    black.setColorAt(1, QColor(14, 14, 15));
-    p.fillPath(radiator, black);
+    p.fillPath(Rounded(QRectF(w * 0.12, -20, w * 0.76, h * 0.13), 14),
+               Linear({0, 0}, {0, h * 0.12}, Shades(paint, {{0, -170}, {1, -300}})));
+    LayFlat(p, Rounded(QRectF(w * 0.22, h * 0.90, w * 0.56, h * 0.13), 12), 12, 0.6,
+            Linear({0, h * 0.9}, {0, h},
+                   {{0, QColor(74, 74, 77)}, {0.3, QColor(30, 30, 31)}, {1, QColor(14, 14, 15)}}));
     // The block and its covers.
-    QPainterPath block;
-    block.addRoundedRect(QRectF(w * 0.29, h * 0.16, w * 0.42, h * 0.64), 40, 40);
-    DropShadow(p, block, 30, 0.8);
-    p.fillPath(block, QColor(46, 47, 50));
+    LayFlat(p, Rounded(QRectF(w * 0.29, h * 0.16, w * 0.42, h * 0.64), 40), 30, 0.8, QColor(46, 47, 50));
     const QColor covers = generation <= 2   ? QColor(26, 74, 160)
                           : generation == 3 ? QColor(30, 100, 140)
                           : generation == 4 ? QColor(150, 152, 156)
@@ -140,25 +107,19 @@ QImage PaintEngine(const PlannedPhoto& photo)
                 Hose(p, runner, h * 0.062, QColor(176, 178, 182));
             }
         }
-        QPainterPath plenum;
-        plenum.addRoundedRect(QRectF(w * 0.445, h * 0.20, w * 0.11, h * 0.54), 26, 26);
-        DropShadow(p, plenum, 18, 0.7);
-        FillMetal(p, plenum, QColor(168, 170, 174), 0.15);
+        LayMetal(p, Rounded(QRectF(w * 0.445, h * 0.20, w * 0.11, h * 0.54), 26), 18, 0.7,
+                 QColor(168, 170, 174), 0.15);
         p.save();
         p.translate(w * 0.5, h * 0.47);
         p.rotate(-90);
-        QFont font(u"Liberation Sans"_s);
-        font.setBold(true);
-        font.setPixelSize(static_cast<int>(h * 0.06));
-        p.setFont(font);
+        p.setFont(FontOf("Liberation Sans", h * 0.06, true));
         p.setPen(QColor(24, 24, 26));
         p.drawText(QRectF(-h * 0.26, -h * 0.05, h * 0.52, h * 0.1), Qt::AlignCenter, u"TORVIK V8"_s);
         p.restore();
     } else {
         // The round air cleaner.
         const QPointF m(w * 0.5, h * 0.46);
-        QPainterPath cleaner;
-        cleaner.addEllipse(m, w * 0.125, w * 0.125);
+        const QPainterPath cleaner = Disc(m, w * 0.125);
         DropShadow(p, cleaner, 34, 0.8);
         QConicalGradient lid(m, 30);
         const QColor tone = generation == 1   ? QColor(176, 178, 184)
@@ -172,12 +133,8 @@ QImage PaintEngine(const PlannedPhoto& photo)
         p.drawEllipse(m, w * 0.110, w * 0.110);
         p.setPen(QPen(QColor(255, 255, 255, 70), 2));
         p.drawEllipse(m, w * 0.1075, w * 0.1075);
-        QPainterPath label;
-        label.addEllipse(m, w * 0.066, w * 0.066);
-        p.fillPath(label, QColor(18, 18, 20));
-        QFont font(u"Liberation Sans"_s);
-        font.setBold(true);
-        font.setPixelSize(static_cast<int>(w * 0.022));
+        p.fillPath(Disc(m, w * 0.066), QColor(18, 18, 20));
+        QFont font = FontOf("Liberation Sans", w * 0.022, true);
         p.setFont(font);
         p.setPen(QColor(232, 206, 120));
         p.drawText(QRectF(m.x() - 120, m.y() - w * 0.05, 240, w * 0.03), Qt::AlignCenter, u"TORVIK"_s);
@@ -186,10 +143,7 @@ QImage PaintEngine(const PlannedPhoto& photo)
         p.drawText(QRectF(m.x() - 120, m.y() + w * 0.018, 240, w * 0.03), Qt::AlignCenter,
                    generation == 3 ? u"2.3 LITRE"_s : u"V8 351"_s);
         p.setPen(Qt::NoPen);
-        QPainterPath nut;
-        nut.addEllipse(m, 15, 15);
-        DropShadow(p, nut, 5, 0.6);
-        FillMetal(p, nut, QColor(210, 210, 214), 0.8);
+        LayMetal(p, Disc(m, 15), 5, 0.6, QColor(210, 210, 214), 0.8);
     }
     // Fan, pulley and belt.
     const QPointF hub(w * 0.5, h * 0.84);
@@ -197,26 +151,17 @@ QImage PaintEngine(const PlannedPhoto& photo)
         p.save();
         p.translate(hub);
         p.rotate(i * 360.0 / 7 + 11);
-        QPainterPath blade;
-        blade.moveTo(-10, 0);
-        blade.quadTo(-30, -h * 0.06, -22, -h * 0.12);
-        blade.lineTo(22, -h * 0.115);
-        blade.quadTo(20, -h * 0.05, 10, 0);
-        p.fillPath(blade, QColor(150 + i * 8, 150 + i * 8, 156 + i * 8));
+        p.fillPath(
+            Outline({{-10, 0}, {-30, -h * 0.06, -22, -h * 0.12}, {22, -h * 0.115}, {20, -h * 0.05, 10, 0}}),
+            QColor(150 + i * 8, 150 + i * 8, 156 + i * 8));
         p.restore();
     }
-    QPainterPath pulley;
-    pulley.addEllipse(hub, h * 0.05, h * 0.05);
-    FillMetal(p, pulley, QColor(190, 190, 196), 0.7);
+    FillMetal(p, Disc(hub, h * 0.05), QColor(190, 190, 196), 0.7);
     // Hoses and ignition leads.
-    QPainterPath upper;
-    upper.moveTo(w * 0.44, h * 0.78);
-    upper.cubicTo(w * 0.38, h * 0.86, w * 0.34, h * 0.80, w * 0.33, h * 0.93);
-    Hose(p, upper, h * 0.05, QColor(40, 40, 42));
-    QPainterPath heater;
-    heater.moveTo(w * 0.60, h * 0.80);
-    heater.cubicTo(w * 0.80, h * 0.78, w * 0.79, h * 0.36, w * 0.72, h * 0.09);
-    Hose(p, heater, h * 0.026, QColor(34, 34, 36));
+    Hose(p, Outline({{w * 0.44, h * 0.78}, {w * 0.38, h * 0.86, w * 0.34, h * 0.80, w * 0.33, h * 0.93}}),
+         h * 0.05, QColor(40, 40, 42));
+    Hose(p, Outline({{w * 0.60, h * 0.80}, {w * 0.80, h * 0.78, w * 0.79, h * 0.36, w * 0.72, h * 0.09}}),
+         h * 0.026, QColor(34, 34, 36));
     for (int i = 0; i < 4; ++i) {
         for (const double side : {-1.0, 1.0}) {
             QPainterPath lead;
@@ -227,30 +172,17 @@ QImage PaintEngine(const PlannedPhoto& photo)
             Hose(p, lead, h * 0.013, generation <= 3 ? QColor(160, 30, 26) : QColor(40, 60, 120));
         }
     }
-    QPainterPath distributor;
-    distributor.addEllipse(QPointF(w * 0.5, h * 0.165), w * 0.03, w * 0.03);
-    DropShadow(p, distributor, 10, 0.7);
-    FillGlossy(p, distributor, QColor(120, 52, 30));
+    LayGlossy(p, Disc({w * 0.5, h * 0.165}, w * 0.03), 10, 0.7, QColor(120, 52, 30));
     // Battery, washer bottle, brake cylinder.
-    QPainterPath battery;
-    battery.addRoundedRect(QRectF(w * 0.125, h * 0.64, w * 0.12, h * 0.24), 8, 8);
-    DropShadow(p, battery, 14, 0.7);
-    FillGlossy(p, battery, QColor(30, 30, 32));
+    LayGlossy(p, Rounded(QRectF(w * 0.125, h * 0.64, w * 0.12, h * 0.24), 8), 14, 0.7, QColor(30, 30, 32));
     p.fillRect(QRectF(w * 0.13, h * 0.71, w * 0.11, h * 0.07), QColor(196, 30, 30));
     for (const double y : {0.665, 0.845}) {
-        QPainterPath pole;
-        pole.addEllipse(QPointF(w * 0.15, h * y), 11, 11);
-        FillMetal(p, pole, QColor(176, 172, 160), 0.8);
+        FillMetal(p, Disc({w * 0.15, h * y}, 11), QColor(176, 172, 160), 0.8);
     }
-    QPainterPath bottle;
-    bottle.addRoundedRect(QRectF(w * 0.765, h * 0.64, w * 0.085, h * 0.2), 20, 20);
-    DropShadow(p, bottle, 12, 0.6);
-    FillGlossy(p, bottle, QColor(196, 206, 206));
+    LayGlossy(p, Rounded(QRectF(w * 0.765, h * 0.64, w * 0.085, h * 0.2), 20), 12, 0.6,
+              QColor(196, 206, 206));
     p.fillRect(QRectF(w * 0.77, h * 0.74, w * 0.075, h * 0.09), QColor(50, 130, 200, 110));
-    QPainterPath servo;
-    servo.addEllipse(QPointF(w * 0.225, h * 0.17), w * 0.055, w * 0.055);
-    DropShadow(p, servo, 12, 0.7);
-    FillMetal(p, servo, QColor(150, 138, 96), 0.8);
+    LayMetal(p, Disc({w * 0.225, h * 0.17}, w * 0.055), 12, 0.7, QColor(150, 138, 96), 0.8);
     return picture;
 }
 

@@ -1,9 +1,10 @@
 #include "sample/car/paints.h"
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/motifs/motifs.h"
 #include "sample/photos/photographer.h"
+#include "sample/render/film.h"
 #include "sample/render/tabletop.h"
-#include "sample/render/tone.h"
 
 namespace torvik::sample {
 
@@ -46,12 +47,9 @@ QImage PaintSign(const PlannedPhoto& photo)
     Random random(seed);
     QImage picture = photo.variant % 2 == 0 ? BrickWall(photo.size, seed)
                                             : WoodTable(photo.size, QColor(140, 116, 92), seed);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    SmoothPainter p(&picture);
     const QRectF box(w * 0.15, h * 0.08, w * 0.70, h * 0.82);
-    QPainterPath plate;
-    plate.addRoundedRect(box, 26, 26);
+    const QPainterPath plate = Rounded(box, 26);
     DropShadow(p, plate, 16, 0.75);
     struct Scheme {
         QColor ground;
@@ -72,17 +70,13 @@ QImage PaintSign(const PlannedPhoto& photo)
         {QColor(46, 96, 74), QColor(238, 226, 196), QColor(244, 232, 196), "MILLBROOK",
          "Drag strip - every Sunday", 1999}};
     const Scheme& scheme = schemes[static_cast<std::size_t>(photo.variant) % 5];
-    QLinearGradient enamel(box.topLeft(), box.bottomRight());
-    enamel.setColorAt(0, scheme.ground.lighter(118));
-    enamel.setColorAt(0.5, scheme.ground);
-    enamel.setColorAt(1, scheme.ground.darker(128));
+    const QLinearGradient enamel =
+        Linear(box.topLeft(), box.bottomRight(), Shades(scheme.ground, {{0, 118}, {0.5, 100}, {1, -128}}));
     p.fillPath(plate, enamel);
-    QPainterPath inner;
-    inner.addRoundedRect(box.adjusted(20, 20, -20, -20), 18, 18);
+    const QPainterPath inner = Rounded(box.adjusted(20, 20, -20, -20), 18);
     p.strokePath(inner, QPen(scheme.frame, 11));
     const CarShape shape = ShapeOfYear(scheme.year);
-    Trim trim;
-    trim.plate = QString::number(scheme.year);
+    const Trim trim{.plate = QString::number(scheme.year)};
     const Paint paint = PaintsOfYear(scheme.year)[static_cast<std::size_t>(photo.variant * 2 + 1) % 6];
     const QSize carSize(static_cast<int>(box.width() * 1.0), static_cast<int>(box.width() * 0.6));
     const QImage car =
@@ -108,9 +102,7 @@ QImage PaintSign(const PlannedPhoto& photo)
     p.drawImage(QRectF(box.left() + box.width() * 0.06, box.top() + box.height() * 0.14, box.width() * 0.88,
                        box.width() * 0.88 * 0.6),
                 car);
-    QFont font(u"Liberation Sans"_s);
-    font.setBold(true);
-    font.setPixelSize(static_cast<int>(box.height() * 0.15));
+    QFont font = FontOf("Liberation Sans", box.height() * 0.15, true);
     const auto lettering = [&](const QString& text, double y, double high) {
         QPainterPath path;
         font.setPixelSize(static_cast<int>(high));
@@ -133,33 +125,23 @@ QImage PaintSign(const PlannedPhoto& photo)
                          acrossEdge ? (random.Unit() < 0.5 ? box.top() + 5 : box.bottom() - 5)
                                     : random.Between(box.top(), box.bottom()));
         const double size = random.Between(3, 15);
-        QRadialGradient rust(at, size);
-        rust.setColorAt(0, QColor(52, 24, 12, 235));
-        rust.setColorAt(0.6, QColor(126, 60, 22, 200));
-        rust.setColorAt(1, QColor(150, 80, 30, 0));
-        p.setBrush(rust);
+        p.setBrush(Radial(
+            at, size,
+            {{0, QColor(52, 24, 12, 235)}, {0.6, QColor(126, 60, 22, 200)}, {1, QColor(150, 80, 30, 0)}}));
         p.drawEllipse(at, size * random.Between(0.7, 1.6), size);
     }
     for (const double x : {box.left() + 46, box.right() - 46}) {
         for (const double y : {box.top() + 46, box.bottom() - 46}) {
-            QPainterPath screw;
-            screw.addEllipse(QPointF(x, y), 13, 13);
-            DropShadow(p, screw, 4, 0.6);
-            FillMetal(p, screw, QColor(170, 168, 160), 0.8);
+            LayMetal(p, Disc({x, y}, 13), 4, 0.6, QColor(170, 168, 160), 0.8);
             p.setPen(QPen(QColor(40, 38, 34), 3));
             p.drawLine(QPointF(x - 9, y - 5), QPointF(x + 9, y + 5));
             p.setPen(Qt::NoPen);
         }
     }
     p.setClipPath(plate);
-    QLinearGradient shine(box.topLeft(), box.bottomRight());
-    shine.setColorAt(0.10, QColor(255, 255, 255, 0));
-    shine.setColorAt(0.22, QColor(255, 255, 255, 64));
-    shine.setColorAt(0.30, QColor(255, 255, 255, 12));
-    shine.setColorAt(0.55, QColor(255, 255, 255, 0));
-    shine.setColorAt(0.62, QColor(255, 255, 255, 30));
-    shine.setColorAt(0.70, QColor(255, 255, 255, 0));
-    p.fillRect(box, shine);
+    p.fillRect(
+        box, Linear(box.topLeft(), box.bottomRight(),
+                    Veil(Qt::white, {{0.10, 0}, {0.22, 64}, {0.30, 12}, {0.55, 0}, {0.62, 30}, {0.70, 0}})));
     return picture;
 }
 

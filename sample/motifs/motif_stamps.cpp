@@ -1,5 +1,6 @@
 #include "sample/car/paints.h"
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/motifs/motifs.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/tabletop.h"
@@ -13,8 +14,7 @@ namespace {
 /// The edge of a stamp: a row of half circles bitten out of each side.
 QPainterPath Perforated(const QRectF& box, double bite)
 {
-    QPainterPath path;
-    path.addRect(box);
+    const QPainterPath path = Rectangle(box);
     QPainterPath holes;
     const int across = static_cast<int>(box.width() / (bite * 3));
     const int down = static_cast<int>(box.height() / (bite * 3));
@@ -41,9 +41,7 @@ QImage PaintStamps(const PlannedPhoto& photo)
     Random random(seed);
     QImage picture = photo.variant % 2 == 0 ? ClothTable(photo.size, QColor(40, 66, 58), seed)
                                             : WoodTable(photo.size, QColor(124, 84, 52), seed);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    SmoothPainter p(&picture);
     const bool sheet = photo.variant % 3 != 1;
     const int columns = sheet ? 3 : 2;
     const int rows = 2;
@@ -52,17 +50,10 @@ QImage PaintStamps(const PlannedPhoto& photo)
     p.translate(w * 0.5, h * 0.5);
     p.rotate(random.Between(-5, 5));
     if (sheet) {
-        QPainterPath paper;
-        paper.addRect(QRectF(-sw * 1.72, -sh * 1.32, sw * 3.44, sh * 2.64));
-        DropShadow(p, paper, 12, 0.6);
-        QLinearGradient cream(-sw * 1.7, -sh, sw * 1.7, sh);
-        cream.setColorAt(0, QColor(250, 246, 234));
-        cream.setColorAt(1, QColor(220, 212, 192));
-        p.fillPath(paper, cream);
-        QFont font(u"Liberation Serif"_s);
-        font.setPixelSize(static_cast<int>(sh * 0.11));
-        font.setItalic(true);
-        p.setFont(font);
+        LayFlat(p, Rectangle(QRectF(-sw * 1.72, -sh * 1.32, sw * 3.44, sh * 2.64)), 12, 0.6,
+                Linear({-sw * 1.7, -sh}, {sw * 1.7, sh},
+                       {{0, QColor(250, 246, 234)}, {1, QColor(220, 212, 192)}}));
+        p.setFont(FontOf("Liberation Serif", sh * 0.11, false, true));
         p.setPen(QColor(80, 66, 50));
         p.drawText(QRectF(-sw * 1.7, -sh * 1.29, sw * 3.4, sh * 0.2), Qt::AlignCenter,
                    u"The Torvik Vollandry - six seasons in six stamps"_s);
@@ -78,17 +69,11 @@ QImage PaintStamps(const PlannedPhoto& photo)
             if (!sheet)
                 p.rotate(random.Between(-9, 9));
             const QRectF box(-sw / 2, -sh / 2, sw, sh);
-            const QPainterPath edge = Perforated(box, sw * 0.012);
-            DropShadow(p, edge, sheet ? 3 : 8, 0.5);
-            p.fillPath(edge, QColor(250, 247, 238));
+            LayFlat(p, Perforated(box, sw * 0.012), sheet ? 3 : 8, 0.5, QColor(250, 247, 238));
             const QRectF art = box.adjusted(sw * 0.05, sw * 0.05, -sw * 0.05, -sw * 0.05);
             const QColor ground = QColor::fromHsv((which * 57 + photo.variant * 40) % 360, 90, 225);
-            QLinearGradient sky(art.topLeft(), art.bottomLeft());
-            sky.setColorAt(0, ground.darker(130));
-            sky.setColorAt(0.55, ground.lighter(118));
-            sky.setColorAt(0.56, ground.darker(190));
-            sky.setColorAt(1, ground.darker(150));
-            p.fillRect(art, sky);
+            p.fillRect(art, Linear(art.topLeft(), art.bottomLeft(),
+                                   Shades(ground, {{0, -130}, {0.55, 118}, {0.56, -190}, {1, -150}})));
             p.setPen(Qt::NoPen);
             p.setBrush(QColor(255, 244, 206, 190));
             p.drawEllipse(QPointF(art.left() + art.width() * 0.78, art.top() + art.height() * 0.3), sh * 0.12,
@@ -96,8 +81,7 @@ QImage PaintStamps(const PlannedPhoto& photo)
             const CarShape shape = ShapeOfYear(years[which]);
             const Paint paint =
                 PaintsOfYear(years[which])[static_cast<std::size_t>(photo.variant + which) % 6];
-            Trim trim;
-            trim.plate = QString::number(years[which]);
+            const Trim trim{.plate = QString::number(years[which])};
             const QSize carSize(static_cast<int>(art.width() * 1.4), static_cast<int>(art.height() * 1.4));
             const QImage car =
                 CutOutCar(shape, paint, trim, which % 2 == 0 ? View::FrontLeft : View::Side, carSize);
@@ -105,9 +89,7 @@ QImage PaintStamps(const PlannedPhoto& photo)
             p.drawEllipse(QPointF(0, art.bottom() - art.height() * 0.25), art.width() * 0.42,
                           art.height() * 0.07);
             p.drawImage(QRectF(art.left(), art.top() + art.height() * 0.06, art.width(), art.height()), car);
-            QFont font(u"Liberation Sans"_s);
-            font.setBold(true);
-            font.setPixelSize(static_cast<int>(sh * 0.13));
+            QFont font = FontOf("Liberation Sans", sh * 0.13, true);
             p.setFont(font);
             p.setPen(QColor(255, 255, 255));
             p.drawText(art.adjusted(sw * 0.02, sh * 0.01, 0, 0), Qt::AlignLeft | Qt::AlignTop,
@@ -149,12 +131,11 @@ QImage PaintStamps(const PlannedPhoto& photo)
     QPainterPath lens;
     const QPointF m(w * 0.87, h * 0.80);
     lens.addEllipse(m, h * 0.13, h * 0.13);
-    DropShadow(p, lens, 14, 0.6);
-    QRadialGradient glass(m, h * 0.13, m - QPointF(h * 0.05, h * 0.05));
-    glass.setColorAt(0, QColor(255, 255, 255, 30));
-    glass.setColorAt(0.8, QColor(200, 220, 230, 40));
-    glass.setColorAt(1, QColor(255, 255, 255, 150));
-    p.fillPath(lens, glass);
+    LayFlat(p, lens, 14, 0.6,
+            Radial(m, h * 0.13, m - QPointF(h * 0.05, h * 0.05),
+                   {{0, QColor(255, 255, 255, 30)},
+                    {0.8, QColor(200, 220, 230, 40)},
+                    {1, QColor(255, 255, 255, 150)}}));
     p.strokePath(lens, QPen(QColor(176, 150, 84), h * 0.02));
     p.strokePath(lens, QPen(QColor(244, 226, 170), h * 0.005));
     p.setPen(QPen(QColor(30, 22, 16), h * 0.035, Qt::SolidLine, Qt::RoundCap));

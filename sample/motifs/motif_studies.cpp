@@ -1,5 +1,6 @@
 #include "sample/car/car_mesh.h"
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/motifs/motifs.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/renderer.h"
@@ -32,11 +33,7 @@ QImage PaintClay(const PlannedPhoto& photo)
     const CarShape shape = StudyShape(photo);
     const CarSkin skin =
         DrawCarSkin(shape, Paint{QString(), QColor(150, 110, 80), 0}, Trim{}, SideOf(photo.view));
-    Subject subject;
-    subject.parts = BuildCar(shape);
-    subject.shape = &shape;
-    subject.skin = &skin;
-    subject.clay = true;
+    Subject subject{.parts = BuildCar(shape), .shape = &shape, .skin = &skin, .clay = true};
     if (photo.variant % 2 == 0)
         subject.clayColour = {0.46, 0.30, 0.20};
     Scenery scenery = MakeScenery(Place::Studio, SeedOf(photo));
@@ -57,14 +54,11 @@ QImage PaintSketch(const PlannedPhoto& photo)
     const std::uint32_t seed = SeedOf(photo);
     Random random(seed);
     QImage picture = WoodTable(photo.size, QColor(92, 70, 52), seed);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    SmoothPainter p(&picture);
     p.translate(w / 2, h / 2);
     p.rotate(random.Between(-3, 3));
     const QRectF sheet(-w * 0.44, -h * 0.43, w * 0.88, h * 0.86);
-    QPainterPath paper;
-    paper.addRect(sheet);
+    const QPainterPath paper = Rectangle(sheet);
     DropShadow(p, paper, 12, 0.6);
     QLinearGradient tone(sheet.topLeft(), sheet.bottomRight());
     const bool blueprint = photo.variant % 2 == 1;
@@ -107,12 +101,11 @@ QImage PaintSketch(const PlannedPhoto& photo)
         body.lineTo(at(s, shape.bottom(s)));
     body.closeSubpath();
     if (!blueprint) {
-        QLinearGradient chalk(at(0, 1.3), at(0, 0.2));
-        chalk.setColorAt(0, QColor(250, 240, 220, 150));
-        chalk.setColorAt(0.4, QColor(180, 46, 40, 170));
-        chalk.setColorAt(0.62, QColor(232, 140, 110, 120));
-        chalk.setColorAt(1, QColor(90, 20, 24, 180));
-        p.fillPath(body, chalk);
+        p.fillPath(body, Linear(at(0, 1.3), at(0, 0.2),
+                                {{0, QColor(250, 240, 220, 150)},
+                                 {0.4, QColor(180, 46, 40, 170)},
+                                 {0.62, QColor(232, 140, 110, 120)},
+                                 {1, QColor(90, 20, 24, 180)}}));
     }
     draw(body, 3.2);
     draw(curve(shape.shoulder, 0.02, shape.length - 0.02), 2.0);
@@ -126,30 +119,24 @@ QImage PaintSketch(const PlannedPhoto& photo)
     window.closeSubpath();
     p.fillPath(window, blueprint ? QColor(120, 160, 220, 60) : QColor(40, 60, 80, 110));
     draw(window, 1.8);
-    QPainterPath door;
-    door.moveTo(at(shape.doorFront + 0.1, shape.shoulder(shape.doorFront)));
-    door.quadTo(at(shape.doorFront, 0.6), at(shape.doorFront + 0.05, 0.3));
-    door.lineTo(at(shape.doorRear - 0.05, 0.3));
-    door.quadTo(at(shape.doorRear + 0.03, 0.6), at(shape.doorRear, shape.shoulder(shape.doorRear)));
-    draw(door, 1.3);
+    draw(Outline({at(shape.doorFront + 0.1, shape.shoulder(shape.doorFront)),
+                  {at(shape.doorFront, 0.6), at(shape.doorFront + 0.05, 0.3)},
+                  at(shape.doorRear - 0.05, 0.3),
+                  {at(shape.doorRear + 0.03, 0.6), at(shape.doorRear, shape.shoulder(shape.doorRear))}}),
+         1.3);
     for (const double axle : {shape.frontAxle, shape.rearAxle}) {
-        QPainterPath wheel;
-        wheel.addEllipse(at(axle, shape.wheelRadius), shape.wheelRadius * scale, shape.wheelRadius * scale);
+        const QPainterPath wheel = Disc(at(axle, shape.wheelRadius), shape.wheelRadius * scale);
         if (!blueprint)
             p.fillPath(wheel, QColor(40, 36, 40, 190));
         draw(wheel, 2.4);
         for (const double share : {0.62, 0.56, 0.18}) {
-            QPainterPath ring;
-            ring.addEllipse(at(axle, shape.wheelRadius), shape.wheelRadius * scale * share,
-                            shape.wheelRadius * scale * share);
-            draw(ring, 1.4);
+            draw(Disc(at(axle, shape.wheelRadius), shape.wheelRadius * scale * share), 1.4);
         }
         for (int i = 0; i < 5; ++i) {
             const double a = 2 * pi * i / 5 + 0.3;
-            QPainterPath spoke;
-            spoke.moveTo(at(axle + 0.05 * std::cos(a), shape.wheelRadius + 0.05 * std::sin(a)));
-            spoke.lineTo(at(axle + 0.18 * std::cos(a), shape.wheelRadius + 0.18 * std::sin(a)));
-            draw(spoke, 3.0);
+            draw(Outline({at(axle + 0.05 * std::cos(a), shape.wheelRadius + 0.05 * std::sin(a)),
+                          at(axle + 0.18 * std::cos(a), shape.wheelRadius + 0.18 * std::sin(a))}),
+                 3.0);
         }
     }
     // Guide lines and dimensions.
@@ -159,9 +146,7 @@ QImage PaintSketch(const PlannedPhoto& photo)
         p.drawLine(at(axle, -0.28), at(axle, 1.4));
     p.drawLine(at(0, 1.0), at(0, -0.42));
     p.drawLine(at(shape.length, 1.0), at(shape.length, -0.42));
-    QFont font(u"Liberation Serif"_s);
-    font.setItalic(true);
-    font.setPixelSize(static_cast<int>(h * 0.032));
+    QFont font = FontOf("Liberation Serif", h * 0.032, false, true);
     p.setFont(font);
     p.setPen(ink);
     p.drawText(QPointF(at(1.9, -0.24)),
@@ -184,32 +169,18 @@ QImage PaintSketch(const PlannedPhoto& photo)
     front.cubicTo(k, -k * 0.05, k * 1.1, k * 0.1, k, k * 0.45);
     front.closeSubpath();
     draw(front, 1.8);
-    QPainterPath mouth;
-    mouth.addRoundedRect(QRectF(-k * 0.62, k * 0.05, k * 1.24, k * 0.26), 8, 8);
-    draw(mouth, 1.6);
+    draw(Rounded(QRectF(-k * 0.62, k * 0.05, k * 1.24, k * 0.26), 8), 1.6);
     for (const double x : {-0.48, 0.48}) {
-        QPainterPath lamp;
-        lamp.addEllipse(QPointF(k * x, k * 0.18), k * 0.11, k * 0.11);
-        draw(lamp, 1.6);
+        draw(Disc({k * x, k * 0.18}, k * 0.11), 1.6);
     }
     p.restore();
     // The pencil.
     p.translate(w * 0.20, h * 0.36);
     p.rotate(-24);
-    QPainterPath pencil;
-    pencil.addRect(QRectF(-w * 0.12, -8, w * 0.22, 16));
-    DropShadow(p, pencil, 8, 0.6);
-    QLinearGradient wood(0, -8, 0, 8);
-    wood.setColorAt(0, QColor(240, 190, 40));
-    wood.setColorAt(0.4, QColor(220, 150, 20));
-    wood.setColorAt(1, QColor(120, 76, 8));
-    p.fillPath(pencil, wood);
-    QPainterPath tip;
-    tip.moveTo(w * 0.10, -8);
-    tip.lineTo(w * 0.13, 0);
-    tip.lineTo(w * 0.10, 8);
-    tip.closeSubpath();
-    p.fillPath(tip, QColor(226, 190, 140));
+    LayFlat(p, Rectangle(QRectF(-w * 0.12, -8, w * 0.22, 16)), 8, 0.6,
+            Linear({0, -8}, {0, 8},
+                   {{0, QColor(240, 190, 40)}, {0.4, QColor(220, 150, 20)}, {1, QColor(120, 76, 8)}}));
+    p.fillPath(ClosedOutline({{w * 0.10, -8}, {w * 0.13, 0}, {w * 0.10, 8}}), QColor(226, 190, 140));
     return picture;
 }
 

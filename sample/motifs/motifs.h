@@ -6,8 +6,8 @@
 
 namespace torvik::sample {
 
-/// Draws what is no car on a road: details, collectibles, studies.
-QImage PaintMotif(const PlannedPhoto& photo);
+/// The picture as it is looked at, before it is stored: a car in its place, or one of the motifs below.
+QImage TakePhoto(const PlannedPhoto& photo);
 
 QImage PaintDashboard(const PlannedPhoto& photo);
 QImage PaintEngine(const PlannedPhoto& photo);

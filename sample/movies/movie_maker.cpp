@@ -47,9 +47,7 @@ QByteArray MakeMovie(const MoviePlan& plan)
 {
     constexpr SoundForm soundForm{22050, 8};
     const double seconds = plan.Seconds();
-    AviMovie movie;
-    movie.size = movieSize;
-    movie.framesPerSecond = framesPerSecond;
+    AviMovie movie{.size = movieSize, .framesPerSecond = framesPerSecond};
     movie.frames.resize(static_cast<std::size_t>(std::lround(seconds * framesPerSecond)));
     const std::unique_ptr<Stage> stage = plan.stage();
     InParallel(movie.frames.size(), [&](std::size_t i) {

@@ -18,11 +18,8 @@ std::function<std::unique_ptr<Stage>()> CarIn(int year, std::size_t paint, Trim:
                                               Scenery scenery, bool lamps = false)
 {
     return [=] {
-        Trim trim;
-        trim.plate = QString::number(year);
-        trim.script = Text("Vollandry");
-        trim.stripe = stripe;
-        trim.lampsLit = lamps;
+        const Trim trim{
+            .stripe = stripe, .plate = QString::number(year), .script = Text("Vollandry"), .lampsLit = lamps};
         const std::vector<Paint>& card = PaintsOfYear(year);
         return std::make_unique<Stage>(ShapeOfYear(year), card[paint % card.size()], trim, scenery);
     };
@@ -32,13 +29,15 @@ std::function<std::unique_ptr<Stage>()> CarIn(int year, std::size_t paint, Trim:
 Scenery LongShadows()
 {
     Scenery s = CoastScenery(11);
-    s.light.toSun = Unit({-0.8, 0.45, 0.24});
-    s.light.sun = {2.5, 1.2, 0.5};
-    s.light.zenith = {0.06, 0.08, 0.20};
-    s.light.horizon = {1.0, 0.46, 0.20};
-    s.light.ground = {0.10, 0.08, 0.07};
-    s.light.band = {0.03, 0.03, 0.04};
-    s.light.clouds = 0.5;
+    s.light = Daylight{.toSun = Unit({-0.8, 0.45, 0.24}),
+                       .sun = {2.5, 1.2, 0.5},
+                       .zenith = {0.06, 0.08, 0.20},
+                       .horizon = {1.0, 0.46, 0.20},
+                       .ground = {0.10, 0.08, 0.07},
+                       .band = {0.03, 0.03, 0.04},
+                       .bandHeight = 0.10,
+                       .clouds = 0.5,
+                       .seed = 11};
     s.haze = {0.72, 0.36, 0.20};
     s.shadowStrength = 0.7;
     return s;

@@ -56,7 +56,7 @@ Sound Snare(std::uint32_t seed)
 /// The engine under the pictures; silent below the cards.
 Sound EngineBetweenCards(const EngineKind& kind, double seconds, const Course& revs, std::uint32_t seed)
 {
-    Sound engine = RunEngine(kind, {seconds, revs, [](double) { return 0.7; }, seed});
+    Sound engine = RunEngine(kind, {seconds, revs, Always(0.7), seed});
     return Shaped(Levelled(std::move(engine), 1), [=](double t) {
         return SmoothStep(titleSeconds - 0.4, titleSeconds + 0.2, t) *
                (1 - SmoothStep(seconds - endSeconds - 0.2, seconds - endSeconds + 0.6, t));
@@ -72,7 +72,7 @@ Sound VolcanoSound(double seconds)
     Add(track, Pad({-7, 5, 9, 12}, 2.6), seconds - 2.2, 0.30);
     // The car comes by, and then the camera rides along.
     const Curve revs{{0, 2600}, {5, 2900}, {5.1, 3600}, {8.4, 4300}, {8.5, 3200}, {seconds, 4200}};
-    Add(track, EngineBetweenCards(BurblingEight(), seconds, revs, 671), 0, 0.8);
+    Add(track, EngineBetweenCards(burblingEight, seconds, revs, 671), 0, 0.8);
     Sound surf = Filtered(WhiteNoise(seconds, 672), Filter::BandPass(900, 0.4));
     Add(track, Shaped(std::move(surf), [](double t) { return 0.06 + 0.05 * std::sin(2 * pi * t / 3.7); }));
     return track;
@@ -91,7 +91,7 @@ Sound OpenRoadSound(double seconds)
     }
     Add(track, Pluck(-5, 1.2, 0.8), seconds - 1.2, 0.4);
     const Curve revs{{0, 1900}, {4, 2300}, {seconds, 3300}};
-    Add(track, EngineBetweenCards(BurblingEight(), seconds, revs, 691), 0, 0.45);
+    Add(track, EngineBetweenCards(burblingEight, seconds, revs, 691), 0, 0.45);
     return Lasting(InRoom(track, 0.8, 0.15), seconds);
 }
 
@@ -109,7 +109,7 @@ Sound GliderSound(double seconds)
                      {8, 0.8}, {9, 0.3}, {11.6, 0.3}, {12, 0}};
     Add(track, Levelled(WheelOnIce(seconds, spin, 711), 0.4));
     const Course revs = [=](double t) { return 1500 + 2200 * spin(t); };
-    Add(track, EngineBetweenCards(StraightSix(), seconds, revs, 712), 0, 0.35);
+    Add(track, EngineBetweenCards(straightSix, seconds, revs, 712), 0, 0.35);
     return Lasting(InRoom(track, 1.3, 0.25), seconds);
 }
 
@@ -130,7 +130,7 @@ Sound ShadowsSound(double seconds)
     Add(track, Pad({0, 3, 7, 10}, 5), 0.5, 0.08);
     Add(track, Pad({-2, 2, 5, 12}, 5), seconds - 5.4, 0.08);
     const Curve revs{{0, 1500}, {5.5, 1900}, {8.7, 2400}, {9, 3000}, {seconds, 3600}};
-    Add(track, EngineBetweenCards(BurblingEight(), seconds, revs, 441), 0, 0.5);
+    Add(track, EngineBetweenCards(burblingEight, seconds, revs, 441), 0, 0.5);
     return Lasting(InRoom(track, 1.0, 0.2), seconds);
 }
 
@@ -162,7 +162,7 @@ Sound RockSound(double seconds)
     Add(track, Pluck(2, 1.3, 3.0), seconds - 1.35, 0.35);
     Add(track, TyreSqueal(1.5, Curve{{0, 0}, {0.1, 1}, {1.0, 0.8}, {1.5, 0}}, 77), titleSeconds + 3.5, 0.18);
     const Curve revs{{0, 1200}, {4.8, 1200}, {5.25, 4500}, {7.8, 6300}, {7.9, 4600}, {seconds, 6000}};
-    Add(track, EngineBetweenCards(BurblingEight(), seconds, revs, 701), 0, 0.4);
+    Add(track, EngineBetweenCards(burblingEight, seconds, revs, 701), 0, 0.4);
     return Lasting(std::move(track), seconds);
 }
 

@@ -31,8 +31,7 @@ QImage Stage::Draw(const Moment& look, QSize size) const
         scenery_.backdrop(painter, moved);
     };
     QImage picture = PaintScenery(around, camera, size);
-    Subject subject;
-    subject.parts = parts_;
+    Subject subject{.parts = parts_};
     for (Mesh& part : subject.parts) {
         if (part.finish == Finish::Wheel)
             part.turn += driven / shape_.wheelRadius;

@@ -1,6 +1,6 @@
 #include "sample/photos/photo_plan.h"
 
-#include <QStringList>
+#include "sample/geometry/noise.h"
 
 #include <algorithm>
 #include <array>
@@ -25,13 +25,11 @@ PlannedPhoto YearPhoto(int year, int number)
     constexpr std::array places = {Place::Coast,    Place::Autumn, Place::City, Place::Desert,
                                    Place::Showroom, Place::Strip,  Place::Snow};
     const int turn = year - firstYear;
-    PlannedPhoto photo;
-    photo.prefix = PrefixOfYear(year);
-    photo.number = number;
+    PlannedPhoto photo{.prefix = PrefixOfYear(year), .number = number};
     photo.file = FileName(photo.prefix, u"TOR"_s, number);
     photo.year = year;
     photo.variant = turn * 3 + number;
-    photo.place = places[static_cast<std::size_t>(turn * 3 + (number - 1) * 2) % places.size()];
+    photo.place = Cycled(places, turn * 3 + (number - 1) * 2);
     switch (number) {
     case 1:
         photo.view = turn % 3 == 2 ? View::FrontRight : View::FrontLeft;
@@ -47,8 +45,8 @@ PlannedPhoto YearPhoto(int year, int number)
                                         Motif::Engine, Motif::Badge,     Motif::Car};
         constexpr std::array close = {View::Wheel, View::Nose, View::Nose,
                                       View::Nose,  View::Nose, View::Tail};
-        photo.motif = details[static_cast<std::size_t>(turn) % details.size()];
-        photo.view = close[static_cast<std::size_t>(turn) % close.size()];
+        photo.motif = Cycled(details, turn);
+        photo.view = Cycled(close, turn);
         break;
     }
     case 5:
@@ -82,12 +80,11 @@ PlannedPhoto TopicPhoto(const Topic& topic, int number)
 {
     constexpr std::array views = {View::FrontLeft, View::Side, View::RearRight,
                                   View::Wheel,     View::High, View::FrontRight};
-    PlannedPhoto photo;
-    photo.prefix = topic.prefix;
-    photo.number = number;
-    photo.file = FileName(topic.prefix, topic.letters, number);
-    photo.variant = number - 1;
-    photo.view = views[static_cast<std::size_t>(number - 1) % views.size()];
+    PlannedPhoto photo{.file = FileName(topic.prefix, topic.letters, number),
+                       .prefix = topic.prefix,
+                       .number = number,
+                       .view = Cycled(views, number - 1),
+                       .variant = number - 1};
     const auto car = [&](Model model, int year, Place first, Place second) {
         photo.model = model;
         photo.year = year;
@@ -97,7 +94,7 @@ PlannedPhoto TopicPhoto(const Topic& topic, int number)
         photo.place = Place::Studio;
         photo.motif = number % 3 == 1 ? Motif::Sketch : Motif::Clay;
         constexpr std::array projects = {1967, 1967, 1967, 1971, 1971, 1979};
-        photo.year = projects[static_cast<std::size_t>(number - 1) % projects.size()];
+        photo.year = Cycled(projects, number - 1);
     } else if (topic.prefix == "SB"_L1) {
         car(Model::Harwell, 1967, Place::Autumn, Place::Coast);
     } else if (topic.prefix == "M1"_L1) {
@@ -160,7 +157,7 @@ std::vector<PlannedPhoto> PlanPhotos()
     std::vector<PlannedPhoto> photos;
     for (int year = firstYear; year <= lastYear; ++year) {
         constexpr std::array more = {1, 0, 0, 2, 0, 1, 0};
-        const int count = 5 + more[static_cast<std::size_t>(year - firstYear) % more.size()];
+        const int count = 5 + Cycled(more, year - firstYear);
         for (int number = 1; number <= count; ++number)
             photos.push_back(YearPhoto(year, number));
     }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "sample/car/car_shape.h"
+#include "sample/scenery/scenery.h"
+
 #include <QSize>
 #include <QString>
 
@@ -37,16 +40,13 @@ enum class View {
     Nose,
     Tail
 };
-enum class Place { Coast, Desert, City, Strip, Showroom, Snow, Autumn, Studio };
-/// Which body: that of the year, or one of the special cars.
-enum class Model { Vollandry, Harwell, KestraOne, KestraThree, SuperStallion, Tarrant };
 /// How the file holds the picture.
 enum class Storing { Upright, TurnedWithTag };
 
 struct PlannedPhoto {
-    QString file;   ///< 8.3 name in capitals
-    QString prefix; ///< the first two characters: the year or topic
-    int number = 1; ///< place inside the group, from 1
+    QString file{};   ///< 8.3 name in capitals
+    QString prefix{}; ///< the first two characters: the year or topic
+    int number = 1;   ///< place inside the group, from 1
     Motif motif = Motif::Car;
     View view = View::FrontLeft;
     Place place = Place::Coast;

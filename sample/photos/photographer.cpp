@@ -2,8 +2,6 @@
 
 #include "sample/car/car_mesh.h"
 #include "sample/geometry/noise.h"
-#include "sample/motifs/motifs.h"
-#include "sample/render/blur.h"
 #include "sample/render/film.h"
 #include "sample/render/night_lights.h"
 #include "sample/render/renderer.h"
@@ -29,6 +27,19 @@ void PaintReflection(QImage& picture, const Subject& subject, const Camera& came
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRectF(picture.rect()), mirror);
 }
+
+/// A place round the car: degrees from its nose, metres away and high, the lens, and what is looked at.
+struct Orbit {
+    double degrees, away, high, lens;
+    Vec target;
+};
+
+// In the order of the views.
+constexpr Orbit orbits[] = {{38, 7.6, 1.45, 50, {0.05, 0.1, 0.72}}, {-40, 7.6, 1.5, 50, {0.05, -0.1, 0.72}},
+                            {90, 9.4, 1.15, 58, {0, 0, 0.80}},      {-90, 9.4, 1.15, 58, {0, 0, 0.80}},
+                            {142, 7.6, 1.65, 50, {0.0, 0.1, 0.70}}, {-142, 7.6, 1.65, 50, {0.0, -0.1, 0.70}},
+                            {46, 8.4, 4.3, 56, {0.0, 0.1, 0.55}},   {28, 6.0, 0.55, 42, {0.0, 0.15, 0.68}},
+                            {6, 8.2, 1.1, 62, {0.0, 0.0, 0.72}}};
 
 } // namespace
 
@@ -71,51 +82,31 @@ Camera CameraFor(const CarShape& c, View view, QSize size, std::uint32_t seed)
 {
     Random random(seed);
     const double half = c.length / 2;
-    const auto orbit = [&](double degrees, double away, double high, double lens, Vec target) {
-        const double angle = (degrees + random.Between(-4, 4)) / 180 * pi;
-        const double reach =
-            away * random.Between(0.96, 1.06) * (size.height() > size.width() ? 1.42 : 1.0) * c.length / 4.65;
-        return LookAt({-std::cos(angle) * reach, -std::sin(angle) * reach, high * random.Between(0.9, 1.12)},
-                      target, lens, size);
-    };
     switch (view) {
-    case View::FrontLeft:
-        return orbit(38, 7.6, 1.45, 50, {0.05, 0.1, 0.72});
-    case View::FrontRight:
-        return orbit(-40, 7.6, 1.5, 50, {0.05, -0.1, 0.72});
-    case View::Side:
-        return orbit(90, 9.4, 1.15, 58, {0, 0, 0.80});
-    case View::SideRight:
-        return orbit(-90, 9.4, 1.15, 58, {0, 0, 0.80});
-    case View::RearLeft:
-        return orbit(142, 7.6, 1.65, 50, {0.0, 0.1, 0.70});
-    case View::RearRight:
-        return orbit(-142, 7.6, 1.65, 50, {0.0, -0.1, 0.70});
-    case View::High:
-        return orbit(46, 8.4, 4.3, 56, {0.0, 0.1, 0.55});
-    case View::LowFront:
-        return orbit(28, 6.0, 0.55, 42, {0.0, 0.15, 0.68});
-    case View::HeadOn:
-        return orbit(6, 8.2, 1.1, 62, {0.0, 0.0, 0.72});
     case View::Wheel:
         return LookAt({c.frontAxle - half - 1.0, -2.6, 0.62}, {c.frontAxle - half + 0.16, -0.8, 0.47}, 58,
                       size);
     case View::Nose:
         return LookAt({-half - 2.1, -1.35, 0.98}, {-half + 0.25, -0.18, 0.60}, 48, size);
     case View::Tail:
+        return LookAt({half + 2.2, -1.5, 1.12}, {half - 0.25, -0.15, 0.62}, 46, size);
+    default:
         break;
     }
-    return LookAt({half + 2.2, -1.5, 1.12}, {half - 0.25, -0.15, 0.62}, 46, size);
+    const Orbit& orbit = orbits[static_cast<std::size_t>(view)];
+    const double angle = (orbit.degrees + random.Between(-4, 4)) / 180 * pi;
+    const double reach = orbit.away * random.Between(0.96, 1.06) *
+                         (size.height() > size.width() ? 1.42 : 1.0) * c.length / 4.65;
+    return LookAt(
+        {-std::cos(angle) * reach, -std::sin(angle) * reach, orbit.high * random.Between(0.9, 1.12)},
+        orbit.target, orbit.lens, size);
 }
 
 QImage PhotographCar(const CarShape& shape, const Paint& paint, const Trim& trim, Scenery scenery,
                      const Camera& camera, QSize size, CarSide side)
 {
     const CarSkin skin = DrawCarSkin(shape, paint, trim, side, SharpnessFor(shape, camera, size));
-    Subject subject;
-    subject.parts = BuildCar(shape);
-    subject.shape = &shape;
-    subject.skin = &skin;
+    const Subject subject{BuildCar(shape), &shape, &skin};
     if (camera.eye.y > 0)
         scenery = TurnedRound(std::move(scenery));
     scenery.light.Prepare();
@@ -136,10 +127,7 @@ QImage CutOutCar(const CarShape& shape, const Paint& paint, const Trim& trim, Vi
 {
     const Camera camera = CameraFor(shape, view, size, 1);
     const CarSkin skin = DrawCarSkin(shape, paint, trim, SideOf(view), SharpnessFor(shape, camera, size));
-    Subject subject;
-    subject.parts = BuildCar(shape);
-    subject.shape = &shape;
-    subject.skin = &skin;
+    const Subject subject{BuildCar(shape), &shape, &skin};
     Environment light = StudioScenery(7).light;
     light.zenith = {0.55, 0.6, 0.68};
     light.horizon = {0.95, 0.95, 0.95};
@@ -150,22 +138,6 @@ QImage CutOutCar(const CarShape& shape, const Paint& paint, const Trim& trim, Vi
     picture.fill(Qt::transparent);
     light.Prepare();
     Render(picture, subject, camera, light);
-    return picture;
-}
-
-QImage TakePhoto(const PlannedPhoto& photo)
-{
-    const std::uint32_t seed = SeedOf(photo);
-    QImage picture;
-    if (photo.motif == Motif::Car) {
-        const CarShape shape = ShapeOf(photo);
-        const Camera camera = CameraFor(shape, photo.view, photo.size, seed);
-        picture = PhotographCar(shape, PaintOf(photo), TrimOf(photo), MakeScenery(photo.place, seed), camera,
-                                photo.size, SideOf(photo.view));
-    } else {
-        picture = PaintMotif(photo).convertToFormat(QImage::Format_RGB32);
-    }
-    Develop(picture, photo.year, seed);
     return picture;
 }
 

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "sample/car/paints.h"
+#include "sample/photos/photographed_car.h"
 #include "sample/scenery/scenery.h"
 
 namespace torvik::sample {
 
-/// The picture as it is looked at, before it is stored.
-QImage TakePhoto(const PlannedPhoto& photo);
-
-/// A car at a place, seen by a given camera; developed unless `raw`.
+/// A car at a place, seen by a given camera.
 QImage PhotographCar(const CarShape& shape, const Paint& paint, const Trim& trim, Scenery scenery,
                      const Camera& camera, QSize size, CarSide side);
 

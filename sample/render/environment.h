@@ -24,8 +24,8 @@ private:
     std::vector<float> cells_;
 };
 
-/// Everything that lights the car and is mirrored in it. Colours are linear, 1 is paper white in full light.
-struct Environment {
+/// Sky, sun and horizon. Colours are linear, 1 is paper white in full light.
+struct Daylight {
     Vec toSun = {0.4, -0.5, 0.75};
     Rgb sun = {2.2, 2.0, 1.7};
     Rgb zenith = {0.20, 0.36, 0.75};
@@ -35,6 +35,12 @@ struct Environment {
     double bandHeight = 0.10;      ///< its height as the tangent of the angle
     double clouds = 0.5;           ///< 0 clear to 1 overcast
     std::uint32_t seed = 1;
+};
+
+/// Everything that lights the car and is mirrored in it.
+struct Environment : Daylight {
+    Environment(const Daylight& daylight = {}) : Daylight(daylight) {}
+
     /// Lamps and soft boxes: the light that is seen from `from` in direction `way`; may be empty.
     std::function<Rgb(const Vec& from, const Vec& way)> lamps;
     std::shared_ptr<const GroundShadow> shadow;

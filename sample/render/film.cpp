@@ -1,14 +1,66 @@
 #include "sample/render/film.h"
 
 #include "sample/geometry/noise.h"
-#include "sample/geometry/vec.h"
-#include "sample/render/blur.h"
 
+#include <algorithm>
 #include <array>
+#include <vector>
 
 namespace torvik::sample {
 
 namespace {
+
+constexpr int toneSteps = 4096;
+
+const std::array<float, 256>& ToLinear()
+{
+    static const std::array<float, 256> table = [] {
+        std::array<float, 256> values{};
+        for (std::size_t i = 0; i < values.size(); ++i)
+            values[i] = static_cast<float>(std::pow(static_cast<double>(i) / 255.0, 2.2));
+        return values;
+    }();
+    return table;
+}
+
+int ToByte(double light)
+{
+    static const std::array<unsigned char, toneSteps + 1> table = [] {
+        std::array<unsigned char, toneSteps + 1> values{};
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            // The table runs over the square root of the light, so that the darks have enough steps.
+            const double root = static_cast<double>(i) / toneSteps;
+            values[i] = static_cast<unsigned char>(std::pow(root * root, 1.0 / 2.2) * 255.0 + 0.5);
+        }
+        return values;
+    }();
+    const double root = std::sqrt(Clamp01(light));
+    return table[static_cast<std::size_t>(root * toneSteps + 0.5)];
+}
+
+/// The mean over 2 * radius + 1 pixels along lines of `count` pixels that lie `step` apart.
+void BoxLine(QRgb* pixels, int count, std::ptrdiff_t step, int radius, std::vector<QRgb>& copy)
+{
+    const auto at = [&](int i) { return copy[static_cast<std::size_t>(std::clamp(i, 0, count - 1))]; };
+    for (int i = 0; i < count; ++i)
+        copy[static_cast<std::size_t>(i)] = pixels[i * step];
+    int sum[4] = {0, 0, 0, 0};
+    const auto add = [&sum](QRgb pixel, int sign) {
+        sum[0] += sign * qRed(pixel);
+        sum[1] += sign * qGreen(pixel);
+        sum[2] += sign * qBlue(pixel);
+        sum[3] += sign * qAlpha(pixel);
+    };
+    for (int i = -radius; i <= radius; ++i)
+        add(at(i), 1);
+    const int size = 2 * radius + 1;
+    for (int i = 0; i < count; ++i) {
+        pixels[i * step] = qRgba((sum[0] + radius) / size, (sum[1] + radius) / size, (sum[2] + radius) / size,
+                                 (sum[3] + radius) / size);
+        add(at(i - radius), -1);
+        add(at(i + radius + 1), 1);
+    }
+}
 
 /// The curve of one colour layer of the film: lifted darks, a soft top and a cast.
 std::array<int, 256> Layer(double low, double high, double contrast)
@@ -51,6 +103,50 @@ void Bleed(QImage& picture)
 }
 
 } // namespace
+
+Rgb LinearOfPixel(QRgb pixel)
+{
+    const auto& table = ToLinear();
+    return {static_cast<double>(table[static_cast<std::size_t>(qRed(pixel))]),
+            static_cast<double>(table[static_cast<std::size_t>(qGreen(pixel))]),
+            static_cast<double>(table[static_cast<std::size_t>(qBlue(pixel))])};
+}
+
+Rgb Shoulder(const Rgb& light)
+{
+    const auto bend = [](double v) { return v < 0.8 ? v : 0.8 + 0.2 * (1.0 - std::exp(-(v - 0.8) / 0.45)); };
+    return {bend(light.x), bend(light.y), bend(light.z)};
+}
+
+QRgb PixelOf(const Rgb& light, double cover)
+{
+    const int alpha = static_cast<int>(Clamp01(cover) * 255.0 + 0.5);
+    return qRgba(std::min(ToByte(light.x), alpha), std::min(ToByte(light.y), alpha),
+                 std::min(ToByte(light.z), alpha), alpha);
+}
+
+QRgb PixelOf(const Rgb& light)
+{
+    return qRgb(ToByte(light.x), ToByte(light.y), ToByte(light.z));
+}
+
+QImage Blurred(const QImage& picture, double radius)
+{
+    QImage soft = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const int reach = static_cast<int>(radius * 0.75 + 0.5);
+    if (reach < 1)
+        return soft;
+    const std::ptrdiff_t stride = soft.bytesPerLine() / 4;
+    auto* pixels = reinterpret_cast<QRgb*>(soft.bits());
+    std::vector<QRgb> copy(static_cast<std::size_t>(std::max(soft.width(), soft.height())));
+    for (int pass = 0; pass < 2; ++pass) {
+        for (int y = 0; y < soft.height(); ++y)
+            BoxLine(pixels + y * stride, soft.width(), 1, reach, copy);
+        for (int x = 0; x < soft.width(); ++x)
+            BoxLine(pixels + x, soft.height(), stride, reach, copy);
+    }
+    return soft;
+}
 
 void Develop(QImage& picture, int year, std::uint32_t seed)
 {

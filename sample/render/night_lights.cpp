@@ -1,6 +1,7 @@
 #include "sample/render/night_lights.h"
 
-#include "sample/render/tone.h"
+#include "sample/geometry/shapes.h"
+#include "sample/render/film.h"
 
 #include <QPainter>
 
@@ -71,9 +72,8 @@ void PaintFlares(QImage& picture, const CarShape& shape, const Camera& camera)
         painter.fillRect(QRectF(spot.x - radius, spot.y - radius, 2 * radius, 2 * radius), glare);
         if (front) {
             // The streak that an old lens draws through a bright lamp.
-            QRadialGradient streak(QPointF(0, 0), 1.0);
-            streak.setColorAt(0, QColor(255, 244, 214, 120));
-            streak.setColorAt(1, QColor(255, 244, 214, 0));
+            const QRadialGradient streak =
+                Radial({0, 0}, 1.0, Veil(QColor(255, 244, 214), {{0, 120}, {1, 0}}));
             painter.save();
             painter.translate(spot.x, spot.y);
             painter.scale(radius * 2.0, radius * 0.045);

@@ -1,7 +1,7 @@
 #include "sample/render/renderer.h"
 
+#include "sample/render/film.h"
 #include "sample/render/shading.h"
-#include "sample/render/tone.h"
 
 #include <limits>
 
@@ -18,7 +18,7 @@ struct Corner {
 };
 
 /// What the foremost surface of a pixel is, before it is shaded.
-struct Cell {
+struct Foremost {
     float inverse = 0;
     std::int32_t part = -1;
     std::array<float, 3> at = {};
@@ -53,7 +53,7 @@ public:
     int Right() const { return left_ + width_; }
     int Top() const { return top_; }
     int Bottom() const { return top_ + rows_; }
-    Cell& CellAt(int x, int y) { return cells_[Index(x, y)]; }
+    Foremost& CellAt(int x, int y) { return cells_[Index(x, y)]; }
     Light4& LightAt(int x, int y) { return light_[Index(x, y)]; }
 
 private:
@@ -68,7 +68,7 @@ private:
     int width_;
     int top_;
     int rows_;
-    std::vector<Cell> cells_;
+    std::vector<Foremost> cells_;
     std::vector<Light4> light_;
 };
 
@@ -188,7 +188,7 @@ void Render(QImage& picture, const Subject& subject, const Camera& camera, const
                      });
         }
         const auto shade = [&](int x, int y) {
-            const Cell& cell = strip.CellAt(x, y);
+            const Foremost& cell = strip.CellAt(x, y);
             const Rgb c = shader.Shade(subject.parts[static_cast<std::size_t>(cell.part)], Unpacked(cell.at),
                                        Unpacked(cell.normal));
             return Light4{static_cast<float>(c.x), static_cast<float>(c.y), static_cast<float>(c.z), 1.0F};

@@ -1,8 +1,8 @@
 #include "sample/render/tabletop.h"
 
 #include "sample/geometry/noise.h"
-#include "sample/render/blur.h"
-#include "sample/render/tone.h"
+#include "sample/geometry/shapes.h"
+#include "sample/render/film.h"
 
 namespace torvik::sample {
 
@@ -62,8 +62,7 @@ void DropShadow(QPainter& painter, const QPainterPath& shape, double lift, doubl
     // Shadows are soft: a third of the resolution is enough.
     QImage soft((box.size() / 3.0).toSize() + QSize(2, 2), QImage::Format_ARGB32_Premultiplied);
     soft.fill(Qt::transparent);
-    QPainter inner(&soft);
-    inner.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter inner(&soft);
     inner.scale(1 / 3.0, 1 / 3.0);
     inner.translate(-box.topLeft() + QPointF(lift * 0.7, lift * 0.9));
     inner.fillPath(shape, QColor(0, 0, 0, static_cast<int>(255 * strength)));
@@ -79,47 +78,58 @@ void FillMetal(QPainter& painter, const QPainterPath& shape, const QColor& tint,
 {
     const QRectF box = shape.boundingRect();
     const QPointF way(std::cos(angle) * box.width() / 2, std::sin(angle) * box.height() / 2);
-    QLinearGradient bands(box.center() - way, box.center() + way);
-    bands.setColorAt(0.0, tint.lighter(150));
-    bands.setColorAt(0.22, tint.lighter(115));
-    bands.setColorAt(0.40, tint.darker(135));
-    bands.setColorAt(0.50, tint.darker(230));
-    bands.setColorAt(0.54, tint.lighter(165));
-    bands.setColorAt(0.72, tint);
-    bands.setColorAt(0.90, tint.darker(160));
-    bands.setColorAt(1.0, tint.lighter(130));
-    painter.fillPath(shape, bands);
+    painter.fillPath(shape, Linear(box.center() - way, box.center() + way,
+                                   Shades(tint, {{0.0, 150},
+                                                 {0.22, 115},
+                                                 {0.40, -135},
+                                                 {0.50, -230},
+                                                 {0.54, 165},
+                                                 {0.72, 100},
+                                                 {0.90, -160},
+                                                 {1.0, 130}})));
 }
 
 void FillGlossy(QPainter& painter, const QPainterPath& shape, const QColor& colour)
 {
     const QRectF box = shape.boundingRect();
-    QLinearGradient body(box.topLeft(), box.bottomRight());
-    body.setColorAt(0, colour.lighter(140));
-    body.setColorAt(0.45, colour);
-    body.setColorAt(1, colour.darker(190));
-    painter.fillPath(shape, body);
+    painter.fillPath(
+        shape, Linear(box.topLeft(), box.bottomRight(), Shades(colour, {{0, 140}, {0.45, 100}, {1, -190}})));
     painter.save();
     painter.setClipPath(shape);
-    QRadialGradient light(QPointF(box.left() + box.width() * 0.3, box.top() + box.height() * 0.18),
-                          std::max(box.width(), box.height()) * 0.5);
-    light.setColorAt(0, QColor(255, 255, 255, 150));
-    light.setColorAt(0.35, QColor(255, 255, 255, 40));
-    light.setColorAt(1, QColor(255, 255, 255, 0));
-    painter.fillRect(box, light);
+    painter.fillRect(box, Radial({box.left() + box.width() * 0.3, box.top() + box.height() * 0.18},
+                                 std::max(box.width(), box.height()) * 0.5,
+                                 Veil(Qt::white, {{0, 150}, {0.35, 40}, {1, 0}})));
     painter.restore();
+}
+
+void LayMetal(QPainter& painter, const QPainterPath& shape, double lift, double strength, const QColor& tint,
+              double angle)
+{
+    DropShadow(painter, shape, lift, strength);
+    FillMetal(painter, shape, tint, angle);
+}
+
+void LayGlossy(QPainter& painter, const QPainterPath& shape, double lift, double strength,
+               const QColor& colour)
+{
+    DropShadow(painter, shape, lift, strength);
+    FillGlossy(painter, shape, colour);
+}
+
+void LayFlat(QPainter& painter, const QPainterPath& shape, double lift, double strength, const QBrush& brush)
+{
+    DropShadow(painter, shape, lift, strength);
+    painter.fillPath(shape, brush);
 }
 
 QPainterPath ShieldPath(const QPointF& m, double size)
 {
-    QPainterPath path;
-    path.moveTo(m.x() - size, m.y() - size * 0.8);
-    path.quadTo(m.x(), m.y() - size * 1.05, m.x() + size, m.y() - size * 0.8);
-    path.cubicTo(m.x() + size, m.y() + size * 0.3, m.x() + size * 0.5, m.y() + size * 0.8, m.x(),
-                 m.y() + size * 1.15);
-    path.cubicTo(m.x() - size * 0.5, m.y() + size * 0.8, m.x() - size, m.y() + size * 0.3, m.x() - size,
-                 m.y() - size * 0.8);
-    return path;
+    return Outline({{m.x() - size, m.y() - size * 0.8},
+                    {m.x(), m.y() - size * 1.05, m.x() + size, m.y() - size * 0.8},
+                    {m.x() + size, m.y() + size * 0.3, m.x() + size * 0.5, m.y() + size * 0.8, m.x(),
+                     m.y() + size * 1.15},
+                    {m.x() - size * 0.5, m.y() + size * 0.8, m.x() - size, m.y() + size * 0.3, m.x() - size,
+                     m.y() - size * 0.8}});
 }
 
 QPainterPath WingedT(const QPointF& m, double size)

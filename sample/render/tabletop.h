@@ -21,6 +21,12 @@ void DropShadow(QPainter& painter, const QPainterPath& shape, double lift, doubl
 void FillMetal(QPainter& painter, const QPainterPath& shape, const QColor& tint, double angle);
 /// A round glossy thing: shade at its rim, highlight at the upper left.
 void FillGlossy(QPainter& painter, const QPainterPath& shape, const QColor& colour);
+/// The same for a piece that lies `lift` pixels above its ground: its shadow, then the piece.
+void LayMetal(QPainter& painter, const QPainterPath& shape, double lift, double strength, const QColor& tint,
+              double angle);
+void LayGlossy(QPainter& painter, const QPainterPath& shape, double lift, double strength,
+               const QColor& colour);
+void LayFlat(QPainter& painter, const QPainterPath& shape, double lift, double strength, const QBrush& brush);
 /// The maker's shield, `size` pixels from its middle to its edge.
 QPainterPath ShieldPath(const QPointF& middle, double size);
 /// The winged T within the shield.

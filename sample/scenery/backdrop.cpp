@@ -1,6 +1,7 @@
 #include "sample/scenery/backdrop.h"
 
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 
 namespace torvik::sample {
 
@@ -22,10 +23,7 @@ void PaintRidge(QPainter& painter, const Camera& camera, const std::function<dou
     }
     path.lineTo(width + 4, horizon + 3);
     path.closeSubpath();
-    QLinearGradient shade(QPointF(0, highest), QPointF(0, horizon));
-    shade.setColorAt(0, top);
-    shade.setColorAt(1, foot);
-    painter.fillPath(path, shade);
+    painter.fillPath(path, Linear({0, highest}, {0, horizon}, {{0, top}, {1, foot}}));
 }
 
 Standing StandAt(const Camera& camera, double x, double y, double z)
@@ -42,12 +40,12 @@ void PaintTree(QPainter& painter, const Standing& at, double tall, const QColor&
     Random random(seed);
     const double m = at.metre;
     painter.setPen(Qt::NoPen);
-    QPainterPath trunk;
-    trunk.moveTo(at.x - 0.18 * m, at.y);
-    trunk.quadTo(at.x - 0.10 * m, at.y - tall * 0.3 * m, at.x - 0.05 * m, at.y - tall * 0.7 * m);
-    trunk.lineTo(at.x + 0.08 * m, at.y - tall * 0.7 * m);
-    trunk.quadTo(at.x + 0.12 * m, at.y - tall * 0.3 * m, at.x + 0.22 * m, at.y);
-    painter.fillPath(trunk, Hazed(QColor(44, 34, 28), dark, 0.2));
+    painter.fillPath(
+        Outline({{at.x - 0.18 * m, at.y},
+                 {at.x - 0.10 * m, at.y - tall * 0.3 * m, at.x - 0.05 * m, at.y - tall * 0.7 * m},
+                 {at.x + 0.08 * m, at.y - tall * 0.7 * m},
+                 {at.x + 0.12 * m, at.y - tall * 0.3 * m, at.x + 0.22 * m, at.y}}),
+        Hazed(QColor(44, 34, 28), dark, 0.2));
     const int blobs = std::clamp(static_cast<int>(tall * m * 1.6), 40, 420);
     for (int i = 0; i < blobs; ++i) {
         const double angle = random.Between(0, 2 * pi);
@@ -89,13 +87,13 @@ void PaintFir(QPainter& painter, const Standing& at, double tall, const QColor& 
         branch.quadTo(at.x - left * 0.35 * m, at.y - (low + tall * 0.05) * m, at.x, at.y - high * m);
         painter.fillPath(branch, colour.lighter(85 + static_cast<int>(40 * random.Unit())));
         if (snow > 0) {
-            QPainterPath cap;
-            cap.moveTo(at.x, at.y - high * m);
-            cap.quadTo(at.x + right * 0.3 * m, at.y - (low + tall * 0.07) * m, at.x + right * 0.95 * m,
-                       at.y - (low + tall * 0.008) * m);
-            cap.quadTo(at.x + right * 0.1 * m, at.y - (low + tall * 0.06) * m, at.x - left * 0.75 * m,
-                       at.y - (low + tall * 0.015) * m);
-            cap.quadTo(at.x - left * 0.3 * m, at.y - (low + tall * 0.07) * m, at.x, at.y - high * m);
+            const QPainterPath cap =
+                Outline({{at.x, at.y - high * m},
+                         {at.x + right * 0.3 * m, at.y - (low + tall * 0.07) * m, at.x + right * 0.95 * m,
+                          at.y - (low + tall * 0.008) * m},
+                         {at.x + right * 0.1 * m, at.y - (low + tall * 0.06) * m, at.x - left * 0.75 * m,
+                          at.y - (low + tall * 0.015) * m},
+                         {at.x - left * 0.3 * m, at.y - (low + tall * 0.07) * m, at.x, at.y - high * m}});
             QColor white(238, 243, 250);
             white.setAlphaF(static_cast<float>(snow * 0.85));
             painter.fillPath(cap, white);
@@ -115,13 +113,11 @@ void PaintBar(QPainter& painter, const Camera& camera, const Vec& from, const Ve
     const double length = std::max(1e-6, std::hypot(b.x - a.x, b.y - a.y));
     const double nx = -(b.y - a.y) / length;
     const double ny = (b.x - a.x) / length;
-    QPainterPath path;
-    path.moveTo(a.x + nx * wa, a.y + ny * wa);
-    path.lineTo(b.x + nx * wb, b.y + ny * wb);
-    path.lineTo(b.x - nx * wb, b.y - ny * wb);
-    path.lineTo(a.x - nx * wa, a.y - ny * wa);
-    path.closeSubpath();
-    painter.fillPath(path, colour);
+    painter.fillPath(ClosedOutline({{a.x + nx * wa, a.y + ny * wa},
+                                    {b.x + nx * wb, b.y + ny * wb},
+                                    {b.x - nx * wb, b.y - ny * wb},
+                                    {a.x - nx * wa, a.y - ny * wa}}),
+                     colour);
 }
 
 QColor Hazed(const QColor& colour, const QColor& haze, double share)
@@ -130,6 +126,22 @@ QColor Hazed(const QColor& colour, const QColor& haze, double share)
     return QColor(static_cast<int>(Mix(colour.red(), haze.red(), t)),
                   static_cast<int>(Mix(colour.green(), haze.green(), t)),
                   static_cast<int>(Mix(colour.blue(), haze.blue(), t)));
+}
+
+Rgb Asphalt(double x, double y, double distance, std::uint32_t seed)
+{
+    const double patches = Fractal(x * 0.35, y * 0.8, 3, seed);
+    const double near = std::exp(-distance / 14.0);
+    const double grain = (Noise(x * 55, y * 55, seed + 3) - 0.5) * near;
+    const double wear = 0.5 * SmoothStep(0.35, 0.0, std::abs(std::abs(y) - 0.85));
+    const double level = 0.115 * (0.78 + 0.42 * patches + 0.55 * grain + 0.12 * wear);
+    return {level * 1.02, level, level * 0.99};
+}
+
+double LineMark(double at, double middle, double width, double distance)
+{
+    const double soft = 0.006 + distance * 0.0016;
+    return 1.0 - SmoothStep(width / 2 - soft, width / 2 + soft, std::abs(at - middle));
 }
 
 } // namespace torvik::sample

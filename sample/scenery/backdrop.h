@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sample/geometry/camera.h"
+#include "sample/geometry/vec.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -35,5 +36,10 @@ void PaintBar(QPainter& painter, const Camera& camera, const Vec& from, const Ve
               const QColor& colour);
 /// The colour as it looks through `share` (0 to 1) of haze.
 QColor Hazed(const QColor& colour, const QColor& haze, double share);
+
+/// Asphalt seen at a place, grained and patched; `distance` metres off, where the grain melts away.
+Rgb Asphalt(double x, double y, double distance, std::uint32_t seed);
+/// 1 on a painted line of the given width round `middle`, 0 beside it, softened by distance.
+double LineMark(double at, double middle, double width, double distance);
 
 } // namespace torvik::sample

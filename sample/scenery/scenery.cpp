@@ -1,32 +1,17 @@
 #include "sample/scenery/scenery.h"
 
-#include "sample/geometry/noise.h"
-#include "sample/render/blur.h"
-#include "sample/render/tone.h"
+#include "sample/geometry/shapes.h"
+#include "sample/render/film.h"
 
 namespace torvik::sample {
 
 Scenery MakeScenery(Place place, std::uint32_t seed)
 {
-    switch (place) {
-    case Place::Coast:
-        return CoastScenery(seed);
-    case Place::Desert:
-        return DesertScenery(seed);
-    case Place::City:
-        return CityScenery(seed);
-    case Place::Strip:
-        return StripScenery(seed);
-    case Place::Showroom:
-        return ShowroomScenery(seed);
-    case Place::Snow:
-        return SnowScenery(seed);
-    case Place::Autumn:
-        return AutumnScenery(seed);
-    case Place::Studio:
-        break;
-    }
-    return StudioScenery(seed);
+    // In the order of the places.
+    constexpr Scenery (*makers[])(std::uint32_t) = {CoastScenery,  DesertScenery,   CityScenery,
+                                                    StripScenery,  ShowroomScenery, SnowScenery,
+                                                    AutumnScenery, StudioScenery};
+    return makers[static_cast<std::size_t>(place)](seed);
 }
 
 Scenery TurnedRound(Scenery scenery)
@@ -95,8 +80,7 @@ QImage PaintScenery(const Scenery& scenery, const Camera& camera, QSize size)
     // The backdrop is out of focus, so half the size is fine enough for it.
     QImage far(size / 2, QImage::Format_ARGB32_Premultiplied);
     far.fill(Qt::transparent);
-    QPainter painter(&far);
-    painter.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter painter(&far);
     painter.setPen(Qt::NoPen);
     scenery.backdrop(painter, camera.Enlarged(0.5));
     painter.end();

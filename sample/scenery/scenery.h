@@ -1,13 +1,14 @@
 #pragma once
 
 #include "sample/geometry/camera.h"
-#include "sample/photos/photo_plan.h"
 #include "sample/render/environment.h"
 
 #include <QImage>
 #include <QPainter>
 
 namespace torvik::sample {
+
+enum class Place { Coast, Desert, City, Strip, Showroom, Snow, Autumn, Studio };
 
 /// A place: its light, what stands far off and what lies on the ground.
 struct Scenery {

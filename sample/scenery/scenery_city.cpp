@@ -1,7 +1,7 @@
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/scenery/backdrop.h"
 #include "sample/scenery/scenery.h"
-#include "sample/scenery/scenery_outdoors.h"
 
 namespace torvik::sample {
 
@@ -11,15 +11,15 @@ Scenery CityScenery(std::uint32_t seed)
 {
     Scenery s;
     s.night = true;
-    s.light.seed = seed;
-    s.light.toSun = Unit({-0.3, -0.5, 0.85});
-    s.light.sun = {0.55, 0.46, 0.34};
-    s.light.zenith = {0.010, 0.014, 0.035};
-    s.light.horizon = {0.16, 0.10, 0.11};
-    s.light.ground = {0.05, 0.045, 0.045};
-    s.light.band = {0.03, 0.03, 0.045};
-    s.light.bandHeight = 0.35;
-    s.light.clouds = 0.0;
+    s.light = Daylight{.toSun = Unit({-0.3, -0.5, 0.85}),
+                       .sun = {0.55, 0.46, 0.34},
+                       .zenith = {0.010, 0.014, 0.035},
+                       .horizon = {0.16, 0.10, 0.11},
+                       .ground = {0.05, 0.045, 0.045},
+                       .band = {0.03, 0.03, 0.045},
+                       .bandHeight = 0.35,
+                       .clouds = 0.0,
+                       .seed = seed};
     // Lit windows, street lamps and coloured signs, as they glide over the lacquer.
     s.light.lamps = [seed](const Vec&, const Vec& way) -> Rgb {
         if (way.z < 0)
@@ -132,10 +132,8 @@ Scenery CityScenery(std::uint32_t seed)
                         const Standing d = StandAt(camera, x + wide - 1.2, depth - 0.2, 4.0);
                         const QColor neon = QColor::fromHsv(random.Below(360), 215, 255);
                         const QRectF sign = QRectF(QPointF(c.x, c.y), QPointF(d.x, d.y)).normalized();
-                        QFont font(u"Liberation Sans"_s);
-                        font.setBold(true);
-                        font.setPixelSize(std::max(6, static_cast<int>(sign.height() * 0.9)));
-                        painter.setFont(font);
+                        painter.setFont(FontOf("Liberation Sans",
+                                               std::max(6, static_cast<int>(sign.height() * 0.9)), true));
                         painter.setPen(neon);
                         static const char* const names[] = {"CINEMA", "HOTEL AVEREL", "DINER",  "RECORDS",
                                                             "BAR 41", "ROXY",         "FLOWERS"};

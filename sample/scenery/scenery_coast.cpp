@@ -1,7 +1,6 @@
 #include "sample/geometry/noise.h"
 #include "sample/scenery/backdrop.h"
 #include "sample/scenery/scenery.h"
-#include "sample/scenery/scenery_outdoors.h"
 
 namespace torvik::sample {
 
@@ -10,15 +9,16 @@ Scenery CoastScenery(std::uint32_t seed)
     Scenery s;
     Random random(seed);
     const bool evening = random.Below(3) == 0;
-    s.light.seed = seed;
-    s.light.toSun = Unit({random.Between(-0.7, 0.7), random.Between(-0.9, -0.4), evening ? 0.32 : 0.8});
-    s.light.sun = evening ? Rgb{2.6, 1.6, 0.8} : Rgb{2.3, 2.1, 1.8};
-    s.light.zenith = evening ? Rgb{0.22, 0.30, 0.52} : Rgb{0.11, 0.27, 0.66};
-    s.light.horizon = evening ? Rgb{0.95, 0.68, 0.42} : Rgb{0.72, 0.82, 0.92};
-    s.light.ground = {0.15, 0.145, 0.14};
-    s.light.band = {0.06, 0.085, 0.07};
-    s.light.bandHeight = 0.10;
-    s.light.clouds = random.Between(0.25, 0.6);
+    s.light =
+        Daylight{.toSun = Unit({random.Between(-0.7, 0.7), random.Between(-0.9, -0.4), evening ? 0.32 : 0.8}),
+                 .sun = evening ? Rgb{2.6, 1.6, 0.8} : Rgb{2.3, 2.1, 1.8},
+                 .zenith = evening ? Rgb{0.22, 0.30, 0.52} : Rgb{0.11, 0.27, 0.66},
+                 .horizon = evening ? Rgb{0.95, 0.68, 0.42} : Rgb{0.72, 0.82, 0.92},
+                 .ground = {0.15, 0.145, 0.14},
+                 .band = {0.06, 0.085, 0.07},
+                 .bandHeight = 0.10,
+                 .clouds = random.Between(0.25, 0.6),
+                 .seed = seed};
     s.haze = evening ? Rgb{0.9, 0.66, 0.44} : Rgb{0.66, 0.76, 0.86};
     s.hazeReach = 900;
     s.ground = [seed, evening](double x, double y, double distance) {

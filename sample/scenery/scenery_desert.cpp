@@ -1,7 +1,7 @@
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/scenery/backdrop.h"
 #include "sample/scenery/scenery.h"
-#include "sample/scenery/scenery_outdoors.h"
 
 namespace torvik::sample {
 
@@ -9,15 +9,15 @@ Scenery DesertScenery(std::uint32_t seed)
 {
     Scenery s;
     Random random(seed);
-    s.light.seed = seed;
-    s.light.toSun = Unit({random.Between(-0.8, 0.8), -0.7, random.Between(0.3, 0.6)});
-    s.light.sun = {2.7, 2.1, 1.45};
-    s.light.zenith = {0.10, 0.22, 0.52};
-    s.light.horizon = {0.90, 0.80, 0.68};
-    s.light.ground = {0.36, 0.24, 0.145};
-    s.light.band = {0.28, 0.15, 0.09};
-    s.light.bandHeight = 0.09;
-    s.light.clouds = random.Between(0.05, 0.4);
+    s.light = Daylight{.toSun = Unit({random.Between(-0.8, 0.8), -0.7, random.Between(0.3, 0.6)}),
+                       .sun = {2.7, 2.1, 1.45},
+                       .zenith = {0.10, 0.22, 0.52},
+                       .horizon = {0.90, 0.80, 0.68},
+                       .ground = {0.36, 0.24, 0.145},
+                       .band = {0.28, 0.15, 0.09},
+                       .bandHeight = 0.09,
+                       .clouds = random.Between(0.05, 0.4),
+                       .seed = seed};
     s.haze = {0.80, 0.70, 0.58};
     s.hazeReach = 700;
     s.ground = [seed](double x, double y, double distance) {
@@ -68,9 +68,9 @@ Scenery DesertScenery(std::uint32_t seed)
                 painter.setPen(QPen(green, 0.34 * m, Qt::SolidLine, Qt::RoundCap));
                 painter.drawLine(QPointF(at.x, at.y), QPointF(at.x, at.y - tall * m));
                 painter.setPen(QPen(green, 0.24 * m, Qt::SolidLine, Qt::RoundCap));
-                QPainterPath arm;
-                arm.moveTo(at.x, at.y - tall * 0.42 * m);
-                arm.quadTo(at.x + 0.8 * m, at.y - tall * 0.42 * m, at.x + 0.8 * m, at.y - tall * 0.75 * m);
+                QPainterPath arm = Outline(
+                    {{at.x, at.y - tall * 0.42 * m},
+                     {at.x + 0.8 * m, at.y - tall * 0.42 * m, at.x + 0.8 * m, at.y - tall * 0.75 * m}});
                 arm.moveTo(at.x, at.y - tall * 0.3 * m);
                 arm.quadTo(at.x - 0.7 * m, at.y - tall * 0.3 * m, at.x - 0.7 * m, at.y - tall * 0.6 * m);
                 painter.drawPath(arm);

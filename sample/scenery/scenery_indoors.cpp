@@ -1,4 +1,5 @@
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/scenery/backdrop.h"
 #include "sample/scenery/scenery.h"
 
@@ -33,15 +34,15 @@ Scenery ShowroomScenery(std::uint32_t seed)
     static const Rgb walls[] = {
         {0.36, 0.30, 0.22}, {0.16, 0.22, 0.28}, {0.30, 0.12, 0.10}, {0.24, 0.26, 0.20}};
     const Rgb wall = walls[random.Below(4)];
-    s.light.seed = seed;
-    s.light.toSun = Unit({-0.25, -0.45, 0.9});
-    s.light.sun = {0.85, 0.80, 0.72};
-    s.light.zenith = {0.32, 0.31, 0.29};
-    s.light.horizon = wall * 1.1;
-    s.light.ground = {0.22, 0.19, 0.16};
-    s.light.band = wall * 0.35;
-    s.light.bandHeight = 0.12;
-    s.light.clouds = 0;
+    s.light = Daylight{.toSun = Unit({-0.25, -0.45, 0.9}),
+                       .sun = {0.85, 0.80, 0.72},
+                       .zenith = {0.32, 0.31, 0.29},
+                       .horizon = wall * 1.1,
+                       .ground = {0.22, 0.19, 0.16},
+                       .band = wall * 0.35,
+                       .bandHeight = 0.12,
+                       .clouds = 0,
+                       .seed = seed};
     s.light.lamps = [](const Vec& from, const Vec& way) { return CeilingLamps(from, way, 3.2); };
     s.haze = wall;
     s.hazeReach = 60;
@@ -71,10 +72,9 @@ Scenery ShowroomScenery(std::uint32_t seed)
         const double horizon = camera.HorizonRow();
         // The rear wall 9 m behind the car, lit from above in cones.
         const Standing foot = StandAt(camera, 0, 9);
-        QLinearGradient shade(QPointF(0, 0), QPointF(0, std::max(horizon + 4, foot.y)));
-        shade.setColorAt(0, toColour(wall * 0.5));
-        shade.setColorAt(0.6, toColour(wall * 1.15));
-        shade.setColorAt(1, toColour(wall * 0.6));
+        const QLinearGradient shade =
+            Linear({0, 0}, {0, std::max(horizon + 4, foot.y)},
+                   {{0, toColour(wall * 0.5)}, {0.6, toColour(wall * 1.15)}, {1, toColour(wall * 0.6)}});
         const double low = foot.visible && foot.y > horizon ? foot.y : horizon + 4;
         painter.fillRect(QRectF(0, 0, width, low), shade);
         for (double x = -18; x <= 18; x += 4.5) {
@@ -82,11 +82,11 @@ Scenery ShowroomScenery(std::uint32_t seed)
             if (!top.visible)
                 continue;
             const double m = top.metre;
-            QRadialGradient cone(QPointF(top.x, top.y + 0.3 * m), 2.6 * m);
-            cone.setColorAt(0, QColor(255, 236, 196, 190));
-            cone.setColorAt(0.3, QColor(255, 220, 170, 70));
-            cone.setColorAt(1, QColor(255, 210, 150, 0));
-            painter.fillRect(QRectF(top.x - 2.6 * m, top.y, 5.2 * m, std::max(0.0, low - top.y)), cone);
+            painter.fillRect(QRectF(top.x - 2.6 * m, top.y, 5.2 * m, std::max(0.0, low - top.y)),
+                             Radial({top.x, top.y + 0.3 * m}, 2.6 * m,
+                                    {{0, QColor(255, 236, 196, 190)},
+                                     {0.3, QColor(255, 220, 170, 70)},
+                                     {1, QColor(255, 210, 150, 0)}}));
         }
         // Framed pictures, a curtain at one end, the maker's name in brass.
         Random random(seed + 5);
@@ -99,10 +99,10 @@ Scenery ShowroomScenery(std::uint32_t seed)
             painter.fillRect(frame, QColor(58, 42, 24));
             const double rim = frame.height() * 0.08;
             const QRectF inner = frame.adjusted(rim, rim, -rim, -rim);
-            QLinearGradient art(inner.topLeft(), inner.bottomLeft());
-            art.setColorAt(0, QColor::fromHsv(random.Below(360), 70, 220));
-            art.setColorAt(0.6, QColor::fromHsv(random.Below(360), 50, 200));
-            art.setColorAt(1, QColor::fromHsv(random.Below(360), 90, 110));
+            const QLinearGradient art = Linear(inner.topLeft(), inner.bottomLeft(),
+                                               {{0, QColor::fromHsv(random.Below(360), 70, 220)},
+                                                {0.6, QColor::fromHsv(random.Below(360), 50, 200)},
+                                                {1, QColor::fromHsv(random.Below(360), 90, 110)}});
             painter.fillRect(inner, art);
             painter.setBrush(QColor::fromHsv(random.Below(360), 170, 140));
             painter.drawEllipse(QPointF(inner.center().x(), inner.bottom() - inner.height() * 0.3),
@@ -110,11 +110,8 @@ Scenery ShowroomScenery(std::uint32_t seed)
         }
         const Standing sign = StandAt(camera, 0, 8.8, 3.0);
         if (sign.visible) {
-            QFont font(u"Liberation Serif"_s);
-            font.setItalic(true);
-            font.setBold(true);
-            font.setPixelSize(std::max(8, static_cast<int>(0.75 * sign.metre)));
-            painter.setFont(font);
+            painter.setFont(
+                FontOf("Liberation Serif", std::max(8, static_cast<int>(0.75 * sign.metre)), true, true));
             painter.setPen(QColor(236, 206, 140));
             painter.drawText(
                 QRectF(sign.x - 5 * sign.metre, sign.y - 0.7 * sign.metre, 10 * sign.metre, 1.0 * sign.metre),
@@ -140,15 +137,15 @@ Scenery ShowroomScenery(std::uint32_t seed)
 Scenery StudioScenery(std::uint32_t seed)
 {
     Scenery s;
-    s.light.seed = seed;
-    s.light.toSun = Unit({-0.5, -0.6, 0.8});
-    s.light.sun = {1.1, 1.05, 0.95};
-    s.light.zenith = {0.30, 0.31, 0.33};
-    s.light.horizon = {0.42, 0.42, 0.42};
-    s.light.ground = {0.30, 0.30, 0.29};
-    s.light.band = {0.25, 0.25, 0.25};
-    s.light.bandHeight = 0.05;
-    s.light.clouds = 0;
+    s.light = Daylight{.toSun = Unit({-0.5, -0.6, 0.8}),
+                       .sun = {1.1, 1.05, 0.95},
+                       .zenith = {0.30, 0.31, 0.33},
+                       .horizon = {0.42, 0.42, 0.42},
+                       .ground = {0.30, 0.30, 0.29},
+                       .band = {0.25, 0.25, 0.25},
+                       .bandHeight = 0.05,
+                       .clouds = 0,
+                       .seed = seed};
     s.light.lamps = [](const Vec& from, const Vec& way) { return CeilingLamps(from, way, 1.6); };
     s.haze = {0.34, 0.34, 0.34};
     s.hazeReach = 22;
@@ -160,10 +157,9 @@ Scenery StudioScenery(std::uint32_t seed)
     };
     s.backdrop = [](QPainter& painter, const Camera& camera) {
         const double horizon = camera.HorizonRow();
-        QLinearGradient wall(QPointF(0, 0), QPointF(0, horizon + 40));
-        wall.setColorAt(0, QColor(66, 67, 70));
-        wall.setColorAt(0.7, QColor(150, 150, 150));
-        wall.setColorAt(1, QColor(158, 157, 155, 0));
+        const QLinearGradient wall =
+            Linear({0, 0}, {0, horizon + 40},
+                   {{0, QColor(66, 67, 70)}, {0.7, QColor(150, 150, 150)}, {1, QColor(158, 157, 155, 0)}});
         painter.fillRect(QRectF(0, 0, painter.device()->width(), horizon + 40), wall);
         // Drawings on the wall of the styling studio.
         painter.setPen(Qt::NoPen);
@@ -175,15 +171,13 @@ Scenery StudioScenery(std::uint32_t seed)
             const QRectF sheet = QRectF(QPointF(a.x, a.y), QPointF(b.x, b.y)).normalized();
             painter.fillRect(sheet, QColor(226, 220, 204));
             painter.setPen(QPen(QColor(70, 74, 90), std::max(1.0, sheet.height() * 0.02)));
-            QPainterPath line;
-            line.moveTo(sheet.left() + sheet.width() * 0.1, sheet.top() + sheet.height() * 0.62);
-            line.cubicTo(sheet.left() + sheet.width() * 0.35, sheet.top() + sheet.height() * 0.5,
-                         sheet.left() + sheet.width() * 0.45, sheet.top() + sheet.height() * 0.2,
-                         sheet.left() + sheet.width() * 0.65, sheet.top() + sheet.height() * 0.3);
-            line.quadTo(sheet.left() + sheet.width() * 0.8, sheet.top() + sheet.height() * 0.42,
-                        sheet.left() + sheet.width() * 0.9, sheet.top() + sheet.height() * 0.6);
-            line.closeSubpath();
-            painter.drawPath(line);
+            painter.drawPath(
+                ClosedOutline({{sheet.left() + sheet.width() * 0.1, sheet.top() + sheet.height() * 0.62},
+                               {sheet.left() + sheet.width() * 0.35, sheet.top() + sheet.height() * 0.5,
+                                sheet.left() + sheet.width() * 0.45, sheet.top() + sheet.height() * 0.2,
+                                sheet.left() + sheet.width() * 0.65, sheet.top() + sheet.height() * 0.3},
+                               {sheet.left() + sheet.width() * 0.8, sheet.top() + sheet.height() * 0.42,
+                                sheet.left() + sheet.width() * 0.9, sheet.top() + sheet.height() * 0.6}}));
             painter.setPen(Qt::NoPen);
         }
     };

@@ -1,7 +1,6 @@
 #include "sample/geometry/noise.h"
 #include "sample/scenery/backdrop.h"
 #include "sample/scenery/scenery.h"
-#include "sample/scenery/scenery_outdoors.h"
 
 namespace torvik::sample {
 
@@ -9,15 +8,15 @@ Scenery StripScenery(std::uint32_t seed)
 {
     Scenery s;
     Random random(seed);
-    s.light.seed = seed;
-    s.light.toSun = Unit({random.Between(-0.6, 0.6), -0.6, 0.7});
-    s.light.sun = {2.4, 2.15, 1.75};
-    s.light.zenith = {0.16, 0.30, 0.62};
-    s.light.horizon = {0.86, 0.87, 0.86};
-    s.light.ground = {0.17, 0.165, 0.16};
-    s.light.band = {0.13, 0.11, 0.10};
-    s.light.bandHeight = 0.16;
-    s.light.clouds = random.Between(0.4, 0.8);
+    s.light = Daylight{.toSun = Unit({random.Between(-0.6, 0.6), -0.6, 0.7}),
+                       .sun = {2.4, 2.15, 1.75},
+                       .zenith = {0.16, 0.30, 0.62},
+                       .horizon = {0.86, 0.87, 0.86},
+                       .ground = {0.17, 0.165, 0.16},
+                       .band = {0.13, 0.11, 0.10},
+                       .bandHeight = 0.16,
+                       .clouds = random.Between(0.4, 0.8),
+                       .seed = seed};
     s.haze = {0.72, 0.75, 0.77};
     s.hazeReach = 420;
     s.ground = [seed](double x, double y, double distance) {

@@ -1,7 +1,6 @@
 #include "sample/geometry/noise.h"
 #include "sample/scenery/backdrop.h"
 #include "sample/scenery/scenery.h"
-#include "sample/scenery/scenery_outdoors.h"
 
 #include <algorithm>
 
@@ -43,15 +42,15 @@ Scenery AutumnScenery(std::uint32_t seed)
 {
     Scenery s;
     Random random(seed);
-    s.light.seed = seed;
-    s.light.toSun = Unit({random.Between(-0.7, 0.7), -0.55, 0.5});
-    s.light.sun = {2.3, 1.8, 1.15};
-    s.light.zenith = {0.30, 0.42, 0.66};
-    s.light.horizon = {0.95, 0.84, 0.62};
-    s.light.ground = {0.17, 0.12, 0.08};
-    s.light.band = {0.20, 0.10, 0.03};
-    s.light.bandHeight = 0.34;
-    s.light.clouds = 0.3;
+    s.light = Daylight{.toSun = Unit({random.Between(-0.7, 0.7), -0.55, 0.5}),
+                       .sun = {2.3, 1.8, 1.15},
+                       .zenith = {0.30, 0.42, 0.66},
+                       .horizon = {0.95, 0.84, 0.62},
+                       .ground = {0.17, 0.12, 0.08},
+                       .band = {0.20, 0.10, 0.03},
+                       .bandHeight = 0.34,
+                       .clouds = 0.3,
+                       .seed = seed};
     s.haze = {0.82, 0.70, 0.48};
     s.hazeReach = 240;
     s.ground = [seed](double x, double y, double distance) {
@@ -108,15 +107,15 @@ Scenery SnowScenery(std::uint32_t seed)
 {
     Scenery s;
     Random random(seed);
-    s.light.seed = seed;
-    s.light.toSun = Unit({random.Between(-0.7, 0.7), -0.65, 0.38});
-    s.light.sun = {1.9, 1.65, 1.35};
-    s.light.zenith = {0.20, 0.34, 0.62};
-    s.light.horizon = {0.86, 0.88, 0.92};
-    s.light.ground = {0.58, 0.62, 0.70};
-    s.light.band = {0.10, 0.13, 0.16};
-    s.light.bandHeight = 0.22;
-    s.light.clouds = random.Between(0.3, 0.8);
+    s.light = Daylight{.toSun = Unit({random.Between(-0.7, 0.7), -0.65, 0.38}),
+                       .sun = {1.9, 1.65, 1.35},
+                       .zenith = {0.20, 0.34, 0.62},
+                       .horizon = {0.86, 0.88, 0.92},
+                       .ground = {0.58, 0.62, 0.70},
+                       .band = {0.10, 0.13, 0.16},
+                       .bandHeight = 0.22,
+                       .clouds = random.Between(0.3, 0.8),
+                       .seed = seed};
     s.haze = {0.82, 0.85, 0.90};
     s.hazeReach = 420;
     s.shadowStrength = 0.55;

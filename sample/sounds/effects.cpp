@@ -1,7 +1,5 @@
 #include "sample/sounds/effects.h"
 
-#include "sample/sounds/effect_voices.h"
-
 #include <algorithm>
 #include <cmath>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "sample/sounds/effect_voices.h"
+#include "sample/sounds/effects.h"
 #include "sample/sounds/engine.h"
 #include "sample/sounds/road.h"
 
@@ -13,7 +13,7 @@ Sound TwinMotorcycle()
                      {3.4, 1000}, {3.7, 1300}, {4.7, 3600},  {4.8, 2300}, {6.3, 3900}};
     const Curve throttle{{0, 0.14},    {1.7, 0.14}, {1.8, 0.9}, {1.95, 0.05}, {2.7, 0.14},  {2.8, 1},
                          {2.95, 0.05}, {3.6, 0.2},  {3.8, 0.9}, {4.7, 0.9},   {4.74, 0.05}, {4.82, 0.9}};
-    Sound running = Levelled(RunEngine(BigTwin(), {lasting - 0.75, revs, throttle, 14}), 1.0);
+    Sound running = Running(bigTwin, {lasting - 0.75, revs, throttle, 14});
     Sound source = Silence(lasting);
     // Two kicks, the second one starts it.
     Add(source, CrankEngine(0.22, 6, 15), 0.05, 0.35);
@@ -30,14 +30,9 @@ Sound FourMotorcycle()
                      {2.9, 10800}, {2.96, 8900}, {4.6, 10900}, {4.66, 9300}, {5.8, 10400}};
     const Curve throttle{{0, 1},   {0.5, 1},  {0.52, 0}, {0.57, 1}, {1.5, 1},  {1.52, 0}, {1.57, 1},
                          {2.9, 1}, {2.92, 0}, {2.97, 1}, {4.6, 1},  {4.62, 0}, {4.67, 1}};
-    EngineKind kind = StraightFour();
-    kind.pulse = 0.0005;
-    kind.pipes = {0.6, 0.6};
-    kind.muffler = 4600;
-    Sound source = Levelled(RunEngine(kind, {lasting, revs, throttle, 21}), 1.0);
-    Add(source, Levelled(TyreRoll(
-                             lasting, [](double) { return 40.0; }, 0, 211),
-                         0.12));
+    const EngineKind kind = Tuned(straightFour, {.pulse = 0.0005, .pipes = {{0.6, 0.6}}, .muffler = 4600});
+    Sound source = Running(kind, {lasting, revs, throttle, 21});
+    Add(source, Rolling(lasting, 40.0, 0, 211, 0.12));
     const Curve along{{0, -62}, {1.5, -16}, {2.2, 8}, {5.8, 190}};
     return Passing(source, {along, 4, 130});
 }

@@ -1,4 +1,4 @@
-#include "sample/sounds/effect_voices.h"
+#include "sample/sounds/effects.h"
 #include "sample/sounds/engine.h"
 #include "sample/sounds/filters.h"
 #include "sample/sounds/road.h"
@@ -16,9 +16,7 @@ Sound SportsCar()
     const Curve throttle{{0, 0.1},  {0.25, 0.1}, {0.35, 0.9}, {0.48, 0}, {1.05, 0.1},
                          {1.15, 1}, {1.3, 0},    {1.75, 0.2}, {1.9, 1},  {3.0, 1},
                          {3.05, 0}, {3.15, 1},   {4.2, 1},    {4.25, 0}, {4.35, 1}};
-    EngineKind kind = StraightFour();
-    kind.crackle = 0.6;
-    kind.muffler = 2800;
+    const EngineKind kind = Tuned(straightFour, {.muffler = 2800, .crackle = 0.6});
     Sound source = RunEngine(kind, {lasting, revs, throttle, 7});
     const double level = Loudest(source);
     Add(source, TyreSqueal(0.8, Curve{{0, 0}, {0.1, 0.9}, {0.5, 0.6}, {0.8, 0}}, 71), 1.85, 0.25 * level);
@@ -33,12 +31,9 @@ Sound DragStart()
                      {2.5, 6900}, {2.6, 5000}, {3.6, 7000}, {3.7, 5300},  {5.8, 7100}};
     const Curve throttle{{0, 0.12}, {0.75, 0.12}, {0.9, 1},    {2.5, 1}, {2.54, 0.1},
                          {2.62, 1}, {3.6, 1},     {3.64, 0.1}, {3.72, 1}};
-    EngineKind kind = BurblingEight();
-    kind.pipes = {0.8, 0.9};
-    kind.muffler = 3000;
-    kind.lope = 0.8;
-    kind.crackle = 0.6;
-    Sound source = Levelled(RunEngine(kind, {lasting, revs, throttle, 8}), 1.0);
+    const EngineKind kind =
+        Tuned(burblingEight, {.pipes = {{0.8, 0.9}}, .muffler = 3000, .lope = 0.8, .crackle = 0.6});
+    Sound source = Running(kind, {lasting, revs, throttle, 8});
     Add(source, TyreSqueal(1.7, Curve{{0, 0}, {0.12, 1}, {1.1, 0.9}, {1.7, 0}}, 81), 1.42, 0.5);
     Add(source, TyreSqueal(0.45, Curve{{0, 0}, {0.05, 1}, {0.3, 0.6}, {0.45, 0}}, 82), 2.6, 0.4);
     Add(source, TyreSqueal(0.3, Curve{{0, 0}, {0.05, 0.9}, {0.3, 0}}, 83), 3.7, 0.3);
@@ -56,21 +51,17 @@ TwoEars AtTheTrack()
     const auto car = [&](const EngineKind& kind, double revs, double speed, double passing,
                          std::uint32_t seed) {
         const Curve course{{0, revs}, {lasting, revs * 1.04}};
-        Sound source = Levelled(RunEngine(kind, {lasting, course, [](double) { return 1.0; }, seed}), 1.0);
-        Add(source, Levelled(TyreRoll(
-                                 lasting, [](double) { return 50.0; }, 0, seed + 50),
-                             0.25));
+        Sound source = Running(kind, {lasting, course, Always(1.0), seed});
+        Add(source, Rolling(lasting, 50.0, 0, seed + 50, 0.25));
         const Drive drive{[=](double t) { return speed * (t - passing); }, 12, 160};
         Add(track, PassingBothEars(source, drive), 0, 0.9);
     };
-    EngineKind stock = BurblingEight();
-    stock.pipes = {0.7, 0.8};
-    stock.muffler = 3600;
+    const EngineKind stock = Tuned(burblingEight, {.pipes = {{0.7, 0.8}}, .muffler = 3600});
     car(stock, 7300, 62, 1.5, 911);
-    car(ScreamingEight(), 8600, 70, 2.4, 912);
+    car(screamingEight, 8600, 70, 2.4, 912);
     car(stock, 7600, 64, 4.1, 913);
     car(stock, 7150, 63, 4.7, 914);
-    car(ScreamingEight(), 9000, 72, 6.2, 915);
+    car(screamingEight, 9000, 72, 6.2, 915);
     return track;
 }
 
@@ -78,16 +69,11 @@ TwoEars StockCarsPass()
 {
     constexpr double lasting = 4.8;
     TwoEars road = Placed(Silence(lasting), 0);
-    EngineKind kind = BurblingEight();
-    kind.pipes = {0.55, 0.66};
-    kind.ring = 0.7;
-    kind.muffler = 4200;
+    const EngineKind kind = Tuned(burblingEight, {.pipes = {{0.55, 0.66}}, .ring = 0.7, .muffler = 4200});
     const auto car = [&](double revs, double passing, double aside, std::uint32_t seed) {
         const Curve course{{0, revs}, {lasting, revs * 1.03}};
-        Sound source = Levelled(RunEngine(kind, {lasting, course, [](double) { return 1.0; }, seed}), 1.0);
-        Add(source, Levelled(TyreRoll(
-                                 lasting, [](double) { return 70.0; }, 0, seed + 1),
-                             0.4));
+        Sound source = Running(kind, {lasting, course, Always(1.0), seed});
+        Add(source, Rolling(lasting, 70.0, 0, seed + 1, 0.4));
         const Drive drive{[=](double t) { return -78 * (t - passing); }, aside, 200};
         Add(road, PassingBothEars(source, drive));
     };
@@ -106,7 +92,7 @@ Sound RacingLap()
     const Curve throttle{{0, 1},    {0.7, 1},   {0.72, 0}, {0.77, 1}, {1.6, 1},   {1.62, 0},
                          {1.67, 1}, {2.7, 1},   {2.74, 0}, {2.95, 0}, {3.0, 0.9}, {3.04, 0},
                          {3.25, 0}, {3.3, 0.9}, {3.35, 0}, {3.8, 0},  {4.1, 0.4}, {4.4, 1}};
-    Sound sound = Levelled(RunEngine(ScreamingEight(), {lasting, revs, throttle, 12}), 0.9);
+    Sound sound = Running(screamingEight, {lasting, revs, throttle, 12}, 0.9);
     Add(sound, TyreSqueal(0.7, Curve{{0, 0}, {0.2, 0.8}, {0.5, 0.7}, {0.7, 0}}, 13), 3.5, 0.15);
     // Wind round the helmet.
     Add(sound, Levelled(Filtered(WhiteNoise(lasting, 14), Filter::BandPass(420, 0.4)), 0.10));
@@ -117,10 +103,8 @@ TwoEars SpeedwayPass()
 {
     constexpr double lasting = 4.3;
     const Curve revs{{0, 11100}, {lasting, 11400}};
-    Sound source = Levelled(RunEngine(Turbocharged(), {lasting, revs, [](double) { return 1.0; }, 33}), 1.0);
-    Add(source, Levelled(TyreRoll(
-                             lasting, [](double) { return 80.0; }, 0, 34),
-                         0.22));
+    Sound source = Running(turbocharged, {lasting, revs, Always(1.0), 33});
+    Add(source, Rolling(lasting, 80.0, 0, 34, 0.22));
     TwoEars road = PassingBothEars(source, {[](double t) { return 96 * (t - 1.9); }, 9, 220});
     Add(road, Placed(Levelled(Crowd(lasting, 35), 0.015), 0));
     return road;
@@ -154,15 +138,10 @@ Sound OpenRoadster()
     constexpr double lasting = 4.8;
     const Curve revs{{0, 4300}, {1.75, 6300}, {1.87, 4500}, {4.8, 6600}};
     const Curve throttle{{0, 1}, {1.75, 1}, {1.8, 0}, {1.9, 1}};
-    EngineKind kind = BurblingEight();
-    kind.pipes = {0.95, 1.2};
-    kind.ring = 0.72;
-    kind.muffler = 2400;
-    kind.crackle = 1;
-    Sound source = Levelled(RunEngine(kind, {lasting, revs, throttle, 25}), 1.0);
-    Add(source, Levelled(TyreRoll(
-                             lasting, [](double) { return 38.0; }, 0.1, 26),
-                         0.2));
+    const EngineKind kind =
+        Tuned(burblingEight, {.pipes = {{0.95, 1.2}}, .ring = 0.72, .muffler = 2400, .crackle = 1});
+    Sound source = Running(kind, {lasting, revs, throttle, 25});
+    Add(source, Rolling(lasting, 38.0, 0.1, 26, 0.2));
     const Curve along{{0, -58}, {1.6, -4}, {1.9, 7}, {4.8, 130}};
     return Passing(source, {along, 3.5, 110});
 }
@@ -176,11 +155,8 @@ Sound RevAndRun()
     const Curve throttle{{0, 0.1},  {0.4, 0.1}, {0.5, 0.9}, {0.68, 0}, {1.35, 0.1},
                          {1.45, 1}, {1.65, 0},  {2.4, 0.2}, {2.5, 1},  {3.5, 1},
                          {3.54, 0}, {3.62, 1},  {4.7, 1},   {4.74, 0}, {4.82, 1}};
-    EngineKind kind = BurblingEight();
-    kind.pipes = {1.5, 1.75};
-    kind.muffler = 1600;
-    kind.crackle = 0.5;
-    Sound source = Levelled(RunEngine(kind, {lasting, revs, throttle, 27}), 1.0);
+    const EngineKind kind = Tuned(burblingEight, {.pipes = {{1.5, 1.75}}, .muffler = 1600, .crackle = 0.5});
+    Sound source = Running(kind, {lasting, revs, throttle, 27});
     Add(source, TyreSqueal(1.15, Curve{{0, 0}, {0.1, 1}, {0.8, 0.8}, {1.15, 0}}, 271), 2.48, 0.38);
     Add(source, TyreSqueal(0.28, Curve{{0, 0}, {0.04, 0.9}, {0.28, 0}}, 272), 3.6, 0.35);
     const Curve away{{0, 2}, {2.5, 2}, {3.6, 14}, {4.8, 46}, {6.3, 105}};

@@ -54,130 +54,57 @@ private:
     double level_ = 0;
 };
 
-std::vector<Firing> Evenly(int cylinders)
+/// Bangs at equal distances, dealt in turn to so many pipes.
+std::vector<Firing> Evenly(int cylinders, int pipes)
 {
     std::vector<Firing> firings;
-    for (int i = 0; i < cylinders; ++i) {
-        const double uneven = 1.0 - 0.12 * ((i * 5) % 3);
-        firings.push_back({static_cast<double>(i) / cylinders, uneven, i % 2});
-    }
+    for (int i = 0; i < cylinders; ++i)
+        firings.push_back({static_cast<double>(i) / cylinders, 1.0 - 0.12 * ((i * 5) % 3), i % pipes});
     return firings;
 }
 
+const std::vector<Firing> burble = {{0.0 / 8, 1.0, 0},  {1.0 / 8, 0.78, 1}, {2.0 / 8, 0.95, 1},
+                                    {3.0 / 8, 0.7, 0},  {4.0 / 8, 1.0, 1},  {5.0 / 8, 0.84, 0},
+                                    {6.0 / 8, 0.74, 0}, {7.0 / 8, 0.92, 1}};
+
 } // namespace
 
-EngineKind BurblingEight()
-{
-    EngineKind kind;
-    constexpr std::array pipeOf = {0, 1, 1, 0, 1, 0, 0, 1};
-    constexpr std::array bangOf = {1.0, 0.78, 0.95, 0.7, 1.0, 0.84, 0.74, 0.92};
-    for (std::size_t i = 0; i < pipeOf.size(); ++i)
-        kind.firings.push_back({static_cast<double>(i) / 8, bangOf[i], pipeOf[i]});
-    kind.pulse = 0.0017;
-    kind.pipes = {1.9, 2.25};
-    kind.muffler = 1100;
-    kind.lope = 0.2;
-    return kind;
-}
+// Firings, pulse, pipes, ring, muffler, roughness, lope, intake, hiss, ticking and its pitch, whine and its
+// ratio, crackle.
+const EngineKind burblingEight{burble, 0.0017, {1.9, 2.25}, 0.62, 1100, 0.12, 0.2};
+const EngineKind screamingEight{Evenly(8, 2), 0.0006, {0.75, 0.8}, 0.7,  4800, 0.2, 0,
+                                0.4,          0.10,   0.05,        3200, 0,    12,  0.8};
+const EngineKind straightSix{Evenly(6, 1), 0.0022, {2.6, 2.6}, 0.5, 620, 0.08, 0, 0.25, 0.10, 0.12, 2300};
+const EngineKind airCooledSix{Evenly(6, 2), 0.0010, {0.9, 1.05}, 0.66, 1900, 0.12, 0,
+                              0.45,         0.10,   0.2,         4200, 0.05, 19};
+const EngineKind straightFour{Evenly(4, 1), 0.0007, {0.85, 0.85}, 0.6, 3600, 0.12, 0, 0.35, 0.10, 0.08};
+const EngineKind bigTwin{{{0.0, 1.0, 0}, {315.0 / 720.0, 0.86, 1}},
+                         0.0026,
+                         {0.95, 1.15},
+                         0.5,
+                         1700,
+                         0.2,
+                         0.45,
+                         0.25,
+                         0.10,
+                         0.1,
+                         2600};
+const EngineKind diesel{Evenly(6, 2), 0.0030, {3.4, 3.4}, 0.45, 700,  0.12, 0,
+                        0.25,         0.10,   0.55,       1250, 0.06, 41};
+const EngineKind turbocharged{Evenly(8, 2), 0.0006, {0.75, 0.8}, 0.7,  3000, 0.2, 0,
+                              0.4,          0.10,   0.05,        3200, 0.16, 17,  0.3};
 
-EngineKind ScreamingEight()
+EngineKind Tuned(EngineKind kind, const Tuning& tuning)
 {
-    EngineKind kind;
-    kind.firings = Evenly(8);
-    kind.pulse = 0.0006;
-    kind.pipes = {0.75, 0.8};
-    kind.ring = 0.7;
-    kind.muffler = 4800;
-    kind.rough = 0.2;
-    kind.intake = 0.4;
-    kind.crackle = 0.8;
-    return kind;
-}
-
-EngineKind StraightSix()
-{
-    EngineKind kind;
-    kind.firings = Evenly(6);
-    for (Firing& firing : kind.firings)
-        firing.pipe = 0;
-    kind.pulse = 0.0022;
-    kind.pipes = {2.6, 2.6};
-    kind.ring = 0.5;
-    kind.muffler = 620;
-    kind.rough = 0.08;
-    kind.ticking = 0.12;
-    kind.tickHertz = 2300;
-    return kind;
-}
-
-EngineKind AirCooledSix()
-{
-    EngineKind kind;
-    kind.firings = Evenly(6);
-    kind.pulse = 0.0010;
-    kind.pipes = {0.9, 1.05};
-    kind.ring = 0.66;
-    kind.muffler = 1900;
-    kind.intake = 0.45;
-    kind.ticking = 0.2;
-    kind.tickHertz = 4200;
-    kind.whine = 0.05;
-    kind.whineRatio = 19;
-    return kind;
-}
-
-EngineKind StraightFour()
-{
-    EngineKind kind;
-    kind.firings = Evenly(4);
-    for (Firing& firing : kind.firings)
-        firing.pipe = 0;
-    kind.pulse = 0.0007;
-    kind.pipes = {0.85, 0.85};
-    kind.ring = 0.6;
-    kind.muffler = 3600;
-    kind.intake = 0.35;
-    kind.ticking = 0.08;
-    return kind;
-}
-
-EngineKind BigTwin()
-{
-    EngineKind kind;
-    kind.firings = {{0.0, 1.0, 0}, {315.0 / 720.0, 0.86, 1}};
-    kind.pulse = 0.0026;
-    kind.pipes = {0.95, 1.15};
-    kind.ring = 0.5;
-    kind.muffler = 1700;
-    kind.rough = 0.2;
-    kind.lope = 0.45;
-    kind.ticking = 0.1;
-    kind.tickHertz = 2600;
-    return kind;
-}
-
-EngineKind Diesel()
-{
-    EngineKind kind;
-    kind.firings = Evenly(6);
-    kind.pulse = 0.0030;
-    kind.pipes = {3.4, 3.4};
-    kind.ring = 0.45;
-    kind.muffler = 700;
-    kind.ticking = 0.55;
-    kind.tickHertz = 1250;
-    kind.whine = 0.06;
-    kind.whineRatio = 41;
-    return kind;
-}
-
-EngineKind Turbocharged()
-{
-    EngineKind kind = ScreamingEight();
-    kind.muffler = 3000;
-    kind.whine = 0.16;
-    kind.whineRatio = 17;
-    kind.crackle = 0.3;
+    kind.pulse = tuning.pulse.value_or(kind.pulse);
+    kind.pipes = tuning.pipes.value_or(kind.pipes);
+    kind.ring = tuning.ring.value_or(kind.ring);
+    kind.muffler = tuning.muffler.value_or(kind.muffler);
+    kind.rough = tuning.rough.value_or(kind.rough);
+    kind.lope = tuning.lope.value_or(kind.lope);
+    kind.whine = tuning.whine.value_or(kind.whine);
+    kind.whineRatio = tuning.whineRatio.value_or(kind.whineRatio);
+    kind.crackle = tuning.crackle.value_or(kind.crackle);
     return kind;
 }
 
@@ -250,6 +177,11 @@ Sound RunEngine(const EngineKind& kind, const Driving& driving)
             kind.whine * std::sin(2 * pi * whinePhase) * (0.3 + 0.7 * throttle) * std::min(1.5, revs / 3500);
     }
     return Filtered(std::move(sound), Filter::HighPass(45));
+}
+
+Sound Running(const EngineKind& kind, const Driving& driving, double level)
+{
+    return Levelled(RunEngine(kind, driving), level);
 }
 
 Sound CrankEngine(double seconds, double turns, std::uint32_t seed)

@@ -8,12 +8,12 @@ namespace torvik::sample {
 
 namespace {
 
-struct Corner {
+struct Cutoff {
     double cosine;
     double alpha;
 };
 
-Corner CornerAt(double hertz, double q)
+Cutoff CutoffAt(double hertz, double q)
 {
     const double w = 2 * pi * std::clamp(hertz, 5.0, soundRate * 0.48) / soundRate;
     return {std::cos(w), std::sin(w) / (2 * q)};
@@ -23,7 +23,7 @@ Corner CornerAt(double hertz, double q)
 
 Filter Filter::LowPass(double hertz, double q)
 {
-    const auto [c, alpha] = CornerAt(hertz, q);
+    const auto [c, alpha] = CutoffAt(hertz, q);
     const double a0 = 1 + alpha;
     Filter f;
     f.b1_ = (1 - c) / a0;
@@ -35,7 +35,7 @@ Filter Filter::LowPass(double hertz, double q)
 
 Filter Filter::HighPass(double hertz, double q)
 {
-    const auto [c, alpha] = CornerAt(hertz, q);
+    const auto [c, alpha] = CutoffAt(hertz, q);
     const double a0 = 1 + alpha;
     Filter f;
     f.b1_ = -(1 + c) / a0;
@@ -47,7 +47,7 @@ Filter Filter::HighPass(double hertz, double q)
 
 Filter Filter::BandPass(double hertz, double q)
 {
-    const auto [c, alpha] = CornerAt(hertz, q);
+    const auto [c, alpha] = CutoffAt(hertz, q);
     const double a0 = 1 + alpha;
     Filter f;
     f.b0_ = alpha / a0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sample/sounds/sources.h"
+#include "sample/sounds/sound.h"
 
 namespace torvik::sample {
 

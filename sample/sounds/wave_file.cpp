@@ -4,6 +4,8 @@
 #include "sample/geometry/noise.h"
 #include "sample/geometry/vec.h"
 
+#include <QStringBuilder>
+
 namespace torvik::sample {
 
 Sound AtRate(const Sound& sound, int rate)
@@ -56,23 +58,15 @@ QByteArray PcmSamples(const std::vector<Sound>& channels, const SoundForm& form)
 
 QByteArray PcmFormat(int channels, const SoundForm& form)
 {
-    const auto frame = static_cast<std::uint32_t>(channels * form.bits / 8);
-    const auto rate = static_cast<std::uint32_t>(form.rate);
-    QByteArray format;
-    AppendNumber(format, 1, 2);
-    AppendNumber(format, static_cast<std::uint32_t>(channels), 2);
-    AppendNumber(format, rate, 4);
-    AppendNumber(format, rate * frame, 4);
-    AppendNumber(format, frame, 2);
-    AppendNumber(format, static_cast<std::uint32_t>(form.bits), 2);
-    return format;
+    const int frame = channels * form.bits / 8;
+    return Words({1, channels}) + Longs({form.rate, form.rate * frame}) + Words({frame, form.bits});
 }
 
 QByteArray WaveFile(const std::vector<Sound>& channels, const SoundForm& form)
 {
-    QByteArray chunks = RiffChunk("fmt ", PcmFormat(static_cast<int>(channels.size()), form));
-    chunks += RiffChunk("data", PcmSamples(channels, form));
-    return RiffList("RIFF", "WAVE", chunks);
+    return RiffList("RIFF", "WAVE",
+                    RiffChunk("fmt ", PcmFormat(static_cast<int>(channels.size()), form)) +
+                        RiffChunk("data", PcmSamples(channels, form)));
 }
 
 } // namespace torvik::sample

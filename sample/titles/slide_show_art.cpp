@@ -1,6 +1,5 @@
-#include "sample/titles/slide_show_art.h"
-
-#include "sample/photos/photographer.h"
+#include "sample/geometry/shapes.h"
+#include "sample/motifs/motifs.h"
 #include "sample/render/tabletop.h"
 #include "sample/titles/title_art.h"
 
@@ -49,15 +48,11 @@ void PaintRoom(QPainter& p, QSize size)
     const double w = size.width();
     const double h = size.height();
     p.drawImage(0, 0, WoodTable(size, QColor(92, 58, 36), 29));
-    QRadialGradient pool({w * 0.5, h * 0.62}, w * 0.62);
-    pool.setColorAt(0, QColor(10, 6, 4, 20));
-    pool.setColorAt(0.45, QColor(10, 6, 4, 110));
-    pool.setColorAt(1, QColor(6, 4, 4, 238));
-    p.fillRect(QRectF(0, 0, w, h), pool);
-    QRadialGradient glow({w * 0.5, h * 0.66}, w * 0.42);
-    glow.setColorAt(0, QColor(255, 214, 150, 84));
-    glow.setColorAt(1, QColor(255, 190, 110, 0));
-    p.fillRect(QRectF(0, 0, w, h), glow);
+    p.fillRect(QRectF(0, 0, w, h),
+               Radial({w * 0.5, h * 0.62}, w * 0.62,
+                      {{0, QColor(10, 6, 4, 20)}, {0.45, QColor(10, 6, 4, 110)}, {1, QColor(6, 4, 4, 238)}}));
+    p.fillRect(QRectF(0, 0, w, h), Radial({w * 0.5, h * 0.66}, w * 0.42,
+                                          {{0, QColor(255, 214, 150, 84)}, {1, QColor(255, 190, 110, 0)}}));
 }
 
 void PaintTransparency(QPainter& p, const Transparency& slide, QSize size)
@@ -66,26 +61,19 @@ void PaintTransparency(QPainter& p, const Transparency& slide, QSize size)
     const QRectF body(-frame / 2, -frame * 0.44, frame, frame * 0.88);
     const QRectF aperture(-frame * apertureOfFrame.width() / 2, -frame * apertureOfFrame.height() * 0.58,
                           frame * apertureOfFrame.width(), frame * apertureOfFrame.height());
-    QPainterPath card;
-    card.addRoundedRect(body, frame * 0.035, frame * 0.035);
+    const QPainterPath card = Rounded(body, frame * 0.035);
     p.save();
     p.translate(size.width() * slide.x, size.height() * slide.y);
     p.rotate(slide.degrees);
-    DropShadow(p, card, frame * 0.035, 0.85);
-    QLinearGradient paper(body.topLeft(), body.bottomRight());
-    paper.setColorAt(0, QColor(252, 249, 240));
-    paper.setColorAt(1, QColor(214, 206, 190));
-    p.fillPath(card, paper);
+    LayFlat(
+        p, card, frame * 0.035, 0.85,
+        Linear(body.topLeft(), body.bottomRight(), {{0, QColor(252, 249, 240)}, {1, QColor(214, 206, 190)}}));
     p.setPen(QPen(QColor(120, 108, 90), frame * 0.004));
     p.drawPath(card);
     const QRectF rim = aperture.adjusted(-frame * 0.012, -frame * 0.012, frame * 0.012, frame * 0.012);
     p.fillRect(rim, QColor(52, 46, 40));
     p.drawImage(aperture, PhotoFor(slide, (aperture.size() * 1.0).toSize()));
-    QFont hand(u"Liberation Serif"_s);
-    hand.setItalic(true);
-    hand.setBold(true);
-    hand.setPixelSize(static_cast<int>(frame * 0.08));
-    p.setFont(hand);
+    p.setFont(FontOf("Liberation Serif", frame * 0.08, true, true));
     p.setPen(QColor(142, 27, 31));
     p.drawText(QRectF(body.left(), rim.bottom(), frame, body.bottom() - rim.bottom()), Qt::AlignCenter,
                QString::fromLatin1(slide.label));
@@ -97,19 +85,14 @@ void PaintTransparency(QPainter& p, const Transparency& slide, QSize size)
 QImage PaintSlideShow(QSize size)
 {
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    SmoothPainter p(&picture);
     PaintRoom(p, size);
     for (const Transparency& slide : pile)
         PaintTransparency(p, slide, size);
     const double w = size.width();
     const double h = size.height();
-    QLinearGradient veil(0, 0, 0, h * 0.26);
-    veil.setColorAt(0, QColor(8, 5, 4, 220));
-    veil.setColorAt(0.6, QColor(8, 5, 4, 120));
-    veil.setColorAt(1, QColor(8, 5, 4, 0));
-    p.fillRect(QRectF(0, 0, w, h * 0.26), veil);
+    p.fillRect(QRectF(0, 0, w, h * 0.26),
+               Linear({0, 0}, {0, h * 0.26}, Veil(QColor(8, 5, 4), {{0, 220}, {0.6, 120}, {1, 0}})));
     TitleText(p, u"The Torvik Vollandry"_s, {w * 0.5, h * 0.085}, h * 0.105, u"Liberation Serif"_s, true,
               100);
     TitleText(p, u"SLIDE SHOW"_s, {w * 0.5, h * 0.172}, h * 0.045, u"Liberation Sans"_s, false, 150);

@@ -1,9 +1,10 @@
 #include "sample/titles/title_art.h"
 
 #include "sample/car/car_mesh.h"
+#include "sample/car/paints.h"
 #include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
 #include "sample/photos/photographer.h"
-#include "sample/render/blur.h"
 #include "sample/render/film.h"
 #include "sample/render/renderer.h"
 #include "sample/render/tabletop.h"
@@ -17,14 +18,15 @@ namespace {
 Scenery Evening(std::uint32_t seed)
 {
     Scenery s = CoastScenery(seed);
-    s.light.toSun = Unit({-0.75, 0.75, 0.20});
-    s.light.sun = {2.6, 1.35, 0.55};
-    s.light.zenith = {0.07, 0.09, 0.22};
-    s.light.horizon = {1.0, 0.50, 0.22};
-    s.light.ground = {0.12, 0.09, 0.08};
-    s.light.band = {0.035, 0.03, 0.045};
-    s.light.bandHeight = 0.12;
-    s.light.clouds = 0.55;
+    s.light = Daylight{.toSun = Unit({-0.75, 0.75, 0.20}),
+                       .sun = {2.6, 1.35, 0.55},
+                       .zenith = {0.07, 0.09, 0.22},
+                       .horizon = {1.0, 0.50, 0.22},
+                       .ground = {0.12, 0.09, 0.08},
+                       .band = {0.035, 0.03, 0.045},
+                       .bandHeight = 0.12,
+                       .clouds = 0.55,
+                       .seed = seed};
     s.haze = {0.75, 0.38, 0.20};
     s.shadowStrength = 0.5;
     s.floorShine = 0.18;
@@ -49,10 +51,7 @@ void AddCar(QImage& picture, const CarShape& shape, const Paint& paint, const Tr
     Environment around = light;
     around.toSun = turned(light.toSun);
     const CarSkin skin = DrawCarSkin(shape, paint, trim, side, SharpnessFor(shape, own, picture.size()));
-    Subject subject;
-    subject.parts = BuildCar(shape);
-    subject.shape = &shape;
-    subject.skin = &skin;
+    const Subject subject{.parts = BuildCar(shape), .shape = &shape, .skin = &skin};
     around.Prepare();
     around.shadow = std::make_shared<GroundShadow>(subject.parts, around.toSun, 0.35, 3);
     const int horizon = std::clamp(Floor(camera.HorizonRow()) + 1, 0, picture.height());
@@ -93,12 +92,11 @@ void TitleText(QPainter& p, const QString& text, const QPointF& middle, double h
     path = place.map(path);
     DropShadow(p, path, height * 0.10, 0.85);
     const QRectF b = path.boundingRect();
-    QLinearGradient gold(b.topLeft(), b.bottomLeft());
-    gold.setColorAt(0, QColor(255, 250, 236));
-    gold.setColorAt(0.48, QColor(240, 220, 176));
-    gold.setColorAt(0.52, QColor(176, 140, 88));
-    gold.setColorAt(1, QColor(255, 236, 190));
-    p.fillPath(path, gold);
+    p.fillPath(path, Linear(b.topLeft(), b.bottomLeft(),
+                            {{0, QColor(255, 250, 236)},
+                             {0.48, QColor(240, 220, 176)},
+                             {0.52, QColor(176, 140, 88)},
+                             {1, QColor(255, 236, 190)}}));
     p.strokePath(path, QPen(QColor(60, 34, 14, 150), height * 0.012));
 }
 
@@ -119,19 +117,14 @@ QImage PaintOpening(QSize size)
                                    {1975, 0, 1.9, 1.7, 0.10},    {1971, 4, -1.6, 1.3, 0.02},
                                    {1967, 0, -1.2, -1.9, -0.08}, {1999, 3, 4.6, -1.9, 0.10}};
     for (const Guest& guest : guests) {
-        Trim trim;
-        trim.plate = QString::number(guest.year);
-        trim.script = u"Vollandry"_s;
-        trim.lampsLit = true;
+        const Trim trim{.plate = QString::number(guest.year), .script = u"Vollandry"_s, .lampsLit = true};
         const auto& card = PaintsOfYear(guest.year);
-        AddCar(picture, ShapeOfYear(guest.year), card[static_cast<std::size_t>(guest.paint) % card.size()],
-               trim, guest.angle, {guest.x, guest.y, 0}, camera, scenery.light, CarSide::Left);
+        AddCar(picture, ShapeOfYear(guest.year), Cycled(card, guest.paint), trim, guest.angle,
+               {guest.x, guest.y, 0}, camera, scenery.light, CarSide::Left);
     }
     picture = picture.convertToFormat(QImage::Format_RGB32);
     Develop(picture, 2001, 4711);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    SmoothPainter p(&picture);
     const double w = size.width();
     const double h = size.height();
     TitleText(p, u"The Torvik Vollandry"_s, {w * 0.5, h * 0.13}, h * 0.155, u"Liberation Serif"_s, true, 100);
@@ -144,21 +137,14 @@ QImage PaintSplash(int factor)
     const QSize size(600 * factor, 400 * factor);
     const Camera camera = LookAt({-6.2, -5.6, 1.05}, {0.15, 0.2, 1.12}, 44, size);
     const CarShape shape = ShapeOfYear(1967);
-    Trim trim;
-    trim.plate = u"2001"_s;
-    trim.script = u"Vollandry"_s;
-    trim.lampsLit = true;
+    const Trim trim{.plate = u"2001"_s, .script = u"Vollandry"_s, .lampsLit = true};
     QImage picture =
         PhotographCar(shape, PaintsOfYear(1967)[0], trim, Evening(11), camera, size, CarSide::Left);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    SmoothPainter p(&picture);
     const double w = size.width();
     const double h = size.height();
-    QLinearGradient veil(0, 0, 0, h * 0.5);
-    veil.setColorAt(0, QColor(14, 8, 24, 170));
-    veil.setColorAt(1, QColor(14, 8, 24, 0));
-    p.fillRect(QRectF(0, 0, w, h * 0.5), veil);
+    p.fillRect(QRectF(0, 0, w, h * 0.5),
+               Linear({0, 0}, {0, h * 0.5}, Veil(QColor(14, 8, 24), {{0, 170}, {1, 0}})));
     TitleText(p, u"The Torvik"_s, {w * 0.5, h * 0.105}, h * 0.115, u"Liberation Serif"_s, true, 100);
     TitleText(p, u"Vollandry 2001"_s, {w * 0.5, h * 0.235}, h * 0.165, u"Liberation Serif"_s, true, 100);
     p.setPen(QPen(QColor(240, 214, 160), 2.0 * factor));
@@ -173,19 +159,12 @@ QImage PaintIcon(int size)
 {
     QImage picture(size, size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    SmoothPainter p(&picture);
     const double s = size;
-    const QPainterPath shield = ShieldPath({s * 0.5, s * 0.47}, s * 0.42);
-    DropShadow(p, shield, s * 0.02, 0.6);
-    FillMetal(p, shield, QColor(202, 204, 210), 0.9);
+    LayMetal(p, ShieldPath({s * 0.5, s * 0.47}, s * 0.42), s * 0.02, 0.6, QColor(202, 204, 210), 0.9);
     const QPainterPath field = ShieldPath({s * 0.5, s * 0.47}, s * 0.37);
-    QLinearGradient sky(0, s * 0.1, 0, s * 0.9);
-    sky.setColorAt(0, QColor(120, 10, 22));
-    sky.setColorAt(0.5, QColor(206, 40, 40));
-    sky.setColorAt(1, QColor(92, 6, 16));
-    p.fillPath(field, sky);
+    p.fillPath(field, Linear({0, s * 0.1}, {0, s * 0.9},
+                             {{0, QColor(120, 10, 22)}, {0.5, QColor(206, 40, 40)}, {1, QColor(92, 6, 16)}}));
     p.strokePath(field, QPen(QColor(60, 4, 10), s * 0.012));
     const QPainterPath tee = WingedT({s * 0.5, s * 0.42}, s * 0.27);
     QTransform raise = QTransform::fromTranslate(0, -s * 0.03);
@@ -193,8 +172,7 @@ QImage PaintIcon(int size)
     p.setOpacity(0.9);
     p.fillPath(raise.map(tee), QColor(250, 226, 180, 90));
     p.restore();
-    Trim trim;
-    trim.plate = u"2001"_s;
+    const Trim trim{.plate = u"2001"_s};
     const Paint silver{QString(), QColor(206, 210, 216), 0.9};
     const QImage car =
         CutOutCar(ShapeOfYear(1967), silver, trim, View::FrontLeft, QSize(size * 2, size * 6 / 5));

@@ -19,4 +19,7 @@ QImage PaintSplash(int factor);
 /// The program's sign.
 QImage PaintIcon(int size);
 
+/// What the slide show opens with: framed transparencies in the light of a projector, with the title.
+QImage PaintSlideShow(QSize size);
+
 } // namespace torvik::sample

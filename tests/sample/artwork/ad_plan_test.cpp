@@ -1,10 +1,8 @@
-#include "sample/artwork/ad_art.h"
-#include "sample/artwork/ad_copy.h"
+#include "sample/artwork/ad_layouts.h"
 #include "sample/artwork/ad_plan.h"
 #include "sample/documents/colour_cards.h"
-#include "sample/documents/model_years.h"
-#include "sample/documents/options.h"
-#include "sample/documents/text_store.h"
+#include "sample/documents/figures.h"
+#include "sample/files/text_store.h"
 
 #include <QGuiApplication>
 #include <QRegularExpression>

@@ -1,7 +1,4 @@
 #include "sample/artwork/art_plan.h"
-#include "sample/artwork/clip_art.h"
-#include "sample/artwork/emblem_art.h"
-#include "sample/artwork/script_art.h"
 #include "sample/files/jpeg_file.h"
 
 #include <QGuiApplication>

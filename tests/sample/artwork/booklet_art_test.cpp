@@ -1,5 +1,5 @@
 #include "sample/artwork/art_maker.h"
-#include "sample/artwork/booklet_art.h"
+#include "sample/artwork/art_plan.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>

@@ -1,7 +1,6 @@
 #include "rtf/rtf_reader.h"
 #include "sample/documents/document_plan.h"
-#include "sample/documents/model_years.h"
-#include "sample/documents/options.h"
+#include "sample/documents/figures.h"
 
 #include <QGuiApplication>
 #include <QSet>

@@ -1,5 +1,5 @@
 #include "rtf/rtf_reader.h"
-#include "sample/documents/help_file.h"
+#include "sample/documents/document_plan.h"
 #include "ui/help_topics.h"
 
 #include <QSet>

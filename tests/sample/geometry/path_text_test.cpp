@@ -1,5 +1,5 @@
 #include "sample/artwork/pen_script.h"
-#include "sample/geometry/path_text.h"
+#include "sample/geometry/shapes.h"
 
 #include <QTest>
 

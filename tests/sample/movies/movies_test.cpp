@@ -1,6 +1,6 @@
 #include "sample/files/avi_file.h"
 #include "sample/movies/movie_plan.h"
-#include "sample/sounds/sources.h"
+#include "sample/sounds/sound.h"
 #include "sample/sounds/wave_file.h"
 
 #include <QtTest>
@@ -109,7 +109,7 @@ MoviePlan Shortened(std::size_t which)
     MoviePlan plan = Movies()[which];
     plan.shots.resize(1);
     plan.shots[0].seconds = 0.75;
-    plan.sound = [](double seconds) { return PureTone(seconds, [](double) { return 440.0; }); };
+    plan.sound = [](double seconds) { return PureTone(seconds, Always(440.0)); };
     return plan;
 }
 

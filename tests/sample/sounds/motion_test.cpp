@@ -29,7 +29,7 @@ class MotionTest : public QObject {
     Q_OBJECT
 
 private:
-    const Sound tone_ = PureTone(6, [](double) { return 500.0; });
+    const Sound tone_ = PureTone(6, Always(500.0));
     const Drive drive_{[](double t) { return 34 * (t - 3); }, 2};
 
 private Q_SLOTS:

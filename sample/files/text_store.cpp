@@ -1,4 +1,4 @@
-#include "sample/documents/text_store.h"
+#include "sample/files/text_store.h"
 
 #include <QFile>
 #include <QStringList>

@@ -1,13 +1,56 @@
-#include "sample/artwork/car_drawing.h"
+#include "sample/artwork/flat_drawing.h"
 
-#include "sample/artwork/clip_icon.h"
 #include "sample/car/car_mesh.h"
+#include "sample/geometry/lettering.h"
+#include "sample/geometry/shapes.h"
 
 #include <QPainterPath>
+#include <QStringList>
+
+#include <stdexcept>
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+constexpr double iconOutline = 1.8;
+
+QColor ColourOf(const QString& word)
+{
+    const QColor colour(u'#' + word);
+    if (!colour.isValid())
+        throw std::runtime_error("There is no such colour: " + word.toStdString());
+    return colour;
+}
+
+QPointF PointOf(const QString& word)
+{
+    return PathFromText(u'M' + word + u" L"_s + word).elementAt(0);
+}
+
+void DrawLine(QPainter& p, const QStringList& words)
+{
+    if (words.size() < 4)
+        throw std::runtime_error("A line of a small picture is too short: " + words.join(u' ').toStdString());
+    const QColor colour = ColourOf(words[1]);
+    const double size = words[2].toDouble();
+    const auto rest = [&](qsizetype from) { return QStringList(words.mid(from)).join(u' '); };
+    if (words[0] == "fill"_L1)
+        FillOutlined(p, PathFromText(rest(2)), colour, iconOutline);
+    else if (words[0] == "disc"_L1)
+        FillOutlined(p, Disc(PointOf(words[2]), words[3].toDouble()), colour, iconOutline);
+    else if (words[0] == "line"_L1)
+        p.strokePath(PathFromText(rest(3)), QPen(colour, size, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    else if (words[0] == "ring"_L1)
+        p.strokePath(Disc(PointOf(words[3]), words.value(4).toDouble()), QPen(colour, size));
+    else if (words[0] == "text"_L1)
+        p.fillPath(Centred(Lettering(rest(4), size * 0.72, {u"Liberation Sans"_s, true}), PointOf(words[3])),
+                   colour);
+    else
+        throw std::runtime_error("A small picture has an unknown line: " + words[0].toStdString());
+}
 
 const QColor chromeTone(206, 210, 216);
 const QColor darkTone(30, 30, 34);
@@ -20,9 +63,7 @@ struct Sheet {
     QPointF At(double s, double z) const { return foot + QPointF(s * scale, -z * scale); }
     QPainterPath Box(double s0, double z0, double s1, double z1) const
     {
-        QPainterPath path;
-        path.addRoundedRect(QRectF(At(s0, z1), At(s1, z0)), scale * 0.02, scale * 0.02);
-        return path;
+        return Rounded(QRectF(At(s0, z1), At(s1, z0)), scale * 0.02);
     }
 };
 
@@ -77,12 +118,26 @@ void DrawEnds(QPainter& p, const CarShape& c, const Sheet& sheet, double outline
 
 } // namespace
 
+void FillOutlined(QPainter& painter, const QPainterPath& shape, const QColor& colour, double outline)
+{
+    painter.fillPath(shape, colour);
+    painter.strokePath(shape, QPen(QColor(26, 24, 26), outline, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+}
+
+void DrawIcon(QPainter& painter, const QRectF& box, const QString& lines)
+{
+    painter.save();
+    painter.translate(box.topLeft());
+    painter.scale(box.width() / 64, box.height() / 64);
+    for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts))
+        DrawLine(painter, line.split(u' ', Qt::SkipEmptyParts));
+    painter.restore();
+}
+
 void DrawWheel(QPainter& p, WheelFace face, const QPointF& middle, double radius)
 {
     const auto disc = [&](double share, const QColor& colour, double outline) {
-        QPainterPath path;
-        path.addEllipse(middle, radius * share, radius * share);
-        FillOutlined(p, path, colour, outline);
+        FillOutlined(p, Disc(middle, radius * share), colour, outline);
     };
     disc(1.0, darkTone, radius * 0.05);
     disc(0.68, chromeTone, radius * 0.04);
@@ -116,8 +171,7 @@ void DrawCarSide(QPainter& p, const CarShape& c, const QColor& paint, const QPoi
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(0, 0, 0, 60));
     p.drawEllipse(sheet.At(c.length / 2, 0.0), c.length * scale * 0.53, scale * 0.06);
-    const QPainterPath cabin = CabinOf(c, sheet, 0, c.cowl, c.cabinEnd);
-    FillOutlined(p, cabin, paint, outline);
+    FillOutlined(p, CabinOf(c, sheet, 0, c.cowl, c.cabinEnd), paint, outline);
     FillOutlined(p, CabinOf(c, sheet, 0.07, c.cowl + 0.16, c.cabinEnd - 0.42), QColor(176, 208, 224),
                  outline * 0.7);
     // The pillar behind the door.
@@ -145,8 +199,7 @@ void DrawCarSide(QPainter& p, const CarShape& c, const QColor& paint, const QPoi
     p.drawLine(sheet.At(c.doorRear, BeltAt(c, c.doorRear)), sheet.At(c.doorRear - 0.03, c.bottom(2) + 0.08));
     DrawEnds(p, c, sheet, outline);
     for (const double axle : {c.frontAxle, c.rearAxle}) {
-        QPainterPath arch;
-        arch.addEllipse(sheet.At(axle, c.wheelRadius), c.archRadius * scale, c.archRadius * scale);
+        const QPainterPath arch = Disc(sheet.At(axle, c.wheelRadius), c.archRadius * scale);
         p.fillPath(arch.intersected(body), darkTone);
         DrawWheel(p, c.wheel, sheet.At(axle, c.wheelRadius), c.wheelRadius * scale);
     }
