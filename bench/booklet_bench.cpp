@@ -4,15 +4,15 @@
 // Usage: booklet_bench [DISC]    DISC is build/disc unless given
 
 #include "bind_handlers.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
 #include "ui/application.h"
-#include "ui/clock.h"
-#include "ui/event.h"
-#include "ui/message_box.h"
-#include "ui/printer.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/event.h"
+#include "ui/forms/message_box.h"
+#include "ui/printer/printer.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -23,6 +23,8 @@
 
 #include <cstdio>
 #include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -68,10 +70,10 @@ void PrintWholeBooklet()
 /// The documents of the disc that the booklet is made of.
 QStringList Documents(const QString& disc)
 {
-    const QDir texts(QDir(disc).filePath(QStringLiteral("RichText")));
+    const QDir texts(QDir(disc).filePath(u"RichText"_s));
     QStringList paths;
     for (const char* ending : {"desc", "opts", "stats", "colors"}) {
-        const QStringList names = texts.entryList({QStringLiteral("??%1.rtf").arg(QLatin1String(ending))});
+        const QStringList names = texts.entryList({u"??%1.rtf"_s.arg(QLatin1String(ending))});
         for (const QString& name : names)
             paths.append(texts.filePath(name));
     }
@@ -80,7 +82,7 @@ QStringList Documents(const QString& disc)
 
 void ConvertWithOfficeSuite(const QString& disc, double ours)
 {
-    const QString suite = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+    const QString suite = QStandardPaths::findExecutable(u"soffice"_s);
     if (suite.isEmpty()) {
         std::printf("an office suite on the same documents: not measured, none is installed\n");
         return;
@@ -88,13 +90,12 @@ void ConvertWithOfficeSuite(const QString& disc, double ours)
     const QTemporaryDir folder;
     const double before = ProcessorSeconds(RUSAGE_CHILDREN);
     QProcess process;
-    process.start(suite, QStringList{QStringLiteral("-env:UserInstallation=file://") + folder.path(),
-                                     QStringLiteral("--headless"), QStringLiteral("--convert-to"),
-                                     QStringLiteral("pdf"), QStringLiteral("--outdir"), folder.path()} +
+    process.start(suite, QStringList{u"-env:UserInstallation=file://"_s + folder.path(), u"--headless"_s,
+                                     u"--convert-to"_s, u"pdf"_s, u"--outdir"_s, folder.path()} +
                              Documents(disc));
     process.waitForFinished(-1);
     const double taken = ProcessorSeconds(RUSAGE_CHILDREN) - before;
-    const auto made = QDir(folder.path()).entryList({QStringLiteral("*.pdf")}).size();
+    const auto made = QDir(folder.path()).entryList({u"*.pdf"_s}).size();
     std::printf("an office suite on the same documents: %.1f s for %d files, ratio %.2f\n", taken,
                 static_cast<int>(made), ours / taken);
 }
@@ -109,7 +110,7 @@ int main(int argc, char** argv)
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     Application application(argc, argv);
-    const QString disc = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("build/disc");
+    const QString disc = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"build/disc"_s;
 
     QStringList messages;
     SetMessageResponder([&](const MessageRequest& request) {
@@ -129,7 +130,7 @@ int main(int argc, char** argv)
     const double before = ProcessorSeconds(RUSAGE_SELF);
     RunHandler(PrintWholeBooklet);
     const double taken = ProcessorSeconds(RUSAGE_SELF) - before;
-    const auto jobs = QDir(printed.path()).entryList({QStringLiteral("job-*.pdf")}).size();
+    const auto jobs = QDir(printed.path()).entryList({u"job-*.pdf"_s}).size();
     if (jobs != expectedJobs) {
         std::printf("%d jobs of %d went out: %s\n", static_cast<int>(jobs), static_cast<int>(expectedJobs),
                     qPrintable(messages.join(u' ')));

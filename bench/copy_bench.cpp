@@ -1,17 +1,17 @@
 // The copying of 42 MB of photos with both gauges and a look at the events after each block, against the
 // system's cp on the same files; and how often the window is painted meanwhile.
 
-#include "local/copy_all.h"
+#include "hard_drive/copy_all_files.h"
 #include "measure.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "shell/program_state.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
 #include "ui/application.h"
-#include "ui/event.h"
-#include "ui/form_window.h"
-#include "ui/message_box.h"
+#include "ui/forms/event.h"
+#include "ui/forms/form_window.h"
+#include "ui/forms/message_box.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>
@@ -19,6 +19,8 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,8 +41,7 @@ bool MakePhotos(const QString& folder)
     if (!QDir().mkpath(folder))
         return false;
     for (int i = 0; i < photoCount; ++i) {
-        QFile photo(
-            QStringLiteral("%1/%2TOR%3.JPG").arg(folder).arg(67 + i % 33).arg(i, 3, 10, QLatin1Char('0')));
+        QFile photo(u"%1/%2TOR%3.JPG"_s.arg(folder).arg(67 + i % 33).arg(i, 3, 10, QLatin1Char('0')));
         if (!photo.open(QIODevice::WriteOnly) || photo.write(content) != photoSize)
             return false;
     }
@@ -73,9 +74,7 @@ private:
 
 double CopyBySystem(const QString& source, const QString& target)
 {
-    return torvik::bench::Milliseconds([&] {
-        QProcess::execute(QStringLiteral("cp"), {QStringLiteral("-r"), source, target});
-    });
+    return torvik::bench::Milliseconds([&] { QProcess::execute(u"cp"_s, {u"-r"_s, source, target}); });
 }
 
 double CopyByProgram()
@@ -96,11 +95,11 @@ int main(int argc, char** argv)
     torvik::SetMessageResponder([](const torvik::MessageRequest&) { return torvik::msgbox::answerOk; });
     const QTemporaryDir disc;
     const QTemporaryDir folder;
-    if (!MakePhotos(disc.filePath(QStringLiteral("Torviks"))))
+    if (!MakePhotos(disc.filePath(u"Torviks"_s)))
         return 2;
     torvik::SetDriveOptions({{u'G', disc.path()}});
     torvik::SetProgramFolder(folder.path());
-    torvik::state.DiscRoot = torvik::state.PhotoRoot = QStringLiteral("G:");
+    torvik::state.DiscRoot = torvik::state.PhotoRoot = u"G:"_s;
     torvik::state.CopyingPhotos = true;
     torvik::Form1->pnlProgress.Show();
     torvik::Form1->Show();
@@ -110,15 +109,14 @@ int main(int argc, char** argv)
     std::vector<double> baselines;
     std::vector<double> pauses;
     for (int round = 0; round < rounds; ++round) {
-        baselines.push_back(
-            CopyBySystem(disc.filePath(QStringLiteral("Torviks")), folder.filePath(QStringLiteral("cp"))));
+        baselines.push_back(CopyBySystem(disc.filePath(u"Torviks"_s), folder.filePath(u"cp"_s)));
         const PaintWatch watch(torvik::Form1->ProgressGuage.Widget());
         figures.push_back(CopyByProgram());
         pauses.push_back(watch.LongestPause());
-        if (QDir(folder.filePath(QStringLiteral("Torviks"))).count() != photoCount + 2u)
+        if (QDir(folder.filePath(u"Torviks"_s)).count() != photoCount + 2u)
             return 2;
-        QDir(folder.filePath(QStringLiteral("cp"))).removeRecursively();
-        QDir(folder.filePath(QStringLiteral("Torviks"))).removeRecursively();
+        QDir(folder.filePath(u"cp"_s)).removeRecursively();
+        QDir(folder.filePath(u"Torviks"_s)).removeRecursively();
     }
     const bool isFast = torvik::bench::Report("copy of 42 MB", "ms", torvik::bench::Median(figures),
                                               torvik::bench::Median(baselines), limit);

@@ -4,15 +4,15 @@
 #include "av/media_reader.h"
 #include "bind_handlers.h"
 #include "measure.h"
-#include "media/frm_movie.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "shell/program_state.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
 #include "support/test_movie.h"
-#include "ui/file_source.h"
-#include "ui/message_box.h"
+#include "ui/forms/message_box.h"
+#include "ui/media/file_source.h"
+#include "windows/main_window.h"
+#include "windows/movie_window.h"
+#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>
@@ -23,6 +23,8 @@
 #include <algorithm>
 #include <variant>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -66,7 +68,7 @@ double LongestBlock()
 {
     MediaControl& device = frmMovie->MMControl1.Device;
     double longest = bench::Milliseconds([] { frmMovie->optMovie(1).Click.Fire(); });
-    longest = std::max(longest, bench::Milliseconds([&] { device.Command(QStringLiteral("play")); }));
+    longest = std::max(longest, bench::Milliseconds([&] { device.Command(u"play"_s); }));
     while (device.Position() < 200)
         longest = std::max(longest, bench::Milliseconds([] { QCoreApplication::processEvents(); }));
     return longest;
@@ -76,17 +78,17 @@ bool Measure()
 {
     const QTemporaryDir disc;
     const QTemporaryDir program;
-    Write(disc.filePath(QStringLiteral("Torviks/67A.JPG")), "no photo");
-    const QString sound = disc.filePath(QStringLiteral("wav/backfrng.wav"));
-    const QString movie = disc.filePath(QStringLiteral("movies/Torvik69.avi"));
+    Write(disc.filePath(u"Torviks/67A.JPG"_s), "no photo");
+    const QString sound = disc.filePath(u"wav/backfrng.wav"_s);
+    const QString movie = disc.filePath(u"movies/Torvik69.avi"_s);
     Write(sound, TestMovie::Wav());
     Write(movie, TestMovie::Avi());
     SetProgramFolder(program.path());
     SetDriveOptions({{u'E', disc.path()}});
     SetMessageResponder([](const MessageRequest&) { return msgbox::answerOk; });
     Form2.LoadForm();
-    state.YearCode = QStringLiteral("67");
-    state.MovieFolder = QStringLiteral("E:\\movies\\");
+    state.YearCode = u"67"_s;
+    state.MovieFolder = u"E:\\movies\\"_s;
 
     std::vector<double> presses;
     std::vector<double> bareSounds;

@@ -1,7 +1,7 @@
 // Look-ups in a folder of 30,000 files under the wrong letter case against those under the right one.
 
 #include "measure.h"
-#include "platform/drives.h"
+#include "platform/paths/drives.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +11,8 @@
 #include <chrono>
 #include <thread>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,11 +26,11 @@ QStringList MakePhotos(const QString& folder)
     QStringList paths;
     QDir().mkpath(folder);
     for (int i = 0; i < photoCount; ++i) {
-        const QString name = QStringLiteral("67TOR%1.JPG").arg(i, 5, 10, QLatin1Char('0'));
+        const QString name = u"67TOR%1.JPG"_s.arg(i, 5, 10, QLatin1Char('0'));
         if (!QFile(folder + QLatin1Char('/') + name).open(QIODevice::WriteOnly))
             return {};
         if (i % stride == 0)
-            paths.append(QStringLiteral("E:\\Torviks\\") + name);
+            paths.append(u"E:\\Torviks\\"_s + name);
     }
     return paths;
 }
@@ -62,7 +64,7 @@ bool Compare(const char* name, const QStringList& right, const QStringList& wron
 int main()
 {
     const QTemporaryDir disc;
-    const QStringList right = MakePhotos(disc.filePath(QStringLiteral("Torviks")));
+    const QStringList right = MakePhotos(disc.filePath(u"Torviks"_s));
     if (right.isEmpty())
         return 2;
     torvik::SetDriveOptions({{u'E', disc.path()}});
@@ -73,11 +75,11 @@ int main()
     QStringList wrongFolder = right;
     QStringList wrongBoth = right;
     for (QString& path : wrongName)
-        path.replace(QStringLiteral("67TOR"), QStringLiteral("67tor"));
+        path.replace(u"67TOR"_s, u"67tor"_s);
     for (QString& path : wrongFolder)
-        path.replace(QStringLiteral("Torviks"), QStringLiteral("TORVIKS"));
+        path.replace(u"Torviks"_s, u"TORVIKS"_s);
     for (QString& path : wrongBoth)
-        path = path.toLower().replace(0, 1, QStringLiteral("E"));
+        path = path.toLower().replace(0, 1, u"E"_s);
     bool isOk = Compare("path look-up, name in the wrong case", right, wrongName);
     isOk = Compare("path look-up, folder in the wrong case", right, wrongFolder) && isOk;
     isOk = Compare("path look-up, both in the wrong case", right, wrongBoth) && isOk;

@@ -2,8 +2,8 @@
 // a sort.
 
 #include "measure.h"
-#include "platform/drives.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
+#include "platform/paths/drives.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,6 +13,8 @@
 #include <dirent.h>
 #include <string>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,7 +27,7 @@ bool MakePhotos(const QString& folder)
     if (!QDir().mkpath(folder))
         return false;
     for (int i = 0; i < photoCount; ++i) {
-        const QString name = QStringLiteral("%1tor%2.jpg").arg(67 + i % 33).arg(i, 5, 10, QLatin1Char('0'));
+        const QString name = u"%1tor%2.jpg"_s.arg(67 + i % 33).arg(i, 5, 10, QLatin1Char('0'));
         if (!QFile(folder + QLatin1Char('/') + name).open(QIODevice::WriteOnly))
             return false;
     }
@@ -45,7 +47,7 @@ std::size_t BareNames(const std::string& folder)
 
 std::size_t PhotoNames()
 {
-    QStringList names = torvik::FilesMatching(QStringLiteral("E:\\Torviks\\*.jpg"));
+    QStringList names = torvik::FilesMatching(u"E:\\Torviks\\*.jpg"_s);
     for (QString& name : names)
         name = name.toUpper();
     std::sort(names.begin(), names.end());
@@ -57,7 +59,7 @@ std::size_t PhotoNames()
 int main()
 {
     const QTemporaryDir disc;
-    const QString folder = disc.filePath(QStringLiteral("Torviks"));
+    const QString folder = disc.filePath(u"Torviks"_s);
     if (!MakePhotos(folder))
         return 2;
     torvik::SetDriveOptions({{u'E', disc.path()}});

@@ -3,13 +3,13 @@
 
 #include "bind_handlers.h"
 #include "measure.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
 #include "scene.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "ui/clock.h"
-#include "ui/form_window.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/form_window.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>
@@ -20,6 +20,8 @@
 
 #include <turbojpeg.h>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,7 +34,7 @@ QStringList MakePhotos(const QString& folder, const QSize& size)
     QStringList paths;
     QDir().mkpath(folder);
     for (int number = 0; number < photoCount; ++number) {
-        paths.append(folder + QStringLiteral("/67TOR00%1.JPG").arg(number));
+        paths.append(folder + u"/67TOR00%1.JPG"_s.arg(number));
         if (!torvik::bench::Scene(size, number).save(paths.last(), "JPG", 85))
             return {};
     }
@@ -82,7 +84,7 @@ void PressPeriod()
     QWidget* focused = QApplication::focusWidget();
     if (focused == nullptr)
         focused = &torvik::Form1->cmdYR(2).Widget();
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, QStringLiteral("."));
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, u"."_s);
     QApplication::sendEvent(focused, &press);
     torvik::Form1->Window().repaint();
 }
@@ -92,7 +94,7 @@ bool Measure(const char* name, const QSize& size)
     using namespace torvik;
     const QTemporaryDir disc;
     const QTemporaryDir program;
-    const QStringList photos = MakePhotos(disc.filePath(QStringLiteral("Torviks")), size);
+    const QStringList photos = MakePhotos(disc.filePath(u"Torviks"_s), size);
     if (photos.isEmpty())
         return false;
     SetProgramFolder(program.path());

@@ -18,6 +18,8 @@
 #include <cstdio>
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype Mebibyte = 1024 * 1024;
@@ -132,13 +134,13 @@ double ReadTime(const QByteArray& article, int repeats)
 
 bool CompareWithConverter(const QByteArray& article, double reading)
 {
-    const QString converter = QStandardPaths::findExecutable(QStringLiteral("unrtf"));
+    const QString converter = QStandardPaths::findExecutable(u"unrtf"_s);
     if (converter.isEmpty()) {
         std::printf("%-44s not measured: unrtf is not installed\n", "reading against a converter");
         return true;
     }
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("article.rtf")));
+    QFile file(folder.filePath(u"article.rtf"_s));
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.write(article);
@@ -146,8 +148,8 @@ bool CompareWithConverter(const QByteArray& article, double reading)
     const double converting = Milliseconds(3, [&] {
         QProcess process;
         process.setWorkingDirectory(folder.path());
-        process.setStandardOutputFile(folder.filePath(QStringLiteral("article.html")));
-        process.start(converter, {QStringLiteral("--html"), file.fileName()});
+        process.setStandardOutputFile(folder.filePath(u"article.html"_s));
+        process.start(converter, {u"--html"_s, file.fileName()});
         process.waitForFinished(-1);
     });
     return Report("reading against unrtf converting", reading, converting, LimitAgainstConverter);

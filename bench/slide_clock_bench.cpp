@@ -16,6 +16,8 @@
 #include <ctime>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int rounds = 5;
@@ -44,8 +46,8 @@ int main(int argc, char** argv)
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     const QTemporaryDir disc;
     const QTemporaryDir program;
-    QDir(disc.path()).mkdir(QStringLiteral("Torviks"));
-    if (!bench::Scene({1280, 776}, 1).save(disc.filePath(QStringLiteral("Torviks/67TOR001.JPG"))))
+    QDir(disc.path()).mkdir(u"Torviks"_s);
+    if (!bench::Scene({1280, 776}, 1).save(disc.filePath(u"Torviks/67TOR001.JPG"_s)))
         return 2;
     const QApplication application(argc, argv);
     BindHandlers();

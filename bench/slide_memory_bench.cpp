@@ -14,6 +14,8 @@
 #include <filesystem>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int photoCount = 900;
@@ -26,7 +28,7 @@ bool MakePhotos(const QString& folder)
     QDir().mkpath(folder);
     for (int number = 0; number < photoCount; ++number) {
         const auto file = [&](int of) -> QString {
-            return folder + QStringLiteral("/%1TOR%2.JPG").arg(67 + of / 30).arg(of, 3, 10, QLatin1Char('0'));
+            return folder + u"/%1TOR%2.JPG"_s.arg(67 + of / 30).arg(of, 3, 10, QLatin1Char('0'));
         };
         if (number < differentPhotos) {
             if (!torvik::bench::Scene({4000, 3000}, number).save(file(number), "JPG", 85))
@@ -42,7 +44,7 @@ bool MakePhotos(const QString& folder)
 /// The memory that the process really holds, in MiB.
 double Resident()
 {
-    QFile statm(QStringLiteral("/proc/self/statm"));
+    QFile statm(u"/proc/self/statm"_s);
     if (!statm.open(QIODevice::ReadOnly))
         return 0;
     const double pages = statm.readAll().split(' ').value(1).toDouble();
@@ -60,7 +62,7 @@ int main(int argc, char** argv)
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     const QTemporaryDir disc;
     const QTemporaryDir program;
-    if (!MakePhotos(disc.filePath(QStringLiteral("Torviks"))))
+    if (!MakePhotos(disc.filePath(u"Torviks"_s)))
         return 2;
     const QApplication application(argc, argv);
     BindHandlers();

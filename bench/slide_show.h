@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
-#include "ui/clock.h"
-#include "ui/form_window.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/form_window.h"
+#include "windows/main_window.h"
+#include "windows/slide_window.h"
+#include "windows/splash.h"
 
 #include <QCoreApplication>
 #include <QString>

@@ -2,12 +2,12 @@
 // reported.
 
 #include "bind_handlers.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "ui/clock.h"
-#include "ui/form_window.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/form_window.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>
@@ -16,6 +16,8 @@
 
 #include <cstdio>
 #include <ctime>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,8 +36,7 @@ void MakeDisc(const QString& folder)
     QImage photo(1280, 776, QImage::Format_RGB32);
     photo.fill(Qt::darkCyan);
     for (int number = 0; number < photoCount; ++number)
-        photo.save(folder +
-                   QStringLiteral("/%1TOR%2.JPG").arg(67 + number % 33).arg(number, 3, 10, QLatin1Char('0')));
+        photo.save(folder + u"/%1TOR%2.JPG"_s.arg(67 + number % 33).arg(number, 3, 10, QLatin1Char('0')));
 }
 
 } // namespace
@@ -48,7 +49,7 @@ int main(int argc, char** argv)
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     const QTemporaryDir disc;
-    MakeDisc(disc.filePath(QStringLiteral("Torviks")));
+    MakeDisc(disc.filePath(u"Torviks"_s));
     const QApplication application(argc, argv);
 
     const double empty = ProcessorMilliseconds([] {

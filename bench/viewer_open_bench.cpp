@@ -2,18 +2,20 @@
 // against the same viewer on an article of one word.
 
 #include "bind_handlers.h"
-#include "documents/txt_form.h"
 #include "measure.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "shell/program_state.h"
-#include "ui/form_window.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
+#include "ui/forms/form_window.h"
+#include "windows/article_window.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <ctime>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -69,15 +71,15 @@ int main(int argc, char** argv)
     using namespace torvik;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir disc;
-    Write(disc.filePath(QStringLiteral("article.rtf")), Article(articleBytes));
-    Write(disc.filePath(QStringLiteral("word.rtf")), "{\\rtf1 word}");
+    Write(disc.filePath(u"article.rtf"_s), Article(articleBytes));
+    Write(disc.filePath(u"word.rtf"_s), "{\\rtf1 word}");
     const QApplication application(argc, argv);
     BindHandlers();
     SetProgramFolder(disc.path());
     SetDriveOptions({{u'E', disc.path()}});
 
-    const double empty = OpeningTime(QStringLiteral("E:\\word.rtf"));
-    const double article = OpeningTime(QStringLiteral("E:\\article.rtf"));
+    const double empty = OpeningTime(u"E:\\word.rtf"_s);
+    const double article = OpeningTime(u"E:\\article.rtf"_s);
     // Below what nobody notices the ratio to an almost empty viewer says nothing.
     const bool isOk =
         bench::Report("opening the viewer", "ms", article, empty, std::max(limit, enough / empty));

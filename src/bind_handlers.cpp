@@ -1,78 +1,26 @@
 #include "bind_handlers.h"
 
-#include "browser/file_names.h"
-#include "browser/photo_stepping.h"
-#include "browser/photo_walk.h"
-#include "browser/year_selection.h"
-#include "documents/advertisement.h"
-#include "documents/document_viewer.h"
-#include "documents/library_documents.h"
-#include "documents/library_topics.h"
-#include "documents/overlay_buttons.h"
-#include "documents/year_documents.h"
-#include "documents/year_statistics.h"
-#include "local/copy_panel.h"
-#include "local/play_list_form.h"
-#include "local/remove_copies.h"
-#include "local/saver_installation.h"
-#include "media/driver_offer.h"
-#include "media/movie_player.h"
-#include "media/sound_effects.h"
-#include "printing/booklet_panel.h"
-#include "printing/print_commands.h"
-#include "shell/form1_life.h"
-#include "shell/start_up.h"
-#include "slides/slide_clock.h"
-#include "slides/slide_exit.h"
-#include "slides/slide_focus.h"
-#include "slides/slide_player.h"
-#include "slides/slide_setup.h"
-#include "slides/slide_steps.h"
-#include "slides/zoom_viewer.h"
-#include "utilities/about_box.h"
-#include "utilities/display_check.h"
-#include "utilities/help_contents.h"
-#include "utilities/system_information.h"
-#include "utilities/task_bar_toggle.h"
+#include "browser/bind_browser.h"
+#include "documents/bind_documents.h"
+#include "hard_drive/bind_hard_drive.h"
+#include "media/bind_media.h"
+#include "printing/bind_printing.h"
+#include "slides/bind_slides.h"
+#include "start/bind_start.h"
+#include "utilities/bind_utilities.h"
 
 namespace torvik {
 
 void BindHandlers()
 {
-    BindStartUp();
-    BindForm1Life();
-    BindYearSelection();
-    BindPhotoStepping();
-    BindPhotoWalk();
-    BindFileNames();
-    BindLibraryTopics();
-    BindLibraryDocuments();
-    BindYearDocuments();
-    BindYearStatistics();
-    BindDocumentViewer();
-    BindBookletPanel();
-    BindPrintCommands();
-    BindCopyPanel();
-    BindRemoveCopies();
-    BindOverlayButtons();
-    BindZoomViewer();
-    BindAdvertisement();
-    BindPlayListForm();
-    BindSaverInstallation();
-    BindSlideSetup();
-    BindSlideSteps();
-    BindSlidePlayer();
-    BindSlideClock();
-    BindSlideFocus();
-    BindSlideExit();
-    BindSoundEffects();
-    BindMoviePlayer();
-    BindDriverOffer();
-    BindTaskBarToggle();
-    BindDisplayCheck();
-    BindSystemInformation();
-    BindAboutBox();
-    BindHelpContents();
+    BindBrowser();
+    BindStart();
+    BindMedia();
+    BindPrinting();
+    BindUtilities();
+    BindDocuments();
+    BindSlides();
+    BindHardDrive();
 }
 
 } // namespace torvik

@@ -1,16 +1,18 @@
 #include "bind_handlers.h"
-#include "platform/arguments_of.h"
-#include "platform/drives.h"
-#include "platform/failure.h"
-#include "platform/program_files.h"
-#include "platform/program_folder.h"
-#include "shell/command_line.h"
-#include "shell/form2.h"
+#include "platform/files/program_files.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "platform/system/arguments_of.h"
+#include "runtime/failure.h"
+#include "start/command_line.h"
 #include "ui/application.h"
-#include "ui/printer.h"
+#include "ui/printer/printer.h"
 #include "version.h"
+#include "windows/splash.h"
 
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,7 +32,7 @@ QString TakeFolders(const torvik::CommandLine& line)
         SetProgramFolder(line.ProgramFolder);
         SetDriveOptions(line.Drives);
     });
-    return error == 0 ? QString() : RunTimeErrorText(error) + QStringLiteral(".");
+    return error == 0 ? QString() : RunTimeErrorText(error) + u"."_s;
 }
 
 } // namespace

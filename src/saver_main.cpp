@@ -1,16 +1,16 @@
-#include "platform/arguments_of.h"
-#include "platform/drives.h"
-#include "platform/failure.h"
-#include "platform/foreign_windows.h"
-#include "platform/program_folder.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "platform/system/arguments_of.h"
+#include "platform/system/foreign_windows.h"
+#include "runtime/failure.h"
 #include "saver/arguments.h"
+#include "saver/covered_screens.h"
 #include "saver/information.h"
 #include "saver/saver_settings.h"
-#include "saver/show_places.h"
 #include "saver/show_runner.h"
 #include "ui/application.h"
-#include "ui/message_box.h"
-#include "ui/program_end.h"
+#include "ui/forms/message_box.h"
+#include "ui/forms/program_end.h"
 #include "version.h"
 
 #include <QCoreApplication>
@@ -19,6 +19,8 @@
 
 #include <cstdio>
 #include <optional>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,9 +43,9 @@ QString TakeFolders(const SaverArguments& arguments)
         SetDriveOptions(arguments.Drives);
         RefreshDrives();
         if (arguments.ProgramFolder.isEmpty() && DriveFolder(u'Z').isEmpty())
-            SetProgramFolder(QCoreApplication::applicationDirPath() + QStringLiteral("/.."));
+            SetProgramFolder(QCoreApplication::applicationDirPath() + u"/.."_s);
     });
-    return error == 0 ? QString() : RunTimeErrorText(error) + QStringLiteral(".");
+    return error == 0 ? QString() : RunTimeErrorText(error) + u"."_s;
 }
 
 /// Lets the show inside a window follow the window's size, and ends it with the window.
@@ -63,7 +65,7 @@ int Embed(Application& application, quint64 window)
 {
     HostWindow host(window);
     if (!host.Size())
-        return Complain(QStringLiteral("There is no window %1.").arg(window));
+        return Complain(u"There is no window %1."_s.arg(window));
     std::optional<ShowRunner> runner;
     QTimer timer;
     return application.Run([&] {

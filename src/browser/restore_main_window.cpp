@@ -1,12 +1,12 @@
 #include "browser/restore_main_window.h"
 
-#include "browser/topic_catalogue.h"
-#include "documents/overlay_pictures.h"
-#include "documents/txt_form.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "browser/emblem_and_script.h"
+#include "program/program_state.h"
+#include "program/topic_catalogue.h"
+#include "runtime/text.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
+#include "windows/slide_window.h"
 
 namespace torvik {
 

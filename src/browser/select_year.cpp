@@ -1,15 +1,17 @@
 #include "browser/select_year.h"
 
-#include "browser/browsing_start.h"
+#include "browser/browse_from_start.h"
 #include "browser/restore_main_window.h"
-#include "browser/topic_catalogue.h"
-#include "local/play_list_entry.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "ui/screen.h"
+#include "program/play_list_buttons.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "program/topic_catalogue.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "ui/forms/screen.h"
+#include "windows/main_window.h"
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -21,14 +23,14 @@ void TakeYearCode()
     if (const Topic* topic = TopicOf(title)) {
         state.YearCode = QString::fromLatin1(topic->Code);
         if (topic->RenamesStatistics)
-            Form1->cmdStats.SetCaption(QStringLiteral("Details"));
+            Form1->cmdStats.SetCaption(u"Details"_s);
     } else {
         state.YearCode = Mid(title, 3, 2);
     }
-    if (state.YearCode == QStringLiteral("00"))
-        state.YearCode = QStringLiteral("A0");
-    else if (state.YearCode == QStringLiteral("01"))
-        state.YearCode = QStringLiteral("A1");
+    if (state.YearCode == u"00"_s)
+        state.YearCode = u"A0"_s;
+    else if (state.YearCode == u"01"_s)
+        state.YearCode = u"A1"_s;
 }
 
 /// On a disc that lost its photos while the list was built anew, the list is shorter than its count.
@@ -55,7 +57,7 @@ void FindFirstPhoto()
 
 void ReportMissingPhoto()
 {
-    state.ErrorCode = QStringLiteral("ER023");
+    state.ErrorCode = u"ER023"_s;
     ReportError();
     Form1->Image4.Hide();
 }
@@ -99,7 +101,7 @@ void ShowSpecialTopic()
     Screen.SetMousePointer(MousePointer::Default);
 
     Form1Controls& form = *Form1;
-    form.cmdStats.SetCaption(QStringLiteral("Details"));
+    form.cmdStats.SetCaption(u"Details"_s);
     for (Button* button : {&form.cmdOptions, &form.cmdColors, &form.cmdScript, &form.cmdEmblem, &form.cmdAd,
                            &form.cmdNostalgia})
         button->SetEnabled(false);

@@ -1,15 +1,16 @@
-#include "documents/advertisement.h"
+#include "documents/bind_documents.h"
+#include "documents/page_viewer.h"
+#include "program/keep_on_top.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "ui/forms/message_box.h"
+#include "ui/forms/screen.h"
+#include "windows/main_window.h"
+#include "windows/page_window.h"
+#include "windows/play_list_window.h"
 
-#include "local/frm_ss_photo.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "slides/form_topmost.h"
-#include "slides/frm_scroll.h"
-#include "slides/zoom_viewer.h"
-#include "ui/message_box.h"
-#include "ui/screen.h"
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -30,8 +31,8 @@ void LoadPage()
     form.picParent.Hide();
     form.picChild.Hide();
     form.picChild.Move(0, 0);
-    state.DocumentFile = Mid(Form1->panYear.Caption(), 3, 2) + QStringLiteral("brto00.jpg");
-    state.DocumentFile = state.DiscRoot + QStringLiteral("\\ads\\") + state.DocumentFile;
+    state.DocumentFile = Mid(Form1->panYear.Caption(), 3, 2) + u"brto00.jpg"_s;
+    state.DocumentFile = state.DiscRoot + u"\\ads\\"_s + state.DocumentFile;
     form.HScroll1.Hide();
     form.VScroll1.Hide();
     form.picChild.Load(state.DocumentFile);
@@ -43,8 +44,7 @@ void LoadPage()
 void ShowPage()
 {
     ResumeNext([] {
-        frmScroll->SetCaption(QStringLiteral("The Torvik Vollandry    ") + Form1->panYear.Caption() +
-                              QStringLiteral(" Advertisement"));
+        frmScroll->SetCaption(u"The Torvik Vollandry    "_s + Form1->panYear.Caption() + u" Advertisement"_s);
     });
     ResumeNext(TurnFullSizeViewOver);
     ResumeNext([] { frmScroll->ShowModal(); });
@@ -53,10 +53,9 @@ void ShowPage()
 /// The viewer stays loaded and hidden, ready for the next page.
 void SaySorry()
 {
-    state.MessageText =
-        QStringLiteral("Sorry!\r\n\r\nThe Year 2001 ad has not yet been released by Brenmoor.\r\n");
-    state.MessageAnswer = QString::number(
-        MsgBox(state.MessageText, msgbox::exclamation, QStringLiteral("The Torvik Vollandry")));
+    state.MessageText = u"Sorry!\r\n\r\nThe Year 2001 ad has not yet been released by Brenmoor.\r\n"_s;
+    state.MessageAnswer =
+        QString::number(MsgBox(state.MessageText, msgbox::exclamation, u"The Torvik Vollandry"_s));
     Form1->SetEnabled(true);
 }
 

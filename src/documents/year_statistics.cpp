@@ -1,15 +1,16 @@
-#include "documents/year_statistics.h"
-
-#include "browser/next_year_button.h"
-#include "browser/photo_details.h"
-#include "browser/topic_catalogue.h"
-#include "documents/document_viewer.h"
+#include "browser/photo_caption.h"
+#include "documents/article_viewer.h"
+#include "documents/bind_documents.h"
 #include "documents/year_rule.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
+#include "program/next_year_button.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "program/topic_catalogue.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "windows/main_window.h"
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -73,8 +74,8 @@ void ShowNote(const TopicNotes& topic)
 {
     const double photo = Val(Form1->panPhoto.Caption());
     const char* prefix = photo < 5 ? topic.PrefixBelow5 : topic.PrefixFrom5;
-    state.DocumentFile = state.DiscRoot + QStringLiteral("\\richtext\\") + QLatin1String(prefix) +
-                         NumberText(photo * 2) + QStringLiteral(".rtf");
+    state.DocumentFile =
+        state.DiscRoot + u"\\richtext\\"_s + QLatin1String(prefix) + NumberText(photo * 2) + u".rtf"_s;
     Form1->rtbDetails.SetFileName(state.DocumentFile);
     Form1->rtbDetails.Show();
 }
@@ -83,8 +84,7 @@ void ShowStatisticsArticle(const QString& caption)
 {
     if (const TopicArticle* topic = EntryOf(topicArticles, caption)) {
         FindArticle(QLatin1String(topic->File));
-        state.DocumentTitle =
-            QStringLiteral("The Torvik Vollandry       ") + caption + QStringLiteral(" Specifications");
+        state.DocumentTitle = u"The Torvik Vollandry       "_s + caption + u" Specifications"_s;
     } else {
         state.DocumentTitle = FindArticleOfYear(statisticsRule);
     }
@@ -92,7 +92,7 @@ void ShowStatisticsArticle(const QString& caption)
         ReportError();
         return;
     }
-    CompleteArticlePath(QStringLiteral("\\richtext\\"));
+    CompleteArticlePath(u"\\richtext\\"_s);
     OpenViewer();
 }
 

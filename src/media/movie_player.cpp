@@ -1,17 +1,18 @@
-#include "media/movie_player.h"
-
-#include "browser/next_year_button.h"
-#include "media/driver_offer.h"
-#include "media/frm_movie.h"
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "platform/program_folder.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "ui/screen.h"
+#include "media/bind_media.h"
+#include "media/video_driver_offer.h"
+#include "platform/files/files.h"
+#include "platform/paths/program_folder.h"
+#include "program/next_year_button.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "ui/forms/screen.h"
+#include "windows/main_window.h"
+#include "windows/movie_window.h"
 
 #include <iterator>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -38,11 +39,10 @@ constexpr Movie movies[] = {
 
 void mnuMovies_Click()
 {
-    const QString copied = ProgramFolder() + QStringLiteral("\\movies\\");
+    const QString copied = ProgramFolder() + u"\\movies\\"_s;
     QString found;
-    const int error = ResumeNext([&] { found = FindFile(copied + QStringLiteral("*.avi")); });
-    state.MovieFolder =
-        found.isEmpty() || error != 0 ? state.DiscRoot + QStringLiteral("\\movies\\") : copied;
+    const int error = ResumeNext([&] { found = FindFile(copied + u"*.avi"_s); });
+    state.MovieFolder = found.isEmpty() || error != 0 ? state.DiscRoot + u"\\movies\\"_s : copied;
     frmMovie->ShowModal();
 }
 
@@ -54,17 +54,17 @@ void OpenMovie(const QString& path)
     player.Device.Wait = true;
     player.Device.Shareable = false;
     player.Show();
-    player.Device.Command(QStringLiteral("close"));
-    player.Device.SetDeviceType(QStringLiteral("AVIVideo"));
+    player.Device.Command(u"close"_s);
+    player.Device.SetDeviceType(u"AVIVideo"_s);
     player.Device.SetFileName(path);
-    player.Device.Command(QStringLiteral("open"));
+    player.Device.Command(u"open"_s);
     Screen.SetMousePointer(MousePointer::Default);
 }
 
 /// The mouse pointer stays an hourglass.
 void ReportMovie()
 {
-    state.ErrorCode = QStringLiteral("ER045");
+    state.ErrorCode = u"ER045"_s;
     ReportError();
 }
 
@@ -107,25 +107,25 @@ void frmMovie_Load()
 /// The device goes with the form, not only when the last of its handlers is done.
 void frmMovie_Unload()
 {
-    frmMovie->MMControl1.Device.Command(QStringLiteral("close"));
+    frmMovie->MMControl1.Device.Command(u"close"_s);
     Form1->SetEnabled(true);
 }
 
 void MMControl1_StopClick()
 {
     MediaControl& device = frmMovie->MMControl1.Device;
-    device.Command(QStringLiteral("stop"));
-    device.Command(QStringLiteral("prev"));
+    device.Command(u"stop"_s);
+    device.Command(u"prev"_s);
 }
 
-void SSCommand1_Click()
+void frmMovie_SSCommand1_Click()
 {
     frmMovie.Unload();
     Form1->SetEnabled(true);
     FocusNextYearButton();
 }
 
-void SSCommand2_Click()
+void frmMovie_SSCommand2_Click()
 {
     OfferDriver([] {
         frmMovie.Unload();
@@ -152,8 +152,8 @@ void BindMoviePlayer()
         player.ButtonClick(MediaButton::Next) = gives("next");
         player.ButtonClick(MediaButton::Play) = gives("play");
         player.ButtonClick(MediaButton::Stop) = MMControl1_StopClick;
-        form.SSCommand1.Click = SSCommand1_Click;
-        form.SSCommand2.Click = SSCommand2_Click;
+        form.SSCommand1.Click = frmMovie_SSCommand1_Click;
+        form.SSCommand2.Click = frmMovie_SSCommand2_Click;
     });
 }
 

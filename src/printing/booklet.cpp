@@ -1,21 +1,23 @@
 #include "printing/booklet.h"
 
-#include "platform/failure.h"
-#include "platform/text.h"
 #include "printing/rich_text_printing.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "ui/message_box.h"
-#include "ui/printer.h"
-#include "ui/screen.h"
+#include "program/box_title.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "ui/forms/message_box.h"
+#include "ui/forms/screen.h"
+#include "ui/printer/printer.h"
+#include "windows/main_window.h"
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
 namespace {
 
-const QString boxTitle = QStringLiteral("The Torvik Vollandry");
-const QString textFolder = QStringLiteral("\\RichText\\");
+const QString textFolder = u"\\RichText\\"_s;
 
 constexpr int margin = 1440; // twips
 
@@ -67,7 +69,7 @@ int RangeNumber(const QString& year)
 /// How the files of a year begin.
 QString YearPrefix(int number)
 {
-    return number < 100 ? QString::number(number) : QStringLiteral("A%1").arg(number - 100);
+    return number < 100 ? QString::number(number) : u"A%1"_s.arg(number - 100);
 }
 
 /// The job stays open: the first document behind the cover continues it.
@@ -91,12 +93,12 @@ void PrintDocument(const QString& name)
 void PrintYear(const QString& prefix)
 {
     if (IsTicked(box::description))
-        PrintDocument(prefix + QStringLiteral("desc.rtf"));
+        PrintDocument(prefix + u"desc.rtf"_s);
     if (!IsTicked(box::details))
         return;
-    PrintDocument(prefix + QStringLiteral("opts.rtf"));
-    PrintDocument(prefix + QStringLiteral("stats.rtf"));
-    PrintDocument(prefix + QStringLiteral("colors.rtf"));
+    PrintDocument(prefix + u"opts.rtf"_s);
+    PrintDocument(prefix + u"stats.rtf"_s);
+    PrintDocument(prefix + u"colors.rtf"_s);
 }
 
 void Refuse(const QString& code)
@@ -110,11 +112,11 @@ void Refuse(const QString& code)
 bool PrintYears(int from, int to)
 {
     if (from == 0 || to == 0) {
-        Refuse(QStringLiteral("ER034"));
+        Refuse(u"ER034"_s);
         return false;
     }
     if (to < from) {
-        Refuse(QStringLiteral("ER036"));
+        Refuse(u"ER036"_s);
         return false;
     }
     for (int number = from; number <= to; ++number)
@@ -125,10 +127,10 @@ bool PrintYears(int from, int to)
 void SayThatItIsPrinted()
 {
     Screen.SetMousePointer(MousePointer::Default);
-    state.MessageText = QStringLiteral("Booklet printed!\r\n");
+    state.MessageText = u"Booklet printed!\r\n"_s;
     MsgBox(state.MessageText, msgbox::exclamation, boxTitle);
-    Form1->cmdPrint.SetCaption(QStringLiteral("Print Again"));
-    Form1->cmdOK.SetCaption(QStringLiteral("Exit"));
+    Form1->cmdPrint.SetCaption(u"Print Again"_s);
+    Form1->cmdOK.SetCaption(u"Exit"_s);
 }
 
 void PrintWhatIsTicked(int from, int to)
@@ -136,7 +138,7 @@ void PrintWhatIsTicked(int from, int to)
     if (IsTicked(box::cover))
         PrintCover();
     if (IsTicked(box::introduction))
-        PrintDocument(QStringLiteral("introduction.rtf"));
+        PrintDocument(u"introduction.rtf"_s);
     if (!WantsYears() || PrintYears(from, to))
         SayThatItIsPrinted();
 }
@@ -148,7 +150,7 @@ void PrintBooklet()
     const int from = RangeNumber(Form1->List1(0).Text());
     const int to = RangeNumber(Form1->List1(1).Text());
     Screen.SetMousePointer(MousePointer::Hourglass);
-    state.ErrorCode = QStringLiteral("ER040");
+    state.ErrorCode = u"ER040"_s;
     OnError([&] { PrintWhatIsTicked(from, to); },
             [] {
                 ReportError();

@@ -37,7 +37,7 @@ void KeepParagraphsTogether(QTextDocument& document)
     QTextBlockFormat onNewPage;
     onNewPage.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        if (!block.blockFormat().property(rtf::KeepTogetherProperty).toBool())
+        if (!block.blockFormat().property(rtf::keepTogetherProperty).toBool())
             continue;
         QTextCursor cursor(block);
         if (cursor.currentTable() == nullptr && IsCut(block))

@@ -1,18 +1,20 @@
 #include "printing/rich_text_printing.h"
 
-#include "platform/failure.h"
 #include "printing/paged_text.h"
-#include "ui/printer.h"
-#include "ui/rich_text_box.h"
+#include "runtime/failure.h"
+#include "ui/controls/rich_text_box.h"
+#include "ui/printer/printer.h"
 
 #include <QPainter>
 #include <QRectF>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
 namespace {
 
-const QString blank = QStringLiteral(" ");
+const QString blank = u" "_s;
 
 /// The room between margins that count from the edges of the paper, in the printer's pixels from the corner
 /// of the printable area.

@@ -1,7 +1,7 @@
 #include "rtf/rtf_reader.h"
 
-#include "rtf/plain_reader.h"
-#include "rtf/reader.h"
+#include "rtf/read/interpreter.h"
+#include "rtf/read/plain_text.h"
 
 #include <QTextDocument>
 
@@ -22,7 +22,7 @@ ReadResult ReadRichText(const QByteArray& bytes, QTextDocument& into)
     into.setUndoRedoEnabled(false);
     if (!LooksLikeRtf(bytes))
         return ReadPlainText(bytes, into);
-    return Reader(bytes, into).Read();
+    return Interpreter(bytes, into).Read();
 }
 
 QString PlainText(const QByteArray& bytes)

@@ -1,34 +1,14 @@
 #pragma once
 
+#include "rtf/parts/read_result.h"
+#include "rtf/write/keep_together.h"
+
 #include <QByteArray>
 #include <QString>
-#include <QTextFormat>
 
 class QTextDocument;
 
 namespace torvik::rtf {
-
-/// True in the block format of a paragraph that is to stand on one page. The toolkit itself knows nothing
-/// like it: lines that it calls unbreakable are never wrapped.
-inline constexpr int KeepTogetherProperty = QTextFormat::UserProperty + 1;
-
-/// What came of reading a document.
-struct ReadResult {
-    /// False for bytes that are not rich text and were shown as plain text.
-    bool wasRtf = false;
-    /// There were no bytes at all.
-    bool wasEmpty = false;
-    /// The document ended early, or a part of it could not be read. What could be read is there.
-    bool wasDamaged = false;
-    /// Something was left out because the document grew out of proportion to its file.
-    bool wasCut = false;
-    int paragraphs = 0;
-    int tables = 0;
-    /// Pictures that are shown.
-    int pictures = 0;
-    /// Pictures that are not, because nothing could be made of their bytes.
-    int lostPictures = 0;
-};
 
 /// Whether bytes begin as rich text does; blanks and a byte-order mark before it are passed over.
 bool LooksLikeRtf(const QByteArray& bytes);

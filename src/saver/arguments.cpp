@@ -1,10 +1,12 @@
 #include "saver/arguments.h"
 
-#include "platform/drive_option.h"
+#include "platform/paths/drive_option.h"
 
 #include <QRegularExpression>
 
 #include <optional>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -18,7 +20,7 @@ struct Argument {
 
 std::optional<Argument> TakeApart(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral("^(?:--|-|/)([A-Za-z?][A-Za-z-]*)(?:[:=](.*))?$"));
+    static const QRegularExpression form(u"^(?:--|-|/)([A-Za-z?][A-Za-z-]*)(?:[:=](.*))?$"_s);
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
         return std::nullopt;
@@ -31,7 +33,7 @@ std::optional<Argument> TakeApart(const QString& text)
 /// The number of a window, decimal or hexadecimal ("0x1a00007"); 0 when the text is none.
 quint64 WindowNumber(const QString& text)
 {
-    const bool isHexadecimal = text.startsWith(QStringLiteral("0x"), Qt::CaseInsensitive);
+    const bool isHexadecimal = text.startsWith(u"0x"_s, Qt::CaseInsensitive);
     return isHexadecimal ? text.mid(2).toULongLong(nullptr, 16) : text.toULongLong();
 }
 
@@ -53,24 +55,24 @@ private:
     {
         const auto argument = TakeApart(text);
         const QString name = argument ? argument->Name : QString();
-        if (name == QStringLiteral("s"))
+        if (name == u"s"_s)
             Choose(SaverTask::Show);
-        else if (name == QStringLiteral("c"))
+        else if (name == u"c"_s)
             TakeInform();
-        else if (name == QStringLiteral("p") || name == QStringLiteral("window-id"))
+        else if (name == u"p"_s || name == u"window-id"_s)
             TakeWindow(text, ValueOf(text, *argument));
-        else if (name == QStringLiteral("root"))
+        else if (name == u"root"_s)
             Choose(SaverTask::Desktop);
-        else if (name == QStringLiteral("drive"))
+        else if (name == u"drive"_s)
             TakeDrive(ValueOf(text, *argument));
-        else if (name == QStringLiteral("program-folder"))
+        else if (name == u"program-folder"_s)
             read_.ProgramFolder = ValueOf(text, *argument);
-        else if (name == QStringLiteral("help") || name == QStringLiteral("h") || name == QStringLiteral("?"))
+        else if (name == u"help"_s || name == u"h"_s || name == u"?"_s)
             read_.Help = true;
-        else if (name == QStringLiteral("version") || name == QStringLiteral("v"))
+        else if (name == u"version"_s || name == u"v"_s)
             read_.Version = true;
         else
-            read_.Problem = QStringLiteral("There is no option %1.").arg(text);
+            read_.Problem = u"There is no option %1."_s.arg(text);
     }
 
     /// A window that is named stays, whatever else is said.
@@ -95,8 +97,7 @@ private:
             return;
         read_.Window = WindowNumber(number);
         if (read_.Window == 0)
-            read_.Problem =
-                QStringLiteral("%1 takes the number of a window; not \"%2\".").arg(option, number);
+            read_.Problem = u"%1 takes the number of a window; not \"%2\"."_s.arg(option, number);
         hasTask_ = true;
         read_.Task = SaverTask::Embed;
     }
@@ -117,7 +118,7 @@ private:
             return *argument.Value;
         if (!rest_.isEmpty())
             return rest_.takeFirst();
-        read_.Problem = QStringLiteral("%1 needs a value.").arg(option);
+        read_.Problem = u"%1 needs a value."_s.arg(option);
         return {};
     }
 
@@ -142,21 +143,21 @@ SaverArguments ReadSaverArguments(const QStringList& arguments, const QString& s
 
 QString SaverHelpText()
 {
-    return QStringLiteral(
-        "Usage: Torvik2001.scr [task] [options]\n"
-        "\n"
-        "Shows the photos that File, Install Screen saver of The Torvik Vollandry 2001 has chosen.\n"
-        "\n"
-        "  /s, -s                    shows them on all screens until a key, a click or the mouse ends it\n"
-        "  /p WINDOW                 shows them inside the window of that number\n"
-        "  /c, or no task            tells which photos are shown and how that is changed\n"
-        "  -root                     for X screen savers: shows them in the window of $XSCREENSAVER_WINDOW,\n"
-        "                            without one behind all windows of the desktop\n"
-        "  -window-id WINDOW         the same as /p\n"
-        "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
-        "  --program-folder FOLDER   where the folder \"disc\" lies that stands for drive Z\n"
-        "  -h, --help                shows this text\n"
-        "  -v, --version             shows the version\n");
+    return u"Usage: Torvik2001.scr [task] [options]\n"
+           "\n"
+           "Shows the photos that File, Install Screen saver of The Torvik Vollandry 2001 has chosen.\n"
+           "\n"
+           "  /s, -s                    shows them on all screens until a key, a click or the mouse ends it\n"
+           "  /p WINDOW                 shows them inside the window of that number\n"
+           "  /c, or no task            tells which photos are shown and how that is changed\n"
+           "  -root                     for X screen savers: shows them in the window of "
+           "$XSCREENSAVER_WINDOW,\n"
+           "                            without one behind all windows of the desktop\n"
+           "  -window-id WINDOW         the same as /p\n"
+           "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
+           "  --program-folder FOLDER   where the folder \"disc\" lies that stands for drive Z\n"
+           "  -h, --help                shows this text\n"
+           "  -v, --version             shows the version\n"_s;
 }
 
 } // namespace torvik

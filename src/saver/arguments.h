@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/drives.h"
+#include "platform/paths/drives.h"
 
 #include <QList>
 #include <QString>

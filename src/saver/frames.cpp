@@ -1,6 +1,6 @@
 #include "saver/frames.h"
 
-#include "ui/picture.h"
+#include "ui/pictures/picture.h"
 
 #include <QFont>
 #include <QFontMetrics>
@@ -9,14 +9,16 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
 constexpr QColor wordColour{0xb8, 0xb0, 0xa0};
 
-const QString word = QStringLiteral("There are no photos to show.");
-const QString advice = QStringLiteral("Put the disc in, or choose photos with\nFile, Install Screen saver.");
+const QString word = u"There are no photos to show."_s;
+const QString advice = u"Put the disc in, or choose photos with\nFile, Install Screen saver."_s;
 
 /// Where the card stands at a turn, as parts of the room that it leaves free: neighbours lie well apart.
 QPointF StandOf(int turn)
@@ -28,7 +30,7 @@ QPointF StandOf(int turn)
 
 QImage TitlePicture(const QSize& area)
 {
-    return Picture::FromResource(QStringLiteral(":/saver/title.png")).Fitted(area);
+    return Picture::FromResource(u":/saver/title.png"_s).Fitted(area);
 }
 
 QFont WordFont(int pixels)

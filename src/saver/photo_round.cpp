@@ -1,11 +1,13 @@
 #include "saver/photo_round.h"
 
-#include "platform/drives.h"
-#include "platform/failure.h"
-#include "platform/files.h"
+#include "platform/files/files.h"
+#include "platform/paths/drives.h"
+#include "runtime/failure.h"
 
 #include <algorithm>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -23,7 +25,7 @@ void PhotoRound::Begin()
     names_.clear();
     ResumeNext([this] {
         RefreshDrives();
-        names_ = FilesMatching(folder_ + QStringLiteral("*.jpg"));
+        names_ = FilesMatching(folder_ + u"*.jpg"_s);
     });
     std::sort(names_.begin(), names_.end(), [](const QString& one, const QString& other) {
         return QString::compare(one, other, Qt::CaseInsensitive) < 0;

@@ -1,8 +1,8 @@
 #include "saver/saver_settings.h"
 
-#include "platform/saver_agreement.h"
-#include "platform/settings_store.h"
-#include "platform/text.h"
+#include "platform/system/saver_agreement.h"
+#include "platform/system/settings_store.h"
+#include "runtime/text.h"
 
 #include <algorithm>
 

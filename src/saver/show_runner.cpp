@@ -28,7 +28,7 @@ void ShowRunner::Open()
     std::vector<Stage*> stages;
     for (const auto& window : windows_) {
         window->Noticed = [this](const QEvent& event) { Notice(event); };
-        window->SizeChanged = [this](ShowWindow& changed) { show_.StageResized(changed); };
+        window->SizeChanged = [this](SaverWindow& changed) { show_.StageResized(changed); };
         stages.push_back(window.get());
     }
     show_.SetStages(std::move(stages));

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "saver/show.h"
-#include "saver/show_window.h"
+#include "saver/photo_show.h"
+#include "saver/saver_window.h"
 #include "saver/wake.h"
 
 #include <QElapsedTimer>
@@ -15,13 +15,13 @@ namespace torvik {
 /// Runs the show in windows by the machine's own time.
 class ShowRunner : public QObject {
 public:
-    using Opener = std::function<ShowWindows()>;
+    using Opener = std::function<SaverWindows()>;
 
     /// `open` makes the windows; it is called again when screens come or go. `ended` is called when somebody
     /// is back; without it nothing that happens to the windows ends the show.
     ShowRunner(const SaverSettings& settings, double start, Opener open, std::function<void()> ended);
 
-    const ShowWindows& Windows() const { return windows_; }
+    const SaverWindows& Windows() const { return windows_; }
 
 private:
     void Open();
@@ -32,7 +32,7 @@ private:
     Opener open_;
     std::function<void()> ended_;
     Wake wake_;
-    ShowWindows windows_;
+    SaverWindows windows_;
     QElapsedTimer time_;
     QTimer timer_;
 };

@@ -1,9 +1,11 @@
 #include "slides/shown_slide.h"
 
-#include "platform/text.h"
-#include "shell/program_state.h"
-#include "shell/report_error.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/text.h"
+#include "windows/slide_window.h"
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -14,8 +16,7 @@ void LoadSlide()
 
 void ShowSlidePosition()
 {
-    frmSlide->pnlPhotoNumber.SetCaption(
-        QStringLiteral("%1 of %2").arg(state.PhotoIndex).arg(state.PhotoCount));
+    frmSlide->pnlPhotoNumber.SetCaption(u"%1 of %2"_s.arg(state.PhotoIndex).arg(state.PhotoCount));
 }
 
 void ReportSlideFailure(const QString& code)

@@ -1,11 +1,12 @@
-#include "slides/slide_clock.h"
-
-#include "slides/frm_slide.h"
-#include "ui/clock.h"
+#include "slides/bind_slides.h"
+#include "ui/forms/clock.h"
+#include "windows/slide_window.h"
 
 #include <QLocale>
 
 #include <optional>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -15,9 +16,9 @@ namespace {
 void ShowTime(const QDateTime& now)
 {
     const QLocale english = QLocale::c();
-    frmSlide->StatusTime.SetCaption(english.toString(now, QStringLiteral("hh:mm:ss ap")));
-    frmSlide->StatusDate.SetCaption(english.toString(now, QStringLiteral("MM/dd/yy")));
-    frmSlide->StatusDay.SetCaption(english.toString(now, QStringLiteral("dddd")));
+    frmSlide->StatusTime.SetCaption(english.toString(now, u"hh:mm:ss ap"_s));
+    frmSlide->StatusDate.SetCaption(english.toString(now, u"MM/dd/yy"_s));
+    frmSlide->StatusDay.SetCaption(english.toString(now, u"dddd"_s));
 }
 
 /// The panels know no less than seconds: ninety-nine of a hundred ticks have nothing to write.

@@ -1,11 +1,14 @@
 #include "slides/slide_steps.h"
 
-#include "browser/topic_catalogue.h"
-#include "platform/failure.h"
-#include "platform/text.h"
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
+#include "program/topic_catalogue.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "slides/bind_slides.h"
 #include "slides/shown_slide.h"
+#include "windows/slide_window.h"
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -33,7 +36,7 @@ void mmSlide_BackClick()
             ShowSlideWithCaption();
             ShowSlidePosition();
         },
-        [] { ReportSlideFailure(QStringLiteral("ER013")); });
+        [] { ReportSlideFailure(u"ER013"_s); });
     frmSlide->SSCommand1.SetFocus();
 }
 
@@ -48,7 +51,7 @@ void mmSlide_StepClick()
             RefreshPathPosition();
             ShowSlideWithCaption();
         },
-        [] { ReportSlideFailure(QStringLiteral("ER018")); });
+        [] { ReportSlideFailure(u"ER018"_s); });
     frmSlide->SSCommand1.SetFocus();
     ShowSlidePosition();
 }
@@ -57,9 +60,9 @@ void mmSlide_StepClick()
 void SSCommand1_Click()
 {
     frmSlide->pnlPhotoNumber.Show();
-    frmSlide->pnlPhotoNumber.SetCaption(QStringLiteral("1 of %1").arg(state.PhotoCount));
+    frmSlide->pnlPhotoNumber.SetCaption(u"1 of %1"_s.arg(state.PhotoCount));
     frmSlide->Image1.Show();
-    frmSlide->panYear.SetCaption(QStringLiteral("1967"));
+    frmSlide->panYear.SetCaption(u"1967"_s);
     frmSlide->panYear.Show();
     state.PhotoIndex = 1;
     LoadSlide();
@@ -76,7 +79,7 @@ void SSCommand2_Click()
     LoadSlide();
     const QString& photo = state.PhotoFiles(state.PhotoIndex);
     state.TorviksPathPos = InStr(photo, torviksFolder);
-    frmSlide->panYear.SetCaption(QStringLiteral("19") + Mid(photo, state.TorviksPathPos + 9, 2));
+    frmSlide->panYear.SetCaption(u"19"_s + Mid(photo, state.TorviksPathPos + 9, 2));
     frmSlide->SSCommand1.SetFocus();
 }
 
@@ -101,7 +104,7 @@ void SlideStepForward()
             RefreshPathPosition();
             ShowSlideWithCaption();
         },
-        [] { ReportSlideFailure(QStringLiteral("ER014")); });
+        [] { ReportSlideFailure(u"ER014"_s); });
     frmSlide->SSCommand1.SetFocus();
 }
 
@@ -115,7 +118,7 @@ void SlideStepBack()
             state.PhotoIndex = state.PhotoIndex >= 2 ? state.PhotoIndex - 1 : int{state.PhotoCount};
             ShowSlideWithCaption();
         },
-        [] { ReportSlideFailure(QStringLiteral("ER015")); });
+        [] { ReportSlideFailure(u"ER015"_s); });
     frmSlide->SSCommand1.SetFocus();
     ShowSlidePosition();
 }

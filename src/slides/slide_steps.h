@@ -7,7 +7,4 @@ void SlideStepForward();
 /// Shows the photo before, before the first one the last.
 void SlideStepBack();
 
-/// Ties the buttons of the bar and the keys that go to another photo.
-void BindSlideSteps();
-
 } // namespace torvik

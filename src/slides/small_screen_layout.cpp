@@ -1,7 +1,7 @@
 #include "slides/small_screen_layout.h"
 
-#include "slides/frm_slide.h"
-#include "ui/screen.h"
+#include "ui/forms/screen.h"
+#include "windows/slide_window.h"
 
 namespace torvik {
 

@@ -1,14 +1,16 @@
 #include "ui/application.h"
 
-#include "platform/environment.h"
-#include "ui/event.h"
-#include "ui/form.h"
-#include "ui/look.h"
-#include "ui/picture.h"
-#include "ui/program_end.h"
+#include "platform/system/environment.h"
+#include "ui/forms/event.h"
+#include "ui/forms/form.h"
+#include "ui/forms/program_end.h"
+#include "ui/look/look.h"
+#include "ui/pictures/picture.h"
 
 #include <QApplication>
 #include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -26,8 +28,8 @@ QApplication* MakeApplication(int& argc, char** argv)
 Application::Application(int& argc, char** argv) : application_(MakeApplication(argc, argv))
 {
     // No display name: the platform would append it to the title of every window and box.
-    QApplication::setApplicationName(QStringLiteral("torvik2001"));
-    QApplication::setDesktopFileName(QStringLiteral("torvik2001"));
+    QApplication::setApplicationName(u"torvik2001"_s);
+    QApplication::setDesktopFileName(u"torvik2001"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyLook();
     RaisePictureLimit();

@@ -1,16 +1,11 @@
 #pragma once
 
-#include <QString>
-
 #include <functional>
 #include <memory>
 
 class QApplication;
 
 namespace torvik {
-
-/// The title of the program: it stands on every box that gives no title of its own, and names the settings.
-inline const QString applicationTitle = QStringLiteral("The Torvik Vollandry 2001");
 
 /// The toolkit's application object with the program's look. One lives while the program runs.
 class Application {

@@ -1,17 +1,18 @@
-#include "utilities/about_box.h"
+#include "program/program_state.h"
+#include "program/task_bar.h"
+#include "ui/desktop/shell_execute.h"
+#include "utilities/bind_utilities.h"
+#include "windows/about_window.h"
+#include "windows/main_window.h"
+#include "windows/maker.h"
 
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "ui/shell_execute.h"
-#include "utilities/frm_about.h"
-#include "utilities/maker.h"
-#include "utilities/task_bar.h"
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
 namespace {
 
-const QString lineEnd = QStringLiteral("\r\n");
+const QString lineEnd = u"\r\n"_s;
 
 /// In the middle of Form1's size, wherever Form1 stands.
 void frmAbout_Load()
@@ -20,7 +21,7 @@ void frmAbout_Load()
     form.SetTop((Form1->Height() - form.Height()) / 2);
     form.SetLeft((Form1->Width() - form.Width()) / 2);
     form.panQuillon.SetCaption(maker::name + lineEnd + maker::street + lineEnd + maker::town + lineEnd +
-                               QStringLiteral("WEB: ") + maker::webAddress);
+                               u"WEB: "_s + maker::webAddress);
     form.SSPanel2.SetCaption(maker::legalNotice);
 }
 

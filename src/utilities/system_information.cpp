@@ -1,13 +1,16 @@
 #include "utilities/system_information.h"
 
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "platform/process.h"
-#include "platform/registry.h"
-#include "shell/form1.h"
-#include "ui/message_box.h"
+#include "platform/files/files.h"
+#include "platform/system/process.h"
+#include "platform/system/registry.h"
+#include "runtime/failure.h"
+#include "ui/forms/message_box.h"
+#include "utilities/bind_utilities.h"
+#include "windows/main_window.h"
 
 #include <optional>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -30,14 +33,13 @@ constexpr const char* desktopTools[] = {
 std::optional<QString> RegisteredTool()
 {
     QString tool;
-    if (ReadRegistryValue(registry::localMachine, QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"),
-                          QStringLiteral("PATH"), tool))
+    if (ReadRegistryValue(registry::localMachine, u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"_s, u"PATH"_s,
+                          tool))
         return tool;
-    if (ReadRegistryValue(registry::localMachine,
-                          QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools Location"),
-                          QStringLiteral("MSINFO"), tool) &&
-        FileExists(tool + QStringLiteral("\\MSINFO32.EXE")))
-        return tool + QStringLiteral("\\MSINFO32.EXE");
+    if (ReadRegistryValue(registry::localMachine, u"SOFTWARE\\Microsoft\\Shared Tools Location"_s,
+                          u"MSINFO"_s, tool) &&
+        FileExists(tool + u"\\MSINFO32.EXE"_s))
+        return tool + u"\\MSINFO32.EXE"_s;
     return std::nullopt;
 }
 
@@ -62,7 +64,7 @@ bool StartDesktopTool()
 
 void SayUnavailable()
 {
-    MsgBox(QStringLiteral("System Information Is Unavailable At This Time"));
+    MsgBox(u"System Information Is Unavailable At This Time"_s);
 }
 
 } // namespace

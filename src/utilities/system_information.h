@@ -7,7 +7,4 @@ namespace torvik {
 /// not start.
 void StartSystemInformation();
 
-/// Ties the menu entry for it.
-void BindSystemInformation();
-
 } // namespace torvik

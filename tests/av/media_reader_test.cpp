@@ -1,12 +1,13 @@
 #include "av/media_reader.h"
 #include "bytes_in_memory.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -92,16 +93,14 @@ void CheckBars(const QImage& image)
         const bool near = std::abs(seen.red() - wanted.red()) < 24 &&
                           std::abs(seen.green() - wanted.green()) < 24 &&
                           std::abs(seen.blue() - wanted.blue()) < 24;
-        QVERIFY2(
-            near,
-            qPrintable(QStringLiteral("bar %1 is %2 and not %3").arg(bar).arg(seen.name(), wanted.name())));
+        QVERIFY2(near, qPrintable(u"bar %1 is %2 and not %3"_s.arg(bar).arg(seen.name(), wanted.name())));
     }
 }
 
 QStringList Codecs(const char* picture, const char* sound)
 {
-    return {QStringLiteral("-c:v"), QString::fromLatin1(picture), QStringLiteral("-q:v"),
-            QStringLiteral("2"),    QStringLiteral("-c:a"),       QString::fromLatin1(sound)};
+    return {u"-c:v"_s, QString::fromLatin1(picture), u"-q:v"_s, u"2"_s,
+            u"-c:a"_s, QString::fromLatin1(sound)};
 }
 
 } // namespace
@@ -119,11 +118,9 @@ private Q_SLOTS:
         QTest::newRow("Cinepak, IMA ADPCM") << Codecs("cinepak", "adpcm_ima_wav");
         QTest::newRow("Microsoft Video 1, Microsoft ADPCM") << Codecs("msvideo1", "adpcm_ms");
         QTest::newRow("plain pictures of 24 bits")
-            << Codecs("rawvideo", "pcm_s16le") +
-                   QStringList{QStringLiteral("-pix_fmt"), QStringLiteral("bgr24")};
+            << Codecs("rawvideo", "pcm_s16le") + QStringList{u"-pix_fmt"_s, u"bgr24"_s};
         QTest::newRow("plain pictures with a palette")
-            << Codecs("rawvideo", "pcm_s16le") +
-                   QStringList{QStringLiteral("-pix_fmt"), QStringLiteral("pal8")};
+            << Codecs("rawvideo", "pcm_s16le") + QStringList{u"-pix_fmt"_s, u"pal8"_s};
     }
     void a_movie_gives_all_its_pictures_in_their_colours_and_its_sound()
     {
@@ -161,15 +158,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("codec");
         QTest::addColumn<int>("rate");
         QTest::addColumn<int>("channels");
-        QTest::newRow("8 bits, mono") << QStringLiteral("pcm_u8") << 11025 << 1;
-        QTest::newRow("8 bits, stereo") << QStringLiteral("pcm_u8") << 22050 << 2;
-        QTest::newRow("16 bits, mono") << QStringLiteral("pcm_s16le") << 22050 << 1;
-        QTest::newRow("16 bits, stereo") << QStringLiteral("pcm_s16le") << 44100 << 2;
-        QTest::newRow("IMA ADPCM, mono") << QStringLiteral("adpcm_ima_wav") << 22050 << 1;
-        QTest::newRow("IMA ADPCM, stereo") << QStringLiteral("adpcm_ima_wav") << 22050 << 2;
-        QTest::newRow("Microsoft ADPCM, mono") << QStringLiteral("adpcm_ms") << 22050 << 1;
-        QTest::newRow("Microsoft ADPCM, stereo") << QStringLiteral("adpcm_ms") << 22050 << 2;
-        QTest::newRow("GSM") << QStringLiteral("libgsm_ms") << 8000 << 1;
+        QTest::newRow("8 bits, mono") << u"pcm_u8"_s << 11025 << 1;
+        QTest::newRow("8 bits, stereo") << u"pcm_u8"_s << 22050 << 2;
+        QTest::newRow("16 bits, mono") << u"pcm_s16le"_s << 22050 << 1;
+        QTest::newRow("16 bits, stereo") << u"pcm_s16le"_s << 44100 << 2;
+        QTest::newRow("IMA ADPCM, mono") << u"adpcm_ima_wav"_s << 22050 << 1;
+        QTest::newRow("IMA ADPCM, stereo") << u"adpcm_ima_wav"_s << 22050 << 2;
+        QTest::newRow("Microsoft ADPCM, mono") << u"adpcm_ms"_s << 22050 << 1;
+        QTest::newRow("Microsoft ADPCM, stereo") << u"adpcm_ms"_s << 22050 << 2;
+        QTest::newRow("GSM") << u"libgsm_ms"_s << 8000 << 1;
     }
     void a_sound_is_heard_whole()
     {
@@ -200,7 +197,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("codecs");
         QTest::newRow("each picture by itself") << Codecs("mjpeg", "pcm_s16le");
         QTest::newRow("pictures that follow from others")
-            << Codecs("cinepak", "pcm_s16le") + QStringList{QStringLiteral("-g"), QStringLiteral("30")};
+            << Codecs("cinepak", "pcm_s16le") + QStringList{u"-g"_s, u"30"_s};
     }
     void a_place_is_found_to_the_picture()
     {
@@ -287,5 +284,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(MediaReaderTest)
+TORVIK_GUILESS_TEST(MediaReaderTest)
 #include "media_reader_test.moc"

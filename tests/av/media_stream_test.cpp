@@ -1,9 +1,9 @@
 #include "av/media_stream.h"
 #include "bytes_in_memory.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 #include <atomic>
 #include <semaphore>
@@ -125,5 +125,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(MediaStreamTest)
+TORVIK_GUILESS_TEST(MediaStreamTest)
 #include "media_stream_test.moc"

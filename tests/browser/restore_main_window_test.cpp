@@ -1,12 +1,12 @@
 #include "browser/restore_main_window.h"
-#include "documents/txt_form.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
+#include "windows/slide_window.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Rebuilding the main window. What each title does to the buttons is told in the test of the catalogue.
@@ -17,7 +17,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         for (const char* file :
              {"emblems/emb69.jpg", "emblems/EMBpt.jpg", "emblems/embsb.jpg", "SCRIPTS/scri69.jpg",
               "SCRIPTS/SCRIpt.jpg", "SCRIPTS/SCRISB.jpg", "Clipart/69clip.jpg"})
@@ -34,7 +34,7 @@ private Q_SLOTS:
         Form1->cmdColors.SetEnabled(false);
         Form1->SpinButton1.Hide();
         state.SlideRestorePending = true;
-        state.YearCode = QStringLiteral("xx");
+        state.YearCode = u"xx"_s;
         RestoreMainWindow();
         QVERIFY(!state.SlideRestorePending);
         QVERIFY(Form1->Enabled());
@@ -42,12 +42,12 @@ private Q_SLOTS:
         QVERIFY(!Form1->cmdColors.Enabled());
         QVERIFY(!Form1->SpinButton1.Visible());
         QVERIFY(!Form1->cmdYR(1).Enabled());
-        QCOMPARE(state.YearCode, QStringLiteral("xx"));
+        QCOMPARE(state.YearCode, u"xx"_s);
     }
 
     void with_a_year_the_caption_panels_and_all_buttons_come_back()
     {
-        Form1->panYear.SetCaption(QStringLiteral("1969"));
+        Form1->panYear.SetCaption(u"1969"_s);
         for (Control* control :
              std::initializer_list<Control*>{&Form1->SpinButton1, &Form1->panPhoto, &Form1->panYear})
             control->Hide();
@@ -59,14 +59,14 @@ private Q_SLOTS:
             QVERIFY(control->Visible());
         for (int index = 1; index <= 35; ++index)
             QVERIFY(Form1->cmdYR(index).Enabled());
-        QCOMPARE(state.YearCode, QStringLiteral("69"));
+        QCOMPARE(state.YearCode, u"69"_s);
     }
 
     void the_code_of_2000_is_left_raw()
     {
-        Form1->panYear.SetCaption(QStringLiteral("2000"));
+        Form1->panYear.SetCaption(u"2000"_s);
         RestoreMainWindow();
-        QCOMPARE(state.YearCode, QStringLiteral("00"));
+        QCOMPARE(state.YearCode, u"00"_s);
     }
 
     void side_forms_are_unloaded()
@@ -83,18 +83,18 @@ private Q_SLOTS:
     void overlays_that_are_open_are_loaded_for_the_new_year()
     {
         ShowOverlays();
-        Form1->panYear.SetCaption(QStringLiteral("1969"));
+        Form1->panYear.SetCaption(u"1969"_s);
         RestoreMainWindow();
-        QCOMPARE(Form1->picEmblem.Picture().FileName(), QStringLiteral("emb69.jpg"));
-        QCOMPARE(Form1->picScript.Picture().FileName(), QStringLiteral("scri69.jpg"));
-        QCOMPARE(Form1->picClipArt.Picture().FileName(), QStringLiteral("69clip.jpg"));
+        QCOMPARE(Form1->picEmblem.Picture().FileName(), u"emb69.jpg"_s);
+        QCOMPARE(Form1->picScript.Picture().FileName(), u"scri69.jpg"_s);
+        QCOMPARE(Form1->picClipArt.Picture().FileName(), u"69clip.jpg"_s);
         QVERIFY(OverlaysVisible());
         QVERIFY(program_->Messages.Shown().isEmpty());
     }
 
     void overlays_that_are_closed_stay_closed()
     {
-        Form1->panYear.SetCaption(QStringLiteral("1970"));
+        Form1->panYear.SetCaption(u"1970"_s);
         RestoreMainWindow();
         QVERIFY(program_->Messages.Shown().isEmpty());
         QVERIFY(!Form1->picEmblem.Visible());
@@ -126,30 +126,30 @@ private Q_SLOTS:
     {
         Form1->picEmblem.Show();
         Form1->picScript.Show();
-        Form1->panYear.SetCaption(QStringLiteral("Early Torvik Prototypes "));
+        Form1->panYear.SetCaption(u"Early Torvik Prototypes "_s);
         RestoreMainWindow();
-        QCOMPARE(Form1->picEmblem.Picture().FileName(), QStringLiteral("EMBpt.jpg"));
-        QCOMPARE(Form1->picScript.Picture().FileName(), QStringLiteral("SCRIpt.jpg"));
+        QCOMPARE(Form1->picEmblem.Picture().FileName(), u"EMBpt.jpg"_s);
+        QCOMPARE(Form1->picScript.Picture().FileName(), u"SCRIpt.jpg"_s);
         QVERIFY(Form1->picEmblem.Visible());
     }
 
     void the_harwell_closes_the_clip_art_and_reloads_the_others()
     {
         ShowOverlays();
-        Form1->panYear.SetCaption(QStringLiteral("The Classic Harwell "));
+        Form1->panYear.SetCaption(u"The Classic Harwell "_s);
         RestoreMainWindow();
         QVERIFY(!Form1->picClipArt.Visible());
-        QCOMPARE(Form1->picEmblem.Picture().FileName(), QStringLiteral("embsb.jpg"));
-        QCOMPARE(Form1->picScript.Picture().FileName(), QStringLiteral("SCRISB.jpg"));
+        QCOMPARE(Form1->picEmblem.Picture().FileName(), u"embsb.jpg"_s);
+        QCOMPARE(Form1->picScript.Picture().FileName(), u"SCRISB.jpg"_s);
     }
 
     void a_missing_overlay_is_reported_by_its_code()
     {
         Form1->picEmblem.Show();
-        Form1->panYear.SetCaption(QStringLiteral("1970"));
+        Form1->panYear.SetCaption(u"1970"_s);
         RestoreMainWindow();
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER022")));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER022"_s));
         QVERIFY(!Form1->picEmblem.Visible());
     }
 
@@ -168,5 +168,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(RestoreMainWindowTest)
+TORVIK_TEST(RestoreMainWindowTest)
 #include "restore_main_window_test.moc"

@@ -1,21 +1,21 @@
-#include "local/frm_ss_photo.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "slides/frm_scroll.h"
+#include "program/program_state.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
-#include "ui/form_window.h"
-#include "ui/program_end.h"
+#include "support/test_class.h"
+#include "ui/forms/form_window.h"
+#include "ui/forms/program_end.h"
+#include "windows/main_window.h"
+#include "windows/page_window.h"
+#include "windows/play_list_window.h"
 
 #include <QDir>
-#include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
-const QString sorry =
-    QStringLiteral("Sorry!\r\n\r\nThe Year 2001 ad has not yet been released by Brenmoor.\r\n");
+const QString sorry = u"Sorry!\r\n\r\nThe Year 2001 ad has not yet been released by Brenmoor.\r\n"_s;
 
 } // namespace
 
@@ -29,7 +29,7 @@ private Q_SLOTS:
         program_ = std::make_unique<Program>();
         for (const char* prefix : {"67", "69", "87", "A1"})
             program_->Disc.AddGroup(QString::fromLatin1(prefix), 2);
-        AddPage(QStringLiteral("69brto00.jpg"), {1240, 1610});
+        AddPage(u"69brto00.jpg"_s, {1240, 1610});
         program_->StartBrowsing();
         program_->Click(Form1->cmdYR(3));
     }
@@ -51,7 +51,7 @@ private Q_SLOTS:
         QVERIFY(allVisible);
         QCOMPARE(pageWidth, 1240.0);
         QCOMPARE(across, 1240 - (800 - 17)); // the layout has run since the page was loaded
-        QCOMPARE(caption, QStringLiteral("The Torvik Vollandry    1969 Advertisement"));
+        QCOMPARE(caption, u"The Torvik Vollandry    1969 Advertisement"_s);
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
@@ -96,9 +96,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("button");
         QTest::addColumn<QString>("file");
-        QTest::newRow("1969") << 3 << QStringLiteral("69brto00.jpg");
-        QTest::newRow("1987") << 21 << QStringLiteral("87brto00.jpg");
-        QTest::newRow("2001") << 35 << QStringLiteral("01brto00.jpg");
+        QTest::newRow("1969") << 3 << u"69brto00.jpg"_s;
+        QTest::newRow("1987") << 21 << u"87brto00.jpg"_s;
+        QTest::newRow("2001") << 35 << u"01brto00.jpg"_s;
     }
     void the_page_in_both_views_is_the_years_own()
     {
@@ -111,17 +111,17 @@ private Q_SLOTS:
             shown = {frmScroll->picChild.Picture().FileName(), frmScroll->Image1.Picture().FileName()};
         });
         QCOMPARE(shown, (QStringList{file, file}));
-        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\ads\\") + file);
+        QCOMPARE(state.DocumentFile, u"G:\\ads\\"_s + file);
     }
 
     void the_folder_is_found_in_any_letter_case()
     {
         QDir disc(program_->Disc.Folder());
-        QVERIFY(disc.rename(QStringLiteral("ads/69brto00.jpg"), QStringLiteral("ads/69BRTO00.JPG")));
-        QVERIFY(disc.rename(QStringLiteral("ads"), QStringLiteral("ADS")));
+        QVERIFY(disc.rename(u"ads/69brto00.jpg"_s, u"ads/69BRTO00.JPG"_s));
+        QVERIFY(disc.rename(u"ads"_s, u"ADS"_s));
         QString shown;
         Visit([&] { shown = frmScroll->picChild.Picture().FileName(); });
-        QCOMPARE(shown.toLower(), QStringLiteral("69brto00.jpg"));
+        QCOMPARE(shown.toLower(), u"69brto00.jpg"_s);
     }
 
     void the_main_window_takes_no_input_meanwhile_and_does_afterwards()
@@ -156,16 +156,16 @@ private Q_SLOTS:
     void without_a_page_it_says_sorry_data()
     {
         QTest::addColumn<QString>("title");
-        QTest::newRow("a year") << QStringLiteral("1967");
-        QTest::newRow("2001") << QStringLiteral("2001");
-        QTest::newRow("a topic") << QStringLiteral("The Classic Harwell ");
+        QTest::newRow("a year") << u"1967"_s;
+        QTest::newRow("2001") << u"2001"_s;
+        QTest::newRow("a topic") << u"The Classic Harwell "_s;
         QTest::newRow("nothing chosen") << nothingChosen;
     }
     void without_a_page_it_says_sorry()
     {
         QFETCH(QString, title);
         Form1->panYear.SetCaption(title);
-        state.ErrorCode = QStringLiteral("before");
+        state.ErrorCode = u"before"_s;
         bool enabled = true;
         program_->Messages.WhenAsked([&] { enabled = Form1->Enabled(); });
         program_->Click(Form1->cmdAd);
@@ -173,12 +173,11 @@ private Q_SLOTS:
         const MessageRequest box = program_->Messages.Last();
         QCOMPARE(box.Text, sorry);
         QCOMPARE(box.Style, 48);
-        QCOMPARE(box.Title, QStringLiteral("The Torvik Vollandry"));
+        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
         QCOMPARE(state.MessageText, sorry);
-        QCOMPARE(state.MessageAnswer, QStringLiteral("1"));
-        QCOMPARE(state.ErrorCode, QStringLiteral("before"));
-        QCOMPARE(state.DocumentFile,
-                 QStringLiteral("G:\\ads\\") + title.mid(2, 2) + QStringLiteral("brto00.jpg"));
+        QCOMPARE(state.MessageAnswer, u"1"_s);
+        QCOMPARE(state.ErrorCode, u"before"_s);
+        QCOMPARE(state.DocumentFile, u"G:\\ads\\"_s + title.mid(2, 2) + u"brto00.jpg"_s);
         QVERIFY(!enabled);
         QVERIFY(Form1->Enabled());
         QVERIFY(frmScroll.IsLoaded());
@@ -198,7 +197,7 @@ private Q_SLOTS:
     void a_page_that_cannot_be_shown_says_sorry()
     {
         QFETCH(QByteArray, content);
-        program_->Disc.AddFile(QStringLiteral("ads/69brto00.jpg"), content);
+        program_->Disc.AddFile(u"ads/69brto00.jpg"_s, content);
         program_->Click(Form1->cmdAd);
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text, sorry);
@@ -231,7 +230,7 @@ private Q_SLOTS:
 
     void a_page_of_20000_pixels_opens()
     {
-        AddPage(QStringLiteral("69brto00.jpg"), {20000, 1000});
+        AddPage(u"69brto00.jpg"_s, {20000, 1000});
         double width = 0;
         int across = 0;
         Visit([&] {
@@ -265,7 +264,7 @@ private Q_SLOTS:
 private:
     void AddPage(const QString& name, const QSize& size)
     {
-        program_->Disc.AddFile(QStringLiteral("ads/") + name, TestDisc::Jpeg(Qt::darkGreen, size));
+        program_->Disc.AddFile(u"ads/"_s + name, TestDisc::Jpeg(Qt::darkGreen, size));
     }
     /// A JPEG whose header tells a size that its data does not have.
     static QByteArray Sized(QByteArray jpeg, int width, int height)
@@ -293,5 +292,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(AdvertisementTest)
+TORVIK_TEST(AdvertisementTest)
 #include "advertisement_test.moc"

@@ -1,11 +1,11 @@
-#include "documents/txt_form.h"
-#include "platform/failure.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
 #include "support/program.h"
+#include "support/test_class.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The wave buttons of the document viewer. Nothing in the program enables them; a test does.
@@ -16,11 +16,11 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
-        program_->Disc.AddGroup(QStringLiteral("69"), 2);
-        program_->Disc.AddFile(QStringLiteral("wav/1969.wav"), "RIFF");
-        program_->Disc.AddFile(QStringLiteral("wav/intro.wav"), "RIFF");
-        program_->Disc.AddFile(QStringLiteral("wav/Torvik Metal Signs .wav"), "RIFF");
+        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->Disc.AddGroup(u"69"_s, 2);
+        program_->Disc.AddFile(u"wav/1969.wav"_s, "RIFF");
+        program_->Disc.AddFile(u"wav/intro.wav"_s, "RIFF");
+        program_->Disc.AddFile(u"wav/Torvik Metal Signs .wav"_s, "RIFF");
         program_->StartBrowsing();
         txtForm->Show();
         for (Button* button : {&txtForm->SSCommand2, &txtForm->SSCommand3}) {
@@ -35,10 +35,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("file");
-        QTest::newRow("nothing chosen") << QStringLiteral("panYear") << QStringLiteral("G:\\wav\\intro.wav");
-        QTest::newRow("a year") << QStringLiteral("1969") << QStringLiteral("G:\\wav\\1969.wav");
-        QTest::newRow("a topic") << QStringLiteral("Torvik Metal Signs ")
-                                 << QStringLiteral("G:\\wav\\Torvik Metal Signs .wav");
+        QTest::newRow("nothing chosen") << u"panYear"_s << u"G:\\wav\\intro.wav"_s;
+        QTest::newRow("a year") << u"1969"_s << u"G:\\wav\\1969.wav"_s;
+        QTest::newRow("a topic") << u"Torvik Metal Signs "_s << u"G:\\wav\\Torvik Metal Signs .wav"_s;
     }
     void the_narration_follows_the_title_on_show()
     {
@@ -48,7 +47,7 @@ private Q_SLOTS:
         program_->Click(txtForm->SSCommand2);
         QCOMPARE(state.SoundFile, file);
         QCOMPARE(int(state.LoopIndex), int(file.size()));
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER032"));
+        QCOMPARE(state.ErrorCode, u"ER032"_s);
         QCOMPARE(Form1->MMControl1.FileName(), file);
         QVERIFY(Form1->MMControl1.IsOpen());
         QVERIFY(program_->Messages.Shown().isEmpty());
@@ -56,36 +55,36 @@ private Q_SLOTS:
 
     void a_missing_narration_is_reported_and_the_device_left_as_it_was()
     {
-        Form1->panYear.SetCaption(QStringLiteral("1969"));
+        Form1->panYear.SetCaption(u"1969"_s);
         program_->Click(txtForm->SSCommand2);
-        Form1->panYear.SetCaption(QStringLiteral("1967"));
+        Form1->panYear.SetCaption(u"1967"_s);
         program_->Click(txtForm->SSCommand2);
-        CheckReport(QStringLiteral("v\\1967.wav"));
-        QCOMPARE(Form1->MMControl1.FileName(), QStringLiteral("G:\\wav\\1969.wav"));
+        CheckReport(u"v\\1967.wav"_s);
+        QCOMPARE(Form1->MMControl1.FileName(), u"G:\\wav\\1969.wav"_s);
         QVERIFY(Form1->MMControl1.IsOpen());
     }
 
     void a_pending_failure_is_reported_although_the_file_is_there()
     {
-        Form1->panYear.SetCaption(QStringLiteral("1969"));
+        Form1->panYear.SetCaption(u"1969"_s);
         const PendingError pending(failure::overflow);
         program_->Click(txtForm->SSCommand2);
-        CheckReport(QStringLiteral("v\\1969.wav"));
+        CheckReport(u"v\\1969.wav"_s);
         QVERIFY(!Form1->MMControl1.IsOpen());
     }
 
     void a_failure_while_the_disc_is_asked_is_reported_in_the_same_way()
     {
-        Form1->panYear.SetCaption(QStringLiteral("1969"));
+        Form1->panYear.SetCaption(u"1969"_s);
         program_->PutDiscIn(QChar());
         program_->Click(txtForm->SSCommand2);
-        CheckReport(QStringLiteral("v\\1969.wav"));
+        CheckReport(u"v\\1969.wav"_s);
         QVERIFY(!Form1->MMControl1.IsOpen());
     }
 
     void stop_closes_the_device()
     {
-        Form1->panYear.SetCaption(QStringLiteral("1969"));
+        Form1->panYear.SetCaption(u"1969"_s);
         program_->Click(txtForm->SSCommand2);
         QVERIFY(Form1->MMControl1.IsOpen());
         program_->Click(txtForm->SSCommand3);
@@ -104,13 +103,13 @@ private:
     {
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Error number: ER032\r\n\r\n Unable to load sound file: ") + file +
-                     QStringLiteral("\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."));
+                 u"Error number: ER032\r\n\r\n Unable to load sound file: "_s + file +
+                     u"\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s);
         QCOMPARE(program_->Messages.Last().Style, 16);
     }
 
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(NarrationTest)
+TORVIK_TEST(NarrationTest)
 #include "narration_test.moc"

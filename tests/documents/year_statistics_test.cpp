@@ -1,11 +1,11 @@
-#include "documents/txt_form.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/program.h"
+#include "support/test_class.h"
 #include "support/viewer_visit.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The statistics behind cmdStats: an article in the viewer, or a note of the photo over the photo.
@@ -16,7 +16,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        for (const QString& prefix : {QStringLiteral("67"), QStringLiteral("69"), QStringLiteral("A1")})
+        for (const QString& prefix : {u"67"_s, u"69"_s, u"A1"_s})
             program_->Disc.AddGroup(prefix, 2);
         program_->StartBrowsing();
         program_->Click(Form1->cmdYR(3));
@@ -58,14 +58,14 @@ private Q_SLOTS:
         QFETCH(QString, title);
         QFETCH(int, photo);
         QFETCH(QString, file);
-        program_->Disc.AddDocument(file, QStringLiteral("Note ") + file);
+        program_->Disc.AddDocument(file, u"Note "_s + file);
         const Viewed viewed = ClickStats(title, photo);
         QVERIFY(!viewed.Came);
         QVERIFY2(program_->Messages.Shown().isEmpty(), qPrintable(program_->Messages.Last().Text));
         QVERIFY(Form1->rtbDetails.Visible());
-        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\richtext\\") + file);
+        QCOMPARE(state.DocumentFile, u"G:\\richtext\\"_s + file);
         QCOMPARE(Form1->rtbDetails.FileName(), state.DocumentFile);
-        QCOMPARE(Form1->rtbDetails.Text(), QStringLiteral("Note ") + file);
+        QCOMPARE(Form1->rtbDetails.Text(), u"Note "_s + file);
         QVERIFY(!txtForm.IsLoaded());
         CheckNotePlace();
     }
@@ -94,74 +94,73 @@ private Q_SLOTS:
         QFETCH(QString, title);
         QFETCH(QString, file);
         QFETCH(QString, window);
-        program_->Disc.AddDocument(file, QStringLiteral("Article ") + file);
+        program_->Disc.AddDocument(file, u"Article "_s + file);
         const Viewed viewed = ClickStats(title);
         QVERIFY2(viewed.Came, qPrintable(program_->Messages.Last().Text));
         QCOMPARE(viewed.Caption, window);
         QCOMPARE(state.DocumentTitle, window);
-        QCOMPARE(viewed.File, QStringLiteral("G:\\richtext\\") + file);
-        QCOMPARE(viewed.Text, QStringLiteral("Article ") + file);
+        QCOMPARE(viewed.File, u"G:\\richtext\\"_s + file);
+        QCOMPARE(viewed.Text, u"Article "_s + file);
         QVERIFY(!Form1->rtbDetails.Visible());
         CheckNotePlace();
     }
 
     void the_first_Kestra_has_notes_and_so_never_its_article()
     {
-        program_->Disc.AddDocument(QStringLiteral("m1stats.rtf"), QStringLiteral("Article"));
-        program_->Disc.AddDocument(QStringLiteral("m1002.rtf"), QStringLiteral("Note"));
-        QVERIFY(!ClickStats(QStringLiteral("Torvik Kestra I ")).Came);
-        QCOMPARE(Form1->rtbDetails.Text(), QStringLiteral("Note"));
+        program_->Disc.AddDocument(u"m1stats.rtf"_s, u"Article"_s);
+        program_->Disc.AddDocument(u"m1002.rtf"_s, u"Note"_s);
+        QVERIFY(!ClickStats(u"Torvik Kestra I "_s).Came);
+        QCOMPARE(Form1->rtbDetails.Text(), u"Note"_s);
     }
 
     void with_nothing_chosen_nothing_happens()
     {
-        state.ErrorCode = QStringLiteral("ER999");
+        state.ErrorCode = u"ER999"_s;
         Form1->cmdStats.SetFocus();
-        QVERIFY(!ClickStats(QStringLiteral("panYear")).Came);
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER999"));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdStats"));
+        QVERIFY(!ClickStats(u"panYear"_s).Came);
+        QCOMPARE(state.ErrorCode, u"ER999"_s);
+        QCOMPARE(Program::Focus(), u"cmdStats"_s);
         QVERIFY(program_->Messages.Shown().isEmpty());
         QCOMPARE(Form1->rtbDetails.Height(), 65.0);
     }
 
     void a_second_click_hides_the_note_and_moves_the_focus_once_more()
     {
-        program_->Disc.AddDocument(QStringLiteral("vms02.rtf"), QStringLiteral("Note"));
-        ClickStats(QStringLiteral("Torvik Metal Signs "));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        program_->Disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
+        ClickStats(u"Torvik Metal Signs "_s);
+        QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
         QVERIFY(Form1->rtbDetails.Visible());
         Form1->cmdStats.SetFocus();
-        ClickStats(QStringLiteral("Torvik Metal Signs "));
+        ClickStats(u"Torvik Metal Signs "_s);
         QVERIFY(!Form1->rtbDetails.Visible());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
     }
 
     void a_visible_note_is_only_hidden_although_a_year_is_on_show()
     {
-        program_->Disc.AddDocument(QStringLiteral("69stats.rtf"), QStringLiteral("Article"));
+        program_->Disc.AddDocument(u"69stats.rtf"_s, u"Article"_s);
         Form1->rtbDetails.Show();
-        QVERIFY(!ClickStats(QStringLiteral("1969")).Came);
+        QVERIFY(!ClickStats(u"1969"_s).Came);
         QVERIFY(!Form1->rtbDetails.Visible());
     }
 
     void a_click_on_the_note_hides_it_and_moves_the_focus()
     {
-        program_->Disc.AddDocument(QStringLiteral("vms02.rtf"), QStringLiteral("Note"));
-        ClickStats(QStringLiteral("Torvik Metal Signs "));
+        program_->Disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
+        ClickStats(u"Torvik Metal Signs "_s);
         Form1->cmdStats.SetFocus();
-        QTest::mouseClick(
-            Form1->rtbDetails.Widget().findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport")),
-            Qt::LeftButton);
+        QTest::mouseClick(Form1->rtbDetails.Widget().findChild<QWidget*>(u"qt_scrollarea_viewport"_s),
+                          Qt::LeftButton);
         program_->Settle();
         QVERIFY(!Form1->rtbDetails.Visible());
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
     }
 
     void the_note_comes_in_front_of_the_photo()
     {
-        program_->Disc.AddDocument(QStringLiteral("vms02.rtf"), QStringLiteral("Note"));
+        program_->Disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
         Form1->Image4.ZOrder();
-        ClickStats(QStringLiteral("Torvik Metal Signs "));
+        ClickStats(u"Torvik Metal Signs "_s);
         const QWidget& note = Form1->rtbDetails.Widget();
         QWidget* const window = &Form1->Host();
         const QWidget* atItsCentre = window->childAt(note.geometry().center());
@@ -171,39 +170,39 @@ private Q_SLOTS:
     void a_missing_note_is_reported_and_stays_hidden_in_its_new_place()
     {
         Form1->cmdStats.SetFocus();
-        QVERIFY(!ClickStats(QStringLiteral("Torvik Metal Signs ")).Came);
+        QVERIFY(!ClickStats(u"Torvik Metal Signs "_s).Came);
         QCOMPARE(program_->Messages.Count(), 1);
         QVERIFY(program_->Messages.Last().Text.startsWith(
-            QStringLiteral("Error number: ER027\r\n\r\n Unable to load the text file.")));
+            u"Error number: ER027\r\n\r\n Unable to load the text file."_s));
         QVERIFY(!Form1->rtbDetails.Visible());
         CheckNotePlace();
-        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\richtext\\vms02.rtf"));
+        QCOMPARE(state.DocumentFile, u"G:\\richtext\\vms02.rtf"_s);
     }
 
     void a_missing_article_is_reported()
     {
-        QVERIFY(!ClickStats(QStringLiteral("1969")).Came);
+        QVERIFY(!ClickStats(u"1969"_s).Came);
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER027\r")));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(4)"));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER027\r"_s));
+        QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
         QVERIFY(!txtForm.IsLoaded());
     }
 
     void a_disc_that_is_gone_is_reported()
     {
         program_->PutDiscIn(QChar());
-        QVERIFY(!ClickStats(QStringLiteral("1969")).Came);
+        QVERIFY(!ClickStats(u"1969"_s).Came);
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER027"));
+        QCOMPARE(state.ErrorCode, u"ER027"_s);
     }
 
     void a_focus_that_cannot_move_is_reported_before_anything_is_shown()
     {
-        program_->Disc.AddDocument(QStringLiteral("69stats.rtf"), QStringLiteral("Article"));
+        program_->Disc.AddDocument(u"69stats.rtf"_s, u"Article"_s);
         Form1->cmdYR(4).SetEnabled(false);
-        QVERIFY(!ClickStats(QStringLiteral("1969")).Came);
+        QVERIFY(!ClickStats(u"1969"_s).Came);
         QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(QStringLiteral("Error number: ER027\r")));
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER027\r"_s));
         QCOMPARE(Form1->rtbDetails.Height(), 65.0);
     }
 
@@ -227,5 +226,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(YearStatisticsTest)
+TORVIK_TEST(YearStatisticsTest)
 #include "year_statistics_test.moc"

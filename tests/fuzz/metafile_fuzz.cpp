@@ -1,7 +1,7 @@
 // Feeds any bytes to the players of metafiles and to the decoder of bitmaps.
 
-#include "rtf/dib.h"
-#include "rtf/metafile.h"
+#include "rtf/bitmap/dib.h"
+#include "rtf/metafile/metafile.h"
 
 #include <QGuiApplication>
 
@@ -20,14 +20,14 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    constexpr qint64 MostBytes = 1024 * 1024;
+    constexpr qint64 mostBytes = 1024 * 1024;
     const QSizeF shown(40, 30);
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    const torvik::rtf::MetafileImage older = torvik::rtf::DrawWmf(bytes, shown, MostBytes);
-    const torvik::rtf::MetafileImage newer = torvik::rtf::DrawEmf(bytes, shown, MostBytes);
-    const QImage bitmap = torvik::rtf::DecodePackedDib(bytes, MostBytes);
+    const torvik::rtf::MetafileImage older = torvik::rtf::DrawWmf(bytes, shown, mostBytes);
+    const torvik::rtf::MetafileImage newer = torvik::rtf::DrawEmf(bytes, shown, mostBytes);
+    const QImage bitmap = torvik::rtf::DecodePackedDib(bytes, mostBytes);
     for (const QImage& image : {older.image, newer.image, bitmap}) {
-        if (image.sizeInBytes() > 2 * MostBytes)
+        if (image.sizeInBytes() > 2 * mostBytes)
             std::abort();
     }
     return 0;

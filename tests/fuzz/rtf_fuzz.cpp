@@ -27,8 +27,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         torvik::rtf::ReadRichText(torvik::rtf::LooksLikeRtf(bytes) ? bytes : "{\\rtf1" + bytes, document);
     if (!result.wasRtf || document.blockCount() < 1)
         std::abort();
-    constexpr int SmallEnoughToLayOut = 4096;
-    if (size < SmallEnoughToLayOut)
+    constexpr int smallEnoughToLayOut = 4096;
+    if (size < smallEnoughToLayOut)
         document.setTextWidth(600);
     return 0;
 }

@@ -106,6 +106,11 @@ class LintTest(unittest.TestCase):
         for header in ("filesystem", "fstream", "unistd.h", "QFile", "QtCore/QSettings"):
             self.assert_caught("src/ui/a.cpp", f"#include <{header}>\n", "only platform includes")
 
+    def test_conversion_of_code_pages_belongs_to_one_folder(self):
+        for folder in ("ui", "platform/files", "rtf/read"):
+            self.assert_caught(f"src/{folder}/a.cpp", "#include <iconv.h>\n", "only rtf/charset includes")
+        self.assert_clean({"src/rtf/charset/a.cpp": "#include <iconv.h>\n"})
+
     def test_names_that_only_look_like_the_machine_are_allowed(self):
         self.assert_clean({"src/ui/a.cpp": "panel.open(x);\npanel->open(x);\n// QFile here\nauto t = \"fopen(\";\n"
                                            "bool open(Mode mode);\nQFileDialogish d;\nDialog::open(x);\nreopen(x);\n"

@@ -1,19 +1,20 @@
-#include "media/frm_movie.h"
-#include "platform/failure.h"
-#include "platform/files.h"
-#include "platform/program_folder.h"
-#include "shell/program_state.h"
+#include "platform/files/files.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
 #include "support/movie_visit.h"
+#include "support/test_class.h"
 #include "support/test_movie.h"
-#include "ui/clock.h"
-#include "ui/form_window.h"
-#include "ui/screen.h"
-#include "ui/video_pane.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/form_window.h"
+#include "ui/forms/screen.h"
+#include "ui/media/video_pane.h"
+#include "windows/movie_window.h"
 
 #include <QAbstractButton>
 #include <QFile>
-#include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -35,8 +36,8 @@ const Movie movies[] = {
     {"", "", "Torvik Movies - xxxx"},
 };
 
-const QString report = QStringLiteral("Error number: ER045\r\n\r\n Unable to load Torvik Movie."
-                                      "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive.");
+const QString report = u"Error number: ER045\r\n\r\n Unable to load Torvik Movie."
+                       "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
 
 MediaControl& Device()
 {
@@ -45,8 +46,8 @@ MediaControl& Device()
 
 QAbstractButton& BarButton(const char* name)
 {
-    auto* button = frmMovie->Window().findChild<QAbstractButton*>(
-        QStringLiteral("MMControl1(%1)").arg(QString::fromLatin1(name)));
+    auto* button =
+        frmMovie->Window().findChild<QAbstractButton*>(u"MMControl1(%1)"_s.arg(QString::fromLatin1(name)));
     if (button == nullptr)
         qFatal("there is no such button");
     return *button;
@@ -59,8 +60,7 @@ void Press(const char* name)
 
 QImage Shown()
 {
-    const auto* pane =
-        dynamic_cast<VideoPane*>(frmMovie->Window().findChild<QWidget*>(QStringLiteral("PicMovie(Video)")));
+    const auto* pane = dynamic_cast<VideoPane*>(frmMovie->Window().findChild<QWidget*>(u"PicMovie(Video)"_s));
     return pane == nullptr || pane->isHidden() ? QImage() : pane->Picture();
 }
 
@@ -74,11 +74,10 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
+        program_->Disc.AddGroup(u"67"_s, 2);
         for (const Movie& movie : movies) {
             if (*movie.File != '\0')
-                program_->Disc.AddFile(QStringLiteral("Movies/") + QString::fromLatin1(movie.File),
-                                       TestMovie::Avi());
+                program_->Disc.AddFile(u"Movies/"_s + QString::fromLatin1(movie.File), TestMovie::Avi());
         }
         program_->StartBrowsing();
     }
@@ -89,32 +88,32 @@ private Q_SLOTS:
     void without_copies_the_movies_come_from_the_disc()
     {
         QVERIFY(VisitMovies(*program_, [] {}));
-        QCOMPARE(state.MovieFolder, QStringLiteral("G:\\movies\\"));
+        QCOMPARE(state.MovieFolder, u"G:\\movies\\"_s);
     }
 
     void copies_beside_the_program_come_first()
     {
-        program_->AddToProgramFolder(QStringLiteral("movies/TORVIK67.AVI"), TestMovie::Avi());
+        program_->AddToProgramFolder(u"movies/TORVIK67.AVI"_s, TestMovie::Avi());
         QString file;
         QVERIFY(VisitMovies(*program_, [&] { file = Device().FileName(); }));
-        QCOMPARE(state.MovieFolder, ProgramFolder() + QStringLiteral("\\movies\\"));
-        QCOMPARE(file, ProgramFolder() + QStringLiteral("\\movies\\Torvik67.avi"));
+        QCOMPARE(state.MovieFolder, ProgramFolder() + u"\\movies\\"_s);
+        QCOMPARE(file, ProgramFolder() + u"\\movies\\Torvik67.avi"_s);
     }
 
     void an_empty_folder_beside_the_program_does_not_count()
     {
-        program_->AddToProgramFolder(QStringLiteral("movies/readme.txt"), "no movie");
+        program_->AddToProgramFolder(u"movies/readme.txt"_s, "no movie");
         QVERIFY(VisitMovies(*program_, [] {}));
-        QCOMPARE(state.MovieFolder, QStringLiteral("G:\\movies\\"));
+        QCOMPARE(state.MovieFolder, u"G:\\movies\\"_s);
     }
 
     void a_folder_beside_the_program_that_cannot_be_asked_does_not_count()
     {
-        const QString folder = program_->InProgramFolder(QStringLiteral("movies"));
+        const QString folder = program_->InProgramFolder(u"movies"_s);
         QVERIFY(QFile::link(folder, folder)); // leads round and round
-        QVERIFY(ResumeNext([] { FindFile(ProgramFolder() + QStringLiteral("\\movies\\*.avi")); }) != 0);
+        QVERIFY(ResumeNext([] { FindFile(ProgramFolder() + u"\\movies\\*.avi"_s); }) != 0);
         QVERIFY(VisitMovies(*program_, [] {}));
-        QCOMPARE(state.MovieFolder, QStringLiteral("G:\\movies\\"));
+        QCOMPARE(state.MovieFolder, u"G:\\movies\\"_s);
     }
 
     // Coming up
@@ -129,12 +128,12 @@ private Q_SLOTS:
             QCOMPARE(form.Top(), (Screen.Height() - form.Height()) * 0.5);
             QVERIFY(!Form1->Enabled());
             QVERIFY(form.optMovie(0).Value());
-            QCOMPARE(form.Caption(), QStringLiteral("Torvik Movies - The 1967 Torvik"));
+            QCOMPARE(form.Caption(), u"Torvik Movies - The 1967 Torvik"_s);
             QVERIFY(form.MMControl1.Visible());
             QVERIFY(form.PicMovie.Visible());
             QCOMPARE(form.PicMovie.Height(), 3255.0);
             QCOMPARE(int(state.NextYearButton), 0);
-            QCOMPARE(Device().FileName(), QStringLiteral("G:\\movies\\Torvik67.avi"));
+            QCOMPARE(Device().FileName(), u"G:\\movies\\Torvik67.avi"_s);
             QVERIFY(Device().IsOpen());
             QVERIFY(Device().Wait && !Device().Notify && !Device().Shareable);
             QCOMPARE(Device().State(), Mode::Stopped);
@@ -152,9 +151,9 @@ private Q_SLOTS:
             QCOMPARE(form.optMovie.Count(), 6);
             for (int index = 0; index < 6; ++index)
                 QCOMPARE(form.optMovie(index).Caption(), QString::fromLatin1(movies[index].Caption));
-            QCOMPARE(form.SSCommand1.Caption(), QStringLiteral("Exit"));
-            QCOMPARE(form.SSCommand2.Caption(), QStringLiteral("Help"));
-            QCOMPARE(form.Design().Caption, QStringLiteral("Torvik Movies"));
+            QCOMPARE(form.SSCommand1.Caption(), u"Exit"_s);
+            QCOMPARE(form.SSCommand2.Caption(), u"Help"_s);
+            QCOMPARE(form.Design().Caption, u"Torvik Movies"_s);
             for (const char* name :
                  {"PicMovie", "SSPanel1", "HScroll1", "MMControl1", "SSCommand1", "SSCommand2"})
                 QVERIFY(form.Window().findChild<QWidget*>(QString::fromLatin1(name)) != nullptr);
@@ -178,8 +177,7 @@ private Q_SLOTS:
             program_->Click(frmMovie->optMovie(index));
             QVERIFY(frmMovie->optMovie(index).Value());
             QCOMPARE(frmMovie->Caption(), QString::fromLatin1(movies[index].Title));
-            QCOMPARE(Device().FileName(),
-                     QStringLiteral("G:\\movies\\") + QString::fromLatin1(movies[index].File));
+            QCOMPARE(Device().FileName(), u"G:\\movies\\"_s + QString::fromLatin1(movies[index].File));
             QVERIFY(Device().IsOpen());
             QCOMPARE(Screen.Pointer(), MousePointer::Default);
         }));
@@ -190,7 +188,7 @@ private Q_SLOTS:
     {
         QVERIFY(VisitMovies(*program_, [&] {
             program_->Click(frmMovie->optMovie(5));
-            QCOMPARE(Device().FileName(), QStringLiteral("G:\\movies\\"));
+            QCOMPARE(Device().FileName(), u"G:\\movies\\"_s);
             QTRY_COMPARE(Device().State(), Mode::NotOpen);
             QVERIFY(!BarButton("Play").isEnabled());
         }));
@@ -210,8 +208,8 @@ private Q_SLOTS:
 
     void a_movie_that_is_missing_or_damaged_says_nothing()
     {
-        program_->Disc.Remove(QStringLiteral("Movies/Q44.avi"));
-        program_->Disc.AddFile(QStringLiteral("Movies/RocknRoll.avi"), "no movie");
+        program_->Disc.Remove(u"Movies/Q44.avi"_s);
+        program_->Disc.AddFile(u"Movies/RocknRoll.avi"_s, "no movie");
         QVERIFY(VisitMovies(*program_, [&] {
             for (const int index : {3, 4}) {
                 program_->Click(frmMovie->optMovie(index));
@@ -234,23 +232,23 @@ private Q_SLOTS:
             QCOMPARE(program_->Messages.Count(), 1);
             QCOMPARE(program_->Messages.Last().Text, report);
             QCOMPARE(program_->Messages.Last().Style, 16);
-            QCOMPARE(frmMovie->Caption(), QStringLiteral("Torvik Movies - The 1967 Torvik"));
+            QCOMPARE(frmMovie->Caption(), u"Torvik Movies - The 1967 Torvik"_s);
             QVERIFY(!Device().IsOpen());
             QVERIFY(!frmMovie->MMControl1.Visible());
             QVERIFY(frmMovie->PicMovie.Visible());
             QCOMPARE(Screen.Pointer(), MousePointer::Hourglass);
             program_->Click(frmMovie->optMovie(2));
             QCOMPARE(program_->Messages.Count(), 2);
-            QCOMPARE(frmMovie->Caption(), QStringLiteral("Torvik Movies - The Super Glider"));
+            QCOMPARE(frmMovie->Caption(), u"Torvik Movies - The Super Glider"_s);
             QVERIFY(Form1->Enabled()); // the report enables it
         }));
-        QCOMPARE(state.ErrorCode, QStringLiteral("ER045"));
+        QCOMPARE(state.ErrorCode, u"ER045"_s);
         QCOMPARE(Screen.Pointer(), MousePointer::Hourglass);
     }
 
     void whatever_the_code_holds_a_movie_opens()
     {
-        state.YearCode = QStringLiteral("backfrng.wav");
+        state.YearCode = u"backfrng.wav"_s;
         QVERIFY(VisitMovies(*program_, [] { QVERIFY(Device().IsOpen()); }));
         QVERIFY(program_->Messages.Shown().isEmpty());
     }
@@ -262,8 +260,8 @@ private Q_SLOTS:
             program_->Click(frmMovie->optMovie(4));
             QCOMPARE(program_->Messages.Count(), 1);
             QCOMPARE(program_->Messages.Last().Text, report);
-            QCOMPARE(frmMovie->Caption(), QStringLiteral("Torvik Movies - Rock and Roll"));
-            QCOMPARE(Device().FileName(), QStringLiteral("G:\\movies\\Torvik67.avi"));
+            QCOMPARE(frmMovie->Caption(), u"Torvik Movies - Rock and Roll"_s);
+            QCOMPARE(Device().FileName(), u"G:\\movies\\Torvik67.avi"_s);
             QCOMPARE(Screen.Pointer(), MousePointer::Hourglass);
         }));
     }
@@ -325,8 +323,8 @@ private Q_SLOTS:
             QVERIFY(!frmMovie.IsLoaded());
         }));
         QVERIFY(Form1->Enabled());
-        QCOMPARE(state.YearCode, QStringLiteral("67"));
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
+        QCOMPARE(state.YearCode, u"67"_s);
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
     }
 
     void the_close_box_unloads_it_too()
@@ -344,7 +342,7 @@ private Q_SLOTS:
         QVERIFY(VisitMovies(*program_, [&] { program_->Click(frmMovie->optMovie(3)); }));
         QVERIFY(VisitMovies(*program_, [] {
             QVERIFY(frmMovie->optMovie(0).Value());
-            QCOMPARE(frmMovie->Caption(), QStringLiteral("Torvik Movies - The 1967 Torvik"));
+            QCOMPARE(frmMovie->Caption(), u"Torvik Movies - The 1967 Torvik"_s);
         }));
     }
 
@@ -359,5 +357,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(MoviePlayerTest)
+TORVIK_TEST(MoviePlayerTest)
 #include "movie_player_test.moc"

@@ -1,13 +1,13 @@
-#include "platform/failure.h"
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
 #include "support/booklet_run.h"
 #include "support/full_disk.h"
-#include "ui/printer.h"
-#include "ui/screen.h"
+#include "support/test_class.h"
+#include "ui/forms/screen.h"
+#include "ui/printer/printer.h"
+#include "windows/main_window.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, to);
         run_->Print({box::introduction, box::clipArt, box::details}, from.constData(), to.constData());
         ExpectRefusal(*run_, "ER036", " 'TO' year may not be earlier than 'FROM' year.", false);
-        ExpectTexts(*run_, {QStringLiteral("Introduction.")});
+        ExpectTexts(*run_, {u"Introduction."_s});
     }
 
     void the_hourglass_stands_until_the_refusal_was_read()
@@ -102,7 +102,7 @@ private Q_SLOTS:
     void a_refusal_moves_the_focus_to_the_next_year_button()
     {
         run_->Print({box::description});
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdYR(2)"));
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
     }
 
     // Failures on the way
@@ -115,7 +115,7 @@ private Q_SLOTS:
         const auto row = [](const char* file, const QStringList& printed) {
             QTest::newRow(file) << QString::fromLatin1(file) << printed;
         };
-        const QStringList introduction(QStringLiteral("Introduction."));
+        const QStringList introduction(u"Introduction."_s);
         row("RichText/introduction.rtf", {});
         row("RichText/67desc.rtf", introduction);
         row("RichText/67opts.rtf", introduction + first.mid(0, 1));
@@ -136,31 +136,31 @@ private Q_SLOTS:
 
     void the_choices_stay_after_a_failure_and_print_when_the_file_is_there()
     {
-        run_->User.Disc.Remove(QStringLiteral("RichText/68desc.rtf"));
+        run_->User.Disc.Remove(u"RichText/68desc.rtf"_s);
         run_->Print({box::description}, "1967", "1969");
         ExpectNoFile(*run_);
         QVERIFY(Form1->Check1(box::description).Value());
-        QCOMPARE(Form1->List1(0).Text(), QStringLiteral("1967"));
-        QCOMPARE(Form1->List1(1).Text(), QStringLiteral("1969"));
-        AddYear(run_->User.Disc, QStringLiteral("68"));
+        QCOMPARE(Form1->List1(0).Text(), u"1967"_s);
+        QCOMPARE(Form1->List1(1).Text(), u"1969"_s);
+        AddYear(run_->User.Disc, u"68"_s);
         run_->User.Click(Form1->cmdPrint);
         ExpectSuccess(*run_);
-        ExpectTexts(*run_, {QStringLiteral("Description of 67."), QStringLiteral("Description of 67."),
-                            QStringLiteral("Description of 68."), QStringLiteral("Description of 69.")});
+        ExpectTexts(*run_, {u"Description of 67."_s, u"Description of 67."_s, u"Description of 68."_s,
+                            u"Description of 69."_s});
     }
 
     void a_failure_leaves_the_focus_where_it_is()
     {
-        run_->User.Disc.Remove(QStringLiteral("RichText/introduction.rtf"));
+        run_->User.Disc.Remove(u"RichText/introduction.rtf"_s);
         run_->Print({box::introduction});
-        QCOMPARE(Program::Focus(), QStringLiteral("cmdPrint"));
+        QCOMPARE(Program::Focus(), u"cmdPrint"_s);
     }
 
     void the_hourglass_stands_until_the_failure_was_read()
     {
         MousePointer during = MousePointer::Default;
         run_->User.Messages.WhenAsked([&] { during = Screen.Pointer(); });
-        run_->User.Disc.Remove(QStringLiteral("RichText/introduction.rtf"));
+        run_->User.Disc.Remove(u"RichText/introduction.rtf"_s);
         run_->Print({box::introduction});
         QCOMPARE(during, MousePointer::Hourglass);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
@@ -188,7 +188,7 @@ private Q_SLOTS:
 
     void a_cover_without_its_introduction_waits_in_its_open_job()
     {
-        run_->User.Disc.Remove(QStringLiteral("RichText/introduction.rtf"));
+        run_->User.Disc.Remove(u"RichText/introduction.rtf"_s);
         run_->Print({box::cover, box::introduction});
         ExpectNoFile(*run_);
         QVERIFY(Printer.HasJob());
@@ -206,7 +206,7 @@ private Q_SLOTS:
     void no_printer_is_told_as_a_file_that_does_not_print()
     {
         QFETCH(int, box);
-        Printer.PrintTo(QStringLiteral("/proc/nothing/here"));
+        Printer.PrintTo(u"/proc/nothing/here"_s);
         run_->Print({box});
         ExpectNoFile(*run_);
         QVERIFY(!Printer.HasJob());
@@ -215,12 +215,12 @@ private Q_SLOTS:
     void a_printer_that_refuses_is_told_and_the_next_one_prints()
     {
         Printer.PrintTo({});
-        Printer.SetUp(PrinterSetup{QStringLiteral("Gone"), QPageSize(QPageSize::A4)});
+        Printer.SetUp(PrinterSetup{u"Gone"_s, QPageSize(QPageSize::A4)});
         run_->Print({box::introduction});
         ExpectNoFile(*run_);
         Printer.PrintTo(run_->Printed.Path());
         run_->User.Click(Form1->cmdPrint);
-        ExpectPrinted(*run_, {QStringLiteral("Introduction.")});
+        ExpectPrinted(*run_, {u"Introduction."_s});
     }
 
     void a_disk_that_fills_up_keeps_what_was_printed_and_no_broken_file()
@@ -228,16 +228,16 @@ private Q_SLOTS:
         constexpr rlim_t room = 40'000; // bytes: enough for a line, too little for many
         QString lines;
         for (int line = 0; line < 6000; ++line)
-            lines += QStringLiteral("Line %1 of many that fill the disk.\\par\n").arg(line * 7919);
-        run_->User.Disc.AddDocument(QStringLiteral("68desc.rtf"), lines);
+            lines += u"Line %1 of many that fill the disk.\\par\n"_s.arg(line * 7919);
+        run_->User.Disc.AddDocument(u"68desc.rtf"_s, lines);
         {
             const FullDisk full(room);
             run_->Print({box::description}, "1967", "1969");
         }
         ExpectNoFile(*run_);
         QVERIFY(!Printer.HasJob());
-        QCOMPARE(run_->Printed.Files(), QStringList(QStringLiteral("job-1.pdf")));
-        ExpectTexts(*run_, {QStringLiteral("Description of 67.")});
+        QCOMPARE(run_->Printed.Files(), QStringList(u"job-1.pdf"_s));
+        ExpectTexts(*run_, {u"Description of 67."_s});
     }
 
 private:
@@ -251,5 +251,5 @@ private:
     std::unique_ptr<BookletRun> run_;
 };
 
-QTEST_MAIN(BookletRefusalsTest)
+TORVIK_TEST(BookletRefusalsTest)
 #include "booklet_refusals_test.moc"

@@ -1,11 +1,11 @@
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/booklet_run.h"
-#include "ui/printer.h"
-#include "ui/screen.h"
+#include "support/test_class.h"
+#include "ui/forms/screen.h"
+#include "ui/printer/printer.h"
+#include "windows/main_window.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// What the booklet holds, read back from the printed files.
@@ -21,15 +21,13 @@ private Q_SLOTS:
     void a_description_is_one_document_for_each_year()
     {
         run_->Print({box::description}, "1967", "1969");
-        ExpectPrinted(*run_, {QStringLiteral("Description of 67."), QStringLiteral("Description of 68."),
-                              QStringLiteral("Description of 69.")});
+        ExpectPrinted(*run_, {u"Description of 67."_s, u"Description of 68."_s, u"Description of 69."_s});
     }
 
     void the_details_are_options_statistics_and_colors_in_this_order()
     {
         run_->Print({box::details}, "1967", "1967");
-        ExpectPrinted(*run_, {QStringLiteral("Options of 67."), QStringLiteral("Statistics of 67."),
-                              QStringLiteral("Colors of 67.")});
+        ExpectPrinted(*run_, {u"Options of 67."_s, u"Statistics of 67."_s, u"Colors of 67."_s});
     }
 
     void a_year_is_complete_before_the_next_one_begins()
@@ -44,7 +42,7 @@ private Q_SLOTS:
     void one_year_can_be_both_ends()
     {
         run_->Print({box::description}, "1968", "1968");
-        ExpectPrinted(*run_, {QStringLiteral("Description of 68.")});
+        ExpectPrinted(*run_, {u"Description of 68."_s});
     }
 
     void the_range_runs_over_the_turn_of_the_century()
@@ -59,23 +57,22 @@ private Q_SLOTS:
     void one_year_of_the_new_century_is_a_range_data()
     {
         QTest::addColumn<QString>("prefix");
-        QTest::newRow("2000") << QStringLiteral("A0");
-        QTest::newRow("2001") << QStringLiteral("A1");
+        QTest::newRow("2000") << u"A0"_s;
+        QTest::newRow("2001") << u"A1"_s;
     }
     void one_year_of_the_new_century_is_a_range()
     {
         QFETCH(QString, prefix);
         const char* year = QTest::currentDataTag();
         run_->Print({box::description}, year, year);
-        ExpectPrinted(*run_, {QStringLiteral("Description of ") + prefix + u'.'});
-        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\RichText\\") + prefix + QStringLiteral("desc.rtf"));
+        ExpectPrinted(*run_, {u"Description of "_s + prefix + u'.'});
+        QCOMPARE(state.DocumentFile, u"G:\\RichText\\"_s + prefix + u"desc.rtf"_s);
     }
 
     void long_documents_take_the_pages_that_they_need()
     {
-        run_->User.Disc.AddDocument(QStringLiteral("99desc.rtf"),
-                                    QStringLiteral("One.\\page Two.\\page Three."));
-        run_->User.Disc.AddDocument(QStringLiteral("A1desc.rtf"), QStringLiteral("One.\\page Two."));
+        run_->User.Disc.AddDocument(u"99desc.rtf"_s, u"One.\\page Two.\\page Three."_s);
+        run_->User.Disc.AddDocument(u"A1desc.rtf"_s, u"One.\\page Two."_s);
         run_->Print({box::description}, "1999", "2001");
         QCOMPARE(run_->Printed.Jobs(), 3);
         QCOMPARE(run_->Printed.Pages(1).size(), 3);
@@ -86,14 +83,14 @@ private Q_SLOTS:
     void the_boxes_do_not_mind_the_order_in_which_they_are_ticked()
     {
         run_->Print({box::details, box::introduction, box::description}, "1967", "1967");
-        ExpectPrinted(*run_, QStringList(QStringLiteral("Introduction.")) + DocumentsOf("67"));
+        ExpectPrinted(*run_, QStringList(u"Introduction."_s) + DocumentsOf("67"));
     }
 
     void the_introduction_needs_no_year()
     {
         run_->Print({box::introduction});
-        ExpectPrinted(*run_, {QStringLiteral("Introduction.")});
-        QCOMPARE(state.DocumentFile, QStringLiteral("G:\\RichText\\introduction.rtf"));
+        ExpectPrinted(*run_, {u"Introduction."_s});
+        QCOMPARE(state.DocumentFile, u"G:\\RichText\\introduction.rtf"_s);
     }
 
     void a_box_without_documents_of_its_own_prints_nothing_data() { AddBoxesWithoutDocuments(); }
@@ -109,8 +106,8 @@ private Q_SLOTS:
     {
         QString long_;
         for (int count = 0; count < 300; ++count)
-            long_ += QStringLiteral("Words enough to fill lines and pages. ");
-        run_->User.Disc.AddDocument(QStringLiteral("67desc.rtf"), long_);
+            long_ += u"Words enough to fill lines and pages. "_s;
+        run_->User.Disc.AddDocument(u"67desc.rtf"_s, long_);
         run_->Print({box::description}, "1967", "1967");
         const QSizeF paper = run_->Printed.Paper(1);
         const QRectF ink = InkOf(run_->Printed.Image(1, 1));
@@ -162,7 +159,7 @@ private Q_SLOTS:
         QCOMPARE(run_->Printed.Jobs(), 3);
         QCOMPARE(run_->Printed.Pages(1).size(), 2);
         QCOMPARE(run_->Printed.Pages(1).at(0).simplified(), QString());
-        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), QStringLiteral("Introduction."));
+        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), u"Introduction."_s);
         QCOMPARE(run_->Printed.Pages(2).size(), 1);
     }
 
@@ -171,7 +168,7 @@ private Q_SLOTS:
         run_->Print({box::cover, box::details}, "1967", "1967");
         QCOMPARE(run_->Printed.Jobs(), 3);
         QCOMPARE(run_->Printed.Pages(1).size(), 2);
-        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), QStringLiteral("Options of 67."));
+        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), u"Options of 67."_s);
     }
 
     void a_cover_alone_needs_no_year_and_leaves_its_job_open()
@@ -196,7 +193,7 @@ private Q_SLOTS:
         QVERIFY(!Printer.HasJob());
         QCOMPARE(run_->Printed.Jobs(), 1);
         QCOMPARE(run_->Printed.Pages(1).size(), 2);
-        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), QStringLiteral("Introduction."));
+        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), u"Introduction."_s);
     }
 
     // What the user is told
@@ -206,11 +203,11 @@ private Q_SLOTS:
         run_->Print({box::cover, box::description}, "1967", "1968");
         ExpectSuccess(*run_);
         QCOMPARE(run_->User.Messages.Count(), 1);
-        QCOMPARE(state.MessageText, QStringLiteral("Booklet printed!\r\n"));
+        QCOMPARE(state.MessageText, u"Booklet printed!\r\n"_s);
         QVERIFY(Form1->pnlPrint.Visible());
         QVERIFY(Form1->Check1(box::cover).Value() && Form1->Check1(box::description).Value());
-        QCOMPARE(Form1->List1(0).Text(), QStringLiteral("1967"));
-        QCOMPARE(Form1->List1(1).Text(), QStringLiteral("1968"));
+        QCOMPARE(Form1->List1(0).Text(), u"1967"_s);
+        QCOMPARE(Form1->List1(1).Text(), u"1968"_s);
         QVERIFY(Form1->cmdPrint.Enabled());
     }
 
@@ -221,7 +218,7 @@ private Q_SLOTS:
             QCOMPARE(Screen.Pointer(), MousePointer::Default);
         });
         run_->Print({box::introduction});
-        QCOMPARE(seen_, QStringList({QStringLiteral("Print"), QStringLiteral("Cancel")}));
+        QCOMPARE(seen_, QStringList({u"Print"_s, u"Cancel"_s}));
     }
 
     void printing_again_prints_the_same_again()
@@ -230,8 +227,7 @@ private Q_SLOTS:
         run_->User.Messages.Clear();
         run_->User.Click(Form1->cmdPrint);
         ExpectSuccess(*run_);
-        const QStringList booklet{QStringLiteral("Introduction."), QStringLiteral("Description of 67."),
-                                  QStringLiteral("Description of 68.")};
+        const QStringList booklet{u"Introduction."_s, u"Description of 67."_s, u"Description of 68."_s};
         ExpectPrinted(*run_, booklet + booklet);
     }
 
@@ -239,15 +235,15 @@ private Q_SLOTS:
     {
         run_->Print({box::introduction});
         run_->User.Click(Form1->SSCommand7);
-        QCOMPARE(Form1->cmdPrint.Caption(), QStringLiteral("Print"));
-        QCOMPARE(Form1->cmdOK.Caption(), QStringLiteral("Cancel"));
+        QCOMPARE(Form1->cmdPrint.Caption(), u"Print"_s);
+        QCOMPARE(Form1->cmdOK.Caption(), u"Cancel"_s);
         QVERIFY(!Form1->cmdPrint.Enabled());
     }
 
     void exit_hides_the_panel_after_a_booklet()
     {
         run_->Print({box::introduction});
-        QCOMPARE(Form1->cmdOK.Caption(), QStringLiteral("Exit"));
+        QCOMPARE(Form1->cmdOK.Caption(), u"Exit"_s);
         run_->User.Click(Form1->cmdOK);
         QVERIFY(!Form1->pnlPrint.Visible());
     }
@@ -257,5 +253,5 @@ private:
     std::unique_ptr<BookletRun> run_;
 };
 
-QTEST_MAIN(BookletTest)
+TORVIK_TEST(BookletTest)
 #include "booklet_test.moc"

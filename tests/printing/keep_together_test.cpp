@@ -1,8 +1,8 @@
 #include "printing/keep_together.h"
 #include "rtf/rtf_reader.h"
+#include "support/test_class.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -76,5 +76,5 @@ private:
     }
 };
 
-QTEST_MAIN(KeepTogetherTest)
+TORVIK_TEST(KeepTogetherTest)
 #include "keep_together_test.moc"

@@ -1,13 +1,14 @@
-#include "documents/txt_form.h"
-#include "platform/failure.h"
 #include "printing/rich_text_printing.h"
+#include "runtime/failure.h"
 #include "support/print_folder.h"
 #include "support/program.h"
-#include "ui/printer.h"
+#include "support/test_class.h"
+#include "ui/printer/printer.h"
+#include "windows/article_window.h"
 
 #include <QBuffer>
-#include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -56,7 +57,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         printed_ = std::make_unique<PrintFolder>();
     }
     void cleanup()
@@ -68,9 +69,9 @@ private Q_SLOTS:
     void a_short_text_is_one_page_and_one_job()
     {
         Print("Hello, road.");
-        QCOMPARE(printed_->Files(), QStringList(QStringLiteral("job-1.pdf")));
+        QCOMPARE(printed_->Files(), QStringList(u"job-1.pdf"_s));
         QCOMPARE(printed_->Pages(1).size(), 1);
-        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("Hello, road."));
+        QCOMPARE(printed_->Pages(1).first().simplified(), u"Hello, road."_s);
         QVERIFY(!Printer.HasJob());
     }
 
@@ -114,7 +115,7 @@ private Q_SLOTS:
         QVERIFY(pages.size() >= 3);
         QStringList expected;
         for (int number = 1; number <= 200; ++number)
-            expected << QStringLiteral("Line") << QString::number(number);
+            expected << u"Line"_s << QString::number(number);
         QStringList all;
         for (const QString& page : pages)
             all += Words(page);
@@ -137,8 +138,8 @@ private Q_SLOTS:
         Print("First\\par\\page Second\\par");
         const QStringList pages = printed_->Pages(1);
         QCOMPARE(pages.size(), 2);
-        QCOMPARE(pages.at(0).simplified(), QStringLiteral("First"));
-        QCOMPARE(pages.at(1).simplified(), QStringLiteral("Second"));
+        QCOMPARE(pages.at(0).simplified(), u"First"_s);
+        QCOMPARE(pages.at(1).simplified(), u"Second"_s);
     }
 
     void a_picture_that_fits_a_page_moves_to_the_next_as_a_whole()
@@ -195,7 +196,7 @@ private Q_SLOTS:
         const bool fillsOneWay =
             picture.width() > (paper.width() - 2 * inch - 3000) * 0.9 || picture.height() > room * 0.9;
         QVERIFY(fillsOneWay);
-        QVERIFY(printed_->Pages(1).join(QString()).contains(QStringLiteral("after")));
+        QVERIFY(printed_->Pages(1).join(QString()).contains(u"after"_s));
     }
 
     void a_picture_in_a_table_is_not_cut_either_data()
@@ -246,8 +247,8 @@ private Q_SLOTS:
 
     void a_file_that_is_no_rich_text_prints_in_readable_letters()
     {
-        program_->Disc.AddFile(QStringLiteral("RichText/plain.rtf"), "HHH without any format");
-        PrintFile(QStringLiteral("plain.rtf"), 1440, 1440, 1440, 1440);
+        program_->Disc.AddFile(u"RichText/plain.rtf"_s, "HHH without any format");
+        PrintFile(u"plain.rtf"_s, 1440, 1440, 1440, 1440);
         const QRectF ink = InkOf(printed_->Image(1, 1));
         QVERIFY2(ink.height() >= 5 * pixel, qPrintable(QString::number(ink.height())));
         QVERIFY(ink.width() > 1000);
@@ -267,33 +268,33 @@ private Q_SLOTS:
 
     void an_open_job_is_continued_and_ended()
     {
-        Printer.Print(QStringLiteral("The cover"));
+        Printer.Print(u"The cover"_s);
         Printer.NewPage();
         Print("The text");
         QVERIFY(!Printer.HasJob());
         QCOMPARE(printed_->Files().size(), 1);
         const QStringList pages = printed_->Pages(1);
         QCOMPARE(pages.size(), 2);
-        QCOMPARE(pages.at(0).simplified(), QStringLiteral("The cover"));
-        QCOMPARE(pages.at(1).simplified(), QStringLiteral("The text"));
+        QCOMPARE(pages.at(0).simplified(), u"The cover"_s);
+        QCOMPARE(pages.at(1).simplified(), u"The text"_s);
     }
 
     void an_open_page_is_shared()
     {
-        Printer.Print(QStringLiteral("The cover"));
+        Printer.Print(u"The cover"_s);
         Print("The text");
         const QStringList pages = printed_->Pages(1);
         QCOMPARE(pages.size(), 1);
-        QCOMPARE(pages.first().simplified(), QStringLiteral("The cover The text"));
+        QCOMPARE(pages.first().simplified(), u"The cover The text"_s);
     }
 
     void each_call_without_an_open_job_is_a_job()
     {
         Print("One");
         Print("Two");
-        QCOMPARE(printed_->Files(), QStringList({QStringLiteral("job-1.pdf"), QStringLiteral("job-2.pdf")}));
-        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("One"));
-        QCOMPARE(printed_->Pages(2).first().simplified(), QStringLiteral("Two"));
+        QCOMPARE(printed_->Files(), QStringList({u"job-1.pdf"_s, u"job-2.pdf"_s}));
+        QCOMPARE(printed_->Pages(1).first().simplified(), u"One"_s);
+        QCOMPARE(printed_->Pages(2).first().simplified(), u"Two"_s);
     }
 
     void the_pane_stays_as_it_was()
@@ -309,12 +310,12 @@ private Q_SLOTS:
 
     void a_printer_that_fails_is_the_callers_failure()
     {
-        Printer.PrintTo(QStringLiteral("/proc/nothing/here"));
+        Printer.PrintTo(u"/proc/nothing/here"_s);
         QCOMPARE(ResumeNext([&] { Print("Lost"); }), failure::printerError);
         QVERIFY(!Printer.HasJob());
         Printer.PrintTo(printed_->Path());
         Print("Found");
-        QCOMPARE(printed_->Pages(1).first().simplified(), QStringLiteral("Found"));
+        QCOMPARE(printed_->Pages(1).first().simplified(), u"Found"_s);
     }
 
     void margins_that_leave_no_room_are_refused()
@@ -326,14 +327,14 @@ private Q_SLOTS:
 private:
     void Print(const QByteArray& rtf, int left = 1440, int top = 1440, int right = 1440, int bottom = 1440)
     {
-        program_->Disc.AddFile(QStringLiteral("RichText/text.rtf"),
+        program_->Disc.AddFile(u"RichText/text.rtf"_s,
                                "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs24 " + rtf + "}");
-        PrintFile(QStringLiteral("text.rtf"), left, top, right, bottom);
+        PrintFile(u"text.rtf"_s, left, top, right, bottom);
     }
 
     void PrintFile(const QString& name, int left, int top, int right, int bottom)
     {
-        txtForm->rtbText.SetFileName(QStringLiteral("G:\\RichText\\") + name);
+        txtForm->rtbText.SetFileName(u"G:\\RichText\\"_s + name);
         PrintRichText(txtForm->rtbText, left, top, right, bottom);
     }
 
@@ -341,5 +342,5 @@ private:
     std::unique_ptr<PrintFolder> printed_;
 };
 
-QTEST_MAIN(RichTextPrintingTest)
+TORVIK_TEST(RichTextPrintingTest)
 #include "rich_text_printing_test.moc"

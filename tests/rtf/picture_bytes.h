@@ -7,7 +7,7 @@
 
 namespace torvik::rtf {
 
-/// Little-endian numbers, one behind the other.
+/// Little-endian numbers, one after the other.
 class Bytes {
 public:
     Bytes& U8(int value) { return Append(static_cast<quint8>(value)); }

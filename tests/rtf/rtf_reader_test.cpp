@@ -1,9 +1,10 @@
 #include "documents.h"
+#include "support/test_class.h"
 
-#include <QTest>
 #include <QUrl>
 
 using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
 
 class RtfReaderTest : public QObject {
     Q_OBJECT
@@ -22,14 +23,11 @@ private Q_SLOTS:
     {
         const Reading read = ReadBytes("Caf\xc3\xa9\r\nsecond\tline <b>&amp;");
         QVERIFY(!read.result.wasRtf);
-        QCOMPARE(read.Text(), QStringLiteral("Café\nsecond\tline <b>&amp;"));
+        QCOMPARE(read.Text(), u"Café\nsecond\tline <b>&amp;"_s);
         QCOMPARE(read.result.paragraphs, 2);
     }
 
-    void text_that_is_not_unicode_is_western()
-    {
-        QCOMPARE(ReadBytes("Caf\xe9 \x80").Text(), QStringLiteral("Café €"));
-    }
+    void text_that_is_not_unicode_is_western() { QCOMPARE(ReadBytes("Caf\xe9 \x80").Text(), u"Café €"_s); }
 
     void text_with_a_byte_order_mark()
     {
@@ -37,7 +35,7 @@ private Q_SLOTS:
                                       "a\0b\0",
                                       6))
                      .Text(),
-                 QStringLiteral("ab"));
+                 u"ab"_s);
     }
 
     void an_empty_file_is_told()
@@ -53,12 +51,12 @@ private Q_SLOTS:
         QTextDocument document;
         ReadRichText(Wrapped("{\\pict\\dibitmap0 00}old\\par"), document);
         ReadRichText(Wrapped("new\\par"), document);
-        QCOMPARE(document.toPlainText(), QStringLiteral("new"));
+        QCOMPARE(document.toPlainText(), u"new"_s);
     }
 
     void plain_text_of_a_document()
     {
-        QCOMPARE(PlainText(Wrapped("one \\b two\\par three\\par")), QStringLiteral("one two\nthree"));
+        QCOMPARE(PlainText(Wrapped("one \\b two\\par three\\par")), u"one two\nthree"_s);
     }
 
     void the_result_tells_what_was_read()
@@ -76,23 +74,23 @@ private Q_SLOTS:
     {
         const Reading read = ReadBytes("{\\rtf1{\\fonttbl{\\f0 Arial;}}one\\par {\\b two");
         QVERIFY(read.result.wasDamaged);
-        QCOMPARE(read.Text(), QStringLiteral("one\ntwo"));
+        QCOMPARE(read.Text(), u"one\ntwo"_s);
         QCOMPARE(read.Format("two").fontWeight(), int(QFont::Bold));
     }
 
     void what_follows_the_document_is_not_of_it()
     {
-        QCOMPARE(ReadBytes(QByteArray("{\\rtf1 a\\par}\r\n\0 rubbish", 24)).Text(), QStringLiteral("a"));
+        QCOMPARE(ReadBytes(QByteArray("{\\rtf1 a\\par}\r\n\0 rubbish", 24)).Text(), u"a"_s);
     }
 
     void a_document_never_asks_for_other_files()
     {
         const Reading read =
             ReadBody("{\\field{\\*\\fldinst INCLUDEPICTURE \"/etc/hostname\"}{\\fldrslt x}}\\par");
-        QCOMPARE(read.Text(), QStringLiteral("x"));
+        QCOMPARE(read.Text(), u"x"_s);
         QVERIFY(read.document->baseUrl().isEmpty());
     }
 };
 
-QTEST_MAIN(RtfReaderTest)
+TORVIK_TEST(RtfReaderTest)
 #include "rtf_reader_test.moc"

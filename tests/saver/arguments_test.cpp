@@ -1,7 +1,7 @@
 #include "saver/arguments.h"
+#include "support/test_class.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -93,14 +93,14 @@ private Q_SLOTS:
     void drives_and_the_program_folder_are_taken()
     {
         const SaverArguments read =
-            Read(QStringLiteral("/s --drive E=/media/a --drive=g:=/b --program-folder /opt/torvik"));
+            Read(u"/s --drive E=/media/a --drive=g:=/b --program-folder /opt/torvik"_s);
         QCOMPARE(read.Problem, QString());
         QCOMPARE(read.Drives.size(), 2);
         QCOMPARE(read.Drives[0].Letter, QChar(u'E'));
-        QCOMPARE(read.Drives[0].Folder, QStringLiteral("/media/a"));
+        QCOMPARE(read.Drives[0].Folder, u"/media/a"_s);
         QCOMPARE(read.Drives[1].Letter, QChar(u'G'));
-        QCOMPARE(read.Drives[1].Folder, QStringLiteral("/b"));
-        QCOMPARE(read.ProgramFolder, QStringLiteral("/opt/torvik"));
+        QCOMPARE(read.Drives[1].Folder, u"/b"_s);
+        QCOMPARE(read.ProgramFolder, u"/opt/torvik"_s);
     }
 
     void help_and_version()
@@ -144,5 +144,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ArgumentsTest)
+TORVIK_APPLESS_TEST(ArgumentsTest)
 #include "arguments_test.moc"

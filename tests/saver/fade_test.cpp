@@ -1,7 +1,7 @@
 #include "saver/fade.h"
+#include "support/test_class.h"
 
 #include <QPainter>
-#include <QTest>
 
 using namespace torvik;
 
@@ -76,5 +76,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FadeTest)
+TORVIK_TEST(FadeTest)
 #include "fade_test.moc"

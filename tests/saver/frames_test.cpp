@@ -1,10 +1,10 @@
-#include "platform/failure_of.h"
 #include "saver/frames.h"
-#include "ui/picture.h"
-#include "ui/picture_bytes.h"
+#include "support/failure_of.h"
+#include "support/picture_bytes.h"
+#include "support/test_class.h"
+#include "ui/pictures/picture.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -46,7 +46,7 @@ private Q_SLOTS:
         QFETCH(QSize, window);
         QImage white(photo, QImage::Format_RGB32);
         white.fill(Qt::white);
-        const QString path = folder_.Add(QStringLiteral("white.jpg"), Encoded(white, "jpg"));
+        const QString path = folder_.Add(u"white.jpg"_s, Encoded(white, "jpg"));
         const QImage frame = PhotoFrame(Picture::Load(path), window);
         QCOMPARE(frame.size(), window);
         QTEST(LitArea(frame), "lit");
@@ -56,7 +56,7 @@ private Q_SLOTS:
     {
         // Turned a quarter to the right: what is stored lower left shows upper left.
         const QByteArray lying = WithOrientation(Encoded(FourCorners({80, 40}), "jpg"), 6);
-        const QString path = folder_.Add(QStringLiteral("lying.jpg"), lying);
+        const QString path = folder_.Add(u"lying.jpg"_s, lying);
         const QImage frame = PhotoFrame(Picture::Load(path), {100, 100});
         QVERIFY(Alike(frame.pixelColor(30, 10), Qt::blue));
         QVERIFY(Alike(frame.pixelColor(70, 10), Qt::red));
@@ -68,7 +68,7 @@ private Q_SLOTS:
     {
         QByteArray damaged = Encoded(FourCorners({200, 200}), "jpg");
         damaged.truncate(damaged.size() / 2);
-        const QString path = folder_.Add(QStringLiteral("damaged.jpg"), damaged);
+        const QString path = folder_.Add(u"damaged.jpg"_s, damaged);
         QCOMPARE(FailureOf([&] { PhotoFrame(Picture::Load(path), {50, 50}); }), failure::invalidPicture);
     }
 
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
     void a_window_without_room_is_no_trouble()
     {
-        const QString path = folder_.Add(QStringLiteral("four.jpg"), Encoded(FourCorners({80, 40}), "jpg"));
+        const QString path = folder_.Add(u"four.jpg"_s, Encoded(FourCorners({80, 40}), "jpg"));
         for (const QSize& tiny : {QSize(1, 1), QSize(3, 2), QSize(1, 400)}) {
             QCOMPARE(CardFrame(tiny, 3).size(), tiny);
             QCOMPARE(PhotoFrame(Picture::Load(path), tiny).size(), tiny);
@@ -116,5 +116,5 @@ private:
     PictureFolder folder_;
 };
 
-QTEST_MAIN(FramesTest)
+TORVIK_TEST(FramesTest)
 #include "frames_test.moc"

@@ -1,7 +1,7 @@
 #include "saver/information.h"
+#include "support/test_class.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// What the saver tells of itself.
@@ -11,21 +11,21 @@ class InformationTest : public QObject {
 private Q_SLOTS:
     void it_names_folder_delay_and_the_way_to_change_them()
     {
-        QCOMPARE(InformationText({15000, QStringLiteral("C:\\opt\\torvik\\ssTorviks\\")}),
-                 QStringLiteral("The Torvik Vollandry Screen Saver\r\n\r\n"
-                                "Photos:  C:\\opt\\torvik\\ssTorviks\\\r\n"
-                                "Delay:  15 seconds\r\n\r\n"
-                                "To choose other photos or another delay, start The Torvik Vollandry 2001\r\n"
-                                "and select Install Screen saver under the File menu.\r\n\r\n"
-                                "To see the photos now, start Torvik2001.scr with /s."));
+        QCOMPARE(InformationText({15000, u"C:\\opt\\torvik\\ssTorviks\\"_s}),
+                 u"The Torvik Vollandry Screen Saver\r\n\r\n"
+                 "Photos:  C:\\opt\\torvik\\ssTorviks\\\r\n"
+                 "Delay:  15 seconds\r\n\r\n"
+                 "To choose other photos or another delay, start The Torvik Vollandry 2001\r\n"
+                 "and select Install Screen saver under the File menu.\r\n\r\n"
+                 "To see the photos now, start Torvik2001.scr with /s."_s);
     }
 
     void a_folder_that_was_never_chosen_and_a_single_second_have_words_of_their_own()
     {
         const QString text = InformationText({1000, QString()});
-        QVERIFY(text.contains(QStringLiteral("Photos:  none chosen yet\r\nDelay:  1 second\r\n")));
+        QVERIFY(text.contains(u"Photos:  none chosen yet\r\nDelay:  1 second\r\n"_s));
     }
 };
 
-QTEST_APPLESS_MAIN(InformationTest)
+TORVIK_APPLESS_TEST(InformationTest)
 #include "information_test.moc"

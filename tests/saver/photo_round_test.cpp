@@ -1,8 +1,8 @@
-#include "platform/disc_folder.h"
 #include "saver/photo_round.h"
+#include "support/disc_folder.h"
+#include "support/test_class.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -16,12 +16,7 @@ QStringList Take(PhotoRound& round, int count)
     return taken;
 }
 
-QString On(const char* name)
-{
-    return QStringLiteral("E:\\") + QString::fromLatin1(name);
-}
-
-const QString drive = QStringLiteral("E:\\");
+const QString discDrive = u"E:\\"_s;
 
 } // namespace
 
@@ -40,7 +35,7 @@ private Q_SLOTS:
     {
         const DiscFolder disc;
         QVERIFY(disc.File("b.jpg") && disc.File("A.JPG") && disc.File("C.Jpg") && disc.File("note.rtf"));
-        PhotoRound round(drive);
+        PhotoRound round(discDrive);
         QCOMPARE(Take(round, 4), (QStringList{On("A.JPG"), On("b.jpg"), On("C.Jpg"), On("A.JPG")}));
         QCOMPARE(round.Count(), 3);
     }
@@ -50,9 +45,9 @@ private Q_SLOTS:
         const DiscFolder disc;
         for (const char* name : {"a.jpg", "b.jpg", "c.jpg", "d.jpg"})
             QVERIFY(disc.File(name));
-        PhotoRound middle(drive, 0.5);
+        PhotoRound middle(discDrive, 0.5);
         QCOMPARE(Take(middle, 4), (QStringList{On("c.jpg"), On("d.jpg"), On("a.jpg"), On("b.jpg")}));
-        PhotoRound end(drive, 0.9999);
+        PhotoRound end(discDrive, 0.9999);
         QCOMPARE(Take(end, 2), (QStringList{On("d.jpg"), On("a.jpg")}));
     }
 
@@ -60,7 +55,7 @@ private Q_SLOTS:
     {
         const DiscFolder disc;
         QVERIFY(disc.File("a.jpg") && disc.File("b.jpg"));
-        PhotoRound round(drive);
+        PhotoRound round(discDrive);
         QCOMPARE(Take(round, 2), (QStringList{On("a.jpg"), On("b.jpg")}));
         QVERIFY(disc.Remove("a.jpg") && disc.File("c.jpg"));
         QCOMPARE(Take(round, 3), (QStringList{On("b.jpg"), On("c.jpg"), On("b.jpg")}));
@@ -69,7 +64,7 @@ private Q_SLOTS:
     void a_folder_without_photos_is_asked_again_each_time()
     {
         const DiscFolder disc;
-        PhotoRound round(drive);
+        PhotoRound round(discDrive);
         QCOMPARE(Take(round, 2), (QStringList{QString(), QString()}));
         QVERIFY(disc.File("a.jpg"));
         QCOMPARE(round.Next(), On("a.jpg"));
@@ -100,13 +95,13 @@ private Q_SLOTS:
         disc.clear();
         SetDriveOptions({});
         SetVolumeLister([] { return disc.isEmpty() ? QList<QString>() : QList<QString>{disc}; });
-        PhotoRound round(QStringLiteral("D:\\"));
+        PhotoRound round(u"D:\\"_s);
         QCOMPARE(round.Next(), QString());
         disc = medium.Path();
-        QCOMPARE(round.Next(), QStringLiteral("D:\\a.jpg"));
+        QCOMPARE(round.Next(), u"D:\\a.jpg"_s);
         SetVolumeLister([] { return QList<QString>(); });
     }
 };
 
-QTEST_GUILESS_MAIN(PhotoRoundTest)
+TORVIK_GUILESS_TEST(PhotoRoundTest)
 #include "photo_round_test.moc"

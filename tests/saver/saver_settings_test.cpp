@@ -1,25 +1,26 @@
-#include "platform/settings_store.h"
+#include "platform/system/settings_store.h"
 #include "saver/saver_settings.h"
-#include "ui/application.h"
+#include "support/test_class.h"
+#include "ui/forms/program_title.h"
 
 #include <QFile>
-#include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 // The names as the saver has always looked for them.
-const QString application = QStringLiteral("SCRNSAVE: The Torvik Vollandry 2001");
+const QString application = u"SCRNSAVE: The Torvik Vollandry 2001"_s;
 
 void Store(const char* key, const QString& text)
 {
-    SaveSetting(application, QStringLiteral("Settings"), QString::fromLatin1(key), text);
+    SaveSetting(application, u"Settings"_s, QString::fromLatin1(key), text);
 }
 
 void Forget()
 {
-    QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u'/' + application + QStringLiteral(".ini"));
+    QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u'/' + application + u".ini"_s);
 }
 
 } // namespace
@@ -34,16 +35,16 @@ private Q_SLOTS:
 
     void the_application_is_the_title_with_a_word_in_front()
     {
-        QCOMPARE(application, QStringLiteral("SCRNSAVE: ") + applicationTitle);
+        QCOMPARE(application, u"SCRNSAVE: "_s + applicationTitle);
     }
 
     void what_the_installation_wrote_is_read()
     {
-        Store("Interval", QStringLiteral("15"));
-        Store("TorviksDir", QStringLiteral("C:\\opt\\torvik\\ssTorviks\\"));
+        Store("Interval", u"15"_s);
+        Store("TorviksDir", u"C:\\opt\\torvik\\ssTorviks\\"_s);
         const SaverSettings read = ReadSaverSettings();
         QCOMPARE(read.Interval, 15000);
-        QCOMPARE(read.Folder, QStringLiteral("C:\\opt\\torvik\\ssTorviks\\"));
+        QCOMPARE(read.Folder, u"C:\\opt\\torvik\\ssTorviks\\"_s);
     }
 
     void before_the_installation_there_is_no_folder_and_a_calm_interval()
@@ -85,15 +86,15 @@ private Q_SLOTS:
 
     void a_folder_without_a_closing_backslash_gets_one()
     {
-        Store("TorviksDir", QStringLiteral("E:\\Torviks"));
-        QCOMPARE(ReadSaverSettings().Folder, QStringLiteral("E:\\Torviks\\"));
-        Store("TorviksDir", QStringLiteral("E:\\Torviks/"));
-        QCOMPARE(ReadSaverSettings().Folder, QStringLiteral("E:\\Torviks/"));
+        Store("TorviksDir", u"E:\\Torviks"_s);
+        QCOMPARE(ReadSaverSettings().Folder, u"E:\\Torviks\\"_s);
+        Store("TorviksDir", u"E:\\Torviks/"_s);
+        QCOMPARE(ReadSaverSettings().Folder, u"E:\\Torviks/"_s);
     }
 
     void a_file_that_is_no_settings_file_counts_as_none()
     {
-        QFile file(qEnvironmentVariable("XDG_CONFIG_HOME") + u'/' + application + QStringLiteral(".ini"));
+        QFile file(qEnvironmentVariable("XDG_CONFIG_HOME") + u'/' + application + u".ini"_s);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(5000, '\xff') + "[Settings\n=\n\n%%%=3");
         file.close();
@@ -102,5 +103,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SaverSettingsTest)
+TORVIK_GUILESS_TEST(SaverSettingsTest)
 #include "saver_settings_test.moc"

@@ -1,13 +1,14 @@
-#include "platform/disc_folder.h"
-#include "saver/show_places.h"
+#include "saver/covered_screens.h"
 #include "saver/show_runner.h"
+#include "support/disc_folder.h"
+#include "support/test_class.h"
 #include "support/test_disc.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScreen>
-#include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -38,7 +39,7 @@ private Q_SLOTS:
         const ShowRunner runner({5000, drive_}, 0, OpenOnAllScreens, nullptr);
         QCOMPARE(runner.Windows().size(), std::size_t(2));
         for (std::size_t i = 0; i < 2; ++i) {
-            const ShowWindow& window = *runner.Windows()[i];
+            const SaverWindow& window = *runner.Windows()[i];
             QCOMPARE(window.geometry(), QGuiApplication::screens()[static_cast<qsizetype>(i)]->geometry());
             QVERIFY(window.isVisible());
             QVERIFY(window.flags().testFlag(Qt::FramelessWindowHint));
@@ -105,7 +106,7 @@ private Q_SLOTS:
     void the_photo_is_on_the_screen_when_the_passage_is_over()
     {
         const ShowRunner runner({1000, drive_}, 0, OpenOnAllScreens, nullptr);
-        ShowWindow& window = *runner.Windows()[0];
+        SaverWindow& window = *runner.Windows()[0];
         QTRY_VERIFY(window.isExposed());
         QTRY_VERIFY(RedAt(window, {200, 150}) > 230);
     }
@@ -113,14 +114,14 @@ private Q_SLOTS:
     void a_window_that_changes_its_size_shows_the_photo_at_the_new_size()
     {
         const auto openOne = [] {
-            ShowWindows windows;
-            windows.push_back(std::make_unique<ShowWindow>());
+            SaverWindows windows;
+            windows.push_back(std::make_unique<SaverWindow>());
             windows.back()->resize(100, 100);
             windows.back()->show();
             return windows;
         };
         const ShowRunner runner({60'000, drive_}, 0, openOne, nullptr);
-        ShowWindow& window = *runner.Windows()[0];
+        SaverWindow& window = *runner.Windows()[0];
         window.resize(200, 100);
         QTRY_COMPARE(window.Shown().Frame().size(), QSize(200, 100));
     }
@@ -133,33 +134,32 @@ private Q_SLOTS:
 
 private:
     /// The mouse at a place of the desktop.
-    static void Move(ShowWindow& window, const QPointF& place)
+    static void Move(SaverWindow& window, const QPointF& place)
     {
         QMouseEvent event(QEvent::MouseMove, window.mapFromGlobal(place), place, Qt::NoButton, Qt::NoButton,
                           Qt::NoModifier);
         QCoreApplication::sendEvent(&window, &event);
     }
 
-    static int RedAt(const ShowWindow& window, const QPoint& place)
+    static int RedAt(const SaverWindow& window, const QPoint& place)
     {
         const QPixmap seen = window.screen()->grabWindow(window.winId());
         return seen.isNull() ? 0 : seen.toImage().pixelColor(place).red();
     }
 
     DiscFolder disc_;
-    const QString drive_ = QStringLiteral("E:\\");
+    const QString drive_ = u"E:\\"_s;
 };
 
-int main(int argc, char** argv)
+void LayOutTwoScreens()
 {
-    QTemporaryDir folder;
-    QFile configuration(folder.filePath(QStringLiteral("screens.json")));
+    static const QTemporaryDir folder;
+    QFile configuration(folder.filePath(u"screens.json"_s));
     if (!configuration.open(QIODevice::WriteOnly) || configuration.write(twoScreens) != twoScreens.size())
-        return 1;
+        qFatal("cannot write the layout of the screens");
     configuration.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + configuration.fileName().toLocal8Bit());
-    QApplication application(argc, argv);
-    ShowRunnerTest test;
-    return QTest::qExec(&test, argc, argv);
 }
+
+TORVIK_TEST_AFTER(ShowRunnerTest, LayOutTwoScreens)
 #include "show_runner_test.moc"

@@ -1,11 +1,11 @@
 #include "saver/wake.h"
+#include "support/test_class.h"
 
 #include <QCloseEvent>
 #include <QEnterEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointingDevice>
-#include <QTest>
 #include <QTouchEvent>
 #include <QWheelEvent>
 
@@ -99,5 +99,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(WakeTest)
+TORVIK_TEST(WakeTest)
 #include "wake_test.moc"

@@ -1,8 +1,10 @@
 #include "support/slide_visit.h"
-#include "ui/clock.h"
+#include "support/test_class.h"
+#include "ui/forms/clock.h"
 
 #include <QLocale>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The clock strip of the slide show.
@@ -13,7 +15,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 2);
+        program_->Disc.AddGroup(u"67"_s, 2);
         program_->StartBrowsing();
     }
     void cleanup()
@@ -60,8 +62,8 @@ private Q_SLOTS:
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
         QVERIFY(InSlideShow(*program_, [] {
             Clock::Turn(10);
-            QCOMPARE(frmSlide->StatusDay.Caption(), QStringLiteral("Sunday"));
-            QVERIFY(frmSlide->StatusTime.Caption().endsWith(QStringLiteral(" pm")));
+            QCOMPARE(frmSlide->StatusDay.Caption(), u"Sunday"_s);
+            QVERIFY(frmSlide->StatusTime.Caption().endsWith(u" pm"_s));
         }));
     }
 
@@ -71,12 +73,12 @@ private Q_SLOTS:
             QCOMPARE(frmSlide->Timer3.Interval(), 10);
             Clock::StopAt(QDateTime(QDate(2001, 6, 17), QTime(14, 5, 9, 985)));
             Clock::Turn(10);
-            QCOMPARE(frmSlide->StatusTime.Caption(), QStringLiteral("02:05:09 pm"));
+            QCOMPARE(frmSlide->StatusTime.Caption(), u"02:05:09 pm"_s);
             Clock::Turn(10);
-            QCOMPARE(frmSlide->StatusTime.Caption(), QStringLiteral("02:05:10 pm"));
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Play)"));
+            QCOMPARE(frmSlide->StatusTime.Caption(), u"02:05:10 pm"_s);
+            ClickSlidePart(*program_, u"mmSlide(Play)"_s);
             Clock::Turn(60'000);
-            QCOMPARE(frmSlide->StatusTime.Caption(), QStringLiteral("02:06:10 pm"));
+            QCOMPARE(frmSlide->StatusTime.Caption(), u"02:06:10 pm"_s);
         }));
     }
 
@@ -84,5 +86,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SlideClockTest)
+TORVIK_TEST(SlideClockTest)
 #include "slide_clock_test.moc"

@@ -1,6 +1,8 @@
 #include "support/slide_visit.h"
-#include "ui/program_end.h"
+#include "support/test_class.h"
+#include "ui/forms/program_end.h"
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Going to another photo of a show that is paused.
@@ -11,8 +13,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 24); // 67A to 67X
-        program_->Disc.AddGroup(QStringLiteral("VC"), 1);
+        program_->Disc.AddGroup(u"67"_s, 24); // 67A to 67X
+        program_->Disc.AddGroup(u"VC"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -55,8 +57,8 @@ private Q_SLOTS:
             ClickSlidePart(*program_, press);
             QCOMPARE(int(state.PhotoIndex), to);
             QCOMPARE(frmSlide->Image1.Picture().FileName(), state.PhotoFiles(to).mid(11));
-            QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), QStringLiteral("%1 of 25").arg(to));
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), u"%1 of 25"_s.arg(to));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
         }));
         QCOMPARE(program_->Messages.Count(), 0);
     }
@@ -64,10 +66,10 @@ private Q_SLOTS:
     void a_step_shows_the_caption_of_the_photo()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Prev)"));
-            QCOMPARE(ShownSlide(), QStringLiteral("VCA.JPG, 25 of 25, Torvik Cookies "));
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
-            QCOMPARE(ShownSlide(), QStringLiteral("67A.JPG, 1 of 25, 1967 "));
+            ClickSlidePart(*program_, u"mmSlide(Prev)"_s);
+            QCOMPARE(ShownSlide(), u"VCA.JPG, 25 of 25, Torvik Cookies "_s);
+            ClickSlidePart(*program_, u"mmSlide(Next)"_s);
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 25, 1967 "_s);
         }));
     }
 
@@ -75,10 +77,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("press");
         QTest::addColumn<bool>("showsPosition");
-        QTest::newRow("forward") << QStringLiteral("mmSlide(Next)") << true;
-        QTest::newRow("back") << QStringLiteral("mmSlide(Prev)") << true;
-        QTest::newRow("jump back") << QStringLiteral("mmSlide(Back)") << true;
-        QTest::newRow("jump forward") << QStringLiteral("mmSlide(Step)") << false;
+        QTest::newRow("forward") << u"mmSlide(Next)"_s << true;
+        QTest::newRow("back") << u"mmSlide(Prev)"_s << true;
+        QTest::newRow("jump back") << u"mmSlide(Back)"_s << true;
+        QTest::newRow("jump forward") << u"mmSlide(Step)"_s << false;
     }
 
     void what_a_step_leaves_behind()
@@ -101,7 +103,7 @@ private Q_SLOTS:
     void comma_and_period_step_with_and_without_shift()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
             for (const auto& [key, shown] : {std::pair{Qt::Key_Period, "67B.JPG"},
                                              {Qt::Key_Greater, "67C.JPG"},
                                              {Qt::Key_Comma, "67B.JPG"},
@@ -124,14 +126,14 @@ private Q_SLOTS:
 
     void the_beginning_is_always_captioned_1967()
     {
-        Restart(QStringLiteral("72"), 2);
+        Restart(u"72"_s, 2);
         state.ShownPhotoIndex = 2;
         QVERIFY(InSlideShow(*program_, [&] {
             frmSlide->Image1.Hide();
             frmSlide->panYear.Hide();
             frmSlide->pnlPhotoNumber.Hide();
             program_->Click(frmSlide->SSCommand1);
-            QCOMPARE(ShownSlide(), QStringLiteral("72A.JPG, 1 of 2, 1967"));
+            QCOMPARE(ShownSlide(), u"72A.JPG, 1 of 2, 1967"_s);
             for (const Control* control : std::initializer_list<const Control*>{
                      &frmSlide->Image1, &frmSlide->panYear, &frmSlide->pnlPhotoNumber})
                 QVERIFY(control->Visible());
@@ -140,14 +142,14 @@ private Q_SLOTS:
 
     void the_middle_has_a_plain_caption_for_a_topic_too()
     {
-        Restart(QStringLiteral("VC"), 5);
+        Restart(u"VC"_s, 5);
         QVERIFY(InSlideShow(*program_, [&] {
             frmSlide->Image1.Hide();
             frmSlide->panYear.Hide();
             frmSlide->pnlPhotoNumber.Hide();
             state.TorviksPathPos = 0;
             program_->Click(frmSlide->SSCommand2);
-            QCOMPARE(ShownSlide(), QStringLiteral("VCB.JPG, 2 of 5, 19VC")); // 5 / 2 gives 2
+            QCOMPARE(ShownSlide(), u"VCB.JPG, 2 of 5, 19VC"_s); // 5 / 2 gives 2
             QCOMPARE(int(state.TorviksPathPos), 3);
             for (const Control* control : std::initializer_list<const Control*>{
                      &frmSlide->Image1, &frmSlide->panYear, &frmSlide->pnlPhotoNumber})
@@ -157,21 +159,20 @@ private Q_SLOTS:
 
     void the_middle_of_seven_is_the_fourth()
     {
-        Restart(QStringLiteral("67"), 7);
+        Restart(u"67"_s, 7);
         QVERIFY(InSlideShow(*program_, [&] {
             program_->Click(frmSlide->SSCommand2);
-            QCOMPARE(ShownSlide(), QStringLiteral("67D.JPG, 4 of 7, 1967"));
+            QCOMPARE(ShownSlide(), u"67D.JPG, 4 of 7, 1967"_s);
         }));
     }
 
     void the_middle_of_one_photo_asks_for_photo_0_and_ends_the_program()
     {
-        Restart(QStringLiteral("67"), 1);
+        Restart(u"67"_s, 1);
         QVERIFY(InSlideShow(*program_, [&] { program_->Click(frmSlide->SSCommand2); }));
         QCOMPARE(int(state.PhotoIndex), 0);
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Run-time error '9':\r\n\r\nSubscript out of range"));
+        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '9':\r\n\r\nSubscript out of range"_s);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -181,14 +182,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("from");
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("position");
-        QTest::newRow("jump back") << QStringLiteral("mmSlide(Back)") << 12 << QStringLiteral("ER013")
-                                   << QStringLiteral("1 of 25"); // not written anew
-        QTest::newRow("forward") << QStringLiteral("mmSlide(Next)") << 1 << QStringLiteral("ER014")
-                                 << QStringLiteral("2 of 25");
-        QTest::newRow("back") << QStringLiteral("mmSlide(Prev)") << 3 << QStringLiteral("ER015")
-                              << QStringLiteral("2 of 25");
-        QTest::newRow("jump forward")
-            << QStringLiteral("mmSlide(Step)") << -8 << QStringLiteral("ER018") << QStringLiteral("2 of 25");
+        QTest::newRow("jump back") << u"mmSlide(Back)"_s << 12 << u"ER013"_s
+                                   << u"1 of 25"_s; // not written anew
+        QTest::newRow("forward") << u"mmSlide(Next)"_s << 1 << u"ER014"_s << u"2 of 25"_s;
+        QTest::newRow("back") << u"mmSlide(Prev)"_s << 3 << u"ER015"_s << u"2 of 25"_s;
+        QTest::newRow("jump forward") << u"mmSlide(Step)"_s << -8 << u"ER018"_s << u"2 of 25"_s;
     }
 
     void a_photo_that_is_gone_is_reported_and_the_old_one_stays()
@@ -198,20 +196,19 @@ private Q_SLOTS:
         QFETCH(QString, code);
         QFETCH(QString, position);
         QVERIFY(InSlideShow(*program_, [&] {
-            program_->Disc.Remove(QStringLiteral("Torviks/67B.JPG"));
+            program_->Disc.Remove(u"Torviks/67B.JPG"_s);
             state.PhotoIndex = from;
             ClickSlidePart(*program_, press);
             QCOMPARE(program_->Messages.Count(), 1);
             QCOMPARE(program_->Messages.Last().Text,
-                     QStringLiteral("Error number: %1\r\n\r\n Unable to load Slide Show photo.\r\n\r\n"
-                                    "Make sure that the Torvik Vollandry is in the CDROM drive.")
-                         .arg(code));
+                     u"Error number: %1\r\n\r\n Unable to load Slide Show photo.\r\n\r\n"
+                     "Make sure that the Torvik Vollandry is in the CDROM drive."_s.arg(code));
             QCOMPARE(program_->Messages.Last().Style, 16);
-            QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry"));
+            QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry"_s);
             QCOMPARE(int(state.PhotoIndex), 2);
-            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("67A.JPG"));
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67A.JPG"_s);
             QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), position);
-            QCOMPARE(Program::Focus(), QStringLiteral("SSCommand1"));
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
             QVERIFY(!ProgramIsEnding());
         }));
     }
@@ -219,13 +216,13 @@ private Q_SLOTS:
     void a_cut_off_photo_is_reported_like_one_that_is_gone()
     {
         const QByteArray whole = TestDisc::Jpeg(Qt::red, {64, 48});
-        program_->Disc.AddFile(QStringLiteral("Torviks/67B.JPG"), whole.left(whole.size() - 20));
+        program_->Disc.AddFile(u"Torviks/67B.JPG"_s, whole.left(whole.size() - 20));
         QVERIFY(InSlideShow(*program_, [&] {
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
-            QCOMPARE(state.ErrorCode, QStringLiteral("ER014"));
-            QCOMPARE(frmSlide->Image1.Picture().FileName(), QStringLiteral("67A.JPG"));
-            ClickSlidePart(*program_, QStringLiteral("mmSlide(Next)"));
-            QCOMPARE(ShownSlide(), QStringLiteral("67C.JPG, 3 of 25, 1967 "));
+            ClickSlidePart(*program_, u"mmSlide(Next)"_s);
+            QCOMPARE(state.ErrorCode, u"ER014"_s);
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67A.JPG"_s);
+            ClickSlidePart(*program_, u"mmSlide(Next)"_s);
+            QCOMPARE(ShownSlide(), u"67C.JPG, 3 of 25, 1967 "_s);
         }));
         QCOMPARE(program_->Messages.Count(), 1);
     }
@@ -233,10 +230,10 @@ private Q_SLOTS:
     void a_step_that_succeeds_leaves_the_error_code_alone()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            state.ErrorCode = QStringLiteral("ER055");
+            state.ErrorCode = u"ER055"_s;
             for (const char* press : {"mmSlide(Next)", "mmSlide(Prev)", "mmSlide(Back)", "mmSlide(Step)"})
                 ClickSlidePart(*program_, QString::fromLatin1(press));
-            QCOMPARE(state.ErrorCode, QStringLiteral("ER055"));
+            QCOMPARE(state.ErrorCode, u"ER055"_s);
         }));
     }
 
@@ -244,8 +241,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("press");
         QTest::addColumn<QString>("gone");
-        QTest::newRow("Beginning") << QStringLiteral("SSCommand1") << QStringLiteral("Torviks/67A.JPG");
-        QTest::newRow("Middle") << QStringLiteral("SSCommand2") << QStringLiteral("Torviks/67L.JPG");
+        QTest::newRow("Beginning") << u"SSCommand1"_s << u"Torviks/67A.JPG"_s;
+        QTest::newRow("Middle") << u"SSCommand2"_s << u"Torviks/67L.JPG"_s;
     }
 
     void beginning_and_middle_have_no_trap()
@@ -257,8 +254,7 @@ private Q_SLOTS:
             ClickSlidePart(*program_, press);
         }));
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("Run-time error '53':\r\n\r\nFile not found"));
+        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '53':\r\n\r\nFile not found"_s);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -277,5 +273,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SlideStepsTest)
+TORVIK_TEST(SlideStepsTest)
 #include "slide_steps_test.moc"

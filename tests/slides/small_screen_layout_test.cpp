@@ -1,11 +1,11 @@
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
 #include "slides/small_screen_layout.h"
 #include "support/program.h"
-#include "ui/form_window.h"
+#include "support/test_class.h"
+#include "ui/forms/form_window.h"
+#include "windows/slide_window.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -30,7 +30,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->SetScreen({640, 480});
         program_->StartBrowsing();
         state.SlideShowOpen = true;
@@ -101,17 +101,15 @@ private Q_SLOTS:
             for (const Control* other : controls)
                 if (one != other)
                     QVERIFY2(!one->Widget().geometry().intersects(other->Widget().geometry()),
-                             qPrintable(one->Name() + QStringLiteral(" and ") + other->Name()));
+                             qPrintable(one->Name() + u" and "_s + other->Name()));
         }
-        QVERIFY(Named(QStringLiteral("Image1"))
-                    .Widget()
-                    .geometry()
-                    .contains(Named(QStringLiteral("pnlPhotoNumber")).Widget().geometry()));
+        QVERIFY(
+            Named(u"Image1"_s).Widget().geometry().contains(Named(u"pnlPhotoNumber"_s).Widget().geometry()));
     }
 
 private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SmallScreenLayoutTest)
+TORVIK_TEST(SmallScreenLayoutTest)
 #include "small_screen_layout_test.moc"

@@ -1,19 +1,21 @@
 #pragma once
 
-#include "documents/txt_form.h"
-#include "local/frm_ss_photo.h"
-#include "media/frm_movie.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "slides/frm_scroll.h"
-#include "slides/frm_slide.h"
 #include "support/program.h"
-#include "ui/form_window.h"
-#include "utilities/frm_about.h"
+#include "ui/forms/form_window.h"
+#include "windows/about_window.h"
+#include "windows/article_window.h"
+#include "windows/main_window.h"
+#include "windows/movie_window.h"
+#include "windows/page_window.h"
+#include "windows/play_list_window.h"
+#include "windows/slide_window.h"
+#include "windows/splash.h"
 
 #include <QTest>
 
 namespace torvik {
+
+using namespace Qt::StringLiterals;
 
 /// A data row for each form, named like it.
 inline void AddRowForEachForm()
@@ -27,20 +29,20 @@ inline void AddRowForEachForm()
 /// The form of that name, loaded; only Form2 stands without the main window.
 inline Form& FormNamed(Program& program, const QString& name)
 {
-    if (name == QStringLiteral("Form2"))
+    if (name == u"Form2"_s)
         return *Form2;
     program.PassSplash();
-    if (name == QStringLiteral("txtForm"))
+    if (name == u"txtForm"_s)
         return *txtForm;
-    if (name == QStringLiteral("frmSlide"))
+    if (name == u"frmSlide"_s)
         return *frmSlide;
-    if (name == QStringLiteral("frmScroll"))
+    if (name == u"frmScroll"_s)
         return *frmScroll;
-    if (name == QStringLiteral("frmMovie"))
+    if (name == u"frmMovie"_s)
         return *frmMovie;
-    if (name == QStringLiteral("frmSSPhoto"))
+    if (name == u"frmSSPhoto"_s)
         return *frmSSPhoto;
-    if (name == QStringLiteral("frmAbout"))
+    if (name == u"frmAbout"_s)
         return *frmAbout;
     return *Form1;
 }
@@ -50,7 +52,7 @@ inline QList<QWidget*> NamedWidgets(Form& form)
 {
     QList<QWidget*> named;
     for (QWidget* widget : form.Host().findChildren<QWidget*>()) {
-        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith(QStringLiteral("qt_")))
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_"_s))
             named.append(widget);
     }
     return named;

@@ -3,6 +3,8 @@
 #include <QBuffer>
 #include <QImage>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 void AddCover(TestDisc& disc)
@@ -20,14 +22,14 @@ void AddCover(TestDisc& disc)
 
 void AddIntroduction(TestDisc& disc)
 {
-    disc.AddDocument(QStringLiteral("introduction.rtf"), QStringLiteral("Introduction."));
+    disc.AddDocument(u"introduction.rtf"_s, u"Introduction."_s);
 }
 
 void AddYear(TestDisc& disc, const QString& prefix)
 {
     const auto add = [&](const char* ending, const char* subject) {
         disc.AddDocument(prefix + QString::fromLatin1(ending),
-                         QString::fromLatin1(subject) + QStringLiteral(" of ") + prefix + u'.');
+                         QString::fromLatin1(subject) + u" of "_s + prefix + u'.');
     };
     add("desc.rtf", "Description");
     add("opts.rtf", "Options");

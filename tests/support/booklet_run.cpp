@@ -1,17 +1,19 @@
 #include "support/booklet_run.h"
 
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/menu_choice.h"
-#include "ui/screen.h"
+#include "ui/forms/screen.h"
+#include "windows/main_window.h"
 
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
 namespace {
 
-const QString boxTitle = QStringLiteral("The Torvik Vollandry");
+const QString boxTitle = u"The Torvik Vollandry"_s;
 
 void SelectYearIn(int list, const char* year)
 {
@@ -23,13 +25,13 @@ void SelectYearIn(int list, const char* year)
 
 BookletRun::BookletRun()
 {
-    User.Disc.AddGroup(QStringLiteral("67"), 1);
+    User.Disc.AddGroup(u"67"_s, 1);
     for (const char* prefix : {"67", "68", "69", "98", "99", "A0", "A1"})
         AddYear(User.Disc, QString::fromLatin1(prefix));
     AddIntroduction(User.Disc);
     AddCover(User.Disc);
     User.StartBrowsing();
-    ChooseMenu(*Form1, QStringLiteral("mnuPrnt"));
+    ChooseMenu(*Form1, u"mnuPrnt"_s);
     User.Settle();
 }
 
@@ -52,9 +54,8 @@ QStringList BookletRun::Texts() const
 
 QStringList DocumentsOf(const char* prefix)
 {
-    const QString ending = QStringLiteral(" of ") + QString::fromLatin1(prefix) + u'.';
-    return {QStringLiteral("Description") + ending, QStringLiteral("Options") + ending,
-            QStringLiteral("Statistics") + ending, QStringLiteral("Colors") + ending};
+    const QString ending = u" of "_s + QString::fromLatin1(prefix) + u'.';
+    return {u"Description"_s + ending, u"Options"_s + ending, u"Statistics"_s + ending, u"Colors"_s + ending};
 }
 
 void AddBoxesWithoutDocuments()
@@ -68,20 +69,20 @@ void AddBoxesWithoutDocuments()
 
 void ExpectSuccess(const BookletRun& run)
 {
-    QCOMPARE(run.User.Messages.Last().Text, QStringLiteral("Booklet printed!\r\n"));
+    QCOMPARE(run.User.Messages.Last().Text, u"Booklet printed!\r\n"_s);
     QCOMPARE(run.User.Messages.Last().Style, 48);
     QCOMPARE(run.User.Messages.Last().Title, boxTitle);
-    QCOMPARE(Form1->cmdPrint.Caption(), QStringLiteral("Print Again"));
-    QCOMPARE(Form1->cmdOK.Caption(), QStringLiteral("Exit"));
+    QCOMPARE(Form1->cmdPrint.Caption(), u"Print Again"_s);
+    QCOMPARE(Form1->cmdOK.Caption(), u"Exit"_s);
     QCOMPARE(Screen.Pointer(), MousePointer::Default);
 }
 
 void ExpectRefusal(const BookletRun& run, const char* code, const char* text, bool discHint)
 {
-    QString message = QStringLiteral("Error number: ") + QString::fromLatin1(code) +
-                      QStringLiteral("\r\n\r\n") + QString::fromLatin1(text);
+    QString message =
+        u"Error number: "_s + QString::fromLatin1(code) + u"\r\n\r\n"_s + QString::fromLatin1(text);
     if (discHint)
-        message += QStringLiteral("\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive.");
+        message += u"\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
     QCOMPARE(run.User.Messages.Count(), 1);
     QCOMPARE(run.User.Messages.Last().Text, message);
     QCOMPARE(run.User.Messages.Last().Style, 16);
@@ -89,8 +90,8 @@ void ExpectRefusal(const BookletRun& run, const char* code, const char* text, bo
     QCOMPARE(state.ErrorCode, QString::fromLatin1(code));
     QVERIFY(Form1->pnlPrint.Visible());
     QVERIFY(Form1->cmdPrint.Enabled());
-    QCOMPARE(Form1->cmdPrint.Caption(), QStringLiteral("Print"));
-    QCOMPARE(Form1->cmdOK.Caption(), QStringLiteral("Cancel"));
+    QCOMPARE(Form1->cmdPrint.Caption(), u"Print"_s);
+    QCOMPARE(Form1->cmdOK.Caption(), u"Cancel"_s);
     QCOMPARE(Screen.Pointer(), MousePointer::Default);
     QVERIFY(Form1->Enabled());
 }

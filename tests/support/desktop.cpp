@@ -2,14 +2,15 @@
 
 #include <QDesktopServices>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
 
 QStringList Schemes()
 {
-    return {QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("mailto"),
-            QStringLiteral("file")};
+    return {u"http"_s, u"https"_s, u"mailto"_s, u"file"_s};
 }
 
 } // namespace

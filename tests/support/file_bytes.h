@@ -7,6 +7,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// The content of a file of the host; a text that no file of the tests holds when it cannot be read.
 inline QByteArray BytesOf(const QString& hostPath)
 {
@@ -29,7 +31,7 @@ inline QByteArray MixedBytes(int count)
 /// How many files this process holds open.
 inline qsizetype OpenFileCount()
 {
-    return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size();
+    return QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size();
 }
 
 } // namespace torvik

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/form.h"
-#include "ui/form_window.h"
+#include "ui/forms/form.h"
+#include "ui/forms/form_window.h"
 
 #include <QAction>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/message_box.h"
+#include "ui/forms/message_box.h"
 
 #include <QList>
 

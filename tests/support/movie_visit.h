@@ -1,9 +1,9 @@
 #pragma once
 
-#include "media/frm_movie.h"
-#include "shell/form1.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
+#include "windows/main_window.h"
+#include "windows/movie_window.h"
 
 namespace torvik {
 

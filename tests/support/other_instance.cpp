@@ -1,6 +1,6 @@
 #include "support/other_instance.h"
 
-#include "platform/single_instance.h"
+#include "platform/system/single_instance.h"
 
 #include <QtGlobal>
 

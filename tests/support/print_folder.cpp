@@ -1,10 +1,12 @@
 #include "support/print_folder.h"
 
-#include "platform/failure.h"
-#include "ui/printer.h"
+#include "runtime/failure.h"
+#include "ui/printer/printer.h"
 
 #include <QDir>
 #include <QProcess>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -40,20 +42,18 @@ QStringList PrintFolder::Files() const
 
 QString PrintFolder::FileOf(int job) const
 {
-    return folder_.filePath(QStringLiteral("job-%1.pdf").arg(job));
+    return folder_.filePath(u"job-%1.pdf"_s.arg(job));
 }
 
 int PrintFolder::Jobs() const
 {
-    return static_cast<int>(QDir(folder_.path()).entryList({QStringLiteral("job-*.pdf")}).size());
+    return static_cast<int>(QDir(folder_.path()).entryList({u"job-*.pdf"_s}).size());
 }
 
 QStringList PrintFolder::Pages(int job) const
 {
     QStringList pages =
-        QString::fromUtf8(OutputOf(QStringLiteral("pdftotext"),
-                                   {QStringLiteral("-layout"), FileOf(job), QStringLiteral("-")}))
-            .split(u'\f');
+        QString::fromUtf8(OutputOf(u"pdftotext"_s, {u"-layout"_s, FileOf(job), u"-"_s})).split(u'\f');
     pages.removeLast(); // each page ends with a form feed
     return pages;
 }
@@ -61,19 +61,17 @@ QStringList PrintFolder::Pages(int job) const
 QImage PrintFolder::Image(int job, int page) const
 {
     const QString number = QString::number(page);
-    return QImage::fromData(OutputOf(QStringLiteral("pdftoppm"),
-                                     {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-f"),
-                                      number, QStringLiteral("-l"), number, FileOf(job)}));
+    return QImage::fromData(
+        OutputOf(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-f"_s, number, u"-l"_s, number, FileOf(job)}));
 }
 
 QList<QSize> PrintFolder::PictureSizes(int job) const
 {
     constexpr int heading = 2; // lines
     QList<QSize> sizes;
-    const QStringList lines =
-        QString::fromUtf8(OutputOf(QStringLiteral("pdfimages"), {QStringLiteral("-list"), FileOf(job)}))
-            .split(u'\n', Qt::SkipEmptyParts)
-            .mid(heading);
+    const QStringList lines = QString::fromUtf8(OutputOf(u"pdfimages"_s, {u"-list"_s, FileOf(job)}))
+                                  .split(u'\n', Qt::SkipEmptyParts)
+                                  .mid(heading);
     for (const QString& line : lines) {
         const QStringList columns = line.split(u' ', Qt::SkipEmptyParts);
         sizes.append({columns.at(3).toInt(), columns.at(4).toInt()});

@@ -1,18 +1,18 @@
 #include "support/program.h"
 
-#include "bind_handlers.h"
-#include "platform/drives.h"
-#include "platform/program_folder.h"
-#include "platform/single_instance.h"
-#include "shell/form1.h"
-#include "shell/form2.h"
-#include "shell/program_state.h"
-#include "ui/clock.h"
-#include "ui/event.h"
-#include "ui/form.h"
-#include "ui/form_window.h"
-#include "ui/program_end.h"
-#include "ui/screen.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "platform/system/single_instance.h"
+#include "program/program_state.h"
+#include "support/bind_room.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/event.h"
+#include "ui/forms/form.h"
+#include "ui/forms/form_window.h"
+#include "ui/forms/program_end.h"
+#include "ui/forms/screen.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>
@@ -27,7 +27,7 @@ namespace {
 void BindOnce()
 {
     static const bool bound = [] {
-        BindHandlers();
+        BindRoom();
         return true;
     }();
     Q_UNUSED(bound)

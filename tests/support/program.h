@@ -2,7 +2,7 @@
 
 #include "support/message_script.h"
 #include "support/test_disc.h"
-#include "ui/control.h"
+#include "ui/forms/control.h"
 
 #include <QSize>
 #include <QTemporaryDir>

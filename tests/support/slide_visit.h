@@ -1,15 +1,17 @@
 #pragma once
 
-#include "shell/form1.h"
-#include "shell/program_state.h"
-#include "slides/frm_slide.h"
+#include "program/program_state.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
-#include "ui/form_window.h"
+#include "ui/forms/form_window.h"
+#include "windows/main_window.h"
+#include "windows/slide_window.h"
 
 #include <QTest>
 
 namespace torvik {
+
+using namespace Qt::StringLiterals;
 
 /// Opens the slide show by its button on the main window and does `action` in it. A show that still stands
 /// then is left by its own Exit button. False when no show came up.
@@ -43,9 +45,8 @@ inline void ClickSlidePart(Program& program, const QString& name)
 /// The photo, the position and the caption that the slide show shows: "67A.JPG, 1 of 5, 1967 ".
 inline QString ShownSlide()
 {
-    return QStringLiteral("%1, %2, %3")
-        .arg(frmSlide->Image1.Picture().FileName(), frmSlide->pnlPhotoNumber.Caption(),
-             frmSlide->panYear.Caption());
+    return u"%1, %2, %3"_s.arg(frmSlide->Image1.Picture().FileName(), frmSlide->pnlPhotoNumber.Caption(),
+                               frmSlide->panYear.Caption());
 }
 
 } // namespace torvik

@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QImage>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 TestDisc::TestDisc() = default;
@@ -31,18 +33,18 @@ QByteArray TestDisc::Jpeg(const QColor& colour, const QSize& size)
 
 void TestDisc::AddPhoto(const QString& name, const QColor& colour, const QSize& size)
 {
-    AddFile(QStringLiteral("Torviks/") + name, Jpeg(colour, size));
+    AddFile(u"Torviks/"_s + name, Jpeg(colour, size));
 }
 
 void TestDisc::AddGroup(const QString& prefix, int count)
 {
     for (int number = 0; number < count; ++number)
-        AddPhoto(prefix + QChar(u'A' + number) + QStringLiteral(".JPG"));
+        AddPhoto(prefix + QChar(u'A' + number) + u".JPG"_s);
 }
 
 void TestDisc::AddDocument(const QString& name, const QString& text)
 {
-    AddFile(QStringLiteral("RichText/") + name,
+    AddFile(u"RichText/"_s + name,
             QByteArray("{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs20 ") + text.toLatin1() + "}");
 }
 

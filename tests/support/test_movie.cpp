@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -19,10 +21,8 @@ QByteArray Encoded(const QStringList& arguments, const QString& name)
         return *found;
     const QTemporaryDir folder;
     const QString file = folder.filePath(name);
-    const int code =
-        QProcess::execute(QStringLiteral("ffmpeg"),
-                          QStringList{QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-y")} +
-                              arguments + QStringList{file});
+    const int code = QProcess::execute(u"ffmpeg"_s, QStringList{u"-v"_s, u"error"_s, u"-y"_s} + arguments +
+                                                        QStringList{file});
     QFile result(file);
     if (code != 0 || !result.open(QIODevice::ReadOnly))
         qFatal("ffmpeg does not make %s", qPrintable(key));
@@ -31,8 +31,7 @@ QByteArray Encoded(const QStringList& arguments, const QString& name)
 
 QStringList Tone(int rate)
 {
-    return {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-            QStringLiteral("sine=440:d=2:r=%1,volume=6").arg(rate)};
+    return {u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=440:d=2:r=%1,volume=6"_s.arg(rate)};
 }
 
 QByteArray Number32(quint32 number)
@@ -77,21 +76,17 @@ QByteArray TestMovie::Avi(const QStringList& codecs)
     QString graph;
     QString inputs;
     for (qsizetype bar = 0; bar < Bars().size(); ++bar) {
-        graph += QStringLiteral("color=0x%1:s=20x60:r=15:d=2[b%2];").arg(Bars()[bar].name().mid(1)).arg(bar);
-        inputs += QStringLiteral("[b%1]").arg(bar);
+        graph += u"color=0x%1:s=20x60:r=15:d=2[b%2];"_s.arg(Bars()[bar].name().mid(1)).arg(bar);
+        inputs += u"[b%1]"_s.arg(bar);
     }
-    graph +=
-        inputs + QStringLiteral("hstack=8[top];testsrc=s=160x60:r=15:d=2:decimals=2[low];[top][low]vstack");
-    return Encoded(QStringList{QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"), graph} +
-                       Tone(22050) + codecs,
-                   QStringLiteral("movie.avi"));
+    graph += inputs + u"hstack=8[top];testsrc=s=160x60:r=15:d=2:decimals=2[low];[top][low]vstack"_s;
+    return Encoded(QStringList{u"-f"_s, u"lavfi"_s, u"-i"_s, graph} + Tone(22050) + codecs, u"movie.avi"_s);
 }
 
 QByteArray TestMovie::Wav(const QString& codec, int rate, int channels)
 {
-    return Encoded(Tone(rate) + QStringList{QStringLiteral("-ac"), QString::number(channels),
-                                            QStringLiteral("-c:a"), codec},
-                   QStringLiteral("sound.wav"));
+    return Encoded(Tone(rate) + QStringList{u"-ac"_s, QString::number(channels), u"-c:a"_s, codec},
+                   u"sound.wav"_s);
 }
 
 QByteArray TestMovie::RunLengthAvi()

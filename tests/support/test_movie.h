@@ -8,6 +8,8 @@
 
 namespace torvik {
 
+using namespace Qt::StringLiterals;
+
 /// Movies and sounds for tests, made by the machine's own encoder.
 ///
 /// A movie is 160 by 120 pixels, two seconds of 15 pictures each. Its upper half holds eight bars of the
@@ -22,12 +24,10 @@ public:
     static const QList<QColor>& Bars();
 
     /// The bytes of an AVI movie; `codecs` are the encoder's options for picture and sound.
-    static QByteArray Avi(const QStringList& codecs = {QStringLiteral("-c:v"), QStringLiteral("mjpeg"),
-                                                       QStringLiteral("-q:v"), QStringLiteral("2"),
-                                                       QStringLiteral("-c:a"), QStringLiteral("pcm_s16le")});
+    static QByteArray Avi(const QStringList& codecs = {u"-c:v"_s, u"mjpeg"_s, u"-q:v"_s, u"2"_s, u"-c:a"_s,
+                                                       u"pcm_s16le"_s});
     /// The bytes of a WAV sound of two seconds.
-    static QByteArray Wav(const QString& codec = QStringLiteral("pcm_s16le"), int rate = 22050,
-                          int channels = 1);
+    static QByteArray Wav(const QString& codec = u"pcm_s16le"_s, int rate = 22050, int channels = 1);
     /// A movie in run-length coded pictures with a palette, for which the encoder has no codec: the bars
     /// alone.
     static QByteArray RunLengthAvi();

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "documents/txt_form.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
+#include "windows/article_window.h"
 
 namespace torvik {
 

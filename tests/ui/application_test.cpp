@@ -1,17 +1,19 @@
+#include "support/test_class.h"
+#include "support/ui_room.h"
 #include "ui/application.h"
-#include "ui/button.h"
-#include "ui_room.h"
+#include "ui/controls/button.h"
 
 #include <QImageReader>
 #include <QStyle>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
 
 struct MainForm : Form {
-    MainForm() : Form(DesignOf(QStringLiteral("Main"))) {}
-    Button Go{*this, QStringLiteral("Go"), {0, 0, 1200, 375}};
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}};
 };
 
 FormHandle<MainForm> Main;
@@ -32,7 +34,7 @@ private Q_SLOTS:
 
     void it_bears_the_programs_name_and_look()
     {
-        QCOMPARE(QApplication::applicationName(), QStringLiteral("torvik2001"));
+        QCOMPARE(QApplication::applicationName(), u"torvik2001"_s);
         // A display name of its own would be appended to every title.
         QCOMPARE(QApplication::applicationDisplayName(), QApplication::applicationName());
         QCOMPARE(QApplication::palette().color(QPalette::Window), look::face);
@@ -46,14 +48,14 @@ private Q_SLOTS:
         QStringList order;
         const int code = application_->Run([&] {
             Main->Show();
-            order.append(QStringLiteral("start"));
+            order.append(u"start"_s);
             UiRoom::Soon([&] {
-                order.append(QStringLiteral("event"));
+                order.append(u"event"_s);
                 RunHandler([] { EndProgram(); });
             });
         });
         QCOMPARE(code, 0);
-        QCOMPARE(order, (QStringList{QStringLiteral("start"), QStringLiteral("event")}));
+        QCOMPARE(order, (QStringList{u"start"_s, u"event"_s}));
     }
 
     void a_start_that_ends_the_program_runs_nothing_else()
@@ -113,5 +115,5 @@ private:
     std::unique_ptr<Application> application_;
 };
 
-QTEST_APPLESS_MAIN(ApplicationTest)
+TORVIK_APPLESS_TEST(ApplicationTest)
 #include "application_test.moc"

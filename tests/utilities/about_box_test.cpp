@@ -1,13 +1,13 @@
-#include "shell/form1.h"
-#include "shell/program_state.h"
+#include "program/program_state.h"
 #include "support/desktop.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
-#include "ui/form_window.h"
-#include "utilities/frm_about.h"
+#include "support/test_class.h"
+#include "ui/forms/form_window.h"
+#include "windows/about_window.h"
+#include "windows/main_window.h"
 
-#include <QTest>
-
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The about box and the ways to the web site.
@@ -18,7 +18,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -26,24 +26,24 @@ private Q_SLOTS:
     void it_says_what_the_product_is()
     {
         QVERIFY(Visit([] {
-            QCOMPARE(frmAbout->SSPanel5.Caption(), QStringLiteral("The"));
-            QCOMPARE(frmAbout->SSPanel1.Caption(), QStringLiteral("Torvik Vollandry   "));
-            QCOMPARE(frmAbout->SSPanel4.Caption(), QStringLiteral("2001"));
-            QCOMPARE(frmAbout->SSPanel6.Caption(), QStringLiteral("2001.03"));
+            QCOMPARE(frmAbout->SSPanel5.Caption(), u"The"_s);
+            QCOMPARE(frmAbout->SSPanel1.Caption(), u"Torvik Vollandry   "_s);
+            QCOMPARE(frmAbout->SSPanel4.Caption(), u"2001"_s);
+            QCOMPARE(frmAbout->SSPanel6.Caption(), u"2001.03"_s);
             QCOMPARE(frmAbout->panAbout.Caption(), QString());
-            QCOMPARE(frmAbout->SSCommand1.Caption(), QStringLiteral("OK"));
+            QCOMPARE(frmAbout->SSCommand1.Caption(), u"OK"_s);
         }));
     }
 
     void it_names_the_maker_in_four_lines()
     {
         QVERIFY(Visit([] {
-            const QStringList lines = frmAbout->panQuillon.Caption().split(QStringLiteral("\r\n"));
+            const QStringList lines = frmAbout->panQuillon.Caption().split(u"\r\n"_s);
             QCOMPARE(lines.size(), 4);
-            QCOMPARE(lines[0], QStringLiteral("Quillon Software"));
+            QCOMPARE(lines[0], u"Quillon Software"_s);
             QVERIFY(!lines[1].isEmpty());
             QVERIFY(!lines[2].isEmpty());
-            QCOMPARE(lines[3], QStringLiteral("WEB: ") + frmAbout->SSCommand2.Caption());
+            QCOMPARE(lines[3], u"WEB: "_s + frmAbout->SSCommand2.Caption());
         }));
     }
 
@@ -59,8 +59,8 @@ private Q_SLOTS:
     {
         QVERIFY(Visit([] {
             const QUrl address(frmAbout->SSCommand2.Caption());
-            QCOMPARE(address.scheme(), QStringLiteral("http"));
-            QVERIFY(address.host().endsWith(QStringLiteral(".example")));
+            QCOMPARE(address.scheme(), u"http"_s);
+            QVERIFY(address.host().endsWith(u".example"_s));
         }));
     }
 
@@ -121,10 +121,10 @@ private Q_SLOTS:
         program_->Settle();
         QVERIFY(!Form1->CoversScreen());
         QCOMPARE(state.ApiResult, 0); // it was hidden before
-        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("ShowStatusBar"));
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"ShowStatusBar"_s);
         Form1->mnuHideStatus.Click.Fire(); // goes by the caption alone
         QVERIFY(!Form1->CoversScreen());
-        QCOMPARE(Form1->mnuHideStatus.Caption(), QStringLiteral("HideStatusBar"));
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
     }
 
     void without_a_task_bar_looked_up_nothing_is_shown()
@@ -156,5 +156,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(AboutBoxTest)
+TORVIK_TEST(AboutBoxTest)
 #include "about_box_test.moc"

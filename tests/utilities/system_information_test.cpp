@@ -1,10 +1,11 @@
-#include "platform/registry.h"
-#include "shell/form1.h"
+#include "platform/system/registry.h"
 #include "support/program.h"
+#include "support/test_class.h"
+#include "windows/main_window.h"
 
 #include <QFile>
-#include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
@@ -20,15 +21,15 @@ public:
 
     std::uint64_t OpenKey(std::uint32_t /*root*/, const QString& key, std::uint32_t /*access*/) override
     {
-        if (key == QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"))
+        if (key == u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"_s)
             return 1;
-        return key == QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools Location") ? 2 : 0;
+        return key == u"SOFTWARE\\Microsoft\\Shared Tools Location"_s ? 2 : 0;
     }
     bool QueryValue(std::uint64_t key, const QString& name, RegistryValue& value) override
     {
-        if (key == 1 && name == QStringLiteral("PATH") && !Path.isEmpty())
+        if (key == 1 && name == u"PATH"_s && !Path.isEmpty())
             value = {registry::text, Path.toLocal8Bit()};
-        else if (key == 2 && name == QStringLiteral("MSINFO") && !Folder.isEmpty())
+        else if (key == 2 && name == u"MSINFO"_s && !Folder.isEmpty())
             value = {registry::text, Folder.toLocal8Bit()};
         else
             return false;
@@ -47,7 +48,7 @@ private Q_SLOTS:
     {
         path_ = qgetenv("PATH");
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(QStringLiteral("67"), 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup()
@@ -59,26 +60,26 @@ private Q_SLOTS:
     void the_tool_that_the_registry_names_is_started()
     {
         ToolRegistry registry;
-        registry.Path = AddTool(QStringLiteral("my tools/info.exe"));
+        registry.Path = AddTool(u"my tools/info.exe"_s);
         Choose();
-        QTRY_VERIFY(HasRun(QStringLiteral("my tools/info.exe")));
+        QTRY_VERIFY(HasRun(u"my tools/info.exe"_s));
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
     void else_the_one_in_the_folder_of_the_shared_tools()
     {
         ToolRegistry registry;
-        AddTool(QStringLiteral("shared/MSINFO32.EXE"));
-        registry.Folder = QStringLiteral("G:\\shared");
+        AddTool(u"shared/MSINFO32.EXE"_s);
+        registry.Folder = u"G:\\shared"_s;
         Choose();
-        QTRY_VERIFY(HasRun(QStringLiteral("shared/MSINFO32.EXE")));
+        QTRY_VERIFY(HasRun(u"shared/MSINFO32.EXE"_s));
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
     void a_folder_without_the_tool_is_none()
     {
         ToolRegistry registry;
-        registry.Folder = QStringLiteral("G:\\shared");
+        registry.Folder = u"G:\\shared"_s;
         qputenv("PATH", "/nowhere");
         Choose();
         CheckUnavailable();
@@ -87,17 +88,17 @@ private Q_SLOTS:
     void a_tool_that_does_not_start_reads_like_one_that_is_not_there()
     {
         ToolRegistry registry;
-        registry.Path = QStringLiteral("G:\\gone.exe");
+        registry.Path = u"G:\\gone.exe"_s;
         Choose();
         CheckUnavailable();
     }
 
     void without_a_registry_the_desktops_own_tool_is_started()
     {
-        AddTool(QStringLiteral("bin/kinfocenter"));
-        qputenv("PATH", program_->Disc.PathOf(QStringLiteral("bin")).toLocal8Bit() + ":/bin:/usr/bin");
+        AddTool(u"bin/kinfocenter"_s);
+        qputenv("PATH", program_->Disc.PathOf(u"bin"_s).toLocal8Bit() + ":/bin:/usr/bin");
         Choose();
-        QTRY_VERIFY(HasRun(QStringLiteral("bin/kinfocenter")));
+        QTRY_VERIFY(HasRun(u"bin/kinfocenter"_s));
         QCOMPARE(program_->Messages.Count(), 0);
     }
 
@@ -114,28 +115,27 @@ private:
     /// A program on the disc that leaves a mark beside itself; returns its drive path.
     QString AddTool(const QString& relative)
     {
-        const QString mark = program_->Disc.PathOf(relative + QStringLiteral(".mark"));
+        const QString mark = program_->Disc.PathOf(relative + u".mark"_s);
         program_->Disc.AddFile(relative, "#!/bin/sh\n: > '" + mark.toLocal8Bit() + "'\n");
         QFile::setPermissions(program_->Disc.PathOf(relative),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        return QStringLiteral("G:\\") + QString(relative).replace(u'/', u'\\');
+        return u"G:\\"_s + QString(relative).replace(u'/', u'\\');
     }
     bool HasRun(const QString& relative) const
     {
-        return QFile::exists(program_->Disc.PathOf(relative + QStringLiteral(".mark")));
+        return QFile::exists(program_->Disc.PathOf(relative + u".mark"_s));
     }
     void CheckUnavailable() const
     {
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text,
-                 QStringLiteral("System Information Is Unavailable At This Time"));
+        QCOMPARE(program_->Messages.Last().Text, u"System Information Is Unavailable At This Time"_s);
         QCOMPARE(program_->Messages.Last().Style, 0);
-        QCOMPARE(program_->Messages.Last().Title, QStringLiteral("The Torvik Vollandry 2001"));
+        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
     }
 
     QByteArray path_;
     std::unique_ptr<Program> program_;
 };
 
-QTEST_MAIN(SystemInformationTest)
+TORVIK_TEST(SystemInformationTest)
 #include "system_information_test.moc"

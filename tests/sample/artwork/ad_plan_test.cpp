@@ -3,11 +3,11 @@
 #include "sample/documents/colour_cards.h"
 #include "sample/documents/figures.h"
 #include "sample/files/text_store.h"
+#include "support/test_class.h"
 
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 using namespace torvik::sample;
 using namespace Qt::StringLiterals;
@@ -108,5 +108,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(AdPlanTest)
+TORVIK_TEST(AdPlanTest)
 #include "ad_plan_test.moc"

@@ -1,9 +1,9 @@
 #include "sample/artwork/art_plan.h"
 #include "sample/files/jpeg_file.h"
+#include "support/test_class.h"
 
 #include <QGuiApplication>
 #include <QSet>
-#include <QTest>
 
 using namespace torvik::sample;
 using namespace Qt::StringLiterals;
@@ -122,5 +122,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ArtPlanTest)
+TORVIK_TEST(ArtPlanTest)
 #include "art_plan_test.moc"

@@ -1,11 +1,11 @@
 #include "sample/artwork/art_maker.h"
 #include "sample/artwork/art_plan.h"
+#include "support/test_class.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace torvik::sample;
 using namespace Qt::StringLiterals;
@@ -72,5 +72,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(BookletArtTest)
+TORVIK_TEST(BookletArtTest)
 #include "booklet_art_test.moc"

@@ -1,11 +1,11 @@
 #include "rtf/rtf_reader.h"
 #include "sample/documents/document_plan.h"
 #include "sample/documents/figures.h"
+#include "support/test_class.h"
 
 #include <QGuiApplication>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -297,5 +297,5 @@ void DocumentsTest::TheDocumentsAreWrittenIntoTheirFolder()
     QCOMPARE(first.readAll(), Find(u"67desc.rtf"_s)->text);
 }
 
-QTEST_MAIN(DocumentsTest)
+TORVIK_TEST(DocumentsTest)
 #include "documents_test.moc"

@@ -1,9 +1,9 @@
 #include "rtf/rtf_reader.h"
 #include "sample/documents/document_plan.h"
-#include "ui/help_topics.h"
+#include "support/test_class.h"
+#include "ui/help/help_topics.h"
 
 #include <QSet>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextFragment>
@@ -108,5 +108,5 @@ private:
     rtf::ReadResult read_;
 };
 
-QTEST_MAIN(HelpFileTest)
+TORVIK_TEST(HelpFileTest)
 #include "help_file_test.moc"

@@ -1,4 +1,5 @@
 #include "sample/files/in_parallel.h"
+#include "support/test_class.h"
 
 #include <QtTest>
 
@@ -50,5 +51,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(InParallelTest)
+TORVIK_APPLESS_TEST(InParallelTest)
 #include "in_parallel_test.moc"

@@ -1,7 +1,6 @@
 #include "sample/artwork/pen_script.h"
 #include "sample/geometry/shapes.h"
-
-#include <QTest>
+#include "support/test_class.h"
 
 #include <stdexcept>
 
@@ -47,5 +46,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(PathTextTest)
+TORVIK_APPLESS_TEST(PathTextTest)
 #include "path_text_test.moc"

@@ -2,6 +2,7 @@
 #include "sample/movies/movie_plan.h"
 #include "sample/sounds/sound.h"
 #include "sample/sounds/wave_file.h"
+#include "support/test_class.h"
 
 #include <QtTest>
 
@@ -257,5 +258,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(MoviesTest)
+TORVIK_TEST(MoviesTest)
 #include "movies_test.moc"

@@ -1,5 +1,6 @@
 #include "sample/photos/captions.h"
 #include "sample/photos/photo_plan.h"
+#include "support/test_class.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -151,5 +152,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(PhotoPlanTest)
+TORVIK_APPLESS_TEST(PhotoPlanTest)
 #include "photo_plan_test.moc"

@@ -1,5 +1,6 @@
 #include "sample/files/in_parallel.h"
 #include "sample/sounds/effects.h"
+#include "support/test_class.h"
 
 #include <QHash>
 #include <QSet>
@@ -186,5 +187,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(EffectsTest)
+TORVIK_APPLESS_TEST(EffectsTest)
 #include "effects_test.moc"

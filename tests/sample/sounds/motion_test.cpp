@@ -1,4 +1,5 @@
 #include "sample/sounds/motion.h"
+#include "support/test_class.h"
 
 #include <QtTest>
 
@@ -59,5 +60,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(MotionTest)
+TORVIK_APPLESS_TEST(MotionTest)
 #include "motion_test.moc"

@@ -1,0 +1,14 @@
+#include "browser/bind_browser.h"
+
+namespace torvik {
+
+void BindBrowser()
+{
+    BindYearButtons();
+    BindNextAndPreviousPhoto();
+    BindPhotoClick();
+    BindShowFileNames();
+    BindEmblemAndScriptButtons();
+}
+
+} // namespace torvik

@@ -1,0 +1,208 @@
+#include "browser/next_and_previous_photo.h"
+
+#include "browser/bind_browser.h"
+#include "browser/photo_caption.h"
+#include "program/photo_list.h"
+#include "program/play_list_buttons.h"
+#include "program/program_state.h"
+#include "program/report_error.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "windows/main_window.h"
+
+using namespace Qt::StringLiterals;
+
+namespace torvik {
+
+namespace {
+
+/// What a step changes before it has found a photo.
+struct Cursor {
+    Integer PhotoIndex;
+    bool SkipFirstPhoto;
+    bool SteppedForward;
+    bool SteppedBackward;
+    QString YearCode;
+
+    static Cursor Now()
+    {
+        return {state.PhotoIndex, state.SkipFirstPhoto, state.SteppedForward, state.SteppedBackward,
+                state.YearCode};
+    }
+    void PutBack() const
+    {
+        state.PhotoIndex = PhotoIndex;
+        state.SkipFirstPhoto = SkipFirstPhoto;
+        state.SteppedForward = SteppedForward;
+        state.SteppedBackward = SteppedBackward;
+        state.YearCode = YearCode;
+    }
+};
+
+/// RestoreMainWindow can leave the plain digits of 2000 and 2001.
+void CorrectYearCode()
+{
+    if (Left(state.YearCode, 1) == u"0"_s)
+        state.YearCode = u"A"_s + Mid(state.YearCode, 2, 1);
+}
+
+bool HasYearCode(int index)
+{
+    state.TorviksPathPos = InStr(state.PhotoFiles(1), torviksFolder);
+    return Mid(state.PhotoFiles(index), state.TorviksPathPos + 9, 2) == state.YearCode;
+}
+
+/// Leaves PhotoIndex one below the photo that was found, or behind the last one.
+bool ScanForward()
+{
+    for (; state.PhotoIndex <= state.PhotoCount; state.PhotoIndex += 1) {
+        if (!HasYearCode(state.PhotoIndex + 1))
+            continue;
+        if (!state.SkipFirstPhoto)
+            return true;
+        state.SkipFirstPhoto = false;
+    }
+    return false;
+}
+
+bool ScanBackward()
+{
+    for (; state.PhotoIndex >= 1; state.PhotoIndex -= 1) {
+        if (HasYearCode(state.PhotoIndex))
+            return true;
+    }
+    return false;
+}
+
+void ShowPhoto(int index)
+{
+    Form1->Image4.Load(state.PhotoFiles(index));
+    Form1->panPhoto.SetCaption(state.PhotoNumbers(index));
+    if (state.ShowFileNames)
+        Form1->txtFile.SetText(Mid(state.PhotoFiles(index), state.TorviksPathPos + 9, 12));
+    state.CurrentPhotoFile = state.PhotoFiles(index);
+}
+
+/// The focus stays on the button behind the year on show, so that a key pressed again walks on.
+void FocusAfterStep()
+{
+    const QString& code = state.YearCode;
+    int button = 1;
+    if (code == u"A0"_s)
+        button = yearCount;
+    else if (code <= u"99"_s)
+        button = static_cast<int>(Val(code)) - 65;
+    if (code == u"A0"_s || code == u"A1"_s)
+        Form1->cmdYR(button).SetEnabled(true);
+    Form1->cmdYR(button).SetFocus();
+}
+
+void SpinButton1_SpinUp()
+{
+    StepPhotoForward();
+}
+
+void SpinButton1_SpinDown()
+{
+    StepPhotoBackward();
+}
+
+/// The rebuilt list leaves the cursor past its end, so the step goes round to the start.
+void panPhoto_DblClick()
+{
+    BuildPhotoSet();
+    StepPhotoForward();
+}
+
+} // namespace
+
+void StepPhotoForward()
+{
+    if (Form1->panYear.Caption() == nothingChosen) {
+        Form1->cmdYR(1).SetEnabled(true);
+        Form1->cmdYR(1).SetFocus();
+        return;
+    }
+    const Cursor before = Cursor::Now();
+    if (state.SteppedBackward) {
+        state.SteppedBackward = false;
+        state.PhotoIndex += 1;
+    }
+    state.SteppedForward = true;
+    CorrectYearCode();
+
+    state.ErrorCode = u"ER012"_s;
+    OnError(
+        [&] {
+            bool found = ScanForward();
+            for (int lap = 1; !found && lap <= 2; ++lap) { // the first lap may only have passed over a photo
+                state.PhotoIndex = 0;
+                found = ScanForward();
+            }
+            if (!found) {
+                before.PutBack();
+                return;
+            }
+            state.PhotoIndex += 1;
+            ShowPhoto(state.PhotoIndex);
+            state.ShownPhotoIndex = state.PhotoIndex;
+            FocusAfterStep();
+            if (Form1->rtbDetails.Visible())
+                LoadPhotoDetails();
+            UpdatePlayListButtons();
+        },
+        ReportError);
+}
+
+void StepPhotoBackward()
+{
+    const Cursor before = Cursor::Now();
+    state.SkipFirstPhoto = false;
+    if (state.SteppedForward)
+        state.PhotoIndex -= 1;
+    state.SteppedBackward = true;
+    if (state.PhotoIndex < 1)
+        state.PhotoIndex = state.PhotoCount;
+    CorrectYearCode();
+
+    state.ErrorCode = u"ER011"_s;
+    bool found = true;
+    OnError(
+        [&] {
+            found = ScanBackward();
+            if (!found) {
+                state.PhotoIndex = state.PhotoCount;
+                found = ScanBackward();
+            }
+            if (!found) {
+                before.PutBack();
+                return;
+            }
+            ShowPhoto(state.PhotoIndex);
+            state.PhotoIndex -= 1;
+        },
+        ReportError);
+    if (!found)
+        return;
+    OnError(
+        [&] {
+            state.ShownPhotoIndex = state.PhotoIndex + 1;
+            state.SteppedForward = false;
+            FocusAfterStep();
+            if (Form1->rtbDetails.Visible())
+                LoadPhotoDetailsBackward();
+        },
+        ReportError);
+    OnError(UpdatePlayListButtons, ReportError);
+}
+
+void BindNextAndPreviousPhoto()
+{
+    Form1.Bind([](Form1Controls& form) {
+        form.SpinButton1.SpinUp = SpinButton1_SpinUp;
+        form.SpinButton1.SpinDown = SpinButton1_SpinDown;
+        form.panPhoto.DblClick = panPhoto_DblClick;
+    });
+}
+
+} // namespace torvik

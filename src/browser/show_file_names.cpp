@@ -1,0 +1,50 @@
+#include "browser/bind_browser.h"
+#include "program/program_state.h"
+#include "runtime/text.h"
+#include "windows/main_window.h"
+
+using namespace Qt::StringLiterals;
+
+namespace torvik {
+
+namespace {
+
+void HideFileName()
+{
+    Form1->mnuNames.SetCaption(u"Show File &Names"_s);
+    state.ShowFileNames = false;
+    Form1->txtFile.Hide();
+}
+
+void ShowFileName()
+{
+    state.ShowFileNames = true;
+    Form1->mnuNames.SetCaption(u"Hide File &Names"_s);
+    if (state.PhotoIndex == 0)
+        state.TorviksPathPos = InStr(state.CurrentPhotoFile, torviksFolder);
+    Form1->txtFile.SetText(Mid(state.CurrentPhotoFile, state.TorviksPathPos + 9));
+    Form1->txtFile.Show();
+    Form1->txtFile.ZOrder();
+}
+
+void mnuNames_Click()
+{
+    if (Form1->panYear.Caption() == nothingChosen)
+        return;
+    if (state.ShowFileNames)
+        HideFileName();
+    else
+        ShowFileName();
+}
+
+} // namespace
+
+void BindShowFileNames()
+{
+    Form1.Bind([](Form1Controls& form) {
+        form.mnuNames.Click = mnuNames_Click;
+        form.txtFile.Click = HideFileName;
+    });
+}
+
+} // namespace torvik

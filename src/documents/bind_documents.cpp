@@ -1,0 +1,16 @@
+#include "documents/bind_documents.h"
+
+namespace torvik {
+
+void BindDocuments()
+{
+    BindTopicMenus();
+    BindBooksAndMagazines();
+    BindYearArticles();
+    BindYearStatistics();
+    BindArticleViewer();
+    BindPageViewer();
+    BindAdvertisement();
+}
+
+} // namespace torvik

@@ -1,0 +1,15 @@
+#pragma once
+
+namespace torvik {
+
+/// Open the magazine (1 to 5), the press release (1 to 3), the miscellaneous document (1 to 4) of a menu
+/// entry. Another index, which no entry has, opens what `state.DocumentFile` already names.
+void ShowMagazine(int index);
+void ShowPressRelease(int index);
+void ShowMiscellaneous(int index);
+
+/// Two documents that no menu entry reaches.
+void ShowSiblingGuide();
+void ShowEngines();
+
+} // namespace torvik

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// Ties the buttons that open and close emblem, script and clip art, and the clicks on these pictures.
-void BindOverlayButtons();
-
-} // namespace torvik

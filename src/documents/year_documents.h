@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// Ties cmdDesc, cmdColors, cmdOptions and cmdNostalgia to the articles of the year or topic on show.
-void BindYearDocuments();
-
-} // namespace torvik

@@ -1,0 +1,112 @@
+#include "hard_drive/copy_all_files.h"
+
+#include "hard_drive/copy_file.h"
+#include "hard_drive/copy_job.h"
+#include "hard_drive/movie_list.h"
+#include "platform/files/files.h"
+#include "platform/paths/program_folder.h"
+#include "program/box_title.h"
+#include "program/photo_list.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
+#include "runtime/text.h"
+#include "ui/forms/input_hold.h"
+#include "ui/forms/message_box.h"
+#include "ui/forms/paint_pace.h"
+#include "ui/forms/screen.h"
+#include "windows/main_window.h"
+
+using namespace Qt::StringLiterals;
+
+namespace torvik {
+
+namespace {
+
+QString NameOfPhoto(int index)
+{
+    const QString& path = state.PhotoFiles(index);
+    constexpr int behindFolder = 8; // from the position of "\Torviks\" to its closing backslash
+    const int position = InStr(path, torviksFolder) + behindFolder;
+    return Right(path, static_cast<int>(path.size()) - position);
+}
+
+QString NameOfMovie(int index)
+{
+    return state.MovieFiles(index);
+}
+
+void BeginCopying()
+{
+    Screen.SetMousePointer(MousePointer::Hourglass);
+    state.CopyRemaining = PresentCopyJob().Size;
+    Form1->SetEnabled(false);
+}
+
+/// Copies the file that has the number `state.LoopIndex` in its list. Where the disc was changed and holds
+/// nothing of the kind, the count is still that of the earlier disc and leads behind the end of the list:
+/// then the failure is shown like that of a file.
+void CopyFileOfList(QString (*nameOf)(int index))
+{
+    const QString& folder = PresentCopyJob().Folder;
+    const auto workOut = [&] {
+        state.CopySource = nameOf(state.LoopIndex);
+        state.CopyTarget = ProgramFolder() + folder + state.CopySource;
+        state.CopySource = state.DiscRoot + folder + state.CopySource;
+    };
+    if (OnError(workOut, [] { MsgBox(RunTimeErrorText(PendingErrorNumber())); }))
+        CopyFileWithGauges();
+}
+
+/// The play list enables Form1 when it is closed; that must let no second copy into this one.
+void CopyFilesOfList(QString (*nameOf)(int index), const Integer& count)
+{
+    const InputHold hold(*Form1);
+    const PaintPace pace(*Form1);
+    for (state.LoopIndex = 1; state.LoopIndex <= count; state.LoopIndex += 1)
+        CopyFileOfList(nameOf);
+}
+
+void EndCopying()
+{
+    Form1->ProgressGuage2.SetFloodPercent(100);
+    Form1->ProgressGuage2.SetCaption(100);
+    Screen.SetMousePointer(MousePointer::Default);
+    state.MessageText = PresentCopyJob().Done;
+    state.MessageAnswer = QString::number(MsgBox(state.MessageText, msgbox::exclamation, boxTitle));
+    Form1->SetEnabled(true);
+}
+
+} // namespace
+
+void MakeCopyFolder(const QString& path)
+{
+    OnError([&] { MakeFolder(path); },
+            [] {
+                state.MessageResult = MsgBox(u"These files have already been copied\r\n"
+                                             "to your hard drive.\r\n"
+                                             "\r\n"
+                                             "Would you like to copy them again?"_s,
+                                             msgbox::question + msgbox::okCancel);
+                if (state.MessageResult != msgbox::answerOk)
+                    state.CopyDeclined = true;
+            });
+}
+
+void CopyAllPhotos()
+{
+    BeginCopying();
+    state.PhotoRoot = state.DiscRoot;
+    BuildPhotoSet();
+    CopyFilesOfList(NameOfPhoto, state.PhotoCount);
+    EndCopying();
+}
+
+void CopyAllMovies()
+{
+    BeginCopying();
+    BuildMovieList();
+    CopyFilesOfList(NameOfMovie, state.MovieCount);
+    EndCopying();
+}
+
+} // namespace torvik

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// Ties the handlers of frmSSPhoto to its controls.
-void BindPlayListForm();
-
-} // namespace torvik

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// Ties the menu entry and the panel that install the screen saver to their handlers.
-void BindSaverInstallation();
-
-} // namespace torvik

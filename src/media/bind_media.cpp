@@ -1,0 +1,12 @@
+#include "media/bind_media.h"
+
+namespace torvik {
+
+void BindMedia()
+{
+    BindSoundPanelButtons();
+    BindMoviePlayer();
+    BindVideoDriverOffer();
+}
+
+} // namespace torvik

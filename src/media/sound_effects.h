@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// The panel of sound effects and the menu entry that opens it.
-void BindSoundEffects();
-
-} // namespace torvik

@@ -1,0 +1,151 @@
+#include "platform/files/files.h"
+
+#include "platform/files/open_file.h"
+#include "platform/files/system_failure.h"
+#include "platform/paths/drives.h"
+#include "platform/paths/host_name.h"
+#include "platform/paths/matching_names.h"
+#include "platform/paths/name_pattern.h"
+#include "platform/paths/path_lookup.h"
+#include "runtime/failure.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <limits>
+#include <new>
+#include <sys/stat.h>
+#include <vector>
+
+namespace torvik {
+
+namespace {
+
+/// What fits into the address space of the machines that the program is made for.
+constexpr qint64 largestContent = std::numeric_limits<qint32>::max();
+
+bool Status(const std::string& path, struct stat& status)
+{
+    return stat(path.c_str(), &status) == 0;
+}
+
+/// A number that is the same for names that differ in letter case alone, and mostly for no others.
+std::size_t CaseBlindHash(const std::string& name)
+{
+    std::size_t hash = 14695981039346656037U;
+    for (const char character : IsAscii(name) ? name : FoldedName(name)) {
+        const bool isUpper = character >= 'A' && character <= 'Z';
+        hash = (hash ^ static_cast<unsigned char>(isUpper ? character + ('a' - 'A') : character)) *
+               1099511628211U;
+    }
+    return hash;
+}
+
+/// Of names that differ in letter case alone leaves the first in binary order; the order stays.
+void DropCaseClashes(std::vector<std::string>& names)
+{
+    struct Hashed {
+        std::size_t hash;
+        std::size_t index;
+    };
+    std::vector<Hashed> hashes(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        hashes[i] = {CaseBlindHash(names[i]), i};
+    std::sort(hashes.begin(), hashes.end(), [](const Hashed& a, const Hashed& b) { return a.hash < b.hash; });
+    for (std::size_t first = 0; first < hashes.size(); ++first) {
+        for (std::size_t next = first + 1; next < hashes.size() && hashes[next].hash == hashes[first].hash;
+             ++next) {
+            std::string& one = names[hashes[first].index];
+            std::string& other = names[hashes[next].index];
+            if (one.empty() || other.empty() || FoldedName(one) != FoldedName(other))
+                continue;
+            (one < other ? other : one).clear();
+        }
+    }
+    std::erase(names, std::string());
+}
+
+} // namespace
+
+QStringList FilesMatching(const QString& pattern)
+{
+    std::vector<std::string> names = NamesMatching(pattern).Names;
+    DropCaseClashes(names);
+    QStringList texts;
+    texts.reserve(static_cast<qsizetype>(names.size()));
+    for (const std::string& name : names)
+        texts.append(NameFromHost(name));
+    return texts;
+}
+
+QString FindFile(const QString& patternOrPath)
+{
+    if (NamePattern::HasWildcards(QStringView(patternOrPath).mid(BeginOfName(patternOrPath)))) {
+        const QStringList names = FilesMatching(patternOrPath);
+        return names.isEmpty() ? QString() : names.first();
+    }
+    const std::string path = HostPathBytes(patternOrPath);
+    struct stat status {};
+    if (!Status(path, status) || !S_ISREG(status.st_mode))
+        return {};
+    return NameFromHost(std::string_view(path).substr(path.rfind('/') + 1));
+}
+
+bool FileExists(const QString& path)
+{
+    bool exists = false;
+    ResumeNext([&] {
+        struct stat status {};
+        exists = Status(HostPathBytes(path), status) && S_ISREG(status.st_mode);
+    });
+    return exists;
+}
+
+qint64 FileLength(const QString& path)
+{
+    const std::string hostPath = HostPathBytes(path);
+    struct stat status {};
+    if (!Status(hostPath, status))
+        Fail(FailureOfSystem(errno, hostPath));
+    if (!S_ISREG(status.st_mode))
+        Fail(failure::fileNotFound);
+    return status.st_size;
+}
+
+QByteArray ReadFile(const QString& path)
+{
+    const std::string hostPath = HostPathBytes(path);
+    OpenFile file(hostPath);
+    if (file.Length() > largestContent)
+        Fail(failure::outOfMemory);
+    try {
+        QByteArray content;
+        qsizetype filled = 0;
+        content.resize(static_cast<qsizetype>(file.Length()) + 1); // one more shows the end at once
+        for (;;) {
+            const qsizetype got = file.Read(content.data() + filled, content.size() - filled);
+            filled += got;
+            if (got == 0)
+                break;
+            if (filled == content.size())
+                content.resize(content.size() * 2); // longer than it said
+            if (filled > largestContent)
+                Fail(failure::outOfMemory);
+        }
+        content.truncate(filled);
+        return content;
+    } catch (const std::bad_alloc&) {
+        Fail(failure::outOfMemory);
+    }
+}
+
+void MakeFolder(const QString& path)
+{
+    const std::string hostPath = HostPathBytes(path);
+    if (mkdir(hostPath.c_str(), 0777) != 0) {
+        const bool isParentMissing = errno == ENOENT || errno == ENOTDIR;
+        Fail(isParentMissing ? failure::pathNotFound : failure::pathFileAccess);
+    }
+    NameAdded(hostPath);
+}
+
+} // namespace torvik

@@ -1,0 +1,11 @@
+#include "printing/bind_printing.h"
+
+namespace torvik {
+
+void BindPrinting()
+{
+    BindBookletPanelButtons();
+    BindPrintPhotoAndSetup();
+}
+
+} // namespace torvik

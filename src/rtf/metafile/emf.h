@@ -1,0 +1,12 @@
+#pragma once
+
+#include "rtf/metafile/drawing.h"
+
+#include <string_view>
+
+namespace torvik::rtf {
+
+/// Opens a metafile of the enhanced kind. The drawing refers to the bytes, which have to outlive it.
+Drawing OpenEmf(std::string_view bytes);
+
+} // namespace torvik::rtf

@@ -1,0 +1,95 @@
+#include "rtf/metafile/gdi_state.h"
+
+#include <cmath>
+
+namespace torvik::rtf {
+
+namespace {
+
+constexpr Qt::PenStyle penStyles[] = {Qt::SolidLine,      Qt::DashLine, Qt::DotLine,  Qt::DashDotLine,
+                                      Qt::DashDotDotLine, Qt::NoPen,    Qt::SolidLine};
+constexpr Qt::BrushStyle hatches[] = {Qt::HorPattern,   Qt::VerPattern,   Qt::FDiagPattern,
+                                      Qt::BDiagPattern, Qt::CrossPattern, Qt::DiagCrossPattern};
+
+enum BrushKind { SolidBrush = 0, HollowBrush = 1, HatchedBrush = 2 };
+
+double Ratio(double of, double to)
+{
+    return to == 0 ? 1 : of / to;
+}
+
+} // namespace
+
+QTransform GdiMapping::ToDevice() const
+{
+    QTransform page;
+    page.translate(viewportOrigin.x(), viewportOrigin.y());
+    page.scale(Ratio(viewportExtent.width(), windowExtent.width()),
+               Ratio(viewportExtent.height(), windowExtent.height()));
+    page.translate(-windowOrigin.x(), -windowOrigin.y());
+    return world * page;
+}
+
+QColor GdiColor(quint32 value)
+{
+    return {static_cast<int>(value & 255U), static_cast<int>(value >> 8U & 255U),
+            static_cast<int>(value >> 16U & 255U)};
+}
+
+QPen GdiPen(int style, double width, quint32 color)
+{
+    const auto place = static_cast<unsigned>(style) & 15U;
+    const Qt::PenStyle line = place < std::size(penStyles) ? penStyles[place] : Qt::SolidLine;
+    return {GdiColor(color), std::abs(width), line, Qt::RoundCap, Qt::RoundJoin};
+}
+
+QBrush GdiBrush(int style, quint32 color, int hatch)
+{
+    switch (style) {
+    case SolidBrush:
+        return {GdiColor(color)};
+    case HollowBrush:
+        return {Qt::NoBrush};
+    case HatchedBrush:
+        if (hatch >= 0 && hatch < static_cast<int>(std::size(hatches)))
+            return {GdiColor(color), hatches[hatch]};
+        return {GdiColor(color)};
+    default:
+        return {Qt::gray};
+    }
+}
+
+GdiObject GdiStockObject(StockObject object)
+{
+    switch (object) {
+    case StockObject::WhiteBrush:
+        return QBrush(Qt::white);
+    case StockObject::LightGrayBrush:
+        return QBrush(QColor(192, 192, 192));
+    case StockObject::GrayBrush:
+        return QBrush(QColor(128, 128, 128));
+    case StockObject::DarkGrayBrush:
+        return QBrush(QColor(64, 64, 64));
+    case StockObject::BlackBrush:
+        return QBrush(Qt::black);
+    case StockObject::NullBrush:
+        return QBrush(Qt::NoBrush);
+    case StockObject::WhitePen:
+        return QPen(Qt::white);
+    case StockObject::BlackPen:
+        return QPen(Qt::black);
+    case StockObject::NullPen:
+        return QPen(Qt::NoPen);
+    case StockObject::OemFixedFont:
+    case StockObject::AnsiFixedFont:
+    case StockObject::AnsiVarFont:
+    case StockObject::SystemFont:
+    case StockObject::DeviceDefaultFont:
+    case StockObject::SystemFixedFont:
+    case StockObject::DefaultGuiFont:
+        return GdiFont();
+    }
+    return {};
+}
+
+} // namespace torvik::rtf

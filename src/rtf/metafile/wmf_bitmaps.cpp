@@ -1,0 +1,110 @@
+#include "rtf/bitmap/device_bitmap.h"
+#include "rtf/bitmap/dib.h"
+#include "rtf/metafile/wmf_player.h"
+
+// The records of the older metafiles that carry a bitmap.
+
+namespace torvik::rtf {
+
+namespace {
+
+constexpr std::size_t deviceBitmapHeaderBytes = 10;
+constexpr qint64 mostDeviceBitmapBytes = 16LL * 1024 * 1024;
+
+struct Places {
+    QRect source;
+    QRectF target;
+};
+
+/// With scaling: source height, width, y, x, then target height, width, y, x. Without: source y, x, then the
+/// size that both share, then target y, x. `at` is where the first of these numbers stands.
+Places ReadPlaces(const ByteReader& in, std::size_t at, bool scales)
+{
+    if (scales) {
+        return {{in.S16(at + 6), in.S16(at + 4), in.S16(at + 2), in.S16(at)},
+                QRectF(in.S16(at + 14), in.S16(at + 12), in.S16(at + 10), in.S16(at + 8))};
+    }
+    const int width = in.S16(at + 6);
+    const int height = in.S16(at + 4);
+    return {{in.S16(at + 2), in.S16(at), width, height},
+            QRectF(in.S16(at + 10), in.S16(at + 8), width, height)};
+}
+
+} // namespace
+
+bool WmfPlayer::PlayBitmap(WmfFunction function, const ByteReader& in)
+{
+    switch (function) {
+    case WmfFunction::StretchDib:
+        PlayDib(in, 6, 22, true);
+        return true;
+    case WmfFunction::DibStretchBlt:
+        PlayDib(in, 4, 20, true);
+        return true;
+    case WmfFunction::DibBitBlt:
+        PlayDib(in, 4, 16, false);
+        return true;
+    case WmfFunction::SetDibToDev: {
+        // The operation is missing here, and two numbers of scan lines stand before the places.
+        GdiBitmap bitmap;
+        const Places places = ReadPlaces(in, 6, false);
+        bitmap.header = in.Slice(18);
+        bitmap.source = places.source;
+        bitmap.sourceFromBottom = true;
+        bitmap.target = places.target;
+        bitmap.pixels = ByteReader(bitmap.header).Slice(ReadDibHeader(bitmap.header).bytesBeforePixels);
+        canvas_.Bitmap(bitmap);
+        return true;
+    }
+    case WmfFunction::StretchBlt:
+        PlayDeviceBitmap(in, 4, 20, true);
+        return true;
+    case WmfFunction::BitBlt:
+        PlayDeviceBitmap(in, 4, 16, false);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void WmfPlayer::PlayDib(const ByteReader& in, std::size_t sizesAt, std::size_t dibAt, bool scales)
+{
+    const std::string_view dib = in.Slice(dibAt);
+    const DibHeader header = ReadDibHeader(dib);
+    const Places places = ReadPlaces(in, sizesAt, scales);
+    if (!header.IsValid()) {
+        // Without a bitmap the record fills with the brush, and a number without meaning stands before the
+        // size.
+        if (!scales && in.Size() <= dibAt + 2)
+            canvas_.Fill(ReadPlaces(in, sizesAt + 2, scales).target, static_cast<RasterOperation>(in.U32(0)));
+        return;
+    }
+    GdiBitmap bitmap;
+    bitmap.header = dib;
+    bitmap.pixels = ByteReader(dib).Slice(header.bytesBeforePixels);
+    bitmap.source = places.source;
+    bitmap.sourceFromBottom = sizesAt == 6 && !header.topDown;
+    bitmap.target = places.target;
+    bitmap.operation = static_cast<RasterOperation>(in.U32(0));
+    canvas_.Bitmap(bitmap);
+}
+
+void WmfPlayer::PlayDeviceBitmap(const ByteReader& in, std::size_t sizesAt, std::size_t bitmapAt, bool scales)
+{
+    const Places places = ReadPlaces(in, sizesAt, scales);
+    DeviceBitmap stored;
+    stored.width = in.S16(bitmapAt + 2);
+    stored.height = in.S16(bitmapAt + 4);
+    stored.lineBytes = in.S16(bitmapAt + 6);
+    stored.bitsPerPixel = in.U8(bitmapAt + 9);
+    stored.pixels = in.Slice(bitmapAt + deviceBitmapHeaderBytes);
+    GdiBitmap bitmap;
+    bitmap.image = DecodeDeviceBitmap(stored, mostDeviceBitmapBytes);
+    bitmap.source = places.source;
+    bitmap.target = places.target;
+    bitmap.operation = static_cast<RasterOperation>(in.U32(0));
+    if (!bitmap.image.isNull())
+        canvas_.Bitmap(bitmap);
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "rtf/model/list_mark.h"
+#include "rtf/model/list_table.h"
+#include "rtf/model/paragraph_state.h"
+
+#include <array>
+#include <map>
+
+namespace torvik::rtf {
+
+/// Finds the mark of every paragraph, and counts the paragraphs of lists whose numbers are not written out.
+class ListCounter {
+public:
+    explicit ListCounter(const ListTable& lists) : lists_(lists) {}
+
+    /// The mark of a paragraph. `written` is the text of the mark as the document gives it, empty when it
+    /// does not.
+    ListMark MarkOf(const ParagraphState& paragraph, const QString& written);
+
+private:
+    using Values = std::array<int, ListTable::maxLevels>;
+
+    ListMark CountedMark(const ParagraphState& paragraph);
+    void Count(const ParagraphState& paragraph, Values& values) const;
+
+    const ListTable& lists_;
+    std::map<int, Values> values_;
+    int numbering_ = 0;
+};
+
+} // namespace torvik::rtf

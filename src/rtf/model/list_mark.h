@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+#include <QTextListFormat>
+
+namespace torvik::rtf {
+
+struct ListLevel;
+struct ParagraphNumbering;
+
+/// What stands before the text of a list's paragraph.
+struct ListMark {
+    enum class Kind : quint8 { None, Bullet, Number, Literal };
+    Kind kind = Kind::None;
+    QTextListFormat::Style style = QTextListFormat::ListDisc;
+    /// Paragraphs with the same key and level belong to one list.
+    int listKey = 0;
+    int level = 0;
+    int value = 0;
+    QString before;
+    QString after;
+    /// The mark as it was written, for marks that the list itself cannot show.
+    QString literal;
+};
+
+/// Number formats as the format numbers them: 0 decimal, 1 and 2 roman, 3 and 4 letters.
+QTextListFormat::Style StyleOfNumberFormat(int format);
+
+/// Reads a mark from its written text, such as "2.", "(iv)" or a bullet. `format` is the number format that
+/// is known from elsewhere (23 for bullets), -1 when none is.
+ListMark MarkFromText(const QString& written, int format);
+
+/// The mark of a paragraph that comes without the text of its mark: made from the list's definition and the
+/// numbers of its levels, the paragraph's own last. `values` holds `count` numbers.
+ListMark MarkFromLevel(const ListLevel& level, const int* values, int count);
+ListMark MarkFromNumbering(const ParagraphNumbering& numbering, int value);
+
+/// `value` (1 or more) as a list writes it: decimal, letters or roman.
+QString NumberInStyle(int value, QTextListFormat::Style style);
+
+} // namespace torvik::rtf

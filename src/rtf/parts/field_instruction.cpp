@@ -1,0 +1,96 @@
+#include "rtf/parts/field_instruction.h"
+
+#include <QStringList>
+#include <QUrl>
+
+namespace torvik::rtf {
+
+namespace {
+
+/// Words and quoted texts of an instruction. In quotes a backslash takes the next character as it is.
+QStringList Pieces(const QString& instruction)
+{
+    QStringList pieces;
+    QString piece;
+    bool isQuoted = false;
+    bool hasPiece = false;
+    for (qsizetype i = 0; i < instruction.size(); ++i) {
+        const QChar c = instruction.at(i);
+        if (isQuoted && c == u'\\' && i + 1 < instruction.size()) {
+            piece += instruction.at(++i);
+        } else if (c == u'"' || c == u'“' || c == u'”') {
+            isQuoted = !isQuoted;
+            hasPiece = true;
+        } else if (c.isSpace() && !isQuoted) {
+            if (hasPiece)
+                pieces.append(piece);
+            piece.clear();
+            hasPiece = false;
+        } else {
+            piece += c;
+            hasPiece = true;
+        }
+    }
+    if (hasPiece)
+        pieces.append(piece);
+    return pieces;
+}
+
+/// The piece after a switch such as \l, empty when the switch is not there.
+QString ValueOfSwitch(const QStringList& pieces, QLatin1StringView name)
+{
+    const qsizetype at = pieces.indexOf(name);
+    return at >= 0 && at + 1 < pieces.size() ? pieces.at(at + 1) : QString();
+}
+
+void ReadLink(const QStringList& pieces, FieldInstruction& read)
+{
+    const QString bookmark = ValueOfSwitch(pieces, QLatin1StringView("\\l"));
+    const QString place = bookmark.isEmpty() ? QString() : u'#' + bookmark;
+    const bool isLocal = pieces.size() > 1 && pieces.at(1).startsWith(u'\\');
+    if (isLocal)
+        read.target = place;
+    else if (pieces.size() > 1)
+        read.target = SafeTarget(pieces.at(1) + place);
+}
+
+void ReadSymbol(const QStringList& pieces, FieldInstruction& read)
+{
+    if (pieces.size() < 2)
+        return;
+    bool isNumber = false;
+    const uint code = pieces.at(1).toUInt(&isNumber, 0);
+    if (!isNumber || code == 0 || code > 0xffff || (code >= 0xd800 && code < 0xe000))
+        return;
+    read.symbol = code;
+    read.symbolFont = ValueOfSwitch(pieces, QLatin1StringView("\\f"));
+}
+
+} // namespace
+
+QString SafeTarget(const QString& address)
+{
+    const QUrl url(address.trimmed(), QUrl::TolerantMode);
+    if (!url.isValid())
+        return {};
+    const QString scheme = url.scheme().toLower();
+    const bool isWeb = scheme == QLatin1StringView("http") || scheme == QLatin1StringView("https");
+    if (isWeb ? url.host().isEmpty() : scheme != QLatin1StringView("mailto"))
+        return {};
+    return url.toString(QUrl::FullyEncoded);
+}
+
+FieldInstruction ReadInstruction(const QString& instruction)
+{
+    FieldInstruction read;
+    const QStringList pieces = Pieces(instruction);
+    if (pieces.isEmpty())
+        return read;
+    if (pieces.first().compare(QLatin1StringView("HYPERLINK"), Qt::CaseInsensitive) == 0)
+        ReadLink(pieces, read);
+    else if (pieces.first().compare(QLatin1StringView("SYMBOL"), Qt::CaseInsensitive) == 0)
+        ReadSymbol(pieces, read);
+    return read;
+}
+
+} // namespace torvik::rtf

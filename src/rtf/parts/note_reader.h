@@ -1,0 +1,32 @@
+#pragma once
+
+#include "rtf/parts/document_state.h"
+#include "rtf/parts/paragraph_reader.h"
+
+namespace torvik::rtf {
+
+/// Reads footnotes, which are shown below everything else.
+class NoteReader {
+public:
+    NoteReader(DocumentState& document, ParagraphReader& paragraphs)
+        : document_(document), paragraphs_(paragraphs)
+    {}
+
+    /// Notes belong to the text, and never to each other.
+    bool MayBegin() const;
+    void Begin() { document_.flow.BeginNote(); }
+    /// Ends the note whose group had the state `ended`.
+    void End(const GroupState& ended);
+    /// Ends the note in which the document ended, if there is one.
+    void EndUnfinished();
+    /// The number that stands for a note: the next one in the text, the note's own within it. Empty where no
+    /// text is shown.
+    QString Reference();
+
+private:
+    DocumentState& document_;
+    ParagraphReader& paragraphs_;
+    int count_ = 0;
+};
+
+} // namespace torvik::rtf

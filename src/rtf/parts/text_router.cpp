@@ -1,0 +1,85 @@
+#include "rtf/parts/text_router.h"
+
+#include "rtf/bounds/limits.h"
+
+namespace torvik::rtf {
+
+namespace {
+
+constexpr char16_t frameStart = 0xfdd0;
+constexpr char16_t frameEnd = 0xfdd1;
+
+/// Characters that the document would take for its own structure.
+char16_t Harmless(char16_t unit)
+{
+    switch (unit) {
+    case u'\n':
+    case u'\r':
+    case 0x2029:
+        return 0x2028;
+    case frameStart:
+    case frameEnd:
+    case QChar::ObjectReplacementCharacter:
+    case 0:
+        return QChar::ReplacementCharacter;
+    default:
+        return unit;
+    }
+}
+
+} // namespace
+
+bool TextRouter::PutPlainBytes(std::string_view bytes)
+{
+    const CodePage& page = *document_.group.page;
+    if (page.PageKind() != CodePage::Kind::SingleByte || !document_.IsBody() || looks_.HasBookmark())
+        return false;
+    if (document_.group.character.hidden)
+        return true;
+    Paragraph& draft = document_.flow.Draft();
+    page.Decode(bytes, draft.text);
+    if (bytes.size() == 1) // only an escape can stand for a line end
+        draft.text.back() = Harmless(draft.text.back().unicode());
+    draft.CoverTail(looks_.Format());
+    return true;
+}
+
+void TextRouter::Put(const QString& text)
+{
+    if (QString* aside = AsideText()) {
+        if (aside->size() < maxAsideText)
+            aside->append(text);
+        return;
+    }
+    if (!document_.IsBody() || document_.group.character.hidden)
+        return;
+    QString shown = text;
+    for (QChar& c : shown)
+        c = Harmless(c.unicode());
+    document_.flow.Draft().Append(shown, looks_.Format());
+    looks_.SetBookmark(0);
+}
+
+QString* TextRouter::AsideText()
+{
+    switch (document_.group.destination) {
+    case Destination::Fonts:
+    case Destination::LevelText:
+    case Destination::Bookmark:
+        return &document_.aside;
+    case Destination::AlternativeFont:
+        return &fonts_.AlternativeName();
+    case Destination::FieldInstruction:
+        return &fields_.Instruction();
+    case Destination::Mark:
+        return &paragraphs_.Mark();
+    case Destination::NumberingBefore:
+        return &document_.group.paragraph.numbering.before;
+    case Destination::NumberingAfter:
+        return &document_.group.paragraph.numbering.after;
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,99 @@
+#include "rtf/bounds/limits.h"
+#include "rtf/read/interpreter.h"
+#include "rtf/read/word_table.h"
+
+// Words about the looks of characters.
+
+namespace torvik::rtf {
+
+namespace {
+
+constexpr int largestSize = 3276;
+
+template <Underline kind>
+void SetUnderline(Interpreter& interpreter, const Argument& argument)
+{
+    interpreter.Character().underline = argument.IsOn() ? kind : Underline::None;
+}
+
+template <bool CharacterState::*flag>
+void SetCharacterFlag(Interpreter& interpreter, const Argument& argument)
+{
+    interpreter.Character().*flag = argument.IsOn();
+}
+
+template <int CharacterState::*color>
+void SetCharacterColor(Interpreter& interpreter, const Argument& argument)
+{
+    interpreter.Character().*color = argument.value;
+}
+
+template <Script script>
+void SetScript(Interpreter& interpreter, const Argument& argument)
+{
+    interpreter.Character().script = argument.IsOn() ? script : Script::Normal;
+}
+
+template <Capitals capitals>
+void SetCapitals(Interpreter& interpreter, const Argument& argument)
+{
+    interpreter.Character().capitals = argument.IsOn() ? capitals : Capitals::AsWritten;
+}
+
+constexpr WordEntry characterEntries[] = {
+    {"plain", [](Interpreter& r, const Argument&) { r.Looks().Reset(); }},
+    {"cs", [](Interpreter& r, const Argument& a) { r.Styles().ApplyToCharacters(a.value); }},
+    {"f", [](Interpreter& r, const Argument& a) { r.Looks().SetFont(a.value); }},
+    {"fs", [](Interpreter& r, const Argument& a) { r.Character().size = a.Within(2, largestSize, 24); }},
+    {"b", SetCharacterFlag<&CharacterState::bold>},
+    {"i", SetCharacterFlag<&CharacterState::italic>},
+    {"strike", SetCharacterFlag<&CharacterState::strike>},
+    {"striked", SetCharacterFlag<&CharacterState::strike>},
+    {"v", SetCharacterFlag<&CharacterState::hidden>},
+    {"rtlch", [](Interpreter& r, const Argument&) { r.Character().rightToLeft = true; }},
+    {"ltrch", [](Interpreter& r, const Argument&) { r.Character().rightToLeft = false; }},
+    {"ul", SetUnderline<Underline::Single>},
+    {"ulw", SetUnderline<Underline::Single>},
+    {"uldb", SetUnderline<Underline::Single>},
+    {"ulth", SetUnderline<Underline::Single>},
+    {"uld", SetUnderline<Underline::Dotted>},
+    {"ulthd", SetUnderline<Underline::Dotted>},
+    {"uldash", SetUnderline<Underline::Dashed>},
+    {"ulldash", SetUnderline<Underline::Dashed>},
+    {"ulthdash", SetUnderline<Underline::Dashed>},
+    {"ulthldash", SetUnderline<Underline::Dashed>},
+    {"uldashd", SetUnderline<Underline::DashDot>},
+    {"ulthdashd", SetUnderline<Underline::DashDot>},
+    {"uldashdd", SetUnderline<Underline::DashDotDot>},
+    {"ulthdashdd", SetUnderline<Underline::DashDotDot>},
+    {"ulwave", SetUnderline<Underline::Wave>},
+    {"ulhwave", SetUnderline<Underline::Wave>},
+    {"ululdbwave", SetUnderline<Underline::Wave>},
+    {"ulnone", [](Interpreter& r, const Argument&) { r.Character().underline = Underline::None; }},
+    {"ulc", SetCharacterColor<&CharacterState::underlineColor>},
+    {"cf", SetCharacterColor<&CharacterState::foreground>},
+    {"cb", SetCharacterColor<&CharacterState::background>},
+    {"highlight", SetCharacterColor<&CharacterState::background>},
+    {"chcbpat", SetCharacterColor<&CharacterState::background>},
+    {"chcfpat", SetCharacterColor<&CharacterState::patternColor>},
+    {"chshdng", [](Interpreter& r, const Argument& a) { r.Character().shading = a.Within(0, 10000); }},
+    {"super", SetScript<Script::Super>},
+    {"sub", SetScript<Script::Sub>},
+    {"nosupersub", [](Interpreter& r, const Argument&) { r.Character().script = Script::Normal; }},
+    {"up", [](Interpreter& r, const Argument& a) { r.Character().raised = a.Within(0, 200, 6); }},
+    {"dn", [](Interpreter& r, const Argument& a) { r.Character().raised = -a.Within(0, 200, 6); }},
+    {"caps", SetCapitals<Capitals::All>},
+    {"scaps", SetCapitals<Capitals::Small>},
+    {"expnd", [](Interpreter& r, const Argument& a) { r.Character().spacing = 5 * a.Within(-300, 300); }},
+    {"expndtw", [](Interpreter& r, const Argument& a) { r.Character().spacing = a.Within(-1500, 1500); }},
+    {"charscalex", [](Interpreter& r, const Argument& a) { r.Character().stretch = a.Within(1, 600, 100); }},
+};
+
+} // namespace
+
+std::span<const WordEntry> CharacterWords()
+{
+    return characterEntries;
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,127 @@
+#include "rtf/read/interpreter.h"
+#include "rtf/read/word_table.h"
+
+// Words that say what the rest of their group is for.
+
+namespace torvik::rtf {
+
+namespace {
+
+void SkipGroup(Interpreter& interpreter, const Argument&)
+{
+    interpreter.Skip();
+}
+
+void Nothing(Interpreter&, const Argument&) {}
+
+template <Destination destination>
+void EnterGroup(Interpreter& interpreter, const Argument&)
+{
+    interpreter.Enter(destination);
+}
+
+void BeginNote(Interpreter& interpreter, const Argument&)
+{
+    if (!interpreter.Notes().MayBegin())
+        return interpreter.Skip();
+    interpreter.Enter(Destination::Note);
+    interpreter.Notes().Begin();
+}
+
+void BeginPicture(Interpreter& interpreter, const Argument&)
+{
+    interpreter.Enter(Destination::Picture);
+    interpreter.Pictures().Begin();
+}
+
+/// The same picture once more for older readers: wanted only when the better one could not be read.
+void BeginPlainPicture(Interpreter& interpreter, const Argument&)
+{
+    if (interpreter.Pictures().ShapeWasShown())
+        interpreter.Skip();
+    interpreter.Pictures().ForgetShape();
+}
+
+void BeginMark(Interpreter& interpreter, const Argument&)
+{
+    if (!interpreter.Document().IsBody())
+        return interpreter.Skip();
+    interpreter.Enter(Destination::Mark);
+    interpreter.Paragraphs().Mark().clear();
+}
+
+constexpr WordEntry destinationEntries[] = {
+    {"fonttbl", EnterGroup<Destination::Fonts>},
+    {"colortbl", EnterGroup<Destination::Colors>},
+    {"stylesheet", EnterGroup<Destination::Styles>},
+    {"listtable", EnterGroup<Destination::Lists>},
+    {"listoverridetable", EnterGroup<Destination::ListOverrides>},
+    {"fldinst", EnterGroup<Destination::FieldInstruction>},
+    {"bkmkstart", EnterGroup<Destination::Bookmark>},
+    {"field", [](Interpreter& r, const Argument&) { r.Fields().Begin(); }},
+    {"fldrslt", [](Interpreter& r, const Argument&) { r.Fields().BeginResult(); }},
+    {"footnote", BeginNote},
+    {"pict", BeginPicture},
+    {"shppict", [](Interpreter& r, const Argument&) { r.Pictures().BeginShape(); }},
+    {"nonshppict", BeginPlainPicture},
+    {"pntext", BeginMark},
+    {"listtext", BeginMark},
+    {"pn", EnterGroup<Destination::Numbering>},
+    // An object is shown by its result, a drawn shape by the picture and the text in it.
+    {"object", EnterGroup<Destination::Hidden>},
+    {"result", EnterGroup<Destination::Body>},
+    {"shpinst", EnterGroup<Destination::Hidden>},
+    {"shptxt", EnterGroup<Destination::Body>},
+    // Of two forms of a text the second, in Unicode, is the true one.
+    {"upr", [](Interpreter& r, const Argument&) { r.SkipNextGroup(); }},
+    {"ud", Nothing},
+    {"nesttableprops",
+     [](Interpreter& r, const Argument&) { r.Document().group.isNestedTableProperties = true; }},
+    {"nonesttables", SkipGroup},
+    {"info", SkipGroup},
+    {"header", SkipGroup},
+    {"headerl", SkipGroup},
+    {"headerr", SkipGroup},
+    {"headerf", SkipGroup},
+    {"footer", SkipGroup},
+    {"footerl", SkipGroup},
+    {"footerr", SkipGroup},
+    {"footerf", SkipGroup},
+    {"ftnsep", SkipGroup},
+    {"ftnsepc", SkipGroup},
+    {"ftncn", SkipGroup},
+    {"aftnsep", SkipGroup},
+    {"aftnsepc", SkipGroup},
+    {"aftncn", SkipGroup},
+    {"annotation", SkipGroup},
+    {"atnid", SkipGroup},
+    {"atnauthor", SkipGroup},
+    {"bkmkend", SkipGroup},
+    {"objdata", SkipGroup},
+    {"objclass", SkipGroup},
+    {"objname", SkipGroup},
+    {"shprslt", SkipGroup},
+    {"revtbl", SkipGroup},
+    {"filetbl", SkipGroup},
+    {"pntxta", SkipGroup},
+    {"pntxtb", SkipGroup},
+    {"pnseclvl", SkipGroup},
+    {"xe", SkipGroup},
+    {"tc", SkipGroup},
+    {"tcn", SkipGroup},
+    {"private", SkipGroup},
+    {"template", SkipGroup},
+    {"generator", SkipGroup},
+    {"themedata", SkipGroup},
+    {"datastore", SkipGroup},
+    {"background", SkipGroup},
+};
+
+} // namespace
+
+std::span<const WordEntry> DestinationWords()
+{
+    return destinationEntries;
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,340 @@
+#include "rtf/read/interpreter.h"
+
+#include "rtf/bounds/limits.h"
+#include "rtf/read/word_table.h"
+
+#include <QTextDocument>
+
+#include <utility>
+
+namespace torvik::rtf {
+
+namespace {
+
+constexpr int defaultTab = 720;
+
+WordScope ScopeOf(Destination destination)
+{
+    switch (destination) {
+    case Destination::Fonts:
+    case Destination::AlternativeFont:
+        return WordScope::Fonts;
+    case Destination::Colors:
+        return WordScope::Colors;
+    case Destination::Lists:
+    case Destination::ListOverrides:
+    case Destination::LevelText:
+        return WordScope::Lists;
+    case Destination::Picture:
+        return WordScope::Picture;
+    case Destination::Numbering:
+    case Destination::NumberingBefore:
+    case Destination::NumberingAfter:
+        return WordScope::Numbering;
+    default:
+        return WordScope::Text;
+    }
+}
+
+/// Words that are never taken for the stand-in of a Unicode character: writers that forget the stand-in are
+/// more common than those that use such a word for one.
+bool IsNeverStandIn(std::string_view word)
+{
+    return word == "u" || word == "uc" || word == "par" || word == "pard" || word == "plain" ||
+           word == "cell" || word == "row";
+}
+
+} // namespace
+
+Interpreter::Interpreter(const QByteArray& bytes, QTextDocument& into)
+    : tokens_({bytes.constData(), static_cast<std::size_t>(bytes.size())}), document_(bytes.size(), into),
+      looks_(document_), borders_(document_), rows_(document_, borders_), fonts_(document_, looks_),
+      fields_(document_), paragraphs_(document_, looks_), notes_(document_, paragraphs_),
+      pictures_(document_, looks_), router_(document_, looks_, fonts_, fields_, paragraphs_),
+      text_(document_, router_), styles_(*this, tokens_)
+{
+    paragraphs_.SetDefaultTab(defaultTab);
+}
+
+ReadResult Interpreter::Read()
+{
+    ReadResult result;
+    document_.cursor.beginEditBlock();
+    while (!ended_) {
+        const Token token = tokens_.Next();
+        if (token.kind == TokenKind::End) {
+            result.wasDamaged = true;
+            break;
+        }
+        Handle(token);
+    }
+    FinishDocument();
+    document_.cursor.endEditBlock();
+    document_.pictures.GiveTo(document_.document);
+    result.wasRtf = true;
+    result.wasCut = document_.budget.Exhausted();
+    result.paragraphs = document_.context.paragraphs;
+    result.tables = document_.context.tables;
+    result.pictures = pictures_.Shown();
+    result.lostPictures = pictures_.Lost();
+    return result;
+}
+
+void Interpreter::FinishDocument()
+{
+    // Nothing is shown of a destination that the file ends in, but the text before it stays.
+    document_.group.destination = Destination::Body;
+    text_.Flush();
+    notes_.EndUnfinished();
+    if (!document_.flow.Draft().IsEmpty())
+        paragraphs_.EndParagraph();
+    document_.flow.Finish();
+}
+
+void Interpreter::Handle(const Token& token)
+{
+    if (text_.InStandIn() && IsStandIn(token))
+        return;
+    switch (token.kind) {
+    case TokenKind::Text:
+        starPending_ = false;
+        HandleBytes(token.text);
+        break;
+    case TokenKind::Hex: {
+        const char byte = static_cast<char>(token.value);
+        if (token.hasValue)
+            HandleBytes({&byte, 1});
+        break;
+    }
+    case TokenKind::Word:
+        HandleWord(token);
+        break;
+    case TokenKind::Symbol:
+        HandleSymbol(token.symbol);
+        break;
+    case TokenKind::Binary:
+        if (document_.group.destination == Destination::Picture)
+            pictures_.AppendBytes(token.text);
+        break;
+    case TokenKind::GroupOpen:
+        OpenGroup();
+        break;
+    case TokenKind::GroupClose:
+        CloseGroup();
+        break;
+    case TokenKind::End:
+        break;
+    }
+}
+
+/// Whether a token stands in for a Unicode character, and is passed over. Bytes are looked at one by one
+/// where they are handled.
+bool Interpreter::IsStandIn(const Token& token)
+{
+    switch (token.kind) {
+    case TokenKind::Text:
+        return false;
+    case TokenKind::Word:
+        if (IsNeverStandIn(token.text)) {
+            text_.EndStandIn();
+            return false;
+        }
+        break;
+    case TokenKind::Hex:
+    case TokenKind::Symbol:
+    case TokenKind::Binary:
+        break;
+    case TokenKind::GroupOpen:
+    case TokenKind::GroupClose:
+    case TokenKind::End:
+        text_.EndStandIn();
+        return false;
+    }
+    text_.PassOneOfStandIn();
+    return true;
+}
+
+void Interpreter::HandleStyleWord(const Token& token)
+{
+    const bool isOptional = std::exchange(starPending_, false);
+    if (!styles_.Sheet().Take(token.text, {token.hasValue, token.value}) && isOptional)
+        Skip();
+}
+
+void Interpreter::HandleWord(const Token& token)
+{
+    if (document_.group.destination == Destination::Styles)
+        return HandleStyleWord(token);
+    // The two halves of a character beyond the first plane come as two words.
+    if (token.text == "u" || token.text == "uc")
+        text_.FlushBytes();
+    else
+        text_.Flush();
+    const WordEntry* word = FindWord(ScopeOf(document_.group.destination), token.text);
+    const bool isOptional = std::exchange(starPending_, false);
+    if (word != nullptr)
+        word->apply(*this, {token.hasValue, token.value});
+    else if (isOptional)
+        Skip();
+}
+
+void Interpreter::HandleSymbol(char symbol)
+{
+    switch (symbol) {
+    case '*':
+        starPending_ = true;
+        break;
+    case '\n':
+        // Elsewhere a line end may stand between the two halves of a character.
+        if (document_.IsBody())
+            text_.Flush();
+        paragraphs_.EndParagraph();
+        break;
+    case '~':
+        text_.PutCharacter(u'\u00a0');
+        break;
+    case '-':
+        text_.PutCharacter(u'\u00ad');
+        break;
+    case '_':
+        text_.PutCharacter(u'\u2011');
+        break;
+    case '\\':
+    case '{':
+    case '}':
+        HandleBytes({&symbol, 1});
+        break;
+    default:
+        break;
+    }
+}
+
+void Interpreter::HandleBytes(std::string_view bytes)
+{
+    const std::string_view meant = text_.WithoutStandIn(bytes);
+    if (meant.empty())
+        return;
+    text_.FlushHalfCharacter();
+    switch (document_.group.destination) {
+    case Destination::Picture:
+        pictures_.AppendHex(meant);
+        break;
+    case Destination::Colors:
+        for (const char c : meant) {
+            if (c == ';')
+                document_.colors.EndEntry();
+        }
+        break;
+    case Destination::Hidden:
+    case Destination::Styles:
+        break;
+    default:
+        text_.PutBytes(meant);
+        break;
+    }
+}
+
+void Interpreter::OpenGroup()
+{
+    text_.Flush();
+    starPending_ = false;
+    if (groups_.size() >= static_cast<std::size_t>(maxGroupDepth)) {
+        ++overflowDepth_;
+        return;
+    }
+    GroupState& group = document_.group;
+    groups_.push_back(group);
+    if (group.destination == Destination::Styles && group.opensDestination)
+        styles_.Sheet().BeginEntry();
+    group.opensDestination = false;
+    group.opensField = false;
+}
+
+void Interpreter::CloseGroup()
+{
+    text_.Flush();
+    starPending_ = false;
+    if (overflowDepth_ > 0) {
+        --overflowDepth_;
+        return;
+    }
+    if (groups_.size() <= 1) {
+        // The last paragraph may end with the document, and still has the looks of the group that ends here.
+        ended_ = true;
+        return;
+    }
+    GroupState& group = document_.group;
+    const GroupState ended = std::exchange(group, std::move(groups_.back()));
+    groups_.pop_back();
+    if (group.destination == Destination::Styles && group.opensDestination)
+        styles_.Sheet().EndEntry();
+    if (ended.opensDestination)
+        EndDestination(ended);
+    if (ended.opensField) {
+        const QString character = fields_.End();
+        if (!character.isEmpty())
+            text_.Put(character);
+    }
+}
+
+void Interpreter::EndDestination(const GroupState& ended)
+{
+    switch (ended.destination) {
+    case Destination::Fonts:
+        fonts_.End();
+        break;
+    case Destination::LevelText:
+        if (ListLevel* level = document_.lists.CurrentLevel())
+            level->text = document_.aside;
+        break;
+    case Destination::FieldInstruction:
+        fields_.EndInstruction();
+        break;
+    case Destination::Picture:
+        pictures_.End(ended);
+        break;
+    case Destination::Bookmark:
+        looks_.SetBookmark(document_.formats.AddBookmark(document_.aside.trimmed()));
+        break;
+    case Destination::NumberingBefore:
+    case Destination::NumberingAfter:
+    case Destination::Numbering:
+        // The numbering stays with the paragraph when its group is closed.
+        document_.group.paragraph.numbering = ended.paragraph.numbering;
+        break;
+    case Destination::Note:
+        notes_.End(ended);
+        break;
+    default:
+        break;
+    }
+}
+
+void Interpreter::Enter(Destination destination)
+{
+    document_.group.destination = destination;
+    document_.group.opensDestination = true;
+    document_.aside.clear();
+}
+
+void Interpreter::Skip()
+{
+    if (!tokens_.SkipGroup())
+        return;
+    CloseGroup();
+}
+
+void Interpreter::SkipNextGroup()
+{
+    // A group without an end is searched to the end of the file.
+    if (unendingGroups_ >= maxUnendingGroups)
+        return;
+    const Tokenizer here = tokens_;
+    const bool isGroup = tokens_.Next().kind == TokenKind::GroupOpen;
+    if (isGroup && tokens_.SkipGroup())
+        return;
+    tokens_ = here;
+    unendingGroups_ += isGroup ? 1 : 0;
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,66 @@
+#include "rtf/read/interpreter.h"
+#include "rtf/read/word_table.h"
+
+// Words of the tables of lists.
+
+namespace torvik::rtf {
+
+namespace {
+
+bool IsOverride(Interpreter& interpreter)
+{
+    return interpreter.Document().group.destination == Destination::ListOverrides;
+}
+
+void SetListId(Interpreter& interpreter, const Argument& argument)
+{
+    if (IsOverride(interpreter))
+        interpreter.Document().lists.SetOverriddenList(argument.value);
+    else
+        interpreter.Document().lists.SetListId(argument.value);
+}
+
+void SetLevelFormat(Interpreter& interpreter, const Argument& argument)
+{
+    if (ListLevel* level = interpreter.Document().lists.CurrentLevel();
+        level != nullptr && !IsOverride(interpreter))
+        level->format = argument.Within(0, 255);
+}
+
+constexpr WordEntry listEntries[] = {
+    {"list", [](Interpreter& r, const Argument&) { r.Document().lists.BeginList(); }},
+    {"listid", SetListId},
+    {"listlevel",
+     [](Interpreter& r, const Argument&) {
+         if (!IsOverride(r))
+             r.Document().lists.BeginLevel();
+     }},
+    {"levelnfc", SetLevelFormat},
+    {"levelnfcn", SetLevelFormat},
+    {"levelstartat",
+     [](Interpreter& r, const Argument& a) {
+         if (ListLevel* level = r.Document().lists.CurrentLevel(); level != nullptr && !IsOverride(r))
+             level->startAt = a.Within(0, 30000, 1);
+     }},
+    {"leveltext",
+     [](Interpreter& r, const Argument&) {
+         if (IsOverride(r))
+             r.Skip();
+         else
+             r.Enter(Destination::LevelText);
+     }},
+    {"levelnumbers", [](Interpreter& r, const Argument&) { r.Skip(); }},
+    {"listname", [](Interpreter& r, const Argument&) { r.Skip(); }},
+    {"listpicture", [](Interpreter& r, const Argument&) { r.Skip(); }},
+    {"listoverride", [](Interpreter& r, const Argument&) { r.Document().lists.BeginOverride(); }},
+    {"ls", [](Interpreter& r, const Argument& a) { r.Document().lists.SetReference(a.value); }},
+};
+
+} // namespace
+
+std::span<const WordEntry> ListWords()
+{
+    return listEntries;
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,53 @@
+#include "rtf/read/interpreter.h"
+#include "rtf/read/word_table.h"
+
+// Words that stand for a character, and those that end a paragraph or a page.
+
+namespace torvik::rtf {
+
+namespace {
+
+template <char16_t unit>
+void Put(Interpreter& interpreter, const Argument&)
+{
+    interpreter.Text().PutCharacter(unit);
+}
+
+constexpr char16_t lineSeparator = 0x2028;
+
+constexpr WordEntry specialEntries[] = {
+    {"par", [](Interpreter& r, const Argument&) { r.Paragraphs().EndParagraph(); }},
+    {"page", [](Interpreter& r, const Argument&) { r.Paragraphs().BreakPage(); }},
+    {"sect", [](Interpreter& r, const Argument&) { r.Paragraphs().BreakPage(); }},
+    {"sbknone", [](Interpreter& r, const Argument&) { r.Paragraphs().CancelBreak(); }},
+    {"sbkcol", [](Interpreter& r, const Argument&) { r.Paragraphs().CancelBreak(); }},
+    {"chftn", [](Interpreter& r, const Argument&) { r.Text().Put(r.Notes().Reference()); }},
+    {"tab", Put<u'\t'>},
+    {"line", Put<lineSeparator>},
+    {"lbr", Put<lineSeparator>},
+    {"emdash", Put<u'\u2014'>},
+    {"endash", Put<u'\u2013'>},
+    {"emspace", Put<u'\u2003'>},
+    {"enspace", Put<u'\u2002'>},
+    {"qmspace", Put<u'\u2005'>},
+    {"bullet", Put<u'\u2022'>},
+    {"lquote", Put<u'\u2018'>},
+    {"rquote", Put<u'\u2019'>},
+    {"ldblquote", Put<u'\u201c'>},
+    {"rdblquote", Put<u'\u201d'>},
+    {"zwj", Put<u'\u200d'>},
+    {"zwnj", Put<u'\u200c'>},
+    {"zwbo", Put<u'\u200b'>},
+    {"zwnbo", Put<u'\u2060'>},
+    {"ltrmark", Put<u'\u200e'>},
+    {"rtlmark", Put<u'\u200f'>},
+};
+
+} // namespace
+
+std::span<const WordEntry> SpecialWords()
+{
+    return specialEntries;
+}
+
+} // namespace torvik::rtf

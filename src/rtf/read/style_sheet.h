@@ -1,0 +1,50 @@
+#pragma once
+
+#include "rtf/read/word_table.h"
+
+#include <unordered_map>
+#include <vector>
+
+namespace torvik::rtf {
+
+/// A control word that a style stands for.
+struct StyleWord {
+    const WordEntry* word = nullptr;
+    Argument argument;
+};
+
+using StyleWords = std::vector<StyleWord>;
+
+/// Whether a control word is a look that a style can stand for.
+bool IsLook(const WordEntry* word);
+
+/// The styles of a document by number; their names are not needed.
+class StyleSheet {
+public:
+    void BeginEntry() { entry_ = Entry(); }
+    /// Takes a control word of the entry that is being read: its number, or a part of its looks. False for
+    /// any other word.
+    bool Take(std::string_view name, const Argument& argument);
+    void EndEntry();
+
+    /// What a style of paragraphs or of characters stands for; nullptr when the document has none with this
+    /// number.
+    const StyleWords* OfParagraph(int number) const { return Find(paragraphs_, number); }
+    const StyleWords* OfCharacter(int number) const { return Find(characters_, number); }
+
+private:
+    using Styles = std::unordered_map<int, StyleWords>;
+    struct Entry {
+        int number = 0;
+        Styles StyleSheet::*kind = &StyleSheet::paragraphs_;
+        StyleWords words;
+    };
+    static const StyleWords* Find(const Styles& styles, int number);
+
+    Styles paragraphs_;
+    Styles characters_;
+    Styles others_; // of sections and tables, which are not followed
+    Entry entry_;
+};
+
+} // namespace torvik::rtf

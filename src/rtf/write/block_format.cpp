@@ -1,0 +1,106 @@
+#include "rtf/bounds/limits.h"
+#include "rtf/write/formats.h"
+#include "rtf/write/keep_together.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace torvik::rtf {
+
+namespace {
+
+/// Room for a bullet where the document leaves none, twips.
+constexpr int leastMarkRoom = 300;
+
+Qt::Alignment AlignmentOf(const ParagraphState& state)
+{
+    switch (state.alignment) {
+    case Alignment::Left:
+        return Qt::AlignLeft | Qt::AlignAbsolute;
+    case Alignment::Right:
+        return Qt::AlignRight | Qt::AlignAbsolute;
+    case Alignment::Center:
+        return Qt::AlignHCenter;
+    case Alignment::Justify:
+        return Qt::AlignJustify;
+    case Alignment::Start:
+        break;
+    }
+    return state.rightToLeft ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeft;
+}
+
+void SetLineHeight(QTextBlockFormat& format, const ParagraphState& state)
+{
+    const int spacing = state.lineSpacing;
+    if (spacing == 0)
+        return;
+    if (state.lineMultiple) {
+        if (std::abs(spacing) != 240)
+            format.setLineHeight(std::abs(spacing) / 2.4, QTextBlockFormat::ProportionalHeight);
+    } else if (spacing > 0) {
+        format.setLineHeight(PixelsFromTwips(spacing), QTextBlockFormat::MinimumHeight);
+    } else {
+        format.setLineHeight(PixelsFromTwips(-spacing), QTextBlockFormat::FixedHeight);
+    }
+}
+
+/// The document counts tabs from its margin, the layout from the start of the first line.
+void SetTabs(QTextBlockFormat& format, const ParagraphState& state)
+{
+    const int lineStart = state.leftIndent + (state.markOutside ? 0 : state.firstIndent);
+    QList<QTextOption::Tab> tabs;
+    for (const TabStop& tab : state.tabs) {
+        const int position = tab.position - lineStart;
+        if (position > 0)
+            tabs.append({PixelsFromTwips(position), tab.type, u'.'});
+    }
+    // A hanging indent is a tab stop of its own.
+    if (state.firstIndent < 0 && !state.markOutside) {
+        const double hanging = PixelsFromTwips(-state.firstIndent);
+        const bool isThere = std::any_of(tabs.begin(), tabs.end(), [&](const QTextOption::Tab& tab) {
+            return std::abs(tab.position - hanging) < 0.5;
+        });
+        if (!isThere)
+            tabs.append({hanging, QTextOption::LeftTab});
+    }
+    if (tabs.isEmpty())
+        return;
+    std::sort(tabs.begin(), tabs.end(), [](const auto& a, const auto& b) { return a.position < b.position; });
+    format.setTabPositions(tabs);
+}
+
+} // namespace
+
+QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
+{
+    QTextBlockFormat format;
+    format.setAlignment(AlignmentOf(state));
+    int left = state.leftIndent;
+    if (state.markOutside)
+        left = std::max(left + std::max(state.firstIndent, 0), leastMarkRoom);
+    if (left != 0)
+        format.setLeftMargin(PixelsFromTwips(left));
+    if (state.rightIndent != 0)
+        format.setRightMargin(PixelsFromTwips(state.rightIndent));
+    if (state.firstIndent != 0 && !state.markOutside)
+        format.setTextIndent(PixelsFromTwips(state.firstIndent));
+    if (state.spaceBefore != 0)
+        format.setTopMargin(PixelsFromTwips(state.spaceBefore));
+    if (state.spaceAfter != 0)
+        format.setBottomMargin(PixelsFromTwips(state.spaceAfter));
+    SetLineHeight(format, state);
+    SetTabs(format, state);
+    if (state.keepTogether)
+        format.setProperty(keepTogetherProperty, true);
+    if (state.breakBefore)
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    if (state.rightToLeft)
+        format.setLayoutDirection(Qt::RightToLeft);
+    const QColor back =
+        ShadedColor(colors_.ChosenAt(state.patternColor), colors_.ChosenAt(state.background), state.shading);
+    if (back.isValid())
+        format.setBackground(back);
+    return format;
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,114 @@
+#include "rtf/bounds/limits.h"
+#include "rtf/write/formats.h"
+
+#include <algorithm>
+
+namespace torvik::rtf {
+
+namespace {
+
+QTextCharFormat::UnderlineStyle UnderlineStyleOf(Underline kind)
+{
+    switch (kind) {
+    case Underline::Single:
+        return QTextCharFormat::SingleUnderline;
+    case Underline::Dotted:
+        return QTextCharFormat::DotLine;
+    case Underline::Dashed:
+        return QTextCharFormat::DashUnderline;
+    case Underline::DashDot:
+        return QTextCharFormat::DashDotLine;
+    case Underline::DashDotDot:
+        return QTextCharFormat::DashDotDotLine;
+    case Underline::Wave:
+        return QTextCharFormat::WaveUnderline;
+    case Underline::None:
+        break;
+    }
+    return QTextCharFormat::NoUnderline;
+}
+
+void SetFont(QTextCharFormat& format, const FontEntry* font)
+{
+    if (font == nullptr)
+        return;
+    const QStringList families = font->Families();
+    if (!families.isEmpty())
+        format.setFontFamilies(families);
+    if (font->hint != QFont::AnyStyle)
+        format.setFontStyleHint(font->hint);
+    if (font->fixedPitch)
+        format.setFontFixedPitch(true);
+}
+
+void SetPosition(QTextCharFormat& format, const CharacterState& state)
+{
+    if (state.script == Script::Super)
+        format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
+    else if (state.script == Script::Sub)
+        format.setVerticalAlignment(QTextCharFormat::AlignSubScript);
+    if (state.raised != 0)
+        format.setBaselineOffset(100.0 * state.raised / std::max(state.size, 1));
+}
+
+void SetSpacing(QTextCharFormat& format, const CharacterState& state)
+{
+    if (state.spacing != 0) {
+        format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+        format.setFontLetterSpacing(PixelsFromTwips(state.spacing));
+    }
+    if (state.stretch != 100)
+        format.setFontStretch(state.stretch);
+    if (state.capitals == Capitals::All)
+        format.setFontCapitalization(QFont::AllUppercase);
+    else if (state.capitals == Capitals::Small)
+        format.setFontCapitalization(QFont::SmallCaps);
+}
+
+} // namespace
+
+QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
+{
+    QTextCharFormat format;
+    SetFont(format, fonts_.Find(state.font));
+    format.setFontPointSize(state.size / 2.0);
+    if (state.bold)
+        format.setFontWeight(QFont::Bold);
+    if (state.italic)
+        format.setFontItalic(true);
+    if (state.strike)
+        format.setFontStrikeOut(true);
+    if (state.underline != Underline::None) {
+        format.setUnderlineStyle(UnderlineStyleOf(state.underline));
+        const QColor line = colors_.ChosenAt(state.underlineColor);
+        if (line.isValid())
+            format.setUnderlineColor(line);
+    }
+    const QColor front = colors_.At(state.foreground);
+    if (front.isValid())
+        format.setForeground(front);
+    const QColor back =
+        ShadedColor(colors_.ChosenAt(state.patternColor), colors_.ChosenAt(state.background), state.shading);
+    if (back.isValid())
+        format.setBackground(back);
+    SetPosition(format, state);
+    SetSpacing(format, state);
+    if (state.rightToLeft)
+        format.setLayoutDirection(Qt::RightToLeft);
+    if (state.link != 0) {
+        format.setAnchor(true);
+        format.setAnchorHref(links_.at(static_cast<std::size_t>(state.link)));
+        // A link that the document gave no look of its own still has to be seen as one.
+        if (state.underline == Underline::None && !front.isValid()) {
+            format.setUnderlineStyle(QTextCharFormat::SingleUnderline);
+            format.setForeground(QColor(Qt::blue));
+        }
+    }
+    if (state.bookmark != 0) {
+        format.setAnchor(true);
+        format.setAnchorNames({bookmarks_.at(static_cast<std::size_t>(state.bookmark))});
+    }
+    return format;
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,155 @@
+#include "rtf/write/flow_writer.h"
+
+#include "rtf/write/paragraph_box.h"
+#include "rtf/write/table_writer.h"
+
+#include <QTextTable>
+
+namespace torvik::rtf {
+
+namespace {
+
+// What the document keeps for a block, a run and a character of text, growing of its arrays included; bytes.
+constexpr qint64 blockCost = 240;
+constexpr qint64 runCost = 70;
+constexpr qint64 characterCost = 4;
+constexpr qint64 listCost = 900;
+constexpr qint64 boxCost = 4000;
+
+} // namespace
+
+FlowWriter::FlowWriter(WritingContext& context, const QTextCursor& cursor, Room room)
+    : context_(context), cursor_(cursor), atCellStart_(room == Room::Cell)
+{}
+
+qint64 FlowWriter::CostOf(qsizetype characters, std::size_t runs)
+{
+    return blockCost + runCost * static_cast<qint64>(runs) + characterCost * characters;
+}
+
+void FlowWriter::Write(const Paragraph& paragraph)
+{
+    if (!context_.budget.Take(CostOf(paragraph.text.size(), paragraph.spans.size())))
+        return;
+    PlaceBox(paragraph);
+    boxFormat_ = paragraph.format;
+    OpenBlock(paragraph);
+    WriteSpans(paragraph);
+    ++context_.paragraphs;
+}
+
+void FlowWriter::Write(const std::vector<Block>& blocks)
+{
+    for (const Block& block : blocks) {
+        if (block.table)
+            Write(*block.table);
+        else
+            Write(block.paragraph);
+    }
+}
+
+void FlowWriter::Write(const Table& table)
+{
+    LeaveBox();
+    lists_.Interrupt();
+    const int end = WriteTable(context_, cursor_, table);
+    if (end < 0) {
+        // Too much for a table: its texts at least, one below the other.
+        for (const Row& row : table.rows) {
+            for (const std::vector<Block>& cell : row.cells)
+                Write(cell);
+        }
+        return;
+    }
+    cursor_.setPosition(end);
+    atCellStart_ = false;
+    fresh_ = true;
+}
+
+void FlowWriter::PlaceBox(const Paragraph& paragraph)
+{
+    const ParagraphState& state = context_.formats.StateOf(paragraph.format);
+    // Without text a single border is a mere rule, which the block draws.
+    const bool isBoxed = state.HasBox() || (state.HasBorder() && !paragraph.IsEmpty());
+    if (box_ != nullptr && isBoxed && SharesBox(state, context_.formats.StateOf(boxFormat_)))
+        return;
+    LeaveBox();
+    if (!isBoxed || !context_.budget.Take(boxCost))
+        return;
+    box_ = InsertBox(cursor_, state, context_.formats.Colors());
+    atCellStart_ = qobject_cast<QTextTable*>(box_) != nullptr;
+    fresh_ = true;
+}
+
+void FlowWriter::LeaveBox()
+{
+    if (box_ == nullptr)
+        return;
+    cursor_.setPosition(box_->lastPosition() + 1);
+    box_ = nullptr;
+    atCellStart_ = false;
+    fresh_ = true;
+}
+
+void FlowWriter::TakeFreshBlock(const QTextBlockFormat& format, const QTextCharFormat& endFormat)
+{
+    cursor_.setBlockFormat(format);
+    if (atCellStart_) {
+        QTextCharFormat height;
+        height.setFontPointSize(endFormat.fontPointSize());
+        cursor_.mergeBlockCharFormat(height);
+    } else {
+        cursor_.setBlockCharFormat(endFormat);
+    }
+    atCellStart_ = false;
+    fresh_ = false;
+}
+
+void FlowWriter::OpenBlock(const Paragraph& paragraph)
+{
+    const QTextCharFormat& endFormat = context_.formats.CharacterFormat(paragraph.endFormat);
+    ListWriter::Place place = lists_.Join(paragraph.mark);
+    if (place == ListWriter::Place::Starts && !context_.budget.Take(listCost))
+        place = ListWriter::Place::Outside;
+    const bool isItem = place != ListWriter::Place::Outside;
+    QTextBlockFormat format = context_.formats.BlockFormat(isItem ? paragraph.itemFormat : paragraph.format);
+    if (paragraph.breakBefore)
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    if (place == ListWriter::Place::Continues)
+        format.setObjectIndex(lists_.IndexOf(paragraph.mark));
+    const bool isRule =
+        paragraph.IsEmpty() && context_.formats.StateOf(paragraph.format).HasBorder() && box_ == nullptr;
+    if (isRule)
+        format.setProperty(QTextFormat::BlockTrailingHorizontalRulerWidth,
+                           QTextLength(QTextLength::PercentageLength, 100));
+    if (fresh_)
+        TakeFreshBlock(format, endFormat);
+    else
+        cursor_.insertBlock(format, endFormat);
+    if (place == ListWriter::Place::Starts)
+        lists_.Start(paragraph.mark, cursor_);
+    else if (!isItem && !paragraph.mark.literal.isEmpty())
+        cursor_.insertText(paragraph.mark.literal + u'\t', endFormat);
+}
+
+void FlowWriter::WriteSpans(const Paragraph& paragraph)
+{
+    qsizetype at = 0;
+    for (const Span& span : paragraph.spans) {
+        const QTextCharFormat& format = context_.formats.CharacterFormat(span.format);
+        if (span.picture != 0) {
+            QTextImageFormat image;
+            image.merge(format);
+            image.setName(PictureStore::NameOf(span.picture));
+            const QSizeF size = context_.pictures.SizeOf(span.picture);
+            image.setWidth(size.width());
+            image.setHeight(size.height());
+            cursor_.insertImage(image);
+        } else {
+            cursor_.insertText(QString::fromRawData(paragraph.text.constData() + at, span.length), format);
+        }
+        at += span.length;
+    }
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QTextFormat>
+
+namespace torvik::rtf {
+
+/// True in the block format of a paragraph that is to stand on one page. Qt has nothing
+/// like it: lines that it calls unbreakable are never wrapped.
+inline constexpr int keepTogetherProperty = QTextFormat::UserProperty + 1;
+
+} // namespace torvik::rtf

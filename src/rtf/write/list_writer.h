@@ -1,0 +1,39 @@
+#pragma once
+
+#include "rtf/model/list_mark.h"
+
+#include <QTextCursor>
+#include <QTextList>
+
+#include <map>
+#include <tuple>
+
+namespace torvik::rtf {
+
+/// Puts paragraphs into the lists of a document. A list counts from 1 in steps of 1; a paragraph whose
+/// number does not fit that keeps it as text.
+class ListWriter {
+public:
+    enum class Place { Outside, Continues, Starts };
+
+    /// Where the next paragraph stands, given its mark.
+    Place Join(const ListMark& mark);
+    /// The object index of the list that the mark continues; valid after Join said so.
+    int IndexOf(const ListMark& mark) const;
+    /// Starts a list with the cursor's block.
+    void Start(const ListMark& mark, QTextCursor& cursor);
+    /// Something comes between the list so far and what follows.
+    void Interrupt() { previousWasItem_ = false; }
+
+private:
+    using Key = std::tuple<int, int, int>; ///< list, level, style
+    struct Open {
+        QTextList* list = nullptr;
+        int value = 0;
+    };
+    static Key KeyOf(const ListMark& mark) { return {mark.listKey, mark.level, mark.style}; }
+    std::map<Key, Open> open_;
+    bool previousWasItem_ = false;
+};
+
+} // namespace torvik::rtf

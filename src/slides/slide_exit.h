@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// Ties the coming up and the ways out of the slide show.
-void BindSlideExit();
-
-} // namespace torvik

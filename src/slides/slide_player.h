@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// Ties what runs the slide show by itself: Play, Pause, the timer, the delay.
-void BindSlidePlayer();
-
-} // namespace torvik

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// Ties the button of the main window that opens the slide show.
-void BindSlideSetup();
-
-} // namespace torvik

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/paths/drives.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace torvik {
+
+/// What the command line asks for.
+struct CommandLine {
+    QList<DriveOption> Drives; ///< --drive LETTER=FOLDER, and bare folders without a letter
+    QString ProgramFolder;     ///< --program-folder FOLDER; empty when it was not given
+    QString PrintFolder;       ///< --print-to FOLDER; empty when it was not given
+    bool Help = false;
+    bool Version = false;
+    QString Problem; ///< what is wrong with it, in words for the user; empty when nothing is
+};
+
+/// Reads the arguments behind the program's name.
+CommandLine ReadCommandLine(const QStringList& arguments);
+
+/// The text of --help.
+QString HelpText();
+
+} // namespace torvik

@@ -1,0 +1,41 @@
+#include "ui/controls/button.h"
+
+#include "ui/look/button_widget.h"
+
+#include <QIcon>
+
+namespace torvik {
+
+Button::Button(Container& container, const QString& name, const Twips& design, const QString& caption)
+    : Control(container, name, new ButtonWidget, design), button_(static_cast<ButtonWidget*>(&Widget()))
+{
+    connect(button_, &QAbstractButton::clicked, this, [this] { Click.Fire(); });
+    SetCaption(caption);
+}
+
+QString Button::Caption() const
+{
+    return button_->text();
+}
+
+void Button::SetCaption(const QString& caption)
+{
+    button_->setText(caption);
+    UpdateAccessibleText();
+}
+
+void Button::SetPicture(const QString& resource, const QString& spokenAs)
+{
+    button_->setIcon(QIcon(resource));
+    spokenAs_ = spokenAs;
+    UpdateAccessibleText();
+}
+
+QString Button::AccessibleText() const
+{
+    if (!Caption().isEmpty())
+        return Caption();
+    return spokenAs_.isEmpty() || !ToolTip().isEmpty() ? Control::AccessibleText() : spokenAs_;
+}
+
+} // namespace torvik

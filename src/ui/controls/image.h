@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ui/forms/control.h"
+#include "ui/pictures/picture.h"
+
+class QLabel;
+
+namespace torvik {
+
+/// Shows a picture inside its own rectangle, sharp at any scale factor of the screen: as large as fits with
+/// its proportions kept, centred, or drawn out to the whole rectangle.
+class Image : public Control {
+public:
+    enum class Fit { Proportions, Stretch };
+
+    Image(Container& container, const QString& name, const Twips& design, Fit fit = Fit::Proportions);
+
+    /// Shows a file, or nothing for an empty path. On a failure (see Picture::Load) the earlier picture
+    /// stays.
+    void Load(const QString& path);
+    void Show(const Picture& picture);
+    using Control::Show;
+    void Clear();
+    const class Picture& Picture() const { return picture_; }
+
+    /// Images and labels lie in a layer of their own below all other controls: brings the image to the front
+    /// of that layer.
+    void ZOrder() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    QString AccessibleText() const override;
+    void SizeChanged() override;
+    bool IsPicture() const override { return true; }
+
+private:
+    void Draw(const class Picture& picture);
+
+    QLabel* label_;
+    Fit fit_;
+    class Picture picture_;
+    bool outgrown_ = false; // what the label holds was drawn for another size
+};
+
+} // namespace torvik

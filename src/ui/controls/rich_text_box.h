@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ui/forms/control.h"
+
+class QTextBrowser;
+class QTextDocument;
+
+namespace torvik {
+
+/// A pane that shows a rich-text file with its own fonts and pictures. Its text can be selected, copied and
+/// scrolled, not changed. A click on a web or mail address opens it in the desktop's own program, one on a
+/// link inside the document brings its place into view.
+class RichTextBox : public Control {
+public:
+    RichTextBox(Container& container, const QString& name, const Twips& design);
+
+    /// Loads a file. Failures: those of reading a file (53, 76, 68, 70, 75, 57), and 321, Invalid file
+    /// format, for an empty one. On a failure the earlier text stays.
+    void SetFileName(const QString& path);
+    const QString& FileName() const { return fileName_; }
+    /// The plain text of what is shown.
+    QString Text() const;
+    /// What is shown, with its formats; for printing. It goes with the next file.
+    const QTextDocument& Document() const;
+
+protected:
+    QString AccessibleText() const override;
+
+private:
+    QTextBrowser* pane_;
+    QString fileName_;
+};
+
+} // namespace torvik

@@ -1,0 +1,78 @@
+#include "ui/forms/disabled_input.h"
+
+#include "ui/forms/form.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QWidget>
+
+namespace torvik {
+
+namespace {
+
+bool IsInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The form that input to an object is meant for: that of its window, and for an open menu or an entry of one
+/// the form whose menu bar it hangs from.
+const Form* FormOf(const QObject* object)
+{
+    for (; object != nullptr; object = object->parent()) {
+        const auto* widget = qobject_cast<const QWidget*>(object);
+        if (widget == nullptr || !widget->isWindow())
+            continue;
+        if (const Form* form = FormHandleBase::FormOfWindow(widget))
+            return form;
+        if (widget->windowType() != Qt::Popup)
+            return nullptr;
+    }
+    return nullptr;
+}
+
+class InputGuard : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (!IsInput(event->type()))
+            return false;
+        const Form* form = FormOf(watched);
+        return form != nullptr && !form->Enabled();
+    }
+};
+
+} // namespace
+
+void WatchDisabledForms()
+{
+    static QPointer<QObject> guard; // goes with the application object
+    if (guard != nullptr)
+        return;
+    guard = new InputGuard(qApp);
+    qApp->installEventFilter(guard);
+}
+
+} // namespace torvik

@@ -1,0 +1,180 @@
+#include "ui/forms/message_box.h"
+
+#include "ui/forms/form_window.h"
+#include "ui/forms/program_end.h"
+#include "ui/forms/program_title.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace torvik {
+
+namespace {
+
+/// The windows that were active when the boxes that stand came up.
+std::vector<QPointer<FormWindow>>& Asking()
+{
+    static std::vector<QPointer<FormWindow>> windows;
+    return windows;
+}
+
+/// Notes for the length of a scope which window asks.
+class AskingWindow {
+public:
+    AskingWindow() { Asking().emplace_back(FormWindow::LastActive()); }
+    ~AskingWindow() { Asking().pop_back(); }
+    AskingWindow(const AskingWindow&) = delete;
+    AskingWindow& operator=(const AskingWindow&) = delete;
+};
+
+MessageResponder& Responder()
+{
+    static MessageResponder responder;
+    return responder;
+}
+
+struct ButtonChoice {
+    const char* Name;
+    QMessageBox::ButtonRole Role;
+    int Answer;
+};
+
+QList<ButtonChoice> ButtonsOf(int style)
+{
+    const ButtonChoice okButton{"OK", QMessageBox::AcceptRole, msgbox::answerOk};
+    const ButtonChoice cancelButton{"Cancel", QMessageBox::RejectRole, msgbox::answerCancel};
+    switch (style & 7) {
+    case msgbox::okCancel:
+        return {okButton, cancelButton};
+    case msgbox::yesNo:
+        return {{"Yes", QMessageBox::YesRole, msgbox::answerYes},
+                {"No", QMessageBox::NoRole, msgbox::answerNo}};
+    case msgbox::retryCancel:
+        return {{"Retry", QMessageBox::AcceptRole, msgbox::answerRetry}, cancelButton};
+    default:
+        return {okButton};
+    }
+}
+
+QMessageBox::Icon IconOf(int style)
+{
+    switch (style & 112) {
+    case msgbox::critical:
+        return QMessageBox::Critical;
+    case msgbox::question:
+        return QMessageBox::Question;
+    case msgbox::exclamation:
+        return QMessageBox::Warning;
+    case msgbox::information:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+/// A box below such a window would hold the program up unseen.
+bool IsAnyWindowTopmost()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    });
+}
+
+/// On a display without a window manager nobody else hands the keyboard to a box and back.
+class KeyboardLoan {
+public:
+    explicit KeyboardLoan(QWidget& box) : lender_(QApplication::activeWindow())
+    {
+        QMetaObject::invokeMethod(
+            &box, [&box] { box.activateWindow(); }, Qt::QueuedConnection);
+    }
+    ~KeyboardLoan()
+    {
+        if (lender_ != nullptr && lender_->isVisible())
+            lender_->activateWindow();
+    }
+    KeyboardLoan(const KeyboardLoan&) = delete;
+    KeyboardLoan& operator=(const KeyboardLoan&) = delete;
+
+private:
+    QPointer<QWidget> lender_;
+};
+
+/// Makes the box as wide as its title wants to be shown whole; around a short text it would be narrower. The
+/// desktop draws the title in a font of its own, mostly a bold one, between an icon and buttons.
+void MakeRoomForTitle(QMessageBox& box)
+{
+    constexpr int iconAndButtons = 160; // pixels
+    QFont font = box.font();
+    font.setBold(true);
+    const int width = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + iconAndButtons;
+    auto* rows = static_cast<QGridLayout*>(box.layout());
+    rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), 0, 1, rows->columnCount());
+}
+
+int Ask(const MessageRequest& request)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName(u"MsgBox"_s);
+    box.setAccessibleName(request.Title);
+    box.setWindowTitle(request.Title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(request.Text);
+    box.setIcon(IconOf(request.Style));
+    if ((request.Style & msgbox::systemModal) != 0 || IsAnyWindowTopmost())
+        box.setWindowFlag(Qt::WindowStaysOnTopHint);
+
+    QHash<QAbstractButton*, int> answers;
+    for (const ButtonChoice& choice : ButtonsOf(request.Style)) {
+        QPushButton* button = box.addButton(QString::fromLatin1(choice.Name), choice.Role);
+        button->setObjectName(QString::fromLatin1(choice.Name));
+        if (answers.isEmpty())
+            box.setDefaultButton(button);
+        answers.insert(button, choice.Answer);
+    }
+    MakeRoomForTitle(box);
+    const int onlyAnswer = answers.size() == 1 ? msgbox::answerOk : msgbox::answerCancel;
+    const KeyboardLoan loan(box);
+    box.exec();
+    return answers.value(box.clickedButton(), onlyAnswer);
+}
+
+} // namespace
+
+int MsgBox(const QString& text, int style, const QString& title)
+{
+    const MessageRequest request{text, style, title.isEmpty() ? applicationTitle : title};
+    int answer = 0;
+    {
+        const AskingWindow asking;
+        answer = Responder() ? Responder()(request) : Ask(request);
+    }
+    LeaveIfEnding();
+    return answer;
+}
+
+bool MessageBoxStandsOver(const Form& form)
+{
+    return std::any_of(Asking().begin(), Asking().end(), [&](const QPointer<FormWindow>& window) {
+        return window != nullptr && window->Owner() == &form;
+    });
+}
+
+void SetMessageResponder(MessageResponder responder)
+{
+    Responder() = std::move(responder);
+}
+
+} // namespace torvik

@@ -1,0 +1,35 @@
+#include "ui/media/file_source.h"
+
+#include "runtime/failure.h"
+
+namespace torvik {
+
+std::unique_ptr<ByteSource> FileSource::Open(const std::string& hostPath)
+{
+    try {
+        return std::make_unique<FileSource>(hostPath);
+    } catch (const RunTimeError&) {
+        return nullptr;
+    }
+}
+
+qsizetype FileSource::Read(char* target, qsizetype room)
+{
+    try {
+        return file_.Read(target, room);
+    } catch (const RunTimeError&) {
+        return -1;
+    }
+}
+
+bool FileSource::SeekTo(qint64 place)
+{
+    try {
+        file_.SeekTo(place);
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
+} // namespace torvik

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// Ties the menu entry that opens the help file.
-void BindHelpContents();
-
-} // namespace torvik

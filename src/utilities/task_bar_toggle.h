@@ -1,8 +1,0 @@
-#pragma once
-
-namespace torvik {
-
-/// Ties the menu entry that hides and shows the task bar; its caption is the state of the toggle.
-void BindTaskBarToggle();
-
-} // namespace torvik

@@ -1,0 +1,40 @@
+#include "windows/page_window.h"
+
+using namespace Qt::StringLiterals;
+
+namespace torvik {
+
+namespace {
+
+const QString zoomOutTip =
+    u"Click the left mouse button to view zoom out. Click the Right mouse button to close."_s;
+constexpr int arrowStep = 40; // pixels: some lines of print
+
+FormDesign DesignOfScroll()
+{
+    FormDesign design;
+    design.Name = u"frmScroll"_s;
+    design.Caption = u"The Torvik Vollandry"_s;
+    design.ClientWidth = 9600;
+    design.ClientHeight = 7200;
+    design.Border = FormBorder::None;
+    design.ScaleMode = Scale::Pixels;
+    return design;
+}
+
+} // namespace
+
+frmScrollControls::frmScrollControls() : Form(DesignOfScroll())
+{
+    Image1.SetToolTip(u"Click the left mouse button to zoom in. Click the Right mouse button to close."_s);
+    picParent.SetToolTip(zoomOutTip);
+    picChild.SetToolTip(zoomOutTip);
+    Image1.SetTabStop();
+    picChild.SetTabStop();
+    HScroll1.SetSmallChange(arrowStep);
+    VScroll1.SetSmallChange(arrowStep);
+    SSCommand1.SetPicture(u":/assets/button_close.png"_s, u"Close"_s);
+    SetCancelButton(&SSCommand1);
+}
+
+} // namespace torvik

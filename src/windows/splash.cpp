@@ -1,0 +1,34 @@
+#include "windows/splash.h"
+
+#include "ui/forms/screen.h"
+
+using namespace Qt::StringLiterals;
+
+namespace torvik {
+
+namespace {
+
+FormDesign DesignOfForm2()
+{
+    FormDesign design;
+    design.Name = u"Form2"_s;
+    design.Caption = u"The Torvik Vollandry 2001"_s;
+    design.ClientWidth = 9000;
+    design.ClientHeight = 6540;
+    design.Border = FormBorder::None;
+    return design;
+}
+
+} // namespace
+
+Form2Controls::Form2Controls() : Form(DesignOfForm2())
+{
+    SetLeft((Screen.Width() - Width()) / 2);
+    SetTop((Screen.Height() - Height()) / 2);
+    Adopt(MMControl1);
+    SSPanel1.SetCaptionFont(14, true, look::accent);
+    Image1.Show(Picture::FromResource(u":/assets/splash.png"_s));
+    Picture3.Show(Picture::FromResource(u":/assets/icon.png"_s));
+}
+
+} // namespace torvik

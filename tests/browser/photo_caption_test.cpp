@@ -1,0 +1,123 @@
+#include "browser/next_and_previous_photo.h"
+#include "browser/photo_caption.h"
+#include "platform/paths/program_folder.h"
+#include "program/program_state.h"
+#include "runtime/failure.h"
+#include "support/program.h"
+#include "support/test_class.h"
+#include "windows/main_window.h"
+
+using namespace Qt::StringLiterals;
+using namespace torvik;
+
+/// The caption document of the photo on show.
+class PhotoCaptionTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(u"67"_s, 3);
+        for (const char* letter : {"A", "B", "C"})
+            program_->Disc.AddDocument(u"67%1.rtf"_s.arg(QLatin1String(letter)),
+                                       u"Caption of photo %1"_s.arg(QLatin1String(letter)));
+        program_->StartBrowsing();
+    }
+    void cleanup() { program_.reset(); }
+
+    void the_document_is_named_after_the_photo_in_lower_case()
+    {
+        state.PhotoIndex = 2;
+        LoadPhotoDetails();
+        QCOMPARE(state.DocumentFile, u"g:\\richtext\\67b.rtf"_s);
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo B"_s);
+        QCOMPARE(int(state.PhotoIndex), 2);
+    }
+
+    void the_backward_way_looks_one_photo_on_and_keeps_the_letter_case()
+    {
+        state.PhotoIndex = 2;
+        state.SteppedForward = true;
+        LoadPhotoDetailsBackward();
+        QCOMPARE(state.DocumentFile, u"G:\\RichText\\67C.rtf"_s);
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo C"_s);
+        QCOMPARE(int(state.PhotoIndex), 2);
+        QVERIFY(!state.SteppedForward);
+    }
+
+    void the_pane_stands_on_the_photo()
+    {
+        Form1->rtbDetails.Move(1, 1);
+        state.PhotoIndex = 1;
+        LoadPhotoDetails();
+        QCOMPARE(Form1->rtbDetails.Left(), 616.0 + 97.0 - 329.0 - 10.0);
+        QCOMPARE(Form1->rtbDetails.Top(), 33.0);
+    }
+
+    void each_step_replaces_the_text_while_the_pane_is_open()
+    {
+        Form1->rtbDetails.Show();
+        StepPhotoForward();
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo B"_s);
+        StepPhotoForward();
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo C"_s);
+        StepPhotoBackward();
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Caption of photo B"_s);
+        QVERIFY(Form1->rtbDetails.Visible());
+    }
+
+    void a_step_leaves_a_closed_pane_alone()
+    {
+        StepPhotoForward();
+        QCOMPARE(Form1->rtbDetails.Text(), QString());
+        QVERIFY(!Form1->rtbDetails.Visible());
+    }
+
+    void a_missing_caption_is_reported_by_the_step_data()
+    {
+        QTest::addColumn<bool>("forward");
+        QTest::addColumn<QString>("code");
+        QTest::newRow("forward") << true << u"ER012"_s;
+        QTest::newRow("backward") << false << u"ER011"_s;
+    }
+
+    void a_missing_caption_is_reported_by_the_step()
+    {
+        QFETCH(bool, forward);
+        QFETCH(QString, code);
+        program_->Disc.Remove(u"RichText/67B.rtf"_s);
+        program_->Disc.Remove(u"RichText/67C.rtf"_s);
+        Form1->rtbDetails.Show();
+        if (forward)
+            StepPhotoForward();
+        else
+            StepPhotoBackward();
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code));
+    }
+
+    void photos_beside_the_program_have_their_captions_there_too()
+    {
+        program_->AddToProgramFolder(u"RichText/67a.rtf"_s, "{\\rtf1 Local caption}");
+        state.PhotoFiles(1) = ProgramFolder() + u"\\Torviks\\67A.JPG"_s;
+        state.TorviksPathPos = static_cast<int>(ProgramFolder().size()) + 1;
+        state.PhotoIndex = 1;
+        LoadPhotoDetails();
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), u"Local caption"_s);
+    }
+
+    void a_point_in_the_folder_name_is_taken_for_the_extension()
+    {
+        state.PhotoFiles(1) = u"C:\\v1.0\\Torviks\\67A.JPG"_s;
+        state.TorviksPathPos = 8;
+        state.PhotoIndex = 1;
+        QCOMPARE(ResumeNext(LoadPhotoDetails), 5);
+    }
+
+private:
+    std::unique_ptr<Program> program_;
+};
+
+TORVIK_TEST(PhotoCaptionTest)
+#include "photo_caption_test.moc"

@@ -1,0 +1,147 @@
+#include "program/program_state.h"
+#include "support/movie_visit.h"
+#include "support/test_class.h"
+#include "support/test_movie.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using namespace torvik;
+
+namespace {
+
+const QString question = u"If you are experiencing difficulties running the Torvik movies,\r\n"
+                         "you may need to install the Intel Indeo Video Software.\r\n\r\n"
+                         "Would you like to install this software now?"_s;
+const QString driverReport =
+    u"Error number: ER003\r\n\r\n Unable to load Intel Video driver install software."
+    "\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
+
+} // namespace
+
+/// The offer to install the video driver.
+class VideoDriverOfferTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->Disc.AddFile(u"movies/Torvik67.avi"_s, TestMovie::Avi());
+        program_->StartBrowsing();
+    }
+    void cleanup() { program_.reset(); }
+
+    void the_menu_asks_and_no_changes_nothing()
+    {
+        AddInstaller();
+        program_->Messages.Answer(msgbox::answerNo);
+        AskFromMenu();
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->Messages.Last().Text, question);
+        QCOMPARE(program_->Messages.Last().Style, msgbox::question | msgbox::yesNo);
+        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(int(state.MessageResult), 7);
+        QVERIFY(!Installed());
+        QVERIFY(!frmMovie.IsLoaded());
+    }
+
+    void yes_from_the_menu_runs_the_installer_with_the_main_window_disabled()
+    {
+        AddInstaller();
+        program_->Messages.Answer(msgbox::answerYes);
+        bool enabledMeanwhile = true;
+        program_->Messages.WhenAsked([&] {
+            // Runs in the loop that waits for the installer.
+            QMetaObject::invokeMethod(
+                qApp, [&] { enabledMeanwhile = Form1->Enabled(); }, Qt::QueuedConnection);
+        });
+        AskFromMenu();
+        QVERIFY(Installed());
+        QCOMPARE(int(state.MessageResult), 6);
+        QVERIFY(!enabledMeanwhile);
+        QVERIFY(Form1->Enabled());
+        QVERIFY(!frmMovie.IsLoaded());
+        QCOMPARE(program_->Messages.Count(), 1);
+    }
+
+    void a_missing_installer_is_reported()
+    {
+        program_->Messages.Answer(msgbox::answerYes);
+        AskFromMenu();
+        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->Messages.Last().Text, driverReport);
+        QCOMPARE(program_->Messages.Last().Style, 16);
+        QCOMPARE(state.ErrorCode, u"ER003"_s);
+        QVERIFY(Form1->Enabled());
+    }
+
+    void help_asks_the_same_and_no_leaves_the_player_as_it_was()
+    {
+        QVERIFY(VisitMovies(*program_, [&] {
+            program_->Messages.Answer(msgbox::answerNo);
+            const Form* before = &*frmMovie;
+            program_->Click(frmMovie->SSCommand2);
+            QCOMPARE(program_->Messages.Last().Text, question);
+            QVERIFY(frmMovie->Visible());
+            QCOMPARE(&*frmMovie, before);
+        }));
+    }
+
+    void after_the_installer_the_player_starts_anew()
+    {
+        AddInstaller();
+        bool cameAgain = false;
+        QVERIFY(VisitMovies(*program_, [&] {
+            program_->Click(frmMovie->optMovie(3));
+            program_->Messages.Answer(msgbox::answerYes);
+            const Form* before = &*frmMovie;
+            QTimer again;
+            connect(&again, &QTimer::timeout, this, [&] {
+                if (!frmMovie.IsLoaded() || &*frmMovie == before || !frmMovie->Visible())
+                    return;
+                again.stop();
+                cameAgain = Installed() && frmMovie->optMovie(0).Value() && !Form1->Enabled();
+                frmMovie.Unload();
+            });
+            again.start(0);
+            program_->Click(frmMovie->SSCommand2);
+        }));
+        QVERIFY(cameAgain);
+        QVERIFY(!frmMovie.IsLoaded());
+        QVERIFY(Form1->Enabled());
+    }
+
+    void a_missing_installer_leaves_the_player_open()
+    {
+        QVERIFY(VisitMovies(*program_, [&] {
+            program_->Messages.Answer(msgbox::answerYes);
+            program_->Click(frmMovie->SSCommand2);
+            QCOMPARE(program_->Messages.Count(), 2);
+            QCOMPARE(program_->Messages.Last().Text, driverReport);
+            QVERIFY(frmMovie->Visible());
+        }));
+    }
+
+private:
+    void AskFromMenu()
+    {
+        Form1->mnuVideo.Click.Fire();
+        program_->Settle();
+    }
+
+    void AddInstaller()
+    {
+        const QString file = u"IndeoVideo/iv5play.exe"_s;
+        program_->Disc.AddFile(file, "#!/bin/sh\ntouch \"$(dirname \"$0\")/done\"\n");
+        QVERIFY(QFile::setPermissions(program_->Disc.PathOf(file),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+    bool Installed() const { return QFile::exists(program_->Disc.PathOf(u"IndeoVideo/done"_s)); }
+
+    std::unique_ptr<Program> program_;
+};
+
+TORVIK_TEST(VideoDriverOfferTest)
+#include "video_driver_offer_test.moc"

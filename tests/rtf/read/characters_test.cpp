@@ -1,0 +1,228 @@
+#include "rtf/documents.h"
+#include "support/test_class.h"
+
+using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
+
+class CharactersTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fonts_come_from_the_table_without_their_character_set()
+    {
+        const Reading read = ReadBody("\\f1 sans \\f3 east\\par");
+        QCOMPARE(read.Format("sans").fontFamilies().toStringList(), QStringList{"Arial"});
+        QCOMPARE(read.Format("east").fontFamilies().toStringList(), QStringList{"Arial"});
+        QCOMPARE(read.Format("sans").fontStyleHint(), QFont::SansSerif);
+    }
+
+    void a_font_table_without_groups_and_with_alternatives_is_read()
+    {
+        const Reading read =
+            ReadBytes("{\\rtf1{\\fonttbl\\f0\\fmodern\\fprq1 Courier New;\\f1\\fswiss Helvetica;"
+                      "{\\f2{\\*\\panose 020b}Wide{\\*\\falt Broad};}}\\f1 a\\f0 b\\f2 c\\par}");
+        QCOMPARE(read.Text(), u"abc"_s);
+        QCOMPARE(read.Format("a").fontFamilies().toStringList(), QStringList{"Helvetica"});
+        QVERIFY(read.Format("b").fontFixedPitch());
+        QCOMPARE(read.Format("c").fontFamilies().toStringList(), (QStringList{"Wide", "Broad"}));
+    }
+
+    void sizes_are_half_points_and_twelve_points_unless_said()
+    {
+        const Reading read = ReadBody("usual \\fs17 small\\par");
+        QCOMPARE(read.Format("usual").fontPointSize(), 12.0);
+        QCOMPARE(read.Format("small").fontPointSize(), 8.5);
+    }
+
+    void bold_italic_and_strike_go_on_and_off()
+    {
+        const Reading read =
+            ReadBody("\\b bold\\b0\\i italic\\i0\\strike struck\\strike0 plain{\\b1 group}after\\par");
+        QCOMPARE(read.Format("bold").fontWeight(), int(QFont::Bold));
+        QVERIFY(read.Format("italic").fontItalic());
+        QVERIFY(read.Format("struck").fontStrikeOut());
+        QVERIFY(!read.Format("plain").fontItalic());
+        QCOMPARE(read.Format("group").fontWeight(), int(QFont::Bold));
+        QVERIFY(read.Format("after").fontWeight() != int(QFont::Bold));
+    }
+
+    void underlines_keep_their_kind_data()
+    {
+        QTest::addColumn<QByteArray>("word");
+        QTest::addColumn<int>("style");
+        QTest::newRow("single") << QByteArray("ul") << int(QTextCharFormat::SingleUnderline);
+        QTest::newRow("words") << QByteArray("ulw") << int(QTextCharFormat::SingleUnderline);
+        QTest::newRow("double") << QByteArray("uldb") << int(QTextCharFormat::SingleUnderline);
+        QTest::newRow("dotted") << QByteArray("uld") << int(QTextCharFormat::DotLine);
+        QTest::newRow("dashed") << QByteArray("uldash") << int(QTextCharFormat::DashUnderline);
+        QTest::newRow("dash dot") << QByteArray("uldashd") << int(QTextCharFormat::DashDotLine);
+        QTest::newRow("dash dot dot") << QByteArray("uldashdd") << int(QTextCharFormat::DashDotDotLine);
+        QTest::newRow("wave") << QByteArray("ulwave") << int(QTextCharFormat::WaveUnderline);
+    }
+    void underlines_keep_their_kind()
+    {
+        QFETCH(QByteArray, word);
+        QFETCH(int, style);
+        const Reading read = ReadBody("\\" + word + " under\\ulnone plain\\par");
+        QCOMPARE(int(read.Format("under").underlineStyle()), style);
+        QCOMPARE(read.Format("plain").underlineStyle(), QTextCharFormat::NoUnderline);
+    }
+
+    void an_underline_may_have_a_colour()
+    {
+        QCOMPARE(ReadBody("\\ul\\ulc3 x\\par").Format("x").underlineColor(), QColor(0, 0, 255));
+    }
+
+    void colours_come_from_the_table()
+    {
+        const Reading read =
+            ReadBody("\\cf1 red \\cf0 none \\highlight4 marked \\highlight0\\chcbpat2 backed "
+                     "\\chcbpat0\\chshdng5000 grey\\par");
+        QCOMPARE(read.Format("red").foreground().color(), QColor(255, 0, 0));
+        QCOMPARE(read.Format("none").foreground().style(), Qt::NoBrush);
+        QCOMPARE(read.Format("marked").background().color(), QColor(255, 255, 0));
+        QCOMPARE(read.Format("backed").background().color(), QColor(0, 128, 0));
+        QCOMPARE(read.Format("grey").background().color(), QColor(127, 127, 127));
+    }
+
+    void a_table_that_begins_with_black_blackens_nothing()
+    {
+        const Reading read = ReadBytes(
+            "{\\rtf1\\ansi\\deff0\\deftab720{\\fonttbl{\\f0\\froman Times New Roman;}}"
+            "{\\colortbl\\red0\\green0\\blue0;\\red255\\green255\\blue0;}"
+            "\\pard\\plain\\f0\\fs20 usual \\cf0 black {\\highlight1\\cb1 marked}{\\highlight0\\cb0 "
+            "unmarked}\\ul lined\\ulnone\\par}");
+        QCOMPARE(read.Format("usual").background().style(), Qt::NoBrush);
+        QCOMPARE(read.Format("usual").foreground().style(), Qt::NoBrush);
+        QCOMPARE(read.Format("black").foreground().color(), QColor(0, 0, 0));
+        QCOMPARE(read.Format("marked").background().color(), QColor(255, 255, 0));
+        QCOMPARE(read.Format("unmarked").background().style(), Qt::NoBrush);
+        QVERIFY(!read.Format("lined").underlineColor().isValid());
+        QCOMPARE(read.Block("usual").blockFormat().background().style(), Qt::NoBrush);
+    }
+
+    void text_without_a_chosen_colour_is_not_the_first_of_the_table()
+    {
+        const Reading read =
+            ReadBytes("{\\rtf1{\\colortbl\\red255\\green0\\blue0;}usual \\cf0 red\\plain  again\\par}");
+        QCOMPARE(read.Format("usual").foreground().style(), Qt::NoBrush);
+        QCOMPARE(read.Format("red").foreground().color(), QColor(255, 0, 0));
+        QCOMPARE(read.Format("again").foreground().style(), Qt::NoBrush);
+    }
+
+    void superscript_subscript_and_raised_text()
+    {
+        const Reading read = ReadBody("{\\super up}{\\sub down}{\\up6 high}{\\dn6 low}\\par");
+        QCOMPARE(read.Format("up").verticalAlignment(), QTextCharFormat::AlignSuperScript);
+        QCOMPARE(read.Format("down").verticalAlignment(), QTextCharFormat::AlignSubScript);
+        QVERIFY(read.Format("high").baselineOffset() > 0);
+        QVERIFY(read.Format("low").baselineOffset() < 0);
+    }
+
+    void capitals_spacing_and_width()
+    {
+        const Reading read =
+            ReadBody("{\\caps all}{\\scaps small}{\\expndtw30 wide}{\\charscalex150 broad}\\par");
+        QCOMPARE(read.Format("all").fontCapitalization(), QFont::AllUppercase);
+        QCOMPARE(read.Format("small").fontCapitalization(), QFont::SmallCaps);
+        QCOMPARE(read.Format("wide").fontLetterSpacing(), 2.0);
+        QCOMPARE(read.Format("broad").fontStretch(), 150);
+    }
+
+    void hidden_text_is_not_shown()
+    {
+        QCOMPARE(ReadBody("seen{\\v hidden \\u8364? \\emdash}too\\par").Text(), u"seentoo"_s);
+    }
+
+    void plain_takes_everything_back()
+    {
+        const Reading read = ReadBody("\\b\\i\\fs40\\cf1\\f1 loud\\plain calm\\par");
+        const QTextCharFormat calm = read.Format("calm");
+        QVERIFY(calm.fontWeight() != int(QFont::Bold));
+        QCOMPARE(calm.fontPointSize(), 12.0);
+        QCOMPARE(calm.fontFamilies().toStringList(), QStringList{"Times New Roman"});
+    }
+
+    void bytes_follow_the_page_of_document_and_font()
+    {
+        QCOMPARE(ReadBody("caf\\'e9 {\\f3\\'cf\\'f0\\'e8} {\\f4\\'93\\'fa\\'96{}\\'7b}\\par").Text().left(9),
+                 u"café При "_s);
+        QCOMPARE(ReadBody("{\\f4\\'93\\'fa\\'96\\'7b}\\par").Text(), u"日本"_s);
+        QCOMPARE(ReadBytes("{\\rtf1\\ansi\\ansicpg1251 \\'cf\\'f0\\'e8\\par}").Text(), u"При"_s);
+        QCOMPARE(ReadBytes("{\\rtf1\\mac \\'8e\\par}").Text(), u"é"_s);
+        QCOMPARE(ReadBytes("{\\rtf1\\pc \\'82\\par}").Text(), u"é"_s);
+        QCOMPARE(ReadBytes("{\\rtf1\\pca \\'9b\\par}").Text(), u"ø"_s);
+    }
+
+    void the_second_half_of_a_character_may_be_an_escape()
+    {
+        // The second byte of this character is the backslash itself.
+        QCOMPARE(ReadBody("{\\f4\\'83\\\\}\\par").Text(), u"ソ"_s);
+        QCOMPARE(ReadBody("{\\f4\\'82\\'a0A}\\par").Text(), u"あA"_s);
+    }
+
+    void unicode_takes_the_place_of_its_stand_in()
+    {
+        QCOMPARE(ReadBody("a\\u8364?b\\par").Text(), u"a€b"_s);
+        QCOMPARE(ReadBody("a\\u8364\\'80b\\par").Text(), u"a€b"_s);
+        QCOMPARE(ReadBody("\\uc2 a\\u8364\\'a1\\'a2b\\par").Text(), u"a€b"_s);
+        QCOMPARE(ReadBody("\\uc0 a\\u8364 b\\par").Text(), u"a€b"_s);
+        QCOMPARE(ReadBody("{\\uc0 a\\u8364}b\\u8364?c\\par").Text(), u"a€b€c"_s);
+        QCOMPARE(ReadBody("a\\u-4064?\\par").Text(), u"a\uf020"_s);
+    }
+
+    void a_missing_stand_in_costs_no_paragraph()
+    {
+        QCOMPARE(ReadBody("a\\u8364\\par b\\par").Text(), u"a€\nb"_s);
+    }
+
+    void pairs_of_surrogates_are_one_character()
+    {
+        QCOMPARE(ReadBody("\\u-10179?\\u-8704?\\par").Text(), u"😀"_s);
+        QCOMPARE(ReadBody("\\uc0\\u55357\\u56832 x\\par").Text(), u"😀x"_s);
+        QCOMPARE(ReadBody("\\uc1\\u-10179?\\uc1\\u-8704?\\par").Text(), u"😀"_s);
+        QCOMPARE(ReadBody("a\\u-10179?b\\u-8704?c\\par").Text(), u"a\ufffdb\ufffdc"_s);
+    }
+
+    void symbol_fonts_become_unicode()
+    {
+        const Reading read = ReadBody("{\\f2 abg}{\\f5\\'fc}\\par");
+        QCOMPARE(read.Text(), u"αβγ✓"_s);
+        QVERIFY(read.Format("α").fontFamilies().toStringList().isEmpty());
+    }
+
+    void named_characters_are_shown()
+    {
+        QCOMPARE(ReadBody("\\lquote a\\rquote\\ldblquote b\\rdblquote\\endash\\emdash\\bullet\\par").Text(),
+                 u"‘a’“b”–—•"_s);
+        const Reading read = ReadBody("a\\~b\\-c\\_d\\{e\\}\\\\\\tab f\\line g\\par");
+        QCOMPARE(read.document->firstBlock().text(), u"a\u00a0b\u00adc\u2011d{e}\\\tf\u2028g"_s);
+    }
+
+    void characters_of_the_documents_own_structure_do_no_harm()
+    {
+        const Reading read = ReadBody("a\\u-560?b\\u-559?c\\u-4?d\\u8233?e\\u0?f\\par");
+        QCOMPARE(read.document->blockCount(), 1);
+        QCOMPARE(read.document->firstBlock().text(),
+                 u"a\ufdd0b"_s.left(1) + u"\ufffdb\ufffdc\ufffdd\u2028e\ufffdf"_s);
+    }
+
+    void escaped_line_ends_stay_in_their_paragraph()
+    {
+        const Reading read = ReadBody("a\\'0db\\'0ac\\'00d\\par");
+        QCOMPARE(read.document->blockCount(), 1);
+        QCOMPARE(read.document->firstBlock().text(), u"a\u2028b\u2028c\ufffdd"_s);
+    }
+
+    void runs_that_look_the_same_are_one()
+    {
+        const Reading read = ReadBody("one \\b0 two {\\i0 three}\\lang1033  four\\par");
+        int fragments = 0;
+        for (auto it = read.document->firstBlock().begin(); !it.atEnd(); ++it)
+            ++fragments;
+        QCOMPARE(fragments, 1);
+    }
+};
+
+TORVIK_TEST(CharactersTest)
+#include "characters_test.moc"

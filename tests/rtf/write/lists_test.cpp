@@ -1,0 +1,116 @@
+#include "rtf/documents.h"
+#include "support/test_class.h"
+
+#include <QTextList>
+
+using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
+
+class ListsTest : public QObject {
+    Q_OBJECT
+
+    static QByteArray ListTable(const QByteArray& level)
+    {
+        return "{\\*\\listtable{\\list\\listtemplateid5{\\listlevel" + level +
+               "}{\\listname "
+               ";}\\listid77}}{\\*\\listoverridetable{\\listoverride\\listid77\\listoverridecount0\\ls1}}";
+    }
+
+private Q_SLOTS:
+    void a_bullet_written_as_pntext_becomes_a_list_item()
+    {
+        const Reading read = ReadBody(
+            "\\pard{\\pntext\\f2\\'B7\\tab}{\\*\\pn\\pnlvlblt\\pnf2{\\pntxtb\\'B7}}\\fi-200\\li720 one\\par"
+            "{\\pntext\\f2\\'B7\\tab}two\\par\\pard three\\par");
+        const QTextBlock one = read.Block(u"one"_s);
+        QVERIFY(one.textList() != nullptr);
+        QCOMPARE(one.textList()->format().style(), QTextListFormat::ListDisc);
+        QCOMPARE(one.textList(), read.Block(u"two"_s).textList());
+        QCOMPARE(one.textList()->count(), 2);
+        QCOMPARE(one.text(), u"one"_s);
+        QCOMPARE(one.blockFormat().leftMargin(), 48.0);
+        QCOMPARE(one.blockFormat().textIndent(), 0.0);
+        QVERIFY(read.Block(u"three"_s).textList() == nullptr);
+    }
+
+    void numbers_written_as_pntext_become_a_numbered_list()
+    {
+        const Reading read =
+            ReadBody("{\\pntext\\f0 (i)\\tab}{\\*\\pn\\pnlvlbody\\pnlcrm{\\pntxtb (}{\\pntxta )}}one\\par"
+                     "{\\pntext\\f0 (ii)\\tab}two\\par");
+        const QTextList* list = read.Block(u"two"_s).textList();
+        QVERIFY(list != nullptr);
+        QCOMPARE(list->count(), 2);
+        QCOMPARE(list->format().style(), QTextListFormat::ListLowerRoman);
+        QCOMPARE(list->itemText(read.Block(u"two"_s)), u"(ii)"_s);
+    }
+
+    void numbering_without_written_marks_counts_itself()
+    {
+        const Reading read =
+            ReadBody("{\\*\\pn\\pnlvlbody\\pnucltr\\pnstart1{\\pntxta )}}one\\par two\\par\\pard none\\par");
+        const QTextList* list = read.Block(u"two"_s).textList();
+        QVERIFY(list != nullptr);
+        QCOMPARE(list->itemText(read.Block(u"two"_s)), u"B)"_s);
+        QVERIFY(read.Block(u"none"_s).textList() == nullptr);
+    }
+
+    void numbers_that_no_list_can_show_stay_text()
+    {
+        const Reading read = ReadBody("{\\pntext 5.\\tab}five\\par{\\pntext 1.2\\tab}nested\\par");
+        QCOMPARE(read.Text(), u"5.\tfive\n1.2\tnested"_s);
+        QVERIFY(read.Block(u"five"_s).textList() == nullptr);
+    }
+
+    void list_tables_say_what_listtext_means()
+    {
+        const Reading read =
+            ReadBody(ListTable("\\levelnfc4\\levelstartat1{\\leveltext\\'02\\'00);}{\\levelnumbers\\'01;}") +
+                     "{\\listtext\\pard\\plain\\f0 a)\\tab}\\pard\\fi-360\\li720\\ls1\\ilvl0 one\\par"
+                     "{\\listtext\\pard\\plain\\f0 b)\\tab}two\\par");
+        const QTextList* list = read.Block(u"one"_s).textList();
+        QVERIFY(list != nullptr);
+        QCOMPARE(list->format().style(), QTextListFormat::ListLowerAlpha);
+        QCOMPARE(list->count(), 2);
+    }
+
+    void lists_without_listtext_are_counted_from_the_table()
+    {
+        const Reading read =
+            ReadBody(ListTable("\\levelnfc0\\levelstartat1{\\leveltext\\'02\\'00.;}{\\levelnumbers\\'01;}") +
+                     "\\pard\\ls1 one\\par\\pard plain\\par\\pard\\ls1 two\\par");
+        const QTextBlock two = read.Block(u"two"_s);
+        QVERIFY(two.textList() != nullptr);
+        QCOMPARE(two.textList()->itemText(two), u"2."_s);
+    }
+
+    void bullets_of_list_tables_in_symbol_fonts()
+    {
+        const Reading read = ReadBody(
+            ListTable("\\levelnfc23{\\leveltext\\'01\\u-3913 ?;}{\\levelnumbers;}\\f2\\fi-360\\li720") +
+            "\\pard\\ls1 one\\par");
+        QVERIFY(read.Block(u"one"_s).textList() != nullptr);
+        QCOMPARE(read.Block(u"one"_s).textList()->format().style(), QTextListFormat::ListDisc);
+        QCOMPARE(read.Format("one").fontFamilies().toStringList(), QStringList{"Times New Roman"});
+    }
+
+    void levels_are_lists_of_their_own()
+    {
+        const Reading read = ReadBody(
+            "\\pard\\ls3\\ilvl0{\\listtext 1.\\tab}a\\par\\pard\\ls3\\ilvl1{\\listtext 1.\\tab}b\\par"
+            "\\pard\\ls3\\ilvl0{\\listtext 2.\\tab}c\\par");
+        QCOMPARE(read.Block(u"a"_s).textList(), read.Block(u"c"_s).textList());
+        QVERIFY(read.Block(u"b"_s).textList() != read.Block(u"a"_s).textList());
+    }
+
+    void a_list_that_starts_again_is_another_one()
+    {
+        const Reading read =
+            ReadBody("{\\pntext 1.\\tab}a\\par{\\pntext 2.\\tab}b\\par{\\pntext 1.\\tab}c\\par");
+        QVERIFY(read.Block(u"a"_s).textList() != read.Block(u"c"_s).textList());
+        QCOMPARE(read.Block(u"c"_s).textList()->count(), 1);
+    }
+};
+
+TORVIK_TEST(ListsTest)
+#include "lists_test.moc"

@@ -1,0 +1,193 @@
+#include "rtf/documents.h"
+#include "support/test_class.h"
+
+#include <QTextFrame>
+#include <QTextLayout>
+#include <QTextTable>
+
+using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
+
+class ParagraphsTest : public QObject {
+    Q_OBJECT
+
+    static QTextBlockFormat FormatOf(const QByteArray& words)
+    {
+        return ReadBody("\\pard" + words + " text\\par").Block(u"text"_s).blockFormat();
+    }
+
+private Q_SLOTS:
+    void alignment()
+    {
+        QVERIFY((FormatOf("\\qc").alignment() & Qt::AlignHCenter) != 0);
+        QVERIFY((FormatOf("\\qr").alignment() & Qt::AlignRight) != 0);
+        QVERIFY((FormatOf("\\qj").alignment() & Qt::AlignJustify) != 0);
+        QVERIFY((FormatOf("").alignment() & Qt::AlignLeft) != 0);
+    }
+
+    void fifteen_twips_are_a_pixel()
+    {
+        const QTextBlockFormat format = FormatOf("\\li720\\ri360\\fi-300\\sb240\\sa120");
+        QCOMPARE(format.leftMargin(), 48.0);
+        QCOMPARE(format.rightMargin(), 24.0);
+        QCOMPARE(format.textIndent(), -20.0);
+        QCOMPARE(format.topMargin(), 16.0);
+        QCOMPARE(format.bottomMargin(), 8.0);
+    }
+
+    void lengths_out_of_bounds_are_brought_in()
+    {
+        QCOMPARE(FormatOf("\\li999999999").leftMargin(), 2112.0);
+        QCOMPARE(FormatOf("\\sb-500").topMargin(), 0.0);
+    }
+
+    void a_paragraph_keeps_its_format_until_pard()
+    {
+        const Reading read = ReadBody("\\qc one\\par two\\par\\pard three\\par");
+        QVERIFY((read.Block(u"two"_s).blockFormat().alignment() & Qt::AlignHCenter) != 0);
+        QVERIFY((read.Block(u"three"_s).blockFormat().alignment() & Qt::AlignHCenter) == 0);
+    }
+
+    void line_spacing()
+    {
+        QCOMPARE(FormatOf("\\sl360\\slmult1").lineHeight(), 150.0);
+        QCOMPARE(FormatOf("\\sl360\\slmult1").lineHeightType(), int(QTextBlockFormat::ProportionalHeight));
+        QCOMPARE(FormatOf("\\sl300").lineHeight(), 20.0);
+        QCOMPARE(FormatOf("\\sl300").lineHeightType(), int(QTextBlockFormat::MinimumHeight));
+        QCOMPARE(FormatOf("\\sl-300").lineHeightType(), int(QTextBlockFormat::FixedHeight));
+        QCOMPARE(FormatOf("\\sl240\\slmult1").lineHeightType(), int(QTextBlockFormat::SingleHeight));
+    }
+
+    void tabs_of_all_kinds()
+    {
+        const QList<QTextOption::Tab> tabs =
+            FormatOf("\\tx720\\tqr\\tldot\\tx1440\\tqc\\tx2160\\tqdec\\tx2880").tabPositions();
+        QCOMPARE(tabs.size(), 4);
+        QCOMPARE(tabs.at(0), QTextOption::Tab(48, QTextOption::LeftTab, u'.'));
+        QCOMPARE(tabs.at(1), QTextOption::Tab(96, QTextOption::RightTab, u'.'));
+        QCOMPARE(tabs.at(2), QTextOption::Tab(144, QTextOption::CenterTab, u'.'));
+        QCOMPARE(tabs.at(3), QTextOption::Tab(192, QTextOption::DelimiterTab, u'.'));
+    }
+
+    void tabs_count_from_the_margin_and_not_from_the_indent()
+    {
+        // The layout counts from the start of the line, which is 24 pixels in.
+        QCOMPARE(FormatOf("\\li720\\fi-360\\tx1440").tabPositions().at(1).position, 72.0);
+        // The hanging indent itself is a stop.
+        QCOMPARE(FormatOf("\\li720\\fi-360\\tx1440").tabPositions().at(0).position, 24.0);
+    }
+
+    void default_tabs_are_those_of_the_document()
+    {
+        QCOMPARE(ReadBody("\\deftab1440 x\\par").document->defaultTextOption().tabStopDistance(), 96.0);
+        QCOMPARE(ReadBody("x\\par").document->defaultTextOption().tabStopDistance(), 48.0);
+    }
+
+    void shading_and_background()
+    {
+        QCOMPARE(FormatOf("\\cbpat4").background().color(), QColor(255, 255, 0));
+        QCOMPARE(FormatOf("\\shading2500").background().color(), QColor(191, 191, 191));
+    }
+
+    void keeping_together_and_page_breaks()
+    {
+        QVERIFY(FormatOf("\\keep").property(keepTogetherProperty).toBool());
+        QVERIFY(!FormatOf("\\keep\\keep0").property(keepTogetherProperty).toBool());
+        QCOMPARE(FormatOf("\\pagebb").pageBreakPolicy(), QTextFormat::PageBreak_AlwaysBefore);
+        const Reading read = ReadBody("one\\par\\page two\\par three\\par");
+        QCOMPARE(read.Block(u"two"_s).blockFormat().pageBreakPolicy(), QTextFormat::PageBreak_AlwaysBefore);
+        QCOMPARE(read.Block(u"three"_s).blockFormat().pageBreakPolicy(), QTextFormat::PageBreak_Auto);
+    }
+
+    void a_paragraph_that_is_kept_together_is_wrapped_all_the_same()
+    {
+        const Reading read = ReadBody("\\pard\\keep " + QByteArray("some words ").repeated(60) + "\\par");
+        read.document->setTextWidth(400);
+        QVERIFY(read.document->size().width() <= 400);
+        QVERIFY(read.document->firstBlock().layout()->lineCount() > 5);
+    }
+
+    void a_page_break_inside_a_paragraph_ends_it()
+    {
+        const Reading read = ReadBody("one\\page two\\par");
+        QCOMPARE(read.Text(), u"one\ntwo"_s);
+        QCOMPARE(read.document->lastBlock().blockFormat().pageBreakPolicy(),
+                 QTextFormat::PageBreak_AlwaysBefore);
+    }
+
+    void a_section_breaks_the_page_unless_it_goes_on()
+    {
+        QCOMPARE(ReadBody("a\\par\\sect\\sectd b\\par").document->lastBlock().blockFormat().pageBreakPolicy(),
+                 QTextFormat::PageBreak_AlwaysBefore);
+        QCOMPARE(ReadBody("a\\par\\sect\\sectd\\sbknone b\\par")
+                     .document->lastBlock()
+                     .blockFormat()
+                     .pageBreakPolicy(),
+                 QTextFormat::PageBreak_Auto);
+    }
+
+    void a_box_is_a_frame_with_a_border()
+    {
+        const Reading read =
+            ReadBody("before\\par\\pard\\box\\brdrs\\brdrw30\\brdrcf1 one\\par two\\par\\pard after\\par");
+        const auto frames = read.document->rootFrame()->childFrames();
+        QCOMPARE(frames.size(), 1);
+        const QTextFrameFormat format = frames.first()->frameFormat();
+        QCOMPARE(format.border(), 2.0);
+        QCOMPARE(format.borderBrush().color(), QColor(255, 0, 0));
+        QCOMPARE(format.borderStyle(), QTextFrameFormat::BorderStyle_Solid);
+        QCOMPARE(read.document->rootFrame()->childFrames().first()->firstCursorPosition().block().text(),
+                 u"one"_s);
+        QCOMPARE(read.Text(), u"before\none\ntwo\nafter"_s);
+    }
+
+    void four_single_borders_are_a_box_too()
+    {
+        const Reading read =
+            ReadBody("\\brdrt\\brdrdb\\brdrl\\brdrdb\\brdrb\\brdrdb\\brdrr\\brdrdb boxed\\par");
+        QCOMPARE(read.document->rootFrame()->childFrames().first()->frameFormat().borderStyle(),
+                 QTextFrameFormat::BorderStyle_Double);
+    }
+
+    void a_border_below_is_drawn_below_the_text()
+    {
+        const Reading read = ReadBody("\\pard\\brdrb\\brdrdash\\brdrw15 Heading\\par\\pard text\\par");
+        auto* cell = qobject_cast<QTextTable*>(read.document->rootFrame()->childFrames().value(0));
+        QVERIFY(cell != nullptr);
+        const QTextTableCellFormat format = cell->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(format.bottomBorder(), 1.0);
+        QCOMPARE(format.bottomBorderStyle(), QTextFrameFormat::BorderStyle_Dashed);
+        QCOMPARE(format.topBorder(), 0.0);
+        QCOMPARE(read.result.tables, 0);
+    }
+
+    void a_border_of_an_empty_paragraph_is_a_rule()
+    {
+        const Reading read = ReadBody("a\\par\\pard\\brdrb\\brdrs\\brdrw10\\par\\pard b\\par");
+        QVERIFY(read.document->firstBlock().next().blockFormat().hasProperty(
+            QTextFormat::BlockTrailingHorizontalRulerWidth));
+        QVERIFY(read.document->rootFrame()->childFrames().isEmpty());
+    }
+
+    void text_without_an_end_of_paragraph_is_one_all_the_same()
+    {
+        QCOMPARE(ReadBody("one\\par two").Text(), u"one\ntwo"_s);
+        QCOMPARE(ReadBody("one\\par two\\par").document->blockCount(), 2);
+    }
+
+    void empty_paragraphs_have_the_height_of_their_font()
+    {
+        const Reading read = ReadBody("a\\par\\fs48\\par\\fs20 b\\par");
+        QCOMPARE(read.document->blockCount(), 3);
+        QCOMPARE(read.document->firstBlock().next().charFormat().fontPointSize(), 24.0);
+    }
+
+    void text_from_right_to_left()
+    {
+        QCOMPARE(FormatOf("\\rtlpar").layoutDirection(), Qt::RightToLeft);
+        QVERIFY((FormatOf("\\rtlpar").alignment() & Qt::AlignRight) != 0);
+    }
+};
+
+TORVIK_TEST(ParagraphsTest)
+#include "paragraphs_test.moc"

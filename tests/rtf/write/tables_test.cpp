@@ -1,0 +1,203 @@
+#include "rtf/documents.h"
+#include "support/test_class.h"
+
+#include <QTextTable>
+
+using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
+
+class TablesTest : public QObject {
+    Q_OBJECT
+
+    static QTextTable* TableOf(const Reading& read, int number = 0)
+    {
+        QList<QTextTable*> tables;
+        for (QTextFrame* frame : read.document->rootFrame()->childFrames()) {
+            if (auto* table = qobject_cast<QTextTable*>(frame))
+                tables.append(table);
+        }
+        return tables.value(number);
+    }
+    static QString CellText(const QTextTable* table, int row, int column)
+    {
+        const QTextTableCell cell = table->cellAt(row, column);
+        QTextCursor cursor = cell.firstCursorPosition();
+        cursor.setPosition(cell.lastCursorPosition().position(), QTextCursor::KeepAnchor);
+        return cursor.selectedText().replace(QChar(QChar::ParagraphSeparator), u'/');
+    }
+
+private Q_SLOTS:
+    void rows_and_cells_become_a_table()
+    {
+        const Reading read =
+            ReadBody("before\\par\\trowd\\cellx1500\\cellx4500\\pard\\intbl a\\cell b\\par c\\cell\\row"
+                     "\\trowd\\cellx1500\\cellx4500\\pard\\intbl d\\cell e\\cell\\row\\pard after\\par");
+        const QTextTable* table = TableOf(read);
+        QVERIFY(table != nullptr);
+        QCOMPARE(table->rows(), 2);
+        QCOMPARE(table->columns(), 2);
+        QCOMPARE(CellText(table, 0, 0), u"a"_s);
+        QCOMPARE(CellText(table, 0, 1), u"b/c"_s);
+        QCOMPARE(CellText(table, 1, 1), u"e"_s);
+        QCOMPARE(table->format().columnWidthConstraints().at(0).rawValue(), 100.0);
+        QCOMPARE(table->format().columnWidthConstraints().at(1).rawValue(), 200.0);
+        QCOMPARE(read.document->lastBlock().text(), u"after"_s);
+        QCOMPARE(read.result.tables, 1);
+    }
+
+    void the_row_may_be_defined_after_its_cells()
+    {
+        const Reading read =
+            ReadBody("\\pard\\intbl a\\cell b\\cell\\trowd\\cellx1500\\cellx3000\\row\\pard x\\par");
+        QCOMPARE(TableOf(read)->columns(), 2);
+        QCOMPARE(CellText(TableOf(read), 0, 1), u"b"_s);
+    }
+
+    void a_definition_holds_for_the_rows_that_follow()
+    {
+        const Reading read = ReadBody(
+            "\\trowd\\cellx1500\\cellx3000\\intbl a\\cell b\\cell\\row c\\cell d\\cell\\row\\pard x\\par");
+        QCOMPARE(TableOf(read)->rows(), 2);
+        QCOMPARE(CellText(TableOf(read), 1, 0), u"c"_s);
+    }
+
+    void rows_with_other_edges_span_the_common_columns()
+    {
+        const Reading read =
+            ReadBody("\\trowd\\cellx1000\\cellx2000\\cellx3000\\intbl a\\cell b\\cell c\\cell\\row"
+                     "\\trowd\\cellx2000\\cellx3000\\intbl wide\\cell d\\cell\\row\\pard x\\par");
+        const QTextTable* table = TableOf(read);
+        QCOMPARE(table->columns(), 3);
+        QCOMPARE(table->cellAt(1, 0).columnSpan(), 2);
+        QCOMPARE(CellText(table, 1, 2), u"d"_s);
+    }
+
+    void cells_merged_across()
+    {
+        const Reading read = ReadBody(
+            "\\trowd\\clmgf\\cellx1000\\clmrg\\cellx2000\\cellx3000\\intbl wide\\cell\\cell c\\cell\\row"
+            "\\trowd\\cellx1000\\cellx2000\\cellx3000\\intbl d\\cell e\\cell f\\cell\\row\\pard x\\par");
+        const QTextTable* table = TableOf(read);
+        QCOMPARE(table->cellAt(0, 0).columnSpan(), 2);
+        QCOMPARE(CellText(table, 0, 0), u"wide"_s);
+        QCOMPARE(CellText(table, 0, 2), u"c"_s);
+    }
+
+    void cells_merged_down()
+    {
+        const Reading read =
+            ReadBody("\\trowd\\clvmgf\\cellx1000\\cellx2000\\intbl tall\\cell b\\cell\\row"
+                     "\\trowd\\clvmrg\\cellx1000\\cellx2000\\intbl\\cell d\\cell\\row"
+                     "\\trowd\\clvmrg\\cellx1000\\cellx2000\\intbl\\cell f\\cell\\row\\pard x\\par");
+        const QTextTable* table = TableOf(read);
+        QCOMPARE(table->cellAt(0, 0).rowSpan(), 3);
+        QCOMPARE(CellText(table, 2, 0), u"tall"_s);
+        QCOMPARE(CellText(table, 2, 1), u"f"_s);
+    }
+
+    void borders_shading_and_alignment_of_cells()
+    {
+        const Reading read = ReadBody(
+            "\\trowd\\trgaph150\\clvertalc\\clbrdrt\\brdrs\\brdrw30\\brdrcf1\\clbrdrb\\brdrdb\\brdrw15"
+            "\\clcbpat4\\cellx2000\\clshdng5000\\cellx4000\\intbl a\\cell b\\cell\\row\\pard x\\par");
+        const QTextTableCellFormat first = TableOf(read)->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(first.topBorder(), 2.0);
+        QCOMPARE(first.topBorderBrush().color(), QColor(255, 0, 0));
+        QCOMPARE(first.bottomBorderStyle(), QTextFrameFormat::BorderStyle_Double);
+        QCOMPARE(first.leftBorder(), 0.0);
+        QCOMPARE(first.background().color(), QColor(255, 255, 0));
+        QCOMPARE(first.verticalAlignment(), QTextCharFormat::AlignMiddle);
+        QCOMPARE(first.leftPadding(), 10.0);
+        QCOMPARE(TableOf(read)->cellAt(0, 1).format().background().color(), QColor(127, 127, 127));
+    }
+
+    void borders_of_the_row_hold_where_cells_have_none()
+    {
+        const Reading read = ReadBody("\\trowd\\trbrdrt\\brdrs\\brdrw15\\trbrdrv\\brdrs\\brdrw45\\cellx2000\\"
+                                      "cellx4000\\intbl a\\cell b\\cell\\row\\pard x\\par");
+        const QTextTableCellFormat first = TableOf(read)->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(first.topBorder(), 1.0);
+        QCOMPARE(first.rightBorder(), 3.0);
+        QCOMPARE(first.leftBorder(), 0.0);
+    }
+
+    void a_colour_table_that_begins_with_black_blackens_no_cell()
+    {
+        const Reading read =
+            ReadBytes("{\\rtf1{\\colortbl\\red0\\green0\\blue0;}\\trowd\\cellx1000\\cellx2000"
+                      "\\intbl a\\cell b\\cell\\row\\pard\\par}");
+        const QTextTable* table = TableOf(read);
+        QVERIFY(table != nullptr);
+        QCOMPARE(table->cellAt(0, 0).format().background().style(), Qt::NoBrush);
+    }
+
+    void place_and_header_of_the_table()
+    {
+        const Reading read = ReadBody(
+            "\\trowd\\trhdr\\trqc\\cellx2000\\intbl h\\cell\\row\\trowd\\trqc\\cellx2000\\intbl a\\cell\\row"
+            "\\pard between\\par\\trowd\\trleft750\\cellx2000\\intbl b\\cell\\row\\pard x\\par");
+        QCOMPARE(TableOf(read)->format().headerRowCount(), 1);
+        QVERIFY((TableOf(read)->format().alignment() & Qt::AlignHCenter) != 0);
+        QCOMPARE(TableOf(read, 1)->format().leftMargin(), 50.0);
+    }
+
+    void tables_within_tables()
+    {
+        const Reading read = ReadBody(
+            "\\trowd\\cellx6000\\pard\\intbl outer\\par\\pard\\intbl\\itap2 in1\\nestcell in2\\nestcell"
+            "{\\*\\nesttableprops\\trowd\\cellx1500\\cellx3000\\nestrow}{\\nonesttables\\par}"
+            "\\pard\\intbl\\itap1 below\\cell\\row\\pard x\\par");
+        QTextTable* outer = TableOf(read);
+        QCOMPARE(outer->columns(), 1);
+        auto* inner = qobject_cast<QTextTable*>(outer->childFrames().value(0));
+        QVERIFY(inner != nullptr);
+        QCOMPARE(inner->columns(), 2);
+        QCOMPARE(CellText(inner, 0, 1), u"in2"_s);
+        QCOMPARE(inner->format().columnWidthConstraints().at(0).rawValue(), 100.0);
+        QVERIFY(read.Text().contains(u"below"_s));
+    }
+
+    void lists_and_formats_inside_cells()
+    {
+        const Reading read = ReadBody("\\trowd\\cellx4000\\intbl{\\pntext\\f2\\'b7\\tab}one\\par{"
+                                      "\\pntext\\f2\\'b7\\tab}\\b two\\b0\\cell\\row\\pard x\\par");
+        QVERIFY(read.Block(u"two"_s).textList() != nullptr);
+        QCOMPARE(read.Format("two").fontWeight(), int(QFont::Bold));
+    }
+
+    void more_cells_than_edges_and_fewer()
+    {
+        const Reading read =
+            ReadBody("\\trowd\\cellx1000\\intbl a\\cell b\\cell c\\cell\\row\\pard between\\par"
+                     "\\trowd\\cellx1000\\cellx2000\\cellx3000\\intbl d\\cell\\row\\pard x\\par");
+        QCOMPARE(CellText(TableOf(read), 0, 2), u"c"_s);
+        QCOMPARE(TableOf(read, 1)->columns(), 3);
+    }
+
+    void edges_that_run_backwards_lose_no_text()
+    {
+        const Reading read = ReadBody(
+            "\\trowd\\cellx3000\\cellx-500\\cellx100\\intbl a\\cell b\\cell c\\cell\\row\\pard x\\par");
+        for (const char* text : {"a", "b", "c", "x"})
+            QVERIFY(read.Text().contains(QLatin1StringView(text)));
+    }
+
+    void a_row_without_an_end_is_shown()
+    {
+        const Reading read = ReadBody("\\trowd\\cellx1000\\cellx2000\\intbl a\\cell b");
+        QCOMPARE(CellText(TableOf(read), 0, 1), u"b"_s);
+    }
+
+    void a_long_table_is_continued_below()
+    {
+        QByteArray rows;
+        for (int i = 0; i < 3000; ++i)
+            rows += "\\trowd\\cellx1000\\cellx2000\\intbl r" + QByteArray::number(i) + "\\cell b\\cell\\row";
+        const Reading read = ReadBody(rows + "\\pard x\\par");
+        QCOMPARE(read.result.tables, 2);
+        QVERIFY(read.Text().contains(u"r2999"_s));
+    }
+};
+
+TORVIK_TEST(TablesTest)
+#include "tables_test.moc"

@@ -1,0 +1,173 @@
+#include "runtime/failure.h"
+#include "support/test_class.h"
+
+#include <vector>
+
+using namespace Qt::StringLiterals;
+using namespace torvik;
+
+class FailureTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_number_has_the_text_of_the_platform_data()
+    {
+        QTest::addColumn<int>("number");
+        QTest::addColumn<QString>("text");
+        const std::vector<std::pair<int, const char*>> rows{
+            {3, "Return without GoSub"},
+            {5, "Invalid procedure call or argument"},
+            {6, "Overflow"},
+            {7, "Out of memory"},
+            {9, "Subscript out of range"},
+            {11, "Division by zero"},
+            {13, "Type mismatch"},
+            {28, "Out of stack space"},
+            {35, "Sub or Function not defined"},
+            {48, "Error in loading DLL"},
+            {51, "Internal error"},
+            {52, "Bad file name or number"},
+            {53, "File not found"},
+            {54, "Bad file mode"},
+            {55, "File already open"},
+            {57, "Device I/O error"},
+            {58, "File already exists"},
+            {61, "Disk full"},
+            {62, "Input past end of file"},
+            {63, "Bad record number"},
+            {67, "Too many files"},
+            {68, "Device unavailable"},
+            {70, "Permission denied"},
+            {71, "Disk not ready"},
+            {74, "Can't rename with different drive"},
+            {75, "Path/File access error"},
+            {76, "Path not found"},
+            {91, "Object variable or With block variable not set"},
+            {93, "Invalid pattern string"},
+            {94, "Invalid use of Null"},
+            {321, "Invalid file format"},
+            {380, "Invalid property value"},
+            {424, "Object required"},
+            {429, "ActiveX component can't create object or return reference to this object"},
+            {438, "Object doesn't support this property or method"},
+            {440, "Automation error"},
+            {461, "Specified format doesn't match format of data"},
+            {481, "Invalid picture"},
+            {482, "Printer error"},
+            {483, "Printer driver does not support specified property"},
+        };
+        for (const auto& [number, text] : rows)
+            QTest::addRow("%d", number) << number << QString::fromLatin1(text);
+    }
+    void a_number_has_the_text_of_the_platform()
+    {
+        QFETCH(int, number);
+        QFETCH(QString, text);
+        QCOMPARE(RunTimeErrorText(number), text);
+        QCOMPARE(RunTimeError(number).Text(), text);
+    }
+
+    void a_number_that_is_not_known_has_the_general_text()
+    {
+        for (const int number : {0, 1, 4, 8, 77, 1000, 32767, 65536, -1})
+            QCOMPARE(RunTimeErrorText(number), u"Application-defined or object-defined error"_s);
+    }
+
+    void fail_throws_its_number()
+    {
+        int number = 0;
+        try {
+            Fail(failure::diskFull);
+        } catch (const RunTimeError& error) {
+            number = error.Number();
+        }
+        QCOMPARE(number, 61);
+    }
+
+    void a_failure_is_an_exception_of_the_language() { QVERIFY_EXCEPTION_THROWN(Fail(5), std::exception); }
+
+    void no_number_is_pending_outside_of_a_handler() { QCOMPARE(PendingErrorNumber(), 0); }
+
+    void the_number_is_pending_while_the_handler_runs()
+    {
+        int seen = 0;
+        const bool wentThrough = OnError([] { Fail(53); }, [&] { seen = PendingErrorNumber(); });
+        QVERIFY(!wentThrough);
+        QCOMPARE(seen, 53);
+        QCOMPARE(PendingErrorNumber(), 0);
+    }
+
+    void the_handler_does_not_run_without_a_failure()
+    {
+        bool handled = false;
+        QVERIFY(OnError([] {}, [&] { handled = true; }));
+        QVERIFY(!handled);
+    }
+
+    void nested_handlers_give_the_outer_number_back()
+    {
+        std::vector<int> seen;
+        OnError([] { Fail(53); },
+                [&] {
+                    OnError([] { Fail(76); }, [&] { seen.push_back(PendingErrorNumber()); });
+                    seen.push_back(PendingErrorNumber());
+                });
+        QCOMPARE(seen, (std::vector<int>{76, 53}));
+    }
+
+    void a_failure_in_the_handler_goes_on_to_the_caller()
+    {
+        int number = 0;
+        try {
+            OnError([] { Fail(53); }, [] { Fail(6); });
+        } catch (const RunTimeError& error) {
+            number = error.Number();
+        }
+        QCOMPARE(number, 6);
+        QCOMPARE(PendingErrorNumber(), 0);
+    }
+
+    void other_exceptions_pass_the_trap()
+    {
+        QVERIFY_EXCEPTION_THROWN(OnError([] { throw 1; }, [] {}), int);
+        QVERIFY_EXCEPTION_THROWN(ResumeNext([] { throw 1; }), int);
+    }
+
+    void resume_next_tells_the_number_and_goes_on()
+    {
+        QCOMPARE(ResumeNext([] { Fail(75); }), 75);
+        QCOMPARE(ResumeNext([] {}), 0);
+        QCOMPARE(PendingErrorNumber(), 0);
+    }
+
+    void retry_runs_the_statement_until_it_goes_through()
+    {
+        int runs = 0;
+        std::vector<int> seen;
+        RetryOnError(
+            [&] {
+                if (++runs < 4)
+                    Fail(70 + runs);
+            },
+            [&] { seen.push_back(PendingErrorNumber()); });
+        QCOMPARE(runs, 4);
+        QCOMPARE(seen, (std::vector<int>{71, 72, 73}));
+    }
+
+    void the_handler_of_a_retry_leaves_by_throwing()
+    {
+        int runs = 0;
+        QVERIFY_EXCEPTION_THROWN(RetryOnError(
+                                     [&] {
+                                         ++runs;
+                                         Fail(5);
+                                     },
+                                     [] { throw 1; }),
+                                 int);
+        QCOMPARE(runs, 1);
+        QCOMPARE(PendingErrorNumber(), 0);
+    }
+};
+
+TORVIK_TEST(FailureTest)
+#include "failure_test.moc"

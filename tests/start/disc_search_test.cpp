@@ -1,0 +1,164 @@
+#include "platform/paths/drives.h"
+#include "platform/paths/program_folder.h"
+#include "platform/system/settings_store.h"
+#include "program/program_state.h"
+#include "support/program.h"
+#include "support/test_class.h"
+#include "ui/forms/clock.h"
+#include "ui/forms/program_end.h"
+#include "ui/forms/program_title.h"
+#include "windows/main_window.h"
+#include "windows/splash.h"
+
+using namespace Qt::StringLiterals;
+using namespace torvik;
+
+/// Where the disc and the photos are looked for.
+class DiscSearchTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { program_ = std::make_unique<Program>(); }
+    void cleanup() { program_.reset(); }
+
+    void the_disc_is_found_in_any_drive_from_D_to_Z_data()
+    {
+        QTest::addColumn<QChar>("letter");
+        for (char letter = 'D'; letter <= 'Z'; ++letter)
+            QTest::newRow(std::string(1, letter).c_str()) << QChar(QLatin1Char(letter));
+    }
+
+    void the_disc_is_found_in_any_drive_from_D_to_Z()
+    {
+        QFETCH(QChar, letter);
+        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->PutDiscIn(letter);
+        program_->Start();
+        QCOMPARE(state.DiscRoot, QString(letter) + u":"_s);
+        QCOMPARE(state.DriveLetters, u"DEFGHIJKLMNOPQRSTUVWXYZ"_s);
+    }
+
+    void the_earlier_letter_wins()
+    {
+        TestDisc other;
+        other.AddGroup(u"70"_s, 1);
+        program_->Disc.AddGroup(u"67"_s, 1);
+        SetDriveOptions({{u'R', other.Folder()}, {u'K', program_->Disc.Folder()}});
+        program_->Start();
+        QCOMPARE(state.DiscRoot, u"K:"_s);
+    }
+
+    void a_drive_without_photos_is_passed_over()
+    {
+        TestDisc other;
+        other.AddFile(u"Torviks/readme.txt"_s, "no photo");
+        program_->Disc.AddGroup(u"67"_s, 1);
+        SetDriveOptions(
+            {{u'D', other.Folder()}, {u'E', u"/nowhere/at/all"_s}, {u'F', program_->Disc.Folder()}});
+        program_->Start();
+        QCOMPARE(state.DiscRoot, u"F:"_s);
+        QVERIFY(program_->Messages.Shown().isEmpty());
+    }
+
+    void photos_beside_the_program_are_read_there_and_the_rest_from_the_disc()
+    {
+        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->AddToProgramFolder(u"Torviks/68A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
+        program_->Start();
+        QCOMPARE(state.PhotoRoot, ProgramFolder());
+        QCOMPARE(state.DiscRoot, u"G:"_s);
+        QCOMPARE(state.PhotoFiles(1), ProgramFolder() + u"\\Torviks\\68A.JPG"_s);
+    }
+
+    void photos_beside_the_program_do_not_replace_the_disc()
+    {
+        program_->AddToProgramFolder(u"Torviks/68A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
+        program_->Start();
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER001"_s));
+        QVERIFY(ProgramIsEnding());
+    }
+
+    void drive_C_is_never_searched()
+    {
+        program_->AddToProgramFolder(u"Torviks/68A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
+        program_->PutDiscIn({});
+        program_->Start();
+        QVERIFY(ProgramIsEnding());
+        QCOMPARE(state.DiscRoot, QString());
+    }
+
+    void no_disc_takes_the_splash_away_and_asks()
+    {
+        program_->Messages.WhenAsked([] {
+            QVERIFY(!Form2.IsLoaded());
+            QVERIFY(!Form1.IsLoaded());
+        });
+        program_->Start();
+        QCOMPARE(program_->Messages.Count(), 1);
+        const MessageRequest box = program_->Messages.Last();
+        QCOMPARE(box.Text, u"Error number: ER001\r\n\r\n Unable to detect the Torvik Vollandry CDROM.\r\n\r\n"
+                           "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
+        QCOMPARE(box.Style, 5);
+        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
+    }
+
+    void cancel_ends_the_program_with_nothing_saved()
+    {
+        SaveSetting(applicationTitle, u"Settings"_s, u"MainLeft"_s, u"77"_s);
+        program_->Start();
+        QVERIFY(ProgramIsEnding());
+        QVERIFY(!Form1.IsLoaded());
+        QCOMPARE(GetSetting(applicationTitle, u"Settings"_s, u"MainLeft"_s), u"77"_s);
+    }
+
+    void retry_finds_a_disc_that_was_put_in_meanwhile()
+    {
+        program_->Messages.Answer(msgbox::answerRetry);
+        program_->Messages.WhenAsked([this] { program_->Disc.AddGroup(u"67"_s, 2); });
+        program_->Start();
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(state.DiscRoot, u"G:"_s);
+        QCOMPARE(int(state.PhotoCount), 2);
+        QVERIFY2(Form2->Visible(), "the splash is shown again");
+        QCOMPARE(Form2->Timer1.Interval(), 5000);
+        program_->PassSplash();
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
+    }
+
+    void retry_asks_again_as_long_as_there_is_no_disc()
+    {
+        for (int time = 0; time < 3; ++time)
+            program_->Messages.Answer(msgbox::answerRetry);
+        program_->Start();
+        QCOMPARE(program_->Messages.Count(), 4);
+        QVERIFY(ProgramIsEnding());
+    }
+
+    void retry_also_sees_media_that_were_mounted_meanwhile()
+    {
+        static QString mounted;
+        mounted.clear();
+        program_->PutDiscIn({});
+        SetVolumeLister([] { return mounted.isEmpty() ? QList<QString>() : QList<QString>{mounted}; });
+        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->Messages.Answer(msgbox::answerRetry);
+        program_->Messages.WhenAsked([this] { mounted = program_->Disc.Folder(); });
+        program_->Start();
+        QCOMPARE(state.DiscRoot, u"D:"_s);
+    }
+
+    void folder_and_extension_are_found_in_any_letter_case()
+    {
+        program_->Disc.AddFile(u"TORVIKS/67a.Jpg"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
+        program_->Start();
+        QCOMPARE(state.DiscRoot, u"G:"_s);
+        QCOMPARE(state.PhotoFiles(1), u"G:\\Torviks\\67A.JPG"_s);
+    }
+
+private:
+    std::unique_ptr<Program> program_;
+};
+
+TORVIK_TEST(DiscSearchTest)
+#include "disc_search_test.moc"

@@ -1,0 +1,123 @@
+#include "support/desktop.h"
+#include "support/picture_bytes.h"
+#include "support/test_class.h"
+#include "support/ui_room.h"
+#include "ui/controls/rich_text_box.h"
+
+#include <QScrollBar>
+#include <QTextBrowser>
+
+using namespace Qt::StringLiterals;
+using namespace torvik;
+
+namespace {
+
+struct MainForm : Form {
+    MainForm() : Form(DesignOf(u"Main"_s)) {}
+    RichTextBox rtbText{*this, u"rtbText"_s, {0, 0, 4500, 3000}};
+};
+
+FormHandle<MainForm> Main;
+
+QTextBrowser& Pane()
+{
+    return static_cast<QTextBrowser&>(Main->rtbText.Widget());
+}
+
+} // namespace
+
+/// The pane that shows a rich-text file.
+class RichTextBoxTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        room_ = std::make_unique<UiRoom>();
+        QVERIFY(UiRoom::Open(*Main));
+    }
+    void cleanup() { room_.reset(); }
+
+    void a_file_is_shown_and_its_text_spoken()
+    {
+        QCOMPARE(Pane().accessibleName(), u"rtbText"_s);
+        const QString path = folder_.Add(u"67a.rtf"_s, "{\\rtf1\\ansi The first {\\b Torvik}.\\par Red.}");
+        Main->rtbText.SetFileName(path);
+        QCOMPARE(Main->rtbText.FileName(), path);
+        QVERIFY(Main->rtbText.Text().startsWith(u"The first Torvik.\nRed."_s));
+        QCOMPARE(Pane().accessibleName(), Main->rtbText.Text());
+    }
+
+    void another_file_takes_the_place_of_the_first()
+    {
+        Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1 one}"));
+        Main->rtbText.SetFileName(folder_.Add(u"b.rtf"_s, "{\\rtf1 two}"));
+        QCOMPARE(Main->rtbText.Text().trimmed(), u"two"_s);
+    }
+
+    void the_text_stays_when_the_next_file_fails()
+    {
+        const QString first = folder_.Add(u"a.rtf"_s, "{\\rtf1 one}");
+        Main->rtbText.SetFileName(first);
+        const QString empty = folder_.Add(u"empty.rtf"_s, {});
+        QCOMPARE(ResumeNext([&] { Main->rtbText.SetFileName(empty); }), 321);
+        QCOMPARE(ResumeNext([&] { Main->rtbText.SetFileName(folder_.PathOf(u"none.rtf"_s)); }), 53);
+        QCOMPARE(ResumeNext([&] { Main->rtbText.SetFileName(folder_.PathOf(u"no\\x.rtf"_s)); }), 76);
+        QCOMPARE(Main->rtbText.Text().trimmed(), u"one"_s);
+        QCOMPARE(Main->rtbText.FileName(), first);
+    }
+
+    void the_user_cannot_change_the_text_but_select_it()
+    {
+        Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1 one}"));
+        Main->rtbText.SetFocus();
+        QTest::keyClicks(&Pane(), u"abc"_s);
+        QCOMPARE(Main->rtbText.Text().trimmed(), u"one"_s);
+        QTest::keyClick(&Pane(), Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(Pane().textCursor().selectedText().trimmed(), u"one"_s);
+    }
+
+    void a_press_or_click_on_the_text_is_one_of_the_pane()
+    {
+        int clicks = 0;
+        QList<int> downs;
+        Main->rtbText.Click = [&] { ++clicks; };
+        Main->rtbText.MouseDown = [&](int button) { downs.append(button); };
+        QTest::mouseClick(Pane().viewport(), Qt::LeftButton);
+        QTest::mousePress(Pane().viewport(), Qt::RightButton);
+        QCOMPARE(clicks, 1);
+        QCOMPARE(downs, (QList<int>{mouse::left, mouse::right}));
+    }
+
+    void web_and_mail_addresses_open_outside_and_nothing_else_does()
+    {
+        Desktop desktop;
+        for (const char* address : {"http://example.com/a", "https://example.com/b", "mailto:a@example.com",
+                                    "file:///etc/passwd", "other.rtf"})
+            Q_EMIT Pane().anchorClicked(QUrl(QString::fromLatin1(address)));
+        QCOMPARE(desktop.Opened, (QStringList{u"http://example.com/a"_s, u"https://example.com/b"_s,
+                                              u"mailto:a@example.com"_s}));
+        QVERIFY(!Pane().source().isValid());
+    }
+
+    void a_link_inside_the_document_brings_its_place_into_view()
+    {
+        const Desktop desktop;
+        Main->rtbText.SetFileName(folder_.Add(
+            u"a.rtf"_s,
+            "{\\rtf1 {\\field{\\*\\fldinst HYPERLINK \\\\l \"rear wheels\"}{\\fldrslt go}}\\par " +
+                QByteArray("line\\par ").repeated(200) + "{\\*\\bkmkstart rear wheels}there\\par}"));
+        QScrollBar& bar = *Pane().verticalScrollBar();
+        QVERIFY(bar.maximum() > 0);
+        QTest::mouseClick(Pane().viewport(), Qt::LeftButton, {}, Pane().cursorRect().center() + QPoint(4, 0));
+        QCOMPARE(bar.value(), bar.maximum());
+        QVERIFY(desktop.Opened.isEmpty());
+    }
+
+private:
+    std::unique_ptr<UiRoom> room_;
+    PictureFolder folder_;
+};
+
+TORVIK_TEST(RichTextBoxTest)
+#include "rich_text_box_test.moc"

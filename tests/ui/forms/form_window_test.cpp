@@ -1,0 +1,155 @@
+#include "support/test_class.h"
+#include "support/ui_room.h"
+#include "ui/controls/button.h"
+#include "ui/controls/list_box.h"
+#include "ui/controls/panel.h"
+#include "ui/controls/rich_text_box.h"
+#include "ui/controls/scroll_bar.h"
+#include "ui/controls/spin_button.h"
+#include "ui/controls/text_box.h"
+#include "ui/forms/menu.h"
+
+#include <QAbstractButton>
+#include <QMenuBar>
+
+using namespace Qt::StringLiterals;
+using namespace torvik;
+
+namespace {
+
+struct MainForm : Form {
+    MainForm() : Form(DesignOf(u"Main"_s, Scale::Pixels, FormBorder::Sizable, true))
+    {
+        SetCancelButton(&cmdCancel);
+    }
+    Menu mnuFile{*this, u"mnuFile"_s, u"File"_s};
+    Button Go{*this, u"Go"_s, {0, 0, 1200, 375}, u"Go"_s};
+    TextBox Text1{*this, u"Text1"_s, {0, 450, 1200, 375}, u"text"_s};
+    ListBox List1{*this, u"List1"_s, {0, 900, 1200, 900}};
+    RichTextBox Rich{*this, u"Rich"_s, {1500, 0, 1200, 900}};
+    ScrollBar Bar{*this, u"Bar"_s, {1500, 1200, 1200, 240}};
+    Panel pnlProgress{*this, u"pnlProgress"_s, {0, 2000, 3000, 1500}};
+    Button cmdCancel{pnlProgress, u"cmdCancel"_s, {0, 0, 1200, 375}, u"Cancel"_s};
+    SpinButton Spin{*this, u"Spin"_s, {3000, 1200, 600, 300}};
+};
+
+FormHandle<MainForm> Main;
+
+} // namespace
+
+/// The window of a form: its client area, its menu bar, Escape, and its close box.
+class FormWindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        room_ = std::make_unique<UiRoom>();
+        cancels_ = 0;
+        QVERIFY(UiRoom::Open(*Main));
+        Main->cmdCancel.Click = [this] { ++cancels_; };
+    }
+    void cleanup() { room_.reset(); }
+
+    void the_menu_bar_is_19_pixels_high_and_the_client_area_lies_below_it()
+    {
+        QCOMPARE(Main->Window().MenuBar()->geometry(), QRect(0, 0, 400, 19));
+        QCOMPARE(Main->Host().geometry(), QRect(0, 19, 400, 300));
+        for (const QAction* action : Main->Window().MenuBar()->actions())
+            QVERIFY(Main->Window().MenuBar()->rect().contains(
+                Main->Window().MenuBar()->actionGeometry(const_cast<QAction*>(action))));
+    }
+
+    void escape_clicks_the_cancel_button_wherever_the_focus_is()
+    {
+        Main->List1.AddItem(u"1967"_s);
+        int expected = 0;
+        for (Control* control : std::initializer_list<Control*>{&Main->Go, &Main->Text1, &Main->List1,
+                                                                &Main->Rich, &Main->Bar, &Main->cmdCancel}) {
+            control->SetFocus();
+            QTest::keyClick(&control->Widget(), Qt::Key_Escape);
+            QVERIFY2(cancels_ == ++expected, qPrintable(control->Name()));
+        }
+        QTest::keyClick(&Main->Window(), Qt::Key_Escape);
+        QCOMPARE(cancels_, expected + 1);
+    }
+
+    void a_hidden_or_disabled_cancel_button_does_nothing()
+    {
+        Main->cmdCancel.Hide();
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_Escape);
+        Main->cmdCancel.Show();
+        Main->cmdCancel.SetEnabled(false);
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_Escape);
+        QCOMPARE(cancels_, 0);
+        QVERIFY(Main.IsLoaded());
+    }
+
+    void a_cancel_button_in_a_hidden_panel_still_answers()
+    {
+        Main->pnlProgress.Hide();
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_Escape);
+        QCOMPARE(cancels_, 1);
+    }
+
+    void without_a_cancel_button_escape_does_nothing()
+    {
+        Main->SetCancelButton(nullptr);
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_Escape);
+        QCOMPARE(cancels_, 0);
+        QVERIFY(Main->Visible());
+    }
+
+    void a_disabled_form_is_not_closed_by_its_close_box()
+    {
+        Main->SetEnabled(false);
+        Main->Window().close();
+        QVERIFY(Main.IsLoaded() && Main->Visible());
+        Main->SetEnabled(true);
+        Main->Window().close();
+        QVERIFY(!Main.IsLoaded());
+    }
+
+    void a_held_button_is_let_go_when_the_window_is_blocked()
+    {
+        auto* arrow = Main->Window().findChild<QAbstractButton*>(u"Spin(Up)"_s);
+        QTest::mousePress(arrow, Qt::LeftButton);
+        QVERIFY(arrow->isDown());
+        QWidget box;
+        box.setWindowModality(Qt::ApplicationModal);
+        box.show();
+        QTRY_VERIFY(!arrow->isDown());
+    }
+
+    void the_last_active_window_is_known_while_a_box_stands_before_it()
+    {
+        QCOMPARE(FormWindow::LastActive(), &Main->Window());
+        QWidget box;
+        box.show();
+        box.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        QCOMPARE(FormWindow::LastActive(), &Main->Window());
+        Main.Unload();
+        UiRoom::Settle();
+        QCOMPARE(FormWindow::LastActive(), nullptr);
+    }
+
+    void a_form_without_a_caption_is_called_by_its_name()
+    {
+        FormDesign design = DesignOf(u"Plain"_s);
+        design.Caption.clear();
+        struct PlainForm : Form {
+            explicit PlainForm(const FormDesign& plain) : Form(plain) {}
+        };
+        PlainForm form(design);
+        QCOMPARE(form.Window().accessibleName(), u"Plain"_s);
+        QCOMPARE(form.Window().MenuBar(), nullptr);
+    }
+
+private:
+    std::unique_ptr<UiRoom> room_;
+    int cancels_ = 0;
+};
+
+TORVIK_TEST(FormWindowTest)
+#include "form_window_test.moc"

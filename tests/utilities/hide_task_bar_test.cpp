@@ -1,0 +1,80 @@
+#include "program/program_state.h"
+#include "program/task_bar.h"
+#include "support/program.h"
+#include "support/test_class.h"
+#include "windows/main_window.h"
+
+using namespace Qt::StringLiterals;
+using namespace torvik;
+
+/// The menu entry that hides and shows the task bar.
+class HideTaskBarTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->StartBrowsing();
+    }
+    void cleanup() { program_.reset(); }
+
+    void hiding_covers_the_screen_and_renames_the_entry()
+    {
+        Form1->SetWidth(11000);
+        Form1->mnuHideStatus.Click.Fire();
+        program_->Settle();
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"ShowStatusBar"_s);
+        QVERIFY(Form1->CoversScreen());
+        QVERIFY(state.TrayWindow != 0);
+        QCOMPARE(state.ApiResult, 1); // it was showing before
+        QCOMPARE(state.TrayClassName, u"Shell_TrayWnd"_s);
+        QCOMPARE(Form1->Left(), 0.0);
+        QCOMPARE(Form1->Top(), 0.0);
+        QCOMPARE(Form1->Width(), 12000.0);
+        QCOMPARE(Form1->Height(), 9000.0);
+    }
+
+    void showing_takes_it_back_and_keeps_the_size()
+    {
+        Form1->mnuHideStatus.Click.Fire();
+        Form1->mnuHideStatus.Click.Fire();
+        program_->Settle();
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
+        QVERIFY(!Form1->CoversScreen());
+        QCOMPARE(Form1->Width(), 12000.0);
+        QCOMPARE(state.ApiResult, 0); // it was hidden before
+    }
+
+    void a_real_change_of_size_brings_the_bar_back()
+    {
+        Form1->mnuHideStatus.Click.Fire();
+        program_->Settle();
+        Form1->SetHeight(8000);
+        program_->Settle();
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
+        QVERIFY(!Form1->CoversScreen());
+    }
+
+    void the_same_size_again_leaves_the_bar_hidden()
+    {
+        Form1->mnuHideStatus.Click.Fire();
+        Form1->SetHeight(Form1->Height());
+        program_->Settle();
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"ShowStatusBar"_s);
+    }
+
+    void an_unknown_window_is_not_touched()
+    {
+        QCOMPARE(FindWindowByClass(u"Progman"_s), 0);
+        QCOMPARE(ShowWindow(0, showWindow::hide), 0);
+        QVERIFY(!Form1->CoversScreen());
+    }
+
+private:
+    std::unique_ptr<Program> program_;
+};
+
+TORVIK_TEST(HideTaskBarTest)
+#include "hide_task_bar_test.moc"
