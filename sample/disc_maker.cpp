@@ -1,14 +1,13 @@
-#include "disc_maker.h"
+#include "sample/disc_maker.h"
 
-#include "captions.h"
-#include "in_parallel.h"
-#include "jpeg_file.h"
-#include "movies/cards.h"
-#include "movies/movie_plan.h"
-#include "photographer.h"
-#include "slide_show_art.h"
-#include "sounds/effects.h"
-#include "title_art.h"
+#include "sample/files/in_parallel.h"
+#include "sample/files/jpeg_file.h"
+#include "sample/motifs/motifs.h"
+#include "sample/movies/cards.h"
+#include "sample/movies/movie_plan.h"
+#include "sample/photos/captions.h"
+#include "sample/sounds/effects.h"
+#include "sample/titles/title_art.h"
 
 #include <QBuffer>
 
@@ -16,6 +15,8 @@
 #include <stdexcept>
 
 namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,7 +30,7 @@ void MakePhoto(const QString& disc, const PlannedPhoto& photo)
         bytes = WithTurnTag(JpegBytes(picture.transformed(QTransform().rotate(-90)), photoQuality));
     else
         bytes = JpegBytes(picture, photoQuality);
-    WriteFile(disc + QStringLiteral("/Torviks/") + photo.file, bytes);
+    WriteFile(disc + u"/Torviks/"_s + photo.file, bytes);
 }
 
 void WritePng(const QString& path, const QImage& picture)
@@ -56,7 +57,7 @@ void MakePhotos(const QString& disc)
 
 void MakeCaptions(const QString& disc)
 {
-    const QString folder = disc + QStringLiteral("/RichText/");
+    const QString folder = disc + u"/RichText/"_s;
     for (const PlannedPhoto& photo : PlanPhotos()) {
         const Caption caption = CaptionOf(photo);
         WriteFile(folder + caption.file, caption.text);
@@ -68,42 +69,42 @@ void MakeCaptions(const QString& disc)
 void MakeOpeningPicture(const QString& disc, const QString& program)
 {
     const QByteArray bytes = JpegBytes(PaintOpening({1280, 776}), 88);
-    WriteFile(disc + QStringLiteral("/graphics/ClassicTorviks.jpg"), bytes);
-    WriteFile(program + QStringLiteral("/graphics/ClassicTorviks.jpg"), bytes);
+    WriteFile(disc + u"/graphics/ClassicTorviks.jpg"_s, bytes);
+    WriteFile(program + u"/graphics/ClassicTorviks.jpg"_s, bytes);
 }
 
 void MakeSounds(const QString& disc)
 {
     const std::vector<Effect>& effects = SoundEffects();
     InParallel(effects.size(), [&](std::size_t i) {
-        WriteFile(disc + QStringLiteral("/wav/") + QLatin1String(effects[i].file), MakeEffect(effects[i]));
+        WriteFile(disc + u"/wav/"_s + QLatin1String(effects[i].file), MakeEffect(effects[i]));
     });
 }
 
 void MakeMovies(const QString& disc)
 {
     for (const MoviePlan& plan : Movies())
-        WriteFile(disc + QStringLiteral("/movies/") + QLatin1String(plan.file), MakeMovie(plan));
+        WriteFile(disc + u"/movies/"_s + QLatin1String(plan.file), MakeMovie(plan));
 }
 
 void MakePassBySound(const QString& program)
 {
-    WriteFile(program + QStringLiteral("/passby.wav"), EffectNamed("passby.wav"));
+    WriteFile(program + u"/passby.wav"_s, EffectNamed("passby.wav"));
 }
 
 void MakeAssets(const QString& folder)
 {
-    WritePng(folder + QStringLiteral("/splash.png"), PaintSplash(1));
-    WritePng(folder + QStringLiteral("/splash@2x.png"), PaintSplash(2));
-    WritePng(folder + QStringLiteral("/icon.png"), PaintIcon(256));
-    WritePng(folder + QStringLiteral("/movie_opening.png"), PaintMovieOpening({320, 217}));
-    WriteFile(folder + QStringLiteral("/slide_show.jpg"), JpegBytes(PaintSlideShow({1568, 972}), 88));
+    WritePng(folder + u"/splash.png"_s, PaintSplash(1));
+    WritePng(folder + u"/splash@2x.png"_s, PaintSplash(2));
+    WritePng(folder + u"/icon.png"_s, PaintIcon(256));
+    WritePng(folder + u"/movie_opening.png"_s, PaintMovieOpening({320, 217}));
+    WriteFile(folder + u"/slide_show.jpg"_s, JpegBytes(PaintSlideShow({1568, 972}), 88));
 }
 
 void MakeIcons(const QString& folder)
 {
     for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512})
-        WritePng(folder + QStringLiteral("/%1.png").arg(size), PaintIcon(size));
+        WritePng(folder + u"/%1.png"_s.arg(size), PaintIcon(size));
 }
 
 } // namespace torvik::sample

@@ -1,7 +1,6 @@
-#include "artwork/art_maker.h"
-#include "disc_maker.h"
-#include "documents/document_plan.h"
-#include "documents/help_file.h"
+#include "sample/artwork/art_maker.h"
+#include "sample/disc_maker.h"
+#include "sample/documents/document_plan.h"
 
 #include <QGuiApplication>
 #include <QStringList>
@@ -14,11 +13,12 @@
 namespace {
 
 using namespace torvik::sample;
+using namespace Qt::StringLiterals;
 
 /// A part of the disc that can be made by itself.
 struct Part {
-    const char* Name;
-    std::function<void(const QString& disc, const QString& program)> Make;
+    const char* name;
+    std::function<void(const QString& disc, const QString& program)> make;
 };
 
 const std::vector<Part>& Parts()
@@ -48,14 +48,14 @@ int ShowUsage()
                "       make_sample --icons FOLDER\nparts:",
                stderr);
     for (const Part& part : Parts())
-        std::fprintf(stderr, " %s", part.Name);
+        std::fprintf(stderr, " %s", part.name);
     std::fputs("\n", stderr);
     return 2;
 }
 
 bool IsWanted(const Part& part, const QStringList& wanted)
 {
-    return wanted.isEmpty() || wanted.contains(QLatin1String(part.Name));
+    return wanted.isEmpty() || wanted.contains(QLatin1String(part.name));
 }
 
 } // namespace
@@ -68,17 +68,17 @@ int main(int argc, char** argv)
     if (arguments.size() < 2)
         return ShowUsage();
     try {
-        if (arguments[0] == QLatin1String("--assets")) {
+        if (arguments[0] == "--assets"_L1) {
             MakeAssets(arguments[1]);
             return 0;
         }
-        if (arguments[0] == QLatin1String("--icons")) {
+        if (arguments[0] == "--icons"_L1) {
             MakeIcons(arguments[1]);
             return 0;
         }
         for (const Part& part : Parts()) {
             if (IsWanted(part, arguments.mid(2)))
-                part.Make(arguments[0], arguments[1]);
+                part.make(arguments[0], arguments[1]);
         }
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "make_sample: %s\n", failure.what());

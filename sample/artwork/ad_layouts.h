@@ -1,15 +1,12 @@
 #pragma once
 
-#include "ad_parts.h"
+#include "sample/artwork/ad_parts.h"
+
+#include <QImage>
 
 namespace torvik::sample {
 
-/// Each sets a whole page, which has been filled with the colour of the paper.
-
-void SetPictureOverText(const AdPage& page);
-void SetFullPicture(const AdPage& page);
-void SetStripes(const AdPage& page);
-void SetGrid(const AdPage& page);
-void SetSpread(const AdPage& page);
+/// The printed page.
+QImage PaintAd(const PlannedAd& plan);
 
 } // namespace torvik::sample

@@ -1,20 +1,20 @@
-#include "ad_parts.h"
+#include "sample/artwork/ad_parts.h"
 
-#include "ad_type.h"
-#include "car_drawing.h"
+#include "sample/artwork/ad_type.h"
+#include "sample/artwork/flat_drawing.h"
+#include "sample/car/paints.h"
 #include "sample/documents/colour_cards.h"
-#include "sample/documents/engines.h"
-#include "sample/documents/model_years.h"
-#include "sample/documents/options.h"
-#include "sample/film.h"
-#include "sample/paints.h"
-#include "sample/photographer.h"
-#include "sample/tabletop.h"
+#include "sample/documents/figures.h"
+#include "sample/photos/photographer.h"
+#include "sample/render/film.h"
+#include "sample/render/tabletop.h"
 
 #include <algorithm>
 #include <stdexcept>
 
 namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,12 +29,11 @@ Paint PaintNamed(int year, const QString& name)
 
 Trim AdTrim(const PlannedAd& plan)
 {
-    Trim trim;
-    trim.plate = QString::number(plan.year);
-    trim.script = QStringLiteral("Vollandry");
-    trim.lampsLit = plan.place == Place::City;
-    trim.whiteWalls = plan.year <= 1968;
-    trim.redLine = plan.year == 1969 || plan.year == 1970;
+    Trim trim{.plate = QString::number(plan.year),
+              .script = u"Vollandry"_s,
+              .lampsLit = plan.place == Place::City,
+              .whiteWalls = plan.year <= 1968,
+              .redLine = plan.year == 1969 || plan.year == 1970};
     if (plan.year == 1976) {
         trim.stripe = Trim::Stripe::Racing;
         trim.stripeColour = QColor(36, 86, 176);
@@ -86,8 +85,8 @@ void DrawPriceBox(const AdPage& page, const QRectF& box, const QColor& ground, c
                 top.center()),
         ink);
     const QString words =
-        QStringLiteral("Vollandry coupe, %1, at Gate One, Port Averel. Plates and petrol are extra.")
-            .arg(EngineName(EnginesOf(page.plan.year).front()));
+        u"Vollandry coupe, %1, at Gate One, Port Averel. Plates and petrol are extra."_s.arg(
+            EngineName(EnginesOf(page.plan.year).front()));
     const QRectF rest(inner.left(), top.bottom() + 4, inner.width(), inner.bottom() - top.bottom() - 4);
     SetColumns(p, {words}, {rest}, {page.plan.body, ink, 22, Qt::AlignLeft});
 }
@@ -104,7 +103,7 @@ void DrawEngines(const AdPage& page, const QRectF& box, const QColor& ink)
         p.drawLine(row.topLeft(), row.topRight());
         DrawText(p, row, EngineName(engine), page.plan.body, line * 0.60, ink,
                  Qt::AlignLeft | Qt::AlignVCenter);
-        DrawText(p, row, QStringLiteral("%1 bhp").arg(engine.power), page.plan.body, line * 0.60, ink,
+        DrawText(p, row, u"%1 bhp"_s.arg(engine.power), page.plan.body, line * 0.60, ink,
                  Qt::AlignRight | Qt::AlignVCenter);
         y += line;
     }
@@ -137,17 +136,17 @@ void DrawSignature(const AdPage& page, const QRectF& box, const QColor& ink)
     p.fillPath(ShieldPath(shield, size), page.plan.accent);
     p.fillPath(WingedT(shield + QPointF(0, size * 0.05), size * 0.62), Qt::white);
     const double left = box.left() + size * 2.6;
-    p.fillPath(Lettering(QStringLiteral("Torvik Vollandry"), size * 0.72, page.plan.headline)
+    p.fillPath(Lettering(u"Torvik Vollandry"_s, size * 0.72, page.plan.headline)
                    .translated(left, box.top() + size * 1.0),
                ink);
     DrawText(p, QRectF(left, box.top() + size * 1.28, box.right() - left, size),
-             QStringLiteral("Brenmoor Motor Works, Port Averel · %1").arg(page.plan.year), page.plan.body, 17,
-             ink, Qt::AlignLeft | Qt::AlignTop);
+             u"Brenmoor Motor Works, Port Averel · %1"_s.arg(page.plan.year), page.plan.body, 17, ink,
+             Qt::AlignLeft | Qt::AlignTop);
     QColor faint = ink;
     faint.setAlpha(170);
     DrawText(p, QRectF(box.left(), box.bottom() - 18, box.width(), 20),
-             QStringLiteral("Cars, works and prices on this page are invented. Please do not send money."),
-             page.plan.body, 13, faint, Qt::AlignLeft | Qt::AlignTop);
+             u"Cars, works and prices on this page are invented. Please do not send money."_s, page.plan.body,
+             13, faint, Qt::AlignLeft | Qt::AlignTop);
 }
 
 } // namespace torvik::sample

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ad_copy.h"
-#include "ad_plan.h"
+#include "sample/artwork/ad_plan.h"
 
 #include <QImage>
 #include <QPainter>

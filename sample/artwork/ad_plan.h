@@ -1,10 +1,12 @@
 #pragma once
 
-#include "lettering.h"
-#include "sample/photo_plan.h"
+#include "sample/geometry/lettering.h"
+#include "sample/photos/photo_plan.h"
 
 #include <QColor>
 #include <QSize>
+#include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -41,5 +43,16 @@ struct PlannedAd {
 bool IsLandscapeAd(int year);
 /// One for each year but 2001, whose advertisement has not been released.
 const std::vector<PlannedAd>& PlanAds();
+
+/// The words of an advertisement.
+struct AdCopy {
+    QString headline;
+    QString lead; ///< one or two sentences that stand by themselves
+    QStringList paragraphs;
+};
+
+/// The words for a year, with its figures put in. Throws std::out_of_range for a year without an
+/// advertisement and std::runtime_error for a figure that the year does not have.
+AdCopy AdCopyOf(int year);
 
 } // namespace torvik::sample

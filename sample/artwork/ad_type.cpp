@@ -1,4 +1,4 @@
-#include "ad_type.h"
+#include "sample/artwork/ad_type.h"
 
 #include <QTextLayout>
 
@@ -8,7 +8,7 @@ namespace torvik::sample {
 
 namespace {
 
-constexpr double kSmallest = 13;
+constexpr double smallestType = 13;
 
 /// The words dealt to that many lines so that the longest line is as short as it can be.
 QStringList Broken(const QStringList& words, int lines)
@@ -70,8 +70,8 @@ bool Flow(QPainter* painter, const QStringList& paragraphs, const std::vector<QR
 QPainterPath FittedHeadline(const QString& text, const QRectF& box, const Type& type, int lines,
                             double tallest, Qt::Alignment alignment)
 {
-    constexpr double kUnit = 100;
-    constexpr double kLeading = 1.55; // of the height of capitals
+    constexpr double unitHeight = 100;
+    constexpr double leading = 1.55; // of the height of capitals
     QStringList best;
     double height = 0;
     const QStringList words = text.split(u' ');
@@ -79,9 +79,9 @@ QPainterPath FittedHeadline(const QString& text, const QRectF& box, const Type& 
         const QStringList tried = Broken(words, count);
         double widest = 1;
         for (const QString& line : tried)
-            widest = std::max(widest, Lettering(line, kUnit, type).boundingRect().width());
-        const double fits =
-            std::min({tallest, box.width() / widest * kUnit, box.height() / (1.25 + kLeading * (count - 1))});
+            widest = std::max(widest, Lettering(line, unitHeight, type).boundingRect().width());
+        const double fits = std::min(
+            {tallest, box.width() / widest * unitHeight, box.height() / (1.25 + leading * (count - 1))});
         if (fits > height * 1.02) {
             height = fits;
             best = tried;
@@ -94,7 +94,7 @@ QPainterPath FittedHeadline(const QString& text, const QRectF& box, const Type& 
         const double spare = box.width() - path.boundingRect().width();
         const double left = alignment & Qt::AlignHCenter ? spare / 2 : alignment & Qt::AlignRight ? spare : 0;
         headline.addPath(path.translated(box.left() + left, base));
-        base += height * kLeading;
+        base += height * leading;
     }
     headline.setFillRule(Qt::WindingFill);
     return headline;
@@ -104,7 +104,7 @@ double SetColumns(QPainter& painter, const QStringList& paragraphs, const std::v
                   const TextLook& look)
 {
     double size = look.largest;
-    while (size > kSmallest && !Flow(nullptr, paragraphs, columns, look, size))
+    while (size > smallestType && !Flow(nullptr, paragraphs, columns, look, size))
         size -= 1;
     Flow(&painter, paragraphs, columns, look, size);
     return size;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lettering.h"
+#include "sample/geometry/lettering.h"
 
 #include <QPainter>
 #include <QStringList>

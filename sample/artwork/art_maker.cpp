@@ -1,12 +1,9 @@
-#include "art_maker.h"
+#include "sample/artwork/art_maker.h"
 
-#include "ad_art.h"
-#include "booklet_art.h"
-#include "clip_art.h"
-#include "emblem_art.h"
-#include "sample/in_parallel.h"
-#include "sample/jpeg_file.h"
-#include "script_art.h"
+#include "sample/artwork/ad_layouts.h"
+#include "sample/artwork/art_plan.h"
+#include "sample/files/in_parallel.h"
+#include "sample/files/jpeg_file.h"
 
 #include <QBuffer>
 
@@ -15,6 +12,8 @@
 #include <stdexcept>
 
 namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,7 +31,7 @@ void MakeEach(const QString& disc, const std::vector<SmallPicture>& pictures,
               const std::function<QImage(const SmallPicture&)>& paint)
 {
     InParallel(pictures.size(), [&](std::size_t i) {
-        WriteFile(disc + QLatin1Char('/') + pictures[i].file, JpegBytes(paint(pictures[i]), 92));
+        WriteFile(disc + u'/' + pictures[i].file, JpegBytes(paint(pictures[i]), 92));
     });
 }
 
@@ -57,17 +56,17 @@ void MakeAds(const QString& disc)
 {
     const std::vector<PlannedAd>& ads = PlanAds();
     InParallel(ads.size(), [&](std::size_t i) {
-        WriteFile(disc + QLatin1Char('/') + ads[i].File(), JpegBytes(PaintAd(ads[i]), 74));
+        WriteFile(disc + u'/' + ads[i].File(), JpegBytes(PaintAd(ads[i]), 74));
     });
 }
 
 void MakeBookletArt(const QString& disc)
 {
-    const QString folder = disc + QStringLiteral("/graphics/");
+    const QString folder = disc + u"/graphics/"_s;
     const std::array<std::function<void()>, 3> pictures = {
-        [&] { WriteFile(folder + QStringLiteral("logo.jpg"), JpegBytes(PaintBookletLogo(), 92)); },
-        [&] { WriteFile(folder + QStringLiteral("bklettxt.jpg"), JpegBytes(PaintBookletTitle(), 92)); },
-        [&] { WriteFile(folder + QStringLiteral("quillon3.bmp"), BmpBytes(PaintPublisherMark())); }};
+        [&] { WriteFile(folder + u"logo.jpg"_s, JpegBytes(PaintBookletLogo(), 92)); },
+        [&] { WriteFile(folder + u"bklettxt.jpg"_s, JpegBytes(PaintBookletTitle(), 92)); },
+        [&] { WriteFile(folder + u"quillon3.bmp"_s, BmpBytes(PaintPublisherMark())); }};
     InParallel(pictures.size(), [&](std::size_t i) { pictures[i](); });
 }
 

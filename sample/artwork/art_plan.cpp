@@ -1,8 +1,10 @@
-#include "art_plan.h"
+#include "sample/artwork/art_plan.h"
 
-#include "sample/documents/model_years.h"
+#include "sample/documents/figures.h"
 
 namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,28 +20,28 @@ std::vector<SmallPicture> OnePerYear(const QString& pattern)
 
 QString TwoDigits(int year)
 {
-    return QStringLiteral("%1").arg(year % 100, 2, 10, QLatin1Char('0'));
+    return u"%1"_s.arg(year % 100, 2, 10, '0'_L1);
 }
 
 std::vector<SmallPicture> PlanEmblems()
 {
-    std::vector<SmallPicture> pictures = OnePerYear(QStringLiteral("emblems/emb%1.jpg"));
-    pictures.push_back({QStringLiteral("emblems/embsb.jpg"), 1967, Marque::Harwell});
-    pictures.push_back({QStringLiteral("emblems/EMBpt.jpg"), 1966, Marque::Prototype});
+    std::vector<SmallPicture> pictures = OnePerYear(u"emblems/emb%1.jpg"_s);
+    pictures.push_back({u"emblems/embsb.jpg"_s, 1967, Marque::Harwell});
+    pictures.push_back({u"emblems/EMBpt.jpg"_s, 1966, Marque::Prototype});
     return pictures;
 }
 
 std::vector<SmallPicture> PlanScripts()
 {
-    std::vector<SmallPicture> pictures = OnePerYear(QStringLiteral("SCRIPTS/scri%1.jpg"));
-    pictures.push_back({QStringLiteral("SCRIPTS/SCRISB.jpg"), 1967, Marque::Harwell});
-    pictures.push_back({QStringLiteral("SCRIPTS/SCRIpt.jpg"), 1966, Marque::Prototype});
+    std::vector<SmallPicture> pictures = OnePerYear(u"SCRIPTS/scri%1.jpg"_s);
+    pictures.push_back({u"SCRIPTS/SCRISB.jpg"_s, 1967, Marque::Harwell});
+    pictures.push_back({u"SCRIPTS/SCRIpt.jpg"_s, 1966, Marque::Prototype});
     return pictures;
 }
 
 std::vector<SmallPicture> PlanClipArt()
 {
-    return OnePerYear(QStringLiteral("Clipart/%1clip.jpg"));
+    return OnePerYear(u"Clipart/%1clip.jpg"_s);
 }
 
 } // namespace torvik::sample

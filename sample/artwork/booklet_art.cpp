@@ -1,18 +1,20 @@
-#include "booklet_art.h"
-
-#include "lettering.h"
-#include "pen_script.h"
-#include "relief.h"
-#include "sample/tabletop.h"
+#include "sample/artwork/art_plan.h"
+#include "sample/artwork/pen_script.h"
+#include "sample/geometry/lettering.h"
+#include "sample/geometry/shapes.h"
+#include "sample/render/relief.h"
+#include "sample/render/tabletop.h"
 
 #include <QPainter>
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QColor kInk(34, 30, 34);
-const QColor kWine(128, 18, 30);
+const QColor printInk(34, 30, 34);
+const QColor wine(128, 18, 30);
 
 QImage Paper(QSize size)
 {
@@ -29,21 +31,16 @@ QPainterPath Sword(double length, double height)
     const double guard = length * 0.27;
     sword.addEllipse(QPointF(height * 0.15, 0), height * 0.13, height * 0.13);
     sword.addRoundedRect(QRectF(height * 0.2, -height * 0.055, guard - height * 0.2, height * 0.11), 3, 3);
-    QPainterPath cross;
-    cross.moveTo(guard - height * 0.07, -height * 0.40);
-    cross.quadTo(guard + height * 0.02, 0, guard - height * 0.07, height * 0.40);
-    cross.quadTo(guard + height * 0.03, height * 0.54, guard + height * 0.13, height * 0.40);
-    cross.quadTo(guard + height * 0.06, 0, guard + height * 0.13, -height * 0.40);
-    cross.quadTo(guard + height * 0.03, -height * 0.54, guard - height * 0.07, -height * 0.40);
-    sword.addPath(cross);
-    QPainterPath blade;
-    blade.moveTo(guard + height * 0.08, -height * 0.085);
-    blade.lineTo(length * 0.93, -height * 0.05);
-    blade.lineTo(length, 0);
-    blade.lineTo(length * 0.93, height * 0.05);
-    blade.lineTo(guard + height * 0.08, height * 0.085);
-    blade.closeSubpath();
-    sword.addPath(blade);
+    sword.addPath(Outline({{guard - height * 0.07, -height * 0.40},
+                           {guard + height * 0.02, 0, guard - height * 0.07, height * 0.40},
+                           {guard + height * 0.03, height * 0.54, guard + height * 0.13, height * 0.40},
+                           {guard + height * 0.06, 0, guard + height * 0.13, -height * 0.40},
+                           {guard + height * 0.03, -height * 0.54, guard - height * 0.07, -height * 0.40}}));
+    sword.addPath(ClosedOutline({{guard + height * 0.08, -height * 0.085},
+                                 {length * 0.93, -height * 0.05},
+                                 {length, 0},
+                                 {length * 0.93, height * 0.05},
+                                 {guard + height * 0.08, height * 0.085}}));
     return sword;
 }
 
@@ -60,22 +57,16 @@ QImage PaintBookletLogo()
     red.rayFrom = middle + QPointF(0, 60);
     relief.Add(ShieldPath(middle, 51), red, {4, -1.5, 4, 0});
     relief.Add(WingedT(middle + QPointF(0, 2), 40), Chrome(), {4, 3.5, 5, 2});
-    Pen pen;
-    pen.xHeight = 37;
-    pen.spread = 1.22;
-    pen.broad = 0.25;
-    pen.fine = 0.15;
-    const QPainterPath word = WriteWord(QStringLiteral("Vollandry"), pen).translated(176, 95);
+    const Pen pen{.xHeight = 37, .broad = 0.25, .fine = 0.15, .spread = 1.22};
+    const QPainterPath word = WriteWord(u"Vollandry"_s, pen).translated(176, 95);
     Pen wide = pen;
     wide.broad += 0.2;
     wide.fine += 0.2;
-    relief.Add(WriteWord(QStringLiteral("Vollandry"), wide).translated(176, 95), Enamel(QColor(40, 6, 12)),
-               {0, 3, 4, 3});
+    relief.Add(WriteWord(u"Vollandry"_s, wide).translated(176, 95), Enamel(QColor(40, 6, 12)), {0, 3, 4, 3});
     relief.Add(word, Chrome(), {3, 4, 4, 1});
     const QPainterPath maker =
-        Lettering(QStringLiteral("TORVIK"), 17, {QStringLiteral("Liberation Serif"), true, false, 210, 1.0})
-            .translated(252, 150);
-    relief.Add(maker, Enamel(kWine), {0, 2, 2, 0});
+        Lettering(u"TORVIK"_s, 17, {u"Liberation Serif"_s, true, false, 210, 1.0}).translated(252, 150);
+    relief.Add(maker, Enamel(wine), {0, 2, 2, 0});
     return relief.Over(Paper(size));
 }
 
@@ -83,23 +74,22 @@ QImage PaintBookletTitle()
 {
     const QSize size(700, 190);
     QImage picture = Paper(size);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter p(&picture);
     const auto line = [&](const QString& text, double y, double height, const Type& type, const QColor& ink) {
         QPainterPath path = Lettering(text, height, type);
         path.translate(350 - path.boundingRect().center().x(), y);
         p.fillPath(path, ink);
     };
-    p.fillRect(QRectF(40, 8, 620, 3), kWine);
-    p.fillRect(QRectF(40, 14, 620, 1), kWine);
-    const Type title{QStringLiteral("Liberation Serif"), true, true, 102, 1.0};
-    line(QStringLiteral("The Torvik Vollandry"), 76, 42, title, kInk);
-    const Type years{QStringLiteral("Liberation Serif"), false, false, 150, 1.0};
-    line(QStringLiteral("1967 – 2001"), 120, 24, years, kWine);
-    const Type words{QStringLiteral("Liberation Sans"), false, false, 112, 1.0};
-    line(QStringLiteral("Thirty-five model years in words and figures"), 157, 14, words, kInk);
-    p.fillRect(QRectF(40, 175, 620, 1), kWine);
-    p.fillRect(QRectF(40, 179, 620, 3), kWine);
+    p.fillRect(QRectF(40, 8, 620, 3), wine);
+    p.fillRect(QRectF(40, 14, 620, 1), wine);
+    const Type title{u"Liberation Serif"_s, true, true, 102, 1.0};
+    line(u"The Torvik Vollandry"_s, 76, 42, title, printInk);
+    const Type years{u"Liberation Serif"_s, false, false, 150, 1.0};
+    line(u"1967 – 2001"_s, 120, 24, years, wine);
+    const Type words{u"Liberation Sans"_s, false, false, 112, 1.0};
+    line(u"Thirty-five model years in words and figures"_s, 157, 14, words, printInk);
+    p.fillRect(QRectF(40, 175, 620, 1), wine);
+    p.fillRect(QRectF(40, 179, 620, 3), wine);
     return picture;
 }
 
@@ -107,26 +97,21 @@ QImage PaintPublisherMark()
 {
     const QSize size(420, 130);
     QImage picture = Paper(size);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.fillPath(Sword(396, 84).translated(12, 46), kInk);
+    SmoothPainter p(&picture);
+    p.fillPath(Sword(396, 84).translated(12, 46), printInk);
     // The blade's middle rib, and the winding of the grip.
     p.setPen(QPen(Qt::white, 1.2));
     p.drawLine(QPointF(134, 46), QPointF(372, 46));
     p.setPen(QPen(Qt::white, 1.6));
     for (int i = 0; i < 8; ++i)
         p.drawLine(QPointF(40 + i * 9.0, 51), QPointF(45 + i * 9.0, 41));
-    QPainterPath jewel;
-    jewel.addEllipse(QPointF(24.6, 46), 5, 5);
-    p.fillPath(jewel, kWine);
-    p.fillPath(Centred(Lettering(QStringLiteral("QUILLON"), 21,
-                                 {QStringLiteral("Liberation Serif"), true, false, 160, 1.0}),
-                       {256, 80}),
-               kInk);
-    p.fillPath(Centred(Lettering(QStringLiteral("SOFTWARE"), 10,
-                                 {QStringLiteral("Liberation Sans"), false, false, 260, 1.0}),
-                       {256, 108}),
-               kWine);
+    p.fillPath(Disc({24.6, 46}, 5), wine);
+    p.fillPath(
+        Centred(Lettering(u"QUILLON"_s, 21, {u"Liberation Serif"_s, true, false, 160, 1.0}), {256, 80}),
+        printInk);
+    p.fillPath(
+        Centred(Lettering(u"SOFTWARE"_s, 10, {u"Liberation Sans"_s, false, false, 260, 1.0}), {256, 108}),
+        wine);
     return picture;
 }
 

@@ -1,20 +1,22 @@
-#include "clip_art.h"
-
-#include "car_drawing.h"
-#include "clip_icon.h"
-#include "lettering.h"
-#include "sample/documents/text_store.h"
-#include "sample/paints.h"
-#include "sample/tabletop.h"
+#include "sample/artwork/art_plan.h"
+#include "sample/artwork/flat_drawing.h"
+#include "sample/car/paints.h"
+#include "sample/files/text_store.h"
+#include "sample/geometry/lettering.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
+#include "sample/render/tabletop.h"
 
 #include <array>
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QSize kSize(480, 80);
-constexpr double kGround = 68;
+const QSize stripSize(480, 80);
+constexpr double groundLine = 68;
 
 /// A few flat shapes behind the car, another place every year.
 void DrawBackdrop(QPainter& p, const QRectF& box, int year)
@@ -30,8 +32,7 @@ void DrawBackdrop(QPainter& p, const QRectF& box, int year)
     const auto number = static_cast<std::size_t>(year - 1967);
     const Tones& tone = tones[number % tones.size()];
     p.save();
-    QPainterPath frame;
-    frame.addRoundedRect(box, 8, 8);
+    const QPainterPath frame = Rounded(box, 8);
     p.setClipPath(frame);
     p.fillRect(box, QColor(tone.sky));
     const double x = box.left();
@@ -39,7 +40,7 @@ void DrawBackdrop(QPainter& p, const QRectF& box, int year)
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(255, 250, 225));
     p.drawEllipse(QPointF(x + w * (0.2 + 0.12 * static_cast<double>(number % 6)), 21), 10, 10);
-    QPainterPath far(QPointF(x, kGround));
+    QPainterPath far(QPointF(x, groundLine));
     switch (number % 4) {
     case 0: // hills
         far.cubicTo(x + w * 0.2, 18, x + w * 0.35, 44, x + w * 0.5, 46);
@@ -63,9 +64,9 @@ void DrawBackdrop(QPainter& p, const QRectF& box, int year)
         far.lineTo(x + w, 46);
         break;
     }
-    far.lineTo(x + w, kGround);
+    far.lineTo(x + w, groundLine);
     p.fillPath(far, QColor(tone.far));
-    p.fillRect(QRectF(x, kGround - 8, w, 30), QColor(tone.near));
+    p.fillRect(QRectF(x, groundLine - 8, w, 30), QColor(tone.near));
     p.restore();
     p.strokePath(frame, QPen(QColor(26, 24, 26), 1.4));
 }
@@ -73,15 +74,14 @@ void DrawBackdrop(QPainter& p, const QRectF& box, int year)
 /// The year in the lettering of its decade, on a plate in the colour of the car.
 void DrawYear(QPainter& p, const QRectF& box, int year, const QColor& paint)
 {
-    QPainterPath plate;
-    plate.addRoundedRect(box, 8, 8);
+    const QPainterPath plate = Rounded(box, 8);
     const bool pale = qGray(paint.rgb()) > 140;
     FillOutlined(p, plate, paint, 1.4);
     const QColor ink = pale ? QColor(30, 28, 32) : QColor(252, 248, 236);
-    const std::array<Type, 4> types = {{{QStringLiteral("Liberation Serif"), true, true, 100, 1.0},
-                                        {QStringLiteral("DejaVu Serif"), true, false, 100, 1.0},
-                                        {QStringLiteral("Liberation Sans Narrow"), true, false, 110, 1.15},
-                                        {QStringLiteral("Liberation Sans"), true, true, 100, 1.0}}};
+    const std::array<Type, 4> types = {{{u"Liberation Serif"_s, true, true, 100, 1.0},
+                                        {u"DejaVu Serif"_s, true, false, 100, 1.0},
+                                        {u"Liberation Sans Narrow"_s, true, false, 110, 1.15},
+                                        {u"Liberation Sans"_s, true, true, 100, 1.0}}};
     const auto decade = static_cast<std::size_t>(std::min(3, (year - 1960) / 10));
     p.fillPath(Centred(Lettering(QString::number(year), 19, types[decade]), box.center() - QPointF(0, 9)),
                ink);
@@ -95,19 +95,18 @@ void DrawYear(QPainter& p, const QRectF& box, int year, const QColor& paint)
 
 QImage PaintClipArt(const SmallPicture& strip)
 {
-    QImage picture(kSize, QImage::Format_RGB32);
+    QImage picture(stripSize, QImage::Format_RGB32);
     picture.fill(Qt::white);
-    QPainter p(&picture);
-    p.setRenderHint(QPainter::Antialiasing);
-    const std::map<QString, TextSection> icons = StoredSections(QStringLiteral("clip_icons"));
+    SmoothPainter p(&picture);
+    const std::map<QString, TextSection> icons = StoredSections(u"clip_icons"_s);
     DrawIcon(p, QRectF(8, 8, 64, 64), icons.at(QString::number(strip.year)).body);
     const std::vector<Paint>& card = PaintsOfYear(strip.year);
-    const QColor paint = card[static_cast<std::size_t>(strip.year * 3) % card.size()].colour;
+    const QColor paint = Cycled(card, strip.year * 3).colour;
     const QRectF scene(84, 5, 220, 70);
     DrawBackdrop(p, scene, strip.year);
     const CarShape shape = ShapeOfYear(strip.year);
     const double scale = 41;
-    DrawCarSide(p, shape, paint, {scene.center().x() - shape.length * scale / 2, kGround}, scale);
+    DrawCarSide(p, shape, paint, {scene.center().x() - shape.length * scale / 2, groundLine}, scale);
     DrawWheel(p, shape.wheel, {344, 40}, 30);
     DrawYear(p, QRectF(386, 5, 88, 70), strip.year, paint);
     return picture;

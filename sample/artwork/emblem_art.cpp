@@ -1,34 +1,22 @@
-#include "emblem_art.h"
-
-#include "lettering.h"
-#include "path_text.h"
-#include "relief.h"
-#include "sample/car_shape.h"
-#include "sample/tabletop.h"
+#include "sample/artwork/art_plan.h"
+#include "sample/car/car_shape.h"
+#include "sample/geometry/lettering.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
+#include "sample/render/relief.h"
+#include "sample/render/tabletop.h"
 
 #include <array>
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int kWidth = 200;
-constexpr int kHeight = 124;
-const QPointF kMiddle(100, 61);
-
-QPainterPath Ellipse(const QPointF& middle, double across, double down)
-{
-    QPainterPath path;
-    path.addEllipse(middle, across, down);
-    return path;
-}
-
-QPainterPath Panel(const QRectF& box, double radius)
-{
-    QPainterPath path;
-    path.addRoundedRect(box, radius, radius);
-    return path;
-}
+constexpr int emblemWidth = 200;
+constexpr int emblemHeight = 124;
+const QPointF emblemMiddle(100, 61);
 
 /// The three bars of the tail lamps, which all bodies but one have in common.
 QPainterPath ThreeBars(const QPointF& middle, double width, double height)
@@ -44,9 +32,8 @@ QPainterPath ThreeBars(const QPointF& middle, double width, double height)
 /// one.
 QPainterPath Wing()
 {
-    return PathFromText(
-        QStringLiteral("M0,-9 C20,-14 44,-14 72,-20 C68,-12 62,-8 54,-6 C60,-6 62,-6 66,-7 C60,0 52,2 "
-                       "44,2 C48,3 50,3 54,3 C46,10 24,11 0,9 Z"));
+    return PathFromText(u"M0,-9 C20,-14 44,-14 72,-20 C68,-12 62,-8 54,-6 C60,-6 62,-6 66,-7 C60,0 52,2 "
+                        "44,2 C48,3 50,3 54,3 C46,10 24,11 0,9 Z"_s);
 }
 
 void AddWings(Relief& relief, const QPointF& at, const Coat& coat)
@@ -57,10 +44,10 @@ void AddWings(Relief& relief, const QPointF& at, const Coat& coat)
 
 void AddPlate(Relief& relief, const QString& words, double y, const QColor& enamel)
 {
-    QPainterPath letters = Lettering(words, 8.5, {QStringLiteral("Liberation Sans"), true, false, 135, 1.0});
+    QPainterPath letters = Lettering(words, 8.5, {u"Liberation Sans"_s, true, false, 135, 1.0});
     const double half = letters.boundingRect().width() / 2 + 9;
-    relief.Add(Panel(QRectF(100 - half, y - 9, half * 2, 18), 4), Chrome(), {3, 3, 3, 2});
-    relief.Add(Panel(QRectF(100 - half + 2.5, y - 6.5, half * 2 - 5, 13), 2.5), Enamel(enamel),
+    relief.Add(Rounded(QRectF(100 - half, y - 9, half * 2, 18), 4), Chrome(), {3, 3, 3, 2});
+    relief.Add(Rounded(QRectF(100 - half + 2.5, y - 6.5, half * 2 - 5, 13), 2.5), Enamel(enamel),
                {5, -1, 2, 0});
     relief.Add(Centred(letters, {100, y}), Chrome(), {5, 0.5, 0.6, 0.5});
 }
@@ -69,7 +56,7 @@ void AddPlate(Relief& relief, const QString& words, double y, const QColor& enam
 void FirstEmblem(Relief& relief, int year)
 {
     constexpr std::array<QRgb, 4> enamels = {0xA0101C, 0x123C86, 0xA0101C, 0x0E5A40};
-    const QPointF middle = kMiddle + QPointF(0, -4);
+    const QPointF middle = emblemMiddle + QPointF(0, -4);
     AddWings(relief, middle + QPointF(0, -6), Chrome());
     relief.Add(ShieldPath(middle, 45), Chrome(), {2, 5, 6, 3});
     Coat red = Enamel(QColor(enamels[static_cast<std::size_t>(year - 1967)]));
@@ -83,16 +70,16 @@ void FirstEmblem(Relief& relief, int year)
 void SecondEmblem(Relief& relief, int year)
 {
     constexpr std::array<QRgb, 3> grounds = {0x101216, 0x2A1636, 0x33400F};
-    relief.Add(Panel(QRectF(14, 26, 172, 70), 16), Chrome(), {0, 6, 7, 4});
-    relief.Add(Panel(QRectF(23, 35, 154, 52), 10),
+    relief.Add(Rounded(QRectF(14, 26, 172, 70), 16), Chrome(), {0, 6, 7, 4});
+    relief.Add(Rounded(QRectF(23, 35, 154, 52), 10),
                Enamel(QColor(grounds[static_cast<std::size_t>(year - 1971)])), {5, -2.5, 4, 0});
     const std::array<QColor, 3> bars = {QColor(190, 20, 28), QColor(236, 232, 222), QColor(26, 70, 160)};
     for (int i = 0; i < 3; ++i) {
-        relief.Add(Panel(QRectF(32, 41.0 + i * 14, 136, 11), 2), Chrome(), {3, 1.5, 2, 0});
-        relief.Add(Panel(QRectF(34, 42.5 + i * 14, 132, 8), 1), Enamel(bars[static_cast<std::size_t>(i)]),
+        relief.Add(Rounded(QRectF(32, 41.0 + i * 14, 136, 11), 2), Chrome(), {3, 1.5, 2, 0});
+        relief.Add(Rounded(QRectF(34, 42.5 + i * 14, 132, 8), 1), Enamel(bars[static_cast<std::size_t>(i)]),
                    {4, -0.8, 1.5, 0});
     }
-    relief.Add(WingedT(kMiddle + QPointF(0, 2), 40), Chrome(), {5, 5, 6, 4});
+    relief.Add(WingedT(emblemMiddle + QPointF(0, 2), 40), Chrome(), {5, 5, 6, 4});
 }
 
 /// 1974 to 1978: a round medal with a ring of letters.
@@ -100,27 +87,29 @@ void ThirdEmblem(Relief& relief, int year)
 {
     constexpr std::array<QRgb, 5> rings = {0x5B2A14, 0x14305C, 0x1C3C9A, 0x16181C, 0x7A1018};
     const bool parade = year == 1976;
-    relief.Add(Ellipse(kMiddle, 56, 56), year == 1978 ? Gold() : Chrome(), {0, 6, 6, 4});
-    relief.Add(Ellipse(kMiddle, 50, 50), Enamel(QColor(rings[static_cast<std::size_t>(year - 1974)])),
+    relief.Add(Ellipse(emblemMiddle, 56, 56), year == 1978 ? Gold() : Chrome(), {0, 6, 6, 4});
+    relief.Add(Ellipse(emblemMiddle, 50, 50), Enamel(QColor(rings[static_cast<std::size_t>(year - 1974)])),
                {5, -1.5, 3, 0});
-    relief.Add(Ellipse(kMiddle, 35, 35), Chrome(), {4, 3, 3, 1});
+    relief.Add(Ellipse(emblemMiddle, 35, 35), Chrome(), {4, 3, 3, 1});
     Coat field = Enamel(parade ? QColor(232, 232, 226) : QColor(18, 18, 20));
     field.rays = 72;
-    field.rayFrom = kMiddle;
-    relief.Add(Ellipse(kMiddle, 32, 32), field, {6, -1.5, 3, 0});
+    field.rayFrom = emblemMiddle;
+    relief.Add(Ellipse(emblemMiddle, 32, 32), field, {6, -1.5, 3, 0});
     if (parade)
-        relief.Add(ThreeBars(kMiddle, 34, 60).intersected(Ellipse(kMiddle, 31, 31)),
+        relief.Add(ThreeBars(emblemMiddle, 34, 60).intersected(Ellipse(emblemMiddle, 31, 31)),
                    Enamel(QColor(24, 60, 160)), {5, 1, 2, 0});
-    relief.Add(WingedT(kMiddle + QPointF(0, 1), 25), year == 1978 ? Gold() : Chrome(), {5, 4, 4, 2});
-    const QString words = QStringLiteral("TORVIK");
-    const Type type{QStringLiteral("Liberation Sans"), true, false, 100, 1.0};
+    relief.Add(WingedT(emblemMiddle + QPointF(0, 1), 25), year == 1978 ? Gold() : Chrome(), {5, 4, 4, 2});
+    const QString words = u"TORVIK"_s;
+    const Type type{u"Liberation Sans"_s, true, false, 100, 1.0};
     for (int i = 0; i < 6; ++i) {
         const double angle = (i - 2.5) * 22;
         const auto around = [&](double degrees) {
-            return QTransform::fromTranslate(kMiddle.x(), kMiddle.y()).rotate(degrees).translate(0, -42.5);
+            return QTransform::fromTranslate(emblemMiddle.x(), emblemMiddle.y())
+                .rotate(degrees)
+                .translate(0, -42.5);
         };
-        const QPainterPath letter = Centred(Lettering(words.mid(i, 1), 8, type), {0, 0});
-        relief.Add(around(angle).map(letter), Chrome(), {4, 0.7, 0.8, 0.5});
+        relief.Add(around(angle).map(Centred(Lettering(words.mid(i, 1), 8, type), {0, 0})), Chrome(),
+                   {4, 0.7, 0.8, 0.5});
         relief.Add(around(180 + angle).map(Ellipse({0, 0}, 2.2, 2.2)), Chrome(), {4, 0.7, 0.8, 0.5});
     }
 }
@@ -129,28 +118,26 @@ void ThirdEmblem(Relief& relief, int year)
 void FourthEmblem(Relief& relief, int year)
 {
     const bool late = year >= 1985;
-    const QPainterPath frame = PathFromText(QStringLiteral("M40,28 L176,28 L160,84 L24,84 Z"));
-    const QPainterPath field = PathFromText(QStringLiteral("M43,33 L169.5,33 L156.5,79 L30.5,79 Z"));
+    const QPainterPath frame = PathFromText(u"M40,28 L176,28 L160,84 L24,84 Z"_s);
+    const QPainterPath field = PathFromText(u"M43,33 L169.5,33 L156.5,79 L30.5,79 Z"_s);
     relief.Add(frame, Chrome(), {0, 4, 2.5, 3});
     relief.Add(field, Enamel(late ? QColor(16, 17, 20) : QColor(52, 55, 60)), {3.5, -1, 2, 0});
     constexpr std::array<QRgb, 5> colours = {0xC8502A, 0xB01C20, 0x1E56A8, 0xC41E24, 0xD09A1C};
     for (int i = 0; i < 3; ++i) {
         const double x = 121.0 + i * 11;
-        const QPainterPath bar = PathFromText(
-            QStringLiteral("M%1,40 L%2,40 L%3,72 L%4,72 Z").arg(x + 9).arg(x + 16).arg(x + 7).arg(x));
-        relief.Add(bar, Enamel(QColor(colours[static_cast<std::size_t>(year - 1979 + i) % colours.size()])),
-                   {3, 1.5, 1.5, 0.5});
+        const QPainterPath bar =
+            PathFromText(u"M%1,40 L%2,40 L%3,72 L%4,72 Z"_s.arg(x + 9).arg(x + 16).arg(x + 7).arg(x));
+        relief.Add(bar, Enamel(QColor(Cycled(colours, year - 1979 + i))), {3, 1.5, 1.5, 0.5});
     }
     QTransform lean;
     lean.translate(76, 57).shear(-0.28, 0);
     relief.Add(lean.map(WingedT({0, -2}, 27)), Chrome(), {3, 3, 2.5, 1.5});
     if (year == 1984)
-        AddPlate(relief, QStringLiteral("20 YEARS"), 100, QColor(120, 14, 22));
+        AddPlate(relief, u"20 YEARS"_s, 100, QColor(120, 14, 22));
     else
-        relief.Add(Centred(Lettering(QStringLiteral("TORVIK"), 9,
-                                     {QStringLiteral("Liberation Sans"), true, false, 190, 1.2}),
-                           {96, 100}),
-                   Chrome(), {0, 0.8, 0.9, 1});
+        relief.Add(
+            Centred(Lettering(u"TORVIK"_s, 9, {u"Liberation Sans"_s, true, false, 190, 1.2}), {96, 100}),
+            Chrome(), {0, 0.8, 0.9, 1});
 }
 
 /// 1989 to 1998: an oval without a corner.
@@ -159,7 +146,7 @@ void FifthEmblem(Relief& relief, int year)
     constexpr std::array<QRgb, 10> enamels = {0x14306E, 0x14306E, 0x10655E, 0x8C1438, 0x0C6A66,
                                               0xA01420, 0x1A2E78, 0x2C4450, 0x7A3A18, 0x54407A};
     const double lower = year == 1994 ? -8 : 0;
-    const QPointF middle = kMiddle + QPointF(0, lower);
+    const QPointF middle = emblemMiddle + QPointF(0, lower);
     relief.Add(Ellipse(middle, 82, 44), Chrome(), {0, 6, 8, 4});
     Coat field = Enamel(QColor(enamels[static_cast<std::size_t>(year - 1989)]));
     field.rays = 90;
@@ -168,24 +155,22 @@ void FifthEmblem(Relief& relief, int year)
     AddWings(relief, middle + QPointF(-1, 2), Chrome());
     relief.Add(WingedT(middle + QPointF(0, 2), 28), Chrome(), {5, 5, 5, 2});
     if (year == 1994)
-        AddPlate(relief, QStringLiteral("30 YEARS"), 108, QColor(20, 22, 26));
+        AddPlate(relief, u"30 YEARS"_s, 108, QColor(20, 22, 26));
 }
 
 /// 1999 to 2001: the first shield again, with sharp creases and three bars.
 void SixthEmblem(Relief& relief, int year)
 {
-    const QPointF middle = kMiddle + QPointF(0, year == 1999 ? -8 : -2);
-    const QPainterPath body =
-        PathFromText(QStringLiteral("M-56,-44 L56,-44 L46,8 L0,50 L-46,8 Z")).translated(middle);
-    const QPainterPath inner =
-        PathFromText(QStringLiteral("M-47,-36 L47,-36 L39,4 L0,39 L-39,4 Z")).translated(middle);
+    const QPointF middle = emblemMiddle + QPointF(0, year == 1999 ? -8 : -2);
+    const QPainterPath body = PathFromText(u"M-56,-44 L56,-44 L46,8 L0,50 L-46,8 Z"_s).translated(middle);
+    const QPainterPath inner = PathFromText(u"M-47,-36 L47,-36 L39,4 L0,39 L-39,4 Z"_s).translated(middle);
     constexpr std::array<QRgb, 3> enamels = {0x96101C, 0x17181B, 0x0E3A2A};
     relief.Add(body, Chrome(), {0, 6, 7, 4});
     relief.Add(inner, Enamel(QColor(enamels[static_cast<std::size_t>(year - 1999)])), {6, -2, 3, 0});
     relief.Add(ThreeBars(middle + QPointF(0, -4), 58, 90).intersected(inner), Chrome(), {3.5, 1, 1.5, 0});
     relief.Add(WingedT(middle + QPointF(0, -4), 34), Chrome(), {5, 5, 4, 3});
     if (year == 1999)
-        AddPlate(relief, QStringLiteral("35 YEARS"), 110, QColor(20, 22, 26));
+        AddPlate(relief, u"35 YEARS"_s, 110, QColor(20, 22, 26));
 }
 
 void HarwellEmblem(Relief& relief)
@@ -193,59 +178,39 @@ void HarwellEmblem(Relief& relief)
     for (const double side : {-1.0, 1.0}) {
         for (int i = 0; i < 6; ++i) {
             const double angle = (-62 + i * 25) * side;
-            QTransform leaf = QTransform::fromTranslate(kMiddle.x() + side * 12, kMiddle.y());
+            QTransform leaf = QTransform::fromTranslate(emblemMiddle.x() + side * 12, emblemMiddle.y());
             leaf.rotate(angle + side * 90).translate(0, -47).rotate(side * 50);
             relief.Add(leaf.map(Ellipse({0, 0}, 5, 12)), Gold(), {0, 4, 4, 2});
         }
     }
-    relief.Add(Ellipse(kMiddle, 40, 46), Gold(), {2, 5, 5, 3});
+    relief.Add(Ellipse(emblemMiddle, 40, 46), Gold(), {2, 5, 5, 3});
     Coat field = Enamel(QColor(92, 12, 30));
     field.rays = 60;
-    field.rayFrom = kMiddle;
-    relief.Add(Ellipse(kMiddle, 34, 40), field, {6, -1.5, 4, 0});
-    relief.Add(Centred(Lettering(QStringLiteral("H"), 38, {QStringLiteral("Liberation Serif"), true}),
-                       kMiddle + QPointF(0, 6)),
+    field.rayFrom = emblemMiddle;
+    relief.Add(Ellipse(emblemMiddle, 34, 40), field, {6, -1.5, 4, 0});
+    relief.Add(Centred(Lettering(u"H"_s, 38, {u"Liberation Serif"_s, true}), emblemMiddle + QPointF(0, 6)),
                Gold(), {5, 3.5, 3, 2});
-    relief.Add(PathFromText(QStringLiteral("M-16,8 L-20,-8 L-9,0 L0,-12 L9,0 L20,-8 L16,8 Z"))
-                   .translated(kMiddle + QPointF(0, -28)),
+    relief.Add(PathFromText(u"M-16,8 L-20,-8 L-9,0 L0,-12 L9,0 L20,-8 L16,8 Z"_s)
+                   .translated(emblemMiddle + QPointF(0, -28)),
                Gold(), {6, 3, 3, 2});
 }
 
 void PrototypeEmblem(Relief& relief)
 {
-    relief.Add(Panel(QRectF(22, 14, 156, 94), 5), Matte(QColor(126, 98, 70)), {0, 4, 3, 3});
+    relief.Add(Rounded(QRectF(22, 14, 156, 94), 5), Matte(QColor(126, 98, 70)), {0, 4, 3, 3});
     for (const QPointF& hole : {QPointF(34, 26), QPointF(166, 26), QPointF(34, 96), QPointF(166, 96)})
         relief.Add(Ellipse(hole, 4.5, 4.5), Chrome(), {3, 2, 4, 1});
-    relief.Add(WingedT(kMiddle + QPointF(0, -8), 40), Gold(), {4, 5, 6, 4});
-    relief.Add(Centred(Lettering(QStringLiteral("PROJECT T-5"), 9,
-                                 {QStringLiteral("Liberation Mono"), true, false, 120, 1.0}),
-                       {100, 96}),
-               Gold(), {3.5, 0.6, 0.8, 0.8});
-}
-
-void AddYear(Relief& relief, int year)
-{
-    switch (GenerationOfYear(year)) {
-    case 1:
-        return FirstEmblem(relief, year);
-    case 2:
-        return SecondEmblem(relief, year);
-    case 3:
-        return ThirdEmblem(relief, year);
-    case 4:
-        return FourthEmblem(relief, year);
-    case 5:
-        return FifthEmblem(relief, year);
-    default:
-        return SixthEmblem(relief, year);
-    }
+    relief.Add(WingedT(emblemMiddle + QPointF(0, -8), 40), Gold(), {4, 5, 6, 4});
+    relief.Add(
+        Centred(Lettering(u"PROJECT T-5"_s, 9, {u"Liberation Mono"_s, true, false, 120, 1.0}), {100, 96}),
+        Gold(), {3.5, 0.6, 0.8, 0.8});
 }
 
 } // namespace
 
 QImage PaintEmblem(const SmallPicture& emblem)
 {
-    const QSize size(kWidth, kHeight);
+    const QSize size(emblemWidth, emblemHeight);
     Relief relief(size);
     switch (emblem.marque) {
     case Marque::Harwell:
@@ -257,7 +222,9 @@ QImage PaintEmblem(const SmallPicture& emblem)
     case Marque::Vollandry:
         break;
     }
-    AddYear(relief, emblem.year);
+    constexpr void (*generations[])(Relief&, int) = {FirstEmblem,  SecondEmblem, ThirdEmblem,
+                                                     FourthEmblem, FifthEmblem,  SixthEmblem};
+    generations[GenerationOfYear(emblem.year) - 1](relief, emblem.year);
     return relief.Over(SoftGround(size, QColor(196, 200, 206), QColor(120, 126, 136)));
 }
 

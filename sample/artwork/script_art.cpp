@@ -1,54 +1,47 @@
-#include "script_art.h"
-
-#include "lettering.h"
-#include "pen_script.h"
-#include "relief.h"
-#include "sample/car_shape.h"
-#include "sample/paints.h"
+#include "sample/artwork/art_plan.h"
+#include "sample/artwork/pen_script.h"
+#include "sample/car/car_shape.h"
+#include "sample/car/paints.h"
+#include "sample/geometry/lettering.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/shapes.h"
+#include "sample/render/relief.h"
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QSize kSize(240, 72);
+const QSize plateSize(240, 72);
 
 /// Lacquer as the ground, with the sky in its upper half.
 QImage Lacquer(const QColor& paint)
 {
-    QImage ground(kSize, QImage::Format_RGB32);
+    QImage ground(plateSize, QImage::Format_RGB32);
     QPainter painter(&ground);
     const QColor mild = QColor::fromHsv(std::max(0, paint.hue()), paint.saturation() * 6 / 10,
                                         std::clamp(paint.value() * 6 / 10, 44, 104));
-    QLinearGradient light(0, 0, 0, kSize.height());
-    light.setColorAt(0, mild.lighter(165));
-    light.setColorAt(0.42, mild.lighter(118));
-    light.setColorAt(0.52, mild.darker(112));
-    light.setColorAt(1, mild.darker(135));
-    painter.fillRect(ground.rect(), light);
+    painter.fillRect(ground.rect(), Linear({0, 0}, {0, plateSize.height() * 1.0},
+                                           Shades(mild, {{0, 165}, {0.42, 118}, {0.52, -112}, {1, -135}})));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(255, 255, 255, 70), 1));
-    painter.drawRect(QRectF(1.5, 1.5, kSize.width() - 3, kSize.height() - 3));
+    painter.drawRect(QRectF(1.5, 1.5, plateSize.width() - 3, plateSize.height() - 3));
     painter.setPen(QPen(QColor(0, 0, 0, 170), 1));
-    painter.drawRect(QRectF(0.5, 0.5, kSize.width() - 1, kSize.height() - 1));
+    painter.drawRect(QRectF(0.5, 0.5, plateSize.width() - 1, plateSize.height() - 1));
     return ground;
 }
 
 void AddInk(Relief& relief, const QString& word, const QPointF& at, double xHeight, double spread,
             const Coat& coat)
 {
-    Pen pen;
-    pen.xHeight = xHeight;
-    pen.spread = spread;
-    pen.broad = 0.22;
-    pen.fine = 0.13;
+    const Pen pen{.xHeight = xHeight, .broad = 0.22, .fine = 0.13, .spread = spread};
     relief.Add(WriteWord(word, pen).translated(at), coat, {0, 3, 2.6, 2});
 }
 
 QPainterPath Bar(const QRectF& box)
 {
-    QPainterPath path;
-    path.addRoundedRect(box, box.height() / 2, box.height() / 2);
-    return path;
+    return Rounded(box, box.height() / 2);
 }
 
 void AddLetters(Relief& relief, const QString& words, const QPointF& middle, double height, const Type& type,
@@ -67,24 +60,24 @@ void AddFilledLetters(Relief& relief, const QString& words, const QPointF& middl
     relief.Add(letters, Enamel(fill), {2, -0.6, 1.2, 0});
 }
 
-const Type kBlock{QStringLiteral("Liberation Sans"), true, false, 150, 1.15};
-const Type kLeaning{QStringLiteral("Liberation Sans"), true, true, 108, 1.1};
-const Type kBook{QStringLiteral("Liberation Serif"), true, true, 104, 1.15};
+const Type blockType{u"Liberation Sans"_s, true, false, 150, 1.15};
+const Type leaningType{u"Liberation Sans"_s, true, true, 108, 1.1};
+const Type bookType{u"Liberation Serif"_s, true, true, 104, 1.15};
 
 void FirstScript(Relief& relief, int year)
 {
-    AddInk(relief, QStringLiteral("Vollandry"), {17, year >= 1969 ? 45.0 : 48.0}, 17.5, 1.32, Chrome());
+    AddInk(relief, u"Vollandry"_s, {17, year >= 1969 ? 45.0 : 48.0}, 17.5, 1.32, Chrome());
     if (year >= 1969)
-        AddLetters(relief, year == 1969 ? QStringLiteral("HESSEL 5.8") : QStringLiteral("RAVENSGATE 6.7"),
-                   {92, 63}, 8, kBlock, Chrome());
+        AddLetters(relief, year == 1969 ? u"HESSEL 5.8"_s : u"RAVENSGATE 6.7"_s, {92, 63}, 8, blockType,
+                   Chrome());
 }
 
 void SecondScript(Relief& relief, int year)
 {
-    AddLetters(relief, QStringLiteral("Torvik"), {118, year == 1971 ? 28.0 : 34.0}, 27, kBook, Chrome());
+    AddLetters(relief, u"Torvik"_s, {118, year == 1971 ? 28.0 : 34.0}, 27, bookType, Chrome());
     relief.Add(Bar(QRectF(34, 51, 172, 3.4)), Chrome(), {0, 2, 1.7, 1});
     if (year == 1971)
-        AddLetters(relief, QStringLiteral("RAVENSGATE 7.2"), {140, 64}, 7.5, kBlock, Chrome());
+        AddLetters(relief, u"RAVENSGATE 7.2"_s, {140, 64}, 7.5, blockType, Chrome());
     if (year == 1973)
         relief.Add(Bar(QRectF(34, 58, 172, 3.4)), Enamel(QColor(196, 30, 34)), {0, 1.6, 1.5, 1});
 }
@@ -92,82 +85,63 @@ void SecondScript(Relief& relief, int year)
 void ThirdScript(Relief& relief, int year)
 {
     const Coat coat = year == 1978 ? Gold() : Chrome();
-    AddInk(relief, QStringLiteral("Torvik"), {26, 42}, 15.5, 1.3, coat);
+    AddInk(relief, u"Torvik"_s, {26, 42}, 15.5, 1.3, coat);
     if (year >= 1975)
-        AddFilledLetters(relief, QStringLiteral("5.0"), {196, 32}, 20, kLeaning, QColor(178, 22, 26));
-    AddLetters(relief, QStringLiteral("VOLLANDRY"), {112, 60}, 9, kBlock, coat);
+        AddFilledLetters(relief, u"5.0"_s, {196, 32}, 20, leaningType, QColor(178, 22, 26));
+    AddLetters(relief, u"VOLLANDRY"_s, {112, 60}, 9, blockType, coat);
 }
 
 void FourthScript(Relief& relief, int year)
 {
     const bool turbo = year >= 1980 && year <= 1982;
     const QColor fill = year >= 1985 ? QColor(176, 20, 26) : QColor(18, 18, 20);
-    AddFilledLetters(relief, QStringLiteral("VOLLANDRY"), {120, 27}, 17,
-                     {QStringLiteral("Liberation Sans"), true, false, 112, 1.12}, fill);
-    const QString plate = turbo          ? QStringLiteral("TURBO")
-                          : year == 1979 ? QStringLiteral("TORVIK")
-                          : year < 1985  ? QStringLiteral("5.0")
-                          : year == 1985 ? QStringLiteral("5.0 FOUR-BARREL")
-                          : year == 1986 ? QStringLiteral("5.0 SEQUENTIAL")
-                                         : QStringLiteral("5.0 HO");
-    AddLetters(relief, plate, {120, 54}, 10, {QStringLiteral("Liberation Sans"), true, true, 125, 1.1},
-               Chrome());
+    AddFilledLetters(relief, u"VOLLANDRY"_s, {120, 27}, 17, {u"Liberation Sans"_s, true, false, 112, 1.12},
+                     fill);
+    const QString plate = turbo          ? u"TURBO"_s
+                          : year == 1979 ? u"TORVIK"_s
+                          : year < 1985  ? u"5.0"_s
+                          : year == 1985 ? u"5.0 FOUR-BARREL"_s
+                          : year == 1986 ? u"5.0 SEQUENTIAL"_s
+                                         : u"5.0 HO"_s;
+    AddLetters(relief, plate, {120, 54}, 10, {u"Liberation Sans"_s, true, true, 125, 1.1}, Chrome());
 }
 
 void FifthScript(Relief& relief, int year)
 {
-    AddLetters(relief, QStringLiteral("Vollandry"), {112, 27}, 22, kLeaning, Chrome());
-    const QString engine = year < 1996 ? QStringLiteral("5.0 HO") : QStringLiteral("4.7 OHC");
-    AddFilledLetters(relief, year == 1993 ? QStringLiteral("KESTRA 5.0") : engine, {166, 57}, 12, kLeaning,
+    AddLetters(relief, u"Vollandry"_s, {112, 27}, 22, leaningType, Chrome());
+    const QString engine = year < 1996 ? u"5.0 HO"_s : u"4.7 OHC"_s;
+    AddFilledLetters(relief, year == 1993 ? u"KESTRA 5.0"_s : engine, {166, 57}, 12, leaningType,
                      year % 2 == 0 ? QColor(172, 20, 28) : QColor(22, 58, 130));
 }
 
 void SixthScript(Relief& relief, int year)
 {
     relief.Add(Bar(QRectF(20, 53, 200, 3)), Chrome(), {0, 2, 1.5, 1});
-    AddInk(relief, QStringLiteral("Vollandry"), {20, 42}, 16.5, 1.32, Chrome());
-    const QString plate = year == 2000   ? QStringLiteral("KESTRA R")
-                          : year == 2001 ? QStringLiteral("PORT AVEREL")
-                                         : QStringLiteral("SINCE 1967");
-    AddLetters(relief, plate, {78, 64.5}, 7.5, kBlock, Chrome());
-}
-
-void AddYear(Relief& relief, int year)
-{
-    switch (GenerationOfYear(year)) {
-    case 1:
-        return FirstScript(relief, year);
-    case 2:
-        return SecondScript(relief, year);
-    case 3:
-        return ThirdScript(relief, year);
-    case 4:
-        return FourthScript(relief, year);
-    case 5:
-        return FifthScript(relief, year);
-    default:
-        return SixthScript(relief, year);
-    }
+    AddInk(relief, u"Vollandry"_s, {20, 42}, 16.5, 1.32, Chrome());
+    const QString plate = year == 2000 ? u"KESTRA R"_s : year == 2001 ? u"PORT AVEREL"_s : u"SINCE 1967"_s;
+    AddLetters(relief, plate, {78, 64.5}, 7.5, blockType, Chrome());
 }
 
 } // namespace
 
 QImage PaintScript(const SmallPicture& script)
 {
-    Relief relief(kSize);
+    Relief relief(plateSize);
     switch (script.marque) {
     case Marque::Harwell:
-        AddInk(relief, QStringLiteral("Harwell"), {36, 48}, 19, 1.35, Gold());
+        AddInk(relief, u"Harwell"_s, {36, 48}, 19, 1.35, Gold());
         return relief.Over(Lacquer(QColor(78, 15, 28)));
     case Marque::Prototype:
-        AddInk(relief, QStringLiteral("Torvik"), {50, 48}, 18.5, 1.5, Gold());
+        AddInk(relief, u"Torvik"_s, {50, 48}, 18.5, 1.5, Gold());
         return relief.Over(Lacquer(QColor(120, 104, 82)));
     case Marque::Vollandry:
         break;
     }
-    AddYear(relief, script.year);
+    constexpr void (*generations[])(Relief&, int) = {FirstScript,  SecondScript, ThirdScript,
+                                                     FourthScript, FifthScript,  SixthScript};
+    generations[GenerationOfYear(script.year) - 1](relief, script.year);
     const std::vector<Paint>& card = PaintsOfYear(script.year);
-    return relief.Over(Lacquer(card[static_cast<std::size_t>(script.year * 3) % card.size()].colour));
+    return relief.Over(Lacquer(Cycled(card, script.year * 3).colour));
 }
 
 } // namespace torvik::sample

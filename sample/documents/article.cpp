@@ -1,4 +1,4 @@
-#include "article.h"
+#include "sample/documents/article.h"
 
 namespace torvik::sample {
 
@@ -54,13 +54,8 @@ Article::Article(const QString& title, Dialect dialect, int written, const Artic
 
 Paragraph Article::Plain(const QString& text) const
 {
-    Look look;
-    look.face = style_.body;
-    look.halfPoints = style_.bodySize;
-    Paragraph paragraph;
-    paragraph.runs = RunsOf(text, look, style_.accent);
-    paragraph.after = 0;
-    return paragraph;
+    return {.runs = RunsOf(text, {.face = style_.body, .halfPoints = style_.bodySize}, style_.accent),
+            .after = 0};
 }
 
 Paragraph Article::Body(const QString& text) const
@@ -72,17 +67,27 @@ Paragraph Article::Body(const QString& text) const
     return paragraph;
 }
 
+Paragraph Article::Indented(Paragraph paragraph, int left, int first, int after, Mark mark)
+{
+    paragraph.left = left;
+    paragraph.first = first;
+    paragraph.after = after;
+    paragraph.mark = mark;
+    if (mark != Mark::None)
+        paragraph.tabs = {{left}};
+    return paragraph;
+}
+
+Paragraph Article::Head(const QString& text, int halfPoints, const QString& bookmark) const
+{
+    const Look look{.face = style_.heading, .halfPoints = halfPoints, .bold = true, .colour = style_.accent};
+    return {.runs = RunsOf(text, look, style_.accent), .bookmark = bookmark};
+}
+
 void Article::Title(const QString& text, const QString& bookmark)
 {
-    Look look;
-    look.face = style_.heading;
-    look.halfPoints = 36;
-    look.bold = true;
-    look.colour = style_.accent;
-    Paragraph paragraph;
-    paragraph.runs = RunsOf(text, look, style_.accent);
+    Paragraph paragraph = Head(text, 36, bookmark);
     paragraph.heading = 1;
-    paragraph.bookmark = bookmark;
     paragraph.after = 160;
     paragraph.ruleBelow = true;
     if (!document_.blocks.empty()) { // the rule makes it a table, which paragraphs' spaces do not reach
@@ -95,15 +100,8 @@ void Article::Title(const QString& text, const QString& bookmark)
 
 void Article::Heading(const QString& text, const QString& bookmark)
 {
-    Look look;
-    look.face = style_.heading;
-    look.halfPoints = 24;
-    look.bold = true;
-    look.colour = style_.accent;
-    Paragraph paragraph;
-    paragraph.runs = RunsOf(text, look, style_.accent);
+    Paragraph paragraph = Head(text, 24, bookmark);
     paragraph.heading = 2;
-    paragraph.bookmark = bookmark;
     paragraph.before = 200;
     paragraph.after = 80;
     Add(paragraph);
@@ -111,7 +109,7 @@ void Article::Heading(const QString& text, const QString& bookmark)
 
 void Article::Text(const QString& text)
 {
-    // Lines with tabs stand close together; the text behind them keeps its distance.
+    // Lines with tabs stand close together; the text after them keeps its distance.
     auto* before = document_.blocks.empty() ? nullptr : std::get_if<Paragraph>(&document_.blocks.back());
     if (before && before->mark == Mark::None && !before->tabs.empty())
         before->after = 120;
@@ -130,39 +128,21 @@ void Article::Quote(const QString& text)
 
 void Article::Bullet(const QString& text)
 {
-    Paragraph paragraph = Plain(text);
-    paragraph.mark = Mark::Bullet;
-    paragraph.left = 500;
-    paragraph.first = -300;
-    paragraph.after = 50;
-    paragraph.tabs = {{500, TabStop::Kind::Left, false}};
-    Add(paragraph);
+    Add(Indented(Plain(text), 500, -300, 50, Mark::Bullet));
 }
 
 void Article::Numbered(const QString& text)
 {
-    Paragraph paragraph = Plain(text);
-    paragraph.mark = Mark::Number;
-    paragraph.left = 600;
-    paragraph.first = -400;
-    paragraph.after = 80;
-    paragraph.tabs = {{600, TabStop::Kind::Left, false}};
-    paragraph.number = 1;
-    if (!document_.blocks.empty()) {
-        const auto* before = std::get_if<Paragraph>(&document_.blocks.back());
-        if (before && before->mark == Mark::Number)
-            paragraph.number = before->number + 1;
-    }
+    Paragraph paragraph = Indented(Plain(text), 600, -400, 80, Mark::Number);
+    const auto* before =
+        document_.blocks.empty() ? nullptr : std::get_if<Paragraph>(&document_.blocks.back());
+    paragraph.number = before && before->mark == Mark::Number ? before->number + 1 : 1;
     Add(paragraph);
 }
 
 void Article::Hanging(const QString& text)
 {
-    Paragraph paragraph = Body(text);
-    paragraph.left = 480;
-    paragraph.first = -480;
-    paragraph.after = 90;
-    Add(paragraph);
+    Add(Indented(Body(text), 480, -480, 90, Mark::None));
 }
 
 void Article::Aligned(const QString& text, Align align)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rich_document.h"
+#include "sample/files/rich_document.h"
 
 namespace torvik::sample {
 
@@ -50,6 +50,8 @@ public:
 
 private:
     Paragraph Body(const QString& text) const;
+    Paragraph Head(const QString& text, int halfPoints, const QString& bookmark) const;
+    static Paragraph Indented(Paragraph paragraph, int left, int first, int after, Mark mark);
     void AddRoom();
 
     RichDocument document_;

@@ -1,7 +1,7 @@
-#include "article_source.h"
+#include "sample/documents/article_source.h"
 
-#include "drawings.h"
-#include "text_store.h"
+#include "sample/documents/drawings.h"
+#include "sample/files/text_store.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -9,6 +9,8 @@
 #include <stdexcept>
 
 namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,8 +28,8 @@ public:
     }
 
 private:
-    static constexpr const char* kKinds[] = {">< ", ">> ", "|= ", "== ", "= ", "- ",
-                                             "+ ",  "> ",  "% ",  ": ",  "| ", "@"};
+    static constexpr const char* lineKinds[] = {">< ", ">> ", "|= ", "|+ ", "== ", "= ", "- ",
+                                                "+ ",  "> ",  "% ",  ": ",  "| ",  "@"};
 
     void ReadLine(const QString& line)
     {
@@ -36,7 +38,7 @@ private:
             FinishTable();
             return;
         }
-        for (const char* kind : kKinds) {
+        for (const char* kind : lineKinds) {
             const QString sign = QString::fromLatin1(kind);
             if (line.startsWith(sign)) {
                 const QString begun = line.mid(sign.size()).trimmed();
@@ -59,11 +61,11 @@ private:
         text_ += line.trimmed();
     }
 
-    bool SentenceEnds() const { return text_.isEmpty() || QStringLiteral(".?!”").contains(text_.back()); }
+    bool SentenceEnds() const { return text_.isEmpty() || u".?!”"_s.contains(text_.back()); }
 
     void FinishText()
     {
-        const QString text = QString(text_).replace(QStringLiteral("\\ "), QStringLiteral("\n"));
+        const QString text = QString(text_).replace(u"\\ "_s, u"\n"_s);
         const QString kind = kind_;
         text_.clear();
         kind_.clear();
@@ -90,7 +92,7 @@ private:
         else if (kind == u":")
             article_.Tabbed(PartsOf(text).join(u'\t'), tabs_);
         else if (kind.startsWith(u'|'))
-            AddRow(PartsOf(text), kind == u"|=");
+            AddRow(PartsOf(text), kind);
         else if (kind == u"@")
             Obey(text.split(u' ', Qt::SkipEmptyParts));
         else
@@ -111,8 +113,7 @@ private:
 
     static Drawing ScreenNamed(const QString& name, int width)
     {
-        Drawing drawing;
-        drawing.png = StoredScreen(name);
+        Drawing drawing{.png = StoredScreen(name)};
         const QSize pixels = QImage::fromData(drawing.png).size();
         if (pixels.isEmpty())
             throw std::runtime_error("A picture of a screen is damaged: " + name.toStdString());
@@ -129,14 +130,17 @@ private:
         return parts;
     }
 
-    void AddRow(const QStringList& parts, bool heading)
+    void AddRow(const QStringList& parts, const QString& kind)
     {
-        Row row;
-        row.heading = heading;
+        const bool sum = kind == u"|+";
+        Row row{.heading = kind == u"|="};
         for (qsizetype i = 0; i < parts.size(); ++i) {
             const Align align = aligns_.at(static_cast<std::size_t>(i));
-            Cell cell = heading ? article_.HeadCell(parts[i], align) : article_.CellOf(parts[i], align);
-            if (!heading && table_.rows.size() % 2 == 0 && table_.border != Border::None)
+            const QString part = sum ? u'*' + parts[i] + u'*' : parts[i];
+            Cell cell = row.heading ? article_.HeadCell(part, align) : article_.CellOf(part, align);
+            if (sum)
+                cell.shade = QColor(217, 217, 217);
+            else if (!row.heading && table_.rows.size() % 2 == 0 && table_.border != Border::None)
                 cell.shade = article_.Tint();
             row.cells.push_back(cell);
         }
@@ -155,7 +159,7 @@ private:
 
     static int Twips(const QString& word)
     {
-        static const QRegularExpression digits(QStringLiteral("^\\d+"));
+        static const QRegularExpression digits(u"^\\d+"_s);
         return digits.match(word).captured().toInt();
     }
 
@@ -213,7 +217,7 @@ void AddSource(Article& article, const QString& source)
 
 RichDocument ArticleOfSource(const QString& source)
 {
-    const QString divider = QStringLiteral("\n---\n");
+    const QString divider = u"\n---\n"_s;
     const qsizetype end = source.indexOf(divider);
     if (end < 0)
         throw std::runtime_error("An article has no head.");

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "article.h"
+#include "sample/documents/article.h"
 
 namespace torvik::sample {
 
 /// Adds blocks that are written as plain text. The first characters of a line tell its kind:
 ///   "= " title, "== " heading, "- " bullet, "+ " numbered, "> " quotation, "% " hanging,
-///   ">< " centred, ">> " right, ": " parts at the tab stops, "| " and "|= " table rows, parts separated by
-///   '|';
+///   ">< " centred, ">> " right, ": " parts at the tab stops, "| ", "|= " (heading) and "|+ " (sum)
+///   table rows, parts separated by '|';
 ///   "@tabs 700 6900r." tab stops (r right, c centred, d decimal, '.' a row of dots), "@rule",
 ///   "= Title {name}" and "== Heading {name}" carry a bookmark, to which [words|#name] leads,
 ///   "@screen main 5200" the picture screens/main.png,

@@ -1,17 +1,17 @@
-#include "document_plan.h"
+#include "sample/documents/document_plan.h"
 
-#include "article_source.h"
-#include "library_statistics.h"
-#include "model_years.h"
-#include "rich_writer.h"
-#include "sample/jpeg_file.h"
-#include "text_store.h"
-#include "year_articles.h"
+#include "sample/documents/article_source.h"
+#include "sample/documents/figures.h"
+#include "sample/documents/year_articles.h"
+#include "sample/files/jpeg_file.h"
+#include "sample/files/rich_document.h"
+#include "sample/files/text_store.h"
 
 #include <algorithm>
-#include <array>
 
 namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,54 +21,62 @@ struct LibraryFile {
     const char* text;
 };
 
-constexpr std::array kLibrary = {
-    LibraryFile{"books.rtf", "books"},
-    LibraryFile{"carstuff.rtf", "calendars"},
-    LibraryFile{"catalogs.rtf", "catalogs"},
-    LibraryFile{"contrib.rtf", "contributions"},
-    LibraryFile{"credits.rtf", "credits"},
-    LibraryFile{"danbury.rtf", "danbury"},
-    LibraryFile{"desc.rtf", "how_to_read"},
-    LibraryFile{"desperat.rtf", "metal_signs"},
-    LibraryFile{"ENGINES.rtf", "engines"},
-    LibraryFile{"franklin.rtf", "franklin"},
-    LibraryFile{"glossary.rtf", "glossary"},
-    LibraryFile{"idsellark.rtf", "sellark_guide"},
-    LibraryFile{"idTorvik.rtf", "identification"},
-    LibraryFile{"Introduction.rtf", "introduction"},
-    LibraryFile{"knives.rtf", "knives"},
-    LibraryFile{"m1stats.rtf", "kestra_one"},
-    LibraryFile{"m3stats.rtf", "kestra_three"},
-    LibraryFile{"mag4.rtf", "magazine_torvik_fords"},
-    LibraryFile{"mag5.rtf", "magazine_five"},
-    LibraryFile{"magmi.rtf", "magazine_illustrated"},
-    LibraryFile{"magmm.rtf", "magazine_monthly"},
-    LibraryFile{"magmmff.rtf", "magazine_muscle"},
-    LibraryFile{"monopoly.rtf", "monopoly"},
-    LibraryFile{"msstats.rtf", "super_stallion"},
-    LibraryFile{"notice.rtf", "notice"},
-    LibraryFile{"plates.rtf", "plates"},
-    LibraryFile{"PRIntro.rtf", "press_introduction"},
-    LibraryFile{"PRMarket.rtf", "press_market"},
-    LibraryFile{"PROptions.rtf", "press_options"},
-    LibraryFile{"ptdesc.rtf", "prototypes"},
-    LibraryFile{"sbcolors.rtf", "harwell_colours"},
-    LibraryFile{"sbopts.rtf", "harwell_options"},
-    LibraryFile{"sbstats.rtf", "harwell_figures"},
-    LibraryFile{"sshelp.rtf", "saver_help"},
-    LibraryFile{"stamps.rtf", "stamps"},
-    LibraryFile{"timeline.rtf", "timeline"},
-    LibraryFile{"TorvikAdsList.rtf", "advertisements"},
-    LibraryFile{"whatsnew.rtf", "whats_new"},
-};
+constexpr LibraryFile libraryFiles[] = {{"books.rtf", "books"},
+                                        {"carstuff.rtf", "calendars"},
+                                        {"catalogs.rtf", "catalogs"},
+                                        {"contrib.rtf", "contributions"},
+                                        {"credits.rtf", "credits"},
+                                        {"danbury.rtf", "danbury"},
+                                        {"desc.rtf", "how_to_read"},
+                                        {"desperat.rtf", "metal_signs"},
+                                        {"ENGINES.rtf", "engines"},
+                                        {"franklin.rtf", "franklin"},
+                                        {"glossary.rtf", "glossary"},
+                                        {"idsellark.rtf", "sellark_guide"},
+                                        {"idTorvik.rtf", "identification"},
+                                        {"Introduction.rtf", "introduction"},
+                                        {"knives.rtf", "knives"},
+                                        {"m1stats.rtf", "kestra_one"},
+                                        {"m3stats.rtf", "kestra_three"},
+                                        {"mag4.rtf", "magazine_torvik_fords"},
+                                        {"mag5.rtf", "magazine_five"},
+                                        {"magmi.rtf", "magazine_illustrated"},
+                                        {"magmm.rtf", "magazine_monthly"},
+                                        {"magmmff.rtf", "magazine_muscle"},
+                                        {"monopoly.rtf", "monopoly"},
+                                        {"msstats.rtf", "super_stallion"},
+                                        {"notice.rtf", "notice"},
+                                        {"plates.rtf", "plates"},
+                                        {"PRIntro.rtf", "press_introduction"},
+                                        {"PRMarket.rtf", "press_market"},
+                                        {"PROptions.rtf", "press_options"},
+                                        {"ptdesc.rtf", "prototypes"},
+                                        {"sbcolors.rtf", "harwell_colours"},
+                                        {"sbopts.rtf", "harwell_options"},
+                                        {"sbstats.rtf", "harwell_figures"},
+                                        {"sshelp.rtf", "saver_help"},
+                                        {"stamps.rtf", "stamps"},
+                                        {"timeline.rtf", "timeline"},
+                                        {"TorvikAdsList.rtf", "advertisements"},
+                                        {"whatsnew.rtf", "whats_new"}};
 
 /// "67" to "99", then "a0" and "a1": how the names of the articles of a year begin.
 QString ArticlePrefix(int year)
 {
-    return year < 2000 ? QString::number(year - 1900) : QStringLiteral("a%1").arg(year - 2000);
+    return year < 2000 ? QString::number(year - 1900) : u"a%1"_s.arg(year - 2000);
 }
 
 } // namespace
+
+QByteArray HelpText()
+{
+    return WriteRichText(ArticleOfSource(StoredText(u"help"_s)));
+}
+
+void MakeHelpFile(const QString& program)
+{
+    WriteFile(program + u"/Torvik2001.HLP"_s, HelpText());
+}
 
 std::vector<PlannedDocument> PlanDocuments()
 {
@@ -79,17 +87,16 @@ std::vector<PlannedDocument> PlanDocuments()
     for (const ModelYear& figures : ModelYears()) {
         const int year = figures.year;
         const QString prefix = ArticlePrefix(year);
-        add(prefix + QStringLiteral("desc.rtf"), YearDescription(year));
-        add(prefix + QStringLiteral("stats.rtf"), YearStatistics(year));
-        add(prefix + QStringLiteral("colors.rtf"), YearColours(year));
-        add(prefix + (year < 2000 ? QStringLiteral("opts.rtf") : QStringLiteral("OPTS.rtf")),
-            YearOptions(year));
-        add(QStringLiteral("nostalgia%1.rtf").arg(year % 100, 2, 10, QLatin1Char('0')), YearNostalgia(year));
+        add(prefix + u"desc.rtf"_s, YearDescription(year));
+        add(prefix + u"stats.rtf"_s, YearStatistics(year));
+        add(prefix + u"colors.rtf"_s, YearColours(year));
+        add(prefix + (year < 2000 ? u"opts.rtf"_s : u"OPTS.rtf"_s), YearOptions(year));
+        add(u"nostalgia%1.rtf"_s.arg(year % 100, 2, 10, '0'_L1), YearNostalgia(year));
     }
-    for (const LibraryFile& library : kLibrary)
+    for (const LibraryFile& library : libraryFiles)
         add(QString::fromLatin1(library.file),
             ArticleOfSource(StoredText(QString::fromLatin1(library.text))));
-    add(QStringLiteral("stats.rtf"), LibraryStatistics());
+    add(u"stats.rtf"_s, LibraryStatistics());
     std::sort(documents.begin(), documents.end(),
               [](const PlannedDocument& a, const PlannedDocument& b) { return a.file < b.file; });
     return documents;
@@ -98,7 +105,7 @@ std::vector<PlannedDocument> PlanDocuments()
 void MakeDocuments(const QString& disc)
 {
     for (const PlannedDocument& document : PlanDocuments())
-        WriteFile(disc + QStringLiteral("/RichText/") + document.file, document.text);
+        WriteFile(disc + u"/RichText/"_s + document.file, document.text);
 }
 
 } // namespace torvik::sample

@@ -7,6 +7,12 @@
 
 namespace torvik::sample {
 
+/// The help as rich text: its chapters are headings with bookmarks, and links lead from one to the other.
+QByteArray HelpText();
+
+/// "Torvik2001.HLP" in the program folder.
+void MakeHelpFile(const QString& program);
+
 /// A document of the disc: its file in the folder "RichText", and its whole text.
 struct PlannedDocument {
     QString file;

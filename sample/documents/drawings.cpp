@@ -1,21 +1,22 @@
-#include "drawings.h"
+#include "sample/documents/drawings.h"
 
-#include "sample/car_shape.h"
-#include "sample/paints.h"
+#include "sample/car/car_shape.h"
+#include "sample/car/paints.h"
+#include "sample/geometry/shapes.h"
+#include "sample/geometry/vec.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
 #include <cmath>
-#include <numbers>
 #include <stdexcept>
 
 namespace torvik::sample {
 
 namespace {
 
-constexpr double kPixelsWide = 440;
-const QColor kInk(40, 38, 44);
+constexpr double pixelsWide = 440;
+const QColor drawingInk(40, 38, 44);
 
 /// Colours between two, both included, are all that smooth edges need.
 void AddMixtures(QList<QRgb>& table, const QColor& from, const QColor& to, int count)
@@ -33,18 +34,17 @@ void AddMixtures(QList<QRgb>& table, const QColor& from, const QColor& to, int c
 QImage Reduced(const QImage& picture, const QColor& body)
 {
     QList<QRgb> table;
-    AddMixtures(table, Qt::white, kInk, 6);
+    AddMixtures(table, Qt::white, drawingInk, 6);
     AddMixtures(table, body, Qt::white, 5);
-    AddMixtures(table, body, kInk, 5);
+    AddMixtures(table, body, drawingInk, 5);
     return picture.convertToFormat(QImage::Format_Indexed8, table, Qt::ThresholdDither | Qt::AvoidDither);
 }
 
 Drawing Placed(const QImage& picture, const QColor& body, int width)
 {
-    Drawing drawing;
-    drawing.image = Reduced(picture, body);
-    drawing.width = width;
-    drawing.height = width * picture.height() / picture.width();
+    const Drawing drawing{.image = Reduced(picture, body),
+                          .width = width,
+                          .height = width * picture.height() / picture.width()};
     return drawing;
 }
 
@@ -52,175 +52,156 @@ Drawing Placed(const QImage& picture, const QColor& body, int width)
 class SidePainter {
 public:
     SidePainter(QPainter& painter, const CarShape& shape, const QColor& body)
-        : painter_(painter), shape_(shape), body_(body)
+        : painter_(painter), c_(shape), body_(body)
     {}
 
     void Paint()
     {
-        Ground();
-        Body();
+        painter_.setPen(QPen(drawingInk, 0.012));
+        Line(-0.12, 0, c_.length + 0.12, 0);
+        Use(0.022, body_);
+        painter_.drawPath(Silhouette());
         Glass();
         Lines();
-        Wheel(shape_.frontAxle);
-        Wheel(shape_.rearAxle);
+        Ends();
+        Wheel(c_.frontAxle);
+        Wheel(c_.rearAxle);
     }
 
 private:
-    static constexpr double kStep = 0.04;
+    static constexpr double step = 0.04;
 
-    double Top(double s) const
+    void Use(double width, const QBrush& brush)
     {
-        return s > shape_.cowl && s < shape_.cabinEnd ? shape_.roof(s) : shape_.centre(s);
+        painter_.setPen(QPen(drawingInk, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter_.setBrush(brush);
     }
-
-    void Ground()
+    void Line(double s0, double z0, double s1, double z1)
     {
-        painter_.setPen(QPen(kInk, 0.012));
-        painter_.drawLine(QPointF(-0.12, 0), QPointF(shape_.length + 0.12, 0));
+        painter_.drawLine(QPointF(s0, z0), QPointF(s1, z1));
     }
-
-    QPainterPath Outline() const
+    void Box(double s, double z, double wide, double tall, double radius)
     {
-        QPainterPath path(QPointF(0.05, shape_.bottom(0) + 0.02));
-        path.lineTo(0.0, shape_.centre(0) - 0.16);
-        path.quadTo(0.0, shape_.centre(0), 0.09, shape_.centre(0.09));
-        for (double s = 0.12; s < shape_.length - 0.08; s += kStep)
+        painter_.drawRoundedRect(QRectF(s, z, wide, tall), radius, radius);
+    }
+    double Top(double s) const { return s > c_.cowl && s < c_.cabinEnd ? c_.roof(s) : c_.centre(s); }
+
+    QPainterPath Silhouette() const
+    {
+        QPainterPath path = Outline({{0.05, c_.bottom(0) + 0.02},
+                                     {0.0, c_.centre(0) - 0.16},
+                                     {0.0, c_.centre(0), 0.09, c_.centre(0.09)}});
+        for (double s = 0.12; s < c_.length - 0.08; s += step)
             path.lineTo(s, Top(s));
-        path.quadTo(shape_.length, shape_.centre(shape_.length), shape_.length,
-                    shape_.centre(shape_.length) - 0.1);
-        path.lineTo(shape_.length - 0.05, shape_.bottom(shape_.length));
-        for (double s = shape_.length - 0.08; s > 0.1; s -= kStep)
-            path.lineTo(s, shape_.bottom(s));
+        path.quadTo(c_.length, c_.centre(c_.length), c_.length, c_.centre(c_.length) - 0.1);
+        path.lineTo(c_.length - 0.05, c_.bottom(c_.length));
+        for (double s = c_.length - 0.08; s > 0.1; s -= step)
+            path.lineTo(s, c_.bottom(s));
         path.closeSubpath();
-        for (const double axle : {shape_.frontAxle, shape_.rearAxle}) {
-            QPainterPath arch;
-            arch.addEllipse(QPointF(axle, shape_.wheelRadius), shape_.archRadius, shape_.archRadius);
-            path = path.subtracted(arch);
-        }
+        for (const double axle : {c_.frontAxle, c_.rearAxle})
+            path = path.subtracted(Disc({axle, c_.wheelRadius}, c_.archRadius));
         return path;
-    }
-
-    void Body()
-    {
-        painter_.setPen(QPen(kInk, 0.022, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter_.setBrush(body_);
-        painter_.drawPath(Outline());
     }
 
     void Glass()
     {
         // Between roof and shoulder, a little inside the frame; a post parts the rear window from the door's.
-        QPainterPath path;
-        const auto sill = [this](double s) { return shape_.shoulder(s) + 0.035; };
-        path.moveTo(shape_.windowFront - 0.1, sill(shape_.windowFront));
-        const double highFront = shape_.header + 0.06;
-        const double highRear = shape_.windowRear - shape_.windowLean;
-        path.lineTo(highFront, shape_.roof(highFront) - 0.07);
-        for (double s = highFront; s < highRear; s += kStep)
-            path.lineTo(s, shape_.roof(s) - 0.07);
-        path.lineTo(shape_.windowRear, sill(shape_.windowRear));
+        const auto sill = [this](double s) { return c_.shoulder(s) + 0.035; };
+        const double highFront = c_.header + 0.06;
+        QPainterPath path =
+            Outline({{c_.windowFront - 0.1, sill(c_.windowFront)}, {highFront, c_.roof(highFront) - 0.07}});
+        for (double s = highFront; s < c_.windowRear - c_.windowLean; s += step)
+            path.lineTo(s, c_.roof(s) - 0.07);
+        path.lineTo(c_.windowRear, sill(c_.windowRear));
         path.closeSubpath();
-        painter_.setPen(QPen(kInk, 0.014, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter_.setBrush(QColor(226, 226, 228));
+        Use(0.014, QColor(226, 226, 228));
         painter_.drawPath(path);
-        const double post = shape_.doorRear - 0.03;
-        if (post < shape_.windowRear - 0.15)
-            painter_.drawLine(QPointF(post, sill(post)), QPointF(post - 0.1, shape_.roof(post - 0.1) - 0.07));
+        const double post = c_.doorRear - 0.03;
+        if (post < c_.windowRear - 0.15)
+            Line(post, sill(post), post - 0.1, c_.roof(post - 0.1) - 0.07);
     }
 
     void Lines()
     {
         painter_.setBrush(Qt::NoBrush);
-        painter_.setPen(QPen(kInk, 0.011));
-        QPainterPath shoulder(QPointF(0.2, shape_.shoulder(0.2)));
-        for (double s = 0.2; s < shape_.length - 0.1; s += kStep)
-            shoulder.lineTo(s, shape_.shoulder(s));
+        painter_.setPen(QPen(drawingInk, 0.011));
+        QPainterPath shoulder(QPointF(0.2, c_.shoulder(0.2)));
+        for (double s = 0.2; s < c_.length - 0.1; s += step)
+            shoulder.lineTo(s, c_.shoulder(s));
         painter_.drawPath(shoulder);
-        const double sill = 0.06;
-        painter_.drawLine(QPointF(shape_.doorFront, shape_.bottom(shape_.doorFront) + sill),
-                          QPointF(shape_.doorFront, shape_.shoulder(shape_.doorFront)));
-        painter_.drawLine(QPointF(shape_.doorRear, shape_.bottom(shape_.doorRear) + sill),
-                          QPointF(shape_.doorRear, shape_.shoulder(shape_.doorRear)));
-        const double handle = shape_.shoulder(shape_.doorRear) - 0.11;
-        painter_.setPen(QPen(kInk, 0.022));
-        painter_.drawLine(QPointF(shape_.doorRear - 0.24, handle), QPointF(shape_.doorRear - 0.1, handle));
-        if (shape_.sideScoop) {
-            painter_.setPen(QPen(kInk, 0.014));
-            const double at = shape_.doorRear + 0.1;
-            painter_.drawLine(QPointF(at, 0.47), QPointF(at + 0.05, 0.72));
-            painter_.drawLine(QPointF(at + 0.05, 0.72), QPointF(shape_.doorFront - 0.1, 0.66));
+        for (const double s : {c_.doorFront, c_.doorRear})
+            Line(s, c_.bottom(s) + 0.06, s, c_.shoulder(s));
+        const double handle = c_.shoulder(c_.doorRear) - 0.11;
+        painter_.setPen(QPen(drawingInk, 0.022));
+        Line(c_.doorRear - 0.24, handle, c_.doorRear - 0.1, handle);
+        if (c_.sideScoop) {
+            painter_.setPen(QPen(drawingInk, 0.014));
+            const double at = c_.doorRear + 0.1;
+            Line(at, 0.47, at + 0.05, 0.72);
+            Line(at + 0.05, 0.72, c_.doorFront - 0.1, 0.66);
         }
-        Ends();
     }
 
     void Ends()
     {
-        painter_.setPen(QPen(kInk, 0.014));
+        painter_.setPen(QPen(drawingInk, 0.014));
         painter_.setBrush(Qt::white);
-        const double lamp = shape_.centre(0) - 0.12;
-        painter_.drawEllipse(QPointF(0.075, lamp), 0.035, 0.07);
-        painter_.drawRect(QRectF(shape_.length - 0.07, shape_.centre(shape_.length) - 0.22, 0.05, 0.13));
-        if (shape_.bumper == Bumper::ChromeBlade || shape_.bumper == Bumper::RubberStrip) {
-            painter_.drawRoundedRect(QRectF(-0.07, shape_.bumperHeight - 0.05, 0.3, 0.1), 0.04, 0.04);
-            painter_.drawRoundedRect(QRectF(shape_.length - 0.24, shape_.bumperHeight - 0.05, 0.3, 0.1), 0.04,
-                                     0.04);
+        painter_.drawEllipse(QPointF(0.075, c_.centre(0) - 0.12), 0.035, 0.07);
+        painter_.drawRect(QRectF(c_.length - 0.07, c_.centre(c_.length) - 0.22, 0.05, 0.13));
+        if (c_.bumper == Bumper::ChromeBlade || c_.bumper == Bumper::RubberStrip) {
+            Box(-0.07, c_.bumperHeight - 0.05, 0.3, 0.1, 0.04);
+            Box(c_.length - 0.24, c_.bumperHeight - 0.05, 0.3, 0.1, 0.04);
         }
-        if (shape_.wing) {
-            const double base = shape_.centre(shape_.length - 0.2);
-            painter_.setBrush(body_);
-            painter_.drawRoundedRect(QRectF(shape_.length - 0.36, base + 0.05, 0.36, 0.05), 0.02, 0.02);
-            painter_.drawLine(QPointF(shape_.length - 0.22, base),
-                              QPointF(shape_.length - 0.22, base + 0.05));
+        painter_.setBrush(body_);
+        if (c_.wing) {
+            const double base = c_.centre(c_.length - 0.2);
+            Box(c_.length - 0.36, base + 0.05, 0.36, 0.05, 0.02);
+            Line(c_.length - 0.22, base, c_.length - 0.22, base + 0.05);
         }
-        if (shape_.bonnetScoop) {
-            painter_.setBrush(body_);
-            QPainterPath scoop(QPointF(0.82, shape_.centre(0.82)));
-            scoop.quadTo(0.86, shape_.centre(0.86) + 0.06, 1.3, shape_.centre(1.3));
-            painter_.drawPath(scoop);
-        }
+        if (c_.bonnetScoop)
+            painter_.drawPath(
+                Outline({{0.82, c_.centre(0.82)}, {0.86, c_.centre(0.86) + 0.06, 1.3, c_.centre(1.3)}}));
     }
 
     void Wheel(double axle)
     {
-        const QPointF hub(axle, shape_.wheelRadius);
+        const QPointF hub(axle, c_.wheelRadius);
+        const auto disc = [&](double radius, const QBrush& brush) {
+            painter_.setBrush(brush);
+            painter_.drawEllipse(hub, radius, radius);
+        };
         painter_.setPen(Qt::NoPen);
-        painter_.setBrush(kInk);
-        painter_.drawEllipse(hub, shape_.wheelRadius, shape_.wheelRadius);
-        painter_.setBrush(Qt::white);
-        painter_.drawEllipse(hub, shape_.rimRadius, shape_.rimRadius);
-        const int spokes = shape_.wheel == WheelFace::TenSpoke  ? 10
-                           : shape_.wheel == WheelFace::Turbine ? 14
-                                                                : 5;
-        painter_.setPen(QPen(kInk, shape_.wheel == WheelFace::FiveStar ? 0.05 : 0.024));
-        if (shape_.wheel != WheelFace::ChromeCap) {
-            for (int i = 0; i < spokes; ++i) {
-                const double angle = 2 * std::numbers::pi * i / spokes + 0.3;
-                const QPointF along(std::cos(angle), std::sin(angle));
-                painter_.drawLine(hub + along * 0.05, hub + along * (shape_.rimRadius - 0.012));
-            }
-        } else {
-            painter_.setBrush(Qt::NoBrush);
-            painter_.drawEllipse(hub, shape_.rimRadius * 0.62, shape_.rimRadius * 0.62);
+        disc(c_.wheelRadius, drawingInk);
+        disc(c_.rimRadius, Qt::white);
+        painter_.setPen(QPen(drawingInk, c_.wheel == WheelFace::FiveStar ? 0.05 : 0.024));
+        if (c_.wheel == WheelFace::ChromeCap)
+            disc(c_.rimRadius * 0.62, Qt::NoBrush);
+        const int spokes = c_.wheel == WheelFace::ChromeCap  ? 0
+                           : c_.wheel == WheelFace::TenSpoke ? 10
+                           : c_.wheel == WheelFace::Turbine  ? 14
+                                                             : 5;
+        for (int i = 0; i < spokes; ++i) {
+            const double angle = 2 * pi * i / spokes + 0.3;
+            const QPointF along(std::cos(angle), std::sin(angle));
+            painter_.drawLine(hub + along * 0.05, hub + along * (c_.rimRadius - 0.012));
         }
-        painter_.setPen(QPen(kInk, 0.014));
-        painter_.setBrush(Qt::white);
-        painter_.drawEllipse(hub, 0.05, 0.05);
+        painter_.setPen(QPen(drawingInk, 0.014));
+        disc(0.05, Qt::white);
     }
 
     QPainter& painter_;
-    const CarShape& shape_;
+    const CarShape& c_;
     QColor body_;
 };
 
 Drawing SideOf(const CarShape& shape, const QColor& body, int width)
 {
     const double metres = shape.length + 0.3;
-    const double scale = kPixelsWide / metres;
-    QImage picture(static_cast<int>(kPixelsWide), static_cast<int>(1.5 * scale), QImage::Format_RGB32);
+    const double scale = pixelsWide / metres;
+    QImage picture(static_cast<int>(pixelsWide), static_cast<int>(1.5 * scale), QImage::Format_RGB32);
     picture.fill(Qt::white);
     {
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing);
+        SmoothPainter painter(&picture);
         painter.translate(0.15 * scale, picture.height() - 4);
         painter.scale(scale, -scale);
         SidePainter(painter, shape, body).Paint();
@@ -259,10 +240,9 @@ Drawing EngineDrawing(const QString& layout, int width)
     QImage picture(300, 260, QImage::Format_RGB32);
     picture.fill(Qt::white);
     {
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing);
+        SmoothPainter painter(&picture);
         painter.translate(150, 165);
-        painter.setPen(QPen(kInk, 2.2));
+        painter.setPen(QPen(drawingInk, 2.2));
         const bool vee = layout.startsWith(u'v');
         const double lean = layout == u"v6" ? 30 : 45;
         const std::vector<double> banks = vee ? std::vector<double>{-lean, lean} : std::vector<double>{0.0};
@@ -292,7 +272,7 @@ Drawing EngineDrawing(const QString& layout, int width)
         painter.drawEllipse(QPointF(-66, 10), 22, 22);
         painter.drawEllipse(QPointF(66, -6), 18, 18);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(kInk, 4));
+        painter.setPen(QPen(drawingInk, 4));
         painter.drawLine(QPointF(-78, -9), QPointF(78, -20));
         painter.drawLine(QPointF(-62, 32), QPointF(0, 29));
         painter.drawLine(QPointF(0, 29), QPointF(70, 12));
@@ -302,19 +282,25 @@ Drawing EngineDrawing(const QString& layout, int width)
 
 Drawing DrawingNamed(const QString& kind, const QString& name, int width)
 {
+    struct Named {
+        const char* name;
+        Model model;
+        int year;
+        QRgb colour;
+    };
+    constexpr Named cars[] = {{"harwell", Model::Harwell, 1967, 0x6E2836},
+                              {"kestra1", Model::KestraOne, 1970, 0xE6B40E},
+                              {"kestra3", Model::KestraThree, 1986, 0x5A5C60},
+                              {"super", Model::SuperStallion, 2001, 0xA6ABB0}};
     const int year = name.toInt();
     if (kind == u"engine")
         return EngineDrawing(name, width);
     if (kind == u"car" && year >= 1967 && year <= 2001)
         return CarDrawing(year, width);
-    if (kind == u"car" && name == u"harwell")
-        return SideOf(ClassicHarwellShape(), QColor(110, 40, 54), width);
-    if (kind == u"car" && name == u"kestra1")
-        return SideOf(KestraOneShape(), QColor(230, 180, 14), width);
-    if (kind == u"car" && name == u"kestra3")
-        return SideOf(KestraThreeShape(), QColor(90, 92, 96), width);
-    if (kind == u"car" && name == u"super")
-        return SideOf(SuperStallionShape(), QColor(166, 171, 176), width);
+    for (const Named& car : cars) {
+        if (kind == u"car" && name == QLatin1String(car.name))
+            return SideOf(ShapeOf(car.model, car.year), QColor(car.colour), width);
+    }
     throw std::runtime_error("There is no drawing of " + name.toStdString());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rich_document.h"
+#include "sample/files/rich_document.h"
 
 namespace torvik::sample {
 

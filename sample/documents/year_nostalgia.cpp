@@ -1,13 +1,13 @@
-#include "article_source.h"
-#include "model_years.h"
-#include "options.h"
-#include "text_store.h"
-#include "year_articles.h"
-#include "year_style.h"
+#include "sample/documents/article_source.h"
+#include "sample/documents/figures.h"
+#include "sample/documents/year_articles.h"
+#include "sample/files/text_store.h"
 
 #include <cmath>
 
 namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,12 +16,12 @@ QString CostOf(const ModelYear& year, double cents, double pace)
 {
     const double level = double(year.price) / ModelYearOf(1967).price;
     const double exact = cents * std::pow(level, pace);
-    return QStringLiteral("$%1").arg(std::round(exact) / 100, 0, 'f', 2);
+    return u"$%1"_s.arg(std::round(exact) / 100, 0, 'f', 2);
 }
 
 void AddCosts(Article& article, const ModelYear& year)
 {
-    article.Heading(QStringLiteral("What things cost"));
+    article.Heading(u"What things cost"_s);
     const std::vector<TabStop> tabs = {{4200, TabStop::Kind::Decimal, true}};
     const auto add = [&](const char* name, const QString& cost) {
         Paragraph line = article.Plain(QString::fromUtf8(name) + u'\t' + cost);
@@ -37,18 +37,17 @@ void AddCosts(Article& article, const ModelYear& year)
     add("A seat in the cinema, stalls", CostOf(year, 125, 0.9));
     add("A long-playing record or its heir", CostOf(year, 380, 0.7));
     add("A week’s wage at the works", CostOf(year, 11650, 0.93));
-    add("A Vollandry coupe", Dollars(year.price) + QStringLiteral(".00"));
+    add("A Vollandry coupe", Dollars(year.price) + u".00"_s);
 }
 
 } // namespace
 
 RichDocument YearNostalgia(int year)
 {
-    const std::map<QString, TextSection> texts =
-        StoredSections(QStringLiteral("nostalgia_%1").arg(year / 10));
+    const std::map<QString, TextSection> texts = StoredSections(u"nostalgia_%1"_s.arg(year / 10));
     const TextSection& text = texts.at(QString::number(year));
-    Article article = NewYearArticle(year, YearArticle::Nostalgia, QStringLiteral("Nostalgia %1").arg(year));
-    article.Title(QStringLiteral("_%1_").arg(year));
+    Article article = NewYearArticle(year, YearArticle::Nostalgia, u"Nostalgia %1"_s.arg(year));
+    article.Title(u"_%1_"_s.arg(year));
     Paragraph motto = article.Plain(u'~' + text.title + u'~');
     for (Run& run : motto.runs) {
         run.look.italic = true;

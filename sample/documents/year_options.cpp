@@ -1,12 +1,11 @@
-#include "article.h"
-#include "engines.h"
-#include "model_years.h"
-#include "options.h"
-#include "text_store.h"
-#include "year_articles.h"
-#include "year_style.h"
+#include "sample/documents/article.h"
+#include "sample/documents/figures.h"
+#include "sample/documents/year_articles.h"
+#include "sample/files/text_store.h"
 
 namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,12 +22,12 @@ void AddPriced(Article& article, const QString& text, const QString& price)
 
 int AddEngines(Article& article, int year)
 {
-    article.Heading(QStringLiteral("Engines"));
+    article.Heading(u"Engines"_s);
     int sum = 0;
     for (const Engine& engine : EnginesOf(year)) {
-        const QString text = QStringLiteral("*%1*, %2 bhp").arg(EngineName(engine)).arg(engine.power);
+        const QString text = u"*%1*, %2 bhp"_s.arg(EngineName(engine)).arg(engine.power);
         const int price = PriceIn(year, engine.extra);
-        AddPriced(article, text, engine.extra == 0 ? QStringLiteral("standard") : Dollars(price));
+        AddPriced(article, text, engine.extra == 0 ? u"standard"_s : Dollars(price));
         sum = std::max(sum, engine.extra == 0 ? 0 : price);
     }
     return sum;
@@ -38,14 +37,11 @@ int AddEngines(Article& article, int year)
 
 RichDocument YearOptions(int year)
 {
-    Article article = NewYearArticle(year, YearArticle::Options, QStringLiteral("%1 options").arg(year));
-    article.Title(QStringLiteral("Options of %1").arg(year));
-    article.Text(
-        QStringLiteral(
-            "Every buyer put a car together from the dealer’s order sheet. These are the lines of the "
-            "sheet, with the prices of the autumn before the season; a coupe with nothing ticked cost "
-            "*%1*.")
-            .arg(Dollars(ModelYearOf(year).price)));
+    Article article = NewYearArticle(year, YearArticle::Options, u"%1 options"_s.arg(year));
+    article.Title(u"Options of %1"_s.arg(year));
+    article.Text(u"Every buyer put a car together from the dealer’s order sheet. These are the lines of the "
+                 "sheet, with the prices of the autumn before the season; a coupe with nothing ticked cost "
+                 "*%1*."_s.arg(Dollars(ModelYearOf(year).price)));
     int most = AddEngines(article, year);
     int lines = 0;
     for (const OptionGroup group :
@@ -60,12 +56,11 @@ RichDocument YearOptions(int year)
     }
     article.Rule();
     Paragraph sum = article.Plain(
-        QStringLiteral("*Everything at once*, the largest engine included: %1 lines of the sheet\t*%2*")
-            .arg(lines + 1)
+        u"*Everything at once*, the largest engine included: %1 lines of the sheet\t*%2*"_s.arg(lines + 1)
             .arg(Dollars(most)));
     sum.tabs = {{7000, TabStop::Kind::Right, true}};
     article.Add(sum);
-    const std::map<QString, TextSection> advice = StoredSections(QStringLiteral("order_advice"));
+    const std::map<QString, TextSection> advice = StoredSections(u"order_advice"_s);
     Paragraph hint = article.Plain(u'_' + advice.at(QString::number(year % 7)).body.simplified() + u'_');
     hint.before = 160;
     article.Add(hint);

@@ -1,6 +1,5 @@
-#include "year_style.h"
-
-#include "sample/car_shape.h"
+#include "sample/car/car_shape.h"
+#include "sample/documents/year_articles.h"
 
 #include <array>
 
@@ -8,10 +7,9 @@ namespace torvik::sample {
 
 Article NewYearArticle(int year, YearArticle kind, const QString& title)
 {
-    constexpr std::array<unsigned, 6> kAccents = {0x8B1A1A, 0x93500A, 0x5A6418, 0x1F3F77, 0x0C5C62, 0x4A2A6A};
+    constexpr std::array<unsigned, 6> accents = {0x8B1A1A, 0x93500A, 0x5A6418, 0x1F3F77, 0x0C5C62, 0x4A2A6A};
     const int generation = GenerationOfYear(year);
-    ArticleStyle style;
-    style.accent = QColor(QRgb(kAccents.at(static_cast<std::size_t>(generation - 1))));
+    ArticleStyle style{.accent = QColor(QRgb(accents.at(static_cast<std::size_t>(generation - 1))))};
     switch (kind) {
     case YearArticle::Description:
         style.justified = generation % 2 == 0;

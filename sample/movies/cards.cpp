@@ -1,13 +1,16 @@
-#include "cards.h"
+#include "sample/movies/cards.h"
 
-#include "../photographer.h"
-#include "../vec.h"
-#include "stage.h"
+#include "sample/geometry/shapes.h"
+#include "sample/geometry/vec.h"
+#include "sample/movies/stage.h"
+#include "sample/photos/photographer.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
 namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,7 +19,7 @@ void Write(QPainter& painter, const QString& text, const QPointF& middle, double
 {
     QFont font(family);
     font.setBold(true);
-    font.setItalic(family.contains(QLatin1String("Serif")));
+    font.setItalic(family.contains("Serif"_L1));
     font.setPixelSize(100);
     QPainterPath path;
     path.addText(0, 0, font, text);
@@ -47,25 +50,20 @@ void PaintFilmEdges(QPainter& painter, double width, double top, double bottom, 
 QImage DrawCard(const Card& card, double age, QSize size)
 {
     QImage picture(size, QImage::Format_RGB32);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
+    SmoothPainter painter(&picture);
     const double w = size.width();
     const double h = size.height();
-    QRadialGradient ground(QPointF(w / 2, h * 0.45), w * 0.65);
-    ground.setColorAt(0, card.colour);
-    ground.setColorAt(1, card.colour.darker(420));
-    painter.fillRect(picture.rect(), ground);
+    painter.fillRect(picture.rect(),
+                     Radial({w / 2, h * 0.45}, w * 0.65, Shades(card.colour, {{0, 100}, {1, -420}})));
     painter.setPen(QPen(QColor(236, 214, 160, 170), 1.5));
     painter.drawRect(QRectF(10.5, 10.5, w - 21, h - 21));
     painter.drawLine(QPointF(w * 0.28, h * 0.66), QPointF(w * 0.72, h * 0.66));
-    const QString serif = QStringLiteral("Liberation Serif");
-    const QString plain = QStringLiteral("Liberation Sans");
+    const QString serif = u"Liberation Serif"_s;
+    const QString plain = u"Liberation Sans"_s;
     Write(painter, card.small, {w / 2, h * 0.27}, h * 0.058, plain, QColor(232, 220, 190));
-    QLinearGradient shine(QPointF(w * (age * 0.9 - 0.5), 0), QPointF(w * (age * 0.9), h * 0.3));
-    shine.setColorAt(0, QColor(238, 206, 136));
-    shine.setColorAt(0.5, QColor(255, 255, 246));
-    shine.setColorAt(1, QColor(238, 206, 136));
-    Write(painter, card.large, {w / 2, h * 0.47}, h * (card.large.size() > 12 ? 0.125 : 0.175), serif, shine);
+    Write(painter, card.large, {w / 2, h * 0.47}, h * (card.large.size() > 12 ? 0.125 : 0.175), serif,
+          Linear({w * (age * 0.9 - 0.5), 0}, {w * (age * 0.9), h * 0.3},
+                 {{0, QColor(238, 206, 136)}, {0.5, QColor(255, 255, 246)}, {1, QColor(238, 206, 136)}}));
     Write(painter, card.below, {w / 2, h * 0.76}, h * 0.058, plain, QColor(232, 220, 190));
     return picture;
 }
@@ -75,23 +73,16 @@ QImage PaintMovieOpening(QSize size)
     QImage picture(size, QImage::Format_RGB32);
     const double w = size.width();
     const double h = size.height();
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    SmoothPainter painter(&picture);
     QLinearGradient curtain(0, 0, w, 0);
     for (int fold = 0; fold <= 16; ++fold)
         curtain.setColorAt(fold / 16.0, fold % 2 == 0 ? QColor(74, 8, 16) : QColor(128, 20, 28));
     painter.fillRect(picture.rect(), curtain);
-    QLinearGradient dark(0, 0, 0, h);
-    dark.setColorAt(0, QColor(0, 0, 0, 20));
-    dark.setColorAt(1, QColor(0, 0, 0, 170));
-    painter.fillRect(picture.rect(), dark);
+    painter.fillRect(picture.rect(), Linear({0, 0}, {0, h}, Veil(Qt::black, {{0, 20}, {1, 170}})));
     const double top = h * 0.30;
     const double bottom = h * 0.84;
     PaintFilmEdges(painter, w, top, bottom, h * 0.055);
-    Trim trim;
-    trim.plate = QStringLiteral("1967");
-    trim.whiteWalls = true;
+    const Trim trim{.plate = u"1967"_s, .whiteWalls = true};
     const Stage stage(ShapeOfYear(1967), PaintsOfYear(1967)[0], trim, CoastScenery(4));
     const QSizeF frame(w * 0.46, (bottom - top) - h * 0.15);
     const QSize drawn = (frame * 2).toSize();
@@ -101,13 +92,10 @@ QImage PaintMovieOpening(QSize size)
             QPointF(w / 2 + (i - 1.5) * (frame.width() + w * 0.02) + w * 0.01, top + h * 0.075), frame);
         painter.drawImage(place, car);
     }
-    QLinearGradient gold(0, h * 0.08, 0, h * 0.22);
-    gold.setColorAt(0, QColor(255, 246, 214));
-    gold.setColorAt(1, QColor(226, 178, 96));
-    Write(painter, QStringLiteral("Torvik Movies"), {w / 2, h * 0.15}, h * 0.155,
-          QStringLiteral("Liberation Serif"), gold);
-    Write(painter, QStringLiteral("The Vollandry in motion"), {w / 2, h * 0.92}, h * 0.058,
-          QStringLiteral("Liberation Sans"), QColor(236, 224, 200));
+    Write(painter, u"Torvik Movies"_s, {w / 2, h * 0.15}, h * 0.155, u"Liberation Serif"_s,
+          Linear({0, h * 0.08}, {0, h * 0.22}, {{0, QColor(255, 246, 214)}, {1, QColor(226, 178, 96)}}));
+    Write(painter, u"The Vollandry in motion"_s, {w / 2, h * 0.92}, h * 0.058, u"Liberation Sans"_s,
+          QColor(236, 224, 200));
     return picture;
 }
 

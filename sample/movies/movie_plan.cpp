@@ -1,4 +1,4 @@
-#include "movie_plan.h"
+#include "sample/movies/movie_plan.h"
 
 namespace torvik::sample {
 
@@ -18,11 +18,8 @@ std::function<std::unique_ptr<Stage>()> CarIn(int year, std::size_t paint, Trim:
                                               Scenery scenery, bool lamps = false)
 {
     return [=] {
-        Trim trim;
-        trim.plate = QString::number(year);
-        trim.script = Text("Vollandry");
-        trim.stripe = stripe;
-        trim.lampsLit = lamps;
+        const Trim trim{
+            .stripe = stripe, .plate = QString::number(year), .script = Text("Vollandry"), .lampsLit = lamps};
         const std::vector<Paint>& card = PaintsOfYear(year);
         return std::make_unique<Stage>(ShapeOfYear(year), card[paint % card.size()], trim, scenery);
     };
@@ -32,13 +29,15 @@ std::function<std::unique_ptr<Stage>()> CarIn(int year, std::size_t paint, Trim:
 Scenery LongShadows()
 {
     Scenery s = CoastScenery(11);
-    s.light.toSun = Unit({-0.8, 0.45, 0.24});
-    s.light.sun = {2.5, 1.2, 0.5};
-    s.light.zenith = {0.06, 0.08, 0.20};
-    s.light.horizon = {1.0, 0.46, 0.20};
-    s.light.ground = {0.10, 0.08, 0.07};
-    s.light.band = {0.03, 0.03, 0.04};
-    s.light.clouds = 0.5;
+    s.light = Daylight{.toSun = Unit({-0.8, 0.45, 0.24}),
+                       .sun = {2.5, 1.2, 0.5},
+                       .zenith = {0.06, 0.08, 0.20},
+                       .horizon = {1.0, 0.46, 0.20},
+                       .ground = {0.10, 0.08, 0.07},
+                       .band = {0.03, 0.03, 0.04},
+                       .bandHeight = 0.10,
+                       .clouds = 0.5,
+                       .seed = 11};
     s.haze = {0.72, 0.36, 0.20};
     s.shadowStrength = 0.7;
     return s;
@@ -50,7 +49,7 @@ Shot Tracking(double seconds, const Vec& from, const Vec& to, double lens, doubl
 {
     return {seconds, [=](double t) {
                 const double share = SmoothStep(0, seconds, t);
-                return Look{Mix(from, to, share), {-0.05, 0, 0.68}, lens, start + speed * t};
+                return Moment{Mix(from, to, share), {-0.05, 0, 0.68}, lens, start + speed * t};
             }};
 }
 
@@ -59,7 +58,7 @@ Shot Roadside(double seconds, double passing, double aside, double high, double 
 {
     return {seconds, [=](double t) {
                 const double ahead = speed * (t - passing);
-                return Look{{ahead, -aside, high}, {0, 0, 0.62}, lens, ahead};
+                return Moment{{ahead, -aside, high}, {0, 0, 0.62}, lens, ahead};
             }};
 }
 
@@ -67,7 +66,7 @@ Shot Roadside(double seconds, double passing, double aside, double high, double 
 
 double MoviePlan::Seconds() const
 {
-    double seconds = kTitleSeconds + kEndSeconds;
+    double seconds = titleSeconds + endSeconds;
     for (const Shot& shot : shots)
         seconds += shot.seconds;
     return seconds;
@@ -102,8 +101,8 @@ const std::vector<MoviePlan>& Movies()
           {3.5,
            [](double t) {
                // Seen from the car, the world slides to one side and back while the tail swings out.
-               const double swing = 1.1 * std::sin(2 * kPi * t / 3.5);
-               return Look{{-5.8 * std::sin(swing), -6.2 * std::cos(swing), 1.2}, {0, 0, 0.62}, 42, 9 * t};
+               const double swing = 1.1 * std::sin(2 * pi * t / 3.5);
+               return Moment{{-5.8 * std::sin(swing), -6.2 * std::cos(swing), 1.2}, {0, 0, 0.62}, 42, 9 * t};
            }},
           Roadside(3.25, 1.7, 5.2, 1.5, 36, 9)},
          GliderSound},
@@ -124,18 +123,18 @@ const std::vector<MoviePlan>& Movies()
          {{3.5,
            [](double t) {
                // The camera nods to the beat.
-               const double beat = std::abs(std::sin(kPi * t / 0.4375));
-               return Look{{-5.6 + 0.5 * t, -4.6, 0.6 + 0.16 * beat}, {-0.1, 0, 0.68}, 42, 0};
+               const double beat = std::abs(std::sin(pi * t / 0.4375));
+               return Moment{{-5.6 + 0.5 * t, -4.6, 0.6 + 0.16 * beat}, {-0.1, 0, 0.68}, 42, 0};
            }},
           {2.625,
            [](double t) {
                const double ahead = 4.5 * t * t;
-               return Look{{1.2 + 0.35 * ahead, -6.4, 1.0}, {0.2, 0, 0.66}, 38, ahead};
+               return Moment{{1.2 + 0.35 * ahead, -6.4, 1.0}, {0.2, 0, 0.66}, 38, ahead};
            }},
           {1.75,
            [](double t) {
                const double angle = 0.6 + 1.7 * t;
-               return Look{{-6.4 * std::cos(angle), -6.4 * std::sin(angle), 1.3}, {0, 0, 0.66}, 40, 14 * t};
+               return Moment{{-6.4 * std::cos(angle), -6.4 * std::sin(angle), 1.3}, {0, 0, 0.66}, 40, 14 * t};
            }},
           Roadside(2.625, 1.1, 4.6, 0.7, 32, 18)},
          RockSound},

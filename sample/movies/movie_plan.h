@@ -1,9 +1,9 @@
 #pragma once
 
-#include "../curve.h"
-#include "../sounds/sound.h"
-#include "cards.h"
-#include "stage.h"
+#include "sample/geometry/curve.h"
+#include "sample/movies/cards.h"
+#include "sample/movies/stage.h"
+#include "sample/sounds/sound.h"
 
 #include <functional>
 #include <memory>
@@ -14,7 +14,7 @@ namespace torvik::sample {
 /// A piece of a movie between two cuts.
 struct Shot {
     double seconds;
-    std::function<Look(double seconds)> look; ///< where the camera is after so many seconds of the shot
+    std::function<Moment(double seconds)> look; ///< where the camera is after so many seconds of the shot
 };
 
 /// One of the movies of the disc: a title card, shots of one car in one place, an end card.
@@ -30,10 +30,10 @@ struct MoviePlan {
     double Seconds() const;
 };
 
-constexpr QSize kMovieSize{320, 240};
-constexpr int kFramesPerSecond = 12;
-constexpr double kTitleSeconds = 1.75;
-constexpr double kEndSeconds = 1.5;
+constexpr QSize movieSize{320, 240};
+constexpr int framesPerSecond = 12;
+constexpr double titleSeconds = 1.75;
+constexpr double endSeconds = 1.5;
 
 const std::vector<MoviePlan>& Movies();
 /// The whole file.

@@ -1,7 +1,7 @@
-#include "stage.h"
+#include "sample/movies/stage.h"
 
-#include "../car_mesh.h"
-#include "../night_lights.h"
+#include "sample/car/car_mesh.h"
+#include "sample/render/night_lights.h"
 
 #include <utility>
 
@@ -17,7 +17,7 @@ Stage::Stage(CarShape shape, const Paint& paint, const Trim& trim, Scenery scene
         std::make_shared<GroundShadow>(parts_, scenery_.light.toSun, scenery_.shadowStrength, 1);
 }
 
-QImage Stage::Draw(const Look& look, QSize size) const
+QImage Stage::Draw(const Moment& look, QSize size) const
 {
     const Camera camera = LookAt(look.eye, look.target, look.lens, size);
     const double driven = look.driven;
@@ -31,8 +31,7 @@ QImage Stage::Draw(const Look& look, QSize size) const
         scenery_.backdrop(painter, moved);
     };
     QImage picture = PaintScenery(around, camera, size);
-    Subject subject;
-    subject.parts = parts_;
+    Subject subject{.parts = parts_};
     for (Mesh& part : subject.parts) {
         if (part.finish == Finish::Wheel)
             part.turn += driven / shape_.wheelRadius;

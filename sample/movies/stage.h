@@ -1,14 +1,14 @@
 #pragma once
 
-#include "../paints.h"
-#include "../renderer.h"
-#include "../scenery.h"
+#include "sample/car/paints.h"
+#include "sample/render/renderer.h"
+#include "sample/scenery/scenery.h"
 
 namespace torvik::sample {
 
 /// Where the camera is in one moment of a movie. Places are those of the car, which stays at the origin while
 /// the world passes under it.
-struct Look {
+struct Moment {
     Vec eye; ///< at negative y, where the sceneries are meant to be seen from
     Vec target;
     double lens = 40;
@@ -23,7 +23,7 @@ public:
     Stage& operator=(const Stage&) = delete;
 
     /// What the camera sees. May be called from several threads at once.
-    QImage Draw(const Look& look, QSize size) const;
+    QImage Draw(const Moment& look, QSize size) const;
 
 private:
     CarShape shape_;

@@ -1,6 +1,4 @@
-#include "effects.h"
-
-#include "effect_voices.h"
+#include "sample/sounds/effects.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,34 +27,34 @@ Effect Two(const char* file, double seconds, SoundForm form, TwoEars (*voice)())
 const std::vector<Effect>& SoundEffects()
 {
     // Discs of the time mixed what their makers had: most at 22 kHz, some older ones with fewer bits.
-    static constexpr SoundForm kUsual{22050, 16};
-    static constexpr SoundForm kOld{22050, 8};
-    static constexpr SoundForm kOldest{11025, 8};
-    static constexpr SoundForm kDull{11025, 16};
+    static constexpr SoundForm usual{22050, 16};
+    static constexpr SoundForm old{22050, 8};
+    static constexpr SoundForm oldest{11025, 8};
+    static constexpr SoundForm dull{11025, 16};
     static const std::vector<Effect> effects{
-        One("backfrng.wav", 4.0, kUsual, Backfiring),     One("car_door.wav", 2.8, kUsual, CarDoor),
-        One("carhorns.wav", 4.6, kOld, CarHorns),         Two("horns.wav", 6.5, kUsual, Traffic),
-        Two("cop-car.wav", 6.5, kUsual, PoliceCar),       One("taxi.wav", 3.6, kOldest, TaxiHorns),
-        One("sportcar.wav", 5.5, kUsual, SportsCar),      Two("18wheelr.wav", 7.0, kUsual, EighteenWheeler),
-        One("peel-out.wav", 5.5, kUsual, DragStart),      Two("Track2.wav", 7.5, kUsual, AtTheTrack),
-        Two("nascar.wav", 4.5, kUsual, StockCarsPass),    One("racecar.wav", 5.0, kUsual, RacingLap),
-        Two("indy-car.wav", 4.0, kUsual, SpeedwayPass),   One("mcycle.wav", 6.0, kUsual, TwinMotorcycle),
-        One("batmoble.wav", 6.0, kUsual, TurbineCar),     One("62sellark.wav", 5.0, kOld, GentleSix),
-        One("63sellark.wav", 5.5, kUsual, SportyEight),   One("selstart.wav", 7.5, kUsual, ThreeStarts),
-        One("passby.wav", 3.2, kUsual, PassingEight),     One("selcar.wav", 6.0, kOldest, OldColumnShift),
-        One("qr7start.wav", 5.0, kUsual, BigEightStart),  One("motorcyc2.wav", 5.5, kUsual, FourMotorcycle),
-        One("hot_rod.wav", 6.0, kUsual, BlownHotRod),     One("red_lght.wav", 7.0, kUsual, RedLight),
-        One("porche.wav", 6.0, kUsual, AirCooledStart),   One("stealth.wav", 4.5, kUsual, OpenRoadster),
-        One("stuck.wav", 6.5, kDull, StuckOnIce),         One("revnrun.wav", 6.0, kUsual, RevAndRun),
-        Two("goingby.wav", 4.5, kUsual, GoingByInTheWet),
+        One("backfrng.wav", 4.0, usual, Backfiring),     One("car_door.wav", 2.8, usual, CarDoor),
+        One("carhorns.wav", 4.6, old, CarHorns),         Two("horns.wav", 6.5, usual, Traffic),
+        Two("cop-car.wav", 6.5, usual, PoliceCar),       One("taxi.wav", 3.6, oldest, TaxiHorns),
+        One("sportcar.wav", 5.5, usual, SportsCar),      Two("18wheelr.wav", 7.0, usual, EighteenWheeler),
+        One("peel-out.wav", 5.5, usual, DragStart),      Two("Track2.wav", 7.5, usual, AtTheTrack),
+        Two("nascar.wav", 4.5, usual, StockCarsPass),    One("racecar.wav", 5.0, usual, RacingLap),
+        Two("indy-car.wav", 4.0, usual, SpeedwayPass),   One("mcycle.wav", 6.0, usual, TwinMotorcycle),
+        One("batmoble.wav", 6.0, usual, TurbineCar),     One("62sellark.wav", 5.0, old, GentleSix),
+        One("63sellark.wav", 5.5, usual, SportyEight),   One("selstart.wav", 7.5, usual, ThreeStarts),
+        One("passby.wav", 3.2, usual, PassingEight),     One("selcar.wav", 6.0, oldest, OldColumnShift),
+        One("qr7start.wav", 5.0, usual, BigEightStart),  One("motorcyc2.wav", 5.5, usual, FourMotorcycle),
+        One("hot_rod.wav", 6.0, usual, BlownHotRod),     One("red_lght.wav", 7.0, usual, RedLight),
+        One("porche.wav", 6.0, usual, AirCooledStart),   One("stealth.wav", 4.5, usual, OpenRoadster),
+        One("stuck.wav", 6.5, dull, StuckOnIce),         One("revnrun.wav", 6.0, usual, RevAndRun),
+        Two("goingby.wav", 4.5, usual, GoingByInTheWet),
     };
     return effects;
 }
 
 QByteArray MakeEffect(const Effect& effect)
 {
-    constexpr double kPeak = 0.9;
-    constexpr double kRounding = 1.6;
+    constexpr double peak = 0.9;
+    constexpr double rounding = 1.6;
     std::vector<Sound> channels = effect.make();
     double loudest = 1e-9;
     for (Sound& channel : channels) {
@@ -66,7 +64,7 @@ QByteArray MakeEffect(const Effect& effect)
     // The highest peaks are rounded a little, so that single bangs do not make all the rest faint.
     for (Sound& channel : channels) {
         for (double& value : channel)
-            value = kPeak * std::tanh(kRounding * value / loudest) / std::tanh(kRounding);
+            value = peak * std::tanh(rounding * value / loudest) / std::tanh(rounding);
     }
     return WaveFile(channels, effect.form);
 }

@@ -1,8 +1,7 @@
-#include "effect_voices.h"
-#include "engine.h"
-#include "filters.h"
-#include "horns.h"
-#include "road.h"
+#include "sample/sounds/effects.h"
+#include "sample/sounds/engine.h"
+#include "sample/sounds/filters.h"
+#include "sample/sounds/road.h"
 
 #include <cmath>
 #include <utility>
@@ -21,17 +20,15 @@ Drive Steady(double speed, double passing, double aside)
 
 Sound Backfiring()
 {
-    constexpr double kBangs[] = {0.55, 1.12, 1.27, 1.95, 2.62, 2.74, 3.15};
+    constexpr double bangs[] = {0.55, 1.12, 1.27, 1.95, 2.62, 2.74, 3.15};
     const Curve revs{{0, 1500},   {0.5, 2100}, {0.62, 1200}, {1.1, 1800}, {1.35, 900},
                      {1.9, 1500}, {2.1, 800},  {2.6, 1200},  {2.9, 520},  {3.2, 160}};
     const Curve throttle{{0, 0.5}, {2.4, 0.6}, {2.9, 0.2}, {3.1, 0}};
-    EngineKind kind = BurblingEight();
-    kind.lope = 0.8;
-    kind.rough = 0.5;
-    Sound sound = Levelled(RunEngine(kind, {4.2, revs, throttle, 3}), 0.6);
+    const EngineKind kind = Tuned(burblingEight, {.rough = 0.5, .lope = 0.8});
+    Sound sound = Running(kind, {4.2, revs, throttle, 3}, 0.6);
     sound = Shaped(std::move(sound), [&](double t) { return revs(t) < 400 ? (revs(t) - 160) / 240 : 1.0; });
     std::uint32_t seed = 100;
-    for (const double at : kBangs) {
+    for (const double at : bangs) {
         seed += 7;
         Add(sound, Backfire(seed), at, 0.75 + 0.05 * (seed % 5));
     }
@@ -70,10 +67,9 @@ TwoEars Traffic()
     TwoEars street = Placed(Levelled(CityHum(7, 31), 0.16), 0);
     Add(street, Placed(Levelled(CityHum(7, 77), 0.10), 0.6));
     const auto car = [&](double speed, double passing, double aside, std::uint32_t seed) {
-        Sound source = TyreRoll(
-            7, [](double) { return 16.0; }, 0.1, seed);
+        Sound source = TyreRoll(7, Always(16.0), 0.1, seed);
         const Curve revs{{0, 1500}, {7, 1750}};
-        Add(source, Levelled(RunEngine(StraightSix(), {7, revs, [](double) { return 0.35; }, seed}), 0.5));
+        Add(source, Running(straightSix, {7, revs, Always(0.35), seed}, 0.5));
         Add(street, PassingBothEars(source, Steady(speed, passing, aside)), 0, 0.35);
     };
     car(14, 1.4, 5, 301);
@@ -99,10 +95,8 @@ TwoEars PoliceCar()
 {
     Sound source = Siren(6.8, 0.62);
     const Curve revs{{0, 3600}, {2, 4600}, {2.1, 3500}, {6.8, 4700}};
-    Add(source, Levelled(RunEngine(BurblingEight(), {6.8, revs, [](double) { return 0.9; }, 5}), 0.5));
-    Add(source, Levelled(TyreRoll(
-                             6.8, [](double) { return 30.0; }, 0, 51),
-                         0.25));
+    Add(source, Running(burblingEight, {6.8, revs, Always(0.9), 5}, 0.5));
+    Add(source, Rolling(6.8, 30.0, 0, 51, 0.25));
     TwoEars street = PassingBothEars(source, Steady(31, 3.3, 7));
     Add(street, Placed(Levelled(CityHum(6.8, 52), 0.012), 0));
     return street;
@@ -124,11 +118,10 @@ Sound TaxiHorns()
 
 TwoEars EighteenWheeler()
 {
-    constexpr double kLong = 7.4;
+    constexpr double lasting = 7.4;
     const Curve revs{{0, 1350}, {1.6, 1620}, {1.75, 1180}, {7.4, 1700}};
-    Sound source = Levelled(RunEngine(Diesel(), {kLong, revs, [](double) { return 0.85; }, 18}), 1.0);
-    Sound tyres = TyreRoll(
-        kLong, [](double) { return 24.0; }, 0.05, 181);
+    Sound source = Running(diesel, {lasting, revs, Always(0.85), 18});
+    Sound tyres = TyreRoll(lasting, Always(24.0), 0.05, 181);
     // Each axle slaps over the joints of the road.
     for (int i = 0; i < 18; ++i)
         Add(tyres, Shaped(WhiteNoise(0.06, 400), [](double t) { return std::exp(-t / 0.012); }), 0.4 * i,
@@ -136,14 +129,14 @@ TwoEars EighteenWheeler()
     Add(source, Levelled(Filtered(std::move(tyres), Filter::LowPass(2600)), 0.75));
     Add(source, TruckHorn(1.25), 1.3, 1.1);
     Add(source, TruckHorn(0.4), 2.75, 1.0);
-    TwoEars road = PassingBothEars(Lasting(std::move(source), kLong), Steady(20, 3.9, 7));
+    TwoEars road = PassingBothEars(Lasting(std::move(source), lasting), Steady(20, 3.9, 7));
     Add(road, PassingBothEars(Levelled(AirBrake(1.2, 19), 0.4), Steady(20, -0.3, 7)), 5.2, 1.0);
     return road;
 }
 
 Sound RedLight()
 {
-    constexpr double kLong = 7.2;
+    constexpr double lasting = 7.2;
     const Curve near{{0, 720},   {1.4, 720}, {1.6, 2300},  {2.0, 760},  {2.9, 720},  {3.05, 2900},
                      {3.4, 900}, {4.6, 740}, {4.75, 3600}, {5.5, 4700}, {5.6, 3100}, {7.2, 5000}};
     const Curve nearThrottle{{0, 0.08},    {1.38, 0.08}, {1.5, 0.8}, {1.62, 0.05}, {2.9, 0.08}, {3.0, 0.9},
@@ -152,32 +145,30 @@ Sound RedLight()
                     {4.2, 950}, {4.65, 950}, {4.85, 4600}, {5.7, 6800}, {5.8, 4700}, {7.2, 7000}};
     const Curve farThrottle{{0, 0.1},   {2.2, 0.1}, {2.3, 0.8},  {2.4, 0.05}, {3.6, 0.1},
                             {3.7, 0.9}, {3.8, 0.0}, {4.65, 0.1}, {4.8, 1.0}};
-    Sound sound = Levelled(RunEngine(BurblingEight(), {kLong, near, nearThrottle, 41}), 0.9);
-    const Sound other = Levelled(RunEngine(StraightFour(), {kLong, far, farThrottle, 42}), 0.45);
+    Sound sound = Running(burblingEight, {lasting, near, nearThrottle, 41}, 0.9);
+    const Sound other = Running(straightFour, {lasting, far, farThrottle, 42}, 0.45);
     Add(sound, other);
     const Curve away{{0, 6}, {4.7, 6}, {5.6, 16}, {7.2, 52}};
     sound = Passing(sound, {away, 6, 80});
     for (int i = 0; i < 9; ++i)
         Add(sound, IndicatorTick(i % 2 == 1), 0.2 + 0.42 * i, 0.07);
-    Add(sound,
-        Shaped(TyreSqueal(0.7, Curve{{0, 0}, {0.1, 0.8}, {0.5, 0.7}, {0.7, 0}}, 43),
-               [](double) { return 0.16; }),
+    Add(sound, Shaped(TyreSqueal(0.7, Curve{{0, 0}, {0.1, 0.8}, {0.5, 0.7}, {0.7, 0}}, 43), Always(0.16)),
         4.72);
-    Add(sound, Levelled(CityHum(kLong, 44), 0.02));
+    Add(sound, Levelled(CityHum(lasting, 44), 0.02));
     return sound;
 }
 
 Sound StuckOnIce()
 {
-    constexpr double kLong = 6.8;
+    constexpr double lasting = 6.8;
     // Rocking to and fro: each try spins up and lets go; the last one nearly does it.
     const Curve spin{{0, 0},      {0.35, 0.0}, {0.6, 0.7}, {1.25, 0.8}, {1.5, 0.1}, {1.7, 0.1},
                      {1.95, 0.8}, {2.45, 0.8}, {2.7, 0.1}, {2.9, 0.1},  {3.1, 0.9}, {3.6, 0.9},
                      {3.8, 0.15}, {4.0, 0.2},  {4.4, 1.0}, {5.6, 1.0},  {5.9, 0.2}, {6.4, 0}};
     const Course revs = [=](double t) { return 750 + 3600 * spin(t); };
     const Course throttle = [=](double t) { return 0.1 + 0.7 * spin(t); };
-    Sound sound = Levelled(RunEngine(StraightSix(), {kLong, revs, throttle, 62}), 0.65);
-    Add(sound, Levelled(WheelOnIce(kLong, spin, 63), 0.75));
+    Sound sound = Running(straightSix, {lasting, revs, throttle, 62}, 0.65);
+    Add(sound, Levelled(WheelOnIce(lasting, spin, 63), 0.75));
     // It falls back into its hole.
     for (const double at : {1.55, 2.78, 3.88, 6.0})
         Add(sound,
@@ -190,20 +181,16 @@ Sound StuckOnIce()
 Sound PassingEight()
 {
     const Curve revs{{0, 4150}, {3.4, 4500}};
-    Sound source = Levelled(RunEngine(BurblingEight(), {3.5, revs, [](double) { return 0.85; }, 67}), 1.0);
-    Add(source, Levelled(TyreRoll(
-                             3.5, [](double) { return 34.0; }, 0.1, 68),
-                         0.32));
+    Sound source = Running(burblingEight, {3.5, revs, Always(0.85), 67});
+    Add(source, Rolling(3.5, 34.0, 0.1, 68, 0.32));
     return Faded(Lasting(Passing(source, Steady(34, 1.5, 4.5)), 3.2), 0.12, 0.35);
 }
 
 TwoEars GoingByInTheWet()
 {
     const Curve revs{{0, 2050}, {4.8, 1950}};
-    Sound source = Levelled(TyreRoll(
-                                4.8, [](double) { return 18.0; }, 1.0, 91),
-                            0.9);
-    Add(source, Levelled(RunEngine(StraightSix(), {4.8, revs, [](double) { return 0.4; }, 92}), 0.55));
+    Sound source = Rolling(4.8, 18.0, 1.0, 91, 0.9);
+    Add(source, Running(straightSix, {4.8, revs, Always(0.4), 92}, 0.55));
     TwoEars road = PassingBothEars(source, Steady(-17, 2.2, 4));
     Sound rain = Filtered(WhiteNoise(4.8, 93), Filter::HighPass(3500));
     Add(road, Placed(Levelled(std::move(rain), 0.012), 0));

@@ -1,21 +1,21 @@
-#include "engine.h"
+#include "sample/sounds/engine.h"
 
-#include "../noise.h"
-#include "../vec.h"
-#include "filters.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/vec.h"
+#include "sample/sounds/filters.h"
 
 namespace torvik::sample {
 
 namespace {
 
-constexpr double kSoundSpeedInPipe = 480; // metres a second, in hot gas
-constexpr double kMouth = 210;            // hertz below which the end of a pipe sounds less and less
+constexpr double soundSpeedInPipe = 480; // metres a second, in hot gas
+constexpr double mouthHertz = 210;       // hertz below which the end of a pipe sounds less and less
 
 /// A pipe, open at its far end: what comes back from there is turned over and a little duller.
 class Pipe {
 public:
     Pipe(double metres, double ring)
-        : line_(std::max<std::size_t>(8, SamplesIn(2 * metres / kSoundSpeedInPipe)), 0.0), ring_(ring)
+        : line_(std::max<std::size_t>(8, SamplesIn(2 * metres / soundSpeedInPipe)), 0.0), ring_(ring)
     {}
 
     double operator()(double in)
@@ -37,8 +37,7 @@ private:
 /// The bang of a cylinder: up at once, then down within `seconds`.
 class Bang {
 public:
-    explicit Bang(double seconds) : keep_(std::exp(-1.0 / (seconds * kSoundRate))), rise_((1 - keep_) * 2.7)
-    {}
+    explicit Bang(double seconds) : keep_(std::exp(-1.0 / (seconds * soundRate))), rise_((1 - keep_) * 2.7) {}
 
     void Fire(double strength) { charge_ += strength; }
     double operator()()
@@ -55,130 +54,57 @@ private:
     double level_ = 0;
 };
 
-std::vector<Firing> Evenly(int cylinders)
+/// Bangs at equal distances, dealt in turn to so many pipes.
+std::vector<Firing> Evenly(int cylinders, int pipes)
 {
     std::vector<Firing> firings;
-    for (int i = 0; i < cylinders; ++i) {
-        const double uneven = 1.0 - 0.12 * ((i * 5) % 3);
-        firings.push_back({static_cast<double>(i) / cylinders, uneven, i % 2});
-    }
+    for (int i = 0; i < cylinders; ++i)
+        firings.push_back({static_cast<double>(i) / cylinders, 1.0 - 0.12 * ((i * 5) % 3), i % pipes});
     return firings;
 }
 
+const std::vector<Firing> burble = {{0.0 / 8, 1.0, 0},  {1.0 / 8, 0.78, 1}, {2.0 / 8, 0.95, 1},
+                                    {3.0 / 8, 0.7, 0},  {4.0 / 8, 1.0, 1},  {5.0 / 8, 0.84, 0},
+                                    {6.0 / 8, 0.74, 0}, {7.0 / 8, 0.92, 1}};
+
 } // namespace
 
-EngineKind BurblingEight()
-{
-    EngineKind kind;
-    constexpr std::array kPipe = {0, 1, 1, 0, 1, 0, 0, 1};
-    constexpr std::array kBang = {1.0, 0.78, 0.95, 0.7, 1.0, 0.84, 0.74, 0.92};
-    for (std::size_t i = 0; i < kPipe.size(); ++i)
-        kind.firings.push_back({static_cast<double>(i) / 8, kBang[i], kPipe[i]});
-    kind.pulse = 0.0017;
-    kind.pipes = {1.9, 2.25};
-    kind.muffler = 1100;
-    kind.lope = 0.2;
-    return kind;
-}
+// Firings, pulse, pipes, ring, muffler, roughness, lope, intake, hiss, ticking and its pitch, whine and its
+// ratio, crackle.
+const EngineKind burblingEight{burble, 0.0017, {1.9, 2.25}, 0.62, 1100, 0.12, 0.2};
+const EngineKind screamingEight{Evenly(8, 2), 0.0006, {0.75, 0.8}, 0.7,  4800, 0.2, 0,
+                                0.4,          0.10,   0.05,        3200, 0,    12,  0.8};
+const EngineKind straightSix{Evenly(6, 1), 0.0022, {2.6, 2.6}, 0.5, 620, 0.08, 0, 0.25, 0.10, 0.12, 2300};
+const EngineKind airCooledSix{Evenly(6, 2), 0.0010, {0.9, 1.05}, 0.66, 1900, 0.12, 0,
+                              0.45,         0.10,   0.2,         4200, 0.05, 19};
+const EngineKind straightFour{Evenly(4, 1), 0.0007, {0.85, 0.85}, 0.6, 3600, 0.12, 0, 0.35, 0.10, 0.08};
+const EngineKind bigTwin{{{0.0, 1.0, 0}, {315.0 / 720.0, 0.86, 1}},
+                         0.0026,
+                         {0.95, 1.15},
+                         0.5,
+                         1700,
+                         0.2,
+                         0.45,
+                         0.25,
+                         0.10,
+                         0.1,
+                         2600};
+const EngineKind diesel{Evenly(6, 2), 0.0030, {3.4, 3.4}, 0.45, 700,  0.12, 0,
+                        0.25,         0.10,   0.55,       1250, 0.06, 41};
+const EngineKind turbocharged{Evenly(8, 2), 0.0006, {0.75, 0.8}, 0.7,  3000, 0.2, 0,
+                              0.4,          0.10,   0.05,        3200, 0.16, 17,  0.3};
 
-EngineKind ScreamingEight()
+EngineKind Tuned(EngineKind kind, const Tuning& tuning)
 {
-    EngineKind kind;
-    kind.firings = Evenly(8);
-    kind.pulse = 0.0006;
-    kind.pipes = {0.75, 0.8};
-    kind.ring = 0.7;
-    kind.muffler = 4800;
-    kind.rough = 0.2;
-    kind.intake = 0.4;
-    kind.crackle = 0.8;
-    return kind;
-}
-
-EngineKind StraightSix()
-{
-    EngineKind kind;
-    kind.firings = Evenly(6);
-    for (Firing& firing : kind.firings)
-        firing.pipe = 0;
-    kind.pulse = 0.0022;
-    kind.pipes = {2.6, 2.6};
-    kind.ring = 0.5;
-    kind.muffler = 620;
-    kind.rough = 0.08;
-    kind.ticking = 0.12;
-    kind.tickHertz = 2300;
-    return kind;
-}
-
-EngineKind AirCooledSix()
-{
-    EngineKind kind;
-    kind.firings = Evenly(6);
-    kind.pulse = 0.0010;
-    kind.pipes = {0.9, 1.05};
-    kind.ring = 0.66;
-    kind.muffler = 1900;
-    kind.intake = 0.45;
-    kind.ticking = 0.2;
-    kind.tickHertz = 4200;
-    kind.whine = 0.05;
-    kind.whineRatio = 19;
-    return kind;
-}
-
-EngineKind StraightFour()
-{
-    EngineKind kind;
-    kind.firings = Evenly(4);
-    for (Firing& firing : kind.firings)
-        firing.pipe = 0;
-    kind.pulse = 0.0007;
-    kind.pipes = {0.85, 0.85};
-    kind.ring = 0.6;
-    kind.muffler = 3600;
-    kind.intake = 0.35;
-    kind.ticking = 0.08;
-    return kind;
-}
-
-EngineKind BigTwin()
-{
-    EngineKind kind;
-    kind.firings = {{0.0, 1.0, 0}, {315.0 / 720.0, 0.86, 1}};
-    kind.pulse = 0.0026;
-    kind.pipes = {0.95, 1.15};
-    kind.ring = 0.5;
-    kind.muffler = 1700;
-    kind.rough = 0.2;
-    kind.lope = 0.45;
-    kind.ticking = 0.1;
-    kind.tickHertz = 2600;
-    return kind;
-}
-
-EngineKind Diesel()
-{
-    EngineKind kind;
-    kind.firings = Evenly(6);
-    kind.pulse = 0.0030;
-    kind.pipes = {3.4, 3.4};
-    kind.ring = 0.45;
-    kind.muffler = 700;
-    kind.ticking = 0.55;
-    kind.tickHertz = 1250;
-    kind.whine = 0.06;
-    kind.whineRatio = 41;
-    return kind;
-}
-
-EngineKind Turbocharged()
-{
-    EngineKind kind = ScreamingEight();
-    kind.muffler = 3000;
-    kind.whine = 0.16;
-    kind.whineRatio = 17;
-    kind.crackle = 0.3;
+    kind.pulse = tuning.pulse.value_or(kind.pulse);
+    kind.pipes = tuning.pipes.value_or(kind.pipes);
+    kind.ring = tuning.ring.value_or(kind.ring);
+    kind.muffler = tuning.muffler.value_or(kind.muffler);
+    kind.rough = tuning.rough.value_or(kind.rough);
+    kind.lope = tuning.lope.value_or(kind.lope);
+    kind.whine = tuning.whine.value_or(kind.whine);
+    kind.whineRatio = tuning.whineRatio.value_or(kind.whineRatio);
+    kind.crackle = tuning.crackle.value_or(kind.crackle);
     return kind;
 }
 
@@ -201,17 +127,16 @@ Sound RunEngine(const EngineKind& kind, const Driving& driving)
     double overrun = 0;
     std::size_t next = 0;
     for (std::size_t i = 0; i < sound.size(); ++i) {
-        const double t = static_cast<double>(i) / kSoundRate;
+        const double t = static_cast<double>(i) / soundRate;
         const double throttle = Clamp01(driving.throttle(t));
         const double revs = std::max(60.0, driving.revs(t));
         // An idling engine with a sporty camshaft falls over its own feet.
         const double calm = kind.lope * std::exp(-std::max(0.0, revs - 700) / 500);
-        const double stumble =
-            1 + 0.10 * calm * std::sin(2 * kPi * 2.1 * t) * std::sin(2 * kPi * 0.73 * t + 1);
-        phase += revs * stumble / 120.0 / kSoundRate;
+        const double stumble = 1 + 0.10 * calm * std::sin(2 * pi * 2.1 * t) * std::sin(2 * pi * 0.73 * t + 1);
+        phase += revs * stumble / 120.0 / soundRate;
         // A throttle that closes leaves fuel in the pipes for a while.
         overrun =
-            std::max(overrun * (1 - 1.2 / kSoundRate), std::min(1.0, (throttleBefore - throttle) * 4000));
+            std::max(overrun * (1 - 1.2 / soundRate), std::min(1.0, (throttleBefore - throttle) * 4000));
         throttleBefore += (throttle - throttleBefore) * 0.0005;
         while (next < kind.firings.size() && phase >= kind.firings[next].at) {
             const Firing& firing = kind.firings[next];
@@ -235,23 +160,28 @@ Sound RunEngine(const EngineKind& kind, const Driving& driving)
         const double gasNoise = gas(white) * kind.hiss * 6 * (left + right);
         double out = pipes[0](left + gasNoise + burst * white * 0.5) + pipes[1](right + gasNoise * 0.8);
         const double open = kind.muffler * (0.55 + 0.75 * throttle + revs / 9000) + 2500 * burst;
-        const double share = 1 - std::exp(-2 * kPi * open / kSoundRate);
+        const double share = 1 - std::exp(-2 * pi * open / soundRate);
         for (double& stage : behindMuffler) {
             stage += (out - stage) * share;
             out = stage;
         }
         // A pipe's mouth is small beside the waves of deep tones and gives little of them to the air.
-        standing += (out - standing) * (1 - std::exp(-2 * kPi * kMouth / kSoundRate));
+        standing += (out - standing) * (1 - std::exp(-2 * pi * mouthHertz / soundRate));
         out -= standing;
-        whinePhase += revs / 60.0 * kind.whineRatio / kSoundRate;
+        whinePhase += revs / 60.0 * kind.whineRatio / soundRate;
         whinePhase -= std::floor(whinePhase);
         const double effort = throttle * std::min(1.0, revs / 5000);
         sound[i] =
             out + kind.intake * roar(white) * (left + right) * (0.3 + 2.2 * effort) +
             kind.ticking * rattle(white) * valve() * 1.6 +
-            kind.whine * std::sin(2 * kPi * whinePhase) * (0.3 + 0.7 * throttle) * std::min(1.5, revs / 3500);
+            kind.whine * std::sin(2 * pi * whinePhase) * (0.3 + 0.7 * throttle) * std::min(1.5, revs / 3500);
     }
     return Filtered(std::move(sound), Filter::HighPass(45));
+}
+
+Sound Running(const EngineKind& kind, const Driving& driving, double level)
+{
+    return Levelled(RunEngine(kind, driving), level);
 }
 
 Sound CrankEngine(double seconds, double turns, std::uint32_t seed)
@@ -259,7 +189,7 @@ Sound CrankEngine(double seconds, double turns, std::uint32_t seed)
     Random random(seed);
     const double lag = random.Between(0, 1);
     // Each compression slows the motor down; then it runs away until the next.
-    const auto load = [=](double t) { return 0.5 + 0.5 * std::sin(2 * kPi * (turns * t + lag)); };
+    const auto load = [=](double t) { return 0.5 + 0.5 * std::sin(2 * pi * (turns * t + lag)); };
     const Course hertz = [=](double t) { return 165 + 9 * turns - 42 * load(t); };
     Sound motor = RichTone(seconds, hertz, 18, 0.85);
     motor = Filtered(std::move(motor), Filter::BandPass(900, 0.6));

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "sources.h"
+#include "sample/sounds/sound.h"
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace torvik::sample {
@@ -33,18 +34,25 @@ struct EngineKind {
     double crackle = 0;     ///< pops in the pipes when the throttle closes
 };
 
-/// Eight cylinders whose bangs fall unevenly on the two pipes: the burble.
-EngineKind BurblingEight();
-/// Eight cylinders that alternate between the pipes: the scream of a racing engine.
-EngineKind ScreamingEight();
-EngineKind StraightSix();
-/// Six flat cylinders cooled by a fan.
-EngineKind AirCooledSix();
-EngineKind StraightFour();
-/// Two cylinders at an angle of 45 degrees, that fire one shortly after the other.
-EngineKind BigTwin();
-EngineKind Diesel();
-EngineKind Turbocharged();
+/// Eight cylinders whose bangs fall unevenly on the two pipes (the burble), or alternate between them (the
+/// scream of a racing engine); six flat ones cooled by a fan; two at an angle of 45 degrees, that fire one
+/// shortly after the other.
+extern const EngineKind burblingEight, screamingEight, straightSix, airCooledSix, straightFour, bigTwin,
+    diesel, turbocharged;
+
+/// What is different in an engine that somebody has worked on.
+struct Tuning {
+    std::optional<double> pulse = {};
+    std::optional<std::array<double, 2>> pipes = {};
+    std::optional<double> ring = {};
+    std::optional<double> muffler = {};
+    std::optional<double> rough = {};
+    std::optional<double> lope = {};
+    std::optional<double> whine = {};
+    std::optional<double> whineRatio = {};
+    std::optional<double> crackle = {};
+};
+EngineKind Tuned(EngineKind kind, const Tuning& tuning);
 
 /// How the engine is driven.
 struct Driving {
@@ -56,6 +64,9 @@ struct Driving {
 
 /// The engine as heard from close by. Not levelled, so that throttle can be heard.
 Sound RunEngine(const EngineKind& kind, const Driving& driving);
+
+/// The same, its loudest moment at `level`.
+Sound Running(const EngineKind& kind, const Driving& driving, double level = 1);
 
 /// A starter motor that turns an engine which does not yet fire, `turns` compressions a second.
 Sound CrankEngine(double seconds, double turns, std::uint32_t seed);

@@ -1,6 +1,6 @@
-#include "filters.h"
+#include "sample/sounds/filters.h"
 
-#include "../vec.h"
+#include "sample/geometry/vec.h"
 
 #include <array>
 
@@ -8,14 +8,14 @@ namespace torvik::sample {
 
 namespace {
 
-struct Corner {
+struct Cutoff {
     double cosine;
     double alpha;
 };
 
-Corner CornerAt(double hertz, double q)
+Cutoff CutoffAt(double hertz, double q)
 {
-    const double w = 2 * kPi * std::clamp(hertz, 5.0, kSoundRate * 0.48) / kSoundRate;
+    const double w = 2 * pi * std::clamp(hertz, 5.0, soundRate * 0.48) / soundRate;
     return {std::cos(w), std::sin(w) / (2 * q)};
 }
 
@@ -23,7 +23,7 @@ Corner CornerAt(double hertz, double q)
 
 Filter Filter::LowPass(double hertz, double q)
 {
-    const auto [c, alpha] = CornerAt(hertz, q);
+    const auto [c, alpha] = CutoffAt(hertz, q);
     const double a0 = 1 + alpha;
     Filter f;
     f.b1_ = (1 - c) / a0;
@@ -35,7 +35,7 @@ Filter Filter::LowPass(double hertz, double q)
 
 Filter Filter::HighPass(double hertz, double q)
 {
-    const auto [c, alpha] = CornerAt(hertz, q);
+    const auto [c, alpha] = CutoffAt(hertz, q);
     const double a0 = 1 + alpha;
     Filter f;
     f.b1_ = -(1 + c) / a0;
@@ -47,7 +47,7 @@ Filter Filter::HighPass(double hertz, double q)
 
 Filter Filter::BandPass(double hertz, double q)
 {
-    const auto [c, alpha] = CornerAt(hertz, q);
+    const auto [c, alpha] = CutoffAt(hertz, q);
     const double a0 = 1 + alpha;
     Filter f;
     f.b0_ = alpha / a0;
@@ -81,11 +81,11 @@ Sound InRoom(const Sound& sound, double seconds, double share)
         double keep = 0;
         double dull = 0;
     };
-    constexpr std::array kDelays = {0.0297, 0.0371, 0.0411, 0.0437};
+    constexpr std::array delays = {0.0297, 0.0371, 0.0411, 0.0437};
     std::array<Echo, 4> echoes;
     for (std::size_t i = 0; i < echoes.size(); ++i) {
-        echoes[i].line.assign(SamplesIn(kDelays[i]), 0.0);
-        echoes[i].keep = std::pow(0.001, kDelays[i] / seconds);
+        echoes[i].line.assign(SamplesIn(delays[i]), 0.0);
+        echoes[i].keep = std::pow(0.001, delays[i] / seconds);
     }
     std::array<Echo, 2> blurs;
     blurs[0].line.assign(SamplesIn(0.005), 0.0);

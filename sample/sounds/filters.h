@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sound.h"
+#include "sample/sounds/sound.h"
 
 namespace torvik::sample {
 

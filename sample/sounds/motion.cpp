@@ -1,12 +1,12 @@
-#include "motion.h"
+#include "sample/sounds/motion.h"
 
-#include "../vec.h"
+#include "sample/geometry/vec.h"
 
 namespace torvik::sample {
 
 namespace {
 
-constexpr double kSoundSpeed = 340.0;
+constexpr double soundSpeed = 340.0;
 
 /// Hears `source` with an ear `ear` metres to the right of the origin.
 Sound HeardAt(const Sound& source, const Drive& drive, double ear)
@@ -14,17 +14,17 @@ Sound HeardAt(const Sound& source, const Drive& drive, double ear)
     Sound heard(source.size(), 0.0);
     const auto distanceAt = [&](double t) { return std::hypot(drive.along(t) - ear, drive.aside); };
     // The delay of the start is taken out, so that the sound is there from its first moment.
-    const double headStart = distanceAt(0) / kSoundSpeed;
+    const double headStart = distanceAt(0) / soundSpeed;
     double sent = 0;
     double dull = 0;
     for (std::size_t i = 0; i < heard.size(); ++i) {
-        const double t = static_cast<double>(i) / kSoundRate + headStart;
+        const double t = static_cast<double>(i) / soundRate + headStart;
         // When was it sent? A step or two of coming closer is enough, since a moment ago it was nearly so.
         for (int k = 0; k < 2; ++k)
-            sent = t - distanceAt(sent) / kSoundSpeed;
+            sent = t - distanceAt(sent) / soundSpeed;
         sent = std::max(0.0, sent);
         const double distance = distanceAt(sent);
-        const double place = sent * kSoundRate;
+        const double place = sent * soundRate;
         const auto whole = static_cast<std::size_t>(place);
         if (whole + 1 >= source.size())
             break;
@@ -58,7 +58,7 @@ TwoEars PassingBothEars(const Sound& source, const Drive& drive)
 TwoEars Placed(const Sound& sound, double place)
 {
     TwoEars both{sound, sound};
-    const double angle = (place + 1) * kPi / 4;
+    const double angle = (place + 1) * pi / 4;
     for (double& value : both.left)
         value *= std::cos(angle);
     for (double& value : both.right)

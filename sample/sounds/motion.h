@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sources.h"
+#include "sample/sounds/sound.h"
 
 namespace torvik::sample {
 

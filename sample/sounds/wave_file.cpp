@@ -1,14 +1,16 @@
-#include "wave_file.h"
+#include "sample/sounds/wave_file.h"
 
-#include "../noise.h"
-#include "../riff.h"
-#include "../vec.h"
+#include "sample/files/riff.h"
+#include "sample/geometry/noise.h"
+#include "sample/geometry/vec.h"
+
+#include <QStringBuilder>
 
 namespace torvik::sample {
 
 Sound AtRate(const Sound& sound, int rate)
 {
-    const int step = static_cast<int>(kSoundRate) / rate;
+    const int step = static_cast<int>(soundRate) / rate;
     if (step == 1)
         return sound;
     // A low pass of 16 lobes on each side, in a window that ends in zero.
@@ -17,8 +19,8 @@ Sound AtRate(const Sound& sound, int rate)
     double sum = 0;
     for (int k = -reach; k <= reach; ++k) {
         const double x = 0.92 * k / step;
-        const double wave = k == 0 ? 1.0 : std::sin(kPi * x) / (kPi * x);
-        const double window = 0.42 + 0.5 * std::cos(kPi * k / reach) + 0.08 * std::cos(2 * kPi * k / reach);
+        const double wave = k == 0 ? 1.0 : std::sin(pi * x) / (pi * x);
+        const double window = 0.42 + 0.5 * std::cos(pi * k / reach) + 0.08 * std::cos(2 * pi * k / reach);
         weights.push_back(wave * window);
         sum += weights.back();
     }
@@ -56,23 +58,15 @@ QByteArray PcmSamples(const std::vector<Sound>& channels, const SoundForm& form)
 
 QByteArray PcmFormat(int channels, const SoundForm& form)
 {
-    const auto frame = static_cast<std::uint32_t>(channels * form.bits / 8);
-    const auto rate = static_cast<std::uint32_t>(form.rate);
-    QByteArray format;
-    AppendNumber(format, 1, 2);
-    AppendNumber(format, static_cast<std::uint32_t>(channels), 2);
-    AppendNumber(format, rate, 4);
-    AppendNumber(format, rate * frame, 4);
-    AppendNumber(format, frame, 2);
-    AppendNumber(format, static_cast<std::uint32_t>(form.bits), 2);
-    return format;
+    const int frame = channels * form.bits / 8;
+    return Words({1, channels}) + Longs({form.rate, form.rate * frame}) + Words({frame, form.bits});
 }
 
 QByteArray WaveFile(const std::vector<Sound>& channels, const SoundForm& form)
 {
-    QByteArray chunks = RiffChunk("fmt ", PcmFormat(static_cast<int>(channels.size()), form));
-    chunks += RiffChunk("data", PcmSamples(channels, form));
-    return RiffList("RIFF", "WAVE", chunks);
+    return RiffList("RIFF", "WAVE",
+                    RiffChunk("fmt ", PcmFormat(static_cast<int>(channels.size()), form)) +
+                        RiffChunk("data", PcmSamples(channels, form)));
 }
 
 } // namespace torvik::sample

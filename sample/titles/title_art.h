@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QImage>
+#include <QPointF>
+#include <QString>
+
+class QPainter;
+
+namespace torvik::sample {
+
+/// Golden lettering of `height` pixels around `middle`, with a shadow; `spacing` of the letters in percent.
+void TitleText(QPainter& p, const QString& text, const QPointF& middle, double height, const QString& family,
+               bool italic, double spacing);
+
+/// The opening picture: several generations before the evening sea, with the title.
+QImage PaintOpening(QSize size);
+/// The title artwork of the start-up window, drawn for 600 x 400 and enlarged by `factor`.
+QImage PaintSplash(int factor);
+/// The program's sign.
+QImage PaintIcon(int size);
+
+/// What the slide show opens with: framed transparencies in the light of a projector, with the title.
+QImage PaintSlideShow(QSize size);
+
+} // namespace torvik::sample
