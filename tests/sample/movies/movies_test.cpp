@@ -2,21 +2,15 @@
 #include "sample/movies/movie_plan.h"
 #include "sample/sounds/sound.h"
 #include "sample/sounds/wave_file.h"
+#include "support/number_at.h"
 #include "support/test_class.h"
 
 #include <QtTest>
 
+using namespace torvik;
 using namespace torvik::sample;
 
 namespace {
-
-int NumberAt(const QByteArray& bytes, qsizetype at, int count = 4)
-{
-    unsigned value = 0;
-    for (int i = count - 1; i >= 0; --i)
-        value = value * 256 + static_cast<unsigned char>(bytes.at(at + i));
-    return static_cast<int>(value);
-}
 
 struct Chunk {
     QByteArray name; ///< of a list: its kind

@@ -1,5 +1,6 @@
 #include "sample/files/in_parallel.h"
 #include "sample/sounds/effects.h"
+#include "support/number_at.h"
 #include "support/test_class.h"
 
 #include <QHash>
@@ -8,6 +9,7 @@
 
 #include <cstring>
 
+using namespace torvik;
 using namespace torvik::sample;
 
 namespace {
@@ -27,15 +29,7 @@ struct ReadWave {
     }
 };
 
-int NumberAt(const QByteArray& bytes, qsizetype at, int count)
-{
-    int value = 0;
-    for (int i = count - 1; i >= 0; --i)
-        value = value * 256 + static_cast<unsigned char>(bytes.at(at + i));
-    return value;
-}
-
-ReadWave Read(const QByteArray& file)
+ReadWave ReadWaveFile(const QByteArray& file)
 {
     ReadWave wave;
     if (!file.startsWith("RIFF") || file.mid(8, 4) != "WAVE" || NumberAt(file, 4, 4) != file.size() - 8)
@@ -112,7 +106,7 @@ private Q_SLOTS:
     void every_file_has_the_planned_length_and_form()
     {
         QFETCH(QString, file);
-        const ReadWave wave = Read(files_.value(file));
+        const ReadWave wave = ReadWaveFile(files_.value(file));
         for (const Effect& effect : SoundEffects()) {
             if (file != QLatin1String(effect.file))
                 continue;
@@ -129,7 +123,7 @@ private Q_SLOTS:
     void no_sound_is_cut_off_at_full_scale_or_too_faint()
     {
         QFETCH(QString, file);
-        const ReadWave wave = Read(files_.value(file));
+        const ReadWave wave = ReadWaveFile(files_.value(file));
         const auto [low, high] = std::minmax_element(wave.samples.begin(), wave.samples.end());
         const int loudest = std::max(-*low, *high);
         QVERIFY2(loudest > 28000 && loudest < 30200, qPrintable(QString::number(loudest)));
@@ -140,7 +134,7 @@ private Q_SLOTS:
     void every_sound_begins_and_ends_in_silence()
     {
         QFETCH(QString, file);
-        const ReadWave wave = Read(files_.value(file));
+        const ReadWave wave = ReadWaveFile(files_.value(file));
         QVERIFY(wave.samples.size() > 4);
         for (std::size_t i = 0; i < 2; ++i) {
             QVERIFY(std::abs(wave.samples[i]) < 700);
@@ -163,7 +157,7 @@ private Q_SLOTS:
         int lowRate = 0;
         int usual = 0;
         for (const QByteArray& file : std::as_const(files_)) {
-            const ReadWave wave = Read(file);
+            const ReadWave wave = ReadWaveFile(file);
             stereo += wave.channels == 2 ? 1 : 0;
             eightBits += wave.bits == 8 ? 1 : 0;
             lowRate += wave.rate == 11025 ? 1 : 0;
