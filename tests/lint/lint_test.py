@@ -186,7 +186,7 @@ class LintTest(unittest.TestCase):
                 self.assert_clean({"src/platform/files/a.cpp": line + "\n"})
 
     def test_headers_of_the_machine_belong_to_platform(self):
-        for header in ("filesystem", "fstream", "unistd.h", "QFile", "QtCore/QSettings"):
+        for header in ("filesystem", "fstream", "unistd.h", "QFile", "QtCore/QSettings", "cups/cups.h"):
             self.assert_caught("src/ui/forms/a.cpp", f"#include <{header}>\n", "only platform includes")
 
     def test_conversion_of_code_pages_belongs_to_one_folder(self):
