@@ -1,12 +1,14 @@
 #include "platform/paths/volumes.h"
 
 #include "platform/paths/host_name.h"
+#include "runtime/logging.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
-#include <map>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -16,80 +18,52 @@ namespace torvik {
 
 namespace {
 
-struct Mount {
-    QByteArray device; ///< "MAJOR:MINOR"
-    std::string point;
-    QByteArray type;
-    QByteArray source;
-};
-
-/// Undoes the table's way of writing blanks and backslashes, "\040".
-std::string Plain(const QByteArray& field)
+std::string_view View(const QByteArray& bytes)
 {
-    std::string text;
-    for (qsizetype i = 0; i < field.size(); ++i) {
-        bool isOctal = false;
-        const int code = field[i] == '\\' ? field.mid(i + 1, 3).toInt(&isOctal, 8) : 0;
-        if (isOctal && i + 3 < field.size()) {
-            text.push_back(static_cast<char>(code));
-            i += 3;
-        } else {
-            text.push_back(field[i]);
-        }
-    }
-    return text;
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-/// Reads one line: "36 35 8:1 / /media/disc ro,nosuid shared:1 - iso9660 /dev/sr0 ro". False when it is none.
-bool ReadMount(const QByteArray& line, Mount& mount)
+template <std::size_t N>
+bool IsOneOf(const std::array<std::string_view, N>& known, const QByteArray& word)
 {
-    const QList<QByteArray> fields = line.split(' ');
-    const qsizetype dash = fields.indexOf(QByteArrayLiteral("-"), 5);
-    if (dash < 0 || dash + 2 >= fields.size())
-        return false;
-    mount = {fields[2], Plain(fields[4]), fields[dash + 1], fields[dash + 2]};
-    return mount.point.starts_with('/');
+    return std::find(known.begin(), known.end(), View(word)) != known.end();
 }
 
 /// Whether `path` is one of the folders or lies inside it.
 template <std::size_t N>
-bool LiesIn(const std::array<std::string_view, N>& folders, const std::string& path)
+bool LiesIn(const std::array<std::string_view, N>& folders, std::string_view path)
 {
-    return std::any_of(folders.begin(), folders.end(), [&path](std::string_view folder) {
+    return std::any_of(folders.begin(), folders.end(), [path](std::string_view folder) {
         return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
     });
 }
 
-bool IsOptical(const Mount& mount)
+/// Why a volume is no medium; null when it looks like one.
+const char* WhyNoMedium(const Volume& volume, RemovableTest isRemovable)
 {
-    return mount.type == "iso9660" || mount.type == "udf" || mount.type == "fuse.fuseiso";
-}
-
-/// The file systems of disks and sticks. What is not named here, a pseudo file system or a network share, is
-/// no medium wherever it is mounted.
-bool IsOfDisks(const QByteArray& type)
-{
-    constexpr std::array<std::string_view, 20> types{
+    constexpr std::array<std::string_view, 3> optical{"iso9660", "udf", "fuse.fuseiso"};
+    // What is not named here, a pseudo file system or a network share, is no medium wherever it is mounted.
+    constexpr std::array<std::string_view, 20> ofDisks{
         "ext2",  "ext3",    "ext4", "xfs",     "btrfs", "f2fs",     "vfat", "msdos",    "exfat", "ntfs",
         "ntfs3", "fuseblk", "hfs",  "hfsplus", "jfs",   "reiserfs", "ufs",  "bcachefs", "zfs",   "apfs"};
-    return std::any_of(types.begin(), types.end(), [&type](std::string_view known) {
-        return QByteArrayView(known.data(), static_cast<qsizetype>(known.size())) == type;
-    });
-}
-
-bool LooksLikeMedia(const Mount& mount, RemovableTest isRemovable)
-{
     constexpr std::array<std::string_view, 8> ofTheSystem{"/boot", "/efi",  "/usr",  "/var",
                                                           "/etc",  "/home", "/snap", "/root"};
     constexpr std::array<std::string_view, 3> ofDesktops{"/media", "/run/media", "/mnt"};
-    if (mount.point == "/")
-        return false;
-    if (IsOptical(mount))
-        return true;
-    if (!IsOfDisks(mount.type) || LiesIn(ofTheSystem, mount.point))
-        return false;
-    return LiesIn(ofDesktops, mount.point) || mount.source.startsWith("/dev/loop") ||
-           isRemovable(mount.device);
+    const QByteArray point = QFile::encodeName(volume.MountPoint);
+    if (!point.startsWith('/'))
+        return "its folder cannot be reached";
+    if (point == "/")
+        return "it is the root of the system";
+    if (IsOneOf(optical, volume.FileSystem))
+        return nullptr;
+    if (!IsOneOf(ofDisks, volume.FileSystem))
+        return "its file system is not that of a disk or disc";
+    if (LiesIn(ofTheSystem, View(point)))
+        return "the system itself lives there";
+    if (LiesIn(ofDesktops, View(point)) || volume.Device.startsWith("/dev/loop") ||
+        isRemovable(volume.Device))
+        return nullptr;
+    return "its device stays in the machine";
 }
 
 bool ReadFlag(const QString& file)
@@ -100,37 +74,40 @@ bool ReadFlag(const QString& file)
 
 bool IsRemovableDevice(const QByteArray& device)
 {
-    const QString folder = u"/sys/dev/block/"_s + QString::fromLatin1(device);
+    const QString name = QFileInfo(QFileInfo(QFile::decodeName(device)).canonicalFilePath()).fileName();
+    const QString folder = u"/sys/class/block/"_s + name;
     // A partition has no such file of its own; it lies in the folder of its disk.
-    return ReadFlag(folder + u"/removable"_s) || ReadFlag(folder + u"/../removable"_s);
+    return !name.isEmpty() && (ReadFlag(folder + u"/removable"_s) || ReadFlag(folder + u"/../removable"_s));
 }
 
 } // namespace
 
-QList<QString> MediaInMountTable(const QByteArray& table, RemovableTest isRemovable)
+QList<QString> MediaAmong(const QList<Volume>& volumes, RemovableTest isRemovable)
 {
-    // What was mounted later over the same folder hides what was there.
-    std::map<std::string, Mount> byPoint;
-    const QList<QByteArray> lines = table.split('\n');
-    for (const QByteArray& line : lines) {
-        Mount mount;
-        if (ReadMount(line, mount))
-            byPoint[mount.point] = mount;
+    // Volumes may be mounted over each other, and their order does not tell which one is on top. A folder
+    // that shows no disc after all costs a letter and no more.
+    std::set<std::string> points;
+    for (const Volume& volume : volumes) {
+        const char* reason = WhyNoMedium(volume, isRemovable);
+        qCDebug(logDisc, "volume %s (%s, %s): %s", qPrintable(volume.MountPoint),
+                volume.FileSystem.constData(), volume.Device.constData(),
+                reason == nullptr ? "looks like a medium" : reason);
+        if (reason == nullptr)
+            points.insert(QFile::encodeName(volume.MountPoint).toStdString());
     }
     QList<QString> media;
-    for (const auto& [point, mount] : byPoint) {
-        if (LooksLikeMedia(mount, isRemovable))
-            media.append(HostText(point));
-    }
+    for (const std::string& point : points)
+        media.append(HostText(point));
     return media;
 }
 
 QList<QString> MountedMedia()
 {
-    QFile table(u"/proc/self/mountinfo"_s);
-    if (!table.open(QIODevice::ReadOnly))
-        return {};
-    return MediaInMountTable(table.readAll(), IsRemovableDevice);
+    constexpr std::chrono::seconds patience{3};
+    const auto volumes = ReadInTime(MountedVolumes, patience);
+    if (!volumes)
+        qCDebug(logDisc) << "the list of volumes does not come; one of them does not answer";
+    return MediaAmong(volumes.value_or(QList<Volume>()), IsRemovableDevice);
 }
 
 } // namespace torvik

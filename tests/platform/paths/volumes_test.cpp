@@ -1,4 +1,5 @@
 #include "platform/paths/volumes.h"
+#include "support/logged_messages.h"
 #include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
@@ -10,121 +11,135 @@ bool NothingIsRemovable(const QByteArray&)
 {
     return false;
 }
-bool EightIsRemovable(const QByteArray& device)
+bool SticksAreRemovable(const QByteArray& device)
 {
-    return device.startsWith("8:");
-}
-
-QByteArray Line(const char* point, const char* type, const char* source, const char* device = "259:1")
-{
-    return QByteArray("36 25 ") + device + " / " + point + " rw,relatime shared:1 - " + type + ' ' + source +
-           " rw\n";
+    return device.startsWith("/dev/sd");
 }
 
 } // namespace
 
+/// Which volumes look like media.
 class VolumesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void optical_discs_count_wherever_they_are_mounted()
     {
-        const QByteArray table = Line("/cdrom", "iso9660", "/dev/sr0") + Line("/var/disc", "udf", "/dev/sr1");
-        QCOMPARE(MediaInMountTable(table, NothingIsRemovable), (QList<QString>{u"/cdrom"_s, u"/var/disc"_s}));
+        QCOMPARE(MediaAmong({{u"/cdrom"_s, "iso9660", "/dev/sr0"},
+                             {u"/var/disc"_s, "udf", "/dev/sr1"},
+                             {u"/home/anna/image"_s, "fuse.fuseiso", "fuseiso"}},
+                            NothingIsRemovable),
+                 (QList<QString>{u"/cdrom"_s, u"/home/anna/image"_s, u"/var/disc"_s}));
     }
 
     void image_files_on_a_loop_device_count()
     {
-        QCOMPARE(MediaInMountTable(Line("/srv/image", "vfat", "/dev/loop3"), NothingIsRemovable),
+        QCOMPARE(MediaAmong({{u"/srv/image"_s, "vfat", "/dev/loop3"}}, NothingIsRemovable),
                  QList<QString>{u"/srv/image"_s});
     }
 
     void packages_of_the_system_are_no_media()
     {
-        const QByteArray table = Line("/snap/core/1", "squashfs", "/dev/loop0") +
-                                 Line("/snap/x/2", "ext4", "/dev/loop1") +
-                                 Line("/var/lib/snapd/snap/y/1", "ext4", "/dev/loop2");
-        QCOMPARE(MediaInMountTable(table, NothingIsRemovable), QList<QString>());
+        QCOMPARE(MediaAmong({{u"/snap/core/1"_s, "squashfs", "/dev/loop0"},
+                             {u"/snap/x/2"_s, "ext4", "/dev/loop1"},
+                             {u"/var/lib/snapd/snap/y/1"_s, "ext4", "/dev/loop2"}},
+                            NothingIsRemovable),
+                 QList<QString>());
     }
 
     void what_desktops_mount_counts()
     {
-        const QByteArray table = Line("/media/anna/STICK", "vfat", "/dev/nvme1n1p1") +
-                                 Line("/run/media/anna/DISK", "ntfs3", "/dev/nvme1n1p2") +
-                                 Line("/mnt", "ext4", "/dev/nvme1n1p3") +
-                                 Line("/mnt/win", "fuseblk", "/dev/nvme1n1p4");
         QCOMPARE(
-            MediaInMountTable(table, NothingIsRemovable),
+            MediaAmong({{u"/media/anna/STICK"_s, "vfat", "/dev/nvme1n1p1"},
+                        {u"/run/media/anna/DISK"_s, "ntfs3", "/dev/nvme1n1p2"},
+                        {u"/mnt"_s, "ext4", "/dev/nvme1n1p3"},
+                        {u"/mnt/win"_s, "fuseblk", "/dev/nvme1n1p4"}},
+                       NothingIsRemovable),
             (QList<QString>{u"/media/anna/STICK"_s, u"/mnt"_s, u"/mnt/win"_s, u"/run/media/anna/DISK"_s}));
     }
 
     void folders_that_only_begin_alike_do_not_count()
     {
-        const QByteArray table =
-            Line("/mediathek", "ext4", "/dev/nvme0n1p1") + Line("/mnt2", "ext4", "/dev/nvme0n1p2");
-        QCOMPARE(MediaInMountTable(table, NothingIsRemovable), QList<QString>());
+        QCOMPARE(
+            MediaAmong({{u"/mediathek"_s, "ext4", "/dev/nvme0n1p1"}, {u"/mnt2"_s, "ext4", "/dev/nvme0n1p2"}},
+                       NothingIsRemovable),
+            QList<QString>());
     }
 
     void removable_devices_count_but_for_the_folders_of_the_system()
     {
-        const QByteArray table =
-            Line("/stick", "vfat", "/dev/sdb1", "8:17") + Line("/", "ext4", "/dev/sda1", "8:1") +
-            Line("/boot/efi", "vfat", "/dev/sda2", "8:2") + Line("/home", "ext4", "/dev/sda3", "8:3") +
-            Line("/data", "ext4", "/dev/nvme0n1p1");
-        QCOMPARE(MediaInMountTable(table, EightIsRemovable), QList<QString>{u"/stick"_s});
+        QCOMPARE(MediaAmong({{u"/stick"_s, "vfat", "/dev/sdb1"},
+                             {u"/"_s, "ext4", "/dev/sda1"},
+                             {u"/boot/efi"_s, "vfat", "/dev/sda2"},
+                             {u"/home"_s, "ext4", "/dev/sda3"},
+                             {u"/data"_s, "ext4", "/dev/nvme0n1p1"}},
+                            SticksAreRemovable),
+                 QList<QString>{u"/stick"_s});
     }
 
     void pseudo_file_systems_and_network_shares_are_no_media()
     {
-        QByteArray table;
+        QList<Volume> volumes;
         for (const char* type : {"proc", "sysfs", "tmpfs", "devtmpfs", "cgroup2", "overlay", "nfs", "nfs4",
                                  "cifs", "smb3", "fuse.sshfs", "fuse.gvfsd-fuse", "9p", "autofs", "squashfs"})
-            table += Line(QByteArray(QByteArray("/media/") + type).constData(), type, "/dev/loop9", "8:1");
-        QCOMPARE(MediaInMountTable(table, EightIsRemovable), QList<QString>());
+            volumes.append({u"/media/"_s + QLatin1StringView(type), type, "/dev/sdb1"});
+        QCOMPARE(MediaAmong(volumes, SticksAreRemovable), QList<QString>());
     }
 
-    void blanks_and_bytes_in_the_mount_point_are_read_back()
+    void blanks_and_backslashes_in_the_mount_point_stay()
     {
-        const QByteArray table =
-            Line("/media/My\\040Disc\\134x", "iso9660", "/dev/sr0") + Line("/media/\xFF", "udf", "/dev/sr1");
-        QCOMPARE(MediaInMountTable(table, NothingIsRemovable),
-                 (QList<QString>{u"/media/My Disc\\x"_s, u"/media/"_s + QChar(0xF7FF)}));
+        QCOMPARE(MediaAmong({{u"/media/My Disc\\x"_s, "iso9660", "/dev/sr0"}}, NothingIsRemovable),
+                 QList<QString>{u"/media/My Disc\\x"_s});
     }
 
     void the_mount_points_are_in_their_order()
     {
-        const QByteArray table = Line("/media/b", "iso9660", "/dev/sr1") +
-                                 Line("/media/a", "iso9660", "/dev/sr0") +
-                                 Line("/media/B", "iso9660", "/dev/sr2");
-        QCOMPARE(MediaInMountTable(table, NothingIsRemovable),
-                 (QList<QString>{u"/media/B"_s, u"/media/a"_s, u"/media/b"_s}));
+        QCOMPARE(MediaAmong({{u"/media/b"_s, "iso9660", "/dev/sr1"},
+                             {u"/media/a"_s, "iso9660", "/dev/sr0"},
+                             {u"/media/é"_s, "iso9660", "/dev/sr3"},
+                             {u"/media/B"_s, "iso9660", "/dev/sr2"}},
+                            NothingIsRemovable),
+                 (QList<QString>{u"/media/B"_s, u"/media/a"_s, u"/media/b"_s, u"/media/é"_s}));
     }
 
-    void what_is_mounted_over_a_disc_hides_it()
+    void volumes_over_each_other_are_one_medium_in_whatever_order_they_are_listed()
     {
-        const QByteArray table = Line("/media/a", "iso9660", "/dev/sr0") + Line("/media/a", "tmpfs", "tmpfs");
-        QCOMPARE(MediaInMountTable(table, NothingIsRemovable), QList<QString>());
-        const QByteArray twice =
-            Line("/media/a", "iso9660", "/dev/sr0") + Line("/media/a", "iso9660", "/dev/sr1");
-        QCOMPARE(MediaInMountTable(twice, NothingIsRemovable), QList<QString>{u"/media/a"_s});
+        const Volume disc{u"/media/a"_s, "iso9660", "/dev/sr0"};
+        const Volume other{u"/media/a"_s, "udf", "/dev/sr1"};
+        const Volume automatic{u"/media/a"_s, "autofs", "systemd-1"};
+        const QList<QString> once{u"/media/a"_s};
+        QCOMPARE(MediaAmong({disc, other}, NothingIsRemovable), once);
+        QCOMPARE(MediaAmong({disc, automatic}, NothingIsRemovable), once);
+        QCOMPARE(MediaAmong({automatic, disc}, NothingIsRemovable), once);
+        QCOMPARE(MediaAmong({automatic}, NothingIsRemovable), QList<QString>());
     }
 
-    void optional_fields_may_be_none_or_many()
+    void a_volume_without_a_folder_is_passed_over()
     {
-        const QByteArray table =
-            "36 25 11:0 / /media/a ro - iso9660 /dev/sr0 ro\n"
-            "36 25 11:0 / /media/b ro shared:1 master:2 propagate_from:3 - iso9660 /dev/sr0 ro\n";
-        QCOMPARE(MediaInMountTable(table, NothingIsRemovable),
-                 (QList<QString>{u"/media/a"_s, u"/media/b"_s}));
+        QCOMPARE(MediaAmong({{QString(), "iso9660", "/dev/sr0"}, {u"media"_s, "udf", "x"}, {}},
+                            NothingIsRemovable),
+                 QList<QString>());
     }
 
-    void lines_that_are_broken_are_passed_over()
+    void each_volume_is_logged_with_the_reason_for_its_refusal()
     {
-        for (const char* line :
-             {"", "\n\n", "garbage", "1 2 3 4 5 6 7 8", "36 25 11:0 / /media/a ro -",
-              "36 25 11:0 / /media/a ro - iso9660", "- - - - - - - -",
-              "36 25 11:0 / media ro - iso9660 /dev/sr0 ro", "36 25 11:0 / \\04 ro - udf x ro"})
-            QCOMPARE(MediaInMountTable(line, NothingIsRemovable), QList<QString>());
+        LoggedMessages log(u"torvik.disc"_s);
+        MediaAmong({{u"/"_s, "ext4", "/dev/sda1"},
+                    {u"/proc"_s, "proc", "proc"},
+                    {u"/home"_s, "ext4", "/dev/sda3"},
+                    {u"/data"_s, "ext4", "/dev/nvme0n1p1"},
+                    {QString(), "udf", "/dev/sr1"},
+                    {u"/media/disc"_s, "iso9660", "/dev/sr0"}},
+                   SticksAreRemovable);
+        QCOMPARE(
+            log.Texts(),
+            (QStringList{
+                u"torvik.disc: volume / (ext4, /dev/sda1): it is the root of the system"_s,
+                u"torvik.disc: volume /proc (proc, proc): its file system is not that of a disk or disc"_s,
+                u"torvik.disc: volume /home (ext4, /dev/sda3): the system itself lives there"_s,
+                u"torvik.disc: volume /data (ext4, /dev/nvme0n1p1): its device stays in the machine"_s,
+                u"torvik.disc: volume  (udf, /dev/sr1): its folder cannot be reached"_s,
+                u"torvik.disc: volume /media/disc (iso9660, /dev/sr0): looks like a medium"_s}));
     }
 
     void the_machine_answers()
