@@ -8,6 +8,7 @@
 #include "platform/paths/name_pattern.h"
 #include "platform/paths/path_lookup.h"
 #include "runtime/failure.h"
+#include "runtime/logging.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -81,7 +82,10 @@ QString FindFile(const QString& patternOrPath)
 {
     if (NamePattern::HasWildcards(QStringView(patternOrPath).mid(BeginOfName(patternOrPath)))) {
         const QStringList names = FilesMatching(patternOrPath);
-        return names.isEmpty() ? QString() : names.first();
+        const QString first = names.isEmpty() ? QString() : names.first();
+        qCDebug(logFiles, "%s: %d found%s%s", qUtf8Printable(patternOrPath), int(names.size()),
+                first.isEmpty() ? "" : ", the first is ", qUtf8Printable(first));
+        return first;
     }
     const std::string path = HostPathBytes(patternOrPath);
     struct stat status {};

@@ -5,9 +5,11 @@
 #include "platform/paths/program_folder.h"
 #include "platform/paths/volumes.h"
 #include "runtime/failure.h"
+#include "runtime/logging.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -94,6 +96,12 @@ void AppendComponents(std::string& path, QStringView components)
     }
 }
 
+void LogLookUp(const QString& drivePath, const QString& found)
+{
+    qCDebug(logFiles, "%s is %s%s", qUtf8Printable(drivePath), qUtf8Printable(found),
+            QFileInfo::exists(found) ? "" : ", which is not there");
+}
+
 } // namespace
 
 void SetDriveOptions(const QList<DriveOption>& options)
@@ -158,7 +166,11 @@ std::string HostPathBytes(const QString& drivePath)
     path.reserve(root.size() + static_cast<std::size_t>(drivePath.size()));
     AppendComponents(path, QStringView(drivePath).mid(3));
     std::string found = SpellingOnHost(root, path);
-    return found.empty() ? std::string("/") : found;
+    if (found.empty())
+        found = "/";
+    if (logFiles().isDebugEnabled())
+        LogLookUp(drivePath, HostText(found));
+    return found;
 }
 
 QString HostPath(const QString& drivePath)

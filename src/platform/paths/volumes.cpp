@@ -89,7 +89,7 @@ QList<QString> MediaAmong(const QList<Volume>& volumes, RemovableTest isRemovabl
     std::set<std::string> points;
     for (const Volume& volume : volumes) {
         const char* reason = WhyNoMedium(volume, isRemovable);
-        qCDebug(logDisc, "volume %s (%s, %s): %s", qPrintable(volume.MountPoint),
+        qCDebug(logDisc, "volume %s (%s, %s): %s", qUtf8Printable(volume.MountPoint),
                 volume.FileSystem.constData(), volume.Device.constData(),
                 reason == nullptr ? "looks like a medium" : reason);
         if (reason == nullptr)

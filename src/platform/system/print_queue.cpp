@@ -58,7 +58,7 @@ bool TakesJobs(const QString& printer)
     const Message answer = AskAbout(printer, connection.get());
     ipp_attribute_t* found = ippFindAttribute(answer.get(), accepting, IPP_TAG_BOOLEAN);
     const bool takes = found == nullptr || ippGetBoolean(found, 0) != 0;
-    qCDebug(logPrint, "printer %s: %s", qPrintable(printer),
+    qCDebug(logPrint, "printer %s: %s", qUtf8Printable(printer),
             found == nullptr ? "the print system does not know it"
             : takes          ? "takes jobs"
                              : "takes no jobs");

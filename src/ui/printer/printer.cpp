@@ -89,11 +89,11 @@ std::unique_ptr<PrintJob> PrinterObject::MakeJob() const
     const PrinterSetup setup = Setup();
     if (setup.Name.isEmpty()) {
         const QString file = NextJobFile(FileFolder());
-        qCDebug(logPrint, "a job goes to the file %s", qPrintable(file));
+        qCDebug(logPrint, "a job goes to the file %s", qUtf8Printable(file));
         return std::make_unique<PrintJob>(setup, file);
     }
     const bool isThere = !QPrinterInfo::printerInfo(setup.Name).isNull();
-    qCDebug(logPrint, "a job is for the printer %s%s", qPrintable(setup.Name),
+    qCDebug(logPrint, "a job is for the printer %s%s", qUtf8Printable(setup.Name),
             isThere ? "" : ", which is not there");
     if (!isThere || !TakesJobs(setup.Name))
         Fail(failure::printerError);

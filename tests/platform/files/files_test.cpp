@@ -1,6 +1,7 @@
 #include "platform/files/files.h"
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
+#include "support/logged_messages.h"
 #include "support/ordinary_user.h"
 #include "support/test_class.h"
 
@@ -54,6 +55,25 @@ private Q_SLOTS:
         QVERIFY(!FileExists(On("b.jpg")));
         QVERIFY(!FileExists(On("c.jpg")));
         QVERIFY(!FileExists(On("d.jpg")));
+    }
+
+    void what_was_looked_for_is_logged_with_what_was_found()
+    {
+        const DiscFolder disc;
+        QVERIFY(disc.Folder("TORVIKS") && disc.File("TORVIKS/67a.Jpg"));
+        const QString host = QString::fromStdString(disc.Host("TORVIKS"));
+        LoggedMessages log(u"torvik.files"_s);
+        FindFile(On("Torviks\\*.jpg"));
+        FindFile(On("Torviks\\*.avi"));
+        FileExists(On("Torviks\\67A.JPG"));
+        FileExists(On("Torviks\\68A.JPG"));
+        const QString folder = u"torvik.files: "_s + On("Torviks\\");
+        QCOMPARE(log.Texts(),
+                 (QStringList{folder + u" is "_s + host,
+                              folder + u"*.jpg: 1 found, the first is 67a.Jpg"_s,
+                              folder + u" is "_s + host, folder + u"*.avi: 0 found"_s,
+                              folder + u"67A.JPG is "_s + host + u"/67a.Jpg"_s,
+                              folder + u"68A.JPG is "_s + host + u"/68A.JPG, which is not there"_s}));
     }
 
     void wildcards_stand_in_the_last_component_only()
