@@ -1,4 +1,5 @@
 #include "runtime/failure.h"
+#include "support/logged_messages.h"
 #include "support/picture_bytes.h"
 #include "support/test_class.h"
 #include "support/test_movie.h"
@@ -441,6 +442,17 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         device.Command(u"close"_s);
         QVERIFY(!device.IsOpen());
+    }
+
+    void what_is_opened_is_logged_and_that_it_is_nothing()
+    {
+        LoggedMessages log(u"torvik.media"_s);
+        MediaControl device(u"MMControl1"_s);
+        const QString path = folder_.Add(u"text.wav"_s, "no sound at all");
+        device.SetFileName(path);
+        device.Command(u"open"_s);
+        QTRY_COMPARE(log.Texts(), (QStringList{u"torvik.media: MMControl1 opens "_s + path,
+                                               u"torvik.media: MMControl1 can play nothing of it"_s}));
     }
 
     void a_drive_that_is_not_there_stays_silent()
