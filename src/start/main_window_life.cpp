@@ -7,6 +7,8 @@
 #include "program/program_state.h"
 #include "program/task_bar.h"
 #include "program/topic_catalogue.h"
+#include "runtime/failure.h"
+#include "runtime/logging.h"
 #include "runtime/text.h"
 #include "start/bind_start.h"
 #include "ui/forms/program_end.h"
@@ -23,9 +25,24 @@ namespace {
 
 const QString settingsSection = u"Settings"_s;
 
+/// What a person has to do about a setting that cannot be read.
+QString HowToMend(const QString& key, const QString& text)
+{
+    constexpr qsizetype longestShown = 60;
+    return u"The setting \"%1\" holds \"%2\" instead of a number. Correct it or delete its line, in the "
+           u"section "
+           "[%3] of the file\r\n%4"_s.arg(key, text.left(longestShown), settingsSection,
+                                          SettingsPlace(applicationTitle));
+}
+
 double Placement(const QString& key, double absent)
 {
-    return ToNumber(GetSetting(applicationTitle, settingsSection, key, NumberText(absent)));
+    const QString text = GetSetting(applicationTitle, settingsSection, key, NumberText(absent));
+    if (!IsNumeric(text))
+        Fail(failure::typeMismatch, HowToMend(key, text));
+    const double place = ToNumber(text);
+    qCDebug(logStart, "setting %s is %s", qUtf8Printable(key), qUtf8Printable(text));
+    return place;
 }
 
 void SavePlacement(const QString& key, double twips)

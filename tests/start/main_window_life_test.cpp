@@ -101,7 +101,13 @@ private Q_SLOTS:
         Save(u"MainTop"_s, u"somewhere"_s);
         program_->StartBrowsing();
         QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '13':\r\n\r\nType mismatch"_s);
+        QCOMPARE(
+            program_->Messages.Last().Text,
+            u"Run-time error '13':\r\n\r\nType mismatch\r\n\r\n"
+            "The setting \"MainTop\" holds \"somewhere\" instead of a number. Correct it or delete its line, "
+            "in the section [Settings] of the file\r\n"_s +
+                SettingsPlace(applicationTitle));
+        QVERIFY(QFile::exists(SettingsPlace(applicationTitle)));
         QVERIFY(ProgramIsEnding());
         QCOMPARE(Saved(u"MainTop"_s), u"somewhere"_s);
     }

@@ -9,8 +9,6 @@ namespace torvik {
 
 namespace {
 
-constexpr int tooManyFiles = 67;
-
 int FailureOfMissing(const std::string& hostPath)
 {
     const std::size_t slash = hostPath.rfind('/');
@@ -44,7 +42,7 @@ int FailureOfSystem(int error, const std::string& hostPath)
         return failure::fileExists;
     case EMFILE:
     case ENFILE:
-        return tooManyFiles;
+        return failure::tooManyFiles;
     case ENODEV:
     case ENXIO:
     case ENOMEDIUM:

@@ -71,4 +71,9 @@ void SaveSetting(const QString& application, const QString& section, const QStri
         Fail(failure::pathFileAccess);
 }
 
+QString SettingsPlace(const QString& application)
+{
+    return Store(application).fileName();
+}
+
 } // namespace torvik

@@ -60,6 +60,13 @@ private Q_SLOTS:
         QCOMPARE(file.readAll(), QByteArray("[Settings]\nMainLeft=15\n"));
     }
 
+    void the_place_of_the_settings_is_that_file()
+    {
+        SaveSetting(application, section, key, u"15"_s);
+        QCOMPARE(SettingsPlace(application), home_->filePath(u"The Torvik Vollandry 2001.ini"_s));
+        QVERIFY(QFile::exists(SettingsPlace(application)));
+    }
+
     void the_savers_application_has_a_file_of_its_own()
     {
         const QString saver = u"SCRNSAVE: The Torvik Vollandry 2001"_s;
