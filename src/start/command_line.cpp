@@ -12,16 +12,14 @@ namespace {
 
 /// The one list of options. A new one is a member here, its row in `All`, and a field of CommandLine.
 struct Options {
-    const QCommandLineOption Drive{
-        u"drive"_s, u"The folder stands for a drive, D to Z. May be given again."_s, u"LETTER=FOLDER"_s};
+    const QCommandLineOption Drive{u"drive"_s, u"The folder stands for a drive, D to Z. May be repeated."_s,
+                                   u"LETTER=FOLDER"_s};
     const QCommandLineOption ProgramFolder{
-        u"program-folder"_s, u"Where copied photos, the start-up sound and the help file are."_s,
-        u"FOLDER"_s};
+        u"program-folder"_s, u"The folder of copied photos, start-up sound and help file."_s, u"FOLDER"_s};
     const QCommandLineOption PrintTo{
-        u"print-to"_s, u"Each print job becomes a file job-1.pdf, job-2.pdf, ... there."_s, u"FOLDER"_s};
+        u"print-to"_s, u"Writes each print job there as a file: job-1.pdf, job-2.pdf, ..."_s, u"FOLDER"_s};
     const QCommandLineOption Verbose{
-        u"verbose"_s,
-        u"Tells which drives, files, decoders and printers are tried, and what became of it."_s};
+        u"verbose"_s, u"Tells which drives, files, decoders and printers are tried, and with what result."_s};
     const QCommandLineOption Help{{u"h"_s, u"help"_s}, u"Shows this text."_s};
     const QCommandLineOption Version{{u"v"_s, u"version"_s}, u"Shows the version."_s};
 
