@@ -3,6 +3,7 @@
 #include "browser/bind_browser.h"
 #include "browser/photo_caption.h"
 #include "program/photo_list.h"
+#include "program/photo_name.h"
 #include "program/play_list_buttons.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
@@ -48,8 +49,8 @@ void CorrectYearCode()
 
 bool HasYearCode(int index)
 {
-    state.TorviksPathPos = InStr(state.PhotoFiles(1), torviksFolder);
-    return Mid(state.PhotoFiles(index), state.TorviksPathPos + 9, 2) == state.YearCode;
+    RefreshPathPosition();
+    return CodeOfPhoto(state.PhotoFiles(index)) == state.YearCode;
 }
 
 /// Leaves PhotoIndex one below the photo that was found, or behind the last one.
@@ -79,7 +80,7 @@ void ShowPhoto(int index)
     Form1->Image4.Load(state.PhotoFiles(index));
     Form1->panPhoto.SetCaption(state.PhotoNumbers(index));
     if (state.ShowFileNames)
-        Form1->txtFile.SetText(Mid(state.PhotoFiles(index), state.TorviksPathPos + 9, 12));
+        Form1->txtFile.SetText(ShortNameOfPhoto(state.PhotoFiles(index)));
     state.CurrentPhotoFile = state.PhotoFiles(index);
 }
 

@@ -4,9 +4,9 @@
 #include "browser/restore_main_window.h"
 #include "browser/select_year.h"
 #include "platform/system/settings_store.h"
+#include "program/catalogue/topics.h"
 #include "program/program_state.h"
 #include "program/task_bar.h"
-#include "program/topic_catalogue.h"
 #include "runtime/text.h"
 #include "start/bind_start.h"
 #include "ui/forms/program_end.h"
@@ -76,7 +76,7 @@ void ReturnFromSlideShow()
     if (Form1->panYear.Caption() != nothingChosen)
         Form1->Image4.Show();
     RestoreMainWindow();
-    if (const Topic* topic = TopicOf(Form1->panYear.Caption()))
+    if (const Topic* topic = BrowsedTopicOf(Form1->panYear.Caption()))
         state.YearCode = QString::fromLatin1(topic->Code);
 }
 
