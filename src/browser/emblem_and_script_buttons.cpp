@@ -1,6 +1,6 @@
 #include "browser/bind_browser.h"
 #include "browser/copy_to_clipboard.h"
-#include "browser/emblem_and_script.h"
+#include "browser/pictures_over_photo.h"
 #include "program/catalogue/pictures.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"

@@ -1,6 +1,6 @@
 #include "browser/restore_main_window.h"
 
-#include "browser/emblem_and_script.h"
+#include "browser/pictures_over_photo.h"
 #include "program/catalogue/topics.h"
 #include "program/program_state.h"
 #include "runtime/text.h"

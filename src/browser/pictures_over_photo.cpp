@@ -1,4 +1,4 @@
-#include "browser/emblem_and_script.h"
+#include "browser/pictures_over_photo.h"
 
 #include "program/catalogue/pictures.h"
 #include "program/program_state.h"
