@@ -53,7 +53,7 @@ bool HasYearCode(int index)
     return CodeOfPhoto(state.PhotoFiles(index)) == state.YearCode;
 }
 
-/// Leaves PhotoIndex one below the photo that was found, or behind the last one.
+/// Leaves PhotoIndex one below the photo that was found, or after the last one.
 bool ScanForward()
 {
     for (; state.PhotoIndex <= state.PhotoCount; state.PhotoIndex += 1) {
@@ -84,7 +84,7 @@ void ShowPhoto(int index)
     state.CurrentPhotoFile = state.PhotoFiles(index);
 }
 
-/// The focus stays on the button behind the year on show, so that a key pressed again walks on.
+/// The focus stays on the button after the year on show, so that a key pressed again walks on.
 void FocusAfterStep()
 {
     const QString& code = state.YearCode;
