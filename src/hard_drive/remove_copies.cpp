@@ -1,6 +1,7 @@
 #include "hard_drive/bind_hard_drive.h"
 #include "platform/files/file_changes.h"
 #include "platform/paths/program_folder.h"
+#include "program/catalogue/movies_and_sounds.h"
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "ui/forms/message_box.h"
@@ -56,7 +57,7 @@ void mnuRemoveMovies_Click()
     if (!AskToRemove(u"movies"_s))
         return;
     Form1->SetMousePointer(MousePointer::Hourglass);
-    RemoveCopies(u"\\movies\\"_s, u"*.avi"_s);
+    RemoveCopies(movieFolder, u"*.avi"_s);
     state.MessageText = u"All movies successfully removed!"_s;
     MsgBox(state.MessageText);
     Form1->SetMousePointer(MousePointer::Default);

@@ -100,4 +100,7 @@ inline ProgramState state;
 /// A photo's path holds this in front of the file's name.
 inline const QString torviksFolder = u"\\Torviks\\"_s;
 
+/// The saver's play list, in the program folder.
+inline const QString playListFolder = u"\\ssTorviks\\"_s;
+
 } // namespace torvik

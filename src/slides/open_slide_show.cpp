@@ -1,7 +1,6 @@
 #include "program/keep_on_top.h"
 #include "program/program_state.h"
 #include "program/screen_size.h"
-#include "program/topic_catalogue.h"
 #include "runtime/text.h"
 #include "slides/bind_slides.h"
 #include "slides/shown_slide.h"

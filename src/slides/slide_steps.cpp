@@ -1,7 +1,7 @@
 #include "slides/slide_steps.h"
 
+#include "program/photo_name.h"
 #include "program/program_state.h"
-#include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 #include "slides/bind_slides.h"
@@ -78,8 +78,8 @@ void SSCommand2_Click()
     frmSlide->pnlPhotoNumber.Show();
     LoadSlide();
     const QString& photo = state.PhotoFiles(state.PhotoIndex);
-    state.TorviksPathPos = InStr(photo, torviksFolder);
-    frmSlide->panYear.SetCaption(u"19"_s + Mid(photo, state.TorviksPathPos + 9, 2));
+    TakePathPosition(photo);
+    frmSlide->panYear.SetCaption(u"19"_s + CodeOfPhoto(photo));
     frmSlide->SSCommand1.SetFocus();
 }
 

@@ -3,16 +3,12 @@
 #include "browser/browse_from_start.h"
 #include "browser/restore_main_window.h"
 #include "browser/select_year.h"
-#include "platform/system/settings_store.h"
+#include "program/catalogue/topics.h"
 #include "program/program_state.h"
 #include "program/task_bar.h"
-#include "program/topic_catalogue.h"
-#include "runtime/failure.h"
-#include "runtime/logging.h"
-#include "runtime/text.h"
 #include "start/bind_start.h"
+#include "start/main_window_place.h"
 #include "ui/forms/program_end.h"
-#include "ui/forms/program_title.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
@@ -23,33 +19,6 @@ namespace torvik {
 
 namespace {
 
-const QString settingsSection = u"Settings"_s;
-
-/// What a person has to do about a setting that cannot be read.
-QString HowToMend(const QString& key, const QString& text)
-{
-    constexpr qsizetype longestShown = 60;
-    return u"The setting \"%1\" holds \"%2\" instead of a number. Correct it or delete its line, in the "
-           u"section "
-           "[%3] of the file\r\n%4"_s.arg(key, text.left(longestShown), settingsSection,
-                                          SettingsPlace(applicationTitle));
-}
-
-double Placement(const QString& key, double absent)
-{
-    const QString text = GetSetting(applicationTitle, settingsSection, key, NumberText(absent));
-    if (!IsNumeric(text))
-        Fail(failure::typeMismatch, HowToMend(key, text));
-    const double place = ToNumber(text);
-    qCDebug(logStart, "setting %s is %s", qUtf8Printable(key), qUtf8Printable(text));
-    return place;
-}
-
-void SavePlacement(const QString& key, double twips)
-{
-    SaveSetting(applicationTitle, settingsSection, key, NumberText(twips));
-}
-
 void Form1_Load()
 {
     Form1Controls& form = *Form1;
@@ -58,12 +27,7 @@ void Form1_Load()
     Screen.SetMousePointer(MousePointer::Default);
     Form2.Unload();
     form.Frame1.ZOrder();
-    form.SetWidth(Screen.Width());
-    form.SetHeight(Screen.Height());
-    form.SetLeft(Placement(u"MainLeft"_s, 0));
-    form.SetTop(Placement(u"MainTop"_s, 0));
-    form.SetWidth(Placement(u"MainWidth"_s, Screen.Width()));
-    form.SetHeight(Placement(u"MainHeight"_s, Screen.Height()));
+    RestoreMainWindowPlace();
     form.Show();
 }
 
@@ -93,7 +57,7 @@ void ReturnFromSlideShow()
     if (Form1->panYear.Caption() != nothingChosen)
         Form1->Image4.Show();
     RestoreMainWindow();
-    if (const Topic* topic = TopicOf(Form1->panYear.Caption()))
+    if (const Topic* topic = BrowsedTopicOf(Form1->panYear.Caption()))
         state.YearCode = QString::fromLatin1(topic->Code);
 }
 
@@ -116,15 +80,9 @@ void Form1_Resize()
 
 void Form1_QueryUnload()
 {
-    Form1Controls& form = *Form1;
-    form.MMControl1.Command(u"close"_s);
+    Form1->MMControl1.Command(u"close"_s);
     state.ApiResult = ShowWindow(state.TrayWindow, showWindow::normal);
-    if (form.WindowState() != Form::State::Minimized) {
-        SavePlacement(u"MainLeft"_s, form.Left());
-        SavePlacement(u"MainTop"_s, form.Top());
-        SavePlacement(u"MainWidth"_s, form.Width());
-        SavePlacement(u"MainHeight"_s, form.Height());
-    }
+    SaveMainWindowPlace();
     EndProgram();
 }
 

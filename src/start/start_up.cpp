@@ -1,7 +1,7 @@
-#include "browser/year_buttons.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
 #include "platform/system/single_instance.h"
+#include "program/catalogue/topics.h"
 #include "program/photo_list.h"
 #include "program/program_state.h"
 #include "program/screen_size.h"

@@ -4,21 +4,8 @@ using namespace Qt::StringLiterals;
 
 namespace torvik {
 
-namespace {
-
-FormDesign DesignOfViewer()
-{
-    FormDesign design;
-    design.Name = u"txtForm"_s;
-    design.Caption = u"txtForm"_s;
-    design.ClientWidth = 7965;
-    design.ClientHeight = 6840;
-    return design;
-}
-
-} // namespace
-
-txtFormControls::txtFormControls() : Form(DesignOfViewer())
+txtFormControls::txtFormControls()
+    : Form({.Name = u"txtForm"_s, .Caption = u"txtForm"_s, .ClientWidth = 7965, .ClientHeight = 6840})
 {
     Adopt(CommonDialog1);
     cmdPrint.SetPicture(u":/assets/button_print.png"_s, u"Print"_s);

@@ -1,6 +1,6 @@
 #include "documents/books_and_magazines.h"
 #include "program/program_state.h"
-#include "support/program.h"
+#include "support/browsing_fixture.h"
 #include "support/test_class.h"
 #include "support/viewer_visit.h"
 #include "ui/forms/form_window.h"
@@ -21,18 +21,10 @@ const QString earlier = u"The title that was stored before"_s;
 } // namespace
 
 /// The documents behind the entries of the Literature, Miscellaneous and Help menus.
-class BooksAndMagazinesTest : public QObject {
+class BooksAndMagazinesTest : public BrowsingFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->StartBrowsing();
-    }
-    void cleanup() { program_.reset(); }
-
     void an_entry_opens_its_document_data() { Rows(); }
     void an_entry_opens_its_document()
     {
@@ -279,8 +271,6 @@ private:
     {
         return ViewerOf(*program_, [&] { ActionOf(entry)->trigger(); });
     }
-
-    std::unique_ptr<Program> program_;
 };
 
 TORVIK_TEST(BooksAndMagazinesTest)

@@ -1,7 +1,7 @@
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"
-#include "support/program.h"
+#include "support/browsing_fixture.h"
 #include "support/test_class.h"
 #include "ui/forms/program_end.h"
 #include "windows/main_window.h"
@@ -10,19 +10,10 @@ using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The one reporter of errors: its box, its focus move, its two ways out.
-class ReportErrorTest : public QObject {
+class ReportErrorTest : public BrowsingFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->StartBrowsing();
-        program_->Messages.Clear();
-    }
-    void cleanup() { program_.reset(); }
-
     void an_ordinary_code_shows_number_text_and_disc_hint_in_a_critical_box()
     {
         state.ErrorCode = u"ER023"_s;
@@ -142,9 +133,6 @@ private Q_SLOTS:
         QCOMPARE(ResumeNext(ReportError), 5);
         QCOMPARE(program_->Messages.Count(), 1);
     }
-
-private:
-    std::unique_ptr<Program> program_;
 };
 
 TORVIK_TEST(ReportErrorTest)

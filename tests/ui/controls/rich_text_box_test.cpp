@@ -3,6 +3,7 @@
 #include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/rich_text_box.h"
+#include "ui/form_fixture.h"
 
 #include <QScrollBar>
 #include <QTextBrowser>
@@ -27,17 +28,13 @@ QTextBrowser& Pane()
 } // namespace
 
 /// The pane that shows a rich-text file.
-class RichTextBoxTest : public QObject {
+class RichTextBoxTest : public FormFixture {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init()
-    {
-        room_ = std::make_unique<UiRoom>();
-        QVERIFY(UiRoom::Open(*Main));
-    }
-    void cleanup() { room_.reset(); }
+public:
+    RichTextBoxTest() : FormFixture(Main) {}
 
+private Q_SLOTS:
     void a_file_is_shown_and_its_text_spoken()
     {
         QCOMPARE(Pane().accessibleName(), u"rtbText"_s);
@@ -115,7 +112,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<UiRoom> room_;
     PictureFolder folder_;
 };
 

@@ -1,4 +1,4 @@
-#include "browser/emblem_and_script.h"
+#include "browser/pictures_over_photo.h"
 #include "program/program_state.h"
 #include "support/program.h"
 #include "support/test_class.h"
@@ -15,7 +15,7 @@ const QString prototypes = u"Early Torvik Prototypes "_s;
 } // namespace
 
 /// Emblem, script and clip art: which file is theirs and where they lie over the photo.
-class EmblemAndScriptTest : public QObject {
+class PicturesOverPhotoTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -214,5 +214,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-TORVIK_TEST(EmblemAndScriptTest)
-#include "emblem_and_script_test.moc"
+TORVIK_TEST(PicturesOverPhotoTest)
+#include "pictures_over_photo_test.moc"

@@ -1,4 +1,4 @@
-#include "hard_drive/panel_over_year_bar.h"
+#include "program/panel_over_year_bar.h"
 #include "support/program.h"
 #include "support/test_class.h"
 #include "windows/main_window.h"

@@ -1,17 +1,15 @@
 #include "browser/select_year.h"
+#include "program/catalogue/topics.h"
 #include "program/program_state.h"
-#include "program/topic_catalogue.h"
-#include "runtime/failure.h"
 #include "support/program.h"
 #include "support/test_class.h"
 #include "windows/main_window.h"
-#include "windows/slide_window.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// Titles, codes and what they do to the buttons.
-class TopicCatalogueTest : public QObject {
+class TopicsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -102,58 +100,21 @@ private Q_SLOTS:
 
     void a_title_counts_only_with_its_trailing_blank()
     {
-        QVERIFY(TopicOf(u"Torvik Cookies "_s) != nullptr);
-        QVERIFY(TopicOf(u"Torvik Cookies"_s) == nullptr);
-        QVERIFY(TopicOf(u"torvik cookies "_s) == nullptr);
-    }
-
-    void a_prefix_has_its_slide_caption_data()
-    {
-        QTest::addColumn<QString>("caption");
-        const auto row = [](const char* prefix, const char* caption) {
-            QTest::newRow(prefix) << QString::fromLatin1(caption);
-        };
-        row("CW", "The Tarrant Torvik ");
-        row("VC", "Torvik Cookies ");
-        row("ZZ", "Torvik Postage Stamps ");
-        row("PT", "Early Torvik Prototypes ");
-        row("M1", "Torvik Kestra I ");
-        row("M3", "Torvik Kestra III ");
-        row("MS", "Torvik Super Stallion ");
-        row("SB", "The Classic Harwell ");
-        row("TD", "Danbury Mint Die Cast Models ");
-        row("TE", "Franklin Mint Collector Knives ");
-        row("TF", "Franklin Mint Die Cast Models ");
-        row("VM", "Torvik Metal Signs ");
-        row("A0", "2000");
-        row("A1", "2001");
-        row("67", "1967 ");
-        row("99", "1999 ");
-        row("US", "19US ");
-        row("TC", "19TC ");
-    }
-
-    void a_prefix_has_its_slide_caption()
-    {
-        QFETCH(QString, caption);
-        QCOMPARE(SlideCaptionOf(QString::fromLatin1(QTest::currentDataTag())), caption);
-    }
-
-    void the_slide_caption_follows_the_photo_at_the_cursor()
-    {
-        Select(u"1967"_s);
-        for (state.PhotoIndex = 1; state.PhotoIndex <= state.PhotoCount; state.PhotoIndex += 1) {
-            SetSlideCaption();
-            const QString prefix = state.PhotoFiles(state.PhotoIndex).mid(11, 2);
-            QCOMPARE(frmSlide->panYear.Caption(), SlideCaptionOf(prefix));
+        for (const char* title : {"Torvik Cookies", "torvik cookies "}) {
+            Select(QString::fromLatin1(title));
+            QCOMPARE(state.YearCode, u"rv"_s);
+            QVERIFY2(Form1->cmdAd.Enabled(), "the buttons are those of a year");
+            QCOMPARE(program_->Messages.Count(), 1);
         }
-        frmSlide.Unload();
     }
 
-    void a_cursor_on_no_photo_is_failure_9()
+    void each_topic_has_a_title_and_a_code_of_its_own()
     {
-        state.PhotoIndex = 0;
-        QCOMPARE(ResumeNext(SetSlideCaption), 9);
+        for (const Topic& topic : Topics()) {
+            QCOMPARE(TopicOf(QString::fromLatin1(topic.Title)), &topic);
+            QCOMPARE(TopicOfCode(QString::fromLatin1(topic.Code)), &topic);
+            QVERIFY2(QString::fromLatin1(topic.Title).endsWith(u' '), topic.Title);
+        }
     }
 
 private:
@@ -169,5 +130,5 @@ private:
     std::unique_ptr<Program> program_;
 };
 
-TORVIK_TEST(TopicCatalogueTest)
-#include "topic_catalogue_test.moc"
+TORVIK_TEST(TopicsTest)
+#include "topics_test.moc"
