@@ -25,6 +25,7 @@ struct HelpWindowRecord {
 
 /// The one record of program-wide variables. Handlers pass their arguments through it; nothing in it outlives
 /// the program. Positions and indices count from 1.
+// NOLINTBEGIN(readability-identifier-naming): its fields keep the names that they have always had.
 struct ProgramState {
     // Where the content is
     QString DiscRoot;     ///< "E:", the drive on which the disc was found
@@ -94,6 +95,7 @@ struct ProgramState {
     std::int32_t HelpWindowHandle = 0;
     HelpWindowRecord HelpWindowInfo;
 };
+// NOLINTEND(readability-identifier-naming)
 
 inline ProgramState state;
 
