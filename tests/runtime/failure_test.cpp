@@ -82,7 +82,7 @@ private Q_SLOTS:
         QFAIL("nothing was thrown");
     }
 
-    void a_failure_is_an_exception_of_the_language() { QVERIFY_EXCEPTION_THROWN(Fail(5), std::exception); }
+    void a_failure_is_an_exception_of_the_language() { QVERIFY_THROWS_EXCEPTION(std::exception, Fail(5)); }
 
     void no_number_is_pending_outside_of_a_handler() { QCOMPARE(PendingErrorNumber(), 0); }
 
@@ -127,8 +127,8 @@ private Q_SLOTS:
 
     void other_exceptions_pass_the_trap()
     {
-        QVERIFY_EXCEPTION_THROWN(OnError([] { throw 1; }, [] {}), int);
-        QVERIFY_EXCEPTION_THROWN(ResumeNext([] { throw 1; }), int);
+        QVERIFY_THROWS_EXCEPTION(int, OnError([] { throw 1; }, [] {}));
+        QVERIFY_THROWS_EXCEPTION(int, ResumeNext([] { throw 1; }));
     }
 
     void resume_next_tells_the_number_and_goes_on()
@@ -155,13 +155,12 @@ private Q_SLOTS:
     void the_handler_of_a_retry_leaves_by_throwing()
     {
         int runs = 0;
-        QVERIFY_EXCEPTION_THROWN(RetryOnError(
-                                     [&] {
-                                         ++runs;
-                                         Fail(5);
-                                     },
-                                     [] { throw 1; }),
-                                 int);
+        QVERIFY_THROWS_EXCEPTION(int, RetryOnError(
+                                          [&] {
+                                              ++runs;
+                                              Fail(5);
+                                          },
+                                          [] { throw 1; }));
         QCOMPARE(runs, 1);
         QCOMPARE(PendingErrorNumber(), 0);
     }
