@@ -5,9 +5,11 @@
 #include "platform/system/arguments_of.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
+#include "start/chosen_scale.h"
 #include "start/command_line.h"
 #include "ui/application.h"
 #include "ui/printer/printer.h"
+#include "ui/scale.h"
 #include "version.h"
 #include "windows/splash.h"
 
@@ -56,7 +58,7 @@ int main(int argc, char** argv)
     if (early.Verbose)
         LogEverything();
 
-    Application application(argc, argv);
+    Application application(argc, argv, ChosenScale(IsScale(early.Scale) ? early.Scale : QString()));
     const CommandLine line = ReadCommandLine(ArgumentsOf(argc, argv));
     if (!line.Problem.isEmpty())
         return Complain(line.Problem);

@@ -1,6 +1,7 @@
 #include "start/command_line.h"
 
 #include "platform/paths/drive_option.h"
+#include "ui/scale.h"
 
 #include <QCommandLineParser>
 
@@ -18,12 +19,20 @@ struct Options {
         u"program-folder"_s, u"The folder of copied photos, start-up sound and help file."_s, u"FOLDER"_s};
     const QCommandLineOption PrintTo{
         u"print-to"_s, u"Writes each print job there as a file: job-1.pdf, job-2.pdf, ..."_s, u"FOLDER"_s};
+    const QCommandLineOption Scale{
+        u"scale"_s,
+        u"Enlarges everything by 1 to 8, such as 1.5; \"fit\" is as large as the screen allows. "
+        "Remembered until \"auto\" is given."_s,
+        u"FACTOR"_s};
     const QCommandLineOption Verbose{
         u"verbose"_s, u"Tells which drives, files, decoders and printers are tried, and with what result."_s};
     const QCommandLineOption Help{{u"h"_s, u"help"_s}, u"Shows this text."_s};
     const QCommandLineOption Version{{u"v"_s, u"version"_s}, u"Shows the version."_s};
 
-    QList<QCommandLineOption> All() const { return {Drive, ProgramFolder, PrintTo, Verbose, Help, Version}; }
+    QList<QCommandLineOption> All() const
+    {
+        return {Drive, ProgramFolder, PrintTo, Scale, Verbose, Help, Version};
+    }
 };
 
 void Prepare(QCommandLineParser& parser, const Options& options)
@@ -46,6 +55,13 @@ void TakeDrive(CommandLine& read, const QString& value)
         read.Problem = DriveOptionProblem(value);
 }
 
+void TakeScale(CommandLine& read, const QString& value, bool isGiven)
+{
+    read.Scale = value;
+    if (isGiven && !IsScale(value) && read.Problem.isEmpty())
+        read.Problem = ScaleProblem(value);
+}
+
 } // namespace
 
 CommandLine ReadCommandLine(const QStringList& arguments)
@@ -64,6 +80,7 @@ CommandLine ReadCommandLine(const QStringList& arguments)
         read.Drives.append({QChar(), folder});
     read.ProgramFolder = parser.value(options.ProgramFolder);
     read.PrintFolder = parser.value(options.PrintTo);
+    TakeScale(read, parser.value(options.Scale), parser.isSet(options.Scale));
     read.Verbose = parser.isSet(options.Verbose);
     read.Help = parser.isSet(options.Help);
     read.Version = parser.isSet(options.Version);

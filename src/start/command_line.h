@@ -13,6 +13,7 @@ struct CommandLine {
     QList<DriveOption> Drives; ///< --drive LETTER=FOLDER, and bare folders without a letter
     QString ProgramFolder;     ///< --program-folder FOLDER; empty when it was not given
     QString PrintFolder;       ///< --print-to FOLDER; empty when it was not given
+    QString Scale;             ///< --scale FACTOR, fit or auto; empty when it was not given
     bool Verbose = false;
     bool Help = false;
     bool Version = false;

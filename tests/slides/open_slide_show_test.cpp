@@ -3,8 +3,11 @@
 #include "support/slide_visit.h"
 #include "support/test_class.h"
 #include "ui/forms/clock.h"
+#include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
 #include "windows/play_list_window.h"
+
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -75,6 +78,20 @@ private Q_SLOTS:
             QCOMPARE(frmSlide->Width(), 11994.0);
             QCOMPARE(frmSlide->Height(), 9100.0);
         }));
+    }
+
+    void over_a_maximized_main_window_the_show_stands_exactly_on_it()
+    {
+        Form1->SetLeft(300);
+        Form1->SetTop(450);
+        Form1->SetWidth(9000);
+        Form1->SetHeight(7500);
+        QTRY_VERIFY(!Form1->IsSettling());
+        Form1->Window().setWindowState(Qt::WindowMaximized);
+        QTRY_VERIFY(Form1->Left() == 0.0 && !Form1->IsSettling());
+        const QRect covered = Form1->Window().windowHandle()->frameGeometry();
+        QVERIFY(InSlideShow(
+            *program_, [&] { QTRY_COMPARE(frmSlide->Window().windowHandle()->frameGeometry(), covered); }));
     }
 
     void the_show_is_modal_and_marked_as_open()

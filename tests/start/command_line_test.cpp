@@ -62,6 +62,15 @@ private Q_SLOTS:
         QVERIFY(line.Problem.isEmpty());
     }
 
+    void the_scale_is_a_factor_or_a_word()
+    {
+        QCOMPARE(ReadCommandLine({}).Scale, QString());
+        for (const QString& scale : {u"2"_s, u"1.25"_s, u"fit"_s, u"auto"_s}) {
+            QCOMPARE(ReadCommandLine({u"--scale"_s, scale}).Scale, scale);
+            QCOMPARE(ReadCommandLine({u"--scale="_s + scale}).Problem, QString());
+        }
+    }
+
     void what_is_wrong_is_said_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -79,6 +88,12 @@ private Q_SLOTS:
             << QStringList{u"--program-folder"_s} << u"Missing value after '--program-folder'."_s;
         QTest::newRow("no print folder")
             << QStringList{u"--print-to"_s} << u"Missing value after '--print-to'."_s;
+        QTest::newRow("a scale too large")
+            << QStringList{u"--scale"_s, u"9"_s}
+            << u"--scale takes a number from 1 to 8, or fit, or auto; not \"9\"."_s;
+        QTest::newRow("an empty scale")
+            << QStringList{u"--scale="_s}
+            << u"--scale takes a number from 1 to 8, or fit, or auto; not \"\"."_s;
         QTest::newRow("a value too many")
             << QStringList{u"--verbose=1"_s} << u"Unexpected value after '--verbose'."_s;
         QTest::newRow("unknown option")
@@ -118,7 +133,7 @@ private Q_SLOTS:
     {
         for (const QString& option :
              {u"[options] [FOLDER]"_s, u"--drive <LETTER=FOLDER>"_s, u"--program-folder <FOLDER>"_s,
-              u"--print-to <FOLDER>"_s, u"--verbose"_s, u"-h, --help"_s, u"-v, --version"_s, u"FOLDER  "_s})
+              u"--print-to <FOLDER>"_s, u"--scale <FACTOR>"_s, u"--verbose"_s, u"-h, --help"_s, u"-v, --version"_s, u"FOLDER  "_s})
             QVERIFY2(HelpText().contains(option), qPrintable(option));
     }
 };

@@ -2,12 +2,14 @@
 #include "program/program_state.h"
 #include "support/program.h"
 #include "support/test_class.h"
+#include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/program_title.h"
 #include "windows/main_window.h"
 
 #include <QFile>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -126,7 +128,63 @@ private Q_SLOTS:
         QCOMPARE(SavedPlace(u"MainWidth"_s), u"(none)"_s);
     }
 
+    void closing_while_maximized_saves_what_an_ordinary_window_takes_for_the_same_area()
+    {
+        SaveFour();
+        program_->StartBrowsing();
+        QTRY_VERIFY(!Form1->IsSettling());
+        Form1->Window().setWindowState(Qt::WindowMaximized);
+        QTRY_VERIFY(Form1->Left() == 0.0 && !Form1->IsSettling());
+        const QRect covered = Form1->Window().windowHandle()->frameGeometry();
+        Form1->mnuExit.Click.Fire();
+        QCOMPARE(SavedPlace(u"MainLeft"_s), u"0"_s);
+        QCOMPARE(SavedPlace(u"MainTop"_s), u"0"_s);
+        QVERIFY(SavedPlace(u"MainWidth"_s).toDouble() > 6000);
+
+        program_.reset();
+        program_ = std::make_unique<Program>();
+        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->StartBrowsing();
+        QTRY_VERIFY(!Form1->IsSettling());
+        QCOMPARE(Form1->WindowState(), Form::State::Normal);
+        QCOMPARE(Form1->Window().windowHandle()->frameGeometry(), covered);
+    }
+
+    void only_the_saved_place_counts_on_another_screen_than_800_by_600()
+    {
+        SaveFour();
+        program_->SetScreen({1024, 768});
+        program_->StartBrowsing();
+        QCOMPARE(Form1->Left(), 450.0);
+        QCOMPARE(Form1->Top(), 600.0);
+        QCOMPARE(Form1->Width(), 11994.0);
+        QCOMPARE(Form1->Height(), 9100.0);
+    }
+
+    void the_window_comes_up_once_at_its_last_size_and_place()
+    {
+        SavePlace(u"MainLeft"_s, u"450"_s);
+        program_->SetScreen({1024, 768});
+        program_->Start();
+        Clock::Turn(5000);
+        QVERIFY(Form1.IsLoaded());
+        QVERIFY(Form1->Visible());
+        QVERIFY(!Form1->Window().isVisible()); // the event loop has not turned yet
+        program_->Settle();
+        QVERIFY(Form1->Window().isVisible());
+        QCOMPARE(Form1->Window().pos(), QPoint(30, 0));
+        QCOMPARE(Form1->Window().size(), QSize(800, 588));
+    }
+
 private:
+    static void SaveFour()
+    {
+        SavePlace(u"MainLeft"_s, u"450"_s);
+        SavePlace(u"MainTop"_s, u"600"_s);
+        SavePlace(u"MainWidth"_s, u"6000"_s);
+        SavePlace(u"MainHeight"_s, u"6000"_s);
+    }
+
     static void ForgetSettings()
     {
         QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/The Torvik Vollandry 2001.ini"_s);

@@ -78,6 +78,35 @@ private Q_SLOTS:
         QCOMPARE(Form1->mnuHideStatus.Caption(), u"ShowStatusBar"_s);
     }
 
+    void a_size_that_the_user_gives_after_the_desktop_ended_it_brings_the_bar_back_data()
+    {
+        QTest::addColumn<bool>("fromMaximized");
+        QTest::newRow("from an ordinary window") << false;
+        QTest::newRow("from a maximized window") << true;
+    }
+    void a_size_that_the_user_gives_after_the_desktop_ended_it_brings_the_bar_back()
+    {
+        QFETCH(bool, fromMaximized);
+        QTRY_VERIFY(!Form1->IsSettling());
+        if (fromMaximized) {
+            Form1->Window().setWindowState(Qt::WindowMaximized);
+            program_->Settle();
+            QTRY_VERIFY(!Form1->IsSettling());
+        }
+        Form1->mnuHideStatus.Click.Fire();
+        program_->Settle();
+        QTRY_VERIFY(Form1->Window().isFullScreen() && !Form1->IsSettling());
+        QCOMPARE(Form1->WindowState(), Form::State::Normal);
+        Form1->Window().setWindowState(Qt::WindowNoState);
+        QTRY_VERIFY(!Form1->CoversScreen() && !Form1->IsSettling());
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"ShowStatusBar"_s);
+        Form1->Window().resize(700, 500);
+        QTRY_COMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
+        QCOMPARE(Form1->Width(), 700 * 15.0);
+        Form1->mnuHideStatus.Click.Fire(); // and it can be hidden again
+        QVERIFY(Form1->CoversScreen());
+    }
+
     void an_unknown_window_is_not_touched()
     {
         QCOMPARE(FindWindowByClass(u"Progman"_s), 0);

@@ -16,5 +16,7 @@ void SaveSetting(const QString& application, const QString& section, const QStri
 /// Where the settings of an application are kept, in words of this machine for people who mend them: the
 /// file.
 QString SettingsPlace(const QString& application);
+/// Takes a text out of the store, if it is there. Failure 75 when the store cannot be written.
+void DeleteSetting(const QString& application, const QString& section, const QString& key);
 
 } // namespace torvik

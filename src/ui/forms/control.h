@@ -34,6 +34,8 @@ public:
 
     /// The control that a widget is; null for a widget that is none.
     static Control* OfWidget(const QWidget* widget);
+    /// The control that a widget is or is a part of; null when it is none.
+    static Control* AroundWidget(const QWidget* widget);
 
     QString Name() const;
 
@@ -71,6 +73,9 @@ public:
     /// Lets the Tab key come to a control that is no button, such as a picture: there space and Enter are the
     /// left click (the double click where that is bound), the Menu key or Shift+F10 the right mouse button.
     void SetTabStop();
+
+    /// A key was pressed on the control, as its code and shift state.
+    void PressKey(int code, int shift);
 
     Form& OwnerForm() const { return container_.OwnerForm(); }
     QWidget& Widget() const { return *widget_; }

@@ -183,6 +183,16 @@ private Q_SLOTS:
         QCOMPARE(GetSetting(application, section, key, u"absent"_s), u"absent"_s);
     }
 
+    void a_setting_can_be_taken_out()
+    {
+        DeleteSetting(application, section, key);
+        SaveSetting(application, section, key, u"1"_s);
+        SaveSetting(application, section, u"Other"_s, u"2"_s);
+        DeleteSetting(application, section, key);
+        QCOMPARE(GetSetting(application, section, key, u"absent"_s), u"absent"_s);
+        QCOMPARE(GetSetting(application, section, u"Other"_s), u"2"_s);
+    }
+
     void a_store_on_a_full_disk_is_an_access_error_and_keeps_what_it_had()
     {
         SaveSetting(application, section, key, u"1"_s);
