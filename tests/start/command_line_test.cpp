@@ -133,7 +133,8 @@ private Q_SLOTS:
     {
         for (const QString& option :
              {u"[options] [FOLDER]"_s, u"--drive <LETTER=FOLDER>"_s, u"--program-folder <FOLDER>"_s,
-              u"--print-to <FOLDER>"_s, u"--scale <FACTOR>"_s, u"--verbose"_s, u"-h, --help"_s, u"-v, --version"_s, u"FOLDER  "_s})
+              u"--print-to <FOLDER>"_s, u"--scale <FACTOR>"_s, u"--verbose"_s, u"-h, --help"_s,
+              u"-v, --version"_s, u"FOLDER  "_s})
             QVERIFY2(HelpText().contains(option), qPrintable(option));
     }
 };

@@ -125,8 +125,7 @@ protected:
     void showEvent(QShowEvent* event) override
     {
         QMessageBox::showEvent(event);
-        const int wanted =
-            std::min(layout()->totalMinimumSize().width(), screen()->availableSize().width());
+        const int wanted = std::min(layout()->totalMinimumSize().width(), screen()->availableSize().width());
         if (wanted > width())
             setFixedSize(wanted, layout()->totalHeightForWidth(wanted));
     }
