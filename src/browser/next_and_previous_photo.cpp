@@ -75,9 +75,11 @@ bool ScanBackward()
     return false;
 }
 
+/// A photo before it that could not be loaded may have hidden the pane.
 void ShowPhoto(int index)
 {
     Form1->Image4.Load(state.PhotoFiles(index));
+    Form1->Image4.Show();
     Form1->panPhoto.SetCaption(state.PhotoNumbers(index));
     if (state.ShowFileNames)
         Form1->txtFile.SetText(ShortNameOfPhoto(state.PhotoFiles(index)));
@@ -168,7 +170,7 @@ void StepPhotoBackward()
 
     state.ErrorCode = u"ER011"_s;
     bool found = true;
-    OnError(
+    const bool shown = OnError(
         [&] {
             found = ScanBackward();
             if (!found) {
@@ -195,6 +197,8 @@ void StepPhotoBackward()
         },
         ReportError);
     OnError(UpdatePlayListButtons, ReportError);
+    if (!shown)
+        state.PhotoIndex -= 1; // the next step passes the photo that could not be loaded
 }
 
 void BindNextAndPreviousPhoto()

@@ -22,10 +22,8 @@ void LoadPhotoDetails()
 
 void LoadPhotoDetailsBackward()
 {
-    state.PhotoIndex += 1;
-    state.DocumentFile = CaptionOfPhoto(state.PhotoFiles(state.PhotoIndex));
+    state.DocumentFile = CaptionOfPhoto(state.PhotoFiles(state.PhotoIndex + 1));
     Form1->rtbDetails.SetFileName(state.DocumentFile);
-    state.PhotoIndex -= 1;
     state.SteppedForward = false;
     PlaceDetails();
 }
