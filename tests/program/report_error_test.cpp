@@ -1,3 +1,4 @@
+#include "browser/pictures_over_photo.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"
@@ -36,6 +37,17 @@ private Q_SLOTS:
         ReportError();
         QCOMPARE(program_->Messages.Last().Text,
                  u"Error number: ER036\r\n\r\n 'TO' year may not be earlier than 'FROM' year."_s);
+    }
+
+    void a_failure_where_no_code_was_set_is_reported_under_the_one_before()
+    {
+        program_->Disc.AddFile(u"emblems/emb67.jpg"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
+        LoadEmblem();
+        QCOMPARE(program_->Messages.Count(), 0);
+        OnError([] { Fail(failure::overflow); }, ReportError);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(
+            u"Error number: ER022\r\n\r\n Unable to load  Emblem  for year selected."_s));
     }
 
     void a_code_that_nobody_knows_shows_its_number_and_the_hint()
