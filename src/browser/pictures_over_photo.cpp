@@ -44,13 +44,18 @@ void LoadScript()
 
 void LoadClipArt()
 {
+    const QString file = state.DiscRoot + ClipArtOf(state.YearCode);
     OnError(
-        [] {
+        [&] {
             state.ErrorCode = u"ER024"_s;
-            Form1->picClipArt.Load(state.DiscRoot + ClipArtOf(state.YearCode));
+            Form1->picClipArt.Load(file);
             PlaceClipArt();
         },
-        ReportError);
+        [&] {
+            if (state.MissingClipArt != file)
+                ReportError();
+            state.MissingClipArt = file;
+        });
 }
 
 void PlaceClipArt()

@@ -78,6 +78,7 @@ void SelectYear()
     Form1->mnuNames.SetVisible(true);
     Form1->rtbDetails.Hide();
     state.SkipFirstPhoto = true;
+    state.MissingClipArt.clear();
     state.YearCode = Mid(Form1->panYear.Caption(), 3, 2);
     RestoreMainWindow();
     TakeYearCode();

@@ -70,6 +70,7 @@ struct ProgramState {
     bool SlidePlayPressed = false;
     bool SlideShowOpen = false;
     bool SlideRestorePending = false; ///< the main window rebuilds itself when it is active again
+    QString MissingClipArt;           ///< what the rebuilding at the end of a show has already told
 
     // Movies
     QString MovieFolder; ///< with a closing backslash

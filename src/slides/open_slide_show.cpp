@@ -1,4 +1,5 @@
 #include "program/keep_on_top.h"
+#include "program/photo_name.h"
 #include "program/program_state.h"
 #include "program/screen_size.h"
 #include "runtime/text.h"
@@ -28,6 +29,7 @@ void TakePlaceOfForm1()
 /// first photo.
 void ShowOpeningSlide()
 {
+    RefreshPathPosition(); // the photos may lie elsewhere since they were copied
     if (state.ShownPhotoIndex > 0) {
         state.PhotoIndex = state.ShownPhotoIndex;
         LoadSlide();
@@ -46,6 +48,7 @@ void cmdSlide_Click()
     SetFormTopmost(*frmSSPhoto, topmost::off);
     frmSSPhoto.Unload();
     state.SlideShowOpen = true;
+    state.MissingClipArt.clear();
     frmSlide->SpinInterval.SetEnabled(true);
     state.SlideDelay = 1000;
     frmSlide->panInterval.SetCaption(u" 1 second"_s);

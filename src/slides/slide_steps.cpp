@@ -8,6 +8,8 @@
 #include "slides/shown_slide.h"
 #include "windows/slide_window.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace torvik {
@@ -15,6 +17,15 @@ namespace torvik {
 namespace {
 
 constexpr int jump = 10; // photos
+
+/// A show of a title without photos stands on the empty element after the last photo. It stays there, where
+/// every other button leads back to the photos.
+int IndexAfter(int index)
+{
+    if (index == state.PhotoCount)
+        return 1;
+    return std::min(index + 1, state.PhotoCount + 1);
+}
 
 void ShowSlideWithCaption()
 {
@@ -97,7 +108,7 @@ void SlideStepForward()
 {
     frmSlide->pnlPhotoNumber.Show();
     state.SlideRestorePending = false;
-    state.PhotoIndex = state.PhotoIndex == state.PhotoCount ? 1 : state.PhotoIndex + 1;
+    state.PhotoIndex = IndexAfter(state.PhotoIndex);
     ShowSlidePosition();
     OnError(
         [] {
