@@ -5,6 +5,7 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "ui/forms/message_box.h"
+#include "ui/forms/program_end.h"
 #include "windows/main_window.h"
 
 using namespace Qt::StringLiterals;
@@ -49,7 +50,8 @@ void mnuRemove_Click()
                         "You must also re-install the Torvik Vollandry Screen Saver \r\n"
                         "if you have previously installed it."_s;
     MsgBox(state.MessageText);
-    Form1.Unload();
+    ResumeNext([] { Form1.Unload(); });
+    EndProgram(); // also where the window's place could not be saved
 }
 
 void mnuRemoveMovies_Click()
