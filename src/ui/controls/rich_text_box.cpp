@@ -5,6 +5,7 @@
 #include "runtime/failure.h"
 #include "ui/desktop/shell_execute.h"
 
+#include <QMouseEvent>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTextBrowser>
@@ -58,6 +59,13 @@ QString RichTextBox::Text() const
 const QTextDocument& RichTextBox::Document() const
 {
     return *pane_->document();
+}
+
+bool RichTextBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease)
+        onLink_ = !pane_->anchorAt(static_cast<QMouseEvent*>(event)->pos()).isEmpty();
+    return Control::eventFilter(watched, event);
 }
 
 QString RichTextBox::AccessibleText() const

@@ -9,7 +9,7 @@ namespace torvik {
 
 /// A pane that shows a rich-text file with its own fonts and pictures. Its text can be selected, copied and
 /// scrolled, not changed. A click on a web or mail address opens it in the desktop's own program, one on a
-/// link inside the document brings its place into view.
+/// link inside the document brings its place into view; neither is a Click.
 class RichTextBox : public Control {
 public:
     RichTextBox(Container& container, const QString& name, const Twips& design);
@@ -24,10 +24,13 @@ public:
     const QTextDocument& Document() const;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     QString AccessibleText() const override;
+    bool ClicksByMouse() const override { return !onLink_; }
 
 private:
     QTextBrowser* pane_;
+    bool onLink_ = false; ///< the mouse was last let go over a link
     QString fileName_;
 };
 
