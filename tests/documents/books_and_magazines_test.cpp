@@ -1,6 +1,7 @@
 #include "documents/books_and_magazines.h"
 #include "program/program_state.h"
 #include "support/browsing_fixture.h"
+#include "support/menu_choice.h"
 #include "support/test_class.h"
 #include "support/viewer_visit.h"
 #include "ui/forms/form_window.h"
@@ -8,6 +9,7 @@
 #include "windows/main_window.h"
 
 #include <QAction>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -116,6 +118,22 @@ private Q_SLOTS:
         const Viewed whatsNew = Open(u"mnuWhatsNew"_s);
         QCOMPARE(whatsNew.Text, u"whatsnew.rtf"_s);
         QCOMPARE(whatsNew.Caption, u"The Torvik Vollandry       Books"_s);
+    }
+
+    void an_empty_title_reaches_the_window_system_as_it_is()
+    {
+        AddAll({u"whatsnew.rtf"_s});
+        QString title = u"unread"_s;
+        const ModalVisit visit(
+            [&] {
+                program_->Settle();
+                title = txtForm->Window().windowHandle()->title();
+            },
+            [] { txtForm.Unload(); });
+        ChooseMenu(*Form1, u"mnuWhatsNew"_s);
+        QVERIFY(visit.Ran());
+        QCOMPARE(title.trimmed(), QString());
+        QVERIFY2(title != QGuiApplication::applicationDisplayName(), qPrintable(title));
     }
 
     void whats_new_as_the_first_document_has_no_title()

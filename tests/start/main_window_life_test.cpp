@@ -21,6 +21,15 @@ QString Saved(const QString& key)
     return GetSetting(applicationTitle, u"Settings"_s, key, u"(none)"_s);
 }
 
+/// Lets a panel lie over the year bar before the window is loaded.
+bool barIsCovered = false;
+
+void CoverBar(Form1Controls& form)
+{
+    if (barIsCovered)
+        form.pnlSound.ZOrder();
+}
+
 } // namespace
 
 /// The main window from its Load to its closing.
@@ -28,6 +37,7 @@ class MainWindowLifeTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { Form1.Bind(CoverBar); }
     void init()
     {
         program_ = std::make_unique<Program>();
@@ -66,6 +76,19 @@ private Q_SLOTS:
         QCOMPARE(state.DocumentFile, u"G:\\richtext\\desc.rtf"_s);
         QCOMPARE(Form1->mnuMag(1).Caption(), u"Torvik Illustrated"_s);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
+    }
+
+    void the_load_brings_the_pointer_back_and_the_bar_to_the_front()
+    {
+        barIsCovered = true;
+        program_->Start();
+        state.FirstActivation = false; // which would bring the pointer back as well
+        Screen.SetMousePointer(MousePointer::Hourglass);
+        program_->PassSplash();
+        barIsCovered = false;
+        QCOMPARE(Screen.Pointer(), MousePointer::Default);
+        const QObjectList siblings = Form1->Frame1.Widget().parentWidget()->children();
+        QVERIFY(siblings.indexOf(&Form1->Frame1.Widget()) > siblings.indexOf(&Form1->pnlSound.Widget()));
     }
 
     void the_first_activation_shows_the_first_photo_of_1967()

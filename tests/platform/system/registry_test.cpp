@@ -97,6 +97,7 @@ private Q_SLOTS:
         QTest::newRow("5: a closing zero is taken off") << QByteArray("\x05\0\0\0", 4) << u"5"_s;
         QTest::newRow("0x12345678") << QByteArray("\x78\x56\x34\x12", 4) << u"305419896"_s;
         QTest::newRow("0x0105 reads as 0x15") << QByteArray("\x05\x01\0\0", 4) << u"21"_s;
+        QTest::newRow("the high bit is no sign") << QByteArray("\xFE\xFF\xFF\xFF", 4) << u"4294967294"_s;
         QTest::newRow("0") << QByteArray(4, '\0') << u"0"_s;
     }
 
