@@ -447,12 +447,14 @@ private Q_SLOTS:
     void what_is_opened_is_logged_and_that_it_is_nothing()
     {
         LoggedMessages log(u"torvik.media"_s);
-        MediaControl device(u"MMControl1"_s);
+        MediaControl device(u"Logged"_s);
         const QString path = folder_.Add(u"text.wav"_s, "no sound at all");
         device.SetFileName(path);
         device.Command(u"open"_s);
-        QTRY_COMPARE(log.Texts(), (QStringList{u"torvik.media: MMControl1 opens "_s + path,
-                                               u"torvik.media: MMControl1 can play nothing of it"_s}));
+        // The thread of a device that is gone may still tell of its decoder.
+        const auto ofDevice = [&log] { return log.Texts().filter(u"Logged"_s); };
+        QTRY_COMPARE(ofDevice(), (QStringList{u"torvik.media: Logged opens "_s + path,
+                                              u"torvik.media: Logged can play nothing of it"_s}));
     }
 
     void a_drive_that_is_not_there_stays_silent()
