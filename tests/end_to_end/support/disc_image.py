@@ -10,7 +10,7 @@ SYNC = b"\0" + b"\xff" * 10 + b"\0"
 
 def make_iso(folder, file):
     """An ISO image with Joliet names."""
-    subprocess.run(["xorriso", "-as", "mkisofs", "-quiet", "-iso-level", "3", "-J", "-o", str(file), str(folder)],
+    subprocess.run(["xorriso", "-as", "mkisofs", "-quiet", "-iso-level", "3", "-J", "-o", str(file), str(folder.resolve())],
                    check=True, capture_output=True)
     return file
 
