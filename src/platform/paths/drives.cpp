@@ -3,9 +3,9 @@
 #include "platform/paths/folder_volume.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/image_volume.h"
+#include "platform/paths/mounted_media.h"
 #include "platform/paths/path_lookup.h"
 #include "platform/paths/program_folder.h"
-#include "platform/paths/volumes.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
 
@@ -123,8 +123,8 @@ void AppendComponents(std::string& path, QStringView components)
 void LogLookUp(const QString& drivePath, const Place& place)
 {
     const auto host = place.On->HostPath(place.Path);
-    const QString found = host ? HostText(host->empty() ? "/" : *host)
-                               : DriveFolder(drivePath[0]) + HostText(place.Path);
+    const QString found =
+        host ? HostText(host->empty() ? "/" : *host) : DriveFolder(drivePath[0]) + HostText(place.Path);
     const bool isThere = ResumeNext([&] { place.On->Status(place.Path); }) == 0;
     qCDebug(logFiles, "%s is %s%s", qUtf8Printable(drivePath), qUtf8Printable(found),
             isThere ? "" : ", which is not there");

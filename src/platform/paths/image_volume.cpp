@@ -3,6 +3,7 @@
 #include "platform/image/disc_image.h"
 #include "platform/paths/host_name.h"
 #include "runtime/failure.h"
+#include "runtime/logging.h"
 
 #include <algorithm>
 #include <tuple>
@@ -129,8 +130,13 @@ std::vector<std::string> NamesIn(const IndexedImage& image, const std::string& f
 std::shared_ptr<const IndexedImage> ImageVolume::Image() const
 {
     const std::scoped_lock lock(mutex_);
-    if (!image_)
-        image_ = std::make_shared<const IndexedImage>(file_);
+    if (!image_) {
+        const int error = ResumeNext([&] { image_ = std::make_shared<const IndexedImage>(file_); });
+        qCDebug(logDisc, "the image %s %s", file_.c_str(),
+                error == 0 ? "was opened" : qUtf8Printable(RunTimeErrorText(error)));
+        if (error != 0)
+            Fail(error);
+    }
     return image_;
 }
 
