@@ -164,8 +164,9 @@ QString SaverHelpText()
            "$XSCREENSAVER_WINDOW,\n"
            "                            without one behind all windows of the desktop\n"
            "  -window-id WINDOW         the same as /p\n"
-           "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
-           "  --program-folder FOLDER   where the folder \"disc\" lies that stands for drive Z\n"
+           "  --drive LETTER=FOLDER     the folder or disc image stands for a drive; may be given again\n"
+           "  --program-folder FOLDER   where the folder disc or the image disc.iso lies that stands for "
+           "drive Z\n"
            "  --scale FACTOR            enlarges the title card by 1 to 8; photos fill the screen anyway\n"
            "  -h, --help                shows this text\n"
            "  -v, --version             shows the version\n"_s;

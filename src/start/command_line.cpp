@@ -13,7 +13,8 @@ namespace {
 
 /// The one list of options. A new one is a member here, its row in `All`, and a field of CommandLine.
 struct Options {
-    const QCommandLineOption Drive{u"drive"_s, u"The folder stands for a drive, D to Z. May be repeated."_s,
+    const QCommandLineOption Drive{u"drive"_s,
+                                   u"The folder or disc image stands for a drive, D to Z. May be repeated."_s,
                                    u"LETTER=FOLDER"_s};
     const QCommandLineOption ProgramFolder{
         u"program-folder"_s, u"The folder of copied photos, start-up sound and help file."_s, u"FOLDER"_s};
@@ -44,7 +45,9 @@ void Prepare(QCommandLineParser& parser, const Options& options)
         "is looked for on all mounted media."_s);
     parser.addOptions(options.All());
     parser.addPositionalArgument(
-        u"FOLDER"_s, u"A folder that holds a disc; it takes the first free drive letter."_s, u"[FOLDER]"_s);
+        u"FOLDER"_s,
+        u"A folder that holds a disc, or an image file of one; it takes the first free drive letter."_s,
+        u"[FOLDER]"_s);
 }
 
 void TakeDrive(CommandLine& read, const QString& value)

@@ -1,7 +1,5 @@
 #include "platform/files/files.h"
 
-#include "platform/files/open_file.h"
-#include "platform/files/system_failure.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/matching_names.h"
@@ -24,9 +22,13 @@ namespace {
 /// What fits into the address space of the machines that the program is made for.
 constexpr qint64 largestContent = std::numeric_limits<qint32>::max();
 
-bool Status(const std::string& path, struct stat& status)
+/// Of a file that claims to be longer than that the rest gets room when it comes.
+constexpr qint64 firstRoom = qint64{64} * 1024 * 1024;
+
+EntryStatus EntryAt(const QString& path)
 {
-    return stat(path.c_str(), &status) == 0;
+    const Place place = PlaceOf(path);
+    return place.On->Status(place.Path);
 }
 
 /// A number that is the same for names that differ in letter case alone, and mostly for no others.
@@ -87,46 +89,42 @@ QString FindFile(const QString& patternOrPath)
                 first.isEmpty() ? "" : ", the first is ", qUtf8Printable(first));
         return first;
     }
-    const std::string path = HostPathBytes(patternOrPath);
-    struct stat status {};
-    if (!Status(path, status) || !S_ISREG(status.st_mode))
+    const Place place = PlaceOf(patternOrPath);
+    EntryStatus status;
+    ResumeNext([&] { status = place.On->Status(place.Path); });
+    if (!status.IsFile)
         return {};
-    return NameFromHost(std::string_view(path).substr(path.rfind('/') + 1));
+    return NameFromHost(std::string_view(place.Path).substr(place.Path.rfind('/') + 1));
 }
 
 bool FileExists(const QString& path)
 {
-    bool exists = false;
-    ResumeNext([&] {
-        struct stat status {};
-        exists = Status(HostPathBytes(path), status) && S_ISREG(status.st_mode);
-    });
-    return exists;
+    EntryStatus status;
+    ResumeNext([&] { status = EntryAt(path); });
+    return status.IsFile;
 }
 
 qint64 FileLength(const QString& path)
 {
-    const std::string hostPath = HostPathBytes(path);
-    struct stat status {};
-    if (!Status(hostPath, status))
-        Fail(FailureOfSystem(errno, hostPath));
-    if (!S_ISREG(status.st_mode))
+    const EntryStatus status = EntryAt(path);
+    if (!status.IsFile)
         Fail(failure::fileNotFound);
-    return status.st_size;
+    return status.Length;
 }
 
 QByteArray ReadFile(const QString& path)
 {
-    const std::string hostPath = HostPathBytes(path);
-    OpenFile file(hostPath);
-    if (file.Length() > largestContent)
+    const Place place = PlaceOf(path);
+    const std::unique_ptr<OpenFile> file = place.On->Open(place.Path);
+    if (file->Length() > largestContent)
         Fail(failure::outOfMemory);
     try {
         QByteArray content;
         qsizetype filled = 0;
-        content.resize(static_cast<qsizetype>(file.Length()) + 1); // one more shows the end at once
+        content.resize(static_cast<qsizetype>(std::min(file->Length(), firstRoom)) +
+                       1); // shows the end at once
         for (;;) {
-            const qsizetype got = file.Read(content.data() + filled, content.size() - filled);
+            const qsizetype got = file->Read(content.data() + filled, content.size() - filled);
             filled += got;
             if (got == 0)
                 break;

@@ -10,11 +10,11 @@ namespace torvik {
 
 namespace {
 
-using Answer = std::future<QList<Volume>>;
+using Answer = std::future<QList<MountedVolume>>;
 
 Answer Ask(VolumeReader reader)
 {
-    std::packaged_task<QList<Volume>()> task(reader);
+    std::packaged_task<QList<MountedVolume>()> task(reader);
     Answer answer = task.get_future();
     std::thread(std::move(task)).detach();
     return answer;
@@ -27,16 +27,16 @@ bool Comes(const Answer& answer, std::chrono::milliseconds patience)
 
 } // namespace
 
-QList<Volume> MountedVolumes()
+QList<MountedVolume> MountedVolumes()
 {
-    QList<Volume> volumes;
+    QList<MountedVolume> volumes;
     const QList<QStorageInfo> mounted = QStorageInfo::mountedVolumes();
     for (const QStorageInfo& volume : mounted)
         volumes.append({volume.rootPath(), volume.fileSystemType(), volume.device()});
     return volumes;
 }
 
-std::optional<QList<Volume>> ReadInTime(VolumeReader reader, std::chrono::milliseconds patience)
+std::optional<QList<MountedVolume>> ReadInTime(VolumeReader reader, std::chrono::milliseconds patience)
 {
     static Answer stuck;
     if (stuck.valid()) {

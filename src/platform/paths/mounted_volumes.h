@@ -10,20 +10,20 @@
 namespace torvik {
 
 /// A mounted volume, as far as it tells what kind of medium it is.
-struct Volume {
+struct MountedVolume {
     QString MountPoint;    ///< a folder of the host
     QByteArray FileSystem; ///< "iso9660", "vfat"
     QByteArray Device;     ///< "/dev/sr0"
 };
 
-using VolumeReader = QList<Volume> (*)();
+using VolumeReader = QList<MountedVolume> (*)();
 
 /// The volumes that Qt lists, in no certain order. Qt asks each one for its size, so a network share whose
 /// server is gone keeps the caller waiting.
-QList<Volume> MountedVolumes();
+QList<MountedVolume> MountedVolumes();
 
 /// What `reader` gives, if it does so in time; nothing when it does not. The reader runs on a thread of its
 /// own, which touches nothing of the program; while one is stuck no second one is started.
-std::optional<QList<Volume>> ReadInTime(VolumeReader reader, std::chrono::milliseconds patience);
+std::optional<QList<MountedVolume>> ReadInTime(VolumeReader reader, std::chrono::milliseconds patience);
 
 } // namespace torvik

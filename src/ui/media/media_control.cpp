@@ -78,12 +78,11 @@ void MediaControl::Command(const QString& word)
 void MediaControl::Open()
 {
     Close();
-    std::string hostPath;
-    if (ResumeNext([&] { hostPath = HostPathBytes(fileName_); }) != 0)
-        hostPath.clear(); // a drive that is not there is a device without a medium
+    Place place; // stays empty for a drive that is not there: a device without a medium
+    ResumeNext([&] { place = PlaceOf(fileName_); });
     qCDebug(logMedia, "%s opens %s", qUtf8Printable(objectName()), qUtf8Printable(fileName_));
     format_ = SoundOutput::PreferredFormat();
-    stream_ = std::make_unique<MediaStream>([hostPath] { return FileSource::Open(hostPath); }, format_);
+    stream_ = std::make_unique<MediaStream>([place] { return FileSource::Open(place); }, format_);
     mode_ = Mode::Stopped;
     ticks_->start();
     Changed.Fire();

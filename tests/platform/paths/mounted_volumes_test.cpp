@@ -15,7 +15,7 @@ QSemaphore asked;
 QSemaphore answered;
 
 /// A volume that does not answer until it is let.
-QList<Volume> ReadSlowly()
+QList<MountedVolume> ReadSlowly()
 {
     asked.release();
     answers.acquire();
@@ -23,7 +23,7 @@ QList<Volume> ReadSlowly()
     return {{u"/late"_s, "iso9660", "/dev/sr0"}};
 }
 
-QList<Volume> ReadAtOnce()
+QList<MountedVolume> ReadAtOnce()
 {
     return {{u"/media/disc"_s, "iso9660", "/dev/sr0"}, {u"/media/b"_s, "vfat", "/dev/sdb1"}};
 }
@@ -37,9 +37,10 @@ class MountedVolumesTest : public QObject {
 private Q_SLOTS:
     void the_machine_lists_its_root()
     {
-        const QList<Volume> volumes = MountedVolumes();
-        const auto root = std::find_if(volumes.begin(), volumes.end(),
-                                       [](const Volume& volume) { return volume.MountPoint == u"/"_s; });
+        const QList<MountedVolume> volumes = MountedVolumes();
+        const auto root = std::find_if(volumes.begin(), volumes.end(), [](const MountedVolume& volume) {
+            return volume.MountPoint == u"/"_s;
+        });
         QVERIFY(root != volumes.end());
         QCOMPARE(root->FileSystem, QStorageInfo::root().fileSystemType());
         QCOMPARE(root->Device, QStorageInfo::root().device());

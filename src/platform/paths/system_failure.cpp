@@ -1,4 +1,4 @@
-#include "platform/files/system_failure.h"
+#include "platform/paths/system_failure.h"
 
 #include "runtime/failure.h"
 

@@ -16,7 +16,7 @@ using RemovableTest = bool (*)(const QByteArray& device);
 /// removable devices, image files on a loop device, and what desktops mount under /media, /run/media and
 /// /mnt. Pseudo file systems, network shares, packages of the system and the folders that the system itself
 /// lives in are none.
-QList<QString> MediaAmong(const QList<Volume>& volumes, RemovableTest isRemovable);
+QList<QString> MediaAmong(const QList<MountedVolume>& volumes, RemovableTest isRemovable);
 
 /// The media of the machine; none when the list of volumes does not come within three seconds.
 QList<QString> MountedMedia();

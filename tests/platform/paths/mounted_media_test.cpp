@@ -1,4 +1,4 @@
-#include "platform/paths/volumes.h"
+#include "platform/paths/mounted_media.h"
 #include "support/logged_messages.h"
 #include "support/test_class.h"
 
@@ -19,7 +19,7 @@ bool SticksAreRemovable(const QByteArray& device)
 } // namespace
 
 /// Which volumes look like media.
-class VolumesTest : public QObject {
+class MountedMediaTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -79,7 +79,7 @@ private Q_SLOTS:
 
     void pseudo_file_systems_and_network_shares_are_no_media()
     {
-        QList<Volume> volumes;
+        QList<MountedVolume> volumes;
         for (const char* type : {"proc", "sysfs", "tmpfs", "devtmpfs", "cgroup2", "overlay", "nfs", "nfs4",
                                  "cifs", "smb3", "fuse.sshfs", "fuse.gvfsd-fuse", "9p", "autofs", "squashfs"})
             volumes.append({u"/media/"_s + QLatin1StringView(type), type, "/dev/sdb1"});
@@ -104,9 +104,9 @@ private Q_SLOTS:
 
     void volumes_over_each_other_are_one_medium_in_whatever_order_they_are_listed()
     {
-        const Volume disc{u"/media/a"_s, "iso9660", "/dev/sr0"};
-        const Volume other{u"/media/a"_s, "udf", "/dev/sr1"};
-        const Volume automatic{u"/media/a"_s, "autofs", "systemd-1"};
+        const MountedVolume disc{u"/media/a"_s, "iso9660", "/dev/sr0"};
+        const MountedVolume other{u"/media/a"_s, "udf", "/dev/sr1"};
+        const MountedVolume automatic{u"/media/a"_s, "autofs", "systemd-1"};
         const QList<QString> once{u"/media/a"_s};
         QCOMPARE(MediaAmong({disc, other}, NothingIsRemovable), once);
         QCOMPARE(MediaAmong({disc, automatic}, NothingIsRemovable), once);
@@ -150,5 +150,5 @@ private Q_SLOTS:
     }
 };
 
-TORVIK_TEST(VolumesTest)
-#include "volumes_test.moc"
+TORVIK_TEST(MountedMediaTest)
+#include "mounted_media_test.moc"

@@ -1,4 +1,4 @@
-#include "platform/paths/volumes.h"
+#include "platform/paths/mounted_media.h"
 
 #include "platform/paths/host_name.h"
 #include "runtime/logging.h"
@@ -39,7 +39,7 @@ bool LiesIn(const std::array<std::string_view, N>& folders, std::string_view pat
 }
 
 /// Why a volume is no medium; null when it looks like one.
-const char* WhyNoMedium(const Volume& volume, RemovableTest isRemovable)
+const char* WhyNoMedium(const MountedVolume& volume, RemovableTest isRemovable)
 {
     constexpr std::array<std::string_view, 3> optical{"iso9660", "udf", "fuse.fuseiso"};
     // What is not named here, a pseudo file system or a network share, is no medium wherever it is mounted.
@@ -82,12 +82,12 @@ bool IsRemovableDevice(const QByteArray& device)
 
 } // namespace
 
-QList<QString> MediaAmong(const QList<Volume>& volumes, RemovableTest isRemovable)
+QList<QString> MediaAmong(const QList<MountedVolume>& volumes, RemovableTest isRemovable)
 {
     // Volumes may be mounted over each other, and their order does not tell which one is on top. A folder
     // that shows no disc after all costs a letter and no more.
     std::set<std::string> points;
-    for (const Volume& volume : volumes) {
+    for (const MountedVolume& volume : volumes) {
         const char* reason = WhyNoMedium(volume, isRemovable);
         qCDebug(logDisc, "volume %s (%s, %s): %s", qUtf8Printable(volume.MountPoint),
                 volume.FileSystem.constData(), volume.Device.constData(),
@@ -107,7 +107,7 @@ QList<QString> MountedMedia()
     const auto volumes = ReadInTime(MountedVolumes, patience);
     if (!volumes)
         qCDebug(logDisc) << "the list of volumes does not come; one of them does not answer";
-    return MediaAmong(volumes.value_or(QList<Volume>()), IsRemovableDevice);
+    return MediaAmong(volumes.value_or(QList<MountedVolume>()), IsRemovableDevice);
 }
 
 } // namespace torvik

@@ -1,6 +1,6 @@
-#include "platform/files/open_file.h"
+#include "platform/paths/host_file.h"
 
-#include "platform/files/system_failure.h"
+#include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 
 #include <cerrno>
@@ -11,7 +11,7 @@
 
 namespace torvik {
 
-OpenFile::OpenFile(const std::string& hostPath) : path_(hostPath)
+HostFile::HostFile(const std::string& hostPath) : path_(hostPath)
 {
     // Without O_NONBLOCK the opening of a pipe that nobody writes to would never come back.
     descriptor_ = open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
@@ -25,18 +25,18 @@ OpenFile::OpenFile(const std::string& hostPath) : path_(hostPath)
     length_ = status.st_size;
 }
 
-OpenFile::~OpenFile()
+HostFile::~HostFile()
 {
     close(descriptor_);
 }
 
-void OpenFile::CloseAndFail(int number)
+void HostFile::CloseAndFail(int number)
 {
     close(std::exchange(descriptor_, -1));
     Fail(number);
 }
 
-qsizetype OpenFile::Read(char* target, qsizetype room)
+qsizetype HostFile::Read(char* target, qsizetype room)
 {
     for (;;) {
         const ssize_t got = read(descriptor_, target, static_cast<std::size_t>(room));
@@ -47,7 +47,7 @@ qsizetype OpenFile::Read(char* target, qsizetype room)
     }
 }
 
-void OpenFile::SeekTo(qint64 place)
+void HostFile::SeekTo(qint64 place)
 {
     if (lseek(descriptor_, static_cast<off_t>(place), SEEK_SET) < 0)
         Fail(FailureOfSystem(errno, path_));
