@@ -1,0 +1,7 @@
+#include "search/bind_search.h"
+
+namespace torvik {
+
+void BindSearch() {}
+
+} // namespace torvik
