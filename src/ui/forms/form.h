@@ -119,6 +119,7 @@ public:
     Event<> Activate; ///< the form came up, or is the active one again; may come twice for one showing
     Event<>
         Resize; ///< the form's measures changed, by the program or by the user, or it is shown the first time
+    Event<int, int> KeyDown;  ///< a key that none of the controls has used: its code, and the shift state
     Event<bool&> QueryUnload; ///< may set its argument to keep the form
     Event<> Unload;           ///< the form is about to go
 
@@ -170,7 +171,7 @@ private:
     void WindowResized();
     void WindowStateChanged();
     void WindowActivated();
-    void EscapePressed();
+    void KeyPressed(int code, int shift);
     void CloseRequested();
     void QueueActivate();
     void Retire();
