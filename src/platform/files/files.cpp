@@ -3,6 +3,7 @@
 #include "platform/files/open_file.h"
 #include "platform/files/system_failure.h"
 #include "platform/paths/drives.h"
+#include "platform/paths/folder_index.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/matching_names.h"
 #include "platform/paths/name_pattern.h"
@@ -16,6 +17,8 @@
 #include <new>
 #include <sys/stat.h>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -63,6 +66,33 @@ void DropCaseClashes(std::vector<std::string>& names)
         }
     }
     std::erase(names, std::string());
+}
+
+/// The whole content of a file of the host; on any thread.
+QByteArray ContentOf(const std::string& hostPath)
+{
+    OpenFile file(hostPath);
+    if (file.Length() > largestContent)
+        Fail(failure::outOfMemory);
+    try {
+        QByteArray content;
+        qsizetype filled = 0;
+        content.resize(static_cast<qsizetype>(file.Length()) + 1); // one more shows the end at once
+        for (;;) {
+            const qsizetype got = file.Read(content.data() + filled, content.size() - filled);
+            filled += got;
+            if (got == 0)
+                break;
+            if (filled == content.size())
+                content.resize(content.size() * 2); // longer than it said
+            if (filled > largestContent)
+                Fail(failure::outOfMemory);
+        }
+        content.truncate(filled);
+        return content;
+    } catch (const std::bad_alloc&) {
+        Fail(failure::outOfMemory);
+    }
 }
 
 } // namespace
@@ -117,29 +147,26 @@ qint64 FileLength(const QString& path)
 
 QByteArray ReadFile(const QString& path)
 {
-    const std::string hostPath = HostPathBytes(path);
-    OpenFile file(hostPath);
-    if (file.Length() > largestContent)
-        Fail(failure::outOfMemory);
-    try {
-        QByteArray content;
-        qsizetype filled = 0;
-        content.resize(static_cast<qsizetype>(file.Length()) + 1); // one more shows the end at once
-        for (;;) {
-            const qsizetype got = file.Read(content.data() + filled, content.size() - filled);
-            filled += got;
-            if (got == 0)
-                break;
-            if (filled == content.size())
-                content.resize(content.size() * 2); // longer than it said
-            if (filled > largestContent)
-                Fail(failure::outOfMemory);
-        }
-        content.truncate(filled);
-        return content;
-    } catch (const std::bad_alloc&) {
-        Fail(failure::outOfMemory);
-    }
+    return FileToRead(path)();
+}
+
+std::function<QByteArray()> FileToRead(const QString& path)
+{
+    return [hostPath = HostPathBytes(path)] { return ContentOf(hostPath); };
+}
+
+QString FolderMark(const QString& path)
+{
+    std::optional<FolderStamp> stamp;
+    ResumeNext([&] { stamp = StampOf(HostPathBytes(path)); });
+    if (!stamp)
+        return {};
+    return u"%1 %2 %3.%4 %5.%6"_s.arg(stamp->device)
+        .arg(stamp->number)
+        .arg(stamp->written.tv_sec)
+        .arg(stamp->written.tv_nsec)
+        .arg(stamp->altered.tv_sec)
+        .arg(stamp->altered.tv_nsec);
 }
 
 void MakeFolder(const QString& path)
