@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTextBrowser>
 

@@ -46,16 +46,6 @@ int DarkPixels(const QImage& image)
     return dark;
 }
 
-int focusEvents = 0;
-int focusedChild = -1;
-void CountFocus(QAccessibleEvent* event)
-{
-    if (event->type() != QAccessible::Focus || event->object() != &View())
-        return;
-    ++focusEvents;
-    focusedChild = event->child();
-}
-
 } // namespace
 
 /// A list of rows of two lines.
@@ -155,21 +145,6 @@ private Q_SLOTS:
         QCOMPARE(list->childCount(), 2);
         QCOMPARE(list->child(0)->text(QAccessible::Name), u"1969 Description. 1969. a hood scoop"_s);
         QCOMPARE(list->child(1)->text(QAccessible::Name), u"Bare"_s);
-    }
-
-    void a_screen_reader_is_told_of_the_row_while_the_letters_keep_the_focus()
-    {
-        QAccessible::setActive(true);
-        Main->lstFound.SetRows(Rows(3));
-        Main->txtFind.SetFocus();
-        focusEvents = 0;
-        const auto before = QAccessible::installUpdateHandler(CountFocus);
-        Main->lstFound.SetListIndex(2);
-        QAccessible::installUpdateHandler(before);
-        QAccessible::setActive(false);
-        QCOMPARE(focusEvents, 1);
-        QCOMPARE(focusedChild, 2);
-        QVERIFY(Main->txtFind.Widget().hasFocus());
     }
 
     void found_words_are_drawn_bold()
