@@ -43,7 +43,7 @@ struct ProgramState {
     QString SoundFile;
     QString DocumentFile;
     QString DocumentTitle; ///< title for the document viewer, read when it loads
-    QString TextToFind;    ///< what the next document is searched for as soon as it is on show; mostly nothing
+    QString TextToFind;    ///< what the next document on show is searched for; mostly nothing
 
     // The main window
     bool FirstActivation = false;
