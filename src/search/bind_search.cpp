@@ -2,6 +2,9 @@
 
 namespace torvik {
 
-void BindSearch() {}
+void BindSearch()
+{
+    BindFindForm();
+}
 
 } // namespace torvik

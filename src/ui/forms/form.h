@@ -95,6 +95,8 @@ public:
     void Hide();
     /// Brings the window to the front.
     void ZOrder();
+    /// Brings the window to the front and has it take the keys.
+    void SetFocus();
     /// Keeps the window above the others of the desktop, or no longer; a request that a desktop may refuse.
     void SetTopmost(bool topmost);
     /// Has the window on the screen before the next statement runs; what the user does meanwhile waits.
