@@ -70,8 +70,7 @@ private Q_SLOTS:
         FileExists(On("Torviks\\68A.JPG"));
         const QString folder = u"torvik.files: "_s + On("Torviks\\");
         QCOMPARE(log.Texts(),
-                 (QStringList{folder + u" is "_s + host,
-                              folder + u"*.jpg: 1 found, the first is 67a.Jpg"_s,
+                 (QStringList{folder + u" is "_s + host, folder + u"*.jpg: 1 found, the first is 67a.Jpg"_s,
                               folder + u" is "_s + host, folder + u"*.avi: 0 found"_s,
                               folder + u"67A.JPG is "_s + host + u"/67a.Jpg"_s,
                               folder + u"68A.JPG is "_s + host + u"/68A.JPG, which is not there"_s}));
