@@ -31,9 +31,9 @@ struct FoundList {
 };
 FoundList found;
 
-bool LooksForSomething()
+bool LooksForSomething(const QString& words)
 {
-    return LookForSomething(SearchTermsOf(frmFind->txtFind.Text()));
+    return LookForSomething(SearchTermsOf(words));
 }
 
 QString TextOfProgress(const IndexProgress& progress)
@@ -47,9 +47,10 @@ QString TextOfProgress(const IndexProgress& progress)
     return {};
 }
 
+/// The last count stands until the next answer comes, as the list does.
 QString TextOfCount()
 {
-    if (!LooksForSomething() || found.Question != frmFind->txtFind.Text())
+    if (!LooksForSomething(found.Question) || !LooksForSomething(frmFind->txtFind.Text()))
         return {};
     if (found.Count == 0)
         return u"Nothing found"_s;

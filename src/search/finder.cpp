@@ -80,7 +80,8 @@ void Finder::News()
     const IndexProgress progress = index_->Progress();
     if (progress.IsDone && progress.LeftOut > 0 && !isDiscGone_)
         isDiscGone_ = MarkOfDisc() != disc_;
-    news_();
+    const auto news = news_; // what it opens may be the end of this object
+    news();
 }
 
 IndexProgress Finder::Progress() const
