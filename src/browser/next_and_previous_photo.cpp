@@ -157,6 +157,14 @@ void StepPhotoForward()
         ReportError);
 }
 
+void StepToPhoto(int index)
+{
+    state.PhotoIndex = index - 1;
+    state.SkipFirstPhoto = false;
+    state.SteppedBackward = false;
+    StepPhotoForward();
+}
+
 void StepPhotoBackward()
 {
     const Cursor before = Cursor::Now();

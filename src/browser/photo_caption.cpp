@@ -13,6 +13,25 @@ void PlaceDetails()
     form.rtbDetails.SetTop(form.Image4.Top() + 9);
 }
 
+void PrepareDetails()
+{
+    constexpr int width = 329; // pixels
+    constexpr int height = 106;
+    RichTextBox& details = Form1->rtbDetails;
+    details.ZOrder();
+    details.SetWidth(width);
+    details.SetHeight(height);
+    PlaceDetails();
+}
+
+void ShowPhotoDetails()
+{
+    Form1->rtbDetails.Hide();
+    PrepareDetails();
+    LoadPhotoDetails();
+    Form1->rtbDetails.Show();
+}
+
 void LoadPhotoDetails()
 {
     state.DocumentFile = CaptionOfPhoto(state.PhotoFiles(state.PhotoIndex)).toLower();

@@ -63,12 +63,12 @@ void OpenDocumentOf(const QString& menuArray, int index)
     OpenDocument(unnamed);
 }
 
-void OpenDocumentOf(const QString& entry)
+} // namespace
+
+void ShowLibraryDocument(const QString& entry)
 {
     OpenDocument(*LibraryDocumentOf(entry));
 }
-
-} // namespace
 
 void ShowMagazine(int index)
 {
@@ -87,12 +87,12 @@ void ShowMiscellaneous(int index)
 
 void ShowSiblingGuide()
 {
-    OpenDocumentOf(u"mnuSibling"_s);
+    ShowLibraryDocument(u"mnuSibling"_s);
 }
 
 void ShowEngines()
 {
-    OpenDocumentOf(u"mnuEngines"_s);
+    ShowLibraryDocument(u"mnuEngines"_s);
 }
 
 void BindBooksAndMagazines()
@@ -100,7 +100,7 @@ void BindBooksAndMagazines()
     Form1.Bind([](Form1Controls& form) {
         for (Menu* entry : {&form.mnuBooks, &form.mnuCatalogs, &form.mnuAdsList, &form.mnuWhatsNew,
                             &form.mnuIntro, &form.mnuNotice, &form.mnuCredits, &form.mnuContrib})
-            entry->Click = [name = entry->Name()] { OpenDocumentOf(name); };
+            entry->Click = [name = entry->Name()] { ShowLibraryDocument(name); };
         form.mnuMag.Each([](int index, Menu& entry) { entry.Click = [index] { ShowMagazine(index); }; });
         form.mnuPR.Each([](int index, Menu& entry) { entry.Click = [index] { ShowPressRelease(index); }; });
         form.mnuMisc.Each(

@@ -15,18 +15,6 @@ namespace torvik {
 
 namespace {
 
-constexpr int noteWidth = 329; // pixels
-constexpr int noteHeight = 106;
-
-void PrepareNote()
-{
-    RichTextBox& note = Form1->rtbDetails;
-    note.ZOrder();
-    note.SetWidth(noteWidth);
-    note.SetHeight(noteHeight);
-    PlaceDetails();
-}
-
 void ShowNote(const QString& file)
 {
     state.DocumentFile = state.DiscRoot + file;
@@ -50,7 +38,7 @@ void ShowStatistics()
         Form1->rtbDetails.Hide();
         return;
     }
-    PrepareNote();
+    PrepareDetails();
     const QString note = NoteOf(Form1->panYear.Caption(), Val(Form1->panPhoto.Caption()));
     if (note.isEmpty())
         ShowStatisticsArticle();

@@ -43,6 +43,7 @@ struct ProgramState {
     QString SoundFile;
     QString DocumentFile;
     QString DocumentTitle; ///< title for the document viewer, read when it loads
+    QString TextToFind;    ///< what the next document on show is searched for; mostly nothing
 
     // The main window
     bool FirstActivation = false;

@@ -164,6 +164,11 @@ class LintTest(unittest.TestCase):
             self.assert_caught("src/browser/a.cpp", f"#include <{header}>\n", "only ui includes")
             self.assert_clean({"src/ui/forms/a.cpp": f"#include <{header}>\n"})
 
+    def test_only_search_includes_the_database(self):
+        self.assert_caught("src/documents/a.cpp", "#include <QSqlQuery>\n", "only search includes <QSqlQuery> of QtSql")
+        self.assert_caught("src/ui/a.cpp", "#include <QtSql/QSqlDatabase>\n", "only search includes")
+        self.assert_clean({"src/search/a.cpp": "#include <QSqlQuery>\n"})
+
     def test_core_and_gui_are_allowed_to_subsystems(self):
         self.assert_clean({"src/browser/a.cpp": "#include <QString>\n#include <QImage>\n#include <vector>\n"})
 

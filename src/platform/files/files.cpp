@@ -1,6 +1,7 @@
 #include "platform/files/files.h"
 
 #include "platform/paths/drives.h"
+#include "platform/paths/folder_index.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/matching_names.h"
 #include "platform/paths/name_pattern.h"
@@ -14,6 +15,8 @@
 #include <new>
 #include <sys/stat.h>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -67,6 +70,47 @@ void DropCaseClashes(std::vector<std::string>& names)
     std::erase(names, std::string());
 }
 
+/// The whole content of a file; on any thread.
+QByteArray ContentOf(const Place& place)
+{
+    const std::unique_ptr<OpenFile> file = place.On->Open(place.Path);
+    if (file->Length() > largestContent)
+        Fail(failure::outOfMemory);
+    try {
+        QByteArray content;
+        qsizetype filled = 0;
+        content.resize(static_cast<qsizetype>(std::min(file->Length(), firstRoom)) +
+                       1); // shows the end at once
+        for (;;) {
+            const qsizetype got = file->Read(content.data() + filled, content.size() - filled);
+            filled += got;
+            if (got == 0)
+                break;
+            if (filled == content.size())
+                content.resize(content.size() * 2); // longer than it said
+            if (filled > largestContent)
+                Fail(failure::outOfMemory);
+        }
+        content.truncate(filled);
+        return content;
+    } catch (const std::bad_alloc&) {
+        Fail(failure::outOfMemory);
+    }
+}
+
+/// What tells a folder of a disc image from others: which image that is, and when the folder was written.
+QString MarkInImage(const QString& path)
+{
+    QString mark;
+    ResumeNext([&] {
+        const Place place = PlaceOf(path);
+        const EntryStatus status = place.On->Status(place.Path);
+        if (status.IsFolder)
+            mark = u"%1 %2"_s.arg(reinterpret_cast<quintptr>(place.On.get())).arg(status.Written);
+    });
+    return mark;
+}
+
 } // namespace
 
 QStringList FilesMatching(const QString& pattern)
@@ -114,30 +158,26 @@ qint64 FileLength(const QString& path)
 
 QByteArray ReadFile(const QString& path)
 {
-    const Place place = PlaceOf(path);
-    const std::unique_ptr<OpenFile> file = place.On->Open(place.Path);
-    if (file->Length() > largestContent)
-        Fail(failure::outOfMemory);
-    try {
-        QByteArray content;
-        qsizetype filled = 0;
-        content.resize(static_cast<qsizetype>(std::min(file->Length(), firstRoom)) +
-                       1); // shows the end at once
-        for (;;) {
-            const qsizetype got = file->Read(content.data() + filled, content.size() - filled);
-            filled += got;
-            if (got == 0)
-                break;
-            if (filled == content.size())
-                content.resize(content.size() * 2); // longer than it said
-            if (filled > largestContent)
-                Fail(failure::outOfMemory);
-        }
-        content.truncate(filled);
-        return content;
-    } catch (const std::bad_alloc&) {
-        Fail(failure::outOfMemory);
-    }
+    return FileToRead(path)();
+}
+
+std::function<QByteArray()> FileToRead(const QString& path)
+{
+    return [place = PlaceOf(path)] { return ContentOf(place); };
+}
+
+QString FolderMark(const QString& path)
+{
+    std::optional<FolderStamp> stamp;
+    ResumeNext([&] { stamp = StampOf(HostPathBytes(path)); });
+    if (!stamp)
+        return MarkInImage(path);
+    return u"%1 %2 %3.%4 %5.%6"_s.arg(stamp->device)
+        .arg(stamp->number)
+        .arg(stamp->written.tv_sec)
+        .arg(stamp->written.tv_nsec)
+        .arg(stamp->altered.tv_sec)
+        .arg(stamp->altered.tv_nsec);
 }
 
 void MakeFolder(const QString& path)

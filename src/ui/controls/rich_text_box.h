@@ -1,8 +1,12 @@
 #pragma once
 
+#include "runtime/text_range.h"
 #include "ui/forms/control.h"
 
+#include <QList>
+
 class QTextBrowser;
+class QTextCursor;
 class QTextDocument;
 
 namespace torvik {
@@ -23,12 +27,21 @@ public:
     /// What is shown, with its formats; for printing. It goes with the next file.
     const QTextDocument& Document() const;
 
+    /// Lays colour under pieces of Text, readable whatever the document's own colours are: a strong one under
+    /// the piece at the index `present` (-1 for none), a faint one under the others. What the user selects,
+    /// copies or prints knows nothing of it. It goes with the next file.
+    void SetMarks(const QList<TextRange>& pieces, qsizetype present);
+    /// Scrolls to a piece of Text unless it is in view; the user's selection stays.
+    void BringIntoView(const TextRange& piece);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     QString AccessibleText() const override;
     bool ClicksByMouse() const override { return !onLink_; }
 
 private:
+    QTextCursor CursorAt(qsizetype place) const;
+
     QTextBrowser* pane_;
     bool onLink_ = false; ///< the mouse was last let go over a link
     QString fileName_;

@@ -19,9 +19,24 @@ inline constexpr int right = 2;
 inline constexpr int middle = 4;
 } // namespace mouse
 
+/// The sum in which a key's handler is told of Shift, Ctrl and Alt.
+namespace held {
+inline constexpr int shift = 1;
+inline constexpr int ctrl = 2;
+inline constexpr int alt = 4;
+} // namespace held
+
 /// Key codes as the handlers know them.
 namespace key {
+inline constexpr int enter = 13;
+inline constexpr int escape = 27;
 inline constexpr int space = 32;
+inline constexpr int pageUp = 33;
+inline constexpr int pageDown = 34;
+inline constexpr int up = 38;
+inline constexpr int down = 40;
+inline constexpr int letterF = 70;
+inline constexpr int f3 = 114;
 inline constexpr int comma = 188;
 inline constexpr int period = 190;
 } // namespace key

@@ -96,10 +96,13 @@ void Form::QueueActivate()
         this, [this] { WindowActivated(); }, Qt::QueuedConnection);
 }
 
-void Form::EscapePressed()
+void Form::KeyPressed(int code, int shift)
 {
-    if (cancelButton_ != nullptr && cancelButton_->Visible() && cancelButton_->Enabled())
+    if (code == key::escape && cancelButton_ != nullptr && cancelButton_->Visible() &&
+        cancelButton_->Enabled())
         cancelButton_->Click.Fire();
+    else if (code != 0)
+        KeyDown.Fire(code, shift);
 }
 
 /// With its last form the program is over: without a window nobody could end it any more.

@@ -95,6 +95,8 @@ public:
     void Hide();
     /// Brings the window to the front.
     void ZOrder();
+    /// Brings the window to the front and has it take the keys.
+    void SetFocus();
     /// Keeps the window above the others of the desktop, or no longer; a request that a desktop may refuse.
     void SetTopmost(bool topmost);
     /// Has the window on the screen before the next statement runs; what the user does meanwhile waits.
@@ -119,6 +121,7 @@ public:
     Event<> Activate; ///< the form came up, or is the active one again; may come twice for one showing
     Event<>
         Resize; ///< the form's measures changed, by the program or by the user, or it is shown the first time
+    Event<int, int> KeyDown;  ///< a key that none of the controls has used: its code, and the shift state
     Event<bool&> QueryUnload; ///< may set its argument to keep the form
     Event<> Unload;           ///< the form is about to go
 
@@ -170,7 +173,7 @@ private:
     void WindowResized();
     void WindowStateChanged();
     void WindowActivated();
-    void EscapePressed();
+    void KeyPressed(int code, int shift);
     void CloseRequested();
     void QueueActivate();
     void Retire();

@@ -188,6 +188,12 @@ void Form::ZOrder()
     window_->raise();
 }
 
+void Form::SetFocus()
+{
+    ZOrder();
+    window_->activateWindow();
+}
+
 void Form::SetTopmost(bool topmost)
 {
     if (window_->windowFlags().testFlag(Qt::WindowStaysOnTopHint) == topmost)

@@ -2,6 +2,7 @@
 
 #include "ui/forms/control.h"
 #include "ui/forms/form.h"
+#include "ui/forms/keys.h"
 #include "ui/forms/spoken_roles.h"
 
 #include <QAbstractButton>
@@ -121,10 +122,10 @@ void FormWindow::closeEvent(QCloseEvent* event)
 
 void FormWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && form_ != nullptr)
-        form_->EscapePressed();
-    else
+    if (event->key() != Qt::Key_Escape)
         QWidget::keyPressEvent(event);
+    if (form_ != nullptr)
+        form_->KeyPressed(KeyCodeOf(*event), ShiftStateOf(*event)); // the window may be over behind it
 }
 
 void FormWindow::changeEvent(QEvent* event)

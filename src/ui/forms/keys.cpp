@@ -23,9 +23,19 @@ int KeyCodeOf(const QKeyEvent& event)
         return isTyped ? key::period : 0;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return 13;
+        return key::enter;
     case Qt::Key_Escape:
-        return 27;
+        return key::escape;
+    case Qt::Key_PageUp:
+        return key::pageUp;
+    case Qt::Key_PageDown:
+        return key::pageDown;
+    case Qt::Key_Up:
+        return key::up;
+    case Qt::Key_Down:
+        return key::down;
+    case Qt::Key_F3:
+        return key::f3;
     default:
         break;
     }

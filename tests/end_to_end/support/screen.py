@@ -110,6 +110,9 @@ class Screen:
         """Keys by their X names: "period", "Escape", "alt+F4"."""
         self._run("xdotool", "key", "--clearmodifiers", *keys)
 
+    def type_text(self, text):
+        self._run("xdotool", "type", "--clearmodifiers", "--delay", "20", text)
+
     def window_of(self, process):
         """The number of a process's one visible window."""
         def search():

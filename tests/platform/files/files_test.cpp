@@ -6,6 +6,7 @@
 #include "support/test_class.h"
 
 #include <sys/resource.h>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -331,6 +332,33 @@ private Q_SLOTS:
         QCOMPARE(truncate(disc.Host("huge").c_str(), length), 0);
         QCOMPARE(FileLength(On("huge")), length);
         QCOMPARE(FailureOf([] { ReadFile(On("huge")); }), failure::outOfMemory);
+    }
+
+    void a_file_is_looked_up_now_and_read_later_on_another_thread()
+    {
+        const DiscFolder disc;
+        QVERIFY(disc.File("Words.rtf", "some words"));
+        const auto read = FileToRead(On("WORDS.RTF"));
+        QByteArray content;
+        std::thread([&] { content = read(); }).join();
+        QCOMPARE(content, QByteArray("some words"));
+        QVERIFY(disc.Remove("Words.rtf"));
+        QCOMPARE(FailureOf([&] { read(); }), failure::fileNotFound);
+        QCOMPARE(FailureOf([] { FileToRead(u"Q:\\a"_s); }), failure::deviceUnavailable);
+    }
+
+    void the_mark_of_a_folder_changes_with_its_names_and_its_medium()
+    {
+        const DiscFolder disc;
+        QVERIFY(disc.Folder("RichText") && disc.Folder("Other"));
+        const QString before = FolderMark(On("richtext"));
+        QVERIFY(!before.isEmpty());
+        QCOMPARE(FolderMark(On("RichText")), before);
+        QVERIFY(FolderMark(On("Other")) != before);
+        QVERIFY(disc.File("RichText/new"));
+        QVERIFY(FolderMark(On("RichText")) != before);
+        QCOMPARE(FolderMark(On("None")), QString());
+        QCOMPARE(FolderMark(u"Q:\\RichText"_s), QString());
     }
 
     void a_folder_is_made_in_an_existing_one()

@@ -72,6 +72,16 @@ private Q_SLOTS:
         QCOMPARE(CodeOf(Qt::Key_Escape), 27);
     }
 
+    void keys_that_walk_and_search_have_their_codes()
+    {
+        QCOMPARE(CodeOf(Qt::Key_PageUp), 33);
+        QCOMPARE(CodeOf(Qt::Key_PageDown), 34);
+        QCOMPARE(CodeOf(Qt::Key_Up), 38);
+        QCOMPARE(CodeOf(Qt::Key_Down), 40);
+        QCOMPARE(CodeOf(Qt::Key_F3), 114);
+        QCOMPARE(CodeOf(Qt::Key_F, Qt::ControlModifier), key::letterF);
+    }
+
     void other_keys_have_none()
     {
         for (const int key : {int(Qt::Key_F1), int(Qt::Key_Left), int(Qt::Key_Tab), int(Qt::Key_Shift),
