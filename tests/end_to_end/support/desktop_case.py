@@ -157,13 +157,17 @@ class DesktopCase(ProgramTest):
     def check_saved_place(self):
         if self.fits:
             self.screen.move_window(self.main, 16, 27)
+            wait_until(lambda: self.frame(self.main).left == 16, "the new place")
         place = self.frame(self.main)
         self.program.click("Exit", window=MAIN_TITLE)
         self.assertEqual(self.program.wait_for_end(), 0)
         self.program = self.start(self.screen, self.disc.folder)
         self.program.start_browsing()
         self.main = self.window(MAIN_TITLE)
-        wait_until(lambda: self.frame(self.main) == place,
-                   lambda: f"the saved place {place}; it is {self.frame(self.main)}")
+        if self.screen.work_area().holds(place):
+            wait_until(lambda: self.frame(self.main) == place,
+                       lambda: f"the saved place {place}; it is {self.frame(self.main)}")
+        else:  # a manager may maximize a window that is larger than the screen
+            self.assertEqual((self.frame(self.main).left, self.frame(self.main).top), (place.left, place.top))
         self.program.click("Exit", window=MAIN_TITLE)
         self.assertEqual(self.program.wait_for_end(), 0)
