@@ -45,7 +45,7 @@ void Write(const QString& path, const QByteArray& bytes)
 double BareOpening(const QString& path)
 {
     return bench::Milliseconds([&] {
-        const auto reader = MediaReader::Open(FileSource::Open(path.toStdString()), SoundFormat());
+        const auto reader = MediaReader::Open(FileSource::Open(PlaceOf(DrivePath(path))), SoundFormat());
         if (reader == nullptr || std::holds_alternative<MediaReader::End>(reader->Next()))
             qFatal("there is nothing to read");
     });

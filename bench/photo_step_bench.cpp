@@ -2,14 +2,10 @@
 // smooth scale to the same rectangle.
 
 #include "bind_handlers.h"
+#include "browsing.h"
 #include "measure.h"
-#include "platform/paths/drives.h"
-#include "platform/paths/program_folder.h"
 #include "scene.h"
-#include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
-#include "windows/main_window.h"
-#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>
@@ -97,12 +93,7 @@ bool Measure(const char* name, const QSize& size)
     const QStringList photos = MakePhotos(disc.filePath(u"Torviks"_s), size);
     if (photos.isEmpty())
         return false;
-    SetProgramFolder(program.path());
-    SetDriveOptions({{u'E', disc.path()}});
-    Clock::StopAt(QDateTime::currentDateTime());
-    Form2.LoadForm();
-    Clock::Turn(5000);
-    QCoreApplication::processEvents();
+    bench::StartBrowsing(disc.path(), program.path());
     const QSize area = Form1->Image4.Widget().size();
 
     tjhandle decoder = tjInitDecompress();
@@ -125,10 +116,7 @@ bool Measure(const char* name, const QSize& size)
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const torvik::bench::Home home;
     const QApplication application(argc, argv);
     torvik::BindHandlers();
     const bool small = Measure("photo step, 1280 x 776", {1280, 776});

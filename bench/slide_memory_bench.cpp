@@ -56,10 +56,7 @@ double Resident()
 int main(int argc, char** argv)
 {
     using namespace torvik;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const bench::Home home;
     const QTemporaryDir disc;
     const QTemporaryDir program;
     if (!MakePhotos(disc.filePath(u"Torviks"_s)))

@@ -1,16 +1,9 @@
 #pragma once
 
-#include "platform/paths/drives.h"
-#include "platform/paths/program_folder.h"
+#include "browsing.h"
 #include "program/program_state.h"
-#include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
-#include "windows/main_window.h"
 #include "windows/slide_window.h"
-#include "windows/splash.h"
-
-#include <QCoreApplication>
-#include <QString>
 
 namespace torvik::bench {
 
@@ -18,12 +11,7 @@ namespace torvik::bench {
 /// The clock stands still then.
 inline void OpenSlideShow(const QString& disc, const QString& programFolder)
 {
-    SetProgramFolder(programFolder);
-    SetDriveOptions({{u'E', disc}});
-    Clock::StopAt(QDateTime::currentDateTime());
-    Form2.LoadForm();
-    Clock::Turn(5000);
-    QCoreApplication::processEvents();
+    StartBrowsing(disc, programFolder);
     state.SlideShowOpen = true;
     state.SlideDelay = 1000;
     state.PhotoIndex = 1;

@@ -2,17 +2,12 @@
 // reported.
 
 #include "bind_handlers.h"
-#include "platform/paths/drives.h"
-#include "platform/paths/program_folder.h"
-#include "ui/forms/clock.h"
+#include "browsing.h"
 #include "ui/forms/form_window.h"
-#include "windows/main_window.h"
-#include "windows/splash.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QImage>
-#include <QTemporaryDir>
 
 #include <cstdio>
 #include <ctime>
@@ -44,10 +39,7 @@ void MakeDisc(const QString& folder)
 int main(int argc, char** argv)
 {
     using namespace torvik;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const bench::Home home;
     const QTemporaryDir disc;
     MakeDisc(disc.filePath(u"Torviks"_s));
     const QApplication application(argc, argv);
@@ -61,9 +53,7 @@ int main(int argc, char** argv)
     });
 
     BindHandlers();
-    SetProgramFolder(home.path());
-    SetDriveOptions({{u'E', disc.path()}});
-    Clock::StopAt(QDateTime::currentDateTime());
+    bench::PutDiscIn(disc.path(), home.Folder());
     const double before = ProcessorMilliseconds([] {
         Form2.LoadForm();
         QCoreApplication::processEvents();

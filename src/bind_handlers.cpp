@@ -5,6 +5,7 @@
 #include "hard_drive/bind_hard_drive.h"
 #include "media/bind_media.h"
 #include "printing/bind_printing.h"
+#include "search/bind_search.h"
 #include "slides/bind_slides.h"
 #include "start/bind_start.h"
 #include "utilities/bind_utilities.h"
@@ -21,6 +22,7 @@ void BindHandlers()
     BindDocuments();
     BindSlides();
     BindHardDrive();
+    BindSearch();
 }
 
 } // namespace torvik

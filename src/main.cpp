@@ -4,11 +4,16 @@
 #include "platform/paths/program_folder.h"
 #include "platform/system/arguments_of.h"
 #include "runtime/failure.h"
+#include "runtime/logging.h"
+#include "start/chosen_scale.h"
 #include "start/command_line.h"
 #include "ui/application.h"
 #include "ui/printer/printer.h"
+#include "ui/scale.h"
 #include "version.h"
 #include "windows/splash.h"
+
+#include <QCoreApplication>
 
 #include <cstdio>
 
@@ -42,6 +47,7 @@ int main(int argc, char** argv)
     using namespace torvik;
     const CommandLine early = ReadCommandLine(ArgumentsOf(argc, argv));
     if (early.Help) {
+        const QCoreApplication withoutDisplay(argc, argv);
         std::fputs(qPrintable(HelpText()), stdout);
         return 0;
     }
@@ -49,8 +55,10 @@ int main(int argc, char** argv)
         std::printf("torvik2001 %s\n", programVersion);
         return 0;
     }
+    if (early.Verbose)
+        LogEverything();
 
-    Application application(argc, argv);
+    Application application(argc, argv, ChosenScale(IsScale(early.Scale) ? early.Scale : QString()));
     const CommandLine line = ReadCommandLine(ArgumentsOf(argc, argv));
     if (!line.Problem.isEmpty())
         return Complain(line.Problem);
@@ -58,6 +66,7 @@ int main(int argc, char** argv)
         return Complain(problem);
     SupplyProgramFolder();
     Printer.PrintTo(line.PrintFolder);
+    qCDebug(logStart, "torvik2001 %s, program folder %s", programVersion, qUtf8Printable(ProgramFolder()));
 
     BindHandlers();
     return application.Run([] { Form2.LoadForm(); });

@@ -113,7 +113,7 @@ int main(int argc, char** argv)
     if (early.Task == SaverTask::Embed || early.Task == SaverTask::Desktop)
         PreferForeignWindows();
 
-    Application application(argc, argv);
+    Application application(argc, argv, early.Scale);
     const SaverArguments arguments = ReadSaverArguments(ArgumentsOf(argc, argv), WindowOfScreenSaver());
     if (!arguments.Problem.isEmpty())
         return Complain(arguments.Problem);

@@ -18,8 +18,9 @@ Look LinkLook(Look look)
 std::vector<QColor> OfficeColours()
 {
     std::vector<QColor> colours;
-    for (const QRgb colour : {0x000000, 0x0000FF, 0x00FFFF, 0x00FF00, 0xFF00FF, 0xFF0000, 0xFFFF00, 0xFFFFFF,
-                              0x000080, 0x008080, 0x008000, 0x800080, 0x800000, 0x808000, 0x808080, 0xC0C0C0})
+    for (const QRgb colour : std::initializer_list<QRgb>{
+             0x000000, 0x0000FF, 0x00FFFF, 0x00FF00, 0xFF00FF, 0xFF0000, 0xFFFF00, 0xFFFFFF, 0x000080,
+             0x008080, 0x008000, 0x800080, 0x800000, 0x808000, 0x808080, 0xC0C0C0})
         colours.emplace_back(colour);
     return colours;
 }

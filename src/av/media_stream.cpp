@@ -32,7 +32,7 @@ QThreadPool& Readers()
 
 /// What the stream and its reader share; each keeps it alive.
 struct MediaStream::Shared {
-    Opener Open;
+    Opener OpenSource;
     SoundFormat Sound;
 
     mutable std::mutex Mutex;
@@ -73,13 +73,13 @@ struct MediaStream::Shared {
         PictureBytes += picture.Image.sizeInBytes();
         Pictures.push_back(std::move(picture));
     }
-    void Keep(MediaSamples&& samples)
+    void Keep(MediaSamples&& piece)
     {
-        EndOfRead = std::max(EndOfRead, samples.Time + DurationOf(samples.Bytes.size()));
+        EndOfRead = std::max(EndOfRead, piece.Time + DurationOf(piece.Bytes.size()));
         if (SoundBytes >= soundLimit)
             return;
-        SoundBytes += samples.Bytes.size();
-        Samples.push_back(std::move(samples));
+        SoundBytes += piece.Bytes.size();
+        Samples.push_back(std::move(piece));
     }
     void Keep(MediaReader::End&& /*end*/) { Ended = true; }
 
@@ -98,7 +98,7 @@ struct MediaStream::Shared {
 /// The reader's whole life, in the background.
 void MediaStream::Shared::Read()
 {
-    std::unique_ptr<MediaReader> reader = MediaReader::Open(Open(), Sound);
+    std::unique_ptr<MediaReader> reader = MediaReader::Open(OpenSource(), Sound);
     std::unique_lock lock(Mutex);
     Progress = reader != nullptr ? State::Ready : State::Failed;
     if (reader == nullptr)
@@ -124,7 +124,7 @@ void MediaStream::Shared::Read()
 
 MediaStream::MediaStream(Opener open, const SoundFormat& sound) : shared_(std::make_shared<Shared>())
 {
-    shared_->Open = std::move(open);
+    shared_->OpenSource = std::move(open);
     shared_->Sound = sound;
     Readers().start([shared = shared_] { shared->Read(); });
 }

@@ -1,6 +1,7 @@
 #include "browser/bind_browser.h"
 #include "browser/copy_to_clipboard.h"
-#include "browser/emblem_and_script.h"
+#include "browser/pictures_over_photo.h"
+#include "program/catalogue/pictures.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
@@ -34,7 +35,7 @@ void OpenClipArt()
     OnError(
         [] {
             PictureBox& pane = Form1->picClipArt;
-            pane.Load(state.DiscRoot + u"\\Clipart\\"_s + state.YearCode + u"clip.jpg"_s);
+            pane.Load(state.DiscRoot + ClipArtOf(state.YearCode));
             PlaceClipArt();
             pane.ZOrder();
             pane.Show();

@@ -3,6 +3,7 @@
 #include "browser/bind_browser.h"
 #include "browser/photo_caption.h"
 #include "program/photo_list.h"
+#include "program/photo_name.h"
 #include "program/play_list_buttons.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
@@ -48,11 +49,11 @@ void CorrectYearCode()
 
 bool HasYearCode(int index)
 {
-    state.TorviksPathPos = InStr(state.PhotoFiles(1), torviksFolder);
-    return Mid(state.PhotoFiles(index), state.TorviksPathPos + 9, 2) == state.YearCode;
+    RefreshPathPosition();
+    return CodeOfPhoto(state.PhotoFiles(index)) == state.YearCode;
 }
 
-/// Leaves PhotoIndex one below the photo that was found, or behind the last one.
+/// Leaves PhotoIndex one below the photo that was found, or after the last one.
 bool ScanForward()
 {
     for (; state.PhotoIndex <= state.PhotoCount; state.PhotoIndex += 1) {
@@ -74,16 +75,18 @@ bool ScanBackward()
     return false;
 }
 
+/// A photo before it that could not be loaded may have hidden the pane.
 void ShowPhoto(int index)
 {
     Form1->Image4.Load(state.PhotoFiles(index));
+    Form1->Image4.Show();
     Form1->panPhoto.SetCaption(state.PhotoNumbers(index));
     if (state.ShowFileNames)
-        Form1->txtFile.SetText(Mid(state.PhotoFiles(index), state.TorviksPathPos + 9, 12));
+        Form1->txtFile.SetText(ShortNameOfPhoto(state.PhotoFiles(index)));
     state.CurrentPhotoFile = state.PhotoFiles(index);
 }
 
-/// The focus stays on the button behind the year on show, so that a key pressed again walks on.
+/// The focus stays on the button after the year on show, so that a key pressed again walks on.
 void FocusAfterStep()
 {
     const QString& code = state.YearCode;
@@ -154,6 +157,14 @@ void StepPhotoForward()
         ReportError);
 }
 
+void StepToPhoto(int index)
+{
+    state.PhotoIndex = index - 1;
+    state.SkipFirstPhoto = false;
+    state.SteppedBackward = false;
+    StepPhotoForward();
+}
+
 void StepPhotoBackward()
 {
     const Cursor before = Cursor::Now();
@@ -167,7 +178,7 @@ void StepPhotoBackward()
 
     state.ErrorCode = u"ER011"_s;
     bool found = true;
-    OnError(
+    const bool shown = OnError(
         [&] {
             found = ScanBackward();
             if (!found) {
@@ -194,6 +205,8 @@ void StepPhotoBackward()
         },
         ReportError);
     OnError(UpdatePlayListButtons, ReportError);
+    if (!shown)
+        state.PhotoIndex -= 1; // the next step passes the photo that could not be loaded
 }
 
 void BindNextAndPreviousPhoto()

@@ -10,4 +10,8 @@ void StepPhotoForward();
 /// When no photo has the code at all, nothing changes.
 void StepPhotoBackward();
 
+/// Shows the photo at an index of the list as a step forward does. It must be one of the year or topic on
+/// show.
+void StepToPhoto(int index);
+
 } // namespace torvik

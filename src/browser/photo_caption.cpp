@@ -1,26 +1,10 @@
 #include "browser/photo_caption.h"
 
+#include "program/photo_name.h"
 #include "program/program_state.h"
-#include "runtime/text.h"
 #include "windows/main_window.h"
 
-using namespace Qt::StringLiterals;
-
 namespace torvik {
-
-namespace {
-
-/// "E:\Torviks\67A.JPG" has its caption in "E:\RichText\67A.rtf". What counts is the first point of the path,
-/// wherever it stands.
-QString CaptionDocumentOf(const QString& photo)
-{
-    const int point = InStr(photo, u"."_s);
-    const int folder = state.TorviksPathPos;
-    const int stem = folder + 8;
-    return Left(photo, folder) + u"RichText"_s + Mid(photo, stem, point - stem) + u".rtf"_s;
-}
-
-} // namespace
 
 void PlaceDetails()
 {
@@ -29,19 +13,36 @@ void PlaceDetails()
     form.rtbDetails.SetTop(form.Image4.Top() + 9);
 }
 
+void PrepareDetails()
+{
+    constexpr int width = 329; // pixels
+    constexpr int height = 106;
+    RichTextBox& details = Form1->rtbDetails;
+    details.ZOrder();
+    details.SetWidth(width);
+    details.SetHeight(height);
+    PlaceDetails();
+}
+
+void ShowPhotoDetails()
+{
+    Form1->rtbDetails.Hide();
+    PrepareDetails();
+    LoadPhotoDetails();
+    Form1->rtbDetails.Show();
+}
+
 void LoadPhotoDetails()
 {
-    state.DocumentFile = CaptionDocumentOf(state.PhotoFiles(state.PhotoIndex)).toLower();
+    state.DocumentFile = CaptionOfPhoto(state.PhotoFiles(state.PhotoIndex)).toLower();
     Form1->rtbDetails.SetFileName(state.DocumentFile);
     PlaceDetails();
 }
 
 void LoadPhotoDetailsBackward()
 {
-    state.PhotoIndex += 1;
-    state.DocumentFile = CaptionDocumentOf(state.PhotoFiles(state.PhotoIndex));
+    state.DocumentFile = CaptionOfPhoto(state.PhotoFiles(state.PhotoIndex + 1));
     Form1->rtbDetails.SetFileName(state.DocumentFile);
-    state.PhotoIndex -= 1;
     state.SteppedForward = false;
     PlaceDetails();
 }

@@ -1,9 +1,9 @@
 #include "browser/bind_browser.h"
 #include "browser/browse_from_start.h"
 #include "browser/select_year.h"
-#include "browser/year_buttons.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
+#include "program/catalogue/topics.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"
 #include "runtime/failure.h"
@@ -11,13 +11,11 @@
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
-using namespace Qt::StringLiterals;
-
 namespace torvik {
 
 namespace {
 
-/// Where the walk goes from a title behind the last year.
+/// Where the walk goes after the last year, by the codes of the titles.
 struct WalkStep {
     const char* From;
     const char* To;
@@ -26,18 +24,16 @@ struct WalkStep {
     void (*ShowIt)();
 };
 
-constexpr WalkStep behindTheYears[] = {
-    {"2001", "Danbury Mint Die Cast Models ", 35, 2, SelectYear},
-    {"Danbury Mint Die Cast Models ", "Franklin Mint Die Cast Models ", 35, 2, ShowSpecialTopic},
-    {"Franklin Mint Die Cast Models ", "Torvik Metal Signs ", 35, 2, ShowSpecialTopic},
-    {"Torvik Metal Signs ", "Torvik Postage Stamps ", 1, 1, SelectYear},
-    {"Torvik Postage Stamps ", "1967 ", 1, 1, SelectYear},
+constexpr WalkStep afterTheYears[] = {
+    {"A1", "TD", 35, 2, SelectYear},       {"TD", "TF", 35, 2, ShowSpecialTopic},
+    {"TF", "VM", 35, 2, ShowSpecialTopic}, {"VM", "ZZ", 1, 1, SelectYear},
+    {"ZZ", "67", 1, 1, SelectYear},
 };
 
 const WalkStep* StepFrom(const QString& title)
 {
-    for (const WalkStep& step : behindTheYears) {
-        if (title == QLatin1String(step.From))
+    for (const WalkStep& step : afterTheYears) {
+        if (title == TitleOfCode(QLatin1String(step.From)))
             return &step;
     }
     return nullptr;
@@ -62,7 +58,7 @@ void WalkOn()
     WalkToNextYear();
 
     if (const WalkStep* step = StepFrom(Form1->panYear.Caption())) {
-        Form1->panYear.SetCaption(QString::fromLatin1(step->To));
+        Form1->panYear.SetCaption(TitleOfCode(QLatin1String(step->To)));
         state.NextYearButton = step->NextYearButton;
         Form1->cmdYR(step->FocusButton).SetFocus();
         step->ShowIt();
@@ -79,7 +75,7 @@ void WalkOn()
 
 void OpenPlayList()
 {
-    ResumeNext([] { MakeFolder(ProgramFolder() + u"\\ssTorviks\\"_s); });
+    ResumeNext([] { MakeFolder(ProgramFolder() + playListFolder); });
     ResumeNext([] { frmSSPhoto->Show(); });
 }
 

@@ -1,8 +1,8 @@
 #include "browser/restore_main_window.h"
 
-#include "browser/emblem_and_script.h"
+#include "browser/pictures_over_photo.h"
+#include "program/catalogue/topics.h"
 #include "program/program_state.h"
-#include "program/topic_catalogue.h"
 #include "runtime/text.h"
 #include "windows/article_window.h"
 #include "windows/main_window.h"
@@ -15,7 +15,7 @@ namespace {
 void SetDocumentButtons(const Topic* topic)
 {
     Form1Controls& form = *Form1;
-    const bool ownTopic = topic != nullptr && QLatin1String(topic->Title) != classicHarwell;
+    const bool ownTopic = topic != nullptr && !topic->KeepsYearButtons;
     for (Button* button : {&form.cmdColors, &form.cmdOptions, &form.cmdClipArt, &form.cmdEmblem,
                            &form.cmdScript, &form.cmdAd, &form.cmdNostalgia})
         button->SetEnabled(!ownTopic);
@@ -31,10 +31,10 @@ void DropOverlays()
     Form1->picScript.Hide();
 }
 
-void RefreshOverlays()
+void RefreshOverlays(const Topic* topic)
 {
     Form1Controls& form = *Form1;
-    if (form.panYear.Caption() == classicHarwell) {
+    if (topic != nullptr && topic->KeepsYearButtons) {
         form.picClipArt.Hide();
         for (Button* button : {&form.cmdStats, &form.cmdDesc, &form.cmdClipArt, &form.cmdNostalgia})
             button->SetEnabled(false);
@@ -59,13 +59,13 @@ void RestoreMainWindow()
         form.SpinButton1.Show();
         form.panPhoto.Show();
         form.panYear.Show();
-        const Topic* topic = TopicOf(form.panYear.Caption());
+        const Topic* topic = BrowsedTopicOf(form.panYear.Caption());
         SetDocumentButtons(topic);
         state.YearCode = Mid(form.panYear.Caption(), 3, 2);
-        if (topic != nullptr && topic->DropsOverlays)
+        if (topic != nullptr && !topic->KeepsOverlays)
             DropOverlays();
         else
-            RefreshOverlays();
+            RefreshOverlays(topic);
         for (state.LoopIndex = 1; state.LoopIndex <= yearCount; state.LoopIndex += 1)
             form.cmdYR(state.LoopIndex).SetEnabled(true);
     }

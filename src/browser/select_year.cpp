@@ -2,10 +2,11 @@
 
 #include "browser/browse_from_start.h"
 #include "browser/restore_main_window.h"
+#include "program/catalogue/topics.h"
+#include "program/photo_name.h"
 #include "program/play_list_buttons.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
-#include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 #include "ui/forms/screen.h"
@@ -17,20 +18,15 @@ namespace torvik {
 
 namespace {
 
+const QString detailsCaption = u"Details"_s;
+
 void TakeYearCode()
 {
     const QString title = Form1->panYear.Caption();
-    if (const Topic* topic = TopicOf(title)) {
-        state.YearCode = QString::fromLatin1(topic->Code);
-        if (topic->RenamesStatistics)
-            Form1->cmdStats.SetCaption(u"Details"_s);
-    } else {
-        state.YearCode = Mid(title, 3, 2);
-    }
-    if (state.YearCode == u"00"_s)
-        state.YearCode = u"A0"_s;
-    else if (state.YearCode == u"01"_s)
-        state.YearCode = u"A1"_s;
+    state.YearCode = CodeOfTitle(title);
+    const Topic* topic = BrowsedTopicOf(title);
+    if (topic != nullptr && topic->RenamesStatistics)
+        Form1->cmdStats.SetCaption(detailsCaption);
 }
 
 /// On a disc that lost its photos while the list was built anew, the list is shorter than its count.
@@ -39,18 +35,17 @@ QString PhotoAt(int index)
     return index <= state.PhotoFiles.Count() ? state.PhotoFiles(index) : QString();
 }
 
-/// Leaves PhotoIndex on the first photo of the code, or behind the last photo.
+/// Leaves PhotoIndex on the first photo of the code, or after the last photo.
 void FindFirstPhoto()
 {
-    state.TorviksPathPos = InStr(state.PhotoFiles(1), torviksFolder);
-    const int start = state.TorviksPathPos + 9;
+    RefreshPathPosition();
     for (state.PhotoIndex = 1; state.PhotoIndex <= state.PhotoCount; state.PhotoIndex += 1) {
         const QString photo = PhotoAt(state.PhotoIndex);
-        if (Mid(photo, start, 2) != state.YearCode)
+        if (CodeOfPhoto(photo) != state.YearCode)
             continue;
         state.CurrentPhotoFile = photo;
         if (state.ShowFileNames)
-            Form1->txtFile.SetText(Mid(photo, start, 12));
+            Form1->txtFile.SetText(ShortNameOfPhoto(photo));
         return;
     }
 }
@@ -83,6 +78,7 @@ void SelectYear()
     Form1->mnuNames.SetVisible(true);
     Form1->rtbDetails.Hide();
     state.SkipFirstPhoto = true;
+    state.MissingClipArt.clear();
     state.YearCode = Mid(Form1->panYear.Caption(), 3, 2);
     RestoreMainWindow();
     TakeYearCode();
@@ -90,6 +86,15 @@ void SelectYear()
     ShowFirstPhoto();
     state.ShownPhotoIndex = state.PhotoIndex;
     UpdatePlayListButtons();
+}
+
+void FitButtonsToTopic()
+{
+    Form1Controls& form = *Form1;
+    form.cmdStats.SetCaption(detailsCaption);
+    for (Button* button : {&form.cmdOptions, &form.cmdColors, &form.cmdScript, &form.cmdEmblem, &form.cmdAd,
+                           &form.cmdNostalgia})
+        button->SetEnabled(false);
 }
 
 void ShowSpecialTopic()
@@ -100,15 +105,11 @@ void ShowSpecialTopic()
     BrowseFromStart();
     Screen.SetMousePointer(MousePointer::Default);
 
-    Form1Controls& form = *Form1;
-    form.cmdStats.SetCaption(u"Details"_s);
-    for (Button* button : {&form.cmdOptions, &form.cmdColors, &form.cmdScript, &form.cmdEmblem, &form.cmdAd,
-                           &form.cmdNostalgia})
-        button->SetEnabled(false);
-    form.rtbDetails.Hide();
+    FitButtonsToTopic();
+    Form1->rtbDetails.Hide();
     state.CurrentYearButton = 0;
-    form.cmdYR(1).SetEnabled(true);
-    form.cmdYR(1).SetFocus();
+    Form1->cmdYR(1).SetEnabled(true);
+    Form1->cmdYR(1).SetFocus();
 }
 
 } // namespace torvik

@@ -6,6 +6,10 @@ namespace torvik {
 /// PhotoIndex on that photo. A photo that is missing or cannot be loaded is ER023 and hides Image4.
 void SelectYear();
 
+/// Gives the document buttons the states and the caption that a topic has: no article and no picture of a
+/// year.
+void FitButtonsToTopic();
+
 /// SelectYear for a special topic, with the buttons and the cursor as a topic has them.
 void ShowSpecialTopic();
 

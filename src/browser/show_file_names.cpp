@@ -1,6 +1,6 @@
 #include "browser/bind_browser.h"
+#include "program/photo_name.h"
 #include "program/program_state.h"
-#include "runtime/text.h"
 #include "windows/main_window.h"
 
 using namespace Qt::StringLiterals;
@@ -21,8 +21,8 @@ void ShowFileName()
     state.ShowFileNames = true;
     Form1->mnuNames.SetCaption(u"Hide File &Names"_s);
     if (state.PhotoIndex == 0)
-        state.TorviksPathPos = InStr(state.CurrentPhotoFile, torviksFolder);
-    Form1->txtFile.SetText(Mid(state.CurrentPhotoFile, state.TorviksPathPos + 9));
+        TakePathPosition(state.CurrentPhotoFile);
+    Form1->txtFile.SetText(NameOfPhoto(state.CurrentPhotoFile));
     Form1->txtFile.Show();
     Form1->txtFile.ZOrder();
 }

@@ -1,9 +1,8 @@
-#include "browser/year_buttons.h"
-
 #include "browser/bind_browser.h"
 #include "browser/browse_from_start.h"
 #include "browser/next_and_previous_photo.h"
 #include "browser/select_year.h"
+#include "program/catalogue/topics.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"
 #include "ui/forms/screen.h"
@@ -70,11 +69,6 @@ void cmdYR_KeyDown(int index, int keyCode)
 }
 
 } // namespace
-
-QString YearOfButton(int index)
-{
-    return index < 34 ? u"19%1"_s.arg(index + 66) : u"200%1"_s.arg(index - 34);
-}
 
 void BindYearButtons()
 {

@@ -1,9 +1,10 @@
 #include "documents/bind_documents.h"
 #include "documents/page_viewer.h"
+#include "program/box_title.h"
+#include "program/catalogue/pictures.h"
 #include "program/keep_on_top.h"
 #include "program/program_state.h"
 #include "runtime/failure.h"
-#include "runtime/text.h"
 #include "ui/forms/message_box.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
@@ -31,8 +32,7 @@ void LoadPage()
     form.picParent.Hide();
     form.picChild.Hide();
     form.picChild.Move(0, 0);
-    state.DocumentFile = Mid(Form1->panYear.Caption(), 3, 2) + u"brto00.jpg"_s;
-    state.DocumentFile = state.DiscRoot + u"\\ads\\"_s + state.DocumentFile;
+    state.DocumentFile = state.DiscRoot + AdvertisementOf(Form1->panYear.Caption());
     form.HScroll1.Hide();
     form.VScroll1.Hide();
     form.picChild.Load(state.DocumentFile);
@@ -54,8 +54,7 @@ void ShowPage()
 void SaySorry()
 {
     state.MessageText = u"Sorry!\r\n\r\nThe Year 2001 ad has not yet been released by Brenmoor.\r\n"_s;
-    state.MessageAnswer =
-        QString::number(MsgBox(state.MessageText, msgbox::exclamation, u"The Torvik Vollandry"_s));
+    state.MessageAnswer = QString::number(MsgBox(state.MessageText, msgbox::exclamation, boxTitle));
     Form1->SetEnabled(true);
 }
 

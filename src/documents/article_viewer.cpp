@@ -1,6 +1,7 @@
 #include "documents/article_viewer.h"
 
 #include "documents/bind_documents.h"
+#include "documents/find_in_article.h"
 #include "platform/files/files.h"
 #include "printing/rich_text_printing.h"
 #include "program/box_title.h"
@@ -110,7 +111,10 @@ void BindArticleViewer()
 {
     txtForm.Bind([](txtFormControls& form) {
         form.Load = txtForm_Load;
-        form.Activate = [] { txtForm->SSCommand1.SetFocus(); };
+        form.Activate = [] {
+            txtForm->SSCommand1.SetFocus();
+            FindWhatWasAskedFor();
+        };
         form.SSCommand1.Click = CloseViewer;
         form.rtbText.DblClick = CloseViewer;
         form.cmdPrint.Click = cmdPrint_Click;

@@ -9,6 +9,7 @@ void BindDocuments()
     BindYearArticles();
     BindYearStatistics();
     BindArticleViewer();
+    BindFindInArticle();
     BindPageViewer();
     BindAdvertisement();
 }

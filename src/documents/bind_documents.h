@@ -17,6 +17,8 @@ void BindYearArticles();
 void BindYearStatistics();
 /// Ties the viewer's Load, activation and buttons to their handlers.
 void BindArticleViewer();
+/// Ties the bar of the viewer that finds words in the text on show, and the keys that open and work it.
+void BindFindInArticle();
 /// Ties frmScroll to its handlers: layout, scrolling, both views, closing.
 void BindPageViewer();
 /// Ties cmdAd to the advertisement of the year, which it shows in frmScroll over the whole screen.

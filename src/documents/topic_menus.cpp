@@ -3,11 +3,10 @@
 #include "browser/browse_from_start.h"
 #include "browser/select_year.h"
 #include "documents/bind_documents.h"
+#include "program/catalogue/topics.h"
 #include "program/program_state.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
-
-#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -15,40 +14,17 @@ namespace torvik {
 
 namespace {
 
-struct IndexedTitle {
-    int Index;
-    const char* Title;
-};
-
-constexpr IndexedTitle artTitles[] = {
-    {1, "Lemuel Ostrand Art Print "},
-    {2, "National Torvik Museum Print "},
-    {3, "Arlen Mercer Art Print "},
-};
-
-constexpr IndexedTitle stuffTitles[] = {
-    {1, "Danbury Mint Die Cast Models "},
-    {3, "Franklin Mint Die Cast Models "},
-    {5, "Torvik Metal Signs "},
-    {7, "Torvik Postage Stamps "},
-};
-
-constexpr IndexedTitle specialtyTitles[] = {
-    {0, "The Classic Harwell "}, {1, "Early Torvik Prototypes "}, {2, "Torvik Kestra I "},
-    {3, "Torvik Kestra III "},   {4, "Torvik Super Stallion "},
-};
-
-void SetTitle(std::span<const IndexedTitle> titles, int index)
+/// An index without a topic leaves the title as it is.
+void SetTitle(TopicMenu menu, int index)
 {
-    for (const IndexedTitle& entry : titles) {
-        if (entry.Index == index)
-            Form1->panYear.SetCaption(QString::fromLatin1(entry.Title));
-    }
+    if (const Topic* topic = TopicOfEntry(menu, index))
+        Form1->panYear.SetCaption(QString::fromLatin1(topic->Title));
 }
 
-void ShowTopicWithoutPhotos(const QString& title)
+/// A topic that no menu leads to, by its code.
+void ShowTopicWithoutPhotos(const QString& code)
 {
-    Form1->panYear.SetCaption(title);
+    Form1->panYear.SetCaption(QString::fromLatin1(TopicOfCode(code)->Title));
     ShowSpecialTopic();
     Form1->Image4.Clear();
 }
@@ -57,7 +33,7 @@ void ShowTopicWithoutPhotos(const QString& title)
 
 void ShowArtTopic(int index)
 {
-    SetTitle(artTitles, index);
+    SetTitle(TopicMenu::Artwork, index);
     ShowSpecialTopic();
 }
 
@@ -65,7 +41,7 @@ void ShowStuffTopic(int index)
 {
     Screen.SetMousePointer(MousePointer::Hourglass);
     Form1->Image4.Clear();
-    SetTitle(stuffTitles, index);
+    SetTitle(TopicMenu::Stuff, index);
     ShowSpecialTopic();
 }
 
@@ -74,7 +50,7 @@ void ShowSpecialtyTopic(int index)
 {
     Screen.SetMousePointer(MousePointer::Hourglass);
     Form1->Image4.Clear();
-    SetTitle(specialtyTitles, index);
+    SetTitle(TopicMenu::Specialty, index);
     SelectYear();
     BrowseFromStart();
     Screen.SetMousePointer(MousePointer::Default);
@@ -85,12 +61,12 @@ void ShowSpecialtyTopic(int index)
 
 void ShowCalendars()
 {
-    ShowTopicWithoutPhotos(u"Torvik Calendars "_s);
+    ShowTopicWithoutPhotos(u"TC"_s);
 }
 
 void ShowCollectorPlates()
 {
-    ShowTopicWithoutPhotos(u"Franklin Mint Collector Plates "_s);
+    ShowTopicWithoutPhotos(u"TP"_s);
 }
 
 void BindTopicMenus()

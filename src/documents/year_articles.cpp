@@ -1,9 +1,8 @@
 #include "documents/article_viewer.h"
 #include "documents/bind_documents.h"
-#include "documents/year_rule.h"
+#include "documents/find_article.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
-#include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 #include "ui/forms/screen.h"
@@ -16,115 +15,64 @@ namespace torvik {
 
 namespace {
 
-constexpr YearRule colorsRule{"ER029", "colors.rtf", "\\RichText\\", "colors.rtf", " Colors"};
-constexpr YearRule optionsRule{"ER026", "OPTS.rtf", "\\richtext\\", "opts.rtf", " Options"};
-constexpr YearRule descriptionRule{"ER002", "desc.rtf", "\\richtext\\", "desc.rtf", " Description"};
-
-/// The colours and the options: one topic has an article of its own, all else goes by the year.
-void ShowArticle(const YearRule& rule, const QString& harwellFile)
+/// The colours and the options.
+void ShowArticle(ArticleButton button)
 {
-    const QString caption = Form1->panYear.Caption();
-    if (caption == nothingChosen)
+    if (Form1->panYear.Caption() == nothingChosen)
         return;
-    state.ErrorCode = QLatin1String(rule.Code);
+    state.ErrorCode = ArticleErrorCode(button);
     OnError(
         [&] {
-            if (caption == classicHarwell) {
-                FindArticle(harwellFile);
-                state.DocumentTitle = u"The Torvik Vollandry       "_s + caption + QLatin1String(rule.Ending);
-            } else {
-                state.DocumentTitle = FindArticleOfYear(rule);
-            }
-            if (state.DocumentFile.isEmpty()) {
+            state.DocumentTitle = FindArticle(button);
+            if (state.DocumentFile.isEmpty())
                 ReportError();
-                return;
-            }
-            CompleteArticlePath(u"\\RichText\\"_s);
-            OpenViewer();
+            else
+                OpenViewer();
         },
         ReportError);
 }
 
-struct TopicDescription {
-    const char* Caption;
-    const char* File;
-    const char* Title;
-};
-
-constexpr TopicDescription topicDescriptions[] = {
-    {"Torvik Postage Stamps ", "\\richtext\\stamps.rtf", "The Torvik Vollandry       Torvik Postage Stamps "},
-    {"Torvik Calendars ", "\\richtext\\carstuff.rtf", "The Torvik Vollandry       Torvik Calendars "},
-    {"Franklin Mint Collector Knives ", "\\richtext\\knives.rtf",
-     "The Torvik Vollandry       Franklin Mint Collector Knives "},
-    {"Franklin Mint Collector Plates ", "\\richtext\\plates.rtf",
-     "The Torvik Vollandry       Franklin Mint Collector Plates "},
-    {"Franklin Mint Die Cast Models ", "\\richtext\\franklin.rtf",
-     "The Torvik Vollandry       Franklin Mint Die Cast Models "},
-    {"Danbury Mint Die Cast Models ", "\\richtext\\danbury.rtf",
-     "The Torvik Vollandry       Danbury Mint Die Cast Models "},
-    {"The Torvik Monopoly Game ", "\\richtext\\monopoly.rtf",
-     "The Torvik Vollandry       The Torvik Monopoly Game "},
-    {"Torvik Metal Signs ", "\\richtext\\desperat.rtf", "The Torvik Vollandry       Torvik Metal Signs "},
-    {"Early Torvik Prototypes ", "\\richtext\\ptdesc.rtf",
-     "The Torvik Vollandry       Early Torvik Prototypes Description "},
-};
-
-const TopicDescription* DescriptionOf(const QString& caption)
+/// The titles of the introduction and of this century's years wait for the viewer's Load; the others are
+/// written on the window at once, which loads it before the file is known to exist.
+bool WaitsForLoad(const QString& title)
 {
-    for (const TopicDescription& topic : topicDescriptions) {
-        if (caption == QLatin1String(topic.Caption))
-            return &topic;
-    }
-    return nullptr;
+    return title == nothingChosen || Left(title, 2) == u"20"_s;
 }
 
-/// Looks the description up. The titles of the introduction and of this century's years wait for the viewer's
-/// Load; the others are written on the window at once, which loads it before the file is known to exist.
-void FindDescription()
+void ShowDescription()
 {
-    const QString caption = Form1->panYear.Caption();
-    if (caption == nothingChosen) {
-        FindArticle(u"\\richtext\\Introduction.rtf"_s);
-        state.DocumentTitle = u"The Torvik Vollandry       Introduction"_s;
-    } else if (const TopicDescription* topic = DescriptionOf(caption)) {
-        FindArticle(QLatin1String(topic->File));
-        txtForm->SetCaption(QLatin1String(topic->Title));
-    } else if (Left(caption, 2) == u"20"_s) {
-        state.DocumentTitle = FindArticleOfYear(descriptionRule);
-    } else {
-        const QString title = FindArticleOfYear(descriptionRule); // may fail before the viewer is touched
-        txtForm->SetCaption(title);
+    const QString windowTitle =
+        FindArticle(ArticleButton::Description); // may fail before the viewer is touched
+    if (WaitsForLoad(Form1->panYear.Caption()))
+        state.DocumentTitle = windowTitle;
+    else
+        txtForm->SetCaption(windowTitle);
+    if (state.DocumentFile.isEmpty()) {
+        ReportError();
+        return;
     }
+    txtForm->SSCommand2.Hide();
+    txtForm->SSCommand3.Hide();
+    WidenOkButton();
+    txtForm->rtbText.SetFileName(state.DocumentFile);
+    txtForm->ShowModal();
 }
 
 void cmdDesc_Click()
 {
-    state.ErrorCode = QLatin1String(descriptionRule.Code);
-    OnError(
-        [] {
-            FindDescription();
-            if (state.DocumentFile.isEmpty()) {
-                ReportError();
-                return;
-            }
-            CompleteArticlePath(u"\\richtext\\"_s);
-            txtForm->SSCommand2.Hide();
-            txtForm->SSCommand3.Hide();
-            WidenOkButton();
-            txtForm->rtbText.SetFileName(state.DocumentFile);
-            txtForm->ShowModal();
-        },
-        ReportError);
+    state.ErrorCode = ArticleErrorCode(ArticleButton::Description);
+    OnError(ShowDescription, ReportError);
 }
 
 void ShowNostalgia()
 {
-    const QString caption = Form1->panYear.Caption();
-    if (caption == nothingChosen)
+    const QString title = Form1->panYear.Caption();
+    if (title == nothingChosen)
         return;
-    state.YearCode = Mid(caption, 3, 2);
-    state.DocumentFile = state.DiscRoot + u"\\richtext\\nostalgia"_s + state.YearCode + u".rtf"_s;
-    txtForm->SetCaption(u"The Torvik Vollandry     Nostalgia "_s + Left(caption, 4));
+    const Article article = NostalgiaOf(title);
+    state.YearCode = Mid(title, 3, 2);
+    state.DocumentFile = state.DiscRoot + article.File;
+    txtForm->SetCaption(article.WindowTitle);
     txtForm->rtbText.SetFileName(state.DocumentFile);
     txtForm->ZOrder();
     PutWaveButtonsAway();
@@ -147,8 +95,8 @@ void BindYearArticles()
 {
     Form1.Bind([](Form1Controls& form) {
         form.cmdDesc.Click = cmdDesc_Click;
-        form.cmdColors.Click = [] { ShowArticle(colorsRule, u"\\RichText\\sbcolors.rtf"_s); };
-        form.cmdOptions.Click = [] { ShowArticle(optionsRule, u"\\RichText\\sbopts.rtf"_s); };
+        form.cmdColors.Click = [] { ShowArticle(ArticleButton::Colors); };
+        form.cmdOptions.Click = [] { ShowArticle(ArticleButton::Options); };
         form.cmdNostalgia.Click = cmdNostalgia_Click;
     });
 }

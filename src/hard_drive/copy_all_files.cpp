@@ -22,15 +22,14 @@ namespace torvik {
 
 namespace {
 
-QString NameOfPhoto(int index)
+QString PhotoOfList(int index)
 {
     const QString& path = state.PhotoFiles(index);
-    constexpr int behindFolder = 8; // from the position of "\Torviks\" to its closing backslash
-    const int position = InStr(path, torviksFolder) + behindFolder;
-    return Right(path, static_cast<int>(path.size()) - position);
+    const int closingBackslash = InStr(path, torviksFolder) + static_cast<int>(torviksFolder.size()) - 1;
+    return Right(path, static_cast<int>(path.size()) - closingBackslash);
 }
 
-QString NameOfMovie(int index)
+QString MovieOfList(int index)
 {
     return state.MovieFiles(index);
 }
@@ -97,7 +96,7 @@ void CopyAllPhotos()
     BeginCopying();
     state.PhotoRoot = state.DiscRoot;
     BuildPhotoSet();
-    CopyFilesOfList(NameOfPhoto, state.PhotoCount);
+    CopyFilesOfList(PhotoOfList, state.PhotoCount);
     EndCopying();
 }
 
@@ -105,7 +104,7 @@ void CopyAllMovies()
 {
     BeginCopying();
     BuildMovieList();
-    CopyFilesOfList(NameOfMovie, state.MovieCount);
+    CopyFilesOfList(MovieOfList, state.MovieCount);
     EndCopying();
 }
 

@@ -1,6 +1,7 @@
 #include "hard_drive/movie_list.h"
 
 #include "platform/files/files.h"
+#include "program/catalogue/movies_and_sounds.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"
@@ -26,7 +27,7 @@ void BuildMovieList()
     state.MovieFiles.Resize(0);
     state.MovieFiles.Resize(1);
     QStringList names;
-    Reporting([&] { names = FilesMatching(state.DiscRoot + u"\\movies\\*.avi"_s); });
+    Reporting([&] { names = FilesMatching(state.DiscRoot + movieFolder + u"*.avi"_s); });
     state.MovieFiles(1) = names.value(0).toUpper();
 
     for (qsizetype next = 1; !state.MovieFiles(state.MovieListIndex).isEmpty(); ++next) {

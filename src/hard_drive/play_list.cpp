@@ -63,7 +63,7 @@ void SSCommand2_Click()
     if (state.MessageResult != msgbox::answerYes)
         return;
     frmSSPhoto->SetMousePointer(MousePointer::Hourglass);
-    ResumeNext([] { DeleteFilesMatching(ProgramFolder() + u"\\ssTorviks\\*.jpg"_s); });
+    ResumeNext([] { DeleteFilesMatching(ProgramFolder() + playListFolder + u"*.jpg"_s); });
     frmSSPhoto->SetMousePointer(MousePointer::Default);
     state.MessageText = u"All Photos Successfully Removed!\r\n"
                         "\r\n"

@@ -1,9 +1,11 @@
 #include "hard_drive/bind_hard_drive.h"
 #include "platform/files/file_changes.h"
 #include "platform/paths/program_folder.h"
+#include "program/catalogue/movies_and_sounds.h"
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "ui/forms/message_box.h"
+#include "ui/forms/program_end.h"
 #include "windows/main_window.h"
 
 using namespace Qt::StringLiterals;
@@ -48,7 +50,8 @@ void mnuRemove_Click()
                         "You must also re-install the Torvik Vollandry Screen Saver \r\n"
                         "if you have previously installed it."_s;
     MsgBox(state.MessageText);
-    Form1.Unload();
+    ResumeNext([] { Form1.Unload(); });
+    EndProgram(); // also where the window's place could not be saved
 }
 
 void mnuRemoveMovies_Click()
@@ -56,7 +59,7 @@ void mnuRemoveMovies_Click()
     if (!AskToRemove(u"movies"_s))
         return;
     Form1->SetMousePointer(MousePointer::Hourglass);
-    RemoveCopies(u"\\movies\\"_s, u"*.avi"_s);
+    RemoveCopies(movieFolder, u"*.avi"_s);
     state.MessageText = u"All movies successfully removed!"_s;
     MsgBox(state.MessageText);
     Form1->SetMousePointer(MousePointer::Default);

@@ -1,13 +1,14 @@
 #include "documents/article_viewer.h"
 #include "hard_drive/bind_hard_drive.h"
 #include "hard_drive/copy_photos_and_movies.h"
-#include "hard_drive/panel_over_year_bar.h"
 #include "hard_drive/windows_folder_name.h"
 #include "platform/files/file_changes.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
 #include "platform/system/saver_agreement.h"
 #include "platform/system/settings_store.h"
+#include "program/catalogue/articles.h"
+#include "program/panel_over_year_bar.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "program/slide_delay_steps.h"
@@ -25,7 +26,6 @@ namespace {
 
 constexpr int selectedPhotos = 1;
 
-const QString playListFolder = u"\\ssTorviks\\"_s;
 const QString anyPhoto = u"*.jpg"_s;
 
 const QString copyQuestion = u"To improve performance, the Torvik photos may be copied from\r\n"
@@ -77,18 +77,6 @@ void mnuSaver_Click()
 void ShowDelay()
 {
     Form1->panInterval.SetCaption(DelayInSeconds(state.SlideDelay) + u" Seconds"_s);
-}
-
-void SpinInterval_SpinUp()
-{
-    state.SlideDelay = StepDelayUp(state.SlideDelay);
-    ShowDelay();
-}
-
-void SpinInterval_SpinDown()
-{
-    state.SlideDelay = StepDelayDown(state.SlideDelay);
-    ShowDelay();
 }
 
 /// The user works the copy panel meanwhile. A copy that does not come about is waited for without an end.
@@ -158,7 +146,7 @@ void ShowHelp()
 void SSCommand5_Click()
 {
     state.ErrorCode = u"ER052"_s;
-    state.DocumentTitle = u"The Torvik Vollandry       Install Screen Saver Help"_s;
+    state.DocumentTitle = QLatin1String(wideTitle) + u"Install Screen Saver Help"_s;
     OnError(ShowHelp, ReportError);
 }
 
@@ -168,8 +156,7 @@ void BindSaverPanelButtons()
 {
     Form1.Bind([](Form1Controls& form) {
         form.mnuSaver.Click = mnuSaver_Click;
-        form.SpinInterval.SpinUp = SpinInterval_SpinUp;
-        form.SpinInterval.SpinDown = SpinInterval_SpinDown;
+        BindDelaySteps(form.SpinInterval, ShowDelay);
         form.SSCommand4.Click = SSCommand4_Click;
         form.SSCommand5.Click = SSCommand5_Click;
         form.SSCommand6.Click = [] { Form1->pnlSSaver.Hide(); };

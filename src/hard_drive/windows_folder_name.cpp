@@ -1,5 +1,6 @@
 #include "hard_drive/windows_folder_name.h"
 
+#include "platform/paths/host_name.h"
 #include "platform/paths/program_folder.h"
 #include "runtime/text.h"
 
@@ -9,23 +10,28 @@ namespace torvik {
 
 namespace {
 
-/// The platform's way of giving a text: into a buffer, with a zero character behind it. A text that does not
+/// The system's way of giving a text: into a buffer, with a zero character behind it. A text that does not
 /// fit leaves the buffer as it is.
-void GetWindowsDirectory(QString& buffer)
+void PutInto(QString& buffer, const QString& answer)
 {
-    const QString answer = WindowsFolder() + QChar(u'\0');
-    if (answer.size() <= buffer.size())
-        buffer.replace(0, answer.size(), answer);
+    const QString text = answer + QChar(u'\0');
+    if (text.size() <= buffer.size())
+        buffer.replace(0, text.size(), text);
 }
 
 } // namespace
 
-QString WindowsFolderName()
+QString CutOutOfBuffer(const QString& answer)
 {
     constexpr int bufferSize = 255;
     QString buffer(bufferSize, u' ');
-    GetWindowsDirectory(buffer);
+    PutInto(buffer, answer);
     return Left(buffer, InStr(buffer, u" "_s) - 2);
+}
+
+QString WindowsFolderName()
+{
+    return CutOutOfBuffer(WindowsFolder().replace(u' ', standInBlank));
 }
 
 } // namespace torvik

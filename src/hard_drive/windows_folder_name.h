@@ -4,9 +4,13 @@
 
 namespace torvik {
 
-/// The Windows folder, as the program has always cut it out of the platform's answer: up to two characters
-/// before the first blank. A folder whose own name has a blank is cut short there. Failure 5 for a folder of
-/// 254 characters or more, which leaves no blank behind.
+/// The Windows folder, cut out of the system's answer as it always was. Each blank of it is written as the
+/// character that stands for one in paths, so that a folder with blanks is not cut short. Failure 5 for a
+/// folder of 254 characters or more, which leaves no blank behind it in the buffer.
 QString WindowsFolderName();
+
+/// A text that the system has put into a buffer of 255 blanks, cut out of it again: up to two characters
+/// before the first blank. Failure 5 where that is no length.
+QString CutOutOfBuffer(const QString& answer);
 
 } // namespace torvik

@@ -2,6 +2,7 @@
 #include "media/video_driver_offer.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
+#include "program/catalogue/movies_and_sounds.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
@@ -9,8 +10,6 @@
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 #include "windows/movie_window.h"
-
-#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -20,29 +19,12 @@ namespace {
 
 constexpr double pictureHeight = 3255; // twips
 
-struct Movie {
-    const char* File;
-    const char* Title;
-};
-
-/// By the index of optMovie. The sixth option has no movie, and there are no options for the last two.
-constexpr Movie movies[] = {
-    {"Torvik67.avi", "Torvik Movies - The 1967 Torvik"},
-    {"Torvik69.avi", "Torvik Movies - The 1969 Torvik"},
-    {"TheSuperGlider.avi", "Torvik Movies - The Super Glider"},
-    {"Q44.avi", "Torvik Movies - Q44"},
-    {"RocknRoll.avi", "Torvik Movies - Rock and Roll"},
-    {"", "Torvik Movies - xxxx"},
-    {"", "Torvik Movies - 1968 Commercial"},
-    {"", "Torvik Movies - 1967 Commercial"},
-};
-
 void mnuMovies_Click()
 {
-    const QString copied = ProgramFolder() + u"\\movies\\"_s;
+    const QString copied = ProgramFolder() + movieFolder;
     QString found;
     const int error = ResumeNext([&] { found = FindFile(copied + u"*.avi"_s); });
-    state.MovieFolder = found.isEmpty() || error != 0 ? state.DiscRoot + u"\\movies\\"_s : copied;
+    state.MovieFolder = found.isEmpty() || error != 0 ? state.DiscRoot + movieFolder : copied;
     frmMovie->ShowModal();
 }
 
@@ -74,9 +56,10 @@ void ChooseMovie(int index)
     Screen.SetMousePointer(MousePointer::Hourglass);
     QString path = state.MovieFolder;
     frmMovie->PicMovie.Show();
-    if (index < static_cast<int>(std::size(movies))) {
-        path += QString::fromLatin1(movies[index].File);
-        frmMovie->SetCaption(QString::fromLatin1(movies[index].Title));
+    if (index < movieCountOfPlayer) {
+        const Movie movie = MovieOf(index);
+        path += movie.File;
+        frmMovie->SetCaption(movie.WindowTitle);
     }
     FindFile(path);
     if (state.YearCode.isEmpty())

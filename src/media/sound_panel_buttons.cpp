@@ -1,5 +1,7 @@
 #include "media/bind_media.h"
 #include "platform/files/files.h"
+#include "program/catalogue/movies_and_sounds.h"
+#include "program/panel_over_year_bar.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"
@@ -12,23 +14,11 @@ namespace torvik {
 
 namespace {
 
-constexpr double twipsToPixels = 15;
-
-/// By the index of SSCommand2. Some labels have always had the sound of another car.
-constexpr const char* soundFiles[soundCount] = {
-    "backfrng.wav", "car_door.wav", "carhorns.wav", "horns.wav",     "cop-car.wav",   "taxi.wav",
-    "sportcar.wav", "18wheelr.wav", "peel-out.wav", "Track2.wav",    "nascar.wav",    "racecar.wav",
-    "indy-car.wav", "mcycle.wav",   "batmoble.wav", "62sellark.wav", "63sellark.wav", "selstart.wav",
-    "passby.wav",   "selcar.wav",   "qr7start.wav", "motorcyc2.wav", "hot_rod.wav",   "red_lght.wav",
-    "porche.wav",   "stealth.wav",  "stuck.wav",    "revnrun.wav",   "goingby.wav"};
-
-/// Puts the panel over the middle of the year bar, whose measures are twips.
 void mnuSound_Click()
 {
     Form1Controls& form = *Form1;
     form.pnlSound.SetTop(form.Image4.Top());
-    form.pnlSound.SetLeft(
-        ((form.cmdExit.Left() + form.cmdExit.Width()) / twipsToPixels - form.pnlSound.Width()) / 2);
+    CentreOverYearBar(form.pnlSound);
     form.pnlSound.ZOrder();
     form.pnlSound.Show();
     form.SSCommand1.SetFocus();
@@ -43,9 +33,7 @@ void ReportSound()
 /// The code of the year holds the look-up, and keeps it: the next choice of a year sets it again.
 void PlaySound(int index)
 {
-    state.SoundFile = state.DiscRoot + u"\\wav\\"_s;
-    if (index < soundCount)
-        state.SoundFile += QString::fromLatin1(soundFiles[index]);
+    state.SoundFile = state.DiscRoot + SoundOf(index);
     state.YearCode = QString::number(state.SoundFile.size());
     const QString wanted = Left(state.SoundFile, static_cast<int>(ToNumber(state.YearCode)));
     state.YearCode.clear(); // stays so when the disc is gone and cannot be asked

@@ -2,6 +2,7 @@
 
 #include "printing/rich_text_printing.h"
 #include "program/box_title.h"
+#include "program/catalogue/pictures.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"
@@ -29,19 +30,6 @@ constexpr int description = 3;
 constexpr int details = 4;
 constexpr int lastByYear = 7;
 } // namespace box
-
-struct CoverPicture {
-    const char* File; ///< under the disc's root
-    double X;         ///< twips, like Y
-    double Y;
-};
-
-constexpr CoverPicture coverPictures[] = {
-    {"\\graphics\\logo.jpg", 1600, 1600},
-    {"\\clipart\\97clip.jpg", 2600, 4300},
-    {"\\graphics\\bklettxt.jpg", 500, 8800},
-    {"\\graphics\\quillon3.bmp", 2800, 12000},
-};
 
 bool IsTicked(int index)
 {
@@ -75,7 +63,7 @@ QString YearPrefix(int number)
 /// The job stays open: the first document behind the cover continues it.
 void PrintCover()
 {
-    for (const CoverPicture& picture : coverPictures) {
+    for (const CoverPicture& picture : CoverPictures()) {
         Form1->Picture3.Load(state.DiscRoot + QString::fromLatin1(picture.File));
         Printer.PaintPicture(Form1->Picture3.Picture(), picture.X, picture.Y);
     }

@@ -1,7 +1,7 @@
 #include "printing/bind_printing.h"
 #include "printing/booklet.h"
+#include "program/panel_over_year_bar.h"
 #include "program/program_state.h"
-#include "ui/forms/units.h"
 #include "windows/main_window.h"
 
 using namespace Qt::StringLiterals;
@@ -34,8 +34,7 @@ void mnuPrnt_Click()
 {
     Form1Controls& form = *Form1;
     form.pnlPrint.SetTop(form.Image4.Top() + 5);
-    form.pnlPrint.SetLeft(
-        ((form.cmdExit.Width() + form.cmdExit.Left()) / twipsPerPixel - form.pnlPrint.Width()) / 2);
+    CentreOverYearBar(form.pnlPrint);
     form.pnlPrint.ZOrder();
     ResetPanel();
     form.pnlPrint.Show();

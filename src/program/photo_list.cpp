@@ -7,6 +7,7 @@
 #include "runtime/text.h"
 
 #include <algorithm>
+#include <new>
 
 using namespace Qt::StringLiterals;
 
@@ -14,10 +15,19 @@ namespace torvik {
 
 namespace {
 
+/// A statement of the build: whatever fails, and lack of memory too, is asked about and tried again.
 template <typename Statement>
 void Retrying(Statement&& statement)
 {
-    RetryOnError(std::forward<Statement>(statement), ReportError);
+    RetryOnError(
+        [&] {
+            try {
+                statement();
+            } catch (const std::bad_alloc&) {
+                Fail(failure::outOfMemory);
+            }
+        },
+        ReportError);
 }
 
 void Resize(int count)
@@ -35,8 +45,11 @@ bool ListNames(const QString& folder)
     Resize(1);
     QStringList names;
     Retrying([&] { names = FilesMatching(folder + u"*.jpg"_s); });
-    state.PhotoFiles(1) = names.isEmpty() ? QString() : names.first().toUpper();
-    state.PhotoNumbers(1) = u"1"_s;
+    const auto store = [&](qsizetype next) {
+        Retrying([&] { state.PhotoFiles(state.PhotoIndex) = names.value(next).toUpper(); });
+    };
+    store(0);
+    Retrying([] { state.PhotoNumbers(1) = u"1"_s; });
     if (names.isEmpty())
         return false;
 
@@ -44,9 +57,9 @@ bool ListNames(const QString& folder)
         Retrying([] { state.PhotoIndex += 1; });
         if (state.PhotoIndex > state.PhotoFiles.Count())
             Resize(static_cast<int>(std::min<qsizetype>(names.size() + 1, INT16_MAX)));
-        state.PhotoFiles(state.PhotoIndex) = next < names.size() ? names[next].toUpper() : QString();
+        store(next);
         if (next < names.size())
-            state.PreviousPrefix = Left(state.PhotoFiles(state.PhotoIndex), 2);
+            Retrying([] { state.PreviousPrefix = Left(state.PhotoFiles(state.PhotoIndex), 2); });
     }
     state.PhotoCount = state.PhotoIndex - 1;
     Resize(state.PhotoIndex);
@@ -64,11 +77,12 @@ void NumberPhotos(const QString& folder)
     int number = 0;
     for (int index = 1; index <= state.PhotoCount; ++index) {
         QString& name = state.PhotoFiles(index);
-        const QString prefix = Left(name, 2);
+        QString prefix;
+        Retrying([&] { prefix = Left(name, 2); });
         number = prefix != state.PreviousPrefix ? 1 : number + 1;
         state.PreviousPrefix = prefix;
-        state.PhotoNumbers(index) = QString::number(number);
-        name = folder + name;
+        Retrying([&] { state.PhotoNumbers(index) = QString::number(number); });
+        Retrying([&] { name = folder + name; });
     }
     state.LoopIndex = state.PhotoCount + 1;
 }

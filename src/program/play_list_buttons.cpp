@@ -2,8 +2,8 @@
 
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
+#include "program/photo_name.h"
 #include "program/program_state.h"
-#include "runtime/text.h"
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
@@ -13,12 +13,11 @@ namespace torvik {
 
 QString PlayListEntry()
 {
-    const QString folder = ProgramFolder() + u"\\ssTorviks\\"_s;
+    const QString folder = ProgramFolder() + playListFolder;
     if (Form1->panYear.Caption() == nothingChosen)
         return folder + u"ClassicTorviks.jpg"_s;
-    state.TorviksPathPos = InStr(state.CurrentPhotoFile, torviksFolder);
-    return folder +
-           Mid(state.CurrentPhotoFile, state.TorviksPathPos + static_cast<int>(torviksFolder.size()));
+    TakePathPosition(state.CurrentPhotoFile);
+    return folder + NameOfPhoto(state.CurrentPhotoFile);
 }
 
 void UpdatePlayListButtons()

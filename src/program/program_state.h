@@ -25,6 +25,7 @@ struct HelpWindowRecord {
 
 /// The one record of program-wide variables. Handlers pass their arguments through it; nothing in it outlives
 /// the program. Positions and indices count from 1.
+// NOLINTBEGIN(readability-identifier-naming): its fields keep the names that they have always had.
 struct ProgramState {
     // Where the content is
     QString DiscRoot;     ///< "E:", the drive on which the disc was found
@@ -42,6 +43,7 @@ struct ProgramState {
     QString SoundFile;
     QString DocumentFile;
     QString DocumentTitle; ///< title for the document viewer, read when it loads
+    QString TextToFind;    ///< what the next document on show is searched for; mostly nothing
 
     // The main window
     bool FirstActivation = false;
@@ -70,6 +72,7 @@ struct ProgramState {
     bool SlidePlayPressed = false;
     bool SlideShowOpen = false;
     bool SlideRestorePending = false; ///< the main window rebuilds itself when it is active again
+    QString MissingClipArt;           ///< what the rebuilding at the end of a show has already told
 
     // Movies
     QString MovieFolder; ///< with a closing backslash
@@ -94,10 +97,14 @@ struct ProgramState {
     std::int32_t HelpWindowHandle = 0;
     HelpWindowRecord HelpWindowInfo;
 };
+// NOLINTEND(readability-identifier-naming)
 
 inline ProgramState state;
 
 /// A photo's path holds this in front of the file's name.
 inline const QString torviksFolder = u"\\Torviks\\"_s;
+
+/// The saver's play list, in the program folder.
+inline const QString playListFolder = u"\\ssTorviks\\"_s;
 
 } // namespace torvik

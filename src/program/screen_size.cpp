@@ -19,7 +19,8 @@ double CheckedTwips(std::int32_t pixels)
 
 bool IsScreenSize(std::int32_t width, std::int32_t height)
 {
-    return Screen.Width() == CheckedTwips(width) && Screen.Height() == CheckedTwips(height);
+    return Screen.Width() == CheckedTwips(width) && Screen.Height() == CheckedTwips(height) &&
+           !Screen.IsScaledByDesktop();
 }
 
 } // namespace torvik

@@ -1,6 +1,8 @@
 #include "program/slide_delay_steps.h"
 
+#include "program/program_state.h"
 #include "runtime/text.h"
+#include "ui/controls/spin_button.h"
 
 namespace torvik {
 
@@ -41,6 +43,18 @@ std::int32_t StepDelayDown(std::int32_t delay)
     default:
         return delay - largeStep;
     }
+}
+
+void BindDelaySteps(SpinButton& spin, void (*show)())
+{
+    const auto stepping = [show](std::int32_t (*step)(std::int32_t delay)) {
+        return [show, step] {
+            state.SlideDelay = step(state.SlideDelay);
+            show();
+        };
+    };
+    spin.SpinUp = stepping(StepDelayUp);
+    spin.SpinDown = stepping(StepDelayDown);
 }
 
 QString DelayInSeconds(std::int32_t delay)

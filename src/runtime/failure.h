@@ -8,36 +8,40 @@
 namespace torvik {
 
 /// A failure of the run time: a file that is not there, an overflow, a picture that is none.
-/// It carries the number by which the platform has always known it; the text follows from the number.
+/// It carries the number by which the run-time has always known it; the text follows from the number.
 class RunTimeError : public std::exception {
 public:
-    explicit RunTimeError(int number) : number_(number) {}
+    explicit RunTimeError(int number, const QString& hint = {}) : number_(number), hint_(hint) {}
 
     int Number() const { return number_; }
-    /// The platform's own text for the number, "File not found" for 53.
+    /// The run-time's own text for the number, "File not found" for 53.
     QString Text() const;
+    /// What a person can do about it, for the box that tells of a failure without a trap; mostly empty.
+    const QString& Hint() const { return hint_; }
     const char* what() const noexcept override { return "run-time error"; }
 
 private:
     int number_;
+    QString hint_;
 };
 
-/// The numbers that this program meets.
+/// The numbers that this program raises; failure.cpp has their texts.
 namespace failure {
 inline constexpr int invalidCall = 5;         ///< Invalid procedure call or argument
 inline constexpr int overflow = 6;            ///< Overflow
 inline constexpr int outOfMemory = 7;         ///< Out of memory
 inline constexpr int subscript = 9;           ///< Subscript out of range
 inline constexpr int typeMismatch = 13;       ///< Type mismatch
+inline constexpr int internalError = 51;      ///< Internal error
 inline constexpr int badFileName = 52;        ///< Bad file name or number
 inline constexpr int fileNotFound = 53;       ///< File not found
 inline constexpr int deviceIo = 57;           ///< Device I/O error
 inline constexpr int fileExists = 58;         ///< File already exists
 inline constexpr int diskFull = 61;           ///< Disk full
-inline constexpr int deviceUnavailable = 68;  ///< Device unavailable
 inline constexpr int inputPastEnd = 62;       ///< Input past end of file
+inline constexpr int tooManyFiles = 67;       ///< Too many files
+inline constexpr int deviceUnavailable = 68;  ///< Device unavailable
 inline constexpr int permissionDenied = 70;   ///< Permission denied
-inline constexpr int diskNotReady = 71;       ///< Disk not ready
 inline constexpr int pathFileAccess = 75;     ///< Path/File access error
 inline constexpr int pathNotFound = 76;       ///< Path not found
 inline constexpr int invalidFileFormat = 321; ///< Invalid file format
@@ -50,10 +54,11 @@ inline constexpr int invalidPicture = 481;    ///< Invalid picture
 inline constexpr int printerError = 482;      ///< Printer error
 } // namespace failure
 
-/// Throws RunTimeError(number).
-[[noreturn]] void Fail(int number);
+/// Throws RunTimeError(number, hint).
+[[noreturn]] void Fail(int number, const QString& hint = {});
 
-/// The platform's text for a number; "Application-defined or object-defined error" for one it does not know.
+/// The run-time's text for a number; "Application-defined or object-defined error" for one that is not among
+/// these.
 QString RunTimeErrorText(int number);
 
 /// The number of the failure that is being handled at this moment; 0 while none is.

@@ -1,6 +1,7 @@
 #include "saver/arguments.h"
 
 #include "platform/paths/drive_option.h"
+#include "ui/scale.h"
 
 #include <QRegularExpression>
 
@@ -67,6 +68,8 @@ private:
             TakeDrive(ValueOf(text, *argument));
         else if (name == u"program-folder"_s)
             read_.ProgramFolder = ValueOf(text, *argument);
+        else if (name == u"scale"_s)
+            TakeScale(ValueOf(text, *argument));
         else if (name == u"help"_s || name == u"h"_s || name == u"?"_s)
             read_.Help = true;
         else if (name == u"version"_s || name == u"v"_s)
@@ -112,6 +115,13 @@ private:
             read_.Problem = DriveOptionProblem(value);
     }
 
+    void TakeScale(const QString& value)
+    {
+        read_.Scale = value;
+        if (read_.Problem.isEmpty() && !IsScale(value))
+            read_.Problem = ScaleProblem(value);
+    }
+
     QString ValueOf(const QString& option, const Argument& argument)
     {
         if (argument.Value)
@@ -154,8 +164,10 @@ QString SaverHelpText()
            "$XSCREENSAVER_WINDOW,\n"
            "                            without one behind all windows of the desktop\n"
            "  -window-id WINDOW         the same as /p\n"
-           "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
-           "  --program-folder FOLDER   where the folder \"disc\" lies that stands for drive Z\n"
+           "  --drive LETTER=FOLDER     the folder or disc image stands for a drive; may be given again\n"
+           "  --program-folder FOLDER   where the folder disc or the image disc.iso lies that stands for "
+           "drive Z\n"
+           "  --scale FACTOR            enlarges the title card by 1 to 8; photos fill the screen anyway\n"
            "  -h, --help                shows this text\n"
            "  -v, --version             shows the version\n"_s;
 }

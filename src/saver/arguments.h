@@ -22,6 +22,7 @@ struct SaverArguments {
     quint64 Window = 0;        ///< number of the window to draw into
     QList<DriveOption> Drives; ///< --drive LETTER=FOLDER
     QString ProgramFolder;     ///< --program-folder FOLDER; empty when it was not given
+    QString Scale;             ///< --scale FACTOR, fit or auto; empty when it was not given
     bool Help = false;
     bool Version = false;
     QString Problem; ///< what is wrong with it, in words for the user; empty when nothing is

@@ -1,8 +1,10 @@
 #include "browser/restore_main_window.h"
+#include "browser/select_year.h"
+#include "program/catalogue/topics.h"
 #include "program/help_position.h"
+#include "program/photo_name.h"
 #include "program/play_list_buttons.h"
 #include "program/program_state.h"
-#include "program/title_code.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 #include "slides/bind_slides.h"
@@ -10,9 +12,6 @@
 #include "ui/forms/message_box.h"
 #include "windows/main_window.h"
 #include "windows/slide_window.h"
-
-#include <algorithm>
-#include <initializer_list>
 
 using namespace Qt::StringLiterals;
 
@@ -32,66 +31,48 @@ void CarryPhotoOver()
     state.ShownPhotoIndex = state.PhotoIndex;
 }
 
-void ShowAsTopic()
-{
-    Form1Controls& main = *Form1;
-    main.cmdStats.SetCaption(u"Details"_s);
-    for (Button* button : {&main.cmdOptions, &main.cmdColors, &main.cmdScript, &main.cmdEmblem, &main.cmdAd,
-                           &main.cmdNostalgia})
-        button->SetEnabled(false);
-    main.cmdYR(1).SetFocus();
-}
-
-bool IsOneOf(const QString& title, std::initializer_list<const char*> titles)
-{
-    return std::any_of(titles.begin(), titles.end(),
-                       [&](const char* each) { return title == QLatin1String(each); });
-}
-
-/// The focus goes to the button behind the year's own. A title that has no digits where a year has them is
+/// The focus goes to the button after the year's own. A title that has no digits where a year has them is
 /// failure 13, Type mismatch.
-void FocusYearBehind()
+void FocusYearAfter()
 {
-    const int year = static_cast<int>(RoundHalfEven(ToNumber(state.YearCode)));
-    Form1->cmdYR(year - 65).SetFocus();
-    state.CurrentYearButton = year - 66;
+    constexpr int yearBeforeTheFirst = 66;
+    const int button = static_cast<int>(RoundHalfEven(ToNumber(state.YearCode))) - yearBeforeTheFirst;
+    Form1->cmdYR(button + 1).SetFocus();
+    state.CurrentYearButton = button;
 }
 
-void FitButtonsToTitle()
+/// RestoreMainWindow has given the buttons the states of the title before. The button of 2001 never gets the
+/// focus as the one after the year's own; it has always been so.
+void FitFocusToTitle()
 {
-    Form1Controls& main = *Form1;
-    const QString title = main.panYear.Caption();
-    if (IsOneOf(title, {"Torvik Postage Stamps ", "Torvik Metal Signs ", "Torvik Kestra I ",
-                        "Early Torvik Prototypes ", "Torvik Cookies ", "The Torvik Monopoly Game "})) {
-        ShowAsTopic();
-    } else if (IsOneOf(title,
-                       {"Torvik Kestra III ", "Torvik Super Stallion ", "Danbury Mint Die Cast Models ",
-                        "Franklin Mint Die Cast Models ", "Franklin Mint Collector Knives "})) {
-        main.cmdDesc.SetEnabled(true);
-        ShowAsTopic();
-    } else if (title == u"2000"_s) {
-        main.cmdYR(35).SetFocus();
-        state.CurrentYearButton = 34;
-    } else if (IsOneOf(title, {"2001", "The Classic Harwell "})) {
-        main.cmdYR(1).SetFocus();
+    const QString title = Form1->panYear.Caption();
+    const Topic* topic = BrowsedTopicOf(title);
+    if (topic != nullptr && !topic->KeepsYearButtons)
+        FitButtonsToTopic();
+    if (topic != nullptr || title == YearOfButton(yearCount)) {
+        Form1->cmdYR(1).SetFocus();
+    } else if (title == YearOfButton(yearCount - 1)) {
+        Form1->cmdYR(yearCount).SetFocus();
+        state.CurrentYearButton = yearCount - 1;
     } else {
-        FocusYearBehind();
+        FocusYearAfter();
     }
 }
 
 /// The main window comes back with the photo on show here. RestoreMainWindow unloads this form: nothing
-/// behind it may touch it.
+/// after it may touch it.
 void LeaveWithPhoto()
 {
     state.PhotoIndex -= 1;
     CarryPhotoOver();
-    Form1->txtFile.SetText(Mid(state.PhotoFiles(state.PhotoIndex), state.TorviksPathPos + 9));
+    Form1->txtFile.SetText(NameOfPhoto(state.PhotoFiles(state.PhotoIndex)));
     UpdatePlayListButtons();
     RestoreMainWindow();
     Form1->cmdStats.SetCaption(u"Engines"_s);
     state.CurrentYearButton = 0;
-    FitButtonsToTitle();
-    TakeCodeOfTitle();
+    FitFocusToTitle();
+    if (const Topic* topic = TopicOf(Form1->panYear.Caption()))
+        state.YearCode = QString::fromLatin1(topic->Code);
     state.SlideShowOpen = false;
     state.PhotoIndex -= 1;
 }

@@ -1,7 +1,7 @@
 #include "program/keep_on_top.h"
+#include "program/photo_name.h"
 #include "program/program_state.h"
 #include "program/screen_size.h"
-#include "program/topic_catalogue.h"
 #include "runtime/text.h"
 #include "slides/bind_slides.h"
 #include "slides/shown_slide.h"
@@ -29,6 +29,7 @@ void TakePlaceOfForm1()
 /// first photo.
 void ShowOpeningSlide()
 {
+    RefreshPathPosition(); // the photos may lie elsewhere since they were copied
     if (state.ShownPhotoIndex > 0) {
         state.PhotoIndex = state.ShownPhotoIndex;
         LoadSlide();
@@ -47,6 +48,7 @@ void cmdSlide_Click()
     SetFormTopmost(*frmSSPhoto, topmost::off);
     frmSSPhoto.Unload();
     state.SlideShowOpen = true;
+    state.MissingClipArt.clear();
     frmSlide->SpinInterval.SetEnabled(true);
     state.SlideDelay = 1000;
     frmSlide->panInterval.SetCaption(u" 1 second"_s);

@@ -1,8 +1,9 @@
 #include "slides/shown_slide.h"
 
+#include "program/catalogue/topics.h"
+#include "program/photo_name.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
-#include "runtime/text.h"
 #include "windows/slide_window.h"
 
 using namespace Qt::StringLiterals;
@@ -25,9 +26,9 @@ void ReportSlideFailure(const QString& code)
     ReportError();
 }
 
-void RefreshPathPosition()
+void SetSlideCaption()
 {
-    state.TorviksPathPos = InStr(state.PhotoFiles(1), torviksFolder);
+    frmSlide->panYear.SetCaption(TitleOfCode(CodeOfPhoto(state.PhotoFiles(state.PhotoIndex))));
 }
 
 } // namespace torvik

@@ -14,7 +14,7 @@ void ShowSlidePosition();
 /// Reports the failure that is being handled under a code of the slide show.
 void ReportSlideFailure(const QString& code);
 
-/// Finds out where the names begin in the paths of the photos. Failure 9 when there are no photos.
-void RefreshPathPosition();
+/// Puts the title for the photo at `state.PhotoIndex` on panYear. Failure 9 when there is no such index.
+void SetSlideCaption();
 
 } // namespace torvik

@@ -1,12 +1,14 @@
 #include "slides/slide_steps.h"
 
+#include "program/photo_name.h"
 #include "program/program_state.h"
-#include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
 #include "slides/bind_slides.h"
 #include "slides/shown_slide.h"
 #include "windows/slide_window.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +17,15 @@ namespace torvik {
 namespace {
 
 constexpr int jump = 10; // photos
+
+/// A show of a title without photos stands on the empty element after the last photo. It stays there, where
+/// every other button leads back to the photos.
+int IndexAfter(int index)
+{
+    if (index == state.PhotoCount)
+        return 1;
+    return std::min(index + 1, state.PhotoCount + 1);
+}
 
 void ShowSlideWithCaption()
 {
@@ -78,8 +89,8 @@ void SSCommand2_Click()
     frmSlide->pnlPhotoNumber.Show();
     LoadSlide();
     const QString& photo = state.PhotoFiles(state.PhotoIndex);
-    state.TorviksPathPos = InStr(photo, torviksFolder);
-    frmSlide->panYear.SetCaption(u"19"_s + Mid(photo, state.TorviksPathPos + 9, 2));
+    TakePathPosition(photo);
+    frmSlide->panYear.SetCaption(u"19"_s + CodeOfPhoto(photo));
     frmSlide->SSCommand1.SetFocus();
 }
 
@@ -97,7 +108,7 @@ void SlideStepForward()
 {
     frmSlide->pnlPhotoNumber.Show();
     state.SlideRestorePending = false;
-    state.PhotoIndex = state.PhotoIndex == state.PhotoCount ? 1 : state.PhotoIndex + 1;
+    state.PhotoIndex = IndexAfter(state.PhotoIndex);
     ShowSlidePosition();
     OnError(
         [] {

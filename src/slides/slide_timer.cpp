@@ -1,6 +1,6 @@
+#include "program/photo_name.h"
 #include "program/program_state.h"
 #include "program/slide_delay_steps.h"
-#include "program/topic_catalogue.h"
 #include "runtime/failure.h"
 #include "slides/bind_slides.h"
 #include "slides/shown_slide.h"
@@ -76,18 +76,6 @@ void ShowDelay()
     frmSlide->SSCommand1.SetFocus();
 }
 
-void SpinInterval_SpinUp()
-{
-    state.SlideDelay = StepDelayUp(state.SlideDelay);
-    ShowDelay();
-}
-
-void SpinInterval_SpinDown()
-{
-    state.SlideDelay = StepDelayDown(state.SlideDelay);
-    ShowDelay();
-}
-
 } // namespace
 
 void BindSlideTimer()
@@ -96,8 +84,7 @@ void BindSlideTimer()
         form.mmSlide.ButtonClick(MediaButton::Play) = mmSlide_PlayClick;
         form.mmSlide.ButtonClick(MediaButton::Pause) = mmSlide_PauseClick;
         form.Timer1.Tick = Timer1_Tick;
-        form.SpinInterval.SpinUp = SpinInterval_SpinUp;
-        form.SpinInterval.SpinDown = SpinInterval_SpinDown;
+        BindDelaySteps(form.SpinInterval, ShowDelay);
     });
 }
 

@@ -1,6 +1,9 @@
 #include "start/command_line.h"
 
 #include "platform/paths/drive_option.h"
+#include "ui/scale.h"
+
+#include <QCommandLineParser>
 
 using namespace Qt::StringLiterals;
 
@@ -8,75 +11,90 @@ namespace torvik {
 
 namespace {
 
+/// The one list of options. A new one is a member here, its row in `All`, and a field of CommandLine.
+struct Options {
+    const QCommandLineOption Drive{u"drive"_s,
+                                   u"The folder or disc image stands for a drive, D to Z. May be repeated."_s,
+                                   u"LETTER=FOLDER"_s};
+    const QCommandLineOption ProgramFolder{
+        u"program-folder"_s, u"The folder of copied photos, start-up sound and help file."_s, u"FOLDER"_s};
+    const QCommandLineOption PrintTo{
+        u"print-to"_s, u"Writes each print job there as a file: job-1.pdf, job-2.pdf, ..."_s, u"FOLDER"_s};
+    const QCommandLineOption Scale{
+        u"scale"_s,
+        u"Enlarges everything by 1 to 8, such as 1.5; \"fit\" is as large as the screen allows. "
+        "Remembered until \"auto\" is given."_s,
+        u"FACTOR"_s};
+    const QCommandLineOption Verbose{
+        u"verbose"_s, u"Tells which drives, files, decoders and printers are tried, and with what result."_s};
+    const QCommandLineOption Help{{u"h"_s, u"help"_s}, u"Shows this text."_s};
+    const QCommandLineOption Version{{u"v"_s, u"version"_s}, u"Shows the version."_s};
+
+    QList<QCommandLineOption> All() const
+    {
+        return {Drive, ProgramFolder, PrintTo, Scale, Verbose, Help, Version};
+    }
+};
+
+void Prepare(QCommandLineParser& parser, const Options& options)
+{
+    // Options of Qt's own are taken away later only; "-reverse" must not pass for -v among others.
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.setApplicationDescription(
+        u"Shows the disc of The Torvik Vollandry 2001. Without a FOLDER the disc "
+        "is looked for on all mounted media."_s);
+    parser.addOptions(options.All());
+    parser.addPositionalArgument(
+        u"FOLDER"_s,
+        u"A folder that holds a disc, or an image file of one; it takes the first free drive letter."_s,
+        u"[FOLDER]"_s);
+}
+
 void TakeDrive(CommandLine& read, const QString& value)
 {
     if (const auto drive = ReadDriveOption(value))
         read.Drives.append(*drive);
-    else
+    else if (read.Problem.isEmpty())
         read.Problem = DriveOptionProblem(value);
 }
 
-/// Takes one argument off the front of `rest`, with its value where it has one.
-void TakeArgument(CommandLine& read, QStringList& rest)
+void TakeScale(CommandLine& read, const QString& value, bool isGiven)
 {
-    const QString argument = rest.takeFirst();
-    const auto valueOf = [&](const QString& option, QString& value) {
-        if (argument.startsWith(option + u"="_s)) {
-            value = argument.mid(option.size() + 1);
-            return true;
-        }
-        if (argument != option)
-            return false;
-        if (rest.isEmpty())
-            read.Problem = u"%1 needs a value."_s.arg(option);
-        else
-            value = rest.takeFirst();
-        return true;
-    };
-
-    QString value;
-    if (argument == u"--help"_s || argument == u"-h"_s) {
-        read.Help = true;
-    } else if (argument == u"--version"_s || argument == u"-v"_s) {
-        read.Version = true;
-    } else if (valueOf(u"--drive"_s, value)) {
-        if (read.Problem.isEmpty())
-            TakeDrive(read, value);
-    } else if (valueOf(u"--program-folder"_s, value)) {
-        read.ProgramFolder = value;
-    } else if (valueOf(u"--print-to"_s, value)) {
-        read.PrintFolder = value;
-    } else if (argument.startsWith(u'-') && argument.size() > 1) {
-        read.Problem = u"There is no option %1."_s.arg(argument);
-    } else {
-        read.Drives.append({QChar(), argument});
-    }
+    read.Scale = value;
+    if (isGiven && !IsScale(value) && read.Problem.isEmpty())
+        read.Problem = ScaleProblem(value);
 }
 
 } // namespace
 
 CommandLine ReadCommandLine(const QStringList& arguments)
 {
+    const Options options;
+    QCommandLineParser parser;
+    Prepare(parser, options);
     CommandLine read;
-    QStringList rest = arguments;
-    while (!rest.isEmpty() && read.Problem.isEmpty())
-        TakeArgument(read, rest);
+    if (!parser.parse(QStringList(QString()) + arguments))
+        read.Problem = parser.errorText();
+    const QStringList drives = parser.values(options.Drive);
+    for (const QString& value : drives)
+        TakeDrive(read, value);
+    const QStringList folders = parser.positionalArguments();
+    for (const QString& folder : folders)
+        read.Drives.append({QChar(), folder});
+    read.ProgramFolder = parser.value(options.ProgramFolder);
+    read.PrintFolder = parser.value(options.PrintTo);
+    TakeScale(read, parser.value(options.Scale), parser.isSet(options.Scale));
+    read.Verbose = parser.isSet(options.Verbose);
+    read.Help = parser.isSet(options.Help);
+    read.Version = parser.isSet(options.Version);
     return read;
 }
 
 QString HelpText()
 {
-    return u"Usage: torvik2001 [options] [FOLDER]\n"
-           "\n"
-           "Shows the disc of The Torvik Vollandry 2001. Without a FOLDER the disc is looked for on\n"
-           "all mounted media.\n"
-           "\n"
-           "  FOLDER                    a folder that holds a disc; it takes the first free drive letter\n"
-           "  --drive LETTER=FOLDER     the folder stands for a drive, D to Z; may be given again\n"
-           "  --program-folder FOLDER   where copied photos, the start-up sound and the help file are\n"
-           "  --print-to FOLDER         each print job becomes a file job-1.pdf, job-2.pdf, ... there\n"
-           "  -h, --help                shows this text\n"
-           "  -v, --version             shows the version\n"_s;
+    QCommandLineParser parser;
+    Prepare(parser, Options());
+    return parser.helpText();
 }
 
 } // namespace torvik

@@ -13,6 +13,8 @@ struct CommandLine {
     QList<DriveOption> Drives; ///< --drive LETTER=FOLDER, and bare folders without a letter
     QString ProgramFolder;     ///< --program-folder FOLDER; empty when it was not given
     QString PrintFolder;       ///< --print-to FOLDER; empty when it was not given
+    QString Scale;             ///< --scale FACTOR, fit or auto; empty when it was not given
+    bool Verbose = false;
     bool Help = false;
     bool Version = false;
     QString Problem; ///< what is wrong with it, in words for the user; empty when nothing is
@@ -21,7 +23,8 @@ struct CommandLine {
 /// Reads the arguments behind the program's name.
 CommandLine ReadCommandLine(const QStringList& arguments);
 
-/// The text of --help.
+/// The text of --help. Needs an application object, which knows the program's name; one without windows will
+/// do.
 QString HelpText();
 
 } // namespace torvik

@@ -3,14 +3,12 @@
 #include "browser/browse_from_start.h"
 #include "browser/restore_main_window.h"
 #include "browser/select_year.h"
-#include "platform/system/settings_store.h"
+#include "program/catalogue/topics.h"
 #include "program/program_state.h"
 #include "program/task_bar.h"
-#include "program/topic_catalogue.h"
-#include "runtime/text.h"
 #include "start/bind_start.h"
+#include "start/main_window_place.h"
 #include "ui/forms/program_end.h"
-#include "ui/forms/program_title.h"
 #include "ui/forms/screen.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
@@ -21,18 +19,6 @@ namespace torvik {
 
 namespace {
 
-const QString settingsSection = u"Settings"_s;
-
-double Placement(const QString& key, double absent)
-{
-    return ToNumber(GetSetting(applicationTitle, settingsSection, key, NumberText(absent)));
-}
-
-void SavePlacement(const QString& key, double twips)
-{
-    SaveSetting(applicationTitle, settingsSection, key, NumberText(twips));
-}
-
 void Form1_Load()
 {
     Form1Controls& form = *Form1;
@@ -41,12 +27,7 @@ void Form1_Load()
     Screen.SetMousePointer(MousePointer::Default);
     Form2.Unload();
     form.Frame1.ZOrder();
-    form.SetWidth(Screen.Width());
-    form.SetHeight(Screen.Height());
-    form.SetLeft(Placement(u"MainLeft"_s, 0));
-    form.SetTop(Placement(u"MainTop"_s, 0));
-    form.SetWidth(Placement(u"MainWidth"_s, Screen.Width()));
-    form.SetHeight(Placement(u"MainHeight"_s, Screen.Height()));
+    RestoreMainWindowPlace();
     form.Show();
 }
 
@@ -76,7 +57,7 @@ void ReturnFromSlideShow()
     if (Form1->panYear.Caption() != nothingChosen)
         Form1->Image4.Show();
     RestoreMainWindow();
-    if (const Topic* topic = TopicOf(Form1->panYear.Caption()))
+    if (const Topic* topic = BrowsedTopicOf(Form1->panYear.Caption()))
         state.YearCode = QString::fromLatin1(topic->Code);
 }
 
@@ -99,15 +80,9 @@ void Form1_Resize()
 
 void Form1_QueryUnload()
 {
-    Form1Controls& form = *Form1;
-    form.MMControl1.Command(u"close"_s);
+    Form1->MMControl1.Command(u"close"_s);
     state.ApiResult = ShowWindow(state.TrayWindow, showWindow::normal);
-    if (form.WindowState() != Form::State::Minimized) {
-        SavePlacement(u"MainLeft"_s, form.Left());
-        SavePlacement(u"MainTop"_s, form.Top());
-        SavePlacement(u"MainWidth"_s, form.Width());
-        SavePlacement(u"MainHeight"_s, form.Height());
-    }
+    SaveMainWindowPlace();
     EndProgram();
 }
 

@@ -1,10 +1,11 @@
-#include "browser/year_buttons.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
 #include "platform/system/single_instance.h"
+#include "program/catalogue/topics.h"
 #include "program/photo_list.h"
 #include "program/program_state.h"
 #include "program/screen_size.h"
+#include "runtime/logging.h"
 #include "start/bind_start.h"
 #include "start/disc_search.h"
 #include "ui/forms/message_box.h"
@@ -24,6 +25,7 @@ void RefuseSecondInstance()
 {
     if (!PreviousInstance())
         return;
+    qCDebug(logStart, "another instance of this user is running");
     MsgBox(u"The Torvik Vollandry is already running!"_s, msgbox::systemModal | msgbox::critical);
     EndProgram();
 }
@@ -50,6 +52,8 @@ void Form2_Load()
     Form2->Timer1.SetInterval(splashTime);
     state.FirstActivation = true;
     BuildPhotoSet();
+    qCDebug(logStart, "%d photos from %s, all else from %s", int(state.PhotoCount),
+            qUtf8Printable(state.PhotoRoot), qUtf8Printable(state.DiscRoot));
 }
 
 /// Where the screen is not the one that the window was drawn for, the window takes a size that suits it

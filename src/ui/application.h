@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <functional>
 #include <memory>
 
@@ -11,7 +13,8 @@ namespace torvik {
 class Application {
 public:
     /// Takes the command line's arguments out that are the toolkit's own (-platform, -style, ...).
-    Application(int& argc, char** argv);
+    /// `scale` is how large everything is drawn (see ui/scale.h).
+    Application(int& argc, char** argv, const QString& scale = {});
     ~Application();
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;

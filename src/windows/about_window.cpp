@@ -6,21 +6,11 @@ using namespace Qt::StringLiterals;
 
 namespace torvik {
 
-namespace {
-
-FormDesign DesignOfAbout()
-{
-    FormDesign design;
-    design.Name = u"frmAbout"_s;
-    design.Caption = u"About The Torvik Vollandry 2001"_s;
-    design.ClientWidth = 6240;
-    design.ClientHeight = 5070;
-    return design;
-}
-
-} // namespace
-
-frmAboutControls::frmAboutControls() : Form(DesignOfAbout())
+frmAboutControls::frmAboutControls()
+    : Form({.Name = u"frmAbout"_s,
+            .Caption = u"About The Torvik Vollandry 2001"_s,
+            .ClientWidth = 6240,
+            .ClientHeight = 5070})
 {
     Picture2.Show(Picture::FromResource(u":/assets/icon.png"_s));
     Image1.Show(Picture::FromResource(u":/assets/splash.png"_s));

@@ -28,19 +28,6 @@ Twips PlaceOfYearButton(int index)
     return {1080.0 + (column - 1) * 480, top, 510, 375};
 }
 
-FormDesign DesignOfForm1()
-{
-    FormDesign design;
-    design.Name = u"Form1"_s;
-    design.Caption = u"The Torvik Vollandry    2001"_s;
-    design.ClientWidth = 12060;
-    design.ClientHeight = 8385;
-    design.Border = FormBorder::Sizable;
-    design.ScaleMode = Scale::Pixels;
-    design.HasMenu = true;
-    return design;
-}
-
 /// Nothing opens a file with this dialog, so what it was once drawn with is never seen.
 CommonDialogDesign DesignOfCommonDialog()
 {
@@ -50,7 +37,14 @@ CommonDialogDesign DesignOfCommonDialog()
 } // namespace
 
 Form1Controls::Form1Controls()
-    : Form(DesignOfForm1()), Form1Menu(static_cast<Form&>(*this)), SaverPanel(static_cast<Form&>(*this)),
+    : Form({.Name = u"Form1"_s,
+            .Caption = u"The Torvik Vollandry    2001"_s,
+            .ClientWidth = 12060,
+            .ClientHeight = 8385,
+            .Border = FormBorder::Sizable,
+            .ScaleMode = Scale::Pixels,
+            .HasMenu = true}),
+      Form1Menu(static_cast<Form&>(*this)), SaverPanel(static_cast<Form&>(*this)),
       ProgressPanel(static_cast<Form&>(*this)), PrintPanel(static_cast<Form&>(*this)),
       SoundPanel(static_cast<Form&>(*this)),
       cmdSlide(Frame1, u"cmdSlide"_s, {6360, 360, 2685, 375}, u"SlideShow"_s),

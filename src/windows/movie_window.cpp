@@ -10,16 +10,6 @@ const QString movieCaptions[movieOptionCount] = {u"1967 \"Volcano\""_s, u"1969 T
                                                  u"The Super Glider"_s, u"Q44 \"Shadows\""_s,
                                                  u"Rock and Roll"_s,    QString()};
 
-FormDesign DesignOfMovie()
-{
-    FormDesign design;
-    design.Name = u"frmMovie"_s;
-    design.Caption = u"Torvik Movies"_s;
-    design.ClientWidth = 8220;
-    design.ClientHeight = 4860;
-    return design;
-}
-
 ControlArray<OptionButton> MakeOptions(Form& form)
 {
     ControlArray<OptionButton> options(u"optMovie"_s);
@@ -33,7 +23,9 @@ ControlArray<OptionButton> MakeOptions(Form& form)
 
 } // namespace
 
-frmMovieControls::frmMovieControls() : Form(DesignOfMovie()), optMovie(MakeOptions(*this))
+frmMovieControls::frmMovieControls()
+    : Form({.Name = u"frmMovie"_s, .Caption = u"Torvik Movies"_s, .ClientWidth = 8220, .ClientHeight = 4860}),
+      optMovie(MakeOptions(*this))
 {
     PicMovie.Show(Picture::FromResource(u":/assets/movie_opening.png"_s));
     HScroll1.Hide(); // belongs to the form but moves nothing

@@ -10,21 +10,15 @@ const QString zoomOutTip =
     u"Click the left mouse button to view zoom out. Click the Right mouse button to close."_s;
 constexpr int arrowStep = 40; // pixels: some lines of print
 
-FormDesign DesignOfScroll()
-{
-    FormDesign design;
-    design.Name = u"frmScroll"_s;
-    design.Caption = u"The Torvik Vollandry"_s;
-    design.ClientWidth = 9600;
-    design.ClientHeight = 7200;
-    design.Border = FormBorder::None;
-    design.ScaleMode = Scale::Pixels;
-    return design;
-}
-
 } // namespace
 
-frmScrollControls::frmScrollControls() : Form(DesignOfScroll())
+frmScrollControls::frmScrollControls()
+    : Form({.Name = u"frmScroll"_s,
+            .Caption = u"The Torvik Vollandry"_s,
+            .ClientWidth = 9600,
+            .ClientHeight = 7200,
+            .Border = FormBorder::None,
+            .ScaleMode = Scale::Pixels})
 {
     Image1.SetToolTip(u"Click the left mouse button to zoom in. Click the Right mouse button to close."_s);
     picParent.SetToolTip(zoomOutTip);

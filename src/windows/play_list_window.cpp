@@ -6,21 +6,11 @@ using namespace Qt::StringLiterals;
 
 namespace torvik {
 
-namespace {
-
-FormDesign DesignOfPlayList()
-{
-    FormDesign design;
-    design.Name = u"frmSSPhoto"_s;
-    design.Caption = u"The Torvik Vollandry 2001"_s;
-    design.ClientWidth = 4680;
-    design.ClientHeight = 3900;
-    return design;
-}
-
-} // namespace
-
-frmSSPhotoControls::frmSSPhotoControls() : Form(DesignOfPlayList())
+frmSSPhotoControls::frmSSPhotoControls()
+    : Form({.Name = u"frmSSPhoto"_s,
+            .Caption = u"The Torvik Vollandry 2001"_s,
+            .ClientWidth = 4680,
+            .ClientHeight = 3900})
 {
     SetLeft((Screen.Width() - Width()) / 2);
     SetTop((Screen.Height() - Height()) / 2);

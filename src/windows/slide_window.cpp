@@ -8,17 +8,6 @@ namespace torvik {
 
 namespace {
 
-/// As large as the main window, which has a menu bar where this one has room for its photo.
-FormDesign DesignOfSlide()
-{
-    FormDesign design;
-    design.Name = u"frmSlide"_s;
-    design.Caption = u"The Torvik Vollandry Slide Show"_s;
-    design.ClientWidth = 12060;
-    design.ClientHeight = 8670;
-    return design;
-}
-
 void SetUpBar(MediaBar& bar)
 {
     bar.SetToolTip(u"[Bkwd] [Fwd] [Play] [Pause] [Jump Bkwd] [Jump Fwd] [Exit]"_s);
@@ -35,7 +24,12 @@ void SetUpBar(MediaBar& bar)
 
 } // namespace
 
-frmSlideControls::frmSlideControls() : Form(DesignOfSlide())
+/// As large as the main window, which has a menu bar where this one has room for its photo.
+frmSlideControls::frmSlideControls()
+    : Form({.Name = u"frmSlide"_s,
+            .Caption = u"The Torvik Vollandry Slide Show"_s,
+            .ClientWidth = 12060,
+            .ClientHeight = 8670})
 {
     constexpr int titleSize = 16; // pixels
     Image1.Show(Picture::FromResource(u":/assets/slide_show.jpg"_s));

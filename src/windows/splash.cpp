@@ -6,22 +6,12 @@ using namespace Qt::StringLiterals;
 
 namespace torvik {
 
-namespace {
-
-FormDesign DesignOfForm2()
-{
-    FormDesign design;
-    design.Name = u"Form2"_s;
-    design.Caption = u"The Torvik Vollandry 2001"_s;
-    design.ClientWidth = 9000;
-    design.ClientHeight = 6540;
-    design.Border = FormBorder::None;
-    return design;
-}
-
-} // namespace
-
-Form2Controls::Form2Controls() : Form(DesignOfForm2())
+Form2Controls::Form2Controls()
+    : Form({.Name = u"Form2"_s,
+            .Caption = u"The Torvik Vollandry 2001"_s,
+            .ClientWidth = 9000,
+            .ClientHeight = 6540,
+            .Border = FormBorder::None})
 {
     SetLeft((Screen.Width() - Width()) / 2);
     SetTop((Screen.Height() - Height()) / 2);

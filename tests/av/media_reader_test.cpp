@@ -1,5 +1,6 @@
 #include "av/media_reader.h"
 #include "bytes_in_memory.h"
+#include "support/logged_messages.h"
 #include "support/test_class.h"
 #include "support/test_movie.h"
 
@@ -110,6 +111,15 @@ class MediaReaderTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void the_decoders_are_logged()
+    {
+        const QByteArray movie = TestMovie::Avi(Codecs("cinepak", "adpcm_ima_wav"));
+        LoggedMessages log(u"torvik.media"_s);
+        QVERIFY(Reader(movie) != nullptr);
+        QCOMPARE(log.Texts(), (QStringList{u"torvik.media: pictures: the decoder is cinepak"_s,
+                                           u"torvik.media: sound: the decoder is adpcm_ima_wav"_s}));
+    }
+
     void a_movie_gives_all_its_pictures_in_their_colours_and_its_sound_data()
     {
         QTest::addColumn<QStringList>("codecs");

@@ -18,18 +18,9 @@ using namespace torvik;
 
 namespace {
 
-FormDesign DesignOfKinds()
-{
-    FormDesign design;
-    design.Name = u"Kinds"_s;
-    design.ClientWidth = 6000;
-    design.ClientHeight = 4500;
-    return design;
-}
-
 /// One control of each kind that can be copied from.
 struct KindsForm : Form {
-    KindsForm() : Form(DesignOfKinds()) {}
+    KindsForm() : Form({.Name = u"Kinds"_s, .Caption = {}, .ClientWidth = 6000, .ClientHeight = 4500}) {}
     TextBox Text{*this, u"Text"_s, {0, 0, 1500, 375}, u"67TOR001.JPG"_s};
     ComboBox Combo{*this, u"Combo"_s, {0, 600, 1500, 375}, {u"one"_s, u"two"_s}};
     ListBox List{*this, u"List"_s, {0, 1200, 1500, 900}};

@@ -201,7 +201,19 @@ private Q_SLOTS:
 
     void the_list_need_not_hold_a_year_in_one_run()
     {
-        // Names in between that sort inside the group's range but carry another prefix do not disturb.
+        // 67A 68B 67C 68A 67B 68C
+        std::swap(state.PhotoFiles(2), state.PhotoFiles(5));
+        QStringList seen;
+        for (void (*step)() : {StepPhotoForward, StepPhotoForward, StepPhotoForward, StepPhotoBackward,
+                               StepPhotoBackward, StepPhotoForward}) {
+            step();
+            seen.append(Form1->Image4.Picture().FileName().left(3));
+        }
+        QCOMPARE(seen.join(u' '), u"67C 67B 67A 67B 67C 67B"_s);
+    }
+
+    void a_name_without_more_than_its_code_is_a_photo_of_the_year()
+    {
         program_->Disc.AddPhoto(u"67.JPG"_s);
         StepPhotoBackward();
         program_->DoubleClick(Form1->panPhoto);
@@ -235,6 +247,44 @@ private Q_SLOTS:
         QCOMPARE(int(state.ShownPhotoIndex), 4);
         QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
         QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
+        StepPhotoBackward();
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(Shown(), u"67B.JPG 2"_s);
+    }
+
+    void a_damaged_photo_is_told_once_in_each_direction_and_then_passed()
+    {
+        program_->Disc.AddFile(u"Torviks/67B.JPG"_s, "damaged");
+        program_->Press(Form1->cmdYR(2), Qt::Key_Comma);
+        QCOMPARE(Shown(), u"67C.JPG 3"_s);
+        program_->Press(Form1->cmdYR(2), Qt::Key_Comma);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(Shown(), u"67C.JPG 3"_s);
+        QCOMPARE(int(state.ShownPhotoIndex), 3);
+        program_->Press(Form1->cmdYR(2), Qt::Key_Comma);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(Shown(), u"67A.JPG 1"_s);
+        QCOMPARE(int(state.ShownPhotoIndex), 1);
+        program_->Press(Form1->cmdYR(2), Qt::Key_Period);
+        QCOMPARE(program_->Messages.Count(), 2);
+        program_->Press(Form1->cmdYR(2), Qt::Key_Period);
+        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(Shown(), u"67C.JPG 3"_s);
+    }
+
+    void a_year_whose_first_photo_is_damaged_shows_the_others()
+    {
+        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, "damaged");
+        for (const Qt::Key key : {Qt::Key_Period, Qt::Key_Comma}) {
+            program_->Messages.Clear();
+            program_->Click(Form1->cmdYR(2));
+            QCOMPARE(program_->Messages.Count(), 1);
+            QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER023"_s));
+            QVERIFY(!Form1->Image4.Visible());
+            program_->Press(Form1->cmdYR(3), key);
+            QVERIFY(Form1->Image4.Visible());
+            QCOMPARE(Shown(), key == Qt::Key_Period ? u"68B.JPG 2"_s : u"68C.JPG 3"_s);
+        }
     }
 
     void damaged_photos_are_reported_and_the_window_stays_usable_data()

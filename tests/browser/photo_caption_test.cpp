@@ -6,6 +6,7 @@
 #include "support/program.h"
 #include "support/test_class.h"
 #include "windows/main_window.h"
+#include "windows/play_list_window.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -95,6 +96,58 @@ private Q_SLOTS:
             StepPhotoBackward();
         QCOMPARE(program_->Messages.Count(), 1);
         QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code));
+    }
+
+    void steps_go_on_as_ever_over_captions_that_are_missing()
+    {
+        for (const char* name : {"67A", "67B", "67C"})
+            program_->Disc.Remove(u"RichText/%1.rtf"_s.arg(QLatin1String(name)));
+        Form1->rtbDetails.Show();
+        QStringList shown;
+        for (void (*step)() : {StepPhotoBackward, StepPhotoBackward, StepPhotoForward, StepPhotoForward,
+                               StepPhotoBackward, StepPhotoForward}) {
+            step();
+            shown.append(Form1->Image4.Picture().FileName().left(3));
+            QCOMPARE(int(state.ShownPhotoIndex), Form1->panPhoto.Caption().toInt());
+        }
+        QCOMPARE(shown.join(u' '), u"67C 67B 67C 67A 67C 67A"_s);
+        QCOMPARE(program_->Messages.Count(), 6);
+    }
+
+    void after_a_missing_caption_only_the_step_backward_sees_to_the_play_list_data()
+    {
+        QTest::addColumn<bool>("forward");
+        QTest::newRow("forward") << true;
+        QTest::newRow("backward") << false;
+    }
+
+    void after_a_missing_caption_only_the_step_backward_sees_to_the_play_list()
+    {
+        QFETCH(bool, forward);
+        program_->AddToProgramFolder(u"ssTorviks/67B.JPG"_s, "x");
+        program_->AddToProgramFolder(u"ssTorviks/67C.JPG"_s, "x");
+        program_->Disc.Remove(u"RichText/67B.rtf"_s);
+        program_->Disc.Remove(u"RichText/67C.rtf"_s);
+        Form1->rtbDetails.Show();
+        QVERIFY(frmSSPhoto->SSCommand7.Enabled());
+        if (forward)
+            StepPhotoForward();
+        else
+            StepPhotoBackward();
+        QCOMPARE(frmSSPhoto->SSCommand8.Enabled(), !forward);
+        QCOMPARE(frmSSPhoto->SSCommand7.Enabled(), forward);
+        QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
+    }
+
+    void a_step_backward_whose_caption_is_missing_leaves_the_place_of_the_pane()
+    {
+        program_->Disc.Remove(u"RichText/67C.rtf"_s);
+        Form1->rtbDetails.Show();
+        Form1->rtbDetails.Move(7, 9);
+        StepPhotoBackward();
+        QCOMPARE(Form1->rtbDetails.Left(), 7.0);
+        QVERIFY(!state.SteppedForward);
+        QVERIFY(state.SteppedBackward);
     }
 
     void photos_beside_the_program_have_their_captions_there_too()

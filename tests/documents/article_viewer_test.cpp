@@ -86,7 +86,7 @@ private Q_SLOTS:
         }
     }
 
-    void tab_walks_from_the_text_over_ok_to_print_and_then_the_wave_buttons()
+    void tab_walks_from_the_text_over_ok_to_print_the_wave_buttons_and_the_bar()
     {
         txtForm.LoadForm();
         QStringList order;
@@ -98,7 +98,8 @@ private Q_SLOTS:
             widget = widget->nextInFocusChain();
         } while (widget != first);
         QCOMPARE(order, QStringList({u"rtbText"_s, u"SSCommand1"_s, u"cmdPrint"_s, u"SSCommand2"_s,
-                                     u"SSCommand3"_s}));
+                                     u"SSCommand3"_s, u"panFind"_s, u"txtFindText"_s, u"cmdFindBefore"_s,
+                                     u"cmdFindNext"_s, u"lblFindText"_s}));
     }
 
     void opening_shows_the_document_over_the_main_window_with_the_focus_on_ok()

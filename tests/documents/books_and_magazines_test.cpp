@@ -1,6 +1,7 @@
 #include "documents/books_and_magazines.h"
 #include "program/program_state.h"
-#include "support/program.h"
+#include "support/browsing_fixture.h"
+#include "support/menu_choice.h"
 #include "support/test_class.h"
 #include "support/viewer_visit.h"
 #include "ui/forms/form_window.h"
@@ -8,6 +9,7 @@
 #include "windows/main_window.h"
 
 #include <QAction>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -21,18 +23,10 @@ const QString earlier = u"The title that was stored before"_s;
 } // namespace
 
 /// The documents behind the entries of the Literature, Miscellaneous and Help menus.
-class BooksAndMagazinesTest : public QObject {
+class BooksAndMagazinesTest : public BrowsingFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->StartBrowsing();
-    }
-    void cleanup() { program_.reset(); }
-
     void an_entry_opens_its_document_data() { Rows(); }
     void an_entry_opens_its_document()
     {
@@ -124,6 +118,22 @@ private Q_SLOTS:
         const Viewed whatsNew = Open(u"mnuWhatsNew"_s);
         QCOMPARE(whatsNew.Text, u"whatsnew.rtf"_s);
         QCOMPARE(whatsNew.Caption, u"The Torvik Vollandry       Books"_s);
+    }
+
+    void an_empty_title_reaches_the_window_system_as_it_is()
+    {
+        AddAll({u"whatsnew.rtf"_s});
+        QString title = u"unread"_s;
+        const ModalVisit visit(
+            [&] {
+                program_->Settle();
+                title = txtForm->Window().windowHandle()->title();
+            },
+            [] { txtForm.Unload(); });
+        ChooseMenu(*Form1, u"mnuWhatsNew"_s);
+        QVERIFY(visit.Ran());
+        QCOMPARE(title.trimmed(), QString());
+        QVERIFY2(title != QGuiApplication::applicationDisplayName(), qPrintable(title));
     }
 
     void whats_new_as_the_first_document_has_no_title()
@@ -279,8 +289,6 @@ private:
     {
         return ViewerOf(*program_, [&] { ActionOf(entry)->trigger(); });
     }
-
-    std::unique_ptr<Program> program_;
 };
 
 TORVIK_TEST(BooksAndMagazinesTest)

@@ -1,5 +1,7 @@
 #include "documents/topic_menus.h"
+#include "program/photo_list.h"
 #include "program/program_state.h"
+#include "support/menu_choice.h"
 #include "support/program.h"
 #include "support/test_class.h"
 #include "ui/forms/form_window.h"
@@ -105,6 +107,77 @@ private Q_SLOTS:
         QVERIFY(Form1->cmdColors.Enabled());
         QVERIFY(Form1->cmdOptions.Enabled());
         QVERIFY(!Form1->cmdNostalgia.Enabled());
+    }
+
+    void the_hourglass_stands_and_the_photo_is_cleared_while_the_topic_is_looked_for_data()
+    {
+        QTest::addColumn<QString>("entry");
+        for (const char* entry : {"mnuArt(1)", "mnuStuff(1)", "mnuSpecialty(0)"})
+            QTest::newRow(entry) << QString::fromLatin1(entry);
+    }
+    void the_hourglass_stands_and_the_photo_is_cleared_while_the_topic_is_looked_for()
+    {
+        QFETCH(QString, entry);
+        for (const char* code : {"TD", "SB"}) {
+            program_->Disc.Remove(u"Torviks/%1A.JPG"_s.arg(QLatin1String(code)));
+            program_->Disc.Remove(u"Torviks/%1B.JPG"_s.arg(QLatin1String(code)));
+        }
+        BuildPhotoSet();
+        QVERIFY(!Form1->Image4.Picture().IsEmpty());
+        MousePointer pointer = MousePointer::Default;
+        bool cleared = false;
+        program_->Messages.WhenAsked([&] {
+            pointer = Screen.Pointer();
+            cleared = Form1->Image4.Picture().IsEmpty();
+        });
+        ChooseMenu(*Form1, entry);
+        program_->Settle();
+        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(pointer, MousePointer::Hourglass);
+        QVERIFY(cleared);
+        QCOMPARE(Screen.Pointer(), MousePointer::Default);
+    }
+
+    void a_specialty_leaves_the_buttons_as_its_topic_has_them_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("enabled");
+        QTest::newRow("Harwell") << 0 << u"Options Colors Script Emblem Advertisement"_s;
+        QTest::newRow("prototypes") << 1 << u"Details"_s;
+        QTest::newRow("first Kestra") << 2 << u"Details"_s;
+        QTest::newRow("third Kestra") << 3 << u"Description Details"_s;
+        QTest::newRow("Super Stallion") << 4 << u"Description Details"_s;
+    }
+    void a_specialty_leaves_the_buttons_as_its_topic_has_them()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, enabled);
+        ShowSpecialtyTopic(index);
+        QStringList captions;
+        for (const Button* button :
+             {&Form1->cmdDesc, &Form1->cmdOptions, &Form1->cmdStats, &Form1->cmdColors, &Form1->cmdScript,
+              &Form1->cmdEmblem, &Form1->cmdClipArt, &Form1->cmdAd, &Form1->cmdNostalgia}) {
+            if (button->Enabled())
+                captions.append(button->Caption());
+        }
+        QCOMPARE(captions.join(u' '), enabled);
+        QCOMPARE(Form1->cmdStats.Caption(), u"Details"_s);
+    }
+
+    void two_topics_without_an_entry_clear_even_a_photo_that_bears_their_letters()
+    {
+        program_->Disc.AddPhoto(u"rvA.JPG"_s);
+        program_->Disc.AddPhoto(u"anA.JPG"_s);
+        state.PhotoFiles(1) = u"G:\\Torviks\\rvA.JPG"_s;
+        state.PhotoFiles(2) = u"G:\\Torviks\\anA.JPG"_s;
+        for (void (*show)() : {ShowCalendars, ShowCollectorPlates}) {
+            program_->Click(Form1->cmdYR(3));
+            QVERIFY(!Form1->Image4.Picture().IsEmpty());
+            show();
+            QVERIFY(Form1->Image4.Picture().IsEmpty());
+            QVERIFY(Form1->Image4.Visible());
+        }
+        QCOMPARE(program_->Messages.Count(), 0);
     }
 
     void two_topics_without_an_entry_clear_the_photo()

@@ -1,9 +1,13 @@
 #include "program/program_state.h"
+#include "support/desktop.h"
 #include "support/program.h"
 #include "support/test_class.h"
 #include "support/viewer_visit.h"
 #include "windows/article_window.h"
 #include "windows/main_window.h"
+
+#include <QTextBrowser>
+#include <QTextCursor>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -156,6 +160,26 @@ private Q_SLOTS:
         QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
     }
 
+    void a_click_on_a_link_of_the_note_opens_it_and_leaves_the_note()
+    {
+        program_->Disc.AddFile(u"RichText/vms02.rtf"_s,
+                               "{\\rtf1 {\\field{\\*\\fldinst HYPERLINK \"http://quillon.example/a\"}"
+                               "{\\fldrslt Quillon}}\\par words without a link}");
+        Form1->panYear.SetCaption(u"Torvik Metal Signs "_s);
+        program_->Click(Form1->cmdStats);
+        QVERIFY(Form1->rtbDetails.Visible());
+        auto* pane = static_cast<QTextBrowser*>(&Form1->rtbDetails.Widget());
+        const Desktop desktop;
+        QTest::mouseClick(pane->viewport(), Qt::LeftButton, {}, MiddleOf(*pane, 3));
+        program_->Settle();
+        QCOMPARE(desktop.Opened, QStringList{u"http://quillon.example/a"_s});
+        QVERIFY(Form1->rtbDetails.Visible());
+        QTest::mouseClick(pane->viewport(), Qt::LeftButton, {}, MiddleOf(*pane, 12));
+        program_->Settle();
+        QVERIFY(!Form1->rtbDetails.Visible());
+        QCOMPARE(desktop.Opened.size(), 1);
+    }
+
     void the_note_comes_in_front_of_the_photo()
     {
         program_->Disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
@@ -214,6 +238,13 @@ private:
         return ViewerOf(*program_, [&] { program_->Click(Form1->cmdStats); });
     }
 
+    /// Where the character at a position of the text is painted.
+    static QPoint MiddleOf(const QTextBrowser& pane, int position)
+    {
+        QTextCursor cursor(pane.document());
+        cursor.setPosition(position);
+        return pane.cursorRect(cursor).center();
+    }
     static void CheckNotePlace()
     {
         const Form1Controls& form = *Form1;

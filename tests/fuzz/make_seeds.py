@@ -57,6 +57,65 @@ COLORS = dib(2, 2, 24, 0, b"", bytes.fromhex("ff0000ffffff00000000ff00ff000000")
 STRIP = old_metafile(old_record(0xF43, struct.pack("<IH8h", 0xCC0020, 0, 2, 2, 0, 0, 100, 100, 0, 0) + COLORS))
 
 
+SECTOR = 2048
+
+
+def both(number):
+    return struct.pack("<I", number) + struct.pack(">I", number)
+
+
+def record(name, block, length, flags=0, system=b""):
+    """A folder's record of a disc image."""
+    body = b"\0" + both(block) + both(length) + bytes((101, 11, 21, 12, 30, 15, 4, flags, 0, 0, 1, 0, 0, 1, len(name))) + name
+    body += b"\0" * (len(name) % 2 == 0) + system
+    return bytes((len(body) + 1,)) + body
+
+
+def descriptor(kind, root, marks=b""):
+    text = (bytes((kind,)) + b"CD001\1").ljust(88, b"\0") + marks
+    return (text.ljust(128, b"\0") + b"\0\x08\x08\0").ljust(156, b"\0") + record(b"\0", root, SECTOR, 2)
+
+
+def image(with_long_names):
+    """A disc with one folder and four records, under plain, Joliet and Rock Ridge names."""
+    def own(root, system=b""):
+        return record(b"\0", root, SECTOR, 2, system) + record(b"\1", root, SECTOR, 2)
+
+    long_name = b"NM" + bytes((5 + 9, 1, 0)) + b"67Tor.jpg"
+    more = b"CE" + bytes((28, 1)) + both(24) + both(0) + both(14)
+    mark = b"SP\x07\x01\xbe\xef\0"
+    sectors = {
+        16: descriptor(1, 19),
+        18: b"\xffCD001\1",
+        19: own(19, mark if with_long_names else b"") + record(b"TORVIKS", 20, SECTOR, 2)
+        + record(b"A.;1", 23, 9, 0, more) + record(b"LONG;1", 23, SECTOR, 128) + record(b"LONG;1", 24, 5)
+        + record(b"MOVED;1", 23, 0, 0, b"CL" + bytes((12, 1)) + both(20)),
+        20: own(20) + record(b"67TOR001.JPG;1", 23, 9, 0, long_name) + record(b"UP", 19, SECTOR, 2),
+        21: own(21) + record("67Tör.jpg;1".encode("utf-16-be"), 23, 9) + record("up".encode("utf-16-be"), 21, SECTOR, 2),
+        23: b"the photo",
+        24: long_name,
+    }
+    sectors[17] = descriptor(2, 21, b"%/E") if not with_long_names else sectors[18]
+    return b"".join(sectors.get(number, b"").ljust(SECTOR, b"\0") for number in range(25))
+
+
+def raw(data, mode):
+    head = b"\0" + b"\xff" * 10 + b"\0\0\2\0" + bytes((mode,)) + b"\0" * (8 if mode == 2 else 0)
+    parts = (head + data[place:place + SECTOR] for place in range(0, len(data), SECTOR))
+    return b"".join(part.ljust(2352, b"\0") for part in parts)
+
+
+def volumes():
+    write("volume", "plain.iso", image(False))
+    write("volume", "long.iso", image(True))
+    write("volume", "raw.bin", raw(image(True), 1))
+    write("volume", "form.bin", raw(image(False), 2))
+    place = len(image(True))
+    table = struct.pack(">4sIQQIIQ", b"ETN2", 32, 0, place, 0, 0, 0) + b"END!\0\0\0\0"
+    write("volume", "disc.nrg", image(True) + table + struct.pack(">4sQ", b"NER5", place))
+    write("volume", "disc.cue", b'FILE "disc.bin" BINARY\r\n  TRACK 01 MODE1/2352\r\n    INDEX 01 00:02:00\r\n')
+
+
 def documents():
     write("rtf", "characters.rtf", HEAD + rb"""\b bold\b0\i x\i0\ul u\ulnone\super s\nosupersub\cf1 c\highlight1 h\caps C
 \u8364?\u-10179?\u-8704?{\f2\'93\'fa}{\v hid}\par}""")
@@ -111,3 +170,4 @@ def pictures():
 if __name__ == "__main__":
     documents()
     pictures()
+    volumes()

@@ -11,6 +11,7 @@
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
 
+#include <fcntl.h>
 #include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -36,6 +37,20 @@ QString ReadingOf(const Panel& gauge)
 CopyPanelReading PanelNow()
 {
     return {Form1->Text1.Text(), ReadingOf(Form1->ProgressGuage), ReadingOf(Form1->ProgressGuage2)};
+}
+
+/// From now on nothing can be read through the descriptors by which this process has a file open, as of a
+/// medium with a scratch.
+bool TearOut(const QString& file)
+{
+    const int unreadable = open("/proc/self/mem", O_RDONLY); // nothing is at its beginning
+    bool found = false;
+    for (const QFileInfo& link : QDir(u"/proc/self/fd"_s).entryInfoList(QDir::AllEntries | QDir::System)) {
+        if (link.symLinkTarget() == file)
+            found = dup2(unreadable, link.fileName().toInt()) >= 0;
+    }
+    close(unreadable);
+    return found;
 }
 
 } // namespace
@@ -186,6 +201,22 @@ private Q_SLOTS:
         QVERIFY(OrdinaryUser::IsOne());
         CopyOnly();
         AssertTold(u"Permission denied"_s);
+    }
+
+    void a_source_that_cannot_be_read_on_in_mid_file_is_told_and_the_copy_ends_there()
+    {
+        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(75'000));
+        bool torn = false;
+        {
+            const EachRound round([&] {
+                if (!std::exchange(torn, true))
+                    QVERIFY(TearOut(program_->Disc.PathOf(u"Torviks/A.JPG"_s)));
+            });
+            CopyOnly();
+        }
+        AssertTold(u"Device I/O error"_s);
+        QCOMPARE(ReadingOf(Form1->ProgressGuage), u"33 33"_s);
+        QVERIFY(!Form1->Text1.Text().isEmpty());
     }
 
     void a_source_that_ends_early_is_told_and_not_made_up()

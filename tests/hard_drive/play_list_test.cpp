@@ -166,6 +166,38 @@ private Q_SLOTS:
         QCOMPARE(frmSSPhoto->Pointer(), MousePointer::Default);
     }
 
+    void after_remove_all_the_savers_panel_offers_no_selected_photos()
+    {
+        program_->AddToProgramFolder(u"ssTorviks/67A.JPG"_s, "x");
+        Form1->mnuSaver.Click.Fire();
+        QVERIFY(Form1->Option1(1).Enabled());
+        program_->Messages.Answer(msgbox::answerYes);
+        program_->Click(frmSSPhoto->SSCommand2);
+        Form1->mnuSaver.Click.Fire();
+        QVERIFY(!Form1->Option1(1).Enabled());
+    }
+
+    void a_photo_that_cannot_be_removed_stays_after_remove_all_and_is_a_failure_by_itself()
+    {
+        program_->Click(frmSSPhoto->SSCommand7);
+        const QString list = program_->InProgramFolder(u"ssTorviks"_s);
+        QVERIFY(QFile::remove(list + u"/67A.JPG"_s));
+        QVERIFY(QDir(list).mkpath(u"67A.JPG/in use"_s)); // what no rights of anybody can remove as a file
+        program_->Messages.Clear();
+        program_->Messages.Answer(msgbox::answerYes);
+        program_->Click(frmSSPhoto->SSCommand2);
+        AssertRemovedAll();
+        QVERIFY(QFileInfo::exists(list + u"/67A.JPG/in use"_s));
+        QVERIFY(!ProgramIsEnding());
+        frmSSPhoto->SSCommand8.SetEnabled(true);
+        program_->Messages.Clear();
+        program_->Click(frmSSPhoto->SSCommand8);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY2(program_->Messages.Last().Text.startsWith(u"Run-time error '"_s),
+                 qPrintable(program_->Messages.Last().Text));
+        QVERIFY(ProgramIsEnding());
+    }
+
     void remove_all_of_an_empty_list_and_of_none_reports_success()
     {
         program_->Messages.Answer(msgbox::answerYes);

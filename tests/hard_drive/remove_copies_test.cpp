@@ -1,4 +1,6 @@
 #include "platform/paths/program_folder.h"
+#include "platform/system/saver_agreement.h"
+#include "platform/system/settings_store.h"
 #include "program/program_state.h"
 #include "support/file_bytes.h"
 #include "support/ordinary_user.h"
@@ -41,6 +43,29 @@ private Q_SLOTS:
         QCOMPARE(state.PhotoRoot, u"G:"_s);
         QCOMPARE(state.CopyTarget, ProgramFolder() + u"\\Torviks\\*.jpg"_s);
         QCOMPARE(state.PhotoFiles(1), ProgramFolder() + u"\\Torviks\\67A.JPG"_s);
+    }
+
+    void the_savers_settings_stay_although_they_name_the_folder()
+    {
+        SaveSetting(saver::settings, saver::section, saver::interval, u"5"_s);
+        SaveSetting(saver::settings, saver::section, saver::photoFolder, ProgramFolder() + u"\\Torviks\\"_s);
+        program_->Messages.Answer(msgbox::answerYes);
+        Form1->mnuRemove.Click.Fire();
+        QVERIFY(!Exists(u"Torviks"_s));
+        QCOMPARE(GetSetting(saver::settings, saver::section, saver::interval), u"5"_s);
+        QCOMPARE(GetSetting(saver::settings, saver::section, saver::photoFolder),
+                 ProgramFolder() + u"\\Torviks\\"_s);
+    }
+
+    void settings_that_cannot_be_written_do_not_spoil_the_end()
+    {
+        const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+        qputenv("XDG_CONFIG_HOME", "/dev/null/nowhere");
+        program_->Messages.Answer(msgbox::answerYes);
+        Form1->mnuRemove.Click.Fire();
+        qputenv("XDG_CONFIG_HOME", before);
+        AssertPhotoMessages();
+        QVERIFY(ProgramIsEnding());
     }
 
     void movies_go_with_their_folder_and_the_program_stays()

@@ -1,4 +1,5 @@
 #include "hard_drive/windows_folder_name.h"
+#include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "support/failure_of.h"
 #include "support/test_class.h"
@@ -21,19 +22,36 @@ private Q_SLOTS:
         QVERIFY(WindowsFolderName().endsWith(u"\\home\\torvik2001\\windows"_s));
     }
 
-    void a_folder_with_a_blank_is_cut_two_characters_before_it()
+    void a_folder_with_blanks_is_taken_whole_without_a_blank_in_its_name()
     {
-        PutDataInto(u"my home"_s);
+        PutDataInto(u"my own home"_s);
         const QString whole = WindowsFolder();
-        QVERIFY(whole.contains(u"\\my home\\"_s));
-        QCOMPARE(WindowsFolderName(), whole.left(whole.indexOf(u' ') - 1));
-        QVERIFY(WindowsFolderName().endsWith(u"\\m"_s));
+        QVERIFY(whole.endsWith(u"\\my own home\\torvik2001\\windows"_s));
+        QVERIFY(!WindowsFolderName().contains(u' '));
+        QCOMPARE(WindowsFolderName().size(), whole.size());
+        QCOMPARE(HostPath(WindowsFolderName()), HostPath(whole));
     }
 
-    void only_the_first_of_several_blanks_counts()
+    void an_answer_is_cut_two_characters_before_its_first_blank_data()
     {
-        PutDataInto(u"a b c d"_s);
-        QVERIFY2(WindowsFolderName().endsWith(u'\\'), qPrintable(WindowsFolderName()));
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("cut");
+        QTest::newRow("none: the zero character behind it goes") << u"C:\\WINDOWS"_s << u"C:\\WINDOWS"_s;
+        QTest::newRow("one") << u"C:\\my windows"_s << u"C:\\m"_s;
+        QTest::newRow("several") << u"C:\\a b c"_s << u"C:\\"_s;
+        QTest::newRow("at the end") << u"C:\\win "_s << u"C:\\wi"_s;
+        QTest::newRow("empty") << QString() << QString();
+    }
+    void an_answer_is_cut_two_characters_before_its_first_blank()
+    {
+        QFETCH(QString, answer);
+        QFETCH(QString, cut);
+        QCOMPARE(CutOutOfBuffer(answer), cut);
+    }
+
+    void an_answer_that_begins_with_a_blank_is_a_failure()
+    {
+        QCOMPARE(FailureOf([] { CutOutOfBuffer(u" C:"_s); }), failure::invalidCall);
     }
 
     void the_longest_folder_that_leaves_a_blank_in_the_buffer_is_taken_whole()

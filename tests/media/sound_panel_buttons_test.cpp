@@ -135,6 +135,39 @@ private Q_SLOTS:
         QCOMPARE(Form1->MMControl1.State(), Mode::NotOpen);
     }
 
+    void a_second_sound_plays_in_place_of_one_that_is_playing()
+    {
+        using Mode = MediaControl::Mode;
+        program_->Disc.AddFile(u"wav/taxi.wav"_s, TestMovie::Wav());
+        program_->Disc.AddFile(u"wav/horns.wav"_s, TestMovie::Wav());
+        Open();
+        program_->Click(Form1->SSCommand2(5));
+        QTRY_VERIFY(Form1->MMControl1.Length() > 0);
+        QCOMPARE(Form1->MMControl1.State(), Mode::Playing);
+        program_->Click(Form1->SSCommand2(3));
+        QCOMPARE(Form1->MMControl1.FileName(), u"G:\\wav\\horns.wav"_s);
+        QTRY_VERIFY(Form1->MMControl1.Length() > 0);
+        QCOMPARE(Form1->MMControl1.State(), Mode::Playing);
+        QVERIFY(program_->Messages.Shown().isEmpty());
+    }
+
+    /// The name of the sound is the code of no photo, so a step finds nothing to show.
+    void after_a_sound_a_step_changes_nothing_until_a_year_is_chosen()
+    {
+        Open();
+        program_->Click(Form1->SSCommand2(5));
+        QCOMPARE(state.YearCode, u"taxi.wav"_s);
+        for (const Qt::Key key : {Qt::Key_Period, Qt::Key_Comma}) {
+            program_->Press(Form1->cmdYR(2), key);
+            QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
+            QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
+        }
+        QVERIFY(program_->Messages.Shown().isEmpty());
+        program_->Click(Form1->cmdYR(1 + 2));
+        program_->Press(Form1->cmdYR(4), Qt::Key_Period);
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"69B.JPG"_s);
+    }
+
     void a_second_sound_takes_the_place_of_the_first()
     {
         Open();

@@ -2,6 +2,7 @@
 #include "support/movie_visit.h"
 #include "support/test_class.h"
 #include "support/test_movie.h"
+#include "ui/forms/program_end.h"
 
 #include <QFile>
 
@@ -75,6 +76,30 @@ private Q_SLOTS:
         QCOMPARE(program_->Messages.Last().Style, 16);
         QCOMPARE(state.ErrorCode, u"ER003"_s);
         QVERIFY(Form1->Enabled());
+    }
+
+    void an_installer_that_cannot_be_started_is_reported_data()
+    {
+        QTest::addColumn<bool>("mayRun");
+        QTest::newRow("no leave to run") << false;
+        QTest::newRow("no program") << true;
+    }
+
+    void an_installer_that_cannot_be_started_is_reported()
+    {
+        QFETCH(bool, mayRun);
+        const QString file = u"IndeoVideo/iv5play.exe"_s;
+        program_->Disc.AddFile(file, "MZ\x90 no program of this machine");
+        if (mayRun)
+            QVERIFY(QFile::setPermissions(program_->Disc.PathOf(file),
+                                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        program_->Messages.Answer(msgbox::answerYes);
+        AskFromMenu();
+        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->Messages.Last().Text, driverReport);
+        QCOMPARE(Form1->Enabled(), true);
+        program_->Click(Form1->cmdYR(2));
+        QVERIFY(!ProgramIsEnding());
     }
 
     void help_asks_the_same_and_no_leaves_the_player_as_it_was()

@@ -1,12 +1,19 @@
-#include "program/error_catalogue.h"
 #include "program/program_state.h"
+#include "program/report_error.h"
+#include "support/browsing_fixture.h"
 #include "support/test_class.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
-/// Every code of the catalogue with its text, to the blank.
-class ErrorCatalogueTest : public QObject {
+namespace {
+
+const QString discHint = u"\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
+
+} // namespace
+
+/// The box that comes up for each code, to the blank.
+class ErrorCatalogueTest : public BrowsingFixture {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -67,27 +74,37 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(bool, retry);
         QFETCH(bool, hint);
-        const CatalogueEntry entry = CatalogueEntryOf(QString::fromLatin1(QTest::currentDataTag()));
-        QCOMPARE(entry.Text, text);
-        QCOMPARE(entry.Retry, retry);
-        QCOMPARE(entry.DiscHint, hint);
+        const QString code = QString::fromLatin1(QTest::currentDataTag());
+        const MessageRequest box = BoxOf(code);
+        QCOMPARE(box.Text, u"Error number: "_s + code + u"\r\n\r\n"_s + text + (hint ? discHint : QString()));
+        QCOMPARE(box.Style, retry ? 5 : 16);
+        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
     }
 
     void a_code_outside_the_catalogue_has_an_empty_text()
     {
-        for (const char* code : {"ER019", "ER057", "ER999", ""}) {
-            const CatalogueEntry entry = CatalogueEntryOf(QString::fromLatin1(code));
-            QCOMPARE(entry.Text, QString());
-            QVERIFY(!entry.Retry);
-            QVERIFY(entry.DiscHint);
+        for (const QString& code : {u"ER019"_s, u"ER057"_s, u"ER999"_s, QString()}) {
+            const MessageRequest box = BoxOf(code);
+            QCOMPARE(box.Text, u"Error number: "_s + code + u"\r\n\r\n"_s + discHint);
+            QCOMPARE(box.Style, 16);
         }
     }
 
     void the_sound_file_loses_its_first_five_characters()
     {
         state.SoundFile = u"E:\\wav\\1969.wav"_s;
-        QCOMPARE(CatalogueEntryOf(u"ER032"_s).Text, u" Unable to load sound file: v\\1969.wav"_s);
+        QCOMPARE(BoxOf(u"ER032"_s).Text,
+                 u"Error number: ER032\r\n\r\n Unable to load sound file: v\\1969.wav"_s + discHint);
         QCOMPARE(int(state.LoopIndex), 10);
+    }
+
+private:
+    MessageRequest BoxOf(const QString& code)
+    {
+        program_->Messages.Answer(msgbox::answerRetry);
+        state.ErrorCode = code;
+        ReportError();
+        return program_->Messages.Last();
     }
 };
 

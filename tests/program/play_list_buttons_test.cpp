@@ -1,7 +1,7 @@
 #include "platform/paths/program_folder.h"
 #include "program/play_list_buttons.h"
 #include "program/program_state.h"
-#include "support/program.h"
+#include "support/browsing_fixture.h"
 #include "support/test_class.h"
 #include "windows/main_window.h"
 #include "windows/play_list_window.h"
@@ -10,18 +10,10 @@ using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The entry of the photo on show, and the buttons that follow it.
-class PlayListButtonsTest : public QObject {
+class PlayListButtonsTest : public BrowsingFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->StartBrowsing();
-    }
-    void cleanup() { program_.reset(); }
-
     void a_photo_has_an_entry_of_its_own_name()
     {
         state.TorviksPathPos = 99;
@@ -65,9 +57,6 @@ private Q_SLOTS:
         QVERIFY(frmSSPhoto.IsLoaded());
         QVERIFY(!frmSSPhoto->Visible());
     }
-
-private:
-    std::unique_ptr<Program> program_;
 };
 
 TORVIK_TEST(PlayListButtonsTest)

@@ -1,7 +1,8 @@
+#include "browser/pictures_over_photo.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"
-#include "support/program.h"
+#include "support/browsing_fixture.h"
 #include "support/test_class.h"
 #include "ui/forms/program_end.h"
 #include "windows/main_window.h"
@@ -10,19 +11,10 @@ using namespace Qt::StringLiterals;
 using namespace torvik;
 
 /// The one reporter of errors: its box, its focus move, its two ways out.
-class ReportErrorTest : public QObject {
+class ReportErrorTest : public BrowsingFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->StartBrowsing();
-        program_->Messages.Clear();
-    }
-    void cleanup() { program_.reset(); }
-
     void an_ordinary_code_shows_number_text_and_disc_hint_in_a_critical_box()
     {
         state.ErrorCode = u"ER023"_s;
@@ -45,6 +37,17 @@ private Q_SLOTS:
         ReportError();
         QCOMPARE(program_->Messages.Last().Text,
                  u"Error number: ER036\r\n\r\n 'TO' year may not be earlier than 'FROM' year."_s);
+    }
+
+    void a_failure_where_no_code_was_set_is_reported_under_the_one_before()
+    {
+        program_->Disc.AddFile(u"emblems/emb67.jpg"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
+        LoadEmblem();
+        QCOMPARE(program_->Messages.Count(), 0);
+        OnError([] { Fail(failure::overflow); }, ReportError);
+        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(program_->Messages.Last().Text.startsWith(
+            u"Error number: ER022\r\n\r\n Unable to load  Emblem  for year selected."_s));
     }
 
     void a_code_that_nobody_knows_shows_its_number_and_the_hint()
@@ -142,9 +145,6 @@ private Q_SLOTS:
         QCOMPARE(ResumeNext(ReportError), 5);
         QCOMPARE(program_->Messages.Count(), 1);
     }
-
-private:
-    std::unique_ptr<Program> program_;
 };
 
 TORVIK_TEST(ReportErrorTest)

@@ -21,6 +21,15 @@ private Q_SLOTS:
         QVERIFY(!IsScreenSize(600, 800));
     }
 
+    void no_size_matches_where_the_desktop_itself_enlarges()
+    {
+        Screen.Pretend(QSize(800, 600));
+        Screen.SetScaledByDesktop(true);
+        const bool matches = IsScreenSize(800, 600);
+        Screen.SetScaledByDesktop(false);
+        QVERIFY(!matches);
+    }
+
     void a_size_whose_twips_overflow_is_failure_6()
     {
         Screen.Pretend(QSize(800, 600));

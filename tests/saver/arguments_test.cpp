@@ -132,9 +132,11 @@ private Q_SLOTS:
         row("/p -5", "/p takes the number of a window; not \"-5\".");
         row("-window-id 99999999999999999999",
             "-window-id takes the number of a window; not \"99999999999999999999\".");
+        row("--scale", "--scale needs a value.");
+        row("--scale 0.5", "--scale takes a number from 1 to 8, or fit, or auto; not \"0.5\".");
         row("--drive", "--drive needs a value.");
-        row("--drive C=/x",
-            "--drive takes a letter from D to Z and a folder, such as E=/media/disc; not \"C=/x\".");
+        row("--drive C=/x", "--drive takes a letter from D to Z and a folder or a disc image, such as "
+                            "E=/media/disc; not \"C=/x\".");
     }
 
     void what_is_wrong_is_told()

@@ -337,6 +337,43 @@ private Q_SLOTS:
         QCOMPARE(program_->Messages.Count(), reports);
     }
 
+    void a_picture_over_the_photo_that_is_missing_is_told_once()
+    {
+        Form1->picEmblem.Show();
+        Form1->picScript.Show();
+        Form1->picClipArt.Show();
+        QVERIFY(LeaveAt(u"68A"_s));
+        QStringList codes;
+        for (const MessageRequest& box : program_->Messages.Shown())
+            codes.append(box.Text.mid(14, 5));
+        QCOMPARE(codes.join(u' '), u"ER024 ER021 ER022"_s);
+        QVERIFY(Form1->picClipArt.Visible());
+        QVERIFY(!Form1->picEmblem.Visible());
+    }
+
+    void a_clip_art_that_is_still_missing_is_told_again_when_the_year_is_chosen_again()
+    {
+        Form1->picClipArt.Show();
+        QVERIFY(LeaveAt(u"68A"_s));
+        program_->Messages.Clear();
+        for (int time = 1; time <= 2; ++time) {
+            program_->Click(Form1->cmdYR(2));
+            QCOMPARE(program_->Messages.Count(), time);
+            QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER024"_s));
+        }
+    }
+
+    void a_missing_clip_art_is_told_on_the_way_back_by_the_exit_button_too()
+    {
+        program_->Click(Form1->cmdYR(2));
+        Form1->picClipArt.Show();
+        for (int time = 1; time <= 2; ++time) {
+            QVERIFY(InSlideShow(*program_, [&] { program_->Click(frmSlide->cmdExit); }));
+            QCOMPARE(program_->Messages.Count(), time);
+            QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER024"_s));
+        }
+    }
+
     void stop_on_nothing_is_reported()
     {
         Form1->mnuArt(1).Click.Fire();

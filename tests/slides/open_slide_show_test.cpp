@@ -1,8 +1,13 @@
+#include "platform/paths/program_folder.h"
+#include "program/photo_list.h"
 #include "support/slide_visit.h"
 #include "support/test_class.h"
 #include "ui/forms/clock.h"
+#include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
 #include "windows/play_list_window.h"
+
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -75,6 +80,20 @@ private Q_SLOTS:
         }));
     }
 
+    void over_a_maximized_main_window_the_show_stands_exactly_on_it()
+    {
+        Form1->SetLeft(300);
+        Form1->SetTop(450);
+        Form1->SetWidth(9000);
+        Form1->SetHeight(7500);
+        QTRY_VERIFY(!Form1->IsSettling());
+        Form1->Window().setWindowState(Qt::WindowMaximized);
+        QTRY_VERIFY(Form1->Left() == 0.0 && !Form1->IsSettling());
+        const QRect covered = Form1->Window().windowHandle()->frameGeometry();
+        QVERIFY(InSlideShow(
+            *program_, [&] { QTRY_COMPARE(frmSlide->Window().windowHandle()->frameGeometry(), covered); }));
+    }
+
     void the_show_is_modal_and_marked_as_open()
     {
         QVERIFY(!state.SlideShowOpen);
@@ -104,6 +123,14 @@ private Q_SLOTS:
         }));
     }
 
+    void after_a_copy_of_the_photos_the_caption_is_that_of_the_year()
+    {
+        program_->AddToProgramFolder(u"Torviks/68A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
+        state.PhotoRoot = ProgramFolder();
+        BuildPhotoSet();
+        QVERIFY(InSlideShow(*program_, [] { QCOMPARE(ShownSlide(), u"68A.JPG, 1 of 1, 1968 "_s); }));
+    }
+
     void behind_a_title_without_photos_the_show_opens_on_nothing()
     {
         program_->Click(Form1->cmdYR(4)); // no photo of 1970 is on the disc
@@ -121,6 +148,35 @@ private Q_SLOTS:
         QCOMPARE(program_->Messages.Count(), 1);
         QCOMPARE(Form1->panYear.Caption(), u"1970"_s);
         QVERIFY(!ProgramIsEnding());
+    }
+
+    void on_a_title_without_photos_forward_stays_where_every_way_back_begins_data()
+    {
+        QTest::addColumn<QString>("press");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("back") << u"mmSlide(Prev)"_s << u"VCA.JPG, 7 of 7, Torvik Cookies "_s;
+        QTest::newRow("jump forward") << u"mmSlide(Step)"_s << u"67A.JPG, 1 of 7, 1967 "_s;
+        QTest::newRow("jump back") << u"mmSlide(Back)"_s << u"VCA.JPG, 7 of 7, Torvik Cookies "_s;
+        QTest::newRow("play") << u"mmSlide(Play)"_s << u"67A.JPG, 1 of 7, 1967 "_s;
+    }
+
+    void on_a_title_without_photos_forward_stays_where_every_way_back_begins()
+    {
+        QFETCH(QString, press);
+        QFETCH(QString, shown);
+        program_->Click(Form1->cmdYR(4));
+        program_->Messages.Clear();
+        QVERIFY(InSlideShow(*program_, [&] {
+            for (int time = 0; time < 3; ++time) {
+                program_->Press(Qt::Key_Period);
+                QCOMPARE(int(state.PhotoIndex), 8);
+                QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), u"8 of 7"_s);
+            }
+            ClickSlidePart(*program_, press);
+            Clock::Turn(press.contains(u"Play"_s) ? 2000 : 0);
+            QCOMPARE(ShownSlide(), shown);
+        }));
+        QCOMPARE(program_->Messages.Count(), 0);
     }
 
     void a_show_that_opens_on_nothing_runs_from_the_first_photo()

@@ -50,6 +50,21 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [] { QCOMPARE(Program::Focus(), u"SSCommand1"_s); }));
     }
 
+    void a_press_of_play_counts_in_every_later_show()
+    {
+        QVERIFY(InSlideShow(*program_, [&] { ClickSlidePart(*program_, u"mmSlide(Play)"_s); }));
+        QVERIFY(InSlideShow(*program_, [&] {
+            QVERIFY(state.SlidePlayPressed);
+            frmSlide->cmdExit.SetFocus();
+            program_->Click(frmSlide->Image1);
+            QCOMPARE(Program::Focus(), u"cmdExit"_s);
+            frmSlide->Activate.Fire();
+            QCOMPARE(Program::Focus(), u"cmdExit"_s);
+            program_->Click(frmSlide->panYear);
+            QCOMPARE(Program::Focus(), u"SSCommand1"_s);
+        }));
+    }
+
     void a_click_on_a_panel_brings_the_focus_back_data() { EachPanel(); }
 
     void a_click_on_a_panel_brings_the_focus_back()

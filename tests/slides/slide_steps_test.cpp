@@ -54,6 +54,7 @@ private Q_SLOTS:
         QFETCH(int, to);
         QVERIFY(InSlideShow(*program_, [&] {
             state.PhotoIndex = from;
+            frmSlide->cmdExit.SetFocus();
             ClickSlidePart(*program_, press);
             QCOMPARE(int(state.PhotoIndex), to);
             QCOMPARE(frmSlide->Image1.Picture().FileName(), state.PhotoFiles(to).mid(11));
@@ -198,6 +199,7 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [&] {
             program_->Disc.Remove(u"Torviks/67B.JPG"_s);
             state.PhotoIndex = from;
+            frmSlide->cmdExit.SetFocus();
             ClickSlidePart(*program_, press);
             QCOMPARE(program_->Messages.Count(), 1);
             QCOMPARE(program_->Messages.Last().Text,

@@ -116,6 +116,7 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [&] {
             ClickSlidePart(*program_, playButton);
             Clock::Turn(2000);
+            frmSlide->cmdExit.SetFocus();
             ClickSlidePart(*program_, pauseButton);
             QCOMPARE(EnabledButtons(), u"Prev Next Play Back Step Stop"_s);
             for (const Control* control : std::initializer_list<const Control*>{
@@ -223,10 +224,12 @@ private Q_SLOTS:
     {
         QVERIFY(InSlideShow(*program_, [&] {
             for (const char* caption : {"2 seconds", "3 seconds", "4 seconds", "5 seconds", "10 seconds"}) {
+                frmSlide->cmdExit.SetFocus();
                 ClickSlidePart(*program_, u"SpinInterval(Up)"_s);
                 QCOMPARE(frmSlide->panInterval.Caption(), QString::fromLatin1(caption));
                 QCOMPARE(Program::Focus(), u"SSCommand1"_s);
             }
+            frmSlide->cmdExit.SetFocus();
             ClickSlidePart(*program_, u"SpinInterval(Down)"_s);
             QCOMPARE(frmSlide->panInterval.Caption(), u"5 seconds"_s);
             QCOMPARE(state.SlideDelay, 5000);

@@ -53,29 +53,89 @@ private Q_SLOTS:
         QVERIFY(ReadCommandLine({u"-v"_s}).Version);
     }
 
+    void the_program_is_silent_unless_it_is_asked_to_talk()
+    {
+        QVERIFY(!ReadCommandLine({u"/discs/one"_s}).Verbose);
+        const CommandLine line = ReadCommandLine({u"--verbose"_s, u"/discs/one"_s});
+        QVERIFY(line.Verbose);
+        QCOMPARE(line.Drives.first().Folder, u"/discs/one"_s);
+        QVERIFY(line.Problem.isEmpty());
+    }
+
+    void the_scale_is_a_factor_or_a_word()
+    {
+        QCOMPARE(ReadCommandLine({}).Scale, QString());
+        for (const QString& scale : {u"2"_s, u"1.25"_s, u"fit"_s, u"auto"_s}) {
+            QCOMPARE(ReadCommandLine({u"--scale"_s, scale}).Scale, scale);
+            QCOMPARE(ReadCommandLine({u"--scale="_s + scale}).Problem, QString());
+        }
+    }
+
     void what_is_wrong_is_said_data()
     {
         QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("letter C") << QStringList{u"--drive"_s, u"C=/x"_s};
-        QTest::newRow("no letter") << QStringList{u"--drive"_s, u"/x"_s};
-        QTest::newRow("no folder") << QStringList{u"--drive"_s, u"E="_s};
-        QTest::newRow("no value") << QStringList{u"--drive"_s};
-        QTest::newRow("no program folder") << QStringList{u"--program-folder"_s};
-        QTest::newRow("no print folder") << QStringList{u"--print-to"_s};
-        QTest::newRow("unknown option") << QStringList{u"--frobnicate"_s};
+        QTest::addColumn<QString>("problem");
+        const auto drive = [](const QString& text) {
+            return u"--drive takes a letter from D to Z and a folder, such as E=/media/disc; not \"%1\"."_s
+                .arg(text);
+        };
+        QTest::newRow("letter C") << QStringList{u"--drive"_s, u"C=/x"_s} << drive(u"C=/x"_s);
+        QTest::newRow("no letter") << QStringList{u"--drive"_s, u"/x"_s} << drive(u"/x"_s);
+        QTest::newRow("no folder") << QStringList{u"--drive"_s, u"E="_s} << drive(u"E="_s);
+        QTest::newRow("the first of two") << QStringList{u"--drive=1"_s, u"--drive=2"_s} << drive(u"1"_s);
+        QTest::newRow("no value") << QStringList{u"--drive"_s} << u"Missing value after '--drive'."_s;
+        QTest::newRow("no program folder")
+            << QStringList{u"--program-folder"_s} << u"Missing value after '--program-folder'."_s;
+        QTest::newRow("no print folder")
+            << QStringList{u"--print-to"_s} << u"Missing value after '--print-to'."_s;
+        QTest::newRow("a scale too large")
+            << QStringList{u"--scale"_s, u"9"_s}
+            << u"--scale takes a number from 1 to 8, or fit, or auto; not \"9\"."_s;
+        QTest::newRow("an empty scale")
+            << QStringList{u"--scale="_s}
+            << u"--scale takes a number from 1 to 8, or fit, or auto; not \"\"."_s;
+        QTest::newRow("a value too many")
+            << QStringList{u"--verbose=1"_s} << u"Unexpected value after '--verbose'."_s;
+        QTest::newRow("unknown option")
+            << QStringList{u"--frobnicate"_s} << u"Unknown option 'frobnicate'."_s;
+        QTest::newRow("unknown letters") << QStringList{u"-x"_s} << u"Unknown option 'x'."_s;
     }
 
     void what_is_wrong_is_said()
     {
         QFETCH(QStringList, arguments);
-        QVERIFY(!ReadCommandLine(arguments).Problem.isEmpty());
+        QFETCH(QString, problem);
+        QCOMPARE(ReadCommandLine(arguments).Problem, problem);
+    }
+
+    void options_of_qt_are_not_taken_for_letters_of_our_own()
+    {
+        const CommandLine line =
+            ReadCommandLine({u"-reverse"_s, u"-stylesheet"_s, u"x.qss"_s, u"-platform"_s, u"offscreen"_s});
+        QVERIFY(!line.Help && !line.Version);
+    }
+
+    void help_is_given_whatever_else_is_wrong()
+    {
+        QVERIFY(ReadCommandLine({u"--frobnicate"_s, u"--help"_s}).Help);
+        QVERIFY(ReadCommandLine({u"--drive"_s, u"C=/x"_s, u"--version"_s}).Version);
+    }
+
+    void what_stands_behind_two_dashes_is_a_folder()
+    {
+        const CommandLine line = ReadCommandLine({u"--"_s, u"--drive"_s});
+        QVERIFY(line.Problem.isEmpty());
+        QCOMPARE(line.Drives.size(), 1);
+        QCOMPARE(line.Drives.first().Folder, u"--drive"_s);
     }
 
     void the_help_names_every_option()
     {
         for (const QString& option :
-             {u"--drive"_s, u"--program-folder"_s, u"--print-to"_s, u"--help"_s, u"--version"_s, u"FOLDER"_s})
-            QVERIFY(HelpText().contains(option));
+             {u"[options] [FOLDER]"_s, u"--drive <LETTER=FOLDER>"_s, u"--program-folder <FOLDER>"_s,
+              u"--print-to <FOLDER>"_s, u"--scale <FACTOR>"_s, u"--verbose"_s, u"-h, --help"_s,
+              u"-v, --version"_s, u"FOLDER  "_s})
+            QVERIFY2(HelpText().contains(option), qPrintable(option));
     }
 };
 

@@ -2,6 +2,8 @@
 #include "platform/paths/program_folder.h"
 #include "platform/system/settings_store.h"
 #include "program/program_state.h"
+#include "runtime/logging.h"
+#include "support/logged_messages.h"
 #include "support/program.h"
 #include "support/test_class.h"
 #include "ui/forms/clock.h"
@@ -58,6 +60,62 @@ private Q_SLOTS:
         program_->Start();
         QCOMPARE(state.DiscRoot, u"F:"_s);
         QVERIFY(program_->Messages.Shown().isEmpty());
+    }
+
+    void each_drive_that_was_tried_is_logged_with_what_it_lacks()
+    {
+        TestDisc other;
+        other.AddFile(u"Torviks/readme.txt"_s, "no photo");
+        program_->Disc.AddGroup(u"67"_s, 1);
+        SetDriveOptions(
+            {{u'E', other.Folder()}, {u'F', u"/nowhere/at/all"_s}, {u'G', program_->Disc.Folder()}});
+        LoggedMessages log(u"torvik.disc"_s);
+        program_->Start();
+        const QString disc = u"torvik.disc: "_s;
+        QCOMPARE(log.Texts(), (QStringList{disc + ProgramFolder() + u" has no photo in Torviks"_s,
+                                           disc + u"drive D: stands for nothing"_s,
+                                           disc + u"D: cannot be searched: Device unavailable"_s,
+                                           disc + u"drive E: stands for "_s + other.Folder(),
+                                           disc + u"E: has no photo in Torviks"_s,
+                                           disc + u"drive F: stands for /nowhere/at/all"_s,
+                                           disc + u"F: cannot be searched: Device unavailable"_s,
+                                           disc + u"drive G: stands for "_s + program_->Disc.Folder(),
+                                           disc + u"G: has photos, the first is 67A.JPG"_s}));
+    }
+
+    void a_search_without_a_find_is_logged_as_one()
+    {
+        LoggedMessages log(u"torvik.disc"_s);
+        program_->Start();
+        QCOMPARE(log.Texts().last(), u"torvik.disc: no drive holds the disc"_s);
+    }
+
+    void where_photos_and_all_else_come_from_is_logged()
+    {
+        program_->Disc.AddGroup(u"67"_s, 2);
+        LoggedMessages log(u"torvik.start"_s);
+        program_->Start();
+        QCOMPARE(log.Texts(), QStringList(u"torvik.start: 2 photos from G:, all else from G:"_s));
+    }
+
+    void nothing_is_logged_unless_it_is_asked_for()
+    {
+        LoggedMessages log(u"torvik.disc"_s);
+        QLoggingCategory::setFilterRules({});
+        program_->Start();
+        QCOMPARE(log.Texts(), QStringList());
+    }
+
+    void all_is_logged_when_everything_is_asked_for()
+    {
+        LoggedMessages log(u"torvik.start"_s);
+        LogEverything();
+        for (const QLoggingCategory* category :
+             {&logStart(), &logDisc(), &logFiles(), &logMedia(), &logPrint()})
+            QVERIFY2(category->isDebugEnabled(), category->categoryName());
+        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->Start();
+        QCOMPARE(log.Texts().size(), 1);
     }
 
     void photos_beside_the_program_are_read_there_and_the_rest_from_the_disc()

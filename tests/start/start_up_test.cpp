@@ -13,11 +13,46 @@
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
+namespace {
+
+/// Lets the photo be lower than it is drawn.
+bool photoIsLow = false;
+
+void LowerPhoto(Form1Controls& form)
+{
+    if (photoIsLow)
+        form.Image4.SetHeight(400);
+}
+
+/// A disc that is not there at first, and is taken out again as soon as the splash comes back after a Retry.
+class DiscLostWithSplash : public QObject {
+public:
+    explicit DiscLostWithSplash(Program& program) : program_(program)
+    {
+        program_.PutDiscIn({});
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show && watched->objectName() == u"Form2"_s && ++shows_ == 2)
+            program_.PutDiscIn({});
+        return false;
+    }
+
+private:
+    Program& program_;
+    int shows_ = 0;
+};
+
+} // namespace
+
 /// From the splash to the main window.
 class StartUpTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { Form1.Bind(LowerPhoto); }
     void init()
     {
         program_ = std::make_unique<Program>();
@@ -152,6 +187,49 @@ private Q_SLOTS:
         QCOMPARE(Form1->Frame1.Top(), 504.0);
     }
 
+    void the_bar_comes_right_below_the_photo_however_high_that_is()
+    {
+        photoIsLow = true;
+        program_->SetScreen({1024, 768});
+        program_->StartBrowsing();
+        photoIsLow = false;
+        QCOMPARE(Form1->Image4.Height(), 400.0);
+        QCOMPARE(Form1->Frame1.Top(), Form1->Image4.Top() + 400 + 10);
+    }
+
+    void photos_that_cannot_be_listed_are_asked_about_and_retry_goes_on()
+    {
+        const DiscLostWithSplash lost(*program_);
+        program_->Messages.Answer(msgbox::answerRetry); // ER001: no disc yet
+        program_->Messages.Answer(msgbox::answerRetry); // ER037: gone again
+        QStringList codes;
+        NoteCodes(codes);
+        program_->Start();
+        QCOMPARE(codes.join(u' '), u"ER001 ER037"_s);
+        QCOMPARE(program_->Messages.Last().Style, 5);
+        QCOMPARE(int(state.PhotoCount), 3);
+        QVERIFY(Form2->Visible());
+        program_->PassSplash();
+        QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
+    }
+
+    void cancel_on_photos_that_cannot_be_listed_ends_with_the_splash_up()
+    {
+        const DiscLostWithSplash lost(*program_);
+        program_->Messages.Answer(msgbox::answerRetry);
+        program_->Messages.Answer(msgbox::answerCancel);
+        bool splash = false;
+        program_->Messages.WhenAsked([&] {
+            program_->PutDiscIn(u'G');
+            program_->Messages.WhenAsked([&] { splash = Form2.IsLoaded() && Form2->Visible(); });
+        });
+        program_->Start();
+        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER037"_s));
+        QVERIFY(splash);
+        QVERIFY(ProgramIsEnding());
+        QVERIFY(!Form1.IsLoaded());
+    }
+
     void the_year_lists_hold_all_years_in_order()
     {
         program_->StartBrowsing();
@@ -164,6 +242,16 @@ private Q_SLOTS:
     }
 
 private:
+    /// Puts the disc in at the first box and again at the second; keeps the code of each.
+    void NoteCodes(QStringList& codes)
+    {
+        program_->Messages.WhenAsked([this, &codes] {
+            codes.append(state.ErrorCode);
+            program_->PutDiscIn(u'G');
+            NoteCodes(codes);
+        });
+    }
+
     std::unique_ptr<Program> program_;
 };
 

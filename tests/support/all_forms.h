@@ -4,6 +4,7 @@
 #include "ui/forms/form_window.h"
 #include "windows/about_window.h"
 #include "windows/article_window.h"
+#include "windows/find_window.h"
 #include "windows/main_window.h"
 #include "windows/movie_window.h"
 #include "windows/page_window.h"
@@ -21,8 +22,8 @@ using namespace Qt::StringLiterals;
 inline void AddRowForEachForm()
 {
     QTest::addColumn<QString>("name");
-    for (const char* name :
-         {"Form2", "Form1", "txtForm", "frmSlide", "frmScroll", "frmMovie", "frmSSPhoto", "frmAbout"})
+    for (const char* name : {"Form2", "Form1", "txtForm", "frmSlide", "frmScroll", "frmMovie", "frmSSPhoto",
+                             "frmAbout", "frmFind"})
         QTest::newRow(name) << QString::fromLatin1(name);
 }
 
@@ -42,6 +43,8 @@ inline Form& FormNamed(Program& program, const QString& name)
         return *frmMovie;
     if (name == u"frmSSPhoto"_s)
         return *frmSSPhoto;
+    if (name == u"frmFind"_s)
+        return *frmFind;
     if (name == u"frmAbout"_s)
         return *frmAbout;
     return *Form1;

@@ -41,6 +41,7 @@ public:
     static bool Open(Form& form)
     {
         form.Show();
+        Form::PutAllOnScreen();
         const bool active = QTest::qWaitForWindowActive(&form.Window());
         Settle();
         return active;

@@ -2,7 +2,9 @@
 #include "support/ui_room.h"
 #include "ui/application.h"
 #include "ui/controls/button.h"
+#include "ui/forms/screen.h"
 
+#include <QIcon>
 #include <QImageReader>
 #include <QStyle>
 
@@ -39,6 +41,42 @@ private Q_SLOTS:
         QCOMPARE(QApplication::applicationDisplayName(), QApplication::applicationName());
         QCOMPARE(QApplication::palette().color(QPalette::Window), look::face);
         QVERIFY(QImageReader::allocationLimit() >= 1145); // MiB of 300 million pixels
+    }
+
+    void every_window_has_the_icon_in_the_sizes_of_desktops()
+    {
+        QWidget window;
+        QVERIFY(!window.windowIcon().isNull());
+        for (const int size : {16, 32, 48, 128})
+            QVERIFY(window.windowIcon().availableSizes().contains(QSize(size, size)));
+        QVERIFY(window.windowIcon().pixmap(32).toImage().pixelColor(16, 16).alpha() > 0);
+    }
+
+    void the_scale_is_the_factor_of_every_window_and_stays_in_the_program()
+    {
+        application_.reset();
+        application_ = std::make_unique<Application>(argc_, argv_, u"2.5"_s);
+        QCOMPARE(qApp->devicePixelRatio(), 2.5);
+        QVERIFY(!qEnvironmentVariableIsSet("QT_SCALE_FACTOR"));
+        QVERIFY(!Screen.IsScaledByDesktop());
+        QCOMPARE(Screen.Width(), 320 * 15.0); // of 800
+    }
+
+    void a_factor_of_the_desktop_is_taken_unless_another_is_asked_for()
+    {
+        qputenv("QT_SCALE_FACTOR", "2");
+        application_.reset();
+        application_ = std::make_unique<Application>(argc_, argv_);
+        const double taken = qApp->devicePixelRatio();
+        const bool isScaled = Screen.IsScaledByDesktop();
+        application_.reset();
+        application_ = std::make_unique<Application>(argc_, argv_, u"1"_s);
+        const double asked = qApp->devicePixelRatio();
+        qunsetenv("QT_SCALE_FACTOR");
+        QCOMPARE(taken, 2.0);
+        QVERIFY(isScaled);
+        QCOMPARE(asked, 1.0);
+        QVERIFY(Screen.IsScaledByDesktop());
     }
 
     void closing_windows_does_not_end_the_program() { QVERIFY(!QApplication::quitOnLastWindowClosed()); }

@@ -4,6 +4,7 @@
 #include "support/program.h"
 #include "support/test_class.h"
 #include "ui/forms/form_window.h"
+#include "ui/forms/program_end.h"
 #include "windows/about_window.h"
 #include "windows/main_window.h"
 
@@ -100,6 +101,16 @@ private Q_SLOTS:
             QVERIFY(frmAbout->Visible());
         }));
         QCOMPARE(desktop.Opened, QStringList{address});
+    }
+
+    void an_address_that_cannot_be_opened_is_passed_over_in_silence()
+    {
+        // Without a desktop there is nobody who takes an address.
+        Form1->mnuQuillonSoftware.Click.Fire();
+        QVERIFY(Visit([&] { program_->Click(frmAbout->SSCommand2); }));
+        QCOMPARE(program_->Messages.Count(), 0);
+        QVERIFY(Form1->Enabled());
+        QVERIFY(!ProgramIsEnding());
     }
 
     void the_menu_entry_opens_the_same_site()

@@ -2,6 +2,7 @@
 #include "program/task_bar.h"
 #include "support/program.h"
 #include "support/test_class.h"
+#include "ui/forms/form_window.h"
 #include "windows/main_window.h"
 
 using namespace Qt::StringLiterals;
@@ -57,12 +58,53 @@ private Q_SLOTS:
         QVERIFY(!Form1->CoversScreen());
     }
 
+    void a_users_own_change_of_size_brings_the_bar_back()
+    {
+        Form1->mnuHideStatus.Click.Fire();
+        program_->Settle();
+        QVERIFY(Form1->CoversScreen());
+        Form1->Window().resize(Form1->Window().width() - 50, Form1->Window().height() - 40);
+        program_->Settle();
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
+        QVERIFY(!Form1->CoversScreen());
+        QCOMPARE(state.ApiResult, 0); // it was hidden before
+    }
+
     void the_same_size_again_leaves_the_bar_hidden()
     {
         Form1->mnuHideStatus.Click.Fire();
         Form1->SetHeight(Form1->Height());
         program_->Settle();
         QCOMPARE(Form1->mnuHideStatus.Caption(), u"ShowStatusBar"_s);
+    }
+
+    void a_size_that_the_user_gives_after_the_desktop_ended_it_brings_the_bar_back_data()
+    {
+        QTest::addColumn<bool>("fromMaximized");
+        QTest::newRow("from an ordinary window") << false;
+        QTest::newRow("from a maximized window") << true;
+    }
+    void a_size_that_the_user_gives_after_the_desktop_ended_it_brings_the_bar_back()
+    {
+        QFETCH(bool, fromMaximized);
+        QTRY_VERIFY(!Form1->IsSettling());
+        if (fromMaximized) {
+            Form1->Window().setWindowState(Qt::WindowMaximized);
+            program_->Settle();
+            QTRY_VERIFY(!Form1->IsSettling());
+        }
+        Form1->mnuHideStatus.Click.Fire();
+        program_->Settle();
+        QTRY_VERIFY(Form1->Window().isFullScreen() && !Form1->IsSettling());
+        QCOMPARE(Form1->WindowState(), Form::State::Normal);
+        Form1->Window().setWindowState(Qt::WindowNoState);
+        QTRY_VERIFY(!Form1->CoversScreen() && !Form1->IsSettling());
+        QCOMPARE(Form1->mnuHideStatus.Caption(), u"ShowStatusBar"_s);
+        Form1->Window().resize(700, 500);
+        QTRY_COMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
+        QCOMPARE(Form1->Width(), 700 * 15.0);
+        Form1->mnuHideStatus.Click.Fire(); // and it can be hidden again
+        QVERIFY(Form1->CoversScreen());
     }
 
     void an_unknown_window_is_not_touched()

@@ -10,31 +10,26 @@ using namespace torvik;
 
 namespace {
 
-/// A registry with the two values that name the tool.
-class ToolRegistry : public Registry {
+/// A registry with the two values that name the tool, for as long as it lives.
+class ToolRegistry {
 public:
-    ToolRegistry() { SetRegistry(this); }
-    ~ToolRegistry() override { SetRegistry(nullptr); }
+    ToolRegistry()
+    {
+        SetRegistry([this](std::uint32_t /*root*/, const QString& key, const QString& name) {
+            const QString place = key + u'|' + name;
+            const bool isPath = place == u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO|PATH"_s;
+            const bool isFolder = place == u"SOFTWARE\\Microsoft\\Shared Tools Location|MSINFO"_s;
+            const QString text = isPath ? Path : isFolder ? Folder : QString();
+            return text.isEmpty() ? std::nullopt
+                                  : std::optional(RegistryValue{registry::text, text.toLocal8Bit()});
+        });
+    }
+    ~ToolRegistry() { SetRegistry({}); }
+    ToolRegistry(const ToolRegistry&) = delete;
+    ToolRegistry& operator=(const ToolRegistry&) = delete;
 
     QString Path;   ///< of the tool itself; empty for none
     QString Folder; ///< of the shared tools; empty for none
-
-    std::uint64_t OpenKey(std::uint32_t /*root*/, const QString& key, std::uint32_t /*access*/) override
-    {
-        if (key == u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"_s)
-            return 1;
-        return key == u"SOFTWARE\\Microsoft\\Shared Tools Location"_s ? 2 : 0;
-    }
-    bool QueryValue(std::uint64_t key, const QString& name, RegistryValue& value) override
-    {
-        if (key == 1 && name == u"PATH"_s && !Path.isEmpty())
-            value = {registry::text, Path.toLocal8Bit()};
-        else if (key == 2 && name == u"MSINFO"_s && !Folder.isEmpty())
-            value = {registry::text, Folder.toLocal8Bit()};
-        else
-            return false;
-        return true;
-    }
 };
 
 } // namespace

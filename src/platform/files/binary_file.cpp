@@ -1,8 +1,8 @@
 #include "platform/files/binary_file.h"
 
-#include "platform/files/system_failure.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/path_lookup.h"
+#include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 
 #include <cerrno>
@@ -26,12 +26,16 @@ void TellFullFilesByError()
 
 } // namespace
 
-BinaryInput::BinaryInput(const QString& path) : file_(HostPathBytes(path)) {}
+BinaryInput::BinaryInput(const QString& path)
+{
+    const Place place = PlaceOf(path);
+    file_ = place.On->Open(place.Path);
+}
 
 void BinaryInput::Read(QByteArray& buffer, qsizetype length)
 {
     for (qsizetype filled = 0; filled < length;) {
-        const qsizetype got = file_.Read(buffer.data() + filled, length - filled);
+        const qsizetype got = file_->Read(buffer.data() + filled, length - filled);
         if (got == 0)
             Fail(failure::inputPastEnd);
         filled += got;

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "platform/files/open_file.h"
+#include "platform/paths/volume.h"
 
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
 #include <string>
 
 namespace torvik {
@@ -22,7 +23,7 @@ public:
     void Read(QByteArray& buffer, qsizetype length);
 
 private:
-    OpenFile file_;
+    std::unique_ptr<OpenFile> file_;
 };
 
 /// A new file that is written from its beginning on. Paths are drive paths; failures are RunTimeError.

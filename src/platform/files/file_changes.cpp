@@ -2,10 +2,10 @@
 
 #include "platform/files/binary_file.h"
 #include "platform/files/files.h"
-#include "platform/files/system_failure.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/matching_names.h"
 #include "platform/paths/path_lookup.h"
+#include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 
 #include <algorithm>
@@ -67,9 +67,12 @@ void DeleteFilesMatching(const QString& pattern)
     const MatchingNames matching = NamesMatching(pattern);
     if (matching.Names.empty())
         Fail(failure::fileNotFound);
+    const auto folder = matching.Folder.On->HostPath(matching.Folder.Path);
+    if (!folder)
+        Fail(failure::pathFileAccess);
     int firstFailure = 0;
     for (const std::string& name : matching.Names) {
-        const int number = Unlink(matching.Folder + '/' + name);
+        const int number = Unlink(*folder + '/' + name);
         if (firstFailure == 0)
             firstFailure = number;
     }

@@ -25,8 +25,8 @@ void RemoveFolder(const QString& path);
 /// target; 75 when both are the same file.
 void ReplaceByCopy(const QString& source, const QString& target);
 
-/// Whether both paths lead to one existing file or folder, be it through links or other letter case. Never
-/// fails.
+/// Whether both paths lead to one existing file or folder of the host, be it through links or other letter
+/// case; what lies on an image cannot be written over, so it does not count. Never fails.
 bool IsSameFile(const QString& one, const QString& other);
 
 } // namespace torvik

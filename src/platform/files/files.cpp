@@ -1,13 +1,13 @@
 #include "platform/files/files.h"
 
-#include "platform/files/open_file.h"
-#include "platform/files/system_failure.h"
 #include "platform/paths/drives.h"
+#include "platform/paths/folder_index.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/matching_names.h"
 #include "platform/paths/name_pattern.h"
 #include "platform/paths/path_lookup.h"
 #include "runtime/failure.h"
+#include "runtime/logging.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -16,6 +16,8 @@
 #include <sys/stat.h>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik {
 
 namespace {
@@ -23,9 +25,13 @@ namespace {
 /// What fits into the address space of the machines that the program is made for.
 constexpr qint64 largestContent = std::numeric_limits<qint32>::max();
 
-bool Status(const std::string& path, struct stat& status)
+/// Of a file that claims to be longer than that the rest gets room when it comes.
+constexpr qint64 firstRoom = qint64{64} * 1024 * 1024;
+
+EntryStatus EntryAt(const QString& path)
 {
-    return stat(path.c_str(), &status) == 0;
+    const Place place = PlaceOf(path);
+    return place.On->Status(place.Path);
 }
 
 /// A number that is the same for names that differ in letter case alone, and mostly for no others.
@@ -64,6 +70,47 @@ void DropCaseClashes(std::vector<std::string>& names)
     std::erase(names, std::string());
 }
 
+/// The whole content of a file; on any thread.
+QByteArray ContentOf(const Place& place)
+{
+    const std::unique_ptr<OpenFile> file = place.On->Open(place.Path);
+    if (file->Length() > largestContent)
+        Fail(failure::outOfMemory);
+    try {
+        QByteArray content;
+        qsizetype filled = 0;
+        content.resize(static_cast<qsizetype>(std::min(file->Length(), firstRoom)) +
+                       1); // shows the end at once
+        for (;;) {
+            const qsizetype got = file->Read(content.data() + filled, content.size() - filled);
+            filled += got;
+            if (got == 0)
+                break;
+            if (filled == content.size())
+                content.resize(content.size() * 2); // longer than it said
+            if (filled > largestContent)
+                Fail(failure::outOfMemory);
+        }
+        content.truncate(filled);
+        return content;
+    } catch (const std::bad_alloc&) {
+        Fail(failure::outOfMemory);
+    }
+}
+
+/// What tells a folder of a disc image from others: which image that is, and when the folder was written.
+QString MarkInImage(const QString& path)
+{
+    QString mark;
+    ResumeNext([&] {
+        const Place place = PlaceOf(path);
+        const EntryStatus status = place.On->Status(place.Path);
+        if (status.IsFolder)
+            mark = u"%1 %2"_s.arg(reinterpret_cast<quintptr>(place.On.get())).arg(status.Written);
+    });
+    return mark;
+}
+
 } // namespace
 
 QStringList FilesMatching(const QString& pattern)
@@ -81,61 +128,56 @@ QString FindFile(const QString& patternOrPath)
 {
     if (NamePattern::HasWildcards(QStringView(patternOrPath).mid(BeginOfName(patternOrPath)))) {
         const QStringList names = FilesMatching(patternOrPath);
-        return names.isEmpty() ? QString() : names.first();
+        const QString first = names.isEmpty() ? QString() : names.first();
+        qCDebug(logFiles, "%s: %d found%s%s", qUtf8Printable(patternOrPath), int(names.size()),
+                first.isEmpty() ? "" : ", the first is ", qUtf8Printable(first));
+        return first;
     }
-    const std::string path = HostPathBytes(patternOrPath);
-    struct stat status {};
-    if (!Status(path, status) || !S_ISREG(status.st_mode))
+    const Place place = PlaceOf(patternOrPath);
+    EntryStatus status;
+    ResumeNext([&] { status = place.On->Status(place.Path); });
+    if (!status.IsFile)
         return {};
-    return NameFromHost(std::string_view(path).substr(path.rfind('/') + 1));
+    return NameFromHost(std::string_view(place.Path).substr(place.Path.rfind('/') + 1));
 }
 
 bool FileExists(const QString& path)
 {
-    bool exists = false;
-    ResumeNext([&] {
-        struct stat status {};
-        exists = Status(HostPathBytes(path), status) && S_ISREG(status.st_mode);
-    });
-    return exists;
+    EntryStatus status;
+    ResumeNext([&] { status = EntryAt(path); });
+    return status.IsFile;
 }
 
 qint64 FileLength(const QString& path)
 {
-    const std::string hostPath = HostPathBytes(path);
-    struct stat status {};
-    if (!Status(hostPath, status))
-        Fail(FailureOfSystem(errno, hostPath));
-    if (!S_ISREG(status.st_mode))
+    const EntryStatus status = EntryAt(path);
+    if (!status.IsFile)
         Fail(failure::fileNotFound);
-    return status.st_size;
+    return status.Length;
 }
 
 QByteArray ReadFile(const QString& path)
 {
-    const std::string hostPath = HostPathBytes(path);
-    OpenFile file(hostPath);
-    if (file.Length() > largestContent)
-        Fail(failure::outOfMemory);
-    try {
-        QByteArray content;
-        qsizetype filled = 0;
-        content.resize(static_cast<qsizetype>(file.Length()) + 1); // one more shows the end at once
-        for (;;) {
-            const qsizetype got = file.Read(content.data() + filled, content.size() - filled);
-            filled += got;
-            if (got == 0)
-                break;
-            if (filled == content.size())
-                content.resize(content.size() * 2); // longer than it said
-            if (filled > largestContent)
-                Fail(failure::outOfMemory);
-        }
-        content.truncate(filled);
-        return content;
-    } catch (const std::bad_alloc&) {
-        Fail(failure::outOfMemory);
-    }
+    return FileToRead(path)();
+}
+
+std::function<QByteArray()> FileToRead(const QString& path)
+{
+    return [place = PlaceOf(path)] { return ContentOf(place); };
+}
+
+QString FolderMark(const QString& path)
+{
+    std::optional<FolderStamp> stamp;
+    ResumeNext([&] { stamp = StampOf(HostPathBytes(path)); });
+    if (!stamp)
+        return MarkInImage(path);
+    return u"%1 %2 %3.%4 %5.%6"_s.arg(stamp->device)
+        .arg(stamp->number)
+        .arg(stamp->written.tv_sec)
+        .arg(stamp->written.tv_nsec)
+        .arg(stamp->altered.tv_sec)
+        .arg(stamp->altered.tv_nsec);
 }
 
 void MakeFolder(const QString& path)

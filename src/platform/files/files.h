@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace torvik {
 
 /// Calls on the file system. All paths are drive paths (platform/drives.h); failures are RunTimeError.
@@ -29,6 +31,14 @@ qint64 FileLength(const QString& path);
 /// The whole content. Failures: 53, 76, 68, 70 Permission denied or 75 (not readable, a folder),
 /// 57 Device I/O error while reading, 67 Too many files, 7 Out of memory (also for 2 GiB and more).
 QByteArray ReadFile(const QString& path);
+
+/// A file that is looked up now, to be read later on any thread. The look-up fails as ReadFile's does; the
+/// reading fails by 53, 76, 68, 70, 75, 57, 67 and 7.
+std::function<QByteArray()> FileToRead(const QString& path);
+
+/// A text that tells one state of a folder from another: another medium, or other names in it. Empty when
+/// there is no such folder. Never fails.
+QString FolderMark(const QString& path);
 
 /// Creates a folder. Failures: 75 when it exists already or cannot be made, 76 when its parent is missing.
 void MakeFolder(const QString& path);

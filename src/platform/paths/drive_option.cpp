@@ -17,7 +17,8 @@ std::optional<DriveOption> ReadDriveOption(const QString& text)
 
 QString DriveOptionProblem(const QString& text)
 {
-    return u"--drive takes a letter from D to Z and a folder, such as E=/media/disc; not \"%1\"."_s.arg(text);
+    return u"--drive takes a letter from D to Z and a folder or a disc image, such as E=/media/disc; not \"%1\"."_s
+        .arg(text);
 }
 
 } // namespace torvik

@@ -6,8 +6,8 @@
 
 namespace torvik {
 
-/// Reads what stands behind --drive: a letter from D to Z and a folder of the host, "E=/media/disc" or
-/// "e:=/media/disc". Nothing when the text is no such thing.
+/// Reads what stands behind --drive: a letter from D to Z and a folder or a disc image of the host,
+/// "E=/media/disc" or "e:=/media/disc". Nothing when the text is no such thing.
 std::optional<DriveOption> ReadDriveOption(const QString& text);
 
 /// What is wrong with a text that ReadDriveOption does not take, in words for the user.

@@ -1,16 +1,21 @@
 #include "platform/paths/drives.h"
 
+#include "platform/paths/folder_volume.h"
 #include "platform/paths/host_name.h"
+#include "platform/paths/image_volume.h"
+#include "platform/paths/mounted_media.h"
 #include "platform/paths/path_lookup.h"
 #include "platform/paths/program_folder.h"
-#include "platform/paths/volumes.h"
 #include "runtime/failure.h"
+#include "runtime/logging.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -21,15 +26,19 @@ namespace {
 constexpr char16_t firstLetter = u'D';
 constexpr char16_t lastLetter = u'Z';
 
-/// The host's folder of each letter from D to Z, without a closing slash; empty where there is none.
-/// The host's root is "/" here.
-using DriveTable = std::array<std::string, lastLetter - firstLetter + 1>;
+/// What a letter stands for: the host's folder or image, without a closing slash but for the root "/".
+struct Drive {
+    std::string host; ///< empty when the letter stands for nothing
+    std::shared_ptr<const Volume> volume;
+};
+using DriveTable = std::array<Drive, lastLetter - firstLetter + 1>;
+using HostTable = std::array<std::string, lastLetter - firstLetter + 1>;
 
-DriveTable ofOptions;
+HostTable ofOptions;
 DriveTable drives;
 VolumeLister volumeLister = nullptr;
 
-std::size_t Place(QChar letter)
+std::size_t IndexOf(QChar letter)
 {
     return static_cast<std::size_t>(letter.unicode() - firstLetter);
 }
@@ -40,7 +49,7 @@ bool IsDriveLetter(QChar letter)
 }
 
 /// Gives the first free letter to the folder; with all letters taken the folder gets none.
-void PutAtFirstFree(DriveTable& table, const std::string& folder)
+void PutAtFirstFree(HostTable& table, const std::string& folder)
 {
     const auto free = std::find(table.begin(), table.end(), std::string());
     if (free != table.end())
@@ -52,17 +61,35 @@ std::string AbsoluteFolder(const QString& folder)
     return NameToHost(QDir::cleanPath(QDir::current().absoluteFilePath(folder)));
 }
 
-/// The folder of a letter as the beginning of a path: the root is the empty text. Failure 68 when there is
-/// none.
-std::string DriveRoot(QChar letter)
+/// What is a file is the image of a disc; all else is a folder, also one that is not there at present.
+std::shared_ptr<const Volume> VolumeAt(const std::string& host)
 {
+    struct stat status {};
+    if (stat(host.c_str(), &status) == 0 && S_ISREG(status.st_mode))
+        return std::make_shared<ImageVolume>(host);
+    return std::make_shared<FolderVolume>(host == "/" ? std::string() : host);
+}
+
+DriveTable DrivesOf(const HostTable& hosts)
+{
+    DriveTable table;
+    for (std::size_t place = 0; place < hosts.size(); ++place) {
+        if (!hosts[place].empty())
+            table[place] = {hosts[place], VolumeAt(hosts[place])};
+    }
+    return table;
+}
+
+/// Failure 68 when the letter stands for nothing.
+std::shared_ptr<const Volume> VolumeOf(QChar letter)
+{
+    static const std::shared_ptr<const Volume> host = std::make_shared<FolderVolume>(std::string());
     const QChar upper = letter.toUpper();
     if (upper == u'C')
-        return {};
-    if (!IsDriveLetter(upper) || drives[Place(upper)].empty())
+        return host;
+    if (!IsDriveLetter(upper) || !drives[IndexOf(upper)].volume)
         Fail(failure::deviceUnavailable);
-    const std::string& folder = drives[Place(upper)];
-    return folder == "/" ? std::string() : folder;
+    return drives[IndexOf(upper)].volume;
 }
 
 bool IsDrivePath(QStringView path)
@@ -76,7 +103,6 @@ bool IsDrivePath(QStringView path)
 /// Adds what stands behind the drive's letter to `path`, component by component.
 void AppendComponents(std::string& path, QStringView components)
 {
-    const std::size_t rootLength = path.size();
     qsizetype begin = 0;
     while (begin < components.size()) {
         qsizetype end = begin;
@@ -85,7 +111,7 @@ void AppendComponents(std::string& path, QStringView components)
         const QStringView component = components.mid(begin, end - begin);
         begin = end + 1;
         if (component == u"..") {
-            if (path.size() > rootLength)
+            if (!path.empty())
                 path.resize(path.rfind('/'));
         } else if (!component.isEmpty() && component != u".") {
             path.push_back('/');
@@ -94,46 +120,62 @@ void AppendComponents(std::string& path, QStringView components)
     }
 }
 
+void LogLookUp(const QString& drivePath, const Place& place)
+{
+    const auto host = place.On->HostPath(place.Path);
+    const QString found =
+        host ? HostText(host->empty() ? "/" : *host) : DriveFolder(drivePath[0]) + HostText(place.Path);
+    const bool isThere = ResumeNext([&] { place.On->Status(place.Path); }) == 0;
+    qCDebug(logFiles, "%s is %s%s", qUtf8Printable(drivePath), qUtf8Printable(found),
+            isThere ? "" : ", which is not there");
+}
+
+/// The folder "disc" or the image "disc.iso" in the program folder, else beside the executable: an installed
+/// disc lies there, where the program folder need not be. Empty when there is none.
+std::string EmbeddedDisc()
+{
+    for (const QString& folder : {ProgramFolder(), DrivePath(QCoreApplication::applicationDirPath())}) {
+        const std::string disc = HostPathBytes(folder + u"\\disc"_s);
+        if (QFileInfo(HostText(disc)).isDir())
+            return disc;
+        const std::string image = HostPathBytes(folder + u"\\disc.iso"_s);
+        if (QFileInfo(HostText(image)).isFile())
+            return image;
+    }
+    return {};
+}
+
 } // namespace
 
 void SetDriveOptions(const QList<DriveOption>& options)
 {
-    DriveTable table;
+    HostTable table;
     for (const DriveOption& option : options) {
         if (option.Letter.isNull())
             continue;
         if (!IsDriveLetter(option.Letter.toUpper()))
             Fail(failure::invalidCall);
-        table[Place(option.Letter.toUpper())] = AbsoluteFolder(option.Folder);
+        table[IndexOf(option.Letter.toUpper())] = AbsoluteFolder(option.Folder);
     }
     for (const DriveOption& option : options) {
         if (option.Letter.isNull())
             PutAtFirstFree(table, AbsoluteFolder(option.Folder));
     }
     ofOptions = table;
-    drives = table;
+    drives = DrivesOf(table);
     ForgetFolders();
 }
 
 void RefreshDrives()
 {
     ForgetFolders();
-    drives = ofOptions;
+    HostTable hosts = ofOptions;
     const QList<QString> volumes = volumeLister ? volumeLister() : MountedMedia();
     for (const QString& volume : volumes)
-        PutAtFirstFree(drives, NameToHost(volume));
-
-    std::string& last = drives.back();
-    if (!last.empty())
-        return;
-    // An installed disc lies beside the executable, where the program folder need not be.
-    for (const QString& folder : {ProgramFolder(), DrivePath(QCoreApplication::applicationDirPath())}) {
-        const std::string embedded = HostPathBytes(folder + u"\\disc"_s);
-        if (QDir(HostText(embedded)).exists()) {
-            last = embedded;
-            return;
-        }
-    }
+        PutAtFirstFree(hosts, NameToHost(volume));
+    if (hosts.back().empty())
+        hosts.back() = EmbeddedDisc();
+    drives = DrivesOf(hosts);
 }
 
 QString DriveFolder(QChar letter)
@@ -141,7 +183,7 @@ QString DriveFolder(QChar letter)
     const QChar upper = letter.toUpper();
     if (upper == u'C')
         return u"/"_s;
-    return IsDriveLetter(upper) ? HostText(drives[Place(upper)]) : QString();
+    return IsDriveLetter(upper) ? HostText(drives[IndexOf(upper)].host) : QString();
 }
 
 void SetVolumeLister(VolumeLister lister)
@@ -149,16 +191,28 @@ void SetVolumeLister(VolumeLister lister)
     volumeLister = lister;
 }
 
-std::string HostPathBytes(const QString& drivePath)
+Place PlaceOf(const QString& drivePath)
 {
     if (!IsDrivePath(drivePath))
         Fail(failure::badFileName);
-    std::string path = DriveRoot(drivePath[0]);
-    const std::string root = path;
-    path.reserve(root.size() + static_cast<std::size_t>(drivePath.size()));
+    std::shared_ptr<const Volume> volume = VolumeOf(drivePath[0]);
+    std::string path;
+    path.reserve(static_cast<std::size_t>(drivePath.size()));
     AppendComponents(path, QStringView(drivePath).mid(3));
-    std::string found = SpellingOnHost(root, path);
-    return found.empty() ? std::string("/") : found;
+    std::string spelling = volume->Spelling(path);
+    Place place{std::move(volume), std::move(spelling)};
+    if (logFiles().isDebugEnabled())
+        LogLookUp(drivePath, place);
+    return place;
+}
+
+std::string HostPathBytes(const QString& drivePath)
+{
+    const Place place = PlaceOf(drivePath);
+    const auto found = place.On->HostPath(place.Path);
+    if (!found)
+        Fail(failure::pathFileAccess);
+    return found->empty() ? std::string("/") : *found;
 }
 
 QString HostPath(const QString& drivePath)

@@ -10,7 +10,8 @@ constexpr char16_t escapeBase = 0xF700;
 
 bool IsEscape(char16_t unit)
 {
-    return unit == escapeBase + u'\\' || (unit >= escapeBase + 0x80 && unit <= escapeBase + 0xFF);
+    return unit == escapeBase + u'\\' || unit == standInBlank.unicode() ||
+           (unit >= escapeBase + 0x80 && unit <= escapeBase + 0xFF);
 }
 
 QChar Escape(char byte)

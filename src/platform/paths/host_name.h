@@ -12,6 +12,10 @@ namespace torvik {
 /// backslash inside a name, stand as a private character (U+F700 plus the byte), which survives a change of
 /// letter case; a name that holds such a character itself is written byte by byte.
 
+/// Stands for a blank where a path must have none: a name in which it takes a blank's place names the same
+/// file. No name of the host reads so by itself.
+inline constexpr QChar standInBlank = char16_t{0xF720};
+
 /// The text of a name of the host.
 QString NameFromHost(std::string_view name);
 /// The bytes of a name. A whole path of the host may be given as well.

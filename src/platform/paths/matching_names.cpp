@@ -1,12 +1,9 @@
 #include "platform/paths/matching_names.h"
 
 #include "platform/paths/drives.h"
-#include "platform/paths/folder_reader.h"
 #include "platform/paths/name_pattern.h"
-#include "runtime/failure.h"
 
 #include <algorithm>
-#include <cerrno>
 
 namespace torvik {
 
@@ -18,25 +15,14 @@ qsizetype BeginOfName(const QString& path)
 MatchingNames NamesMatching(const QString& pattern)
 {
     const qsizetype begin = BeginOfName(pattern);
-    MatchingNames matching{HostPathBytes(pattern.left(begin)), {}};
+    Place folder = PlaceOf(pattern.left(begin));
     const QStringView namePattern = QStringView(pattern).mid(begin);
     const NamePattern wanted(namePattern);
     const bool hiddenToo = namePattern.startsWith(u'.');
-
-    FolderReader reader(matching.Folder);
-    if (reader.Error() == ENOENT || reader.Error() == ENOTDIR)
-        return {};
-    reader.ForEach([&](std::string_view name, EntryKind kind) {
-        const bool isHidden = name.front() == '.' && !hiddenToo;
-        if (kind == EntryKind::Folder || kind == EntryKind::Other || isHidden || !wanted.Matches(name))
-            return;
-        std::string file(name);
-        if (kind == EntryKind::File || reader.Look(file) == EntryKind::File)
-            matching.Names.push_back(std::move(file));
+    std::vector<std::string> names = folder.On->Files(folder.Path, [&](std::string_view name) {
+        return (name.front() != '.' || hiddenToo) && wanted.Matches(name);
     });
-    if (reader.Error() != 0)
-        Fail(failure::pathFileAccess);
-    return matching;
+    return {std::move(folder), std::move(names)};
 }
 
 } // namespace torvik

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/paths/volume.h"
+
 #include <QString>
 
 #include <string>
@@ -9,7 +11,7 @@ namespace torvik {
 
 /// The files of a folder whose names match a pattern.
 struct MatchingNames {
-    std::string Folder; ///< of the host, without a closing slash; empty for its root
+    Place Folder;
     std::vector<std::string> Names;
 };
 

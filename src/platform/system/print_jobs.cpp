@@ -5,8 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -18,18 +16,6 @@ namespace torvik {
 QString DocumentsFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-}
-
-bool TakesJobs(const QString& printer)
-{
-    constexpr int patience = 5000; // milliseconds
-    QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
-    surroundings.insert(u"LC_ALL"_s, u"C"_s);
-    QProcess tool;
-    tool.setProcessEnvironment(surroundings);
-    tool.start(u"lpstat"_s, {u"-a"_s, printer});
-    return !tool.waitForFinished(patience) || !tool.readAllStandardOutput().startsWith(QByteArray(
-                                                  printer.toLocal8Bit() + " not accepting requests"));
 }
 
 QString NextJobFile(const QString& hostFolder)

@@ -7,10 +7,6 @@ namespace torvik {
 /// The folder of the host for this user's documents.
 QString DocumentsFolder();
 
-/// Whether a printer of the system takes jobs at the moment. The toolkit does not tell, and a job that is
-/// refused is lost without a word. True where the system's own tool cannot be asked.
-bool TakesJobs(const QString& printer);
-
 /// The host path for the next print job of a folder of the host: "job-1.pdf", or the first number behind it
 /// that is not taken. The folder is made when it is missing. Failure 76, Path not found, when it cannot be
 /// made.

@@ -47,6 +47,13 @@ QString StoredKey(const QString& section, const QString& key)
     return StoredName(section) + u'/' + StoredName(key);
 }
 
+void WriteNow(Store& store)
+{
+    store.sync();
+    if (store.status() == QSettings::AccessError)
+        Fail(failure::pathFileAccess);
+}
+
 } // namespace
 
 QString GetSetting(const QString& application, const QString& section, const QString& key,
@@ -66,9 +73,21 @@ void SaveSetting(const QString& application, const QString& section, const QStri
 {
     Store store(application);
     store.setValue(StoredKey(section, key), text.isNull() ? u""_s : text);
-    store.sync();
-    if (store.status() == QSettings::AccessError)
-        Fail(failure::pathFileAccess);
+    WriteNow(store);
+}
+
+void DeleteSetting(const QString& application, const QString& section, const QString& key)
+{
+    Store store(application);
+    if (!store.contains(StoredKey(section, key)))
+        return;
+    store.remove(StoredKey(section, key));
+    WriteNow(store);
+}
+
+QString SettingsPlace(const QString& application)
+{
+    return Store(application).fileName();
 }
 
 } // namespace torvik

@@ -13,4 +13,10 @@ QString GetSetting(const QString& application, const QString& section, const QSt
 /// Stores a text at once. Failure 75 when the store cannot be written.
 void SaveSetting(const QString& application, const QString& section, const QString& key, const QString& text);
 
+/// Where the settings of an application are kept, in words of this machine for people who mend them: the
+/// file.
+QString SettingsPlace(const QString& application);
+/// Takes a text out of the store, if it is there. Failure 75 when the store cannot be written.
+void DeleteSetting(const QString& application, const QString& section, const QString& key);
+
 } // namespace torvik

@@ -4,10 +4,13 @@
 #include "rtf/rtf_reader.h"
 #include "runtime/failure.h"
 #include "ui/desktop/shell_execute.h"
+#include "ui/look/look.h"
 
+#include <QMouseEvent>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTextBrowser>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QUrl>
 
@@ -38,6 +41,7 @@ void RichTextBox::SetFileName(const QString& path)
         Fail(failure::invalidFileFormat);
     rtf::ReadRichText(bytes, *document);
 
+    pane_->setExtraSelections({});
     QTextDocument* shown = document.release();
     shown->setParent(pane_);
     const QPointer<QTextDocument> earlier = pane_->document(); // the pane's own first one it deletes itself
@@ -58,6 +62,51 @@ QString RichTextBox::Text() const
 const QTextDocument& RichTextBox::Document() const
 {
     return *pane_->document();
+}
+
+void RichTextBox::SetMarks(const QList<TextRange>& pieces, qsizetype present)
+{
+    QList<QTextEdit::ExtraSelection> marks;
+    marks.reserve(pieces.size());
+    for (qsizetype index = 0; index < pieces.size(); ++index) {
+        QTextEdit::ExtraSelection mark;
+        mark.cursor = CursorAt(pieces[index].Begin);
+        mark.cursor.setPosition(static_cast<int>(pieces[index].End()), QTextCursor::KeepAnchor);
+        mark.format.setBackground(index == present ? look::presentMark : look::mark);
+        mark.format.setForeground(look::text);
+        marks.append(mark);
+    }
+    pane_->setExtraSelections(marks);
+}
+
+void RichTextBox::BringIntoView(const TextRange& piece)
+{
+    // The layout of a long document is made in steps; asked for its pages it is made to the end, and only
+    // then do the bars reach every line.
+    pane_->document()->pageCount();
+    const QRect begin = pane_->cursorRect(CursorAt(piece.Begin));
+    const QRect place = begin.united(pane_->cursorRect(CursorAt(piece.End())));
+    const QRect view = pane_->viewport()->rect();
+    QScrollBar& down = *pane_->verticalScrollBar();
+    QScrollBar& across = *pane_->horizontalScrollBar();
+    if (begin.top() < view.top() || place.bottom() > view.bottom())
+        down.setValue(down.value() + begin.top() - view.height() / 3); // with some lines above it
+    if (begin.left() < view.left() || place.right() > view.right())
+        across.setValue(across.value() + begin.left() - view.width() / 3);
+}
+
+QTextCursor RichTextBox::CursorAt(qsizetype place) const
+{
+    QTextCursor cursor(pane_->document());
+    cursor.setPosition(static_cast<int>(place));
+    return cursor;
+}
+
+bool RichTextBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease)
+        onLink_ = !pane_->anchorAt(static_cast<QMouseEvent*>(event)->pos()).isEmpty();
+    return Control::eventFilter(watched, event);
 }
 
 QString RichTextBox::AccessibleText() const

@@ -9,6 +9,7 @@ TextBox::TextBox(Container& container, const QString& name, const Twips& design,
 {
     edit_->setReadOnly(true);
     SetText(text);
+    connect(edit_, &QLineEdit::textChanged, this, [this] { Change.Fire(); });
 }
 
 QString TextBox::Text() const
@@ -28,8 +29,26 @@ QString TextBox::SelText() const
     return edit_->selectedText();
 }
 
+void TextBox::SelectAll()
+{
+    edit_->selectAll();
+}
+
+void TextBox::SetLocked(bool locked)
+{
+    edit_->setReadOnly(locked);
+}
+
+void TextBox::SetHint(const QString& hint)
+{
+    edit_->setPlaceholderText(hint);
+    UpdateAccessibleText();
+}
+
 QString TextBox::AccessibleText() const
 {
+    if (!edit_->placeholderText().isEmpty())
+        return edit_->placeholderText(); // its text is told as the content of the box
     return Text().trimmed().isEmpty() ? Control::AccessibleText() : Text();
 }
 

@@ -77,6 +77,13 @@ Control* Control::OfWidget(const QWidget* widget)
     return AllControls().value(widget);
 }
 
+Control* Control::AroundWidget(const QWidget* widget)
+{
+    while (widget != nullptr && OfWidget(widget) == nullptr)
+        widget = widget->isWindow() ? nullptr : widget->parentWidget();
+    return OfWidget(widget);
+}
+
 QString Control::Name() const
 {
     return widget_->objectName();
@@ -301,6 +308,11 @@ bool Control::PressedByKey(const QKeyEvent& event)
     if (self != nullptr)
         MouseReleased(isLeft ? mouse::left : mouse::right, true);
     return true;
+}
+
+void Control::PressKey(int code, int shift)
+{
+    KeyPressed(code, shift);
 }
 
 /// A handler that moved the focus away has used the key up: it must not act on this control as well.

@@ -19,9 +19,24 @@ inline constexpr int right = 2;
 inline constexpr int middle = 4;
 } // namespace mouse
 
+/// The sum in which a key's handler is told of Shift, Ctrl and Alt.
+namespace held {
+inline constexpr int shift = 1;
+inline constexpr int ctrl = 2;
+inline constexpr int alt = 4;
+} // namespace held
+
 /// Key codes as the handlers know them.
 namespace key {
+inline constexpr int enter = 13;
+inline constexpr int escape = 27;
 inline constexpr int space = 32;
+inline constexpr int pageUp = 33;
+inline constexpr int pageDown = 34;
+inline constexpr int up = 38;
+inline constexpr int down = 40;
+inline constexpr int letterF = 70;
+inline constexpr int f3 = 114;
 inline constexpr int comma = 188;
 inline constexpr int period = 190;
 } // namespace key
@@ -34,6 +49,8 @@ public:
 
     /// The control that a widget is; null for a widget that is none.
     static Control* OfWidget(const QWidget* widget);
+    /// The control that a widget is or is a part of; null when it is none.
+    static Control* AroundWidget(const QWidget* widget);
 
     QString Name() const;
 
@@ -71,6 +88,9 @@ public:
     /// Lets the Tab key come to a control that is no button, such as a picture: there space and Enter are the
     /// left click (the double click where that is bound), the Menu key or Shift+F10 the right mouse button.
     void SetTabStop();
+
+    /// A key was pressed on the control, as its code and shift state.
+    void PressKey(int code, int shift);
 
     Form& OwnerForm() const { return container_.OwnerForm(); }
     QWidget& Widget() const { return *widget_; }

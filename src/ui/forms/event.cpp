@@ -18,13 +18,14 @@ namespace {
 void ReportUntrapped(const RunTimeError& error)
 {
     try {
-        MsgBox(u"Run-time error '%1':\r\n\r\n%2"_s.arg(error.Number()).arg(error.Text()), msgbox::critical);
+        QString text = u"Run-time error '%1':\r\n\r\n%2"_s.arg(error.Number()).arg(error.Text());
+        if (!error.Hint().isEmpty())
+            text += u"\r\n\r\n"_s + error.Hint();
+        MsgBox(text, msgbox::critical);
         EndProgram();
     } catch (const ProgramEnd&) { // NOLINT(bugprone-empty-catch): the event loops are already told to end
     }
 }
-
-constexpr int internalError = 51;
 
 int runningHandlers = 0;
 
@@ -71,7 +72,7 @@ void RunHandler(const std::function<void()>& handler)
     } catch (const std::bad_alloc&) {
         ReportUntrapped(RunTimeError(failure::outOfMemory));
     } catch (const std::exception&) {
-        ReportUntrapped(RunTimeError(internalError));
+        ReportUntrapped(RunTimeError(failure::internalError));
     }
 }
 

@@ -7,14 +7,11 @@
 #include "ui/forms/program_end.h"
 
 #include <QApplication>
-#include <QDeadlineTimer>
-#include <QEventLoop>
-#include <QPointer>
-#include <QScreen>
 #include <QTimer>
-#include <QWindow>
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace torvik {
 
@@ -24,6 +21,7 @@ Form::Form(FormDesign design)
     WatchDisabledForms();
     settling_->setSingleShot(true);
     connect(settling_, &QTimer::timeout, this, &Form::Settle);
+    SetCaption(design_.Caption);
     place_.Width = design_.ClientWidth;
     place_.Height = design_.ClientHeight + FrameTwips();
     ApplySize();
@@ -47,47 +45,15 @@ void Form::Adopt(QObject& unseen)
 
 QString Form::Caption() const
 {
-    return window_->windowTitle();
+    return caption_;
 }
 
+/// Qt would put the program's name in the place of a title without a character.
 void Form::SetCaption(const QString& caption)
 {
-    window_->setWindowTitle(caption);
+    caption_ = caption;
+    window_->setWindowTitle(caption.isEmpty() ? u" "_s : caption);
     window_->setAccessibleName(caption.isEmpty() ? design_.Name : caption);
-}
-
-Form::State Form::WindowState() const
-{
-    if (window_->isMinimized())
-        return State::Minimized;
-    return window_->isMaximized() ? State::Maximized : State::Normal;
-}
-
-void Form::SetWindowState(State state)
-{
-    if (covering_ || state == WindowState())
-        return;
-    switch (state) {
-    case State::Normal:
-        window_->setWindowState(Qt::WindowNoState);
-        break;
-    case State::Minimized:
-        window_->setWindowState(Qt::WindowMinimized);
-        break;
-    case State::Maximized:
-        window_->setWindowState(Qt::WindowMaximized);
-        break;
-    }
-}
-
-void Form::CoverScreen(bool cover)
-{
-    if (cover == covering_)
-        return;
-    covering_ = cover;
-    window_->setWindowState(cover ? Qt::WindowFullScreen : Qt::WindowNoState);
-    if (!cover)
-        ApplySize();
 }
 
 std::int32_t Form::WindowNumber() const
@@ -95,101 +61,11 @@ std::int32_t Form::WindowNumber() const
     return static_cast<std::int32_t>(window_->winId());
 }
 
-bool Form::Visible() const
-{
-    return window_->isVisible();
-}
-
 void Form::SetEnabled(bool enabled)
 {
     enabled_ = enabled;
     if (!enabled)
         window_->ReleaseButtons();
-}
-
-void Form::ShowWindow()
-{
-    ApplyPlace();
-    if (FillsScreen())
-        window_->move(QApplication::primaryScreen()->geometry().topLeft());
-    window_->setWindowState(window_->windowState().setFlag(Qt::WindowFullScreen, covering_ || FillsScreen()));
-    window_->show();
-    window_->raise();
-    window_->activateWindow();
-    Unsettle();
-    if (!std::exchange(shownBefore_, true))
-        QMetaObject::invokeMethod(
-            this, [this] { Resize.Fire(); }, Qt::QueuedConnection);
-}
-
-void Form::Show()
-{
-    if (!Visible()) {
-        window_->setWindowModality(Qt::NonModal);
-        ShowWindow();
-    }
-    QueueActivate();
-    LeaveIfEnding();
-}
-
-void Form::ShowModal()
-{
-    if (Visible() || leaveModal_)
-        Fail(failure::alreadyModal);
-    const QPointer<FormWindow> below(dynamic_cast<FormWindow*>(QApplication::activeWindow()));
-    const QPointer<Form> self(this);
-    QEventLoop loop;
-    leaveModal_ = [&loop] { loop.quit(); };
-    window_->setWindowModality(Qt::ApplicationModal);
-    ApplyPlace();
-    window_->winId();
-    if (below != nullptr && below != window_ && below->windowHandle() != nullptr)
-        window_->windowHandle()->setTransientParent(below->windowHandle());
-    ShowWindow();
-    QueueActivate();
-
-    loop.exec(); // this form may be gone from here on
-    if (self != nullptr)
-        self->leaveModal_ = nullptr;
-    LeaveIfEnding();
-    if (below != nullptr && below->Owner() != nullptr) {
-        below->activateWindow();
-        below->Owner()->QueueActivate();
-    }
-}
-
-void Form::Hide()
-{
-    window_->hide();
-    if (leaveModal_)
-        std::exchange(leaveModal_, nullptr)();
-}
-
-void Form::ZOrder()
-{
-    window_->raise();
-}
-
-void Form::SetTopmost(bool topmost)
-{
-    if (window_->windowFlags().testFlag(Qt::WindowStaysOnTopHint) == topmost)
-        return;
-    const bool shown = Visible();
-    window_->setWindowFlag(Qt::WindowStaysOnTopHint, topmost); // takes the window off the screen
-    if (!shown)
-        return;
-    window_->show();
-    Unsettle();
-}
-
-void Form::Refresh()
-{
-    const QDeadlineTimer patience(250);
-    do
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
-    while (!patience.hasExpired() && window_->windowHandle() != nullptr &&
-           !window_->windowHandle()->isExposed());
-    LeaveIfEnding();
 }
 
 MousePointer Form::Pointer() const
@@ -220,10 +96,13 @@ void Form::QueueActivate()
         this, [this] { WindowActivated(); }, Qt::QueuedConnection);
 }
 
-void Form::EscapePressed()
+void Form::KeyPressed(int code, int shift)
 {
-    if (cancelButton_ != nullptr && cancelButton_->Visible() && cancelButton_->Enabled())
+    if (code == key::escape && cancelButton_ != nullptr && cancelButton_->Visible() &&
+        cancelButton_->Enabled())
         cancelButton_->Click.Fire();
+    else if (code != 0)
+        KeyDown.Fire(code, shift);
 }
 
 /// With its last form the program is over: without a window nobody could end it any more.
@@ -243,6 +122,7 @@ void Form::Retire()
 {
     window_->setObjectName({});
     window_->ReleaseButtons();
+    shown_ = false;
     window_->hide();
     window_->LetGo();
     handle_ = nullptr;

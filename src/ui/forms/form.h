@@ -6,6 +6,7 @@
 #include "ui/forms/units.h"
 
 #include <QDeadlineTimer>
+#include <QMargins>
 #include <QObject>
 #include <QPoint>
 #include <QSize>
@@ -14,6 +15,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QTimer;
@@ -45,11 +47,13 @@ struct FormDesign {
 /// A top-level window with its controls. A form derives from it as a struct of named controls.
 ///
 /// Width and Height are those of the client area plus a caption of 19 pixels and, where there is a menu bar,
-/// another 19: measures of the program's own, whatever the desktop draws around the window.
+/// another 19: measures of the program's own, whatever the desktop draws around the window. While the desktop
+/// shows the form maximized or full screen they are those with which an ordinary window covers the same area.
+///
+/// What a handler does to a form is one change for the desktop, made before the event loop turns again: a
+/// window that is shown first and sized afterwards comes up at its last size, place, state and title.
 class Form : public QObject, public Container {
 public:
-    /// Minimized and maximized are the user's doing; full screen covers panels and docks and keeps the
-    /// measures.
     enum class State { Normal, Minimized, Maximized };
 
     ~Form() override;
@@ -57,8 +61,8 @@ public:
     QString Caption() const;
     void SetCaption(const QString& caption);
 
-    /// All four in twips. Left and Top are those of the corner of the window with its frame: what the program
-    /// said last, or where the user put the window since.
+    /// All four in twips and of one moment. Left and Top are those of the corner of the window with its
+    /// frame: what the program said last, or where the user put the window since.
     double Left() const;
     double Top() const;
     double Width() const;
@@ -73,14 +77,15 @@ public:
 
     State WindowState() const;
     void SetWindowState(State state);
-    /// Covers the whole screen, or goes back; the form's measures stay and no Resize comes of it.
+    /// Covers the whole screen, panels and docks too, or goes back; the form's measures stay and no Resize
+    /// comes of it. The desktop may end it as well, without a Resize either.
     void CoverScreen(bool cover);
     bool CoversScreen() const { return covering_; }
 
     /// The desktop's number for the window.
     std::int32_t WindowNumber() const;
 
-    bool Visible() const;
+    bool Visible() const { return shown_; }
     /// Shows the form beside the others; one that is on the screen already only comes up again.
     void Show();
     /// Shows the form, lets it alone take input, and returns when it was unloaded or hidden. Failure 400 when
@@ -90,10 +95,15 @@ public:
     void Hide();
     /// Brings the window to the front.
     void ZOrder();
+    /// Brings the window to the front and has it take the keys.
+    void SetFocus();
     /// Keeps the window above the others of the desktop, or no longer; a request that a desktop may refuse.
     void SetTopmost(bool topmost);
     /// Has the window on the screen before the next statement runs; what the user does meanwhile waits.
     void Refresh();
+    /// Puts all forms on the screen that were shown and wait for the event loop: what comes up next stands
+    /// before them.
+    static void PutAllOnScreen();
 
     /// The mouse pointer over this form; that of the screen goes before it.
     MousePointer Pointer() const;
@@ -111,6 +121,7 @@ public:
     Event<> Activate; ///< the form came up, or is the active one again; may come twice for one showing
     Event<>
         Resize; ///< the form's measures changed, by the program or by the user, or it is shown the first time
+    Event<int, int> KeyDown;  ///< a key that none of the controls has used: its code, and the shift state
     Event<bool&> QueryUnload; ///< may set its argument to keep the form
     Event<> Unload;           ///< the form is about to go
 
@@ -125,7 +136,7 @@ public:
     const FormDesign& Design() const { return design_; }
     /// True while the program's placing of the window is still on its way through the desktop; its steps
     /// become no measures of the form.
-    bool IsSettling() const { return !settled_; }
+    bool IsSettling() const { return changing_ || !settled_; }
     /// True once the form was unloaded, although it lives on until the handlers that were running then are
     /// done.
     bool Retired() const { return handle_ == nullptr; }
@@ -140,19 +151,30 @@ private:
 
     double FrameTwips() const;
     bool FillsScreen() const;
+    bool IsOrdinary() const;
     QSize WantedSize() const;
     QPoint WantedPlace() const;
+    Qt::WindowStates WantedState() const;
+    void ComeUp();
+    void Place();
     void ApplySize();
     void ApplyPlace();
+    void Change();
+    void MakeChange();
+    void ShowWindow();
+    void ChangeWindow();
     void Unsettle();
+    void Watch();
     void Settle();
-    void TakePlace();
+    bool SettleOrdinary();
+    void TakeMeasures();
+    Twips CoveredMeasures() const;
     void WindowMoved();
     void WindowResized();
+    void WindowStateChanged();
     void WindowActivated();
-    void EscapePressed();
+    void KeyPressed(int code, int shift);
     void CloseRequested();
-    void ShowWindow();
     void QueueActivate();
     void Retire();
 
@@ -161,15 +183,22 @@ private:
     QTimer* settling_;
     FormWindow* window_;
     Control* cancelButton_ = nullptr;
+    QString caption_;
     Twips place_;
+    State state_ = State::Normal; ///< what the program asked for last
     bool enabled_ = true;
     int holds_ = 0; ///< how many stand
+    bool shown_ = false;
+    bool changing_ = false; ///< the desktop does not know of the last change yet
     bool covering_ = false;
+    bool uncovering_ = false; ///< what the desktop makes of the window now is no Resize
     bool shownBefore_ = false;
     bool settled_ = true;
+    bool placing_ = false; ///< it is the program's own change that settles
     int corrections_ = 0;
     QDeadlineTimer unsettledUntil_;
-    QPoint restsAt_; // where the settled window's frame was seen last
+    QPoint restsAt_;                     ///< where the settled window's frame was seen last
+    std::optional<QMargins> plainFrame_; ///< the desktop's frame around the ordinary window
     std::function<void()> leaveModal_;
 };
 

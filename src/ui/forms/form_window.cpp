@@ -1,13 +1,17 @@
 #include "ui/forms/form_window.h"
 
+#include "ui/forms/control.h"
 #include "ui/forms/form.h"
+#include "ui/forms/keys.h"
 #include "ui/forms/spoken_roles.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPointer>
+#include <QShortcut>
 
 namespace torvik {
 
@@ -26,8 +30,6 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
     InstallSpokenRoles();
     const FormDesign& design = form.Design();
     setObjectName(design.Name);
-    setAccessibleName(design.Caption.isEmpty() ? design.Name : design.Caption);
-    setWindowTitle(design.Caption);
     switch (design.Border) {
     case FormBorder::None:
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
@@ -45,11 +47,33 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
         menuBar_->setNativeMenuBar(false);
         menuBar_->setFixedHeight(menuHeight);
     }
+    WatchWithShift(Qt::Key_Comma, key::comma);
+    WatchWithShift(Qt::Key_Period, key::period);
+}
+
+/// With Shift these keys give other characters, which ones is a matter of the user's layout, and some layouts
+/// have a key of its own for "<" and ">". Only Qt's shortcuts know the key behind the character.
+void FormWindow::WatchWithShift(Qt::Key key, int code)
+{
+    auto* pressed = new QShortcut(Qt::SHIFT | key, this);
+    connect(pressed, &QShortcut::activated, this, [code] {
+        constexpr int shift = 1;
+        if (Control* control = Control::AroundWidget(QApplication::focusWidget()))
+            control->PressKey(code, shift);
+    });
 }
 
 FormWindow* FormWindow::LastActive()
 {
     return LastActiveWindow();
+}
+
+FormWindow* FormWindow::ToStandOver()
+{
+    if (auto* active = dynamic_cast<FormWindow*>(QApplication::activeWindow()))
+        return active;
+    FormWindow* last = LastActive();
+    return last != nullptr && last->isVisible() ? last : nullptr;
 }
 
 void FormWindow::ReleaseButtons()
@@ -64,6 +88,8 @@ bool FormWindow::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowBlocked)
         ReleaseButtons();
+    if (event->type() == changeWaits && form_ != nullptr)
+        form_->MakeChange();
     return QWidget::event(event);
 }
 
@@ -96,15 +122,17 @@ void FormWindow::closeEvent(QCloseEvent* event)
 
 void FormWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && form_ != nullptr)
-        form_->EscapePressed();
-    else
+    if (event->key() != Qt::Key_Escape)
         QWidget::keyPressEvent(event);
+    if (form_ != nullptr)
+        form_->KeyPressed(KeyCodeOf(*event), ShiftStateOf(*event)); // the window may be over behind it
 }
 
 void FormWindow::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && form_ != nullptr)
+        form_->WindowStateChanged();
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || form_ == nullptr)
         return;
     LastActiveWindow() = this;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QWidget>
 
 class QMenuBar;
@@ -14,6 +15,8 @@ class FormWindow : public QWidget {
 public:
     /// Height of the menu bar in pixels, as the form's measures count it.
     static constexpr int menuHeight = 19;
+    /// Waits in the window's queue while the desktop does not know of the form's last change.
+    static inline const auto changeWaits = static_cast<QEvent::Type>(QEvent::registerEventType());
 
     explicit FormWindow(Form& form);
 
@@ -24,6 +27,9 @@ public:
     Form* Owner() const { return form_; }
     /// The form's window that was active last; null when it is gone.
     static FormWindow* LastActive();
+    /// The form's window that a box or a modal form comes up over: the active one, else the one that was
+    /// active last; null when neither is on the screen.
+    static FormWindow* ToStandOver();
     void LetGo() { form_ = nullptr; }
     /// Lets go of every button that is held down, because its release will not come here.
     void ReleaseButtons();
@@ -37,6 +43,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void WatchWithShift(Qt::Key key, int code);
+
     Form* form_;
     QMenuBar* menuBar_ = nullptr;
     QWidget* client_;

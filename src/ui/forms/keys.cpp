@@ -8,18 +8,34 @@ namespace torvik {
 
 int KeyCodeOf(const QKeyEvent& event)
 {
+    // The decimal key of the keypad is another key.
+    const bool isKeypad = event.modifiers().testFlag(Qt::KeypadModifier);
+    // What assistive software types comes from no key of a keyboard: there the character alone tells.
+    const bool isTyped = event.nativeScanCode() == 0;
     switch (event.key()) {
     case Qt::Key_Comma:
-    case Qt::Key_Less:
-        return key::comma;
+        return isKeypad ? 0 : key::comma;
     case Qt::Key_Period:
+        return isKeypad ? 0 : key::period;
+    case Qt::Key_Less:
+        return isTyped ? key::comma : 0;
     case Qt::Key_Greater:
-        return key::period;
+        return isTyped ? key::period : 0;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return 13;
+        return key::enter;
     case Qt::Key_Escape:
-        return 27;
+        return key::escape;
+    case Qt::Key_PageUp:
+        return key::pageUp;
+    case Qt::Key_PageDown:
+        return key::pageDown;
+    case Qt::Key_Up:
+        return key::up;
+    case Qt::Key_Down:
+        return key::down;
+    case Qt::Key_F3:
+        return key::f3;
     default:
         break;
     }

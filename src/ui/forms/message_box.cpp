@@ -1,5 +1,6 @@
 #include "ui/forms/message_box.h"
 
+#include "ui/forms/form.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/program_title.h"
@@ -8,9 +9,11 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 
 #include <algorithm>
 #include <utility>
@@ -112,13 +115,45 @@ private:
     QPointer<QWidget> lender_;
 };
 
+/// A message box that is never narrower than what lies in it.
+class Box : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    /// Qt keeps a box within its own limits, some of which are below what its longest line needs.
+    void showEvent(QShowEvent* event) override
+    {
+        QMessageBox::showEvent(event);
+        const int wanted = std::min(layout()->totalMinimumSize().width(), screen()->availableSize().width());
+        if (wanted > width())
+            setFixedSize(wanted, layout()->totalHeightForWidth(wanted));
+    }
+};
+
+/// Makes the box so wide that no line of its text is broken, as far as the screen reaches.
+void MakeRoomForLines(QMessageBox& box)
+{
+    constexpr int besideText = 120; // pixels for icon, margins and the desktop's frame
+    const auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+    auto* rows = static_cast<QGridLayout*>(box.layout());
+    int row = 0;
+    int column = 0;
+    int rowSpan = 0;
+    int columnSpan = 0;
+    rows->getItemPosition(rows->indexOf(label), &row, &column, &rowSpan, &columnSpan);
+    const int width = std::min(label->sizeHint().width(), box.screen()->availableSize().width() - besideText);
+    rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), column);
+}
+
 /// Makes the box as wide as its title wants to be shown whole; around a short text it would be narrower. The
-/// desktop draws the title in a font of its own, mostly a bold one, between an icon and buttons.
+/// desktop draws the title in a font of its own, mostly a bold and larger one, between an icon and buttons.
 void MakeRoomForTitle(QMessageBox& box)
 {
     constexpr int iconAndButtons = 160; // pixels
     QFont font = box.font();
     font.setBold(true);
+    font.setPixelSize(font.pixelSize() * 5 / 4);
     const int width = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + iconAndButtons;
     auto* rows = static_cast<QGridLayout*>(box.layout());
     rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), 0, 1, rows->columnCount());
@@ -126,7 +161,9 @@ void MakeRoomForTitle(QMessageBox& box)
 
 int Ask(const MessageRequest& request)
 {
-    QMessageBox box(QApplication::activeWindow());
+    Form::PutAllOnScreen();
+    QWidget* active = QApplication::activeWindow();
+    Box box(active != nullptr ? active : FormWindow::ToStandOver());
     box.setObjectName(u"MsgBox"_s);
     box.setAccessibleName(request.Title);
     box.setWindowTitle(request.Title);
@@ -144,6 +181,7 @@ int Ask(const MessageRequest& request)
             box.setDefaultButton(button);
         answers.insert(button, choice.Answer);
     }
+    MakeRoomForLines(box);
     MakeRoomForTitle(box);
     const int onlyAnswer = answers.size() == 1 ? msgbox::answerOk : msgbox::answerCancel;
     const KeyboardLoan loan(box);

@@ -16,10 +16,14 @@ enum class MousePointer { Default = 0, Hourglass = 11 };
 /// The screen that the program runs on.
 class ScreenObject {
 public:
-    /// Size in twips: 15 to each of the desktop's pixels (those that windows are measured in, whatever the
-    /// display's scale factor).
+    /// Size in twips: 15 to each of the pixels that the program's windows are measured in, whatever the
+    /// factor by which they are enlarged.
     double Width() const;
     double Height() const;
+
+    /// Whether the desktop itself enlarges all programs, so that its pixels are not those of the display.
+    bool IsScaledByDesktop() const { return scaledByDesktop_; }
+    void SetScaledByDesktop(bool scaled) { scaledByDesktop_ = scaled; }
 
     MousePointer Pointer() const { return pointer_; }
     /// Sets the mouse pointer of all the program's windows.
@@ -43,6 +47,7 @@ private:
     QPointer<QObject> picture_;
     QPointer<QWidget> focusAtPress_; // in the picture's window
     std::optional<QSize> pretended_;
+    bool scaledByDesktop_ = false;
 };
 
 inline ScreenObject Screen;

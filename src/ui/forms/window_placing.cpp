@@ -1,13 +1,14 @@
 #include "ui/forms/form.h"
 #include "ui/forms/form_window.h"
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace torvik {
 
@@ -18,16 +19,24 @@ constexpr int calm = 60;          // milliseconds without news after which a win
 constexpr int longestUnsettled = 2000; // milliseconds
 constexpr int mostCorrections = 2;
 
-/// Enough of a window stays on the desktop to be taken hold of, whatever place was asked for.
+/// The place nearest to the wanted one at which enough of the window is on one screen to be taken hold of.
 QPoint KeptInReach(const QPoint& wanted, const QSize& size)
 {
     constexpr int grip = 64;
-    const QScreen* screen = QApplication::primaryScreen();
-    const QRect desktop = screen != nullptr ? screen->virtualGeometry() : QRect(wanted, size);
-    const int x =
-        std::clamp(wanted.x(), desktop.left() - std::max(0, size.width() - grip), desktop.right() - grip);
-    const int y = std::clamp(wanted.y(), desktop.top(), std::max(desktop.top(), desktop.bottom() - grip));
-    return {x, y};
+    QPoint nearest = wanted;
+    int shortest = std::numeric_limits<int>::max();
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect area = screen->geometry();
+        const int x =
+            std::clamp(wanted.x(), area.left() - std::max(0, size.width() - grip), area.right() - grip);
+        const int y = std::clamp(wanted.y(), area.top(), std::max(area.top(), area.bottom() - grip));
+        const int way = (QPoint(x, y) - wanted).manhattanLength();
+        if (way < shortest) {
+            shortest = way;
+            nearest = {x, y};
+        }
+    }
+    return nearest;
 }
 
 int RoundPixels(double twips)
@@ -50,7 +59,7 @@ double Form::FrameTwips() const
 /// window then covers what the desktop keeps at the edges.
 bool Form::FillsScreen() const
 {
-    const QScreen* screen = QApplication::primaryScreen();
+    const QScreen* screen = QGuiApplication::primaryScreen();
     return design_.Border == FormBorder::None && screen != nullptr && WantedSize() == screen->size();
 }
 
@@ -77,20 +86,20 @@ double Form::Height() const
 void Form::SetLeft(double left)
 {
     place_.Left = left;
-    ApplyPlace();
+    Place();
 }
 
 void Form::SetTop(double top)
 {
     place_.Top = top;
-    ApplyPlace();
+    Place();
 }
 
 void Form::SetWidth(double width)
 {
     const bool changes = RoundPixels(width) != RoundPixels(place_.Width);
     place_.Width = width;
-    ApplySize();
+    Place();
     if (changes)
         Resize.Call();
 }
@@ -99,7 +108,7 @@ void Form::SetHeight(double height)
 {
     const bool changes = RoundPixels(height) != RoundPixels(place_.Height);
     place_.Height = height;
-    ApplySize();
+    Place();
     if (changes)
         Resize.Call();
 }
@@ -129,107 +138,172 @@ QPoint Form::WantedPlace() const
     return KeptInReach({RoundPixels(place_.Left), RoundPixels(place_.Top)}, window_->size());
 }
 
-/// A window on the screen is told its place along with its size: a size alone would count from the client
-/// area, and before the desktop has framed the window its caption would end above the place.
+/// A window that is on the screen is told all its changes in one, other windows have them at once.
+void Form::Place()
+{
+    if (window_->isVisible()) {
+        Change();
+        return;
+    }
+    ApplySize();
+    ApplyPlace();
+}
+
 void Form::ApplySize()
 {
-    if (covering_)
-        return;
     if (design_.Border == FormBorder::Sizable) {
         window_->resize(WantedSize());
-    } else if (FillsScreen()) {
-        window_->setMinimumSize(0, 0); // the full-screen state may need another size
+    } else if (FillsScreen() || state_ == State::Maximized) {
+        window_->setMinimumSize(0, 0); // that state may need another size
         window_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         window_->resize(WantedSize());
     } else {
         window_->setFixedSize(WantedSize());
     }
-    if (window_->isVisible())
-        ApplyPlace();
 }
 
+/// The place is that of the frame, which the desktop may not have drawn yet: Qt's own reckoning of it would
+/// put the caption above the place.
 void Form::ApplyPlace()
 {
-    if (covering_)
-        return;
     const QPoint wanted = WantedPlace();
     window_->move(wanted);
-    if (!window_->isVisible())
-        return;
-    window_->windowHandle()->setFramePosition(wanted);
-    Unsettle();
+    if (window_->windowHandle() != nullptr)
+        window_->windowHandle()->setFramePosition(wanted);
 }
 
 /// Right after the program placed a window, the desktop frames and moves it in steps of its own. None of them
-/// is the user's doing, so none becomes the form's measure; when it is calm again, the result is looked at: a
-/// place that went wrong on the way is put right, but a size that differs then was given by the user or is
-/// one that the desktop insists on.
+/// is the user's doing, so none becomes the form's measure; when it is calm again, the result is looked at.
 void Form::Unsettle()
 {
-    settled_ = false;
+    Watch();
+    placing_ = true;
     corrections_ = mostCorrections;
+}
+
+/// Waits until the window is calm and looks at it then.
+void Form::Watch()
+{
+    settled_ = false;
     unsettledUntil_.setRemainingTime(longestUnsettled);
     settling_->start(calm);
 }
 
 void Form::Settle()
 {
-    const bool ordinary = window_->isVisible() && !window_->isFullScreen() && WindowState() == State::Normal;
-    if (ordinary && !unsettledUntil_.hasExpired()) {
-        if (!window_->windowHandle()->isExposed()) {
-            settling_->start(calm);
-            return;
-        }
-        const bool sized = window_->size() != WantedSize();
-        if (!sized && window_->pos() != WantedPlace() && corrections_ > 0) {
-            --corrections_;
-            window_->move(WantedPlace());
-            settling_->start(calm);
-            return;
-        }
-        if (sized)
-            TakePlace();
+    const bool onScreen = window_->isVisible() && !window_->isMinimized();
+    if (onScreen && !window_->windowHandle()->isExposed() && !unsettledUntil_.hasExpired()) {
+        settling_->start(calm);
+        return;
     }
+    if (onScreen && !changing_) {
+        if (covering_ && !window_->isFullScreen()) { // the desktop has ended it, or refuses it
+            covering_ = false;
+            uncovering_ = true;
+        }
+        if (IsOrdinary() && !SettleOrdinary())
+            return;
+        if (!window_->isFullScreen())
+            state_ = WindowState();
+        TakeMeasures();
+        uncovering_ = false;
+    }
+    placing_ = false;
     settled_ = true;
-    restsAt_ = window_->pos(); // a desktop may insist on a place; the form's own stays what the program said
-    WindowResized();
 }
 
-/// The user moved the window: from now on that is the form's place.
+/// A place that went wrong on the way is put right, but a size that differs was given by the user or is one
+/// that the desktop insists on, and with it its place. False while the window is on its way again.
+bool Form::SettleOrdinary()
+{
+    const QPoint now = window_->pos();
+    plainFrame_ = window_->windowHandle()->frameMargins();
+    if (!placing_)
+        return true;
+    const bool sized = window_->size() != WantedSize();
+    if (!sized && now != WantedPlace() && corrections_ > 0 && !unsettledUntil_.hasExpired()) {
+        --corrections_;
+        window_->move(WantedPlace());
+        settling_->start(calm);
+        return false;
+    }
+    restsAt_ = sized ? WantedPlace() : now; // a desktop may insist on a place; the form's own stays
+    return true;
+}
+
+/// What the user or the desktop made of the window is the form's measures from now on.
+void Form::TakeMeasures()
+{
+    if (covering_ || FillsScreen())
+        return;
+    const QPoint now = window_->pos();
+    Twips taken = place_;
+    if (!IsOrdinary()) {
+        taken = CoveredMeasures();
+    } else {
+        if (window_->size() != WantedSize()) {
+            const int menu = design_.HasMenu ? FormWindow::menuHeight : 0;
+            taken.Width = window_->width() * twipsPerPixel;
+            taken.Height = (window_->height() - menu) * twipsPerPixel + FrameTwips();
+        }
+        if (now != restsAt_) {
+            taken.Left = now.x() * twipsPerPixel;
+            taken.Top = now.y() * twipsPerPixel;
+        }
+    }
+    restsAt_ = now;
+    const bool resized = RoundPixels(taken.Width) != RoundPixels(place_.Width) ||
+                         RoundPixels(taken.Height) != RoundPixels(place_.Height);
+    place_ = taken;
+    if (resized && !uncovering_)
+        Resize.Fire();
+}
+
+/// The measures of an ordinary window that covers, with the frame that the desktop draws around such a one,
+/// what the maximized window covers now. A form that takes them over stands exactly on it, and when they are
+/// taken up again at the next start nothing runs off the screen.
+Twips Form::CoveredMeasures() const
+{
+    const QWindow& window = *window_->windowHandle();
+    const QRect covered = window.frameGeometry();
+    const QSize inside = covered.marginsRemoved(plainFrame_.value_or(window.frameMargins())).size();
+    const int menu = design_.HasMenu ? FormWindow::menuHeight : 0;
+    return {covered.x() * twipsPerPixel, covered.y() * twipsPerPixel, inside.width() * twipsPerPixel,
+            (inside.height() - menu) * twipsPerPixel + FrameTwips()};
+}
+
 void Form::WindowMoved()
 {
-    if (!settled_) {
+    if (!settled_)
         settling_->start(calm);
+    else if (!window_->isVisible() || changing_ || window_->isMinimized())
         return;
-    }
-    const QPoint now = window_->pos();
-    if (window_->isFullScreen() || !window_->isVisible() || WindowState() != State::Normal || now == restsAt_)
-        return;
-    restsAt_ = now;
-    TakePlace();
+    else if (!IsOrdinary())
+        Watch();
+    else if (window_->pos() != restsAt_)
+        TakeMeasures();
 }
 
-void Form::TakePlace()
-{
-    place_.Left = window_->pos().x() * twipsPerPixel;
-    place_.Top = window_->pos().y() * twipsPerPixel;
-}
-
-/// The desktop or the user sized the window; the program's own sizing has told its measures before.
+/// The program's own sizing has told its measures before.
 void Form::WindowResized()
 {
-    if (window_->size() == WantedSize())
+    if (!window_->isVisible() || changing_ || window_->isMinimized() || window_->size() == WantedSize())
         return;
-    if (!settled_) {
+    if (!settled_)
         settling_->start(calm);
-        return;
-    }
-    if (covering_ || !window_->isVisible() || window_->isMinimized())
-        return;
-    const int menu = design_.HasMenu ? FormWindow::menuHeight : 0;
-    place_.Width = window_->width() * twipsPerPixel;
-    place_.Height = (window_->height() - menu) * twipsPerPixel + FrameTwips();
-    Resize.Fire();
+    else if (!IsOrdinary())
+        Watch();
+    else
+        TakeMeasures();
+}
+
+/// The desktop tells of a new state before or after it sized the window.
+void Form::WindowStateChanged()
+{
+    if (!settled_)
+        settling_->start(calm);
+    else if (window_->isVisible() && !changing_)
+        Watch();
 }
 
 } // namespace torvik

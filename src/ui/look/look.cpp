@@ -39,6 +39,7 @@ QPalette ProgramPalette()
     palette.setColor(QPalette::HighlightedText, look::accentText);
     palette.setColor(QPalette::ToolTipBase, look::tip);
     palette.setColor(QPalette::ToolTipText, look::text);
+    palette.setColor(QPalette::PlaceholderText, look::faded);
     palette.setColor(QPalette::Link, QColor(0x1b, 0x3f, 0x8e));
     for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, look::faded);

@@ -22,6 +22,8 @@ inline constexpr QColor faded{0x58, 0x54, 0x4d};
 inline constexpr QColor accent{0x8e, 0x1b, 0x1f}; // the red of the script lettering
 inline constexpr QColor accentText{0xff, 0xff, 0xff};
 inline constexpr QColor paper{0xff, 0xff, 0xff};
+inline constexpr QColor mark{0xff, 0xe9, 0x9a};        // a found word among others
+inline constexpr QColor presentMark{0xf2, 0x9b, 0x1d}; // the one that the reader is at
 inline constexpr QColor tip{0xff, 0xfb, 0xe6};
 
 inline constexpr int bevelDepth = 2;      ///< thin lines of the bevel of a button or panel

@@ -4,10 +4,12 @@
 
 namespace torvik {
 
-std::unique_ptr<ByteSource> FileSource::Open(const std::string& hostPath)
+std::unique_ptr<ByteSource> FileSource::Open(const Place& place)
 {
+    if (!place.On)
+        return nullptr;
     try {
-        return std::make_unique<FileSource>(hostPath);
+        return std::make_unique<FileSource>(place.On->Open(place.Path));
     } catch (const RunTimeError&) {
         return nullptr;
     }
@@ -16,7 +18,7 @@ std::unique_ptr<ByteSource> FileSource::Open(const std::string& hostPath)
 qsizetype FileSource::Read(char* target, qsizetype room)
 {
     try {
-        return file_.Read(target, room);
+        return file_->Read(target, room);
     } catch (const RunTimeError&) {
         return -1;
     }
@@ -25,7 +27,7 @@ qsizetype FileSource::Read(char* target, qsizetype room)
 bool FileSource::SeekTo(qint64 place)
 {
     try {
-        file_.SeekTo(place);
+        file_->SeekTo(place);
         return true;
     } catch (const RunTimeError&) {
         return false;

@@ -3,6 +3,7 @@
 #include "av/media_stream.h"
 #include "platform/paths/drives.h"
 #include "runtime/failure.h"
+#include "runtime/logging.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/control.h"
 #include "ui/media/file_source.h"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -49,37 +51,38 @@ MediaControl::~MediaControl()
 
 void MediaControl::Command(const QString& word)
 {
-    const QString command = word.toLower();
-    if (command == u"open"_s)
-        Open();
-    else if (command == u"close"_s)
-        Close();
-    else if (command == u"play"_s)
-        Play();
-    else if (command == u"pause"_s)
-        Pause();
-    else if (command == u"stop"_s)
-        Halt(Mode::Stopped);
-    else if (command == u"prev"_s)
-        WhenReady([this] { GoTo(0); });
-    else if (command == u"next"_s)
-        WhenReady([this] { GoTo(length_); });
-    else if (command == u"back"_s)
-        WhenReady([this] { Step(-1); });
-    else if (command == u"step"_s)
-        WhenReady([this] { Step(1); });
-    else
+    struct Known {
+        QLatin1StringView word;
+        void (*run)(MediaControl& device);
+    };
+    static constexpr Known commands[] = {
+        {"open"_L1, [](MediaControl& device) { device.Open(); }},
+        {"close"_L1, [](MediaControl& device) { device.Close(); }},
+        {"play"_L1, [](MediaControl& device) { device.Play(); }},
+        {"pause"_L1, [](MediaControl& device) { device.Pause(); }},
+        {"stop"_L1, [](MediaControl& device) { device.Halt(Mode::Stopped); }},
+        {"prev"_L1, [](MediaControl& device) { device.WhenReady([&device] { device.GoTo(0); }); }},
+        {"next"_L1,
+         [](MediaControl& device) { device.WhenReady([&device] { device.GoTo(device.length_); }); }},
+        {"back"_L1, [](MediaControl& device) { device.WhenReady([&device] { device.Step(-1); }); }},
+        {"step"_L1, [](MediaControl& device) { device.WhenReady([&device] { device.Step(1); }); }},
+    };
+    const auto* known = std::find_if(std::begin(commands), std::end(commands), [&word](const Known& command) {
+        return word.compare(command.word, Qt::CaseInsensitive) == 0;
+    });
+    if (known == std::end(commands))
         Fail(failure::invalidProperty);
+    known->run(*this);
 }
 
 void MediaControl::Open()
 {
     Close();
-    std::string hostPath;
-    if (ResumeNext([&] { hostPath = HostPathBytes(fileName_); }) != 0)
-        hostPath.clear(); // a drive that is not there is a device without a medium
+    Place place; // stays empty for a drive that is not there: a device without a medium
+    ResumeNext([&] { place = PlaceOf(fileName_); });
+    qCDebug(logMedia, "%s opens %s", qUtf8Printable(objectName()), qUtf8Printable(fileName_));
     format_ = SoundOutput::PreferredFormat();
-    stream_ = std::make_unique<MediaStream>([hostPath] { return FileSource::Open(hostPath); }, format_);
+    stream_ = std::make_unique<MediaStream>([place] { return FileSource::Open(place); }, format_);
     mode_ = Mode::Stopped;
     ticks_->start();
     Changed.Fire();
@@ -180,6 +183,7 @@ void MediaControl::Tick()
         if (stream_->Progress() == MediaStream::State::Opening)
             return;
         if (stream_->Progress() == MediaStream::State::Failed) {
+            qCDebug(logMedia, "%s can play nothing of it", qUtf8Printable(objectName()));
             ticks_->stop();
             mode_ = Mode::NotOpen;
             Changed.Fire();

@@ -26,7 +26,6 @@ public:
     void Start(const SoundFormat& format);
     /// Cuts off what plays.
     void Stop();
-    bool IsRunning() const { return device_ != nullptr; }
     /// How many bytes can be written now; 0 while it is not running.
     qsizetype Room() const;
     void Write(const QByteArray& bytes);

@@ -1,7 +1,9 @@
 #include "ui/printer/printer.h"
 
 #include "platform/system/print_jobs.h"
+#include "platform/system/print_queue.h"
 #include "runtime/failure.h"
+#include "runtime/logging.h"
 #include "ui/forms/units.h"
 #include "ui/pictures/picture.h"
 #include "ui/printer/print_job.h"
@@ -85,9 +87,14 @@ QList<PrinterOption> PrinterObject::Choices() const
 std::unique_ptr<PrintJob> PrinterObject::MakeJob() const
 {
     const PrinterSetup setup = Setup();
-    if (setup.Name.isEmpty())
-        return std::make_unique<PrintJob>(setup, NextJobFile(FileFolder()));
+    if (setup.Name.isEmpty()) {
+        const QString file = NextJobFile(FileFolder());
+        qCDebug(logPrint, "a job goes to the file %s", qUtf8Printable(file));
+        return std::make_unique<PrintJob>(setup, file);
+    }
     const bool isThere = !QPrinterInfo::printerInfo(setup.Name).isNull();
+    qCDebug(logPrint, "a job is for the printer %s%s", qUtf8Printable(setup.Name),
+            isThere ? "" : ", which is not there");
     if (!isThere || !TakesJobs(setup.Name))
         Fail(failure::printerError);
     return std::make_unique<PrintJob>(setup);

@@ -22,8 +22,8 @@ class ProgramTest(unittest.TestCase):
     def make_disc(self, further=()):
         return SmallDisc(self.folder / "disc", further)
 
-    def make_screen(self, width=800, height=600, managed=True):
-        screen = Screen(width, height, managed)
+    def make_screen(self, width=800, height=600, managed=True, manager=None, monitors=1):
+        screen = Screen(width, height, managed, manager, monitors)
         self.addCleanup(screen.__exit__)
         return screen
 

@@ -1,20 +1,50 @@
 """A virtual screen with a window manager, and the hand of the user on it."""
 
 import os
+import re
 import subprocess
+from dataclasses import dataclass
 
+from support.managers import NONE, OPENBOX
 from support.waiting import wait_until
 
 # Whatever happens to the script, what it started ends with it.
 _ENDS_WITH_US = ["setpriv", "--pdeathsig", "KILL"]
 
 
+@dataclass(frozen=True)
+class Area:
+    left: int
+    top: int
+    width: int
+    height: int
+
+    @property
+    def right(self):
+        return self.left + self.width
+
+    @property
+    def bottom(self):
+        return self.top + self.height
+
+    @property
+    def middle(self):
+        return self.left + self.width / 2, self.top + self.height / 2
+
+    def holds(self, other):
+        return (self.left <= other.left and self.top <= other.top and
+                other.right <= self.right and other.bottom <= self.bottom)
+
+
 class Screen:
     """Measured in its own pixels, from the upper left corner."""
 
-    def __init__(self, width=800, height=600, managed=True):
-        """`managed` says whether a window manager runs on it."""
+    def __init__(self, width=800, height=600, managed=True, manager=None, monitors=1):
+        """A window manager runs on it, openbox unless told otherwise, or none. The monitors stand side by side
+        and are equally wide."""
         self.width, self.height = width, height
+        self.monitor = Area(0, 0, width // monitors, height)
+        self.manager = manager or (OPENBOX if managed else NONE)
         reading, writing = os.pipe()
         self._server = subprocess.Popen(
             [*_ENDS_WITH_US, "Xvfb", "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24",
@@ -27,7 +57,9 @@ class Screen:
             raise RuntimeError("Xvfb does not start")
         self.environment = {**os.environ, "DISPLAY": f":{number}", "QT_QPA_PLATFORM": "xcb"}
         self._helpers = [self._server]
-        if managed:
+        if monitors > 1:
+            self._divide(monitors)
+        if self.manager.command:
             self._start_manager()
 
     def __enter__(self):
@@ -38,9 +70,16 @@ class Screen:
             process.terminate()
             process.wait()
 
+    def _divide(self, monitors):
+        width = self.width // monitors
+        for index in range(monitors):
+            # Millimetres stand behind the pixels; the first monitor takes the server's one output.
+            self._run("xrandr", "--setmonitor", f"part{index}", f"{width}/300x{self.height}/200+{index * width}+0",
+                      "none" if index else "screen")
+
     def _start_manager(self):
         self._helpers.append(subprocess.Popen(
-            [*_ENDS_WITH_US, "openbox", "--sm-disable"], env=self.environment,
+            [*_ENDS_WITH_US, *self.manager.command], env=self.environment,
             stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         wait_until(self._is_managed, "the window manager")
 
@@ -71,6 +110,9 @@ class Screen:
         """Keys by their X names: "period", "Escape", "alt+F4"."""
         self._run("xdotool", "key", "--clearmodifiers", *keys)
 
+    def type_text(self, text):
+        self._run("xdotool", "type", "--clearmodifiers", "--delay", "20", text)
+
     def window_of(self, process):
         """The number of a process's one visible window."""
         def search():
@@ -90,9 +132,52 @@ class Screen:
 
     def place_of(self, window):
         """The left upper corner of a window without its frame."""
+        return self._geometry_of(window, "Absolute upper-left X", "Absolute upper-left Y")
+
+    def _property(self, window, name):
+        place = ["-root"] if window is None else ["-id", window]
+        return self._run("xprop", "-notype", *place, name).partition("=")[2].strip()
+
+    def _geometry_of(self, window, *names):
         answer = self._run("xwininfo", "-id", window)
         lines = dict(line.strip().split(":", 1) for line in answer.splitlines() if ":" in line)
-        return int(lines["Absolute upper-left X"]), int(lines["Absolute upper-left Y"])
+        return tuple(int(lines[name]) for name in names)
+
+    def size_of(self, window):
+        """Width and height of a window without its frame."""
+        return self._geometry_of(window, "Width", "Height")
+
+    def frame_of(self, window):
+        """The area of a window with what the manager draws around it."""
+        left, top = self.place_of(window)
+        width, height = self.size_of(window)
+        extents = self._property(window, "_NET_FRAME_EXTENTS")
+        before, behind, above, below = map(int, extents.split(",")) if extents else (0, 0, 0, 0)
+        return Area(left - before, top - above, width + before + behind, height + above + below)
+
+    def states_of(self, window):
+        """Such as MAXIMIZED_VERT, FULLSCREEN, ABOVE."""
+        return set(re.findall(r"_NET_WM_STATE_(\w+)", self._property(window, "_NET_WM_STATE")))
+
+    def has_icon(self, window):
+        return "Icon (" in self._property(window, "_NET_WM_ICON")
+
+    def work_area(self):
+        """The first monitor without the manager's panels."""
+        answer = self._property(None, "_NET_WORKAREA")
+        if not answer:
+            return self.monitor
+        left, top, width, height = map(int, answer.split(",")[:4])
+        return Area(left, top, min(left + width, self.monitor.right) - left, height)
+
+    def stack(self):
+        """The windows from the lowest to the highest, as far as there is a manager to tell."""
+        return [str(int(window, 16)) for window in
+                re.findall(r"0x[0-9a-f]+", self._property(None, "_NET_CLIENT_LIST_STACKING"))]
+
+    def change_state(self, window, change):
+        """Has the manager change the state of a window: "add,maximized_vert,maximized_horz"."""
+        self._run("wmctrl", "-i", "-r", hex(int(window)), "-b", change)
 
     def title_of(self, window):
         return self._run("xdotool", "getwindowname", window).rstrip("\n")

@@ -1,10 +1,12 @@
 #include "platform/files/files.h"
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
+#include "support/logged_messages.h"
 #include "support/ordinary_user.h"
 #include "support/test_class.h"
 
 #include <sys/resource.h>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -54,6 +56,24 @@ private Q_SLOTS:
         QVERIFY(!FileExists(On("b.jpg")));
         QVERIFY(!FileExists(On("c.jpg")));
         QVERIFY(!FileExists(On("d.jpg")));
+    }
+
+    void what_was_looked_for_is_logged_with_what_was_found()
+    {
+        const DiscFolder disc;
+        QVERIFY(disc.Folder("TORVIKS") && disc.File("TORVIKS/67a.Jpg"));
+        const QString host = QString::fromStdString(disc.Host("TORVIKS"));
+        LoggedMessages log(u"torvik.files"_s);
+        FindFile(On("Torviks\\*.jpg"));
+        FindFile(On("Torviks\\*.avi"));
+        FileExists(On("Torviks\\67A.JPG"));
+        FileExists(On("Torviks\\68A.JPG"));
+        const QString folder = u"torvik.files: "_s + On("Torviks\\");
+        QCOMPARE(log.Texts(),
+                 (QStringList{folder + u" is "_s + host, folder + u"*.jpg: 1 found, the first is 67a.Jpg"_s,
+                              folder + u" is "_s + host, folder + u"*.avi: 0 found"_s,
+                              folder + u"67A.JPG is "_s + host + u"/67a.Jpg"_s,
+                              folder + u"68A.JPG is "_s + host + u"/68A.JPG, which is not there"_s}));
     }
 
     void wildcards_stand_in_the_last_component_only()
@@ -312,6 +332,33 @@ private Q_SLOTS:
         QCOMPARE(truncate(disc.Host("huge").c_str(), length), 0);
         QCOMPARE(FileLength(On("huge")), length);
         QCOMPARE(FailureOf([] { ReadFile(On("huge")); }), failure::outOfMemory);
+    }
+
+    void a_file_is_looked_up_now_and_read_later_on_another_thread()
+    {
+        const DiscFolder disc;
+        QVERIFY(disc.File("Words.rtf", "some words"));
+        const auto read = FileToRead(On("WORDS.RTF"));
+        QByteArray content;
+        std::thread([&] { content = read(); }).join();
+        QCOMPARE(content, QByteArray("some words"));
+        QVERIFY(disc.Remove("Words.rtf"));
+        QCOMPARE(FailureOf([&] { read(); }), failure::fileNotFound);
+        QCOMPARE(FailureOf([] { FileToRead(u"Q:\\a"_s); }), failure::deviceUnavailable);
+    }
+
+    void the_mark_of_a_folder_changes_with_its_names_and_its_medium()
+    {
+        const DiscFolder disc;
+        QVERIFY(disc.Folder("RichText") && disc.Folder("Other"));
+        const QString before = FolderMark(On("richtext"));
+        QVERIFY(!before.isEmpty());
+        QCOMPARE(FolderMark(On("RichText")), before);
+        QVERIFY(FolderMark(On("Other")) != before);
+        QVERIFY(disc.File("RichText/new"));
+        QVERIFY(FolderMark(On("RichText")) != before);
+        QCOMPARE(FolderMark(On("None")), QString());
+        QCOMPARE(FolderMark(u"Q:\\RichText"_s), QString());
     }
 
     void a_folder_is_made_in_an_existing_one()

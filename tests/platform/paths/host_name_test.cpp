@@ -67,6 +67,19 @@ private Q_SLOTS:
         QCOMPARE(NameToHost(text), name.toStdString());
     }
 
+    void the_stand_in_for_a_blank_names_the_same_file()
+    {
+        QString name = u"my data"_s;
+        name.replace(u' ', standInBlank);
+        QVERIFY(!name.contains(u' '));
+        QCOMPARE(NameToHost(name), std::string("my data"));
+        QCOMPARE(NameToHost(name.toUpper()), std::string("MY DATA"));
+        QCOMPARE(NameFromHost("my data"), u"my data"_s);
+        const std::string itself = QString(standInBlank).toStdString();
+        QVERIFY(!NameFromHost(itself).contains(standInBlank));
+        QCOMPARE(NameToHost(NameFromHost(itself)), itself);
+    }
+
     void a_lone_surrogate_that_stands_for_nothing_does_not_crash()
     {
         QCOMPARE(NameToHost(QString(QChar(0xD800))), std::string("\xEF\xBF\xBD"));

@@ -18,7 +18,7 @@ private Q_SLOTS:
         for (const char* name : {"a.jpg", "A.JPG", "b.jpg", "c.rtf"})
             QVERIFY(disc.File(std::string("Torviks/") + name));
         MatchingNames matching = NamesMatching(u"E:\\TORVIKS\\*.Jpg"_s);
-        QCOMPARE(matching.Folder, disc.Host("Torviks"));
+        QCOMPARE(matching.Folder.Path, std::string("/Torviks"));
         std::sort(matching.Names.begin(), matching.Names.end());
         QCOMPARE(matching.Names, (std::vector<std::string>{"A.JPG", "a.jpg", "b.jpg"}));
     }

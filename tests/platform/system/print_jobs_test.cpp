@@ -101,47 +101,7 @@ private Q_SLOTS:
         QCOMPARE(kept.readAll(), QByteArray("kept"));
     }
 
-    void a_printer_takes_jobs_unless_the_system_says_no_data()
-    {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<bool>("takes");
-        QTest::newRow("accepting") << QByteArray("Laser accepting requests since Sat Nov 21 2026") << true;
-        QTest::newRow("not accepting")
-            << QByteArray("Laser not accepting requests since Sat Nov 21 2026 -\n\tRejecting Jobs") << false;
-        QTest::newRow("no answer") << QByteArray() << true;
-    }
-    void a_printer_takes_jobs_unless_the_system_says_no()
-    {
-        QFETCH(QByteArray, answer);
-        QFETCH(bool, takes);
-        const QTemporaryDir tools;
-        const QString tool = tools.filePath(u"lpstat"_s);
-        Write(tool, "#!/bin/sh\n[ \"$1 $2 $LC_ALL\" = '-a Laser C' ] && echo '" + answer + "'\n");
-        QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        const WithPath path(tools.path().toLocal8Bit());
-        QCOMPARE(TakesJobs(u"Laser"_s), takes);
-    }
-
-    void without_the_systems_tool_every_printer_takes_jobs()
-    {
-        const QTemporaryDir empty;
-        const WithPath path(empty.path().toLocal8Bit());
-        QVERIFY(TakesJobs(u"Laser"_s));
-    }
-
 private:
-    /// Where programs are looked for, while it lives.
-    class WithPath {
-    public:
-        explicit WithPath(const QByteArray& path) { qputenv("PATH", path); }
-        ~WithPath() { qputenv("PATH", before_); }
-        WithPath(const WithPath&) = delete;
-        WithPath& operator=(const WithPath&) = delete;
-
-    private:
-        QByteArray before_ = qgetenv("PATH");
-    };
-
     static void Write(const QString& path, const QByteArray& content)
     {
         QFile file(path);

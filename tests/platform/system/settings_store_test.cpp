@@ -60,6 +60,13 @@ private Q_SLOTS:
         QCOMPARE(file.readAll(), QByteArray("[Settings]\nMainLeft=15\n"));
     }
 
+    void the_place_of_the_settings_is_that_file()
+    {
+        SaveSetting(application, section, key, u"15"_s);
+        QCOMPARE(SettingsPlace(application), home_->filePath(u"The Torvik Vollandry 2001.ini"_s));
+        QVERIFY(QFile::exists(SettingsPlace(application)));
+    }
+
     void the_savers_application_has_a_file_of_its_own()
     {
         const QString saver = u"SCRNSAVE: The Torvik Vollandry 2001"_s;
@@ -174,6 +181,16 @@ private Q_SLOTS:
         QVERIFY(QDir(home_->path()).mkdir(application + u".ini"_s));
         QCOMPARE(FailureOf([] { SaveSetting(application, section, key, u"1"_s); }), failure::pathFileAccess);
         QCOMPARE(GetSetting(application, section, key, u"absent"_s), u"absent"_s);
+    }
+
+    void a_setting_can_be_taken_out()
+    {
+        DeleteSetting(application, section, key);
+        SaveSetting(application, section, key, u"1"_s);
+        SaveSetting(application, section, u"Other"_s, u"2"_s);
+        DeleteSetting(application, section, key);
+        QCOMPARE(GetSetting(application, section, key, u"absent"_s), u"absent"_s);
+        QCOMPARE(GetSetting(application, section, u"Other"_s), u"2"_s);
     }
 
     void a_store_on_a_full_disk_is_an_access_error_and_keeps_what_it_had()

@@ -25,7 +25,7 @@ private Q_SLOTS:
         for (const PlannedAd& ad : PlanAds())
             files.append(ad.File());
         QCOMPARE(files, expected);
-        QVERIFY_EXCEPTION_THROWN(AdCopyOf(2001), std::out_of_range);
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, AdCopyOf(2001));
     }
 
     void the_pages_that_the_viewer_lays_on_their_side_are_landscape_and_all_others_stand()

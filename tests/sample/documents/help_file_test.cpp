@@ -99,6 +99,8 @@ private Q_SLOTS:
                                  "Install Intel Video Software",
                                  "Check Screen Resolution",
                                  "Show File Names",
+                                 "Ctrl+F",
+                                 "Shift+F3",
                                  "Exit"})
             QVERIFY2(text.contains(QLatin1String(word)), word);
     }

@@ -45,7 +45,7 @@ private Q_SLOTS:
             ++begun;
             throw std::runtime_error("no paper");
         };
-        QVERIFY_EXCEPTION_THROWN(InParallel(100000, work), std::runtime_error);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, InParallel(100000, work));
         QVERIFY(begun >= 1);
         QVERIFY(begun < 100000);
     }

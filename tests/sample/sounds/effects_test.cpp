@@ -177,7 +177,7 @@ private Q_SLOTS:
 
     void a_sound_that_is_not_planned_cannot_be_made()
     {
-        QVERIFY_EXCEPTION_THROWN(EffectNamed("silence.wav"), std::runtime_error);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, EffectNamed("silence.wav"));
     }
 };
 

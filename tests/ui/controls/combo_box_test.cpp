@@ -1,6 +1,7 @@
 #include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/combo_box.h"
+#include "ui/form_fixture.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -18,17 +19,13 @@ FormHandle<MainForm> Main;
 } // namespace
 
 /// A drop-down list.
-class ComboBoxTest : public QObject {
+class ComboBoxTest : public FormFixture {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init()
-    {
-        room_ = std::make_unique<UiRoom>();
-        QVERIFY(UiRoom::Open(*Main));
-    }
-    void cleanup() { room_.reset(); }
+public:
+    ComboBoxTest() : FormFixture(Main) {}
 
+private Q_SLOTS:
     void it_shows_its_first_text() { QCOMPARE(Main->Combo.Text(), u"one "_s); }
 
     void the_user_chooses_another()
@@ -39,9 +36,6 @@ private Q_SLOTS:
     }
 
     void without_entries_its_text_is_empty() { QCOMPARE(Main->Empty.Text(), QString()); }
-
-private:
-    std::unique_ptr<UiRoom> room_;
 };
 
 TORVIK_TEST(ComboBoxTest)

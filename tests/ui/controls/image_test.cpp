@@ -3,6 +3,7 @@
 #include "support/ui_room.h"
 #include "ui/controls/image.h"
 #include "ui/controls/picture_box.h"
+#include "ui/form_fixture.h"
 
 #include <QLabel>
 
@@ -28,17 +29,13 @@ QColor Shown(int x, int y)
 } // namespace
 
 /// A picture inside its own rectangle.
-class ImageTest : public QObject {
+class ImageTest : public FormFixture {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init()
-    {
-        room_ = std::make_unique<UiRoom>();
-        QVERIFY(UiRoom::Open(*Main));
-    }
-    void cleanup() { room_.reset(); }
+public:
+    ImageTest() : FormFixture(Main) {}
 
+private Q_SLOTS:
     void a_landscape_picture_is_centred_between_left_and_right()
     {
         Main->Image4.Load(folder_.Add(u"67A.JPG"_s, Encoded(FourCorners({400, 300}), "jpg")));
@@ -196,7 +193,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<UiRoom> room_;
     PictureFolder folder_;
 };
 

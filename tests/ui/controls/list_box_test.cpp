@@ -1,6 +1,7 @@
 #include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/list_box.h"
+#include "ui/form_fixture.h"
 
 #include <QListWidget>
 
@@ -29,17 +30,13 @@ void ClickEntry(int index, Qt::MouseButton button = Qt::LeftButton)
 } // namespace
 
 /// A list of which one entry can be selected.
-class ListBoxTest : public QObject {
+class ListBoxTest : public FormFixture {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init()
-    {
-        room_ = std::make_unique<UiRoom>();
-        QVERIFY(UiRoom::Open(*Main));
-    }
-    void cleanup() { room_.reset(); }
+public:
+    ListBoxTest() : FormFixture(Main) {}
 
+private Q_SLOTS:
     void entries_count_from_0()
     {
         QCOMPARE(Main->List1.ListCount(), 4);
@@ -143,9 +140,6 @@ private Q_SLOTS:
         Main->List1.SetToolTip(u"First year"_s);
         QCOMPARE(Main->List1.Widget().accessibleName(), u"First year"_s);
     }
-
-private:
-    std::unique_ptr<UiRoom> room_;
 };
 
 TORVIK_TEST(ListBoxTest)

@@ -2,6 +2,7 @@
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/panel.h"
+#include "ui/form_fixture.h"
 
 #include <limits>
 
@@ -38,17 +39,13 @@ int FilledPixels(const Control& control, const QColor& colour)
 } // namespace
 
 /// 3-D panels: captions, containers, gauges.
-class PanelTest : public QObject {
+class PanelTest : public FormFixture {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init()
-    {
-        room_ = std::make_unique<UiRoom>();
-        QVERIFY(UiRoom::Open(*Main));
-    }
-    void cleanup() { room_.reset(); }
+public:
+    PanelTest() : FormFixture(Main) {}
 
+private Q_SLOTS:
     void captions_are_kept_as_they_are_and_spoken()
     {
         QCOMPARE(Main->panYear.Caption(), u"panYear"_s);
@@ -157,9 +154,6 @@ private Q_SLOTS:
         Main->panYear.SetAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         QVERIFY(Grab(Main->panYear) != centred);
     }
-
-private:
-    std::unique_ptr<UiRoom> room_;
 };
 
 TORVIK_TEST(PanelTest)

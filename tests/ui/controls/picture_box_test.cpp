@@ -2,6 +2,7 @@
 #include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/picture_box.h"
+#include "ui/form_fixture.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -22,17 +23,13 @@ FormHandle<MainForm> Main;
 } // namespace
 
 /// A pane that takes the size of its picture.
-class PictureBoxTest : public QObject {
+class PictureBoxTest : public FormFixture {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init()
-    {
-        room_ = std::make_unique<UiRoom>();
-        QVERIFY(UiRoom::Open(*Main));
-    }
-    void cleanup() { room_.reset(); }
+public:
+    PictureBoxTest() : FormFixture(Main) {}
 
+private Q_SLOTS:
     void it_takes_the_size_of_the_picture_a_pixel_for_a_pixel()
     {
         Main->picParent.Load(folder_.Add(u"a.jpg"_s, Encoded(FourCorners({120, 80}), "jpg")));
@@ -128,7 +125,6 @@ private Q_SLOTS:
     }
 
 private:
-    std::unique_ptr<UiRoom> room_;
     PictureFolder folder_;
 };
 

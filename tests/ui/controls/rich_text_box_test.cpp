@@ -3,6 +3,7 @@
 #include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/rich_text_box.h"
+#include "ui/form_fixture.h"
 
 #include <QScrollBar>
 #include <QTextBrowser>
@@ -27,17 +28,13 @@ QTextBrowser& Pane()
 } // namespace
 
 /// The pane that shows a rich-text file.
-class RichTextBoxTest : public QObject {
+class RichTextBoxTest : public FormFixture {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init()
-    {
-        room_ = std::make_unique<UiRoom>();
-        QVERIFY(UiRoom::Open(*Main));
-    }
-    void cleanup() { room_.reset(); }
+public:
+    RichTextBoxTest() : FormFixture(Main) {}
 
+private Q_SLOTS:
     void a_file_is_shown_and_its_text_spoken()
     {
         QCOMPARE(Pane().accessibleName(), u"rtbText"_s);
@@ -114,8 +111,55 @@ private Q_SLOTS:
         QVERIFY(desktop.Opened.isEmpty());
     }
 
+    void marks_lie_under_pieces_of_the_text_and_change_nothing_of_it()
+    {
+        Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1 a red car, a red hood}"));
+        const QString html = Main->rtbText.Document().toHtml();
+        Main->rtbText.SetMarks({{2, 3}, {13, 3}}, 1);
+        const auto marks = Pane().extraSelections();
+        QCOMPARE(marks.size(), 2);
+        for (const auto& mark : marks) {
+            QCOMPARE(mark.cursor.selectedText(), u"red"_s);
+            QCOMPARE(mark.format.foreground().color(), look::text);
+        }
+        QCOMPARE(marks[0].format.background().color(), look::mark);
+        QCOMPARE(marks[1].format.background().color(), look::presentMark);
+        QCOMPARE(Main->rtbText.Document().toHtml(), html); // what is printed
+        QVERIFY(!Pane().textCursor().hasSelection());      // what is copied
+        Main->rtbText.SetMarks({}, -1);
+        QVERIFY(Pane().extraSelections().isEmpty());
+    }
+
+    void marks_go_with_the_next_file()
+    {
+        Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1 a red car}"));
+        Main->rtbText.SetMarks({{2, 3}}, 0);
+        Main->rtbText.SetFileName(folder_.Add(u"b.rtf"_s, "{\\rtf1 another red car}"));
+        QVERIFY(Pane().extraSelections().isEmpty());
+    }
+
+    void a_piece_far_down_or_to_the_side_comes_into_view_and_the_selection_stays()
+    {
+        Main->rtbText.SetFileName(
+            folder_.Add(u"a.rtf"_s, "{\\rtf1 " + QByteArray("some words\\par ").repeated(3000) +
+                                        "needle\\par " + QByteArray("some words\\par ").repeated(50) + "}"));
+        QTextCursor selection = Pane().textCursor();
+        selection.setPosition(4, QTextCursor::KeepAnchor);
+        Pane().setTextCursor(selection);
+        const qsizetype at = Main->rtbText.Text().indexOf(u"needle"_s);
+        Main->rtbText.BringIntoView({at, 6});
+        QTextCursor needle(Pane().document());
+        needle.setPosition(static_cast<int>(at));
+        QVERIFY(Pane().viewport()->rect().contains(Pane().cursorRect(needle)));
+        QCOMPARE(Pane().textCursor().selectedText(), u"some"_s);
+        const int there = Pane().verticalScrollBar()->value();
+        Main->rtbText.BringIntoView({at, 6});
+        QCOMPARE(Pane().verticalScrollBar()->value(), there);
+        Main->rtbText.BringIntoView({0, 4});
+        QCOMPARE(Pane().verticalScrollBar()->value(), 0);
+    }
+
 private:
-    std::unique_ptr<UiRoom> room_;
     PictureFolder folder_;
 };
 

@@ -81,6 +81,37 @@ private Q_SLOTS:
         QCOMPARE(clicks, 1);
     }
 
+    void an_unlocked_box_is_written_in_and_tells_each_change()
+    {
+        int changes = 0;
+        Main->txtFile.SetText(QString());
+        Main->txtFile.Change = [&] { ++changes; };
+        Main->txtFile.SetLocked(false);
+        QTest::keyClicks(&Edit(), u"abc"_s);
+        QCOMPARE(Main->txtFile.Text(), u"abc"_s);
+        QCOMPARE(changes, 3);
+        Main->txtFile.SetText(u"abc"_s); // says nothing new
+        QCOMPARE(changes, 3);
+        Main->txtFile.SetLocked(true);
+        QTest::keyClicks(&Edit(), u"d"_s);
+        QCOMPARE(Main->txtFile.Text(), u"abc"_s);
+    }
+
+    void all_of_it_can_be_selected()
+    {
+        Main->txtFile.SelectAll();
+        QCOMPARE(Main->txtFile.SelText(), u"67A.JPG"_s);
+    }
+
+    void a_hint_is_what_a_screen_reader_calls_the_box()
+    {
+        Main->txtFile.SetHint(u"Words to find"_s);
+        QCOMPARE(Edit().accessibleName(), u"Words to find"_s);
+        QCOMPARE(Edit().placeholderText(), u"Words to find"_s);
+        Main->txtFile.SetText(u"scoop"_s);
+        QCOMPARE(Edit().accessibleName(), u"Words to find"_s);
+    }
+
 private:
     std::unique_ptr<UiRoom> room_;
 };

@@ -9,6 +9,10 @@
 #include "ui/controls/text_box.h"
 #include "ui/forms/control.h"
 
+#include <QShortcut>
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
@@ -313,6 +317,22 @@ private Q_SLOTS:
         QTest::keyClick(&Pixels->Go.Widget(), Qt::Key_A, Qt::ControlModifier | Qt::AltModifier);
         QTest::keyClick(&Pixels->Go.Widget(), Qt::Key_F5); // has no code
         QCOMPARE(log_, (QStringList{u"188 0"_s, u"188 1"_s, u"65 6"_s}));
+    }
+
+    void the_comma_and_period_keys_are_known_with_shift_whatever_they_give_then()
+    {
+        QVERIFY(UiRoom::Open(*Pixels));
+        Pixels->Go.KeyDown = [this](int code, int shift) { log_.append(u"%1 %2"_s.arg(code).arg(shift)); };
+        Pixels->Go.SetFocus();
+        const auto shortcuts = Pixels->Window().findChildren<QShortcut*>();
+        for (const Qt::Key key : {Qt::Key_Comma, Qt::Key_Period}) {
+            const auto withShift = std::find_if(shortcuts.begin(), shortcuts.end(), [&](QShortcut* shortcut) {
+                return shortcut->key() == QKeySequence(Qt::SHIFT | key);
+            });
+            QVERIFY(withShift != shortcuts.end());
+            Q_EMIT(*withShift)->activated();
+        }
+        QCOMPARE(log_, (QStringList{u"188 1"_s, u"190 1"_s}));
     }
 
     void a_handler_that_moves_the_focus_uses_the_key_up()

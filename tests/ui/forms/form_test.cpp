@@ -137,6 +137,18 @@ private Q_SLOTS:
         QCOMPARE(Main->Window().objectName(), u"Main"_s);
     }
 
+    void an_empty_caption_is_an_empty_title_bar()
+    {
+        Main->SetCaption(QString());
+        QCOMPARE(Main->Caption(), QString());
+        QVERIFY(UiRoom::Open(*Main));
+        // Qt puts the program's name in the place of a title without a character.
+        QCOMPARE(Main->Window().windowHandle()->title(), u" "_s);
+        QCOMPARE(Main->Window().accessibleName(), u"Main"_s);
+        Main->SetCaption(u"again"_s);
+        QCOMPARE(Main->Window().windowHandle()->title(), u"again"_s);
+    }
+
     void a_plain_show_goes_on_at_once()
     {
         int activations = 0;

@@ -92,6 +92,30 @@ private Q_SLOTS:
         QCOMPARE(cancels_, 1);
     }
 
+    void a_key_that_no_control_uses_is_the_forms_own()
+    {
+        QList<QPair<int, int>> keys;
+        Main->KeyDown = [&](int code, int shift) { keys.append({code, shift}); };
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_F3, Qt::ShiftModifier);
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_Space); // presses the button
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_F5);    // has no code
+        const QList<QPair<int, int>> expected{{key::letterF, held::ctrl}, {key::f3, held::shift}};
+        QCOMPARE(keys, expected);
+        Main->SetEnabled(false);
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(keys, expected);
+    }
+
+    void escape_is_the_forms_own_where_no_cancel_button_answers_it()
+    {
+        Main->SetCancelButton(nullptr);
+        QList<int> keys;
+        Main->KeyDown = [&](int code, int /*shift*/) { keys.append(code); };
+        QTest::keyClick(&Main->Go.Widget(), Qt::Key_Escape);
+        QCOMPARE(keys, QList<int>{key::escape});
+    }
+
     void without_a_cancel_button_escape_does_nothing()
     {
         Main->SetCancelButton(nullptr);

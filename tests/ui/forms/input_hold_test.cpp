@@ -1,6 +1,7 @@
 #include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
+#include "ui/form_fixture.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/input_hold.h"
 
@@ -30,17 +31,13 @@ void ClickGo()
 } // namespace
 
 /// A form that is held takes no input, whoever enables it.
-class InputHoldTest : public QObject {
+class InputHoldTest : public FormFixture {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init()
-    {
-        room_ = std::make_unique<UiRoom>();
-        QVERIFY(UiRoom::Open(*Main));
-    }
-    void cleanup() { room_.reset(); }
+public:
+    InputHoldTest() : FormFixture(Main) {}
 
+private Q_SLOTS:
     void a_form_that_is_enabled_meanwhile_takes_input_only_when_the_hold_is_over()
     {
         {
@@ -97,9 +94,6 @@ private Q_SLOTS:
         FormHandleBase::DiscardAll();
         QVERIFY(!Main.IsLoaded());
     }
-
-private:
-    std::unique_ptr<UiRoom> room_;
 };
 
 TORVIK_TEST(InputHoldTest)

@@ -25,12 +25,35 @@ class KeysTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void comma_and_period_have_their_codes_with_and_without_shift()
+    void comma_and_period_have_their_codes()
     {
         QCOMPARE(CodeOf(Qt::Key_Comma), key::comma);
-        QCOMPARE(CodeOf(Qt::Key_Less, Qt::ShiftModifier), 188);
+        QCOMPARE(CodeOf(Qt::Key_Comma), 188);
         QCOMPARE(CodeOf(Qt::Key_Period), key::period);
+        QCOMPARE(CodeOf(Qt::Key_Period, Qt::ShiftModifier), 190); // where the layout has it there
+    }
+
+    void characters_that_come_from_no_key_of_a_keyboard_tell_by_themselves()
+    {
+        QCOMPARE(CodeOf(Qt::Key_Less, Qt::ShiftModifier), 188);
         QCOMPARE(CodeOf(Qt::Key_Greater, Qt::ShiftModifier), 190);
+    }
+
+    void a_key_of_its_own_for_less_and_greater_is_another_key()
+    {
+        constexpr quint32 scanCode = 94;
+        const auto pressed = [](int key, Qt::KeyboardModifiers held) {
+            return KeyCodeOf(QKeyEvent(QEvent::KeyPress, key, held, scanCode, 0, 0));
+        };
+        QCOMPARE(pressed(Qt::Key_Less, {}), 0);
+        QCOMPARE(pressed(Qt::Key_Greater, Qt::ShiftModifier), 0);
+        QCOMPARE(pressed(Qt::Key_Comma, {}), 188);
+    }
+
+    void the_decimal_key_of_the_keypad_is_another_key()
+    {
+        QCOMPARE(CodeOf(Qt::Key_Period, Qt::KeypadModifier), 0);
+        QCOMPARE(CodeOf(Qt::Key_Comma, Qt::KeypadModifier), 0);
     }
 
     void letters_and_digits_are_their_own_code()
@@ -47,6 +70,16 @@ private Q_SLOTS:
         QCOMPARE(CodeOf(Qt::Key_Return), 13);
         QCOMPARE(CodeOf(Qt::Key_Enter, Qt::KeypadModifier), 13);
         QCOMPARE(CodeOf(Qt::Key_Escape), 27);
+    }
+
+    void keys_that_walk_and_search_have_their_codes()
+    {
+        QCOMPARE(CodeOf(Qt::Key_PageUp), 33);
+        QCOMPARE(CodeOf(Qt::Key_PageDown), 34);
+        QCOMPARE(CodeOf(Qt::Key_Up), 38);
+        QCOMPARE(CodeOf(Qt::Key_Down), 40);
+        QCOMPARE(CodeOf(Qt::Key_F3), 114);
+        QCOMPARE(CodeOf(Qt::Key_F, Qt::ControlModifier), key::letterF);
     }
 
     void other_keys_have_none()

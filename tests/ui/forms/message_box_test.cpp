@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSet>
 #include <QTimer>
 
@@ -221,6 +222,33 @@ private Q_SLOTS:
                 title);
             QVERIFY2(width >= wanted, qPrintable(u"%1 of %2"_s.arg(width).arg(wanted)));
         }
+    }
+
+    void no_line_is_broken_as_long_as_the_screen_is_wide_enough()
+    {
+        const QString quoted =
+            u"    5)  You may also want to set the Colors to the highest level allowed by your"_s;
+        for (const QString& line : {quoted, QString(60, u'W'), QString(u"a "_s).repeated(60)}) {
+            int lines = 0;
+            int width = 0;
+            int wanted = 0;
+            Answer(line + u"\r\n\r\n"_s + line, msgbox::exclamation, u"OK"_s, [&] {
+                const auto* label = Box().findChild<QLabel*>(u"qt_msgbox_label"_s);
+                const QFontMetrics metrics(label->font());
+                wanted = metrics.horizontalAdvance(line);
+                width = label->width();
+                lines = label->heightForWidth(width) / metrics.lineSpacing();
+            });
+            QVERIFY2(width >= wanted, qPrintable(u"%1 of %2"_s.arg(width).arg(wanted)));
+            QCOMPARE(lines, 3);
+        }
+    }
+
+    void a_box_stays_on_the_screen_whatever_it_says()
+    {
+        int width = 0;
+        Answer(QString(400, u'W'), msgbox::ok, u"OK"_s, [&] { width = Box().width(); });
+        QVERIFY(width <= QApplication::primaryScreen()->availableSize().width());
     }
 
     void a_system_modal_box_stays_on_top()

@@ -50,6 +50,14 @@ private Q_SLOTS:
         QCOMPARE(Screen.Width(), QApplication::primaryScreen()->size().width() * 15.0);
     }
 
+    void a_desktop_that_enlarges_is_told_apart()
+    {
+        QVERIFY(!Screen.IsScaledByDesktop());
+        Screen.SetScaledByDesktop(true);
+        QVERIFY(Screen.IsScaledByDesktop());
+        Screen.SetScaledByDesktop(false);
+    }
+
     void the_hourglass_is_the_pointer_of_all_windows()
     {
         QCOMPARE(Screen.Pointer(), MousePointer::Default);

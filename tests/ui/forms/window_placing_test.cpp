@@ -2,6 +2,7 @@
 #include "support/ui_room.h"
 
 #include <QScreen>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -16,7 +17,12 @@ struct PageForm : Form {
     PageForm() : Form(DesignOf(u"Page"_s, Scale::Pixels, FormBorder::None)) {}
 };
 
+struct SideForm : Form {
+    SideForm() : Form(DesignOf(u"Side"_s)) {}
+};
+
 FormHandle<MainForm> Main;
+FormHandle<SideForm> Side;
 FormHandle<PageForm> Page;
 
 QPoint FrameCorner()
@@ -59,6 +65,158 @@ private Q_SLOTS:
         QCOMPARE(Main->Top(), 0.0);
         QCOMPARE(Main->Width(), 7500.0);
         QCOMPARE(Main->Height(), 6000.0);
+    }
+
+    void what_one_handler_does_is_one_change_for_the_desktop()
+    {
+        struct Sizes : QObject {
+            QList<QSize> Seen;
+            bool eventFilter(QObject* watched, QEvent* event) override
+            {
+                if (event->type() == QEvent::Resize)
+                    Seen.append(static_cast<QWindow*>(watched)->size());
+                return false;
+            }
+        } sizes;
+        Main->SetWidth(Screen.Width());
+        Main->SetHeight(Screen.Height());
+        Main->Show();
+        QVERIFY(Main->Visible());
+        QVERIFY(!Main->Window().isVisible()); // the handler goes on
+        Main->SetWidth(7500);
+        Main->SetHeight(6000);
+        Main->SetCaption(u"The last title"_s);
+        Main->Window().winId();
+        Main->Window().windowHandle()->installEventFilter(&sizes);
+        QTRY_VERIFY(!Main->IsSettling());
+        QVERIFY(Main->Window().isVisible());
+        const QSize last(500, 400 - 19);
+        QCOMPARE(Main->Window().size(), last);
+        for (const QSize& seen : std::as_const(sizes.Seen))
+            QCOMPARE(seen, last);
+
+        sizes.Seen.clear();
+        Main->SetWidth(6000);
+        Main->SetHeight(4500);
+        QCOMPARE(Main->Window().size(), last);
+        Main->SetWidth(9000);
+        QTRY_VERIFY(!Main->IsSettling());
+        QVERIFY(!sizes.Seen.isEmpty());
+        for (const QSize& seen : std::as_const(sizes.Seen))
+            QCOMPARE(seen, QSize(600, 300 - 19));
+    }
+
+    void a_form_that_is_hidden_again_before_the_desktop_heard_of_it_does_not_come_up()
+    {
+        Main->Show();
+        Main->Hide();
+        UiRoom::Settle();
+        QVERIFY(!Main->Window().isVisible());
+    }
+
+    void a_modal_form_comes_up_after_the_forms_that_were_shown_before_it()
+    {
+        bool below = false;
+        UiRoom::Soon([&] {
+            below = Main->Window().isVisible();
+            Page.Unload();
+        });
+        Main->Show();
+        Page->ShowModal();
+        QVERIFY(below);
+    }
+
+    void a_maximized_form_measures_what_it_covers()
+    {
+        Main->SetLeft(1500);
+        Main->SetTop(750);
+        Main->Show();
+        QTRY_VERIFY(!Main->IsSettling());
+        int resizes = 0;
+        Main->Resize = [&] { ++resizes; };
+        const QMargins frame = Main->Window().windowHandle()->frameMargins();
+        Main->Window().setWindowState(Qt::WindowMaximized);
+        QTRY_VERIFY(Main->Left() == 0.0 && !Main->IsSettling());
+        QCOMPARE(Main->WindowState(), Form::State::Maximized);
+        const QRect covered = Main->Window().windowHandle()->frameGeometry();
+        QCOMPARE(covered, QApplication::primaryScreen()->availableGeometry());
+        QCOMPARE(Main->Left(), 0.0);
+        QCOMPARE(Main->Top(), 0.0);
+        QCOMPARE(Main->Width(), (covered.width() - frame.left() - frame.right()) * 15.0);
+        QCOMPARE(Main->Height(), (covered.height() - frame.top() - frame.bottom() + 19) * 15.0);
+        QVERIFY(resizes > 0);
+        Main->Window().setWindowState(Qt::WindowNoState);
+        QTRY_COMPARE(Main->Left(), 1500.0);
+        QCOMPARE(Main->Top(), 750.0);
+        QCOMPARE(Main->Width(), 6000.0);
+        QCOMPARE(Main->Height(), 4500.0 + 2 * 19 * 15);
+    }
+
+    void a_form_that_takes_a_maximized_ones_measures_stands_exactly_on_it()
+    {
+        Main->Show();
+        QTRY_VERIFY(!Main->IsSettling());
+        Main->Window().setWindowState(Qt::WindowMaximized);
+        QTRY_VERIFY(Main->Width() > 6000.0 && !Main->IsSettling());
+        Side->SetLeft(Main->Left());
+        Side->SetTop(Main->Top());
+        Side->SetWidth(Main->Width());
+        Side->SetHeight(Main->Height());
+        Side->Show();
+        QTRY_VERIFY(!Side->IsSettling());
+        QCOMPARE(Side->Window().windowHandle()->frameGeometry(),
+                 Main->Window().windowHandle()->frameGeometry());
+    }
+
+    void a_form_that_is_maximized_before_it_comes_up_has_the_measures_of_that()
+    {
+        Main->SetWindowState(Form::State::Maximized);
+        QCOMPARE(Main->WindowState(), Form::State::Maximized);
+        Main->Show();
+        QTRY_VERIFY(!Main->IsSettling());
+        QCOMPARE(Main->WindowState(), Form::State::Maximized);
+        QVERIFY(Main->Width() > 6000.0);
+    }
+
+    void when_the_desktop_ends_the_full_screen_state_that_is_no_resize_but_the_next_one_is()
+    {
+        Main->Show();
+        QTRY_VERIFY(!Main->IsSettling());
+        Main->CoverScreen(true);
+        QTRY_VERIFY(Main->Window().isFullScreen() && !Main->IsSettling());
+        int resizes = 0;
+        Main->Resize = [&] { ++resizes; };
+        Main->Window().setWindowState(Qt::WindowNoState);
+        QTRY_VERIFY(!Main->CoversScreen());
+        QTRY_VERIFY(!Main->IsSettling());
+        QCOMPARE(resizes, 0);
+        Main->Window().resize(500, 400);
+        QTRY_COMPARE(resizes, 1);
+        QCOMPARE(Main->Width(), 7500.0);
+        Main->CoverScreen(false); // which it does already
+        UiRoom::Settle();
+        QCOMPARE(Main->Width(), 7500.0);
+    }
+
+    void a_maximized_form_that_covers_the_screen_comes_back_at_the_measures_that_it_was_given()
+    {
+        Main->Show();
+        QTRY_VERIFY(!Main->IsSettling());
+        Main->Window().setWindowState(Qt::WindowMaximized);
+        QTRY_VERIFY(Main->Width() > 6000.0 && !Main->IsSettling());
+        Main->CoverScreen(true);
+        Main->SetWindowState(Form::State::Normal);
+        Main->SetLeft(300);
+        Main->SetTop(300);
+        Main->SetWidth(7500);
+        Main->SetHeight(6000);
+        QTRY_VERIFY(Main->Window().isFullScreen() && !Main->IsSettling());
+        QCOMPARE(Main->WindowState(), Form::State::Normal);
+        Main->Window().setWindowState(Qt::WindowNoState);
+        QTRY_VERIFY(!Main->CoversScreen() && !Main->IsSettling());
+        QCOMPARE(Main->Window().size(), QSize(500, 400 - 19));
+        QCOMPARE(Main->Left(), 300.0);
+        QCOMPARE(Main->Width(), 7500.0);
     }
 
     void a_form_on_the_screen_can_be_moved_by_the_program()

@@ -1,4 +1,5 @@
 #include "runtime/failure.h"
+#include "support/logged_messages.h"
 #include "support/picture_bytes.h"
 #include "support/test_class.h"
 #include "support/test_movie.h"
@@ -441,6 +442,19 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         device.Command(u"close"_s);
         QVERIFY(!device.IsOpen());
+    }
+
+    void what_is_opened_is_logged_and_that_it_is_nothing()
+    {
+        LoggedMessages log(u"torvik.media"_s);
+        MediaControl device(u"Logged"_s);
+        const QString path = folder_.Add(u"text.wav"_s, "no sound at all");
+        device.SetFileName(path);
+        device.Command(u"open"_s);
+        // The thread of a device that is gone may still tell of its decoder.
+        const auto ofDevice = [&log] { return log.Texts().filter(u"Logged"_s); };
+        QTRY_COMPARE(ofDevice(), (QStringList{u"torvik.media: Logged opens "_s + path,
+                                              u"torvik.media: Logged can play nothing of it"_s}));
     }
 
     void a_drive_that_is_not_there_stays_silent()

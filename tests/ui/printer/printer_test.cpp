@@ -1,6 +1,7 @@
 #include "platform/system/print_jobs.h"
 #include "runtime/failure.h"
 #include "support/full_disk.h"
+#include "support/logged_messages.h"
 #include "support/ordinary_user.h"
 #include "support/print_folder.h"
 #include "support/test_class.h"
@@ -177,6 +178,14 @@ private Q_SLOTS:
         Printer.EndDoc();
         QVERIFY(IsWholeJobFile(file));
         QVERIFY(QFile::remove(file));
+    }
+
+    void where_a_job_goes_is_logged()
+    {
+        LoggedMessages log(u"torvik.print"_s);
+        Printer.Print(u"A line"_s);
+        Printer.EndDoc();
+        QCOMPARE(log.Texts(), QStringList(u"torvik.print: a job goes to the file "_s + printed_->FileOf(1)));
     }
 
     void a_job_takes_its_file_name_only_when_it_is_whole()

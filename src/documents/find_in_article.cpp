@@ -1,0 +1,153 @@
+#include "documents/find_in_article.h"
+
+#include "documents/bind_documents.h"
+#include "program/program_state.h"
+#include "program/search_words.h"
+#include "windows/article_window.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace torvik {
+
+namespace {
+
+constexpr double lowerEdge = 6255; // twips, of the text while the bar is closed
+constexpr double gap = 105;        // between text and bar
+constexpr qsizetype mostPlaces = 5000;
+
+/// What the bar has found in the text on show.
+struct FoundPlaces {
+    QList<TextRange> Places;
+    qsizetype Present = -1;
+};
+FoundPlaces found;
+
+void OpenBar()
+{
+    txtFormControls& form = *txtForm;
+    form.rtbText.SetHeight(form.panFind.Top() - gap - form.rtbText.Top());
+    form.panFind.Show();
+}
+
+void CloseBar()
+{
+    txtFormControls& form = *txtForm;
+    form.panFind.Hide();
+    form.rtbText.SetHeight(lowerEdge - form.rtbText.Top());
+    form.rtbText.SetMarks({}, -1);
+    form.rtbText.SetFocus();
+    found = {};
+}
+
+void ShowPresent(const QString& note = {})
+{
+    txtFormControls& form = *txtForm;
+    form.rtbText.SetMarks(found.Places, found.Present);
+    if (found.Present >= 0)
+        form.rtbText.BringIntoView(found.Places[found.Present]);
+    if (found.Places.isEmpty())
+        form.lblFindText.SetCaption(LookForSomething(SearchTermsOf(form.txtFindText.Text())) ? u"Not found"_s
+                                                                                             : QString());
+    else
+        form.lblFindText.SetCaption(
+            u"%1 of %2%3"_s.arg(found.Present + 1).arg(found.Places.size()).arg(note));
+    const bool canWalk = found.Places.size() > 1;
+    form.cmdFindNext.SetEnabled(canWalk);
+    form.cmdFindBefore.SetEnabled(canWalk);
+}
+
+/// While a word is being typed the present place stays where it was, or goes on from there.
+void FindTyped()
+{
+    const qsizetype from = found.Present >= 0 ? found.Places[found.Present].Begin : 0;
+    found.Places = PlacesOf(SearchTermsOf(txtForm->txtFindText.Text()), txtForm->rtbText.Text(), mostPlaces);
+    const auto next = std::find_if(found.Places.begin(), found.Places.end(),
+                                   [from](const TextRange& place) { return place.Begin >= from; });
+    found.Present = next != found.Places.end() ? next - found.Places.begin() : found.Places.size() - 1;
+    ShowPresent();
+}
+
+void StepToNext()
+{
+    const qsizetype count = found.Places.size();
+    if (count == 0)
+        return;
+    const bool isLast = found.Present + 1 == count;
+    found.Present = isLast ? 0 : found.Present + 1;
+    ShowPresent(isLast ? u", on from the top"_s : QString());
+}
+
+void StepToPrevious()
+{
+    const qsizetype count = found.Places.size();
+    if (count == 0)
+        return;
+    const bool isFirst = found.Present == 0;
+    found.Present = isFirst ? count - 1 : found.Present - 1;
+    ShowPresent(isFirst ? u", on from the end"_s : QString());
+}
+
+void Step(int shift)
+{
+    if ((shift & held::shift) != 0)
+        StepToPrevious();
+    else
+        StepToNext();
+}
+
+void AskForWords()
+{
+    OpenBar();
+    txtForm->txtFindText.SetFocus();
+    txtForm->txtFindText.SelectAll();
+    FindTyped();
+}
+
+void txtForm_KeyDown(int code, int shift)
+{
+    const bool isOpen = txtForm->panFind.Visible();
+    if (code == key::letterF && shift == held::ctrl)
+        AskForWords();
+    else if (code == key::f3 && isOpen)
+        Step(shift);
+    else if (code == key::f3)
+        AskForWords();
+    else if (code == key::escape && isOpen)
+        CloseBar();
+}
+
+void txtFindText_KeyDown(int code, int shift)
+{
+    if (code == key::enter)
+        Step(shift);
+}
+
+} // namespace
+
+void FindWhatWasAskedFor()
+{
+    const QString wanted = std::exchange(state.TextToFind, {});
+    if (PlacesOf(SearchTermsOf(wanted), txtForm->rtbText.Text(), 1).isEmpty())
+        return;
+    found = {};
+    OpenBar();
+    txtForm->txtFindText.SetText(wanted);
+    FindTyped();
+}
+
+void BindFindInArticle()
+{
+    txtForm.Bind([](txtFormControls& form) {
+        found = {};
+        form.KeyDown = txtForm_KeyDown;
+        form.txtFindText.Change = FindTyped;
+        form.txtFindText.KeyDown = txtFindText_KeyDown;
+        form.cmdFindNext.Click = StepToNext;
+        form.cmdFindBefore.Click = StepToPrevious;
+    });
+}
+
+} // namespace torvik

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace torvik {
+
+/// A file that is open for reading, wherever it lies. Failures are RunTimeError.
+class OpenFile {
+public:
+    OpenFile() = default;
+    virtual ~OpenFile() = default;
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    /// The length in bytes that is told of it; some files hold more or less than that.
+    virtual qint64 Length() const = 0;
+    /// Reads up to `room` bytes; returns how many came, 0 at the end. Failure 57, Device I/O error.
+    virtual qsizetype Read(char* target, qsizetype room) = 0;
+    /// Reads on from a byte, counted from 0; one behind the end is followed by nothing.
+    virtual void SeekTo(qint64 place) = 0;
+};
+
+/// What is known of a file or folder that is not open.
+struct EntryStatus {
+    bool IsFile = false; ///< neither a folder nor a device, a pipe or the like
+    bool IsFolder = false;
+    qint64 Length = 0;  ///< bytes
+    qint64 Written = 0; ///< seconds since 1970
+};
+
+/// What a drive letter stands for: a folder of the host, or the image of a disc. A path inside is bytes,
+/// begins with a slash, and has neither empty components nor "." or ".."; the volume's root is the empty
+/// text. Failures are RunTimeError. Only Open may be called by other threads than the user interface's.
+class Volume {
+public:
+    using NameTest = std::function<bool(std::string_view name)>;
+
+    Volume() = default;
+    virtual ~Volume() = default;
+    Volume(const Volume&) = delete;
+    Volume& operator=(const Volume&) = delete;
+
+    /// How a path is spelled: as it stands when it exists, otherwise with the names that differ in letter
+    /// case alone, the first in binary order of several. What exists in no spelling stays as it is written.
+    /// Failure 68, Device unavailable, when the volume is not there.
+    virtual std::string Spelling(const std::string& path) const = 0;
+
+    // The rest takes paths as they are spelled.
+
+    /// Failures: 53 File not found, 76 Path not found, 70 Permission denied.
+    virtual EntryStatus Status(const std::string& path) const = 0;
+    /// The names of a folder's files for which `isWanted` holds, in the order of the volume; none when there
+    /// is no such folder. Failure 75 when it cannot be read.
+    virtual std::vector<std::string> Files(const std::string& folder, const NameTest& isWanted) const = 0;
+    /// The same for the folders in a folder.
+    virtual std::vector<std::string> Folders(const std::string& folder, const NameTest& isWanted) const = 0;
+    /// Failures: those of Status; 75 for what is no file, 67 Too many files.
+    virtual std::unique_ptr<OpenFile> Open(const std::string& path) const = 0;
+    /// The host's name for a path, by which it can be written. Nothing where the host has none.
+    virtual std::optional<std::string> HostPath(const std::string& path) const = 0;
+};
+
+/// A file or folder, or where one is yet to be made.
+struct Place {
+    std::shared_ptr<const Volume> On;
+    std::string Path; ///< as it is spelled there
+};
+
+} // namespace torvik

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+namespace torvik {
+
+// In front of what a window title tells. Which of the two it is has always been different from one document
+// to the next.
+inline constexpr const char* wideTitle = "The Torvik Vollandry       ";
+inline constexpr const char* narrowTitle = "The Torvik Vollandry     ";
+
+/// A document and the window title that belongs to it.
+struct Article {
+    QString File; ///< under the disc's root, "\richtext\67desc.rtf"
+    QString WindowTitle;
+};
+
+/// The buttons that look an article up before they open it.
+enum class ArticleButton { Description, Options, Statistics, Colors };
+
+/// What a button asks the disc for while `title` is in panYear. With nothing chosen the description is the
+/// introduction. A topic without an article of its own goes by its third and fourth character, which name no
+/// file.
+Article ArticleOf(ArticleButton button, const QString& title);
+
+/// The folder that a button puts in front of the name that it has found.
+QString ArticleFolder(ArticleButton button);
+
+/// The code under which a button reports an article that is missing.
+QString ArticleErrorCode(ArticleButton button);
+
+/// What cmdNostalgia asks for; it goes by the two characters of a topic too.
+Article NostalgiaOf(const QString& title);
+
+/// What cmdStats shows of the photo with this number in place of an article; empty for a title without notes.
+/// Notes exist for every second number: the first photo has note 2.
+QString NoteOf(const QString& title, double photo);
+
+} // namespace torvik

@@ -1,0 +1,10 @@
+#include "search/bind_search.h"
+
+namespace torvik {
+
+void BindSearch()
+{
+    BindFindForm();
+}
+
+} // namespace torvik

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "search/found_line.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace torvik {
+
+/// One thing that can be found, as the index takes it.
+struct IndexedText {
+    QString Title; ///< searched too, and weighs more than the text
+    /// Gives the bytes of the rich text. It runs on the index's own thread and tells by a RunTimeError what
+    /// cannot be read. None for what has a title only.
+    std::function<QByteArray()> Read;
+};
+
+/// One thing that was found.
+struct IndexHit {
+    qsizetype Entry = 0; ///< which of the texts, counted from 0
+    FoundLine Line;
+};
+
+/// What came of a question.
+struct IndexAnswer {
+    QString Question;
+    qsizetype Count = 0;
+    QList<IndexHit> Best; ///< the best of them first
+};
+
+/// How far the reading is.
+struct IndexProgress {
+    qsizetype Read = 0;
+    qsizetype Total = 0;
+    qsizetype LeftOut = 0; ///< could not be read, or holds nothing
+    bool IsDone = false;
+    bool IsUsable = true; ///< false where there is no SQLite with full text
+};
+
+/// The texts of a disc, read and searched on a thread of its own: bytes go in, words come out through one
+/// queue, and nobody waits. Questions are answered from what is read so far, and again while more is read.
+class DiscIndex {
+public:
+    /// Begins to read. `news` is called on the index's thread when there is something to take; never after
+    /// the end of this object.
+    DiscIndex(QList<IndexedText> texts, std::function<void()> news);
+    /// Does not wait for a disc that is busy.
+    ~DiscIndex();
+    DiscIndex(const DiscIndex&) = delete;
+    DiscIndex& operator=(const DiscIndex&) = delete;
+
+    /// Asks for what was typed. A question that is not answered yet gives way to it.
+    void Ask(const QString& question);
+    /// The latest answer, once; nothing when there is no new one.
+    std::optional<IndexAnswer> TakeAnswer();
+    IndexProgress Progress() const;
+
+private:
+    struct Shared;
+    std::shared_ptr<Shared> shared_;
+};
+
+} // namespace torvik

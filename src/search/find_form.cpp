@@ -1,0 +1,274 @@
+#include "program/search_words.h"
+#include "search/bind_search.h"
+#include "search/finder.h"
+#include "ui/forms/event.h"
+#include "ui/forms/screen.h"
+#include "windows/find_window.h"
+#include "windows/main_window.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace torvik {
+
+namespace {
+
+constexpr int typingRest = 80; // milliseconds
+
+/// Lives and ends with the main window, so that a form that is closed and opened again need not read anew.
+QPointer<Finder> finder;
+
+/// What the list shows.
+struct FoundList {
+    QString Question;
+    qsizetype Count = 0;
+    QList<Findable> Hits;
+    bool OpensFirst = false; ///< Return was pressed before the answer came
+};
+FoundList found;
+
+bool LooksForSomething(const QString& words)
+{
+    return LookForSomething(SearchTermsOf(words));
+}
+
+QString TextOfProgress(const IndexProgress& progress)
+{
+    if (progress.IsDone && finder->IsDiscGone())
+        return u"The disc is gone: %1 of %2 were not read"_s.arg(progress.LeftOut).arg(progress.Total);
+    if (!progress.IsDone)
+        return u"Reading %1 of %2"_s.arg(progress.Read).arg(progress.Total);
+    if (progress.LeftOut > 0)
+        return u"%1 could not be read"_s.arg(progress.LeftOut);
+    return {};
+}
+
+/// The last count stands until the next answer comes, as the list does.
+QString TextOfCount()
+{
+    if (!LooksForSomething(found.Question) || !LooksForSomething(frmFind->txtFind.Text()))
+        return {};
+    if (found.Count == 0)
+        return u"Nothing found"_s;
+    QString text = u"%1 found"_s.arg(found.Count);
+    if (found.Count > found.Hits.size())
+        text += u", the best %1 are shown"_s.arg(found.Hits.size());
+    return text;
+}
+
+void ShowState()
+{
+    frmFindControls& form = *frmFind;
+    const IndexProgress progress = finder->Progress();
+    if (!progress.IsUsable) {
+        form.lblFound.SetCaption(u"Finding needs SQLite, which is not installed"_s);
+        form.ProgressGuage.Hide();
+        return;
+    }
+    QStringList lines{TextOfCount(), TextOfProgress(progress)};
+    lines.removeAll(QString());
+    form.lblFound.SetCaption(lines.join(u'\n'));
+    form.ProgressGuage.SetVisible(!progress.IsDone);
+    if (progress.Total > 0)
+        form.ProgressGuage.SetFloodPercent(100.0 * static_cast<double>(progress.Read) /
+                                           static_cast<double>(progress.Total));
+    form.cmdOpen.SetEnabled(!found.Hits.isEmpty());
+}
+
+bool IsSame(const Findable& one, const Findable& other)
+{
+    return one.Title == other.Title && one.Place == other.Place && one.File == other.File;
+}
+
+/// The row that is to be chosen among other hits: while more is read the same hit as before, else the best.
+int RowToChoose(const QList<Findable>& hits, bool isSameQuestion)
+{
+    const int chosen = frmFind->lstFound.ListIndex();
+    if (chosen < 0 || !isSameQuestion)
+        return 0;
+    const Findable before = found.Hits[chosen];
+    const auto stays =
+        std::find_if(hits.begin(), hits.end(), [&](const Findable& hit) { return IsSame(hit, before); });
+    return stays != hits.end() ? static_cast<int>(stays - hits.begin()) : 0;
+}
+
+void ShowAnswer(const IndexAnswer& answer)
+{
+    RichListBox& list = frmFind->lstFound;
+    QList<RichListRow> rows;
+    QList<Findable> hits;
+    for (const IndexHit& hit : answer.Best) {
+        hits.append(finder->Entry(hit.Entry));
+        rows.append({hits.last().Title, hits.last().Place, hit.Line.Text, hit.Line.Found});
+    }
+    const int choice = RowToChoose(hits, answer.Question == found.Question);
+    found.Question = answer.Question;
+    found.Count = answer.Count;
+    found.Hits = std::move(hits);
+    list.SetRows(rows);
+    if (!rows.isEmpty() && list.ListIndex() != choice)
+        list.SetListIndex(choice);
+}
+
+void OpenChosen();
+
+void TakeNews()
+{
+    if (!frmFind.IsLoaded())
+        return;
+    const std::optional<IndexAnswer> answer = finder->TakeAnswer();
+    const bool isAnswered = answer && answer->Question == frmFind->txtFind.Text();
+    if (isAnswered)
+        ShowAnswer(*answer);
+    ShowState();
+    if (isAnswered && std::exchange(found.OpensFirst, false))
+        OpenChosen();
+}
+
+void RefreshFinder()
+{
+    if (finder != nullptr) {
+        finder->Refresh();
+        return;
+    }
+    finder = new Finder([] { RunHandler(TakeNews); });
+    Form1->Adopt(*finder);
+}
+
+void AskNow()
+{
+    frmFind->TypingRest.SetInterval(0);
+    RefreshFinder();
+    finder->Ask(frmFind->txtFind.Text());
+    ShowState();
+}
+
+void txtFind_Change()
+{
+    found.OpensFirst = false;
+    frmFind->TypingRest.SetInterval(typingRest);
+}
+
+/// The handlers of the main window are for a window that takes input: not while it copies files, say.
+void OpenChosen()
+{
+    frmFindControls& form = *frmFind;
+    const int chosen = form.lstFound.ListIndex();
+    if (chosen < 0)
+        return;
+    if (!Form1->Enabled()) {
+        form.lblFound.SetCaption(u"The main window is busy"_s);
+        return;
+    }
+    const Findable hit = found.Hits[chosen]; // the list may change while it is open
+    hit.Open(found.Question);
+}
+
+/// Letters that were not asked for yet are asked for now, and what is found first is opened.
+void OpenWhatIsTyped()
+{
+    if (found.Question == frmFind->txtFind.Text()) {
+        OpenChosen();
+        return;
+    }
+    AskNow();
+    found.OpensFirst = true;
+}
+
+void Walk(int rows)
+{
+    RichListBox& list = frmFind->lstFound;
+    if (list.ListCount() > 0)
+        list.SetListIndex(std::clamp(list.ListIndex() + rows, 0, list.ListCount() - 1));
+}
+
+void txtFind_KeyDown(int code, int /*shift*/)
+{
+    const int page = frmFind->lstFound.RowsInView();
+    if (code == key::down)
+        Walk(1);
+    else if (code == key::up)
+        Walk(-1);
+    else if (code == key::pageDown)
+        Walk(page);
+    else if (code == key::pageUp)
+        Walk(-page);
+    else if (code == key::enter)
+        OpenWhatIsTyped();
+}
+
+void lstFound_KeyDown(int code, int /*shift*/)
+{
+    if (code == key::enter)
+        OpenChosen();
+}
+
+/// Over the lower left of the photo: the caption of the photo stays in view.
+void frmFind_Load()
+{
+    frmFindControls& form = *frmFind;
+    Form1Controls& main = *Form1;
+    found = {};
+    const double frame = main.Height() - main.ScaleHeight() * twipsPerPixel; // caption and menu bar
+    const double bottom = frame + (main.Image4.Top() + main.Image4.Height()) * twipsPerPixel;
+    form.SetLeft(main.Left() + main.Image4.Left() * twipsPerPixel);
+    form.SetTop(std::max(0.0, main.Top() + bottom - form.Height()));
+}
+
+void frmFind_Resize()
+{
+    constexpr double edge = 120;   // twips, around everything
+    constexpr double footer = 900; // below the list
+    frmFindControls& form = *frmFind;
+    const double width = std::max(0.0, form.ScaleWidth() - 2 * edge);
+    const double bottom = form.ScaleHeight();
+    form.txtFind.SetWidth(width);
+    form.lstFound.SetWidth(width);
+    form.lstFound.SetHeight(std::max(0.0, bottom - footer - form.lstFound.Top()));
+    form.cmdClose.Move(edge + width - form.cmdClose.Width(), bottom - 630);
+    form.cmdOpen.Move(form.cmdClose.Left() - edge - form.cmdOpen.Width(), bottom - 630);
+    const double rest = std::max(0.0, form.cmdOpen.Left() - 2 * edge);
+    form.lblFound.Move(edge, bottom - 780, rest, form.lblFound.Height());
+    form.ProgressGuage.Move(edge, bottom - 300, rest, form.ProgressGuage.Height());
+}
+
+void ShowFind()
+{
+    frmFindControls& form = *frmFind;
+    form.Show();
+    form.SetFocus();
+    form.txtFind.SetFocus();
+    form.txtFind.SelectAll();
+    AskNow();
+}
+
+void Form1_KeyDown(int code, int shift)
+{
+    if (code == key::letterF && shift == held::ctrl)
+        ShowFind();
+}
+
+} // namespace
+
+void BindFindForm()
+{
+    Form1.Bind([](Form1Controls& form) { form.KeyDown = Form1_KeyDown; });
+    frmFind.Bind([](frmFindControls& form) {
+        form.Load = frmFind_Load;
+        form.Resize = frmFind_Resize;
+        form.KeyDown = Form1_KeyDown;
+        form.TypingRest.Tick = AskNow;
+        form.txtFind.Change = txtFind_Change;
+        form.txtFind.KeyDown = txtFind_KeyDown;
+        form.lstFound.KeyDown = lstFound_KeyDown;
+        form.lstFound.RowDblClick = OpenChosen;
+        form.cmdOpen.Click = OpenWhatIsTyped;
+        form.cmdClose.Click = [] { frmFind.Unload(); };
+    });
+}
+
+} // namespace torvik

@@ -1,0 +1,237 @@
+#include "platform/files/binary_file.h"
+#include "platform/files/disk_space.h"
+#include "platform/files/file_changes.h"
+#include "platform/files/files.h"
+#include "platform/paths/program_folder.h"
+#include "support/failure_of.h"
+#include "support/file_bytes.h"
+#include "support/image_drive.h"
+#include "support/image_maker.h"
+#include "support/test_class.h"
+
+using namespace Qt::StringLiterals;
+using namespace torvik;
+
+namespace {
+
+QString OnDisc(const char* path)
+{
+    return u"E:\\"_s + QString::fromUtf8(path);
+}
+
+ImageMaker SmallDisc()
+{
+    ImageMaker maker;
+    const int photos = maker.AddFolder("TORVIKS");
+    maker.AddFile("67TOR001.JPG;1", "photo one", photos);
+    maker.AddFile("67TOR002.JPG;1", MixedBytes(5000), photos);
+    maker.AddFile("NOTE.RTF;1", "note", photos);
+    maker.AddFolder("EMPTY");
+    maker.AddFile("README.;1", "read me");
+    return maker;
+}
+
+} // namespace
+
+class ImageVolumeTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void names_that_match_are_listed_as_from_a_folder()
+    {
+        const ImageDrive drive(SmallDisc().Iso());
+        QCOMPARE(FilesMatching(OnDisc("Torviks\\*.jpg")),
+                 (QStringList{u"67TOR001.JPG"_s, u"67TOR002.JPG"_s}));
+        QCOMPARE(FilesMatching(OnDisc("torviks\\*.*")).size(), 3);
+        QCOMPARE(FilesMatching(OnDisc("*.*")), QStringList{u"README"_s});
+        QCOMPARE(FilesMatching(OnDisc("missing\\*.*")), QStringList());
+        QCOMPARE(FilesMatching(OnDisc("readme\\*.*")), QStringList());
+        QCOMPARE(FindFile(OnDisc("torviks\\67tor?02.*")), u"67TOR002.JPG"_s);
+        QCOMPARE(FindFile(OnDisc("torviks\\67tor002.jpg")), u"67TOR002.JPG"_s);
+        QCOMPARE(FindFile(OnDisc("torviks")), QString());
+    }
+
+    void files_are_read_whatever_the_letter_case()
+    {
+        const ImageDrive drive(SmallDisc().Iso());
+        QCOMPARE(ReadFile(OnDisc("torviks\\67tor001.jpg")), QByteArray("photo one"));
+        QCOMPARE(ReadFile(OnDisc("Torviks/../TORVIKS/./67Tor002.JPG")), MixedBytes(5000));
+        QCOMPARE(ReadFile(OnDisc("..\\..\\readme")), QByteArray("read me"));
+        QCOMPARE(FileLength(OnDisc("TORVIKS\\67TOR002.jpg")), qint64{5000});
+        QVERIFY(FileExists(OnDisc("torviks\\note.rtf")));
+        QVERIFY(!FileExists(OnDisc("torviks")));
+        QVERIFY(!FileExists(OnDisc("torviks\\note.rtf\\inside")));
+    }
+
+    void an_exact_name_comes_first_and_then_binary_order()
+    {
+        ImageMaker maker;
+        for (const QByteArray& name : QList<QByteArray>{"photo.jpg", "Photo.jpg", "PHOTO.JPG"})
+            maker.AddFile(name, name);
+        maker.AddFile("PHOTO.JPG", "the same name again");
+        const ImageDrive drive(maker.Iso());
+        QCOMPARE(ReadFile(OnDisc("photo.jpg")), QByteArray("photo.jpg"));
+        QCOMPARE(ReadFile(OnDisc("Photo.jpg")), QByteArray("Photo.jpg"));
+        QCOMPARE(ReadFile(OnDisc("pHOTO.jpg")), QByteArray("PHOTO.JPG"));
+        QCOMPARE(ReadFile(OnDisc("PHOTO.JPG")), QByteArray("PHOTO.JPG"));
+        QCOMPARE(FilesMatching(OnDisc("*.jpg")).size(), 1);
+    }
+
+    void what_is_missing_fails_as_in_a_folder()
+    {
+        const ImageDrive drive(SmallDisc().Iso());
+        QCOMPARE(FailureOf([] { ReadFile(OnDisc("missing")); }), failure::fileNotFound);
+        QCOMPARE(FailureOf([] { ReadFile(OnDisc("missing\\file")); }), failure::pathNotFound);
+        QCOMPARE(FailureOf([] { ReadFile(OnDisc("readme\\file")); }), failure::pathNotFound);
+        QCOMPARE(FailureOf([] { ReadFile(OnDisc("torviks")); }), failure::pathFileAccess);
+        QCOMPARE(FailureOf([] { FileLength(OnDisc("missing")); }), failure::fileNotFound);
+        QCOMPARE(FailureOf([] { FileLength(OnDisc("torviks")); }), failure::fileNotFound);
+        QCOMPARE(FailureOf([] { FileLength(OnDisc("missing\\file")); }), failure::pathNotFound);
+    }
+
+    void nothing_can_be_written_to_an_image()
+    {
+        const ImageDrive drive(SmallDisc().Iso());
+        const QByteArray before = BytesOf(drive.PathOf(u"disc.iso"_s));
+        QCOMPARE(FailureOf([] { BinaryOutput(OnDisc("new")); }), failure::pathFileAccess);
+        QCOMPARE(FailureOf([] { BinaryOutput(OnDisc("readme")); }), failure::pathFileAccess);
+        QCOMPARE(FailureOf([] { MakeFolder(OnDisc("folder")); }), failure::pathFileAccess);
+        QCOMPARE(FailureOf([] { DeleteFile(OnDisc("readme")); }), failure::pathFileAccess);
+        QCOMPARE(FailureOf([] { DeleteFilesMatching(OnDisc("torviks\\*.jpg")); }), failure::pathFileAccess);
+        QCOMPARE(FailureOf([] { DeleteFilesMatching(OnDisc("*.none")); }), failure::fileNotFound);
+        QCOMPARE(FailureOf([] { RemoveFolder(OnDisc("empty")); }), failure::pathFileAccess);
+        QCOMPARE(FailureOf([] { ReplaceByCopy(OnDisc("readme"), OnDisc("copy")); }), failure::pathFileAccess);
+        QCOMPARE(FailureOf([] { DiskClustersOf(OnDisc("")); }), failure::pathFileAccess);
+        QCOMPARE(FailureOf([] { HostPath(OnDisc("readme")); }), failure::pathFileAccess);
+        QCOMPARE(BytesOf(drive.PathOf(u"disc.iso"_s)), before);
+        QVERIFY(!IsSameFile(OnDisc("readme"), OnDisc("readme")));
+    }
+
+    void a_file_is_copied_from_an_image()
+    {
+        const ImageDrive drive(SmallDisc().Iso());
+        const QString copy = drive.PathOf(u"copy.jpg"_s);
+        ReplaceByCopy(OnDisc("torviks\\67tor002.jpg"), DrivePath(copy));
+        QCOMPARE(BytesOf(copy), MixedBytes(5000));
+    }
+
+    void a_file_is_read_in_pieces_up_to_its_end()
+    {
+        const ImageDrive drive(SmallDisc().Iso());
+        BinaryInput input(OnDisc("torviks\\67tor002.jpg"));
+        QByteArray piece(3000, Qt::Uninitialized);
+        input.Read(piece, 3000);
+        QCOMPARE(piece, MixedBytes(5000).left(3000));
+        input.Read(piece, 2000);
+        QCOMPARE(piece.left(2000), MixedBytes(5000).mid(3000));
+        QCOMPARE(FailureOf([&] { input.Read(piece, 1); }), failure::inputPastEnd);
+    }
+
+    void a_file_of_which_the_end_is_missing_is_an_error_of_the_device()
+    {
+        ImageMaker maker;
+        maker.AddFile("FILE;1", MixedBytes(5000));
+        maker.AddRecord({"HUGE;1", ImageMaker::BlockOf(0), 0x7FFFFF00, 0, {}, 0});
+        const ImageDrive drive(maker.Iso().chopped(2048));
+        QCOMPARE(FileLength(OnDisc("file")), qint64{5000});
+        QCOMPARE(FailureOf([] { ReadFile(OnDisc("file")); }), failure::deviceIo);
+        QCOMPARE(FailureOf([] { ReadFile(OnDisc("huge")); }), failure::deviceIo);
+    }
+
+    void a_place_in_an_open_file_is_gone_to()
+    {
+        const ImageDrive drive(SmallDisc().Iso());
+        const Place place = PlaceOf(OnDisc("torviks\\67tor002.jpg"));
+        QCOMPARE(place.Path, std::string("/TORVIKS/67TOR002.JPG"));
+        const std::unique_ptr<OpenFile> file = place.On->Open(place.Path);
+        char bytes[10];
+        file->SeekTo(4995);
+        QCOMPARE(file->Read(bytes, 10), 5);
+        QCOMPARE(QByteArray(bytes, 5), MixedBytes(5000).right(5));
+        QCOMPARE(file->Read(bytes, 10), 0);
+        file->SeekTo(99'999);
+        QCOMPARE(file->Read(bytes, 10), 0);
+        file->SeekTo(0);
+        QCOMPARE(file->Read(bytes, 10), 10);
+        QCOMPARE(QByteArray(bytes, 10), MixedBytes(5000).left(10));
+    }
+
+    void the_time_of_a_file_is_known()
+    {
+        const ImageDrive drive(SmallDisc().Iso());
+        const Place place = PlaceOf(OnDisc("readme"));
+        QCOMPARE(place.On->Status(place.Path).Written, qint64{1006342215});
+        QVERIFY(place.On->Status("").IsFolder);
+        QCOMPARE(place.On->Folders("", [](std::string_view) { return true; }),
+                 (std::vector<std::string>{"TORVIKS", "EMPTY"}));
+    }
+
+    void the_image_is_closed_when_the_drives_are_read_anew()
+    {
+        const ImageDrive drive;
+        QVERIFY(drive.Write(u"disc.iso"_s, SmallDisc().Iso()));
+        const qsizetype before = OpenFileCount();
+        drive.Stand(u"disc.iso"_s);
+        QVERIFY(FileExists(OnDisc("readme")));
+        QCOMPARE(OpenFileCount(), before + 1);
+        RefreshDrives();
+        QCOMPARE(OpenFileCount(), before);
+
+        ImageMaker other;
+        other.AddFile("OTHER;1", "other");
+        QVERIFY(drive.Write(u"disc.iso"_s, other.Iso()));
+        QVERIFY(FileExists(OnDisc("other")));
+        QVERIFY(!FileExists(OnDisc("readme")));
+    }
+
+    void an_open_file_outlives_its_drive()
+    {
+        const ImageDrive drive(SmallDisc().Iso());
+        BinaryInput input(OnDisc("readme"));
+        SetDriveOptions({});
+        QByteArray piece(7, Qt::Uninitialized);
+        input.Read(piece, 7);
+        QCOMPARE(piece, QByteArray("read me"));
+        QCOMPARE(FailureOf([] { ReadFile(OnDisc("readme")); }), failure::deviceUnavailable);
+    }
+
+    void a_file_that_is_no_image_is_a_drive_that_is_not_available()
+    {
+        const ImageDrive drive("no image");
+        QCOMPARE(FailureOf([] { ReadFile(OnDisc("readme")); }), failure::deviceUnavailable);
+        QCOMPARE(FailureOf([] { FilesMatching(OnDisc("*.*")); }), failure::deviceUnavailable);
+        QVERIFY(!FileExists(OnDisc("readme")));
+        QVERIFY(drive.Write(u"disc.iso"_s, SmallDisc().Iso()));
+        QVERIFY(FileExists(OnDisc("readme"))); // the file was mended meanwhile
+    }
+
+    void names_of_any_bytes_are_found_again()
+    {
+        ImageMaker maker;
+        maker.AddFile("f\xFCr.jpg", "latin");
+        maker.AddFile("back\\slash", "slash");
+        const ImageDrive drive(maker.Iso());
+        const QStringList names = FilesMatching(OnDisc("*.*"));
+        QCOMPARE(names.size(), 2);
+        QCOMPARE(ReadFile(u"E:\\"_s + names[0]), QByteArray("latin"));
+        QCOMPARE(ReadFile(u"E:\\"_s + names[1]), QByteArray("slash"));
+    }
+
+    void an_image_in_the_program_folder_is_the_embedded_disc()
+    {
+        const ImageDrive drive;
+        QVERIFY(drive.Write(u"Disc.ISO"_s, SmallDisc().Iso()));
+        SetProgramFolder(drive.PathOf(u"."_s));
+        SetVolumeLister([] { return QList<QString>(); });
+        RefreshDrives();
+        QCOMPARE(ReadFile(u"Z:\\readme"_s), QByteArray("read me"));
+        QVERIFY(QDir(drive.PathOf(u"."_s)).mkdir(u"disc"_s));
+        RefreshDrives();
+        QVERIFY(!FileExists(u"Z:\\readme"_s)); // a folder comes first
+        SetVolumeLister(nullptr);
+        SetProgramFolder({});
+    }
+};
+
+TORVIK_TEST(ImageVolumeTest)
+#include "image_volume_test.moc"

@@ -1,0 +1,200 @@
+#include "runtime/failure.h"
+#include "search/disc_index.h"
+#include "support/test_class.h"
+
+#include <QSemaphore>
+
+using namespace Qt::StringLiterals;
+using namespace torvik;
+
+namespace {
+
+IndexedText Text(const QString& title, const QByteArray& words)
+{
+    return {title, [words]() -> QByteArray { return "{\\rtf1\\ansi " + words + "}"; }};
+}
+
+IndexedText Failing(int number)
+{
+    return {u"Failing"_s, [number]() -> QByteArray { Fail(number); }};
+}
+
+QList<IndexedText> SomeTexts()
+{
+    return {Text(u"1969 Description"_s, "The hood scoop is painted."),
+            Text(u"Glossary"_s, "A hood opens."),
+            {u"The Super Glider"_s, {}}};
+}
+
+} // namespace
+
+/// The texts of a disc, read and searched on a thread of their own.
+class DiscIndexTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void what_is_read_is_found_with_its_line()
+    {
+        DiscIndex index(SomeTexts(), [] {});
+        QVERIFY(WaitForEnd(index));
+        const IndexAnswer answer = AnswerTo(index, u"hood scoop"_s);
+        QCOMPARE(answer.Question, u"hood scoop"_s);
+        QCOMPARE(answer.Count, 1);
+        QCOMPARE(answer.Best.first().Entry, 0);
+        QCOMPARE(answer.Best.first().Line.Text, u"The hood scoop is painted."_s);
+        QCOMPARE(answer.Best.first().Line.Found, QList<TextRange>({{4, 4}, {9, 5}}));
+    }
+
+    void what_has_a_title_only_is_found_by_it()
+    {
+        DiscIndex index(SomeTexts(), [] {});
+        const IndexAnswer answer = AnswerTo(index, u"glider"_s, [&] { return index.Progress().IsDone; });
+        QCOMPARE(answer.Count, 1);
+        QCOMPARE(answer.Best.first().Entry, 2);
+        QCOMPARE(answer.Best.first().Line.Text, QString());
+        QCOMPARE(index.Progress().LeftOut, 0);
+    }
+
+    void the_progress_counts_what_was_read_and_what_was_left_out()
+    {
+        QList<IndexedText> texts = SomeTexts();
+        texts.append(Failing(failure::fileNotFound));
+        texts.append(Failing(failure::deviceIo));
+        texts.append({u"Empty"_s, [] { return QByteArray(); }});
+        texts.append({u"Without words"_s, [] { return QByteArray("{\\rtf1 \\par }"); }});
+        DiscIndex index(texts, [] {});
+        QVERIFY(WaitForEnd(index));
+        const IndexProgress progress = index.Progress();
+        QCOMPARE(progress.Read, 7);
+        QCOMPARE(progress.Total, 7);
+        QCOMPARE(progress.LeftOut, 4);
+        QVERIFY(progress.IsUsable);
+        // What could not be read is found by nothing, its title included.
+        QCOMPARE(AnswerTo(index, u"failing"_s).Count, 0);
+        QCOMPARE(AnswerTo(index, u"hood"_s).Count, 2);
+    }
+
+    void a_damaged_article_is_found_by_what_there_is_of_it()
+    {
+        DiscIndex index({{u"Cut"_s, [] { return QByteArray("{\\rtf1\\ansi {\\b The hood scoop is pain"); }}},
+                        [] {});
+        QVERIFY(WaitForEnd(index));
+        QCOMPARE(AnswerTo(index, u"scoop"_s).Count, 1);
+    }
+
+    void questions_are_answered_while_more_is_read()
+    {
+        auto gate = std::make_shared<QSemaphore>();
+        QList<IndexedText> texts = SomeTexts();
+        texts.append({u"Late"_s, [gate] {
+                          gate->acquire();
+                          return QByteArray("{\\rtf1 a late hood}");
+                      }});
+        texts.append(Text(u"Last"_s, "words"));
+        DiscIndex index(texts, [] {});
+        index.Ask(u"hood"_s);
+        const IndexAnswer early = NextAnswer(index);
+        QVERIFY(early.Count >= 1 && early.Count <= 2);
+        QVERIFY(!index.Progress().IsDone);
+        gate->release();
+        QVERIFY(WaitForEnd(index));
+        QTRY_COMPARE(LastCount(index), 3); // answered again, without another question
+    }
+
+    void the_latest_question_is_the_one_that_counts()
+    {
+        DiscIndex index(SomeTexts(), [] {});
+        QVERIFY(WaitForEnd(index));
+        index.TakeAnswer();
+        for (const QString& question : {u"h"_s, u"ho"_s, u"hoo"_s, u"glossary"_s})
+            index.Ask(question);
+        QCOMPARE(AnswerOf(index, u"glossary"_s).Count, 1);
+        QVERIFY(!index.TakeAnswer().has_value());
+    }
+
+    void no_more_than_the_best_hundred_are_given_and_all_are_counted()
+    {
+        QList<IndexedText> texts;
+        for (int number = 0; number < 150; ++number)
+            texts.append(Text(u"Text %1"_s.arg(number), "car"));
+        DiscIndex index(texts, [] {});
+        QVERIFY(WaitForEnd(index));
+        const IndexAnswer answer = AnswerTo(index, u"car"_s);
+        QCOMPARE(answer.Count, 150);
+        QCOMPARE(answer.Best.size(), 100);
+    }
+
+    void news_are_told_until_the_end_and_never_after_it()
+    {
+        auto told = std::make_shared<std::atomic<int>>(0);
+        auto gate = std::make_shared<QSemaphore>();
+        auto left = std::make_shared<QSemaphore>();
+        {
+            DiscIndex index({Text(u"One"_s, "word"),
+                             {u"Two"_s,
+                              [gate, left] {
+                                  gate->acquire();
+                                  left->release();
+                                  return QByteArray("{\\rtf1 word}");
+                              }}},
+                            [told] { ++*told; });
+            QTRY_COMPARE(told->load(), 1);
+        } // returns at once, although the thread still reads
+        gate->release();
+        QVERIFY(left->tryAcquire(1, 10'000));
+        QCOMPARE(told->load(), 1);
+    }
+
+    void an_empty_disc_is_read_at_once()
+    {
+        DiscIndex index({}, [] {});
+        QVERIFY(WaitForEnd(index));
+        QCOMPARE(AnswerTo(index, u"hood"_s).Count, 0);
+    }
+
+private:
+    static bool WaitForEnd(const DiscIndex& index)
+    {
+        return QTest::qWaitFor([&] { return index.Progress().IsDone; }, 20'000);
+    }
+
+    static IndexAnswer NextAnswer(DiscIndex& index)
+    {
+        std::optional<IndexAnswer> answer;
+        const bool came = QTest::qWaitFor([&] { return (answer = index.TakeAnswer()).has_value(); }, 20'000);
+        return came ? *answer : IndexAnswer{u"no answer"_s, -1, {}};
+    }
+
+    static IndexAnswer AnswerOf(DiscIndex& index, const QString& question)
+    {
+        IndexAnswer answer = NextAnswer(index);
+        while (answer.Question != question && answer.Count >= 0)
+            answer = NextAnswer(index);
+        return answer;
+    }
+
+    template <typename Ready>
+    static IndexAnswer AnswerTo(DiscIndex& index, const QString& question, Ready&& ready)
+    {
+        if (!QTest::qWaitFor(ready, 20'000))
+            return {};
+        index.TakeAnswer();
+        index.Ask(question);
+        return AnswerOf(index, question);
+    }
+    static IndexAnswer AnswerTo(DiscIndex& index, const QString& question)
+    {
+        return AnswerTo(index, question, [] { return true; });
+    }
+
+    static qsizetype LastCount(DiscIndex& index)
+    {
+        static qsizetype last = -1;
+        if (const auto answer = index.TakeAnswer())
+            last = answer->Count;
+        return last;
+    }
+};
+
+TORVIK_TEST(DiscIndexTest)
+#include "disc_index_test.moc"
