@@ -1,6 +1,7 @@
 #pragma once
 
-#include "sample/drawings/script.h"
+#include <QPainterPath>
+#include <QString>
 
 namespace torvik::sample {
 
@@ -16,8 +17,5 @@ struct Pen {
 /// The word in joined handwriting as one shape, its line of writing at y = 0 and its left edge near x = 0.
 /// Knows the letters of the names of the cars; throws std::out_of_range for others.
 QPainterPath WriteWord(const QString& word, const Pen& pen);
-
-/// Teaches a script ink(word, xHeight, broad, fine, spread): the word written with such a pen.
-void TeachPen(Script& script);
 
 } // namespace torvik::sample
