@@ -1,6 +1,7 @@
 #include "ui/controls/rich_list_box.h"
 
 #include "runtime/failure.h"
+#include "ui/look/look.h"
 #include "ui/look/rich_row.h"
 
 #include <QAbstractListModel>
