@@ -1,8 +1,10 @@
 #include "bind_handlers.h"
+#include "check/run_check.h"
 #include "platform/files/program_files.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "platform/system/arguments_of.h"
+#include "platform/system/environment.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
 #include "start/chosen_scale.h"
@@ -13,7 +15,7 @@
 #include "version.h"
 #include "windows/splash.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <cstdio>
 
@@ -40,6 +42,20 @@ QString TakeFolders(const torvik::CommandLine& line)
     return error == 0 ? QString() : RunTimeErrorText(error) + u"."_s;
 }
 
+/// The check has no window, so it needs no display.
+int CheckOnly(int argc, char** argv)
+{
+    using namespace torvik;
+    const HeldVariable withoutDisplay("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    const CommandLine line = ReadCommandLine(ArgumentsOf(argc, argv));
+    if (!line.Problem.isEmpty())
+        return Complain(line.Problem);
+    if (const QString problem = TakeFolders(line); !problem.isEmpty())
+        return Complain(problem);
+    return RunCheck(line.CheckedDisc, line.Json);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -57,6 +73,8 @@ int main(int argc, char** argv)
     }
     if (early.Verbose)
         LogEverything();
+    if (early.Check)
+        return CheckOnly(argc, argv);
 
     Application application(argc, argv, ChosenScale(IsScale(early.Scale) ? early.Scale : QString()));
     const CommandLine line = ReadCommandLine(ArgumentsOf(argc, argv));

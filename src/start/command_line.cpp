@@ -25,6 +25,11 @@ struct Options {
         u"Enlarges everything by 1 to 8, such as 1.5; \"fit\" is as large as the screen allows. "
         "Remembered until \"auto\" is given."_s,
         u"FACTOR"_s};
+    const QCommandLineOption Check{
+        u"check"_s,
+        u"Checks the disc, tells what is missing or damaged, and ends: with 0 when the disc is whole, "
+        "1 when something was found, 2 when there is no disc."_s};
+    const QCommandLineOption Json{u"json"_s, u"The check reports to a program, as JSON."_s};
     const QCommandLineOption Verbose{
         u"verbose"_s, u"Tells which drives, files, decoders and printers are tried, and with what result."_s};
     const QCommandLineOption Help{{u"h"_s, u"help"_s}, u"Shows this text."_s};
@@ -32,7 +37,7 @@ struct Options {
 
     QList<QCommandLineOption> All() const
     {
-        return {Drive, ProgramFolder, PrintTo, Scale, Verbose, Help, Version};
+        return {Drive, ProgramFolder, PrintTo, Scale, Check, Json, Verbose, Help, Version};
     }
 };
 
@@ -46,7 +51,7 @@ void Prepare(QCommandLineParser& parser, const Options& options)
     parser.addOptions(options.All());
     parser.addPositionalArgument(
         u"FOLDER"_s,
-        u"A folder that holds a disc, or an image file of one; it takes the first free drive letter."_s,
+        u"A folder that holds a disc, or an image file of one; it takes the first free drive letter. For --check also a letter with a colon."_s,
         u"[FOLDER]"_s);
 }
 
@@ -65,6 +70,14 @@ void TakeScale(CommandLine& read, const QString& value, bool isGiven)
         read.Problem = ScaleProblem(value);
 }
 
+/// A check is of one disc, and that may be one of the drives.
+void TakeCheck(CommandLine& read, const QStringList& discs)
+{
+    read.CheckedDisc = discs.value(0);
+    if (discs.size() > 1 && read.Problem.isEmpty())
+        read.Problem = u"--check checks one disc at a time."_s;
+}
+
 } // namespace
 
 CommandLine ReadCommandLine(const QStringList& arguments)
@@ -79,8 +92,15 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     for (const QString& value : drives)
         TakeDrive(read, value);
     const QStringList folders = parser.positionalArguments();
-    for (const QString& folder : folders)
-        read.Drives.append({QChar(), folder});
+    read.Check = parser.isSet(options.Check);
+    read.Json = parser.isSet(options.Json);
+    if (read.Check)
+        TakeCheck(read, folders);
+    else
+        for (const QString& folder : folders)
+            read.Drives.append({QChar(), folder});
+    if (read.Json && !read.Check && read.Problem.isEmpty())
+        read.Problem = u"--json belongs to --check."_s;
     read.ProgramFolder = parser.value(options.ProgramFolder);
     read.PrintFolder = parser.value(options.PrintTo);
     TakeScale(read, parser.value(options.Scale), parser.isSet(options.Scale));

@@ -14,6 +14,9 @@ struct CommandLine {
     QString ProgramFolder;     ///< --program-folder FOLDER; empty when it was not given
     QString PrintFolder;       ///< --print-to FOLDER; empty when it was not given
     QString Scale;             ///< --scale FACTOR, fit or auto; empty when it was not given
+    bool Check = false;        ///< --check: the disc is checked, and no window opens
+    QString CheckedDisc; ///< a folder, an image or a letter with a colon; empty for the disc that is found
+    bool Json = false;   ///< --json: the check reports to a program
     bool Verbose = false;
     bool Help = false;
     bool Version = false;

@@ -3,6 +3,7 @@
 #include "browser/browse_from_start.h"
 #include "browser/restore_main_window.h"
 #include "browser/select_year.h"
+#include "program/catalogue/other_files.h"
 #include "program/catalogue/topics.h"
 #include "program/program_state.h"
 #include "program/task_bar.h"
@@ -23,7 +24,7 @@ void Form1_Load()
 {
     Form1Controls& form = *Form1;
     form.mnuMag(1).SetCaption(DoubleAmpersands(form.mnuMag(1).Caption()));
-    state.DocumentFile = state.DiscRoot + u"\\richtext\\desc.rtf"_s;
+    state.DocumentFile = state.DiscRoot + startDocument;
     Screen.SetMousePointer(MousePointer::Default);
     Form2.Unload();
     form.Frame1.ZOrder();

@@ -80,6 +80,11 @@ ControlArray<Label> MakeLabels(Panel& panel)
 
 } // namespace
 
+QString SoundLabel(int index)
+{
+    return soundLabels[index];
+}
+
 SoundPanel::SoundPanel(Form& form)
     : pnlSound(form, u"pnlSound"_s, {2000, 1200, 7980, 5580}),
       Label10(pnlSound, u"Label10"_s, {360, 150, 7260, 330}, u"Automobile Sound Effects"_s),
