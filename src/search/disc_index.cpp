@@ -4,6 +4,7 @@
 #include "runtime/failure.h"
 #include "search/text_index.h"
 
+#include <QCoreApplication>
 #include <QThreadPool>
 
 #include <chrono>
@@ -23,12 +24,18 @@ constexpr qsizetype mostHits = 100;                ///< that are given with thei
 constexpr qsizetype lineLength = 110;              ///< as much as the form has room for
 constexpr std::chrono::milliseconds freshFor{120}; ///< an answer, while more is read
 
-/// Threads of an index that is gone may still wait for a disc; the program's end waits for them.
+/// Threads of an index that is gone may still wait for a disc. The program's end waits for them while there
+/// is still an application: later the toolkit's list of databases, which they leave, is gone as well.
 QThreadPool& Threads()
 {
     static QThreadPool pool;
-    constexpr int many = 16;
-    pool.setMaxThreadCount(many);
+    static const bool isAwaited = [] {
+        constexpr int many = 16;
+        pool.setMaxThreadCount(many);
+        qAddPostRoutine([] { pool.waitForDone(); });
+        return true;
+    }();
+    Q_UNUSED(isAwaited)
     return pool;
 }
 
