@@ -71,8 +71,8 @@ void ShowNostalgia()
         return;
     const Article article = NostalgiaOf(title);
     state.YearCode = Mid(title, 3, 2);
-    state.DocumentFile = state.DiscRoot + article.File;
-    txtForm->SetCaption(article.WindowTitle);
+    state.DocumentFile = state.DiscRoot + article.file;
+    txtForm->SetCaption(article.windowTitle);
     txtForm->rtbText.SetFileName(state.DocumentFile);
     txtForm->ZOrder();
     PutWaveButtonsAway();

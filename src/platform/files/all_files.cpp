@@ -20,7 +20,7 @@ bool IsAnyName(std::string_view /*name*/)
 
 class Lister {
 public:
-    explicit Lister(Place root) : volume_(std::move(root.On)), root_(std::move(root.Path)) {}
+    explicit Lister(Place root) : volume_(std::move(root.on)), root_(std::move(root.path)) {}
 
     QList<ListedFile> List()
     {
@@ -46,7 +46,7 @@ private:
     void Take(const std::string& file, const QString& path)
     {
         ListedFile listed{path, {volume_, file}, -1};
-        ResumeNext([&] { listed.Length = volume_->Status(file).Length; });
+        ResumeNext([&] { listed.length = volume_->Status(file).length; });
         files_.append(std::move(listed));
     }
 

@@ -29,7 +29,7 @@ void TellFullFilesByError()
 BinaryInput::BinaryInput(const QString& path)
 {
     const Place place = PlaceOf(path);
-    file_ = place.On->Open(place.Path);
+    file_ = place.on->Open(place.path);
 }
 
 void BinaryInput::Read(QByteArray& buffer, qsizetype length)
