@@ -1,6 +1,6 @@
+#include "documents/article_of_button.h"
 #include "documents/article_viewer.h"
 #include "documents/bind_documents.h"
-#include "documents/find_article.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"

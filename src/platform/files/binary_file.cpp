@@ -1,7 +1,7 @@
 #include "platform/files/binary_file.h"
 
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/drives.h"
-#include "platform/paths/path_lookup.h"
 #include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 

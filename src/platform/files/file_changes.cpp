@@ -2,9 +2,9 @@
 
 #include "platform/files/binary_file.h"
 #include "platform/files/files.h"
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/matching_names.h"
-#include "platform/paths/path_lookup.h"
 #include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 

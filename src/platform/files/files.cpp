@@ -1,11 +1,11 @@
 #include "platform/files/files.h"
 
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/folder_index.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/matching_names.h"
 #include "platform/paths/name_pattern.h"
-#include "platform/paths/path_lookup.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
 

@@ -1,10 +1,10 @@
 #include "platform/paths/drives.h"
 
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/folder_volume.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/image_volume.h"
 #include "platform/paths/mounted_media.h"
-#include "platform/paths/path_lookup.h"
 #include "platform/paths/program_folder.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"

@@ -1,4 +1,4 @@
-#include "documents/find_article.h"
+#include "documents/article_of_button.h"
 
 #include "platform/files/files.h"
 #include "program/program_state.h"
