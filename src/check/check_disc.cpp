@@ -49,6 +49,7 @@ std::vector<Examination> ExamineAll(const QList<ListedFile>& files, const CheckP
         }
     };
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     for (int count = 0; count < threadCount; ++count)
         threads.emplace_back(work);
     const int all = static_cast<int>(files.size());

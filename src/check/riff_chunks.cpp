@@ -60,7 +60,7 @@ public:
     {
         qint64 place = headLength + 4;
         for (int count = 0; count < mostChunks; ++count) {
-            const auto chunk = At(place);
+            auto chunk = At(place);
             if (!chunk || chunk->name == name)
                 return chunk;
             place = chunk->begin + chunk->length + chunk->length % 2;

@@ -109,12 +109,11 @@ void AskForWords()
 void txtForm_KeyDown(int code, int shift)
 {
     const bool isOpen = txtForm->panFind.Visible();
-    if (code == key::letterF && shift == held::ctrl)
+    const bool isFind = code == key::letterF && shift == held::ctrl;
+    if (isFind || (code == key::f3 && !isOpen))
         AskForWords();
-    else if (code == key::f3 && isOpen)
-        Step(shift);
     else if (code == key::f3)
-        AskForWords();
+        Step(shift);
     else if (code == key::escape && isOpen)
         CloseBar();
 }

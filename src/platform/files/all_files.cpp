@@ -18,6 +18,13 @@ bool IsAnyName(std::string_view /*name*/)
     return true;
 }
 
+std::string Below(const std::string& folder, const std::string& name)
+{
+    std::string path = folder + '/';
+    path += name;
+    return path;
+}
+
 class Lister {
 public:
     explicit Lister(Place root) : volume_(std::move(root.on)), root_(std::move(root.path)) {}
@@ -35,11 +42,11 @@ private:
             return;
         ResumeNext([&] {
             for (const std::string& name : volume_->Files(folder, IsAnyName))
-                Take(folder + '/' + name, path + NameFromHost(name));
+                Take(Below(folder, name), path + NameFromHost(name));
         });
         ResumeNext([&] {
             for (const std::string& name : volume_->Folders(folder, IsAnyName))
-                Enter(folder + '/' + name, path + NameFromHost(name) + u'\\', depth + 1);
+                Enter(Below(folder, name), path + NameFromHost(name) + u'\\', depth + 1);
         });
     }
 

@@ -128,7 +128,7 @@ QString FindFile(const QString& patternOrPath)
 {
     if (NamePattern::HasWildcards(QStringView(patternOrPath).mid(BeginOfName(patternOrPath)))) {
         const QStringList names = FilesMatching(patternOrPath);
-        const QString first = names.isEmpty() ? QString() : names.first();
+        QString first = names.isEmpty() ? QString() : names.first();
         qCDebug(logFiles, "%s: %d found%s%s", qUtf8Printable(patternOrPath), int(names.size()),
                 first.isEmpty() ? "" : ", the first is ", qUtf8Printable(first));
         return first;

@@ -17,7 +17,7 @@ namespace {
 constexpr int mostDescriptors = 64;
 constexpr int deepest = 64;
 constexpr std::size_t mostEntries = 200'000;
-constexpr qint64 mostFolderBytes = 64 * 1024 * 1024;
+constexpr qint64 mostFolderBytes = 64LL * 1024 * 1024;
 
 using Folders = std::vector<std::vector<ImageEntry>>;
 

@@ -28,7 +28,7 @@ constexpr std::array<SectorForm, 6> forms{{
 }};
 
 /// Raw sectors are read in pieces of this many.
-constexpr int sectorsAtOnce = 16;
+constexpr std::size_t sectorsAtOnce = 16;
 
 } // namespace
 
@@ -83,7 +83,7 @@ qsizetype DiscSectors::ReadSectors(qint64 place, char* target, qsizetype room) c
 {
     std::array<char, sectorsAtOnce*(CDIO_CD_FRAMESIZE_RAW + subchannel)> raw;
     const qint64 first = place / content;
-    const qint64 last = std::min((place + room - 1) / content, first + sectorsAtOnce - 1);
+    const qint64 last = std::min((place + room - 1) / content, first + qint64{sectorsAtOnce} - 1);
     const auto length = static_cast<qsizetype>((last - first + 1) * form_.size);
     const qsizetype got = file_->Read(firstByte_ + first * form_.size, raw.data(), length);
 

@@ -135,10 +135,10 @@ void LogLookUp(const QString& drivePath, const Place& place)
 std::string EmbeddedDisc()
 {
     for (const QString& folder : {ProgramFolder(), DrivePath(QCoreApplication::applicationDirPath())}) {
-        const std::string disc = HostPathBytes(folder + u"\\disc"_s);
+        std::string disc = HostPathBytes(folder + u"\\disc"_s);
         if (QFileInfo(HostText(disc)).isDir())
             return disc;
-        const std::string image = HostPathBytes(folder + u"\\disc.iso"_s);
+        std::string image = HostPathBytes(folder + u"\\disc.iso"_s);
         if (QFileInfo(HostText(image)).isFile())
             return image;
     }

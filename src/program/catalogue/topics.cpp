@@ -180,7 +180,7 @@ QString CodeOfTitle(const QString& title)
 {
     if (const Topic* topic = BrowsedTopicOf(title))
         return QString::fromLatin1(topic->code);
-    const QString digits = Mid(title, 3, 2);
+    QString digits = Mid(title, 3, 2);
     if (digits == u"00"_s)
         return u"A0"_s;
     if (digits == u"01"_s)
