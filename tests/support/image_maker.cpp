@@ -6,10 +6,10 @@ namespace torvik {
 
 namespace {
 
-constexpr int firstFolderBlock = 20;
-constexpr int blocksOfFolder = 4;
-constexpr int mostFolders = 40;
-constexpr int firstContentBlock = firstFolderBlock + mostFolders * blocksOfFolder;
+constexpr qsizetype firstFolderBlock = 20;
+constexpr qsizetype blocksOfFolder = 4;
+constexpr qsizetype mostFolders = 40;
+constexpr qsizetype firstContentBlock = firstFolderBlock + mostFolders * blocksOfFolder;
 
 QByteArray Both(quint32 number)
 {
@@ -98,7 +98,7 @@ QByteArray ImageMaker::Iso() const
     primary += Both(0x7FFFFFFF) + Little(0x7FFFFFF0); // a table of folders that lies; nobody needs it
     primary = Padded(primary, 156) + Bytes(root);
 
-    QByteArray iso(16 * block, '\0');
+    QByteArray iso(qsizetype{16} * block, '\0');
     iso += Padded(primary, block);
     iso += Padded(QByteArray("\xFF"
                              "CD001\1",

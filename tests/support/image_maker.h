@@ -8,7 +8,7 @@ namespace torvik {
 /// Lays out disc images byte by byte, also such as no program would write.
 class ImageMaker {
 public:
-    static constexpr int block = 2048; ///< bytes
+    static constexpr qsizetype block = 2048; ///< bytes
 
     /// A record of a folder as it shall stand there.
     struct Record {
