@@ -161,7 +161,7 @@ private:
     void ApplyPlace();
     void Change();
     void MakeChange();
-    void ShowWindow();
+    void PutWindowOnScreen();
     void ChangeWindow();
     void Unsettle();
     void Watch();
