@@ -180,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(ResumeNext([&] { Picture::Load(over); }), 481);
     }
 
-    void a_picture_larger_than_the_platforms_own_limit_loads()
+    void a_picture_larger_than_qts_own_limit_loads()
     {
         const Picture large =
             Picture::Load(folder_.Add(u"large.jpg"_s, Encoded(FourCorners({7000, 6000}), "jpg")));
