@@ -86,7 +86,7 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, bytes);
         for (qsizetype length = 0; length < bytes.size() - 12;
-             length += 7) { // behind that a PNG holds but its end
+             length += 7) { // after that a PNG holds but its end
             const QString path = folder_.Add(u"cut.jpg"_s, bytes.left(length));
             const int failed = ResumeNext([&] { Picture::Load(path).Natural(); });
             QVERIFY2(failed == 481, qPrintable(QString::number(length)));
