@@ -95,7 +95,7 @@ private:
         const QString code = match.captured(1).toUpper();
         bool isNumber = false;
         code.toInt(&isNumber);
-        return isNumber || code == u"A0"_s || code == u"A1"_s || TopicOfCode(code) != nullptr;
+        return isNumber || code == code2000 || code == code2001 || TopicOfCode(code) != nullptr;
     }
 
     void FindMissingCaptions()
