@@ -11,12 +11,13 @@ class Manager:
     keeps_on_top: bool = True
     covers_screen: bool = True
     maximizes: bool = True
+    divides_screen: bool = True  # sees the monitors of a virtual screen, which are no outputs of their own
 
 
 OPENBOX = Manager("openbox", ("openbox", "--sm-disable"))
 XFWM4 = Manager("xfwm4", ("xfwm4", "--compositor=off"))
 METACITY = Manager("metacity", ("metacity", "--sm-disable"))
-KWIN = Manager("kwin", ("kwin_x11",))
+KWIN = Manager("kwin", ("kwin_x11",), divides_screen=False)
 MUTTER = Manager("mutter", ("mutter", "--x11", "--sm-disable"))
 NONE = Manager("none", keeps_on_top=False, covers_screen=False, maximizes=False)
 
