@@ -18,7 +18,7 @@ OPENBOX = Manager("openbox", ("openbox", "--sm-disable"))
 XFWM4 = Manager("xfwm4", ("xfwm4", "--compositor=off"))
 METACITY = Manager("metacity", ("metacity", "--sm-disable"))
 KWIN = Manager("kwin", ("kwin_x11",), divides_screen=False)
-MUTTER = Manager("mutter", ("mutter", "--x11", "--sm-disable"))
+MUTTER = Manager("mutter", ("mutter", "--x11", "--sm-disable"), divides_screen=False)
 NONE = Manager("none", keeps_on_top=False, covers_screen=False, maximizes=False)
 
 ALL = {manager.name: manager for manager in (OPENBOX, XFWM4, METACITY, KWIN, MUTTER, NONE)}

@@ -32,6 +32,9 @@ class RandomUser:
         self.place = None
         self._elements = elements
         self._program = program
+        if not self._window() and self._chances.random() < 0.3:
+            self._restore()
+            return
         deeds = [(self._press_something, 40), (self._press_key, 22), (self._choose_from_menus, 12), (self._go_round, 6),
                  (self._press_as_screen_reader, 5), (self._drag, 4), (self._turn_wheel, 4), (self._type, 4), (self._dismiss, 12),
                  (self._change_window, 2), (self._leave, 0.15)]
@@ -156,6 +159,14 @@ class RandomUser:
         area = Area(self._chances.randrange(-50, 400), self._chances.randrange(-50, 300),
                     self._chances.randrange(100, 1200), self._chances.randrange(80, 900))
         self._screen.change_active_window(change, area)
+
+    def _restore(self):
+        """All windows are minimized: one comes back from the task bar."""
+        windows = sorted({element.window for element in self._elements if element.window})
+        if windows:
+            window = self._chances.choice(windows)
+            self.tell(f"restore the window {window!r}")
+            self._screen.raise_window(window)
 
     def _leave(self):
         self.tell(f"press alt+F4 in {self._window()!r}")
