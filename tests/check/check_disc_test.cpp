@@ -41,29 +41,29 @@ public:
         const QByteArray movie = TestMovie::Avi();
         const QByteArray sound = TestMovie::Wav();
         for (const QString& photo : photos) {
-            Disc.AddFile(u"Torviks/"_s + photo, picture);
-            Disc.AddFile(u"RichText/"_s + photo.left(8).toLower() + u".rtf"_s, article);
+            disc.AddFile(u"Torviks/"_s + photo, picture);
+            disc.AddFile(u"RichText/"_s + photo.left(8).toLower() + u".rtf"_s, article);
         }
         const QHash<QString, AskedFile> asked = AskedFiles(photos);
         for (auto file = asked.cbegin(); file != asked.cend(); ++file) {
             // Under the folded path: spellings of folders differ from table to table, and the host tells them
             // apart.
             const QString path = QString(file.key()).replace(u'\\', u'/');
-            if (file->Most != Need::Full)
+            if (file->most != Need::Full)
                 continue;
             const QString ending = path.right(4);
-            Disc.AddFile(path, ending == u".rtf"_s   ? article
+            disc.AddFile(path, ending == u".rtf"_s   ? article
                                : ending == u".avi"_s ? movie
                                : ending == u".wav"_s ? sound
                                                      : picture);
         }
-        SetDriveOptions({{u'E', Disc.Folder()}});
+        SetDriveOptions({{u'E', disc.Folder()}});
     }
     ~WholeDisc() { SetDriveOptions({}); }
     WholeDisc(const WholeDisc&) = delete;
     WholeDisc& operator=(const WholeDisc&) = delete;
 
-    TestDisc Disc;
+    TestDisc disc;
 };
 
 CheckResult Check()
@@ -75,9 +75,9 @@ CheckResult Check()
 QStringList Said(const CheckResult& result)
 {
     QStringList said;
-    for (const Finding& finding : result.Findings) {
-        if (finding.Kind != FindingKind::Remark)
-            said.append(KindWord(finding.Kind) + u' ' + finding.File + u": "_s + finding.What);
+    for (const Finding& finding : result.findings) {
+        if (finding.kind != FindingKind::Remark)
+            said.append(KindWord(finding.kind) + u' ' + finding.file + u": "_s + finding.what);
     }
     return said;
 }
@@ -86,7 +86,7 @@ QStringList Said(const CheckResult& result)
 QString FolderOfSample(const WholeDisc& whole)
 {
     const QString built = QCoreApplication::applicationDirPath() + u"/../disc"_s;
-    return QDir(built + u"/Torviks"_s).exists() ? built : whole.Disc.Folder();
+    return QDir(built + u"/Torviks"_s).exists() ? built : whole.disc.Folder();
 }
 
 } // namespace
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(Said(result), QStringList());
         QVERIFY(result.IsWhole());
         QCOMPARE(result.CountOf(FindingKind::Remark), 1);
-        QVERIFY(result.FileCount > 500);
+        QVERIFY(result.fileCount > 500);
     }
 
     void each_file_that_is_taken_away_is_named_with_its_screens()
@@ -117,24 +117,24 @@ private Q_SLOTS:
         for (qsizetype gone = 0; gone < files.size(); ++gone) {
             QList<ListedFile> left = files;
             left.removeAt(gone);
-            const AskedFile wanted = asked.value(FoldedPath(files[gone].Path));
-            const bool isPhoto = !PhotoIn(files[gone].Path).isEmpty();
-            if (wanted.Most == Need::Known && !isPhoto)
+            const AskedFile wanted = asked.value(FoldedPath(files[gone].path));
+            const bool isPhoto = !PhotoIn(files[gone].path).isEmpty();
+            if (wanted.most == Need::Known && !isPhoto)
                 continue;
             if (isPhoto) { // its caption is left over
                 const QList<Finding> findings =
                     FindingsOf(left, std::vector<Examination>(static_cast<std::size_t>(left.size())));
-                QVERIFY2(findings.size() > before, qPrintable(files[gone].Path));
+                QVERIFY2(findings.size() > before, qPrintable(files[gone].path));
                 ++named;
                 continue;
             }
             const QList<Finding> missing = MissingFiles(left, asked);
             const auto isAboutIt = [&](const Finding& finding) {
-                return FoldedPath(finding.File) == FoldedPath(files[gone].Path) &&
-                       finding.Screens == wanted.Screens && !finding.Screens.isEmpty();
+                return FoldedPath(finding.file) == FoldedPath(files[gone].path) &&
+                       finding.screens == wanted.screens && !finding.screens.isEmpty();
             };
             QVERIFY2(std::count_if(missing.begin(), missing.end(), isAboutIt) == 1,
-                     qPrintable(files[gone].Path));
+                     qPrintable(files[gone].path));
             ++named;
         }
         QVERIFY(named > 500);
@@ -143,11 +143,11 @@ private Q_SLOTS:
     void a_year_without_any_photo_is_missing()
     {
         const WholeDisc whole;
-        QDir photos(whole.Disc.PathOf(u"Torviks"_s));
+        QDir photos(whole.disc.PathOf(u"Torviks"_s));
         QVERIFY(photos.remove(u"72TOR001.JPG"_s) && photos.remove(u"72TOR002.JPG"_s));
         const CheckResult result = Check();
-        QCOMPARE(result.Findings.first().What, u"has no photo for this screen"_s);
-        QCOMPARE(result.Findings.first().Screens, QStringList{u"1972"_s});
+        QCOMPARE(result.findings.first().what, u"has no photo for this screen"_s);
+        QCOMPARE(result.findings.first().screens, QStringList{u"1972"_s});
     }
 
     void damaged_files_are_named_by_what_is_wrong_data()
@@ -216,11 +216,11 @@ private Q_SLOTS:
     {
         WholeDisc whole;
         const QByteArray picture = TestDisc::Jpeg(Qt::darkCyan, {64, 48});
-        whole.Disc.AddFile(u"Torviks/67TOR005.JPG"_s, TestDisc::Jpeg(Qt::darkCyan, {640, 480}));
-        whole.Disc.AddFile(u"Torviks/68tor001.jpg"_s, picture);
-        whole.Disc.AddFile(u"RichText/69tor009.rtf"_s, article);
-        whole.Disc.AddFile(u"RichText/other.rtf"_s, article);
-        whole.Disc.AddFile(u"setup.exe"_s, "program");
+        whole.disc.AddFile(u"Torviks/67TOR005.JPG"_s, TestDisc::Jpeg(Qt::darkCyan, {640, 480}));
+        whole.disc.AddFile(u"Torviks/68tor001.jpg"_s, picture);
+        whole.disc.AddFile(u"RichText/69tor009.rtf"_s, article);
+        whole.disc.AddFile(u"RichText/other.rtf"_s, article);
+        whole.disc.AddFile(u"setup.exe"_s, "program");
         QCOMPARE(
             Said(Check()),
             (QStringList{
@@ -236,7 +236,7 @@ private Q_SLOTS:
     void the_report_for_programs_holds_what_the_one_for_people_says()
     {
         WholeDisc whole;
-        whole.Disc.Remove(u"wav/taxi.wav"_s);
+        whole.disc.Remove(u"wav/taxi.wav"_s);
         const CheckResult result = Check();
         const QString text = ReportText(result, false);
         QVERIFY(text.startsWith(u"missing  wav\\taxi.wav      is missing  [Sound Effects > Taxi Horns]\n"_s));
@@ -246,7 +246,7 @@ private Q_SLOTS:
         const QJsonObject report = QJsonDocument::fromJson(ReportJson(result)).object();
         QCOMPARE(report[u"version"_s].toInt(), 1);
         QCOMPARE(report[u"whole"_s].toBool(), false);
-        QCOMPARE(report[u"files"_s].toInt(), result.FileCount);
+        QCOMPARE(report[u"files"_s].toInt(), result.fileCount);
         QCOMPARE(report[u"counts"_s][u"missing"_s].toInt(), 1);
         const QJsonObject first = report[u"findings"_s].toArray().first().toObject();
         QCOMPARE(first[u"kind"_s].toString(), u"missing"_s);
