@@ -136,6 +136,7 @@ class DesktopCase(ProgramTest):
     def assert_show_on_main_window(self):
         """Some managers draw a narrower frame around a window that the user cannot size."""
         show = self.open_show()
+        self.assertTrue(self.screen.has_icon(show))
         places = lambda: [(area.left, area.top, *self.screen.size_of(window)) for window in (show, self.main)
                           for area in [self.frame(window)]]
         wait_until(lambda: places()[0] == places()[1], lambda: f"the show on the main window: {places()}")

@@ -11,7 +11,7 @@ class Manager:
     keeps_on_top: bool = True
     covers_screen: bool = True
     maximizes: bool = True
-    divides_screen: bool = True  # sees the monitors of a virtual screen, which are no outputs of their own
+    divides_screen: bool = True  # takes the monitors of a virtual screen, which are no outputs, for monitors
 
 
 OPENBOX = Manager("openbox", ("openbox", "--sm-disable"))
