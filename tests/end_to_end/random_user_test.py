@@ -209,9 +209,13 @@ class RandomUserTest(ProgramTest):
         year = self.chances.choice(["72", "85", "99"])
         self.program.activate(year, window=MAIN_TITLE)
         wait_until(lambda: self.come_to_rest() and self.program.view().title == f"19{year}", f"the year 19{year}")
-        focus = wait_until(lambda: self.program.view().focus, "a focus")
+        focus = wait_until(self.focus, "a focus")
         self.program.press("Tab")
-        wait_until(lambda: self.program.view().focus not in ("", focus), f"the focus to leave {focus!r}")
+        wait_until(lambda: self.focus() not in ("", focus), f"the focus to leave {focus!r}")
+
+    def focus(self):
+        """Without the menus: one that was pressed while it was grey counts as focused until the mouse is elsewhere."""
+        return next((e.name for e in self.program.elements() if e.focused and e.role != "menu item"), "")
 
     def come_to_rest(self):
         """The whole disc is back and only the main window is open. False when the program has ended on the way."""
