@@ -25,7 +25,7 @@ constexpr qsizetype lineLength = 110;              ///< as much as the form has 
 constexpr std::chrono::milliseconds freshFor{120}; ///< an answer, while more is read
 
 /// Threads of an index that is gone may still wait for a disc. The program's end waits for them while there
-/// is still an application: later the toolkit's list of databases, which they leave, is gone as well.
+/// is still an application: later Qt's list of databases, which they leave, is gone as well.
 QThreadPool& Threads()
 {
     static QThreadPool pool;

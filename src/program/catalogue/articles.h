@@ -29,7 +29,7 @@ QString ArticleFolder(ArticleButton button);
 /// The code under which a button reports an article that is missing.
 QString ArticleErrorCode(ArticleButton button);
 
-/// What cmdNostalgia asks for; it goes by the two characters of a topic too.
+/// What cmdNostalgia asks for; for a topic it uses the same two characters, which name no file.
 Article NostalgiaOf(const QString& title);
 
 /// What cmdStats shows of the photo with this number in place of an article; empty for a title without notes.
