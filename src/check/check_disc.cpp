@@ -90,14 +90,9 @@ public:
 private:
     void TakeFile(const ListedFile& file, const Examination& examined)
     {
-        const auto asked = asked_.constFind(FoldedPath(file.Path));
-        if (!examined.IsWhole) {
-            QStringList screens = asked != asked_.cend() ? asked->Screens : QStringList();
-            const QString photo = PhotoIn(file.Path);
-            if (screens.isEmpty() && !photo.isEmpty())
-                screens = {ScreenOfPhoto(photo)};
-            findings_.append({examined.Kind, file.Path, examined.What, screens});
-        }
+        if (!examined.IsWhole)
+            findings_.append(
+                {examined.Kind, file.Path, examined.What, asked_.value(FoldedPath(file.Path)).Screens});
     }
 
     const QList<ListedFile>& files_;
@@ -116,7 +111,7 @@ QList<Finding> MissingFiles(const QList<ListedFile>& files, const QHash<QString,
         there.insert(FoldedPath(file.Path));
     QList<Finding> findings;
     for (auto file = asked.cbegin(); file != asked.cend(); ++file) {
-        if (file->Most == Need::Known || there.contains(file.key()))
+        if (file->Most < Need::Remark || there.contains(file.key()))
             continue;
         if (file->Most == Need::Full)
             findings.append({FindingKind::Missing, file->Path, u"is missing"_s, file->Screens});

@@ -26,14 +26,15 @@ struct DocumentButton {
     ArticleButton Button;
     torvik::Button Form1Controls::*Control;
     const char* Name;
+    const char* NameOfTopics; ///< on the button while a topic is the chosen one
     const char* Topic::*OwnArticle;
 };
 
 const DocumentButton documentButtons[] = {
-    {ArticleButton::Description, &Form1Controls::cmdDesc, "Description", &Topic::Description},
-    {ArticleButton::Options, &Form1Controls::cmdOptions, "Options", &Topic::Options},
-    {ArticleButton::Statistics, &Form1Controls::cmdStats, "Statistics", &Topic::Statistics},
-    {ArticleButton::Colors, &Form1Controls::cmdColors, "Colors", &Topic::Colors},
+    {ArticleButton::Description, &Form1Controls::cmdDesc, "Description", "Description", &Topic::Description},
+    {ArticleButton::Options, &Form1Controls::cmdOptions, "Options", "Options", &Topic::Options},
+    {ArticleButton::Statistics, &Form1Controls::cmdStats, "Statistics", "Details", &Topic::Statistics},
+    {ArticleButton::Colors, &Form1Controls::cmdColors, "Colors", "Colors", &Topic::Colors},
 };
 
 /// The photos of one year or topic: their places in the list.
@@ -75,12 +76,13 @@ private:
         catalogue_.Findables.append({title.simplified(), place, file, std::move(open)});
     }
 
+    /// `isAskedFor`: by a button that works; what else lies on the disc is found too.
     void AddArticle(const Article& article, const QString& place, const Choosing& choose,
-                    torvik::Button Form1Controls::*button)
+                    torvik::Button Form1Controls::*button, bool isAskedFor = true)
     {
         const QString file = state.DiscRoot + article.File;
         if (!FileExists(file)) {
-            ++catalogue_.Missing;
+            catalogue_.Missing += isAskedFor ? 1 : 0;
             return;
         }
         Add(article.WindowTitle, place, file,
@@ -105,19 +107,19 @@ private:
             const bool givesWay = hasNotes && each.Button == ArticleButton::Statistics;
             if (*(topic.*each.OwnArticle) != '\0' && !givesWay)
                 AddArticle(ArticleOf(each.Button, title),
-                           title.trimmed() + u" > "_s + QLatin1String(each.Name), ChooseTopic(topic),
-                           each.Control);
+                           title.trimmed() + u" > "_s + QLatin1String(each.NameOfTopics), ChooseTopic(topic),
+                           each.Control, AsksForArticle(each.Button, topic));
         }
     }
 
     void AddLibraryDocument(const LibraryDocument& document)
     {
         const QString file = state.DiscRoot + QLatin1String(document.File);
+        const QString screen = QString::fromUtf8(document.Screen);
         if (!FileExists(file)) {
-            ++catalogue_.Missing;
+            catalogue_.Missing += screen.isEmpty() ? 0 : 1;
             return;
         }
-        const QString screen = QString::fromUtf8(document.Screen);
         Add(WindowTitleOf(document), screen.isEmpty() ? u"Library"_s : screen, file,
             [entry = QString::fromLatin1(document.Entry)](const QString& words) {
                 OpenLibraryDocument(entry, words);

@@ -81,6 +81,20 @@ QString ArticleErrorCode(ArticleButton button)
     return QLatin1String(RuleOf(button).ErrorCode);
 }
 
+bool AsksForArticle(ArticleButton button, const Topic& topic)
+{
+    switch (button) {
+    case ArticleButton::Description:
+        return topic.HasDescription;
+    case ArticleButton::Statistics:
+        return topic.HasStatistics && *topic.Notes.Below5 == '\0';
+    case ArticleButton::Options:
+    case ArticleButton::Colors:
+        break;
+    }
+    return topic.KeepsYearButtons;
+}
+
 Article NostalgiaOf(const QString& title)
 {
     return {u"\\richtext\\nostalgia"_s + Mid(title, 3, 2) + u".rtf"_s,
