@@ -16,9 +16,9 @@ enum class Need {
 
 /// A file that screens ask for.
 struct AskedFile {
-    QString Path; ///< from the disc's root on, as the first screen spells it: "richtext\67desc.rtf"
-    QStringList Screens;
-    Need Most = Need::Known; ///< of all its screens
+    QString path; ///< from the disc's root on, as the first screen spells it: "richtext\67desc.rtf"
+    QStringList screens;
+    Need most = Need::Known; ///< of all its screens
 };
 
 /// The form of a path by which files are the same: letter case does not count, nor a backslash in front.

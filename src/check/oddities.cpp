@@ -43,7 +43,7 @@ public:
         : files_(files), examined_(examined), asked_(asked), photos_(NamesOfPhotos(files))
     {
         for (const ListedFile& file : files_)
-            spellings_[FoldedPath(file.Path)].append(file.Path);
+            spellings_[FoldedPath(file.path)].append(file.path);
     }
 
     QList<Finding> Find()
@@ -69,20 +69,20 @@ private:
             for (qsizetype other = 1; other < paths.size(); ++other)
                 Add(FindingKind::Odd, paths[other],
                     u"differs from %1 in letter case alone, and only that one is found"_s.arg(paths.first()),
-                    asked_.value(FoldedPath(paths[other])).Screens);
+                    asked_.value(FoldedPath(paths[other])).screens);
         }
     }
 
     void FindNeverAsked()
     {
         for (const ListedFile& file : files_) {
-            if (asked_.contains(FoldedPath(file.Path)))
+            if (asked_.contains(FoldedPath(file.path)))
                 continue;
-            if (const QString photo = PhotoOfCaption(file.Path); !photo.isEmpty())
-                Add(FindingKind::Odd, file.Path, u"is the caption of a photo that is not there"_s,
+            if (const QString photo = PhotoOfCaption(file.path); !photo.isEmpty())
+                Add(FindingKind::Odd, file.path, u"is the caption of a photo that is not there"_s,
                     {ScreenOfPhoto(photo)});
             else
-                Add(FindingKind::NeverAsked, file.Path, u"is not asked for by any screen"_s);
+                Add(FindingKind::NeverAsked, file.path, u"is not asked for by any screen"_s);
         }
     }
 
@@ -106,7 +106,7 @@ private:
             const QString caption = FoldedPath(CaptionPathOf(photo));
             if (!spellings_.contains(caption))
                 Add(FindingKind::Odd, torviksFolder.mid(1) + photo, u"has no caption"_s,
-                    asked_.value(caption).Screens);
+                    asked_.value(caption).screens);
         }
     }
 
@@ -140,31 +140,31 @@ private:
         QMap<QString, QList<qint64>> ofKind; // pictures of one folder are of one kind
         for (qsizetype file = 0; file < files_.size(); ++file) {
             if (const qint64 pixels = PixelsOf(file); pixels > 0)
-                ofKind[FoldedPath(FolderOf(files_[file].Path))].append(pixels);
+                ofKind[FoldedPath(FolderOf(files_[file].path))].append(pixels);
         }
         for (QList<qint64>& pixels : ofKind)
             std::sort(pixels.begin(), pixels.end());
         for (qsizetype file = 0; file < files_.size(); ++file) {
-            const QList<qint64> others = ofKind.value(FoldedPath(FolderOf(files_[file].Path)));
+            const QList<qint64> others = ofKind.value(FoldedPath(FolderOf(files_[file].path)));
             const qint64 pixels = PixelsOf(file);
-            if (pixels <= 0 || others.size() < fewestToCompare || PhotoIn(files_[file].Path).isEmpty())
+            if (pixels <= 0 || others.size() < fewestToCompare || PhotoIn(files_[file].path).isEmpty())
                 continue;
             const qint64 middle = others[others.size() / 2];
-            const QSize size = examined_[static_cast<std::size_t>(file)].Pixels;
+            const QSize size = examined_[static_cast<std::size_t>(file)].pixels;
             const QString measures = u"%1 by %2 pixels"_s.arg(size.width()).arg(size.height());
-            const QStringList screen{ScreenOfPhoto(PhotoIn(files_[file].Path))};
+            const QStringList screen{ScreenOfPhoto(PhotoIn(files_[file].path))};
             if (pixels > middle * muchLarger)
-                Add(FindingKind::Odd, files_[file].Path, u"is far larger than the others: "_s + measures,
+                Add(FindingKind::Odd, files_[file].path, u"is far larger than the others: "_s + measures,
                     screen);
             else if (pixels * muchLarger < middle)
-                Add(FindingKind::Odd, files_[file].Path, u"is far smaller than the others: "_s + measures,
+                Add(FindingKind::Odd, files_[file].path, u"is far smaller than the others: "_s + measures,
                     screen);
         }
     }
 
     qint64 PixelsOf(qsizetype file) const
     {
-        const QSize size = examined_[static_cast<std::size_t>(file)].Pixels;
+        const QSize size = examined_[static_cast<std::size_t>(file)].pixels;
         return size.isValid() ? qint64{size.width()} * size.height() : 0;
     }
 
@@ -191,7 +191,7 @@ QStringList NamesOfPhotos(const QList<ListedFile>& files)
 {
     QStringList photos;
     for (const ListedFile& file : files) {
-        if (const QString photo = PhotoIn(file.Path); !photo.isEmpty())
+        if (const QString photo = PhotoIn(file.path); !photo.isEmpty())
             photos.append(photo);
     }
     photos.sort();
@@ -210,9 +210,9 @@ QStringList ScreensWithoutPhoto(const QStringList& photos)
             screens.append(YearOfButton(button));
     }
     for (const Topic& topic : Topics()) {
-        if (topic.IsBrowsed && topic.Entry.Menu != TopicMenu::None &&
-            !codes.contains(QLatin1String(topic.Code)))
-            screens.append(QString::fromLatin1(topic.Title).trimmed());
+        if (topic.isBrowsed && topic.entry.menu != TopicMenu::None &&
+            !codes.contains(QLatin1String(topic.code)))
+            screens.append(QString::fromLatin1(topic.title).trimmed());
     }
     return screens;
 }

@@ -57,8 +57,8 @@ int RangeNumber(const QString& year)
 void PrintCover()
 {
     for (const CoverPicture& picture : CoverPictures()) {
-        Form1->Picture3.Load(state.DiscRoot + QString::fromLatin1(picture.File));
-        Printer.PaintPicture(Form1->Picture3.Picture(), picture.X, picture.Y);
+        Form1->Picture3.Load(state.DiscRoot + QString::fromLatin1(picture.file));
+        Printer.PaintPicture(Form1->Picture3.Picture(), picture.x, picture.y);
     }
     Printer.NewPage();
 }

@@ -46,7 +46,7 @@ QThreadPool& IndexThreads()
 QString TextOf(const IndexedText& entry)
 {
     try {
-        return rtf::PlainText(entry.Read());
+        return rtf::PlainText(entry.read());
     } catch (const RunTimeError&) {
         return {};
     } catch (const std::bad_alloc&) {
@@ -66,16 +66,16 @@ bool IsEmpty(const QString& text)
 /// What the index and its two threads share; each keeps it alive. One reads, and may wait for a disc as long
 /// as that takes. The other one has the table of words; it takes what was read, and answers.
 struct DiscIndex::Shared {
-    QList<IndexedText> Entries;
-    std::function<void()> News;
+    QList<IndexedText> entries;
+    std::function<void()> news;
 
-    mutable std::mutex Mutex;
-    std::condition_variable Changed;
-    bool Over = false;            ///< the index is gone
-    std::deque<QString> WereRead; ///< and are not in the table yet
-    std::optional<QString> Question;
-    std::optional<IndexAnswer> Answer;
-    IndexProgress Progress;
+    mutable std::mutex mutex;
+    std::condition_variable changed;
+    bool over = false;            ///< the index is gone
+    std::deque<QString> wereRead; ///< and are not in the table yet
+    std::optional<QString> question;
+    std::optional<IndexAnswer> answer;
+    IndexProgress progress;
 
     /// The lives of the two threads.
     void ReadEntries();
@@ -87,7 +87,7 @@ private:
     Task WaitForTask();
     void Fill(TextIndex& index);
     void AddNext(const QString& text, TextIndex& index);
-    void AnswerTo(const QString& question, TextIndex& index);
+    void AnswerTo(const QString& words, TextIndex& index);
     /// Calls `change` with the lock held, then tells of it.
     template <typename Change>
     void Tell(Change&& change);
@@ -101,22 +101,22 @@ private:
 template <typename Change>
 void DiscIndex::Shared::Tell(Change&& change)
 {
-    const std::lock_guard lock(Mutex);
-    if (Over)
+    const std::lock_guard lock(mutex);
+    if (over)
         return;
     change();
-    News();
+    news();
 }
 
 void DiscIndex::Shared::ReadEntries()
 {
-    for (const IndexedText& entry : std::as_const(Entries)) {
-        QString text = entry.Read ? TextOf(entry) : QString();
-        const std::lock_guard lock(Mutex);
-        if (Over)
+    for (const IndexedText& entry : std::as_const(entries)) {
+        QString text = entry.read ? TextOf(entry) : QString();
+        const std::lock_guard lock(mutex);
+        if (over)
             return;
-        WereRead.push_back(std::move(text));
-        Changed.notify_all();
+        wereRead.push_back(std::move(text));
+        changed.notify_all();
     }
 }
 
@@ -125,13 +125,13 @@ void DiscIndex::Shared::FillAndAnswer()
     TextIndex index;
     if (!index.IsUsable()) {
         Tell([this] {
-            Progress.IsUsable = false;
-            Progress.IsDone = true;
+            progress.isUsable = false;
+            progress.isDone = true;
         });
         return;
     }
-    if (Entries.isEmpty())
-        Tell([this] { Progress.IsDone = true; });
+    if (entries.isEmpty())
+        Tell([this] { progress.isDone = true; });
     for (;;) {
         switch (WaitForTask()) {
         case Task::Answer:
@@ -149,13 +149,13 @@ void DiscIndex::Shared::FillAndAnswer()
 /// A question comes before what was read, so that nobody waits for an answer.
 DiscIndex::Shared::Task DiscIndex::Shared::WaitForTask()
 {
-    std::unique_lock lock(Mutex);
-    Changed.wait(lock, [this] { return Over || Question || !WereRead.empty(); });
-    if (Over)
+    std::unique_lock lock(mutex);
+    changed.wait(lock, [this] { return over || question || !wereRead.empty(); });
+    if (over)
         return Task::End;
-    if (!Question)
+    if (!question)
         return Task::Fill;
-    asked_ = *std::exchange(Question, std::nullopt);
+    asked_ = *std::exchange(question, std::nullopt);
     return Task::Answer;
 }
 
@@ -164,55 +164,55 @@ void DiscIndex::Shared::Fill(TextIndex& index)
 {
     QString text;
     {
-        const std::lock_guard lock(Mutex);
-        text = std::move(WereRead.front());
-        WereRead.pop_front();
+        const std::lock_guard lock(mutex);
+        text = std::move(wereRead.front());
+        wereRead.pop_front();
     }
     AddNext(text, index);
-    const bool isLast = static_cast<qsizetype>(texts_.size()) == Entries.size();
+    const bool isLast = static_cast<qsizetype>(texts_.size()) == entries.size();
     if (isLast)
         index.Commit();
     if (!asked_.isEmpty() && (isLast || Time::now() - answeredAt_ >= freshFor))
         AnswerTo(asked_, index);
     if (isLast)
-        Tell([this] { Progress.IsDone = true; });
+        Tell([this] { progress.isDone = true; });
 }
 
 void DiscIndex::Shared::AddNext(const QString& text, TextIndex& index)
 {
-    const IndexedText& entry = Entries[static_cast<qsizetype>(texts_.size())];
-    const bool isLeftOut = entry.Read && IsEmpty(text);
+    const IndexedText& entry = entries[static_cast<qsizetype>(texts_.size())];
+    const bool isLeftOut = entry.read && IsEmpty(text);
     texts_.push_back(text);
     if (!isLeftOut)
-        index.Add(static_cast<int>(texts_.size()), entry.Title, text);
+        index.Add(static_cast<int>(texts_.size()), entry.title, text);
     Tell([&] {
-        ++Progress.Read;
-        Progress.LeftOut += isLeftOut ? 1 : 0;
+        ++progress.read;
+        progress.leftOut += isLeftOut ? 1 : 0;
     });
 }
 
-void DiscIndex::Shared::AnswerTo(const QString& question, TextIndex& index)
+void DiscIndex::Shared::AnswerTo(const QString& words, TextIndex& index)
 {
-    const QList<SearchTerm> terms = SearchTermsOf(question);
+    const QList<SearchTerm> terms = SearchTermsOf(words);
     const QList<int> numbers = index.Find(terms);
-    IndexAnswer answer;
-    answer.Question = question;
-    answer.Count = numbers.size();
+    IndexAnswer found;
+    found.question = words;
+    found.count = numbers.size();
     for (const int number : numbers.mid(0, mostHits)) {
         const auto entry = static_cast<std::size_t>(number) - 1;
-        answer.Best.append(
+        found.best.append(
             {static_cast<qsizetype>(entry), LineAroundFirstHit(texts_[entry], terms, lineLength)});
     }
     answeredAt_ = Time::now();
-    Tell([&] { Answer = std::move(answer); });
+    Tell([&] { answer = std::move(found); });
 }
 
 DiscIndex::DiscIndex(QList<IndexedText> texts, std::function<void()> news)
     : shared_(std::make_shared<Shared>())
 {
-    shared_->Entries = std::move(texts);
-    shared_->News = std::move(news);
-    shared_->Progress.Total = shared_->Entries.size();
+    shared_->entries = std::move(texts);
+    shared_->news = std::move(news);
+    shared_->progress.total = shared_->entries.size();
     // Apart from all pools, since a pool's end waits for its threads.
     std::thread([shared = shared_] { shared->ReadEntries(); }).detach();
     IndexThreads().start([shared = shared_] { shared->FillAndAnswer(); });
@@ -220,28 +220,28 @@ DiscIndex::DiscIndex(QList<IndexedText> texts, std::function<void()> news)
 
 DiscIndex::~DiscIndex()
 {
-    const std::lock_guard lock(shared_->Mutex);
-    shared_->Over = true;
-    shared_->Changed.notify_all();
+    const std::lock_guard lock(shared_->mutex);
+    shared_->over = true;
+    shared_->changed.notify_all();
 }
 
 void DiscIndex::Ask(const QString& question)
 {
-    const std::lock_guard lock(shared_->Mutex);
-    shared_->Question = question;
-    shared_->Changed.notify_all();
+    const std::lock_guard lock(shared_->mutex);
+    shared_->question = question;
+    shared_->changed.notify_all();
 }
 
 std::optional<IndexAnswer> DiscIndex::TakeAnswer()
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return std::exchange(shared_->Answer, std::nullopt);
+    const std::lock_guard lock(shared_->mutex);
+    return std::exchange(shared_->answer, std::nullopt);
 }
 
 IndexProgress DiscIndex::Progress() const
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return shared_->Progress;
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->progress;
 }
 
 } // namespace torvik

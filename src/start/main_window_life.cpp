@@ -59,7 +59,7 @@ void ReturnFromSlideShow()
         Form1->Image4.Show();
     RestoreMainWindow();
     if (const Topic* topic = BrowsedTopicOf(Form1->panYear.Caption()))
-        state.YearCode = QString::fromLatin1(topic->Code);
+        state.YearCode = QString::fromLatin1(topic->code);
 }
 
 void Form1_Activate()

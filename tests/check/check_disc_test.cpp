@@ -25,9 +25,9 @@ CheckResult Check()
 QStringList Said(const CheckResult& result)
 {
     QStringList said;
-    for (const Finding& finding : result.Findings) {
-        if (finding.Kind != FindingKind::Remark)
-            said.append(KindWord(finding.Kind) + u' ' + finding.File + u": "_s + finding.What);
+    for (const Finding& finding : result.findings) {
+        if (finding.kind != FindingKind::Remark)
+            said.append(KindWord(finding.kind) + u' ' + finding.file + u": "_s + finding.what);
     }
     return said;
 }
@@ -36,13 +36,13 @@ QStringList Said(const CheckResult& result)
 QString FolderOfSample(const WholeDisc& whole)
 {
     const QString built = QCoreApplication::applicationDirPath() + u"/../disc"_s;
-    return QDir(built + u"/Torviks"_s).exists() ? built : whole.Disc.Folder();
+    return QDir(built + u"/Torviks"_s).exists() ? built : whole.disc.Folder();
 }
 
 bool IsMissed(const QString& path, const QStringList& screens, const QList<Finding>& findings)
 {
     return std::count_if(findings.begin(), findings.end(), [&](const Finding& finding) {
-               return FoldedPath(finding.File) == path && finding.Screens == screens;
+               return FoldedPath(finding.file) == path && finding.screens == screens;
            }) == 1;
 }
 
@@ -51,7 +51,7 @@ QHash<QString, QList<ListedFile>> GroupsOf(const QList<ListedFile>& files)
 {
     QHash<QString, QList<ListedFile>> groups;
     for (const ListedFile& file : files)
-        groups[FoldedPath(file.Path).section(u'\\', -1).left(2)].append(file);
+        groups[FoldedPath(file.path).section(u'\\', -1).left(2)].append(file);
     return groups;
 }
 
@@ -59,7 +59,7 @@ QHash<QString, QList<ListedFile>> GroupsOf(const QList<ListedFile>& files)
 /// is told under the year or topic.
 bool IsMissedInGroup(const QString& path, QList<ListedFile> group, QHash<QString, AskedFile> asked)
 {
-    group.removeIf([&path](const ListedFile& file) { return FoldedPath(file.Path) == path; });
+    group.removeIf([&path](const ListedFile& file) { return FoldedPath(file.path) == path; });
     const QString stem = path.section(u'\\', -1).section(u'.', 0, 0);
     if (!PhotoIn(path).isEmpty()) { // a photo that is not there asks for nothing
         asked.remove(path);
@@ -68,7 +68,7 @@ bool IsMissedInGroup(const QString& path, QList<ListedFile> group, QHash<QString
     const std::vector<Examination> examined(static_cast<std::size_t>(group.size()));
     const QList<Finding> odd = Oddities(group, examined, asked);
     return std::any_of(odd.begin(), odd.end(), [&](const Finding& finding) {
-        return finding.Kind == FindingKind::Odd && finding.Screens.value(0).startsWith(ScreenOfPhoto(stem));
+        return finding.kind == FindingKind::Odd && finding.screens.value(0).startsWith(ScreenOfPhoto(stem));
     });
 }
 
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QCOMPARE(Said(result), QStringList());
         QVERIFY(result.IsWhole());
         QCOMPARE(result.CountOf(FindingKind::Remark), 1);
-        QVERIFY(result.FileCount > 500);
+        QVERIFY(result.fileCount > 500);
     }
 
     void each_file_that_is_taken_away_is_named_with_its_screens()
@@ -97,17 +97,17 @@ private Q_SLOTS:
         const QHash<QString, QList<ListedFile>> groups = GroupsOf(files);
         QStringList withoutScreen;
         for (qsizetype gone = 0; gone < files.size(); ++gone) {
-            const QString path = FoldedPath(files[gone].Path);
+            const QString path = FoldedPath(files[gone].path);
             const AskedFile wanted = asked.value(path);
             const QString name = path.section(u'\\', -1);
-            if (wanted.Screens.isEmpty()) {
+            if (wanted.screens.isEmpty()) {
                 withoutScreen.append(path);
-            } else if (wanted.Most == Need::Optional) {
+            } else if (wanted.most == Need::Optional) {
                 QVERIFY2(IsMissedInGroup(path, groups[name.left(2)], asked), qPrintable(path));
             } else {
                 QList<ListedFile> left = files;
                 left.removeAt(gone);
-                QVERIFY2(IsMissed(path, wanted.Screens, MissingFiles(left, asked)), qPrintable(path));
+                QVERIFY2(IsMissed(path, wanted.screens, MissingFiles(left, asked)), qPrintable(path));
             }
         }
         QVERIFY(files.size() - withoutScreen.size() > 700);
@@ -120,11 +120,11 @@ private Q_SLOTS:
     void a_year_without_any_photo_is_missing()
     {
         const WholeDisc whole;
-        QDir photos(whole.Disc.PathOf(u"Torviks"_s));
+        QDir photos(whole.disc.PathOf(u"Torviks"_s));
         QVERIFY(photos.remove(u"72TOR001.JPG"_s) && photos.remove(u"72TOR002.JPG"_s));
         const CheckResult result = Check();
-        QCOMPARE(result.Findings.first().What, u"has no photo for this screen"_s);
-        QCOMPARE(result.Findings.first().Screens, QStringList{u"1972"_s});
+        QCOMPARE(result.findings.first().what, u"has no photo for this screen"_s);
+        QCOMPARE(result.findings.first().screens, QStringList{u"1972"_s});
     }
 
     void damaged_files_are_named_by_what_is_wrong_data()
@@ -193,11 +193,11 @@ private Q_SLOTS:
     {
         WholeDisc whole;
         const QByteArray picture = TestDisc::Jpeg(Qt::darkCyan, {64, 48});
-        whole.Disc.AddFile(u"Torviks/67TOR005.JPG"_s, TestDisc::Jpeg(Qt::darkCyan, {640, 480}));
-        whole.Disc.AddFile(u"Torviks/68tor001.jpg"_s, picture);
-        whole.Disc.AddFile(u"RichText/69tor009.rtf"_s, article);
-        whole.Disc.AddFile(u"RichText/other.rtf"_s, article);
-        whole.Disc.AddFile(u"setup.exe"_s, "program");
+        whole.disc.AddFile(u"Torviks/67TOR005.JPG"_s, TestDisc::Jpeg(Qt::darkCyan, {640, 480}));
+        whole.disc.AddFile(u"Torviks/68tor001.jpg"_s, picture);
+        whole.disc.AddFile(u"RichText/69tor009.rtf"_s, article);
+        whole.disc.AddFile(u"RichText/other.rtf"_s, article);
+        whole.disc.AddFile(u"setup.exe"_s, "program");
         QCOMPARE(
             Said(Check()),
             (QStringList{

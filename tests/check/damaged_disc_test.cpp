@@ -30,7 +30,7 @@ public:
     }
 
 private:
-    TestDisc& Disc() { return whole_.Disc; }
+    TestDisc& Disc() { return whole_.disc; }
     void AddPhoto(const QString& name, const QByteArray& content)
     {
         Disc().AddFile(u"Torviks/"_s + name, content);

@@ -15,10 +15,10 @@ namespace {
 CheckResult SomeResult()
 {
     CheckResult result;
-    result.Disc = u"/discs/torvik"_s;
-    result.FileCount = 1234;
-    result.Bytes = 3'000'000;
-    result.Findings = {
+    result.disc = u"/discs/torvik"_s;
+    result.fileCount = 1234;
+    result.bytes = 3'000'000;
+    result.findings = {
         {FindingKind::Missing, u"wav\\taxi.wav"_s, u"is missing"_s, {u"Sound Effects > Taxi Horns"_s}},
         {FindingKind::Damaged,
          u"RichText\\72desc.rtf"_s,
@@ -103,9 +103,9 @@ private Q_SLOTS:
     void a_disc_with_remarks_alone_is_whole()
     {
         CheckResult result = SomeResult();
-        result.Findings = {result.Findings.last()};
+        result.findings = {result.findings.last()};
         QVERIFY(ReportText(result, false).endsWith(u"\nthe disc is whole, 1 remark\n"_s));
-        result.Findings.clear();
+        result.findings.clear();
         QCOMPARE(ReportText(result, false), u"/discs/torvik: 1234 files, 2.86 MiB\nthe disc is whole\n"_s);
     }
 
@@ -121,7 +121,7 @@ private Q_SLOTS:
     void names_cannot_draw_on_the_terminal()
     {
         CheckResult result = SomeResult();
-        result.Findings = {{FindingKind::NeverAsked, u"bad\x1b[2J\nname"_s, u"is odd"_s, {}}};
+        result.findings = {{FindingKind::NeverAsked, u"bad\x1b[2J\nname"_s, u"is odd"_s, {}}};
         QVERIFY(ReportText(result, false).startsWith(u"never-asked  bad?[2J?name  is odd\n"_s));
     }
 

@@ -86,9 +86,9 @@ private:
 };
 
 struct Run {
-    int Code = -1;
-    QByteArray Output;
-    QByteArray Errors;
+    int code = -1;
+    QByteArray output;
+    QByteArray errors;
 };
 
 enum class To { Pipe, Terminal };
@@ -101,10 +101,10 @@ Run RunIt(const QString& disc, bool asJson = false, To output = To::Pipe, To err
     {
         const HeldStream heldOutput(stdout, toOutput.Theirs());
         const HeldStream heldErrors(stderr, toErrors.Theirs());
-        run.Code = RunCheck(disc, asJson);
+        run.code = RunCheck(disc, asJson);
     }
-    run.Output = toOutput.Heard();
-    run.Errors = toErrors.Heard();
+    run.output = toOutput.Heard();
+    run.errors = toErrors.Heard();
     return run;
 }
 
@@ -125,16 +125,16 @@ private Q_SLOTS:
     void a_whole_disc_ends_with_0_and_findings_with_1()
     {
         WholeDisc whole;
-        const Run good = RunIt(whole.Disc.Folder());
-        QCOMPARE(good.Code, 0);
-        QVERIFY(good.Output.endsWith("\nthe disc is whole, 1 remark\n"));
-        QVERIFY(good.Output.contains(whole.Disc.Folder().toUtf8()));
-        QCOMPARE(good.Errors, QByteArray());
-        whole.Disc.Remove(u"wav/taxi.wav"_s);
-        const Run bad = RunIt(whole.Disc.Folder());
-        QCOMPARE(bad.Code, 1);
+        const Run good = RunIt(whole.disc.Folder());
+        QCOMPARE(good.code, 0);
+        QVERIFY(good.output.endsWith("\nthe disc is whole, 1 remark\n"));
+        QVERIFY(good.output.contains(whole.disc.Folder().toUtf8()));
+        QCOMPARE(good.errors, QByteArray());
+        whole.disc.Remove(u"wav/taxi.wav"_s);
+        const Run bad = RunIt(whole.disc.Folder());
+        QCOMPARE(bad.code, 1);
         QVERIFY(
-            bad.Output.startsWith("missing  wav\\taxi.wav      is missing  [Sound Effects > Taxi Horns]\n"));
+            bad.output.startsWith("missing  wav\\taxi.wav      is missing  [Sound Effects > Taxi Horns]\n"));
     }
 
     void what_is_no_disc_ends_with_2_and_says_why()
@@ -146,40 +146,40 @@ private Q_SLOTS:
         for (const QString& disc :
              {empty.path(), empty.filePath(u"missing"_s), drive.PathOf(u"text.iso"_s), u"Q:"_s}) {
             const Run run = RunIt(disc);
-            QCOMPARE(run.Code, 2);
-            QCOMPARE(run.Output, QByteArray());
+            QCOMPARE(run.code, 2);
+            QCOMPARE(run.output, QByteArray());
             QCOMPARE(
-                QString::fromUtf8(run.Errors),
+                QString::fromUtf8(run.errors),
                 u"torvik2001: there is no disc in %1: it has no photos in the folder Torviks.\n"_s.arg(disc));
             SetDriveOptions({});
         }
-        QCOMPARE(RunIt({}).Code, 2);
-        QCOMPARE(RunIt({}).Errors, QByteArray("torvik2001: there is no disc on any drive.\n"));
-        QCOMPARE(RunIt(empty.path(), true).Code, 2);
-        QCOMPARE(RunIt(empty.path(), true).Output, QByteArray());
+        QCOMPARE(RunIt({}).code, 2);
+        QCOMPARE(RunIt({}).errors, QByteArray("torvik2001: there is no disc on any drive.\n"));
+        QCOMPARE(RunIt(empty.path(), true).code, 2);
+        QCOMPARE(RunIt(empty.path(), true).output, QByteArray());
     }
 
     void a_letter_or_nothing_names_a_drive()
     {
         const WholeDisc whole; // in drive E:
-        QCOMPARE(RunIt(u"e:"_s).Code, 0);
-        QCOMPARE(RunIt(u"E:"_s).Code, 0);
-        QCOMPARE(RunIt({}).Code, 0);
-        QCOMPARE(RunIt(u"F:"_s).Code, 2);
+        QCOMPARE(RunIt(u"e:"_s).code, 0);
+        QCOMPARE(RunIt(u"E:"_s).code, 0);
+        QCOMPARE(RunIt({}).code, 0);
+        QCOMPARE(RunIt(u"F:"_s).code, 2);
     }
 
     void for_programs_nothing_but_the_report_is_printed()
     {
         WholeDisc whole;
-        whole.Disc.Remove(u"wav/taxi.wav"_s);
+        whole.disc.Remove(u"wav/taxi.wav"_s);
         for (const To to : {To::Pipe, To::Terminal}) {
-            const Run run = RunIt(whole.Disc.Folder(), true, to, to);
-            QCOMPARE(run.Code, 1);
-            QCOMPARE(run.Errors, QByteArray());
+            const Run run = RunIt(whole.disc.Folder(), true, to, to);
+            QCOMPARE(run.code, 1);
+            QCOMPARE(run.errors, QByteArray());
             QJsonParseError error;
-            const QJsonObject report = QJsonDocument::fromJson(run.Output, &error).object();
+            const QJsonObject report = QJsonDocument::fromJson(run.output, &error).object();
             QCOMPARE(error.error, QJsonParseError::NoError);
-            QCOMPARE(report[u"disc"_s].toString(), whole.Disc.Folder());
+            QCOMPARE(report[u"disc"_s].toString(), whole.disc.Folder());
             QCOMPARE(report[u"counts"_s][u"missing"_s].toInt(), 1);
         }
     }
@@ -187,33 +187,33 @@ private Q_SLOTS:
     void a_terminal_gets_colours_and_a_bar_that_is_gone_at_the_end()
     {
         WholeDisc whole;
-        whole.Disc.Remove(u"wav/taxi.wav"_s);
-        const Run run = RunIt(whole.Disc.Folder(), false, To::Terminal, To::Terminal);
-        QVERIFY(run.Output.startsWith("\x1b[31mmissing\x1b[0m  wav\\taxi.wav"));
-        QVERIFY2(run.Errors.startsWith("\r["), run.Errors.constData());
-        QVERIFY(run.Errors.contains(" of "));
-        QVERIFY(run.Errors.endsWith("\r\x1b[K"));
-        QVERIFY(!run.Errors.contains('\n'));
+        whole.disc.Remove(u"wav/taxi.wav"_s);
+        const Run run = RunIt(whole.disc.Folder(), false, To::Terminal, To::Terminal);
+        QVERIFY(run.output.startsWith("\x1b[31mmissing\x1b[0m  wav\\taxi.wav"));
+        QVERIFY2(run.errors.startsWith("\r["), run.errors.constData());
+        QVERIFY(run.errors.contains(" of "));
+        QVERIFY(run.errors.endsWith("\r\x1b[K"));
+        QVERIFY(!run.errors.contains('\n'));
     }
 
     void no_color_takes_the_colours_and_leaves_the_bar()
     {
         WholeDisc whole;
-        whole.Disc.Remove(u"wav/taxi.wav"_s);
+        whole.disc.Remove(u"wav/taxi.wav"_s);
         const HeldVariable plain("NO_COLOR", "1");
-        const Run run = RunIt(whole.Disc.Folder(), false, To::Terminal, To::Terminal);
-        QVERIFY(run.Output.startsWith("missing  wav\\taxi.wav"));
-        QVERIFY(!run.Output.contains('\x1b'));
-        QVERIFY(run.Errors.contains(" of "));
+        const Run run = RunIt(whole.disc.Folder(), false, To::Terminal, To::Terminal);
+        QVERIFY(run.output.startsWith("missing  wav\\taxi.wav"));
+        QVERIFY(!run.output.contains('\x1b'));
+        QVERIFY(run.errors.contains(" of "));
     }
 
     void a_report_that_goes_into_a_file_has_no_colours_while_the_terminal_has_the_bar()
     {
         WholeDisc whole;
-        whole.Disc.Remove(u"wav/taxi.wav"_s);
-        const Run run = RunIt(whole.Disc.Folder(), false, To::Pipe, To::Terminal);
-        QVERIFY(!run.Output.contains('\x1b'));
-        QVERIFY(run.Errors.contains(" of "));
+        whole.disc.Remove(u"wav/taxi.wav"_s);
+        const Run run = RunIt(whole.disc.Folder(), false, To::Pipe, To::Terminal);
+        QVERIFY(!run.output.contains('\x1b'));
+        QVERIFY(run.errors.contains(" of "));
     }
 
     void an_image_that_was_cut_in_half_names_what_it_lost()
@@ -226,9 +226,9 @@ private Q_SLOTS:
         const ImageDrive drive;
         QVERIFY(drive.Write(u"half.iso"_s, maker.Iso().chopped(3 * ImageMaker::block)));
         const Run run = RunIt(drive.PathOf(u"half.iso"_s));
-        QCOMPARE(run.Code, 1);
+        QCOMPARE(run.code, 1);
         QStringList unreadable;
-        for (const QByteArray& line : run.Output.split('\n')) {
+        for (const QByteArray& line : run.output.split('\n')) {
             if (line.startsWith("unreadable"))
                 unreadable.append(QString::fromUtf8(line).simplified());
         }

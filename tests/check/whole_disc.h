@@ -32,29 +32,29 @@ public:
         const QByteArray movie = TestMovie::Avi();
         const QByteArray sound = TestMovie::Wav();
         for (const QString& photo : photos) {
-            Disc.AddFile(u"Torviks/"_s + photo, picture);
-            Disc.AddFile(u"RichText/"_s + photo.left(8).toLower() + u".rtf"_s, article);
+            disc.AddFile(u"Torviks/"_s + photo, picture);
+            disc.AddFile(u"RichText/"_s + photo.left(8).toLower() + u".rtf"_s, article);
         }
         const QHash<QString, AskedFile> asked = AskedFiles(photos);
         for (auto file = asked.cbegin(); file != asked.cend(); ++file) {
             // Under the folded path: spellings of folders differ from table to table, and the host tells them
             // apart.
             const QString path = QString(file.key()).replace(u'\\', u'/');
-            if (file->Most != Need::Full)
+            if (file->most != Need::Full)
                 continue;
             const QString ending = path.right(4);
-            Disc.AddFile(path, ending == u".rtf"_s   ? article
+            disc.AddFile(path, ending == u".rtf"_s   ? article
                                : ending == u".avi"_s ? movie
                                : ending == u".wav"_s ? sound
                                                      : picture);
         }
-        SetDriveOptions({{u'E', Disc.Folder()}});
+        SetDriveOptions({{u'E', disc.Folder()}});
     }
     ~WholeDisc() { SetDriveOptions({}); }
     WholeDisc(const WholeDisc&) = delete;
     WholeDisc& operator=(const WholeDisc&) = delete;
 
-    TestDisc Disc;
+    TestDisc disc;
 };
 
 } // namespace torvik

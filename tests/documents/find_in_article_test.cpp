@@ -69,8 +69,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddDocument(u"some.rtf"_s, u"A Red car, a red hood, "_s +
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddDocument(u"some.rtf"_s, u"A Red car, a red hood, "_s +
                                                       u"more of it\\par "_s.repeated(200) +
                                                       u"and a redder roof."_s);
         program_->StartBrowsing();
@@ -231,7 +231,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, ground);
         QFETCH(QColor, colour);
-        program_->Disc.AddFile(
+        program_->disc.AddFile(
             u"RichText/ground.rtf"_s,
             "{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red0\\green0\\blue0;\\red255\\green255\\blue255;"
             "\\red0\\green0\\blue160;}\\fs60 " +
@@ -248,7 +248,7 @@ private Q_SLOTS:
 
     void thousands_of_hits_are_marked_at_once()
     {
-        program_->Disc.AddDocument(u"many.rtf"_s, u"red "_s.repeated(6000));
+        program_->disc.AddDocument(u"many.rtf"_s, u"red "_s.repeated(6000));
         Open(u"many.rtf"_s);
         Type(u"red "_s);
         QCOMPARE(txtForm->lblFindText.Caption(), u"1 of 5000"_s);
@@ -268,8 +268,8 @@ private:
     /// Answers the question whether to print, and the box that tells of the end.
     void Print()
     {
-        program_->Messages.Answer(msgbox::answerYes);
-        program_->Messages.Answer(msgbox::answerOk);
+        program_->messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerOk);
         program_->Click(txtForm->cmdPrint);
     }
 

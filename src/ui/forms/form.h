@@ -35,13 +35,13 @@ enum class FormBorder {
 
 /// What a form is at design.
 struct FormDesign {
-    QString Name;
-    QString Caption;
-    double ClientWidth = 0;  ///< twips
-    double ClientHeight = 0; ///< twips
-    FormBorder Border = FormBorder::Fixed;
-    Scale ScaleMode = Scale::Twips;
-    bool HasMenu = false;
+    QString name;
+    QString caption;
+    double clientWidth = 0;  ///< twips
+    double clientHeight = 0; ///< twips
+    FormBorder border = FormBorder::Fixed;
+    Scale scaleMode = Scale::Twips;
+    bool hasMenu = false;
 };
 
 /// A top-level window with its controls. A form derives from it as a struct of named controls.
@@ -130,7 +130,7 @@ public:
     void Adopt(QObject& unseen);
 
     QWidget& Host() override;
-    Scale ScaleMode() const override { return design_.ScaleMode; }
+    Scale ScaleMode() const override { return design_.scaleMode; }
     Form& OwnerForm() override { return *this; }
     FormWindow& Window() { return *window_; }
     const FormDesign& Design() const { return design_; }

@@ -38,7 +38,7 @@ QList<qint64> BeginningsOf(const ImageDrive& drive, const QString& name)
 {
     QList<qint64> beginnings;
     for (const ImageTrack& track : TracksOf(drive.PathOf(name).toStdString()))
-        beginnings.append(track.FirstByte);
+        beginnings.append(track.firstByte);
     return beginnings;
 }
 
