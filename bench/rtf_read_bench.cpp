@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mebibyte = 1024 * 1024;
+constexpr qsizetype mebibyte = 1024LL * 1024;
 constexpr int pictures = 10;
 constexpr int repeats = 7;
 constexpr double limitAgainstMarkup = 0.6;

@@ -119,6 +119,7 @@ double SlowestQuery(Index& index)
     double slowest = 0;
     for (const QString& words : typed) {
         std::vector<double> times;
+        times.reserve(rounds);
         for (int round = 0; round < rounds; ++round)
             times.push_back(bench::Milliseconds([&] { index.Find(words); }));
         slowest = std::max(slowest, bench::Median(times));
@@ -194,6 +195,8 @@ int main(int argc, char** argv)
     std::vector<double> bare;
     std::vector<double> once;
     std::vector<double> tenfold;
+    for (std::vector<double>* times : {&bare, &once, &tenfold})
+        times->reserve(rounds);
     for (int round = 0; round < rounds; ++round) {
         bare.push_back(ProcessorSeconds([&] {
             for (const IndexedText& text : Documents(1))

@@ -153,7 +153,7 @@ private Q_SLOTS:
     void exactly_the_room_that_is_demanded_is_enough()
     {
         // 1,900 units of one sector and 20 bytes: 38,000 times 1,000.
-        SetDiskMeter([](const QString&) { return DiskClusters{1, 20, 1'900 * 1024, 1'900 * 1024}; });
+        SetDiskMeter([](const QString&) { return DiskClusters{1, 20, 1'900LL * 1024, 1'900LL * 1024}; });
         Form1->mnuCopy.Click.Fire();
         QVERIFY(Form1->pnlProgress.Visible());
         SetDiskMeter([](const QString&) { return DiskClusters{1, 37'999, 1024, 1024}; });

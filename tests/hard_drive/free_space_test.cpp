@@ -21,7 +21,7 @@ private Q_SLOTS:
         QString asked;
         SetDiskMeter([&](const QString& folder) {
             asked = folder;
-            return DiskClusters{8, 512, 3 * 1024, 9 * 1024};
+            return DiskClusters{8, 512, 3LL * 1024, 9LL * 1024};
         });
         const QTemporaryDir folder;
         const QString before = QDir::currentPath();

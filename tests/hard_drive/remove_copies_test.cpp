@@ -186,7 +186,7 @@ private:
     }
 
     /// Answers the question, and does `action` when the message behind it is up.
-    void AnswerYesThen(std::function<void()> action)
+    void AnswerYesThen(const std::function<void()>& action)
     {
         program_->messages.Answer(msgbox::answerYes);
         program_->messages.WhenAsked([this, action] { program_->messages.WhenAsked(action); });

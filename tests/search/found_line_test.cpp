@@ -11,9 +11,11 @@ QString Marked(const QString& text, const QString& typed, qsizetype length = 60)
 {
     const FoundLine line = LineAroundFirstHit(text, SearchTermsOf(typed), length);
     QString marked = line.text;
-    for (auto place = line.found.rbegin(); place != line.found.rend(); ++place) {
-        marked.insert(place->End(), u']');
-        marked.insert(place->begin, u'[');
+    qsizetype before = 0; // letters put in already
+    for (const TextRange& place : line.found) {
+        marked.insert(place.begin + before, u'[');
+        marked.insert(place.End() + before + 1, u']');
+        before += 2;
     }
     return marked;
 }

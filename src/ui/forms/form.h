@@ -240,7 +240,7 @@ private:
 /// moment. While the Load runs, a touch gives the form as it is; if the Load itself unloaded the form, the
 /// next touch in it makes the form anew without a second Load.
 template <typename T>
-class FormHandle : public FormHandleBase {
+class FormHandle final : public FormHandleBase {
 public:
     using Binder = std::function<void(T&)>;
 

@@ -199,7 +199,7 @@ private Q_SLOTS:
         ImageMaker maker;
         maker.AddFile("FILE;1", MixedBytes(6000));
         const OpenedImage disc(maker.Iso());
-        QVERIFY(QFile::resize(disc.drive.PathOf(u"disc.iso"_s), 30 * 2048));
+        QVERIFY(QFile::resize(disc.drive.PathOf(u"disc.iso"_s), 30LL * 2048));
         char byte = 0;
         QCOMPARE(FailureOf([&] { disc.image.Read(disc.image.Folders()[0][0], 0, &byte, 1); }),
                  failure::deviceIo);
@@ -242,7 +242,7 @@ private Q_SLOTS:
         const ImageDrive drive;
         QVERIFY(drive.Write(u"text.iso"_s, "no image"));
         QVERIFY(drive.Write(u"empty.iso"_s, {}));
-        QVERIFY(drive.Write(u"mark.iso"_s, QByteArray(16 * 2048, '\0') + "\1CD001"));
+        QVERIFY(drive.Write(u"mark.iso"_s, QByteArray(16LL * 2048, '\0') + "\1CD001"));
         for (const QString& name : {u"text.iso"_s, u"empty.iso"_s, u"mark.iso"_s, u"missing.iso"_s, u"."_s})
             QCOMPARE(FailureOf([&] { DiscImage(drive.PathOf(name).toStdString()); }),
                      failure::deviceUnavailable);
@@ -254,7 +254,7 @@ private Q_SLOTS:
         maker.AddFile("FILE;1", MixedBytes(3000), maker.AddFolder("FOLDER"));
         const QByteArray bytes = maker.Iso();
         const ImageDrive drive;
-        for (qsizetype length = 15 * 2048; length < bytes.size(); length += 509) {
+        for (qsizetype length = 15LL * 2048; length < bytes.size(); length += 509) {
             QVERIFY(drive.Write(u"disc.iso"_s, bytes.left(length)));
             FailureOf([&] {
                 const DiscImage image(drive.PathOf(u"disc.iso"_s).toStdString());

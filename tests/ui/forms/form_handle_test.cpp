@@ -62,7 +62,7 @@ private Q_SLOTS:
     void handlers_are_bound_to_each_new_instance_before_its_load()
     {
         FormHandle<SideForm>& side = *side_;
-        side.Bind([this](SideForm& form) { form.Load = [this, &form] { form.Go.Click.Call(); }; });
+        side.Bind([this](SideForm& form) { form.Load = [&form] { form.Go.Click.Call(); }; });
         side.Bind([this](SideForm& form) { form.Go.Click = [this] { calls_.append(u"click"_s); }; });
         side.LoadForm();
         QVERIFY(side.Unload());
@@ -227,15 +227,15 @@ private Q_SLOTS:
     void a_form_unloaded_under_a_running_handler_of_its_own_lives_until_that_is_done()
     {
         FormHandle<SideForm>& side = *side_;
-        FormHandle<OtherForm> Other;
+        FormHandle<OtherForm> other;
         QVERIFY(UiRoom::Open(*side));
         const QPointer<Form> old(&*side);
         side->Go.Click = [&, big = std::vector<int>(1000, 7)] {
             UiRoom::Soon([&] {
                 RunHandler([&] { side.Unload(); });
-                UiRoom::Soon([&] { RunHandler([&] { Other.Unload(); }); });
+                UiRoom::Soon([&] { RunHandler([&] { other.Unload(); }); });
             });
-            Other->ShowModal(); // its loop must not delete what runs below it
+            other->ShowModal(); // its loop must not delete what runs below it
             QVERIFY(!old.isNull());
             QVERIFY(old->Retired());
             calls_.append(QString::number(big[0]));
@@ -248,17 +248,17 @@ private Q_SLOTS:
 
     void a_load_that_unloads_its_form_and_shows_another_goes_on_safely()
     {
-        FormHandle<SideForm>& Side = *side_;
-        FormHandle<OtherForm> Other;
-        Side.Bind([&](SideForm& form) {
+        FormHandle<SideForm>& side = *side_;
+        FormHandle<OtherForm> other;
+        side.Bind([&](SideForm& form) {
             form.Load = [&, big = std::vector<int>(1000, 7)] {
-                Side.Unload();
-                UiRoom::Soon([&] { Other->Hide(); });
-                Other->ShowModal();
+                side.Unload();
+                UiRoom::Soon([&] { other->Hide(); });
+                other->ShowModal();
                 calls_.append(QString::number(big[999]));
             };
         });
-        Side.LoadForm();
+        side.LoadForm();
         QCOMPARE(calls_, QStringList{u"7"_s});
     }
 

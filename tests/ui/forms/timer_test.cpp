@@ -196,7 +196,7 @@ private Q_SLOTS:
         QTRY_VERIFY(ticks_ >= 3);
         Main->Timer1.SetInterval(0);
         const int seen = ticks_;
-        Main->Timer3.Tick = [this] { Main->Timer3.SetInterval(0); };
+        Main->Timer3.Tick = [] { Main->Timer3.SetInterval(0); };
         QTRY_COMPARE(Main->Timer3.Interval(), 0);
         QCOMPARE(ticks_, seen);
     }

@@ -153,13 +153,13 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<PrinterSetup> Answer(const PrinterSetup& present, std::function<void()> action)
+    std::optional<PrinterSetup> Answer(const PrinterSetup& present, const std::function<void()>& action)
     {
-        const ModalVisit visit(std::move(action), [] {
+        const ModalVisit visit(action, [] {
             if (Shown() != nullptr)
                 Shown()->reject();
         });
-        const auto chosen = AskForPrinter(present, choices);
+        auto chosen = AskForPrinter(present, choices);
         if (!visit.Ran())
             qFatal("no dialog came up");
         return chosen;
