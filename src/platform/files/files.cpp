@@ -98,7 +98,8 @@ QByteArray ContentOf(const Place& place)
     }
 }
 
-/// What tells a folder of a disc image from others: which image that is, and when the folder was written.
+/// What tells a folder of a disc image from others: which image stands in the drive, and when the folder was
+/// written.
 QString MarkInImage(const QString& path)
 {
     QString mark;
@@ -106,7 +107,7 @@ QString MarkInImage(const QString& path)
         const Place place = PlaceOf(path);
         const EntryStatus status = place.on->Status(place.path);
         if (status.isFolder)
-            mark = u"%1 %2"_s.arg(reinterpret_cast<quintptr>(place.on.get())).arg(status.written);
+            mark = u"%1 %2"_s.arg(place.on->Number()).arg(status.written);
     });
     return mark;
 }

@@ -4,6 +4,8 @@
 
 namespace torvik {
 
+struct Topic;
+
 // In front of what a window title tells. Which of the first two it is has always been different from one
 // document to the next; the third leads the title of an advertisement.
 inline constexpr const char* wideTitle = "The Torvik Vollandry       ";
@@ -29,6 +31,10 @@ QString ArticleFolder(ArticleButton button);
 
 /// The code under which a button reports an article that is missing.
 QString ArticleErrorCode(ArticleButton button);
+
+/// Whether the button works while the topic is the chosen one, so that its article is asked for. Notes come
+/// before an article of cmdStats.
+bool AsksForArticle(ArticleButton button, const Topic& topic);
 
 /// What cmdNostalgia asks for; for a topic it uses the same two characters, which name no file.
 Article NostalgiaOf(const QString& title);

@@ -21,7 +21,7 @@ ChoiceButton::ChoiceButton(Container& container, const QString& name, QAbstractB
     : Control(container, name, button, design), button_(button)
 {
     SetCaption(caption);
-    connect(button_, &QAbstractButton::clicked, this, [this] { Click.Fire(); });
+    connect(button_, &QAbstractButton::clicked, this, [this] { Pressed(Click); });
 }
 
 QString ChoiceButton::Caption() const
