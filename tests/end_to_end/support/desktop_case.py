@@ -184,10 +184,14 @@ class DesktopCase(ProgramTest):
         self.assertIsNotNone(self.program.find("ShowStatusBar", role="menu item"))
         self.screen.change_state(self.main, "remove,maximized_vert,maximized_horz")
         wait_until(lambda: not MAXIMIZED & self.screen.states_of(self.main), "the ordinary window")
-        width, height = (784, 575) if self.screen.size_of(self.main) != (784, 575) else (788, 575)
-        self.screen.size_window(self.main, width, height)
-        wait_until(lambda: self.screen.size_of(self.main) == (width, height), "the new size")
+        before = self.screen.size_of(self.main)
+        self.size_main_window((before[0] - 16, 500))
         self.program.wait_for("HideStatusBar", role="menu item")
+        self.size_main_window(before)
+
+    def size_main_window(self, size):
+        self.screen.size_window(self.main, *size)
+        wait_until(lambda: self.screen.size_of(self.main) == size, lambda: f"{size}; it is {self.screen.size_of(self.main)}")
 
     def check_saved_place(self):
         if self.fits:
