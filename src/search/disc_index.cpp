@@ -27,8 +27,7 @@ constexpr qsizetype lineLength = 110;              ///< as much as the form has 
 constexpr std::chrono::milliseconds freshFor{120}; ///< an answer, while more is read
 
 /// The threads that use a database. None of them ever waits for a disc, so the program's end can wait for
-/// them while there is still an application: later the toolkit's list of databases, which they leave, is gone
-/// as well.
+/// them while there is still an application: later Qt's list of databases, which they leave, is gone as well.
 QThreadPool& IndexThreads()
 {
     static QThreadPool pool;

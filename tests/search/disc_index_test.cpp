@@ -145,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(answer.best.size(), 100);
     }
 
-    void news_are_told_until_the_end_and_never_after_it()
+    void news_is_told_until_the_end_and_never_after_it()
     {
         auto told = std::make_shared<std::atomic<int>>(0);
         auto left = std::make_shared<QSemaphore>();

@@ -144,8 +144,8 @@ private Q_SLOTS:
     {
         program_->disc.AddGroup(u"67"_s, 1);
         const QString content = DrivePath(program_->disc.Folder());
-        QVERIFY(content.startsWith(u"C:\"_s));
-        QCOMPARE(FindFile(content + u"\Torviks\*.jpg"_s), u"67A.JPG"_s);
+        QVERIFY(content.startsWith(u"C:\\"_s));
+        QCOMPARE(FindFile(content + u"\\Torviks\\*.jpg"_s), u"67A.JPG"_s);
         program_->AddToProgramFolder(u"Torviks/68A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
         program_->PutDiscIn({});
         LoggedMessages log(u"torvik.disc"_s);

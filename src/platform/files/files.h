@@ -8,7 +8,7 @@
 
 namespace torvik {
 
-/// Calls on the file system. All paths are drive paths (platform/drives.h); failures are RunTimeError.
+/// Calls on the file system. All paths are drive paths (platform/paths/drives.h); failures are RunTimeError.
 
 /// The names of the files (not folders) that match a pattern such as "E:\Torviks\*.jpg", without their
 /// folder, in the order of the file system. `*` and `?` stand in the last component only and ignore letter

@@ -23,7 +23,7 @@ public:
     virtual qint64 Length() const = 0;
     /// Reads up to `room` bytes; returns how many came, 0 at the end. Failure 57, Device I/O error.
     virtual qsizetype Read(char* target, qsizetype room) = 0;
-    /// Reads on from a byte, counted from 0; one behind the end is followed by nothing.
+    /// Reads on from a byte, counted from 0; at or past the end nothing comes.
     virtual void SeekTo(qint64 place) = 0;
 };
 

@@ -35,7 +35,7 @@ QString ArticleErrorCode(ArticleButton button);
 /// before an article of cmdStats.
 bool AsksForArticle(ArticleButton button, const Topic& topic);
 
-/// What cmdNostalgia asks for; it goes by the two characters of a topic too.
+/// What cmdNostalgia asks for; for a topic it uses the same two characters, which name no file.
 Article NostalgiaOf(const QString& title);
 
 /// What cmdStats shows of the photo with this number in place of an article; empty for a title without notes.

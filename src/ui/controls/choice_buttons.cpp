@@ -44,8 +44,7 @@ void ChoiceButton::SetValue(bool value)
 {
     if (value == Value())
         return;
-    const bool exclusive =
-        button_->autoExclusive(); // the platform keeps the last choice of a group otherwise
+    const bool exclusive = button_->autoExclusive(); // Qt keeps the last choice of a group otherwise
     button_->setAutoExclusive(exclusive && value);
     button_->setChecked(value);
     button_->setAutoExclusive(exclusive);

@@ -89,7 +89,7 @@ void FormWindow::ReleaseButtons()
         button->setDown(false);
 }
 
-/// A box that comes up while a button is held takes the release: an arrow would go on stepping behind it.
+/// A box that comes up while a button is held takes the release: an arrow would go on stepping under it.
 bool FormWindow::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowBlocked)
@@ -131,7 +131,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Escape)
         QWidget::keyPressEvent(event);
     if (form_ != nullptr)
-        form_->KeyPressed(KeyCodeOf(*event), ShiftStateOf(*event)); // the window may be over behind it
+        form_->KeyPressed(KeyCodeOf(*event), ShiftStateOf(*event)); // the window may be gone after it
 }
 
 void FormWindow::changeEvent(QEvent* event)

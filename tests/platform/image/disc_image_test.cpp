@@ -154,7 +154,7 @@ private Q_SLOTS:
         QCOMPARE(PathsOf(disc.image), (QStringList{u";1"_s, u"good"_s}));
     }
 
-    void what_lies_behind_the_end_of_the_image_is_an_error_of_the_device()
+    void what_lies_past_the_end_of_the_image_is_an_error_of_the_device()
     {
         ImageMaker maker;
         maker.AddRecord({"FAR;1", 0xFFFFFFF0, 100, 0, {}, 0});

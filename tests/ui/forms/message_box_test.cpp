@@ -295,15 +295,15 @@ private Q_SLOTS:
         QCOMPARE(outer, msgbox::answerNo);
     }
 
-    void the_end_of_the_program_takes_the_box_away_and_runs_nothing_behind_it()
+    void the_end_of_the_program_takes_the_box_away_and_runs_nothing_after_it()
     {
-        bool behind = false;
+        bool after = false;
         RunHandler([&] {
             UiRoom::Soon([] { RunHandler([] { EndProgram(); }); });
             MsgBox(u"?"_s);
-            behind = true;
+            after = true;
         });
-        QVERIFY(!behind);
+        QVERIFY(!after);
         QVERIFY(ProgramIsEnding());
         QCOMPARE(QApplication::activeModalWidget(), nullptr);
     }
