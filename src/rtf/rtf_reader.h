@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rtf/paint/extra_lines.h"
 #include "rtf/parts/read_result.h"
 #include "rtf/write/keep_together.h"
 
@@ -10,7 +11,8 @@ class QTextDocument;
 
 namespace torvik::rtf {
 
-/// Whether bytes begin as rich text does; blanks and a byte-order mark before it are passed over.
+/// Whether bytes are rich text. Up to 4 KiB of anything else before it are passed over, and the first brace
+/// may be missing.
 bool LooksLikeRtf(const QByteArray& bytes);
 
 /// Reads rich text into a document, whose former contents go. Bytes that are no rich text become plain text:

@@ -15,7 +15,8 @@ private Q_SLOTS:
         QVERIFY(LooksLikeRtf("{\\rtf1 x}"));
         QVERIFY(LooksLikeRtf("\xef\xbb\xbf \r\n{\\rtf}"));
         QVERIFY(!LooksLikeRtf("{\\rt"));
-        QVERIFY(!LooksLikeRtf("x{\\rtf1}"));
+        QVERIFY(!LooksLikeRtf("x {\\rtf}, the first word of such a file"));
+        QVERIFY(!LooksLikeRtf("{\\rtfm1 x}"));
         QVERIFY(!LooksLikeRtf({}));
     }
 
@@ -68,6 +69,51 @@ private Q_SLOTS:
         QVERIFY(!result.wasCut);
         QCOMPARE(result.tables, 1);
         QCOMPARE(result.paragraphs, 3);
+    }
+
+    void rubbish_before_the_document_is_passed_over_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("lines of a letter")
+            << QByteArray("From: me\r\n\r\n{\\rtf1\\ansi one\\par}") << u"one"_s;
+        QTest::newRow("the header of another system")
+            << QByteArray(128, '\0') + "{\\rtf1\\ansi one\\par}" << u"one"_s;
+        QTest::newRow("no brace") << QByteArray("\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}one\\par two\\par}")
+                                  << u"one\ntwo"_s;
+        QTest::newRow("no brace, and none at the end") << QByteArray("\r\n\\rtf1\\ansi one\\par") << u"one"_s;
+        QTest::newRow("more braces closed than open")
+            << QByteArray("{\\rtf1\\ansi\\b one}} two\\par three\\par}") << u"one two\nthree"_s;
+        QTest::newRow("another document behind it")
+            << QByteArray("{\\rtf1 one\\par}{\\rtf1 two\\par}") << u"one"_s;
+        QTest::newRow("stored as Unicode") << QByteArray("\xff\xfe{\0\\\0r\0t\0"
+                                                         "f\0"
+                                                         "1\0 \0\x16\x04\xe9\0}\0",
+                                                         22)
+                                           << u"Жé"_s;
+    }
+    void rubbish_before_the_document_is_passed_over()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, text);
+        QVERIFY(LooksLikeRtf(bytes));
+        QCOMPARE(ReadBytes(bytes).Text(), text);
+    }
+
+    void braces_that_close_nothing_do_not_take_long()
+    {
+        QCOMPARE(ReadBytes("{\\rtf1 a" + QByteArray("}").repeated(500000) + "\\par").Text(), u"a"_s);
+        const QByteArray often = QByteArray("}\\par ").repeated(100000);
+        QVERIFY(ReadBytes("{\\rtf1 a" + often).result.wasDamaged);
+    }
+
+    void the_code_page_may_change_in_the_text()
+    {
+        QCOMPARE(
+            ReadBytes(
+                "{\\rtf1\\ansi\\ansicpg1252 \\'e9\\ansicpg1251 \\'e9\\mac \\'8e\\pc \\'82\\ansi \\'e9\\par}")
+                .Text(),
+            u"éйééé"_s);
     }
 
     void a_document_that_ends_early_shows_what_is_there()

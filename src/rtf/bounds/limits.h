@@ -12,6 +12,12 @@ inline constexpr int maxGroupDepth = 1000;
 inline constexpr int maxUnendingGroups = 32;
 /// Tables within tables; what is nested deeper is shown as part of the cell around it.
 inline constexpr int maxTableNesting = 6;
+/// Boxes within boxes; the text of what is nested deeper is part of the box around it.
+inline constexpr int maxBoxNesting = 8;
+/// Lines, rectangles and the like that are drawn into one picture.
+inline constexpr int maxDrawnShapes = 500;
+/// Corners of a polygon.
+inline constexpr int maxCorners = 2000;
 /// Columns of the grid of one table.
 inline constexpr int maxTableColumns = 64;
 /// Cell ends and cell definitions in one row.

@@ -6,7 +6,7 @@
 
 namespace torvik::rtf {
 
-enum class Underline : quint8 { None, Single, Dotted, Dashed, DashDot, DashDotDot, Wave };
+enum class Underline : quint8 { None, Single, Double, Thick, Dotted, Dashed, DashDot, DashDotDot, Wave };
 enum class Script : quint8 { Normal, Super, Sub };
 enum class Capitals : quint8 { AsWritten, All, Small };
 

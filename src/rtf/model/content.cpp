@@ -1,6 +1,16 @@
 #include "rtf/model/content.h"
 
+#include <utility>
+
 namespace torvik::rtf {
+
+Block::Block() = default;
+Block::Block(Paragraph text) : paragraph(std::move(text)) {}
+Block::Block(std::unique_ptr<Table> inner) : table(std::move(inner)) {}
+Block::Block(std::unique_ptr<Box> inner) : box(std::move(inner)) {}
+Block::Block(Block&& other) noexcept = default;
+Block& Block::operator=(Block&& other) noexcept = default;
+Block::~Block() = default;
 
 void Paragraph::Append(const QString& piece, int characterFormat)
 {

@@ -3,6 +3,7 @@
 #include "rtf/model/list_mark.h"
 #include "rtf/model/paragraph_state.h"
 
+#include <QColor>
 #include <QString>
 
 #include <memory>
@@ -45,11 +46,40 @@ private:
 };
 
 struct Table;
+struct Box;
 
-/// A paragraph, or a table within a table.
+/// A paragraph, a table within a table, or a box.
 struct Block {
+    Block();
+    explicit Block(Paragraph text);
+    explicit Block(std::unique_ptr<Table> inner);
+    explicit Block(std::unique_ptr<Box> inner);
+    Block(Block&& other) noexcept;
+    Block& operator=(Block&& other) noexcept;
+    ~Block();
+
     Paragraph paragraph;
     std::unique_ptr<Table> table;
+    std::unique_ptr<Box> box;
+};
+
+/// How a box that is drawn around text looks. Lengths are twips.
+struct BoxStyle {
+    /// 0 for as wide as the text around it.
+    int width = 0;
+    /// From the left margin of the text.
+    int left = 0;
+    int lineWidth = 0;
+    BorderLine line = BorderLine::None;
+    QColor lineColor;
+    QColor fill;
+    int padding[SideCount] = {72, 144, 72, 144};
+};
+
+/// Text in a drawn object.
+struct Box {
+    BoxStyle style;
+    std::vector<Block> blocks;
 };
 
 enum class Merge : quint8 { None, First, Continued };
@@ -66,6 +96,8 @@ struct CellStyle {
     int patternColor = 0;
     /// 0 top, 1 middle, 2 bottom.
     quint8 verticalAlignment = 0;
+    /// Between edge and text on each side, -1 where the row decides.
+    int padding[SideCount] = {-1, -1, -1, -1};
 };
 
 struct RowStyle {
@@ -74,6 +106,12 @@ struct RowStyle {
     int gap = 0;
     Alignment alignment = Alignment::Start;
     bool isHeader = false;
+    /// The first cell stands at the right.
+    bool rightToLeft = false;
+    /// At least so high; negative for exactly so high, 0 for as high as the text.
+    int height = 0;
+    /// Between the edges of cells and their texts, -1 where only the gap tells.
+    int padding[SideCount] = {-1, -1, -1, -1};
     Border borders[SideCount];
     Border innerHorizontal;
     Border innerVertical;

@@ -19,6 +19,7 @@ int NumberFormatOf(const ParagraphState& paragraph, const ListLevel* level)
     case ParagraphNumbering::Kind::Number:
         return paragraph.numbering.format;
     case ParagraphNumbering::Kind::None:
+    case ParagraphNumbering::Kind::Skipped:
         break;
     }
     return -1;
@@ -29,8 +30,10 @@ int NumberFormatOf(const ParagraphState& paragraph, const ListLevel* level)
 ListMark ListCounter::MarkOf(const ParagraphState& paragraph, const QString& written)
 {
     const ListLevel* level = lists_.Find(paragraph.list, paragraph.listLevel);
-    const bool isNumbered = paragraph.numbering.kind != ParagraphNumbering::Kind::None;
-    numbering_ = isNumbered ? numbering_ + 1 : 0;
+    const bool isNumbered = paragraph.numbering.HasMark();
+    if (paragraph.numbering.kind == ParagraphNumbering::Kind::None)
+        numbering_.fill(0);
+    const int number = isNumbered ? NextNumber(paragraph.numbering) : 0;
     ListMark mark;
     if (!written.trimmed().isEmpty()) {
         mark = MarkFromText(written, NumberFormatOf(paragraph, level));
@@ -39,19 +42,33 @@ ListMark ListCounter::MarkOf(const ParagraphState& paragraph, const QString& wri
     } else if (level != nullptr) {
         mark = CountedMark(paragraph);
     } else if (isNumbered) {
-        mark = MarkFromNumbering(paragraph.numbering, paragraph.numbering.start + numbering_ - 1);
+        mark = MarkFromNumbering(paragraph.numbering, number);
     }
+    constexpr int blank = 1;
+    if (level != nullptr && level->follow != 0 && written.isEmpty())
+        mark.gap = level->follow == blank ? QStringLiteral(" ") : QString();
     mark.listKey = paragraph.list != 0 ? lists_.KeyOf(paragraph.list) : keyOfNumbering;
     mark.level = paragraph.listLevel;
     return mark;
+}
+
+/// A bullet between two numbers does not count, and a number ends those of the levels below it.
+int ListCounter::NextNumber(const ParagraphNumbering& numbering)
+{
+    if (numbering.kind == ParagraphNumbering::Kind::Bullet)
+        return 0;
+    const std::size_t level = std::min<std::size_t>(numbering.level, numbering_.size() - 1);
+    int& last = numbering_[level];
+    last = last == 0 ? numbering.start : last + 1;
+    std::fill(numbering_.begin() + static_cast<std::ptrdiff_t>(level) + 1, numbering_.end(), 0);
+    return last;
 }
 
 void ListCounter::Count(const ParagraphState& paragraph, Values& values) const
 {
     const auto place = static_cast<std::size_t>(paragraph.listLevel);
     for (std::size_t i = 0; i < values.size(); ++i) {
-        const ListLevel* level = lists_.Find(paragraph.list, static_cast<int>(i));
-        const int start = level != nullptr ? std::clamp(level->startAt, 0, 30000) : 1;
+        const int start = std::clamp(lists_.StartOf(paragraph.list, static_cast<int>(i)), 0, 30000);
         if (i == place)
             values[i] = values[i] == 0 ? start : values[i] + 1;
         else if (i < place)
@@ -65,8 +82,14 @@ ListMark ListCounter::CountedMark(const ParagraphState& paragraph)
 {
     Values& values = values_[lists_.KeyOf(paragraph.list)];
     Count(paragraph, values);
-    const ListLevel* level = lists_.Find(paragraph.list, paragraph.listLevel);
-    return MarkFromLevel(*level, values.data(), paragraph.listLevel + 1);
+    std::array<LevelNumber, ListTable::maxLevels> numbers;
+    for (int i = 0; i <= paragraph.listLevel; ++i) {
+        const ListLevel* level = lists_.Find(paragraph.list, i);
+        const auto place = static_cast<std::size_t>(i);
+        numbers[place] = {values[place], level != nullptr ? level->format : 0};
+    }
+    return MarkFromLevel(*lists_.Find(paragraph.list, paragraph.listLevel), numbers.data(),
+                         paragraph.listLevel + 1);
 }
 
 } // namespace torvik::rtf

@@ -22,11 +22,13 @@ private:
     using Values = std::array<int, ListTable::maxLevels>;
 
     ListMark CountedMark(const ParagraphState& paragraph);
+    int NextNumber(const ParagraphNumbering& numbering);
     void Count(const ParagraphState& paragraph, Values& values) const;
 
     const ListTable& lists_;
     std::map<int, Values> values_;
-    int numbering_ = 0;
+    /// The last numbers of the older kind, level by level; 0 for none yet.
+    std::array<int, ListTable::maxLevels + 3> numbering_{};
 };
 
 } // namespace torvik::rtf

@@ -1,6 +1,7 @@
 #include "rtf/model/list_mark.h"
 
 #include "rtf/model/list_table.h"
+#include "rtf/model/number_words.h"
 #include "rtf/model/paragraph_state.h"
 
 #include <algorithm>
@@ -126,6 +127,12 @@ int ReadNumber(const QString& core, int format, Style& style)
     return letters;
 }
 
+/// Whether a list of Qt's shows a number format by itself.
+bool IsOfLists(int format)
+{
+    return format >= 0 && format <= 4;
+}
+
 ListMark LiteralMark(const QString& written)
 {
     ListMark mark;
@@ -200,39 +207,40 @@ ListMark MarkFromText(const QString& written, int format)
     return mark;
 }
 
-ListMark MarkFromLevel(const ListLevel& level, const int* values, int count)
+ListMark MarkFromLevel(const ListLevel& level, const LevelNumber* numbers, int count)
 {
     if (level.format == ListTable::noFormat || count <= 0)
         return {};
     // The first character only tells how many follow.
     const QString pattern = level.text.mid(1);
     QString written;
-    int numbers = 0;
+    int places = 0;
     for (const QChar c : pattern) {
         const int place = c.unicode();
         if (place < ListTable::maxLevels) {
-            written +=
-                place < count ? NumberInStyle(values[place], StyleOfNumberFormat(level.format)) : QString();
-            ++numbers;
+            if (place < count)
+                written += NumberInFormat(numbers[place].value, level.isLegal ? 0 : numbers[place].format);
+            ++places;
         } else if (c != u';') {
             written += c;
         }
     }
     if (level.format == ListTable::bulletFormat)
         return MarkFromText(written.isEmpty() ? u"•"_s : written, ListTable::bulletFormat);
-    if (numbers == 0 && written.isEmpty())
-        written = NumberInStyle(values[count - 1], StyleOfNumberFormat(level.format)) + u'.';
-    return MarkFromText(written, level.format);
+    if (places == 0 && written.isEmpty())
+        written = NumberInFormat(numbers[count - 1].value, level.format) + u'.';
+    return IsOfLists(level.format) ? MarkFromText(written, level.format) : LiteralMark(written.trimmed());
 }
 
 ListMark MarkFromNumbering(const ParagraphNumbering& numbering, int value)
 {
-    if (numbering.kind == ParagraphNumbering::Kind::None)
+    if (!numbering.HasMark())
         return {};
     if (numbering.kind == ParagraphNumbering::Kind::Bullet)
         return MarkFromText(numbering.before.isEmpty() ? u"•"_s : numbering.before, ListTable::bulletFormat);
-    const QString number = NumberInStyle(value, StyleOfNumberFormat(numbering.format));
-    return MarkFromText(numbering.before + number + numbering.after, numbering.format);
+    const QString written = numbering.before + NumberInFormat(value, numbering.format) + numbering.after;
+    return IsOfLists(numbering.format) ? MarkFromText(written, numbering.format)
+                                       : LiteralMark(written.trimmed());
 }
 
 } // namespace torvik::rtf

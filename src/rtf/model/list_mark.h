@@ -21,18 +21,26 @@ struct ListMark {
     QString after;
     /// The mark as it was written, for marks that the list itself cannot show.
     QString literal;
+    /// What comes between such a mark and the text.
+    QString gap = QStringLiteral("\t");
 };
 
-/// Number formats as the format numbers them: 0 decimal, 1 and 2 roman, 3 and 4 letters.
+/// The style in which a list of Qt's shows a number format: 0 decimal, 1 and 2 roman, 3 and 4 letters.
 QTextListFormat::Style StyleOfNumberFormat(int format);
 
 /// Reads a mark from its written text, such as "2.", "(iv)" or a bullet. `format` is the number format that
 /// is known from elsewhere (23 for bullets), -1 when none is.
 ListMark MarkFromText(const QString& written, int format);
 
+/// The number of one level of a list, and the format in which that level writes it.
+struct LevelNumber {
+    int value = 0;
+    int format = 0;
+};
+
 /// The mark of a paragraph that comes without the text of its mark: made from the list's definition and the
-/// numbers of its levels, the paragraph's own last. `values` holds `count` numbers.
-ListMark MarkFromLevel(const ListLevel& level, const int* values, int count);
+/// numbers of its levels, the paragraph's own last. `numbers` holds `count` of them.
+ListMark MarkFromLevel(const ListLevel& level, const LevelNumber* numbers, int count);
 ListMark MarkFromNumbering(const ParagraphNumbering& numbering, int value);
 
 /// `value` (1 or more) as a list writes it: decimal, letters or roman.

@@ -34,36 +34,64 @@ ListLevel* ListTable::CurrentLevel()
 
 void ListTable::BeginOverride()
 {
-    overriddenId_ = 0;
+    current_ = Override();
 }
 
 void ListTable::SetOverriddenList(int id)
 {
-    overriddenId_ = id;
+    current_.id = id;
+}
+
+void ListTable::BeginOverriddenLevel()
+{
+    constexpr int asTheList = -1;
+    if (current_.starts.size() < static_cast<std::size_t>(maxLevels))
+        current_.starts.push_back(asTheList);
+}
+
+void ListTable::SetOverriddenStart(int start)
+{
+    if (current_.starts.empty())
+        return;
+    current_.starts.back() = start;
+    current_.hasStarts = true;
 }
 
 void ListTable::SetReference(int number)
 {
-    if (listOfReference_.size() < static_cast<std::size_t>(maxLists))
-        listOfReference_[number] = overriddenId_;
+    if (overrides_.size() < static_cast<std::size_t>(maxLists))
+        overrides_[number] = current_;
 }
 
 const ListLevel* ListTable::Find(int reference, int level) const
 {
-    const auto id = listOfReference_.find(reference);
-    if (id == listOfReference_.end() || level < 0)
+    const auto found = overrides_.find(reference);
+    if (found == overrides_.end() || level < 0)
         return nullptr;
     const auto list =
-        std::find_if(lists_.begin(), lists_.end(), [&](const List& l) { return l.id == id->second; });
+        std::find_if(lists_.begin(), lists_.end(), [&](const List& l) { return l.id == found->second.id; });
     if (list == lists_.end() || static_cast<std::size_t>(level) >= list->levels.size())
         return nullptr;
     return &list->levels[static_cast<std::size_t>(level)];
 }
 
+int ListTable::StartOf(int reference, int level) const
+{
+    const auto found = overrides_.find(reference);
+    const auto place = static_cast<std::size_t>(std::max(level, 0));
+    if (found != overrides_.end() && place < found->second.starts.size() && found->second.starts[place] >= 0)
+        return found->second.starts[place];
+    const ListLevel* definition = Find(reference, level);
+    return definition != nullptr ? definition->startAt : 1;
+}
+
 int ListTable::KeyOf(int reference) const
 {
-    const auto id = listOfReference_.find(reference);
-    return id == listOfReference_.end() ? reference : id->second;
+    const auto found = overrides_.find(reference);
+    if (found == overrides_.end())
+        return reference;
+    // Numbers of lists are not negative in practice, so these meet none.
+    return found->second.hasStarts ? -2 - reference : found->second.id;
 }
 
 } // namespace torvik::rtf

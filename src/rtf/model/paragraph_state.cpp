@@ -22,11 +22,12 @@ std::size_t ParagraphStateHash::operator()(const ParagraphState& state) const
 {
     const unsigned flags = unsigned(state.lineMultiple) | unsigned(state.keepTogether) << 1U |
                            unsigned(state.breakBefore) << 2U | unsigned(state.rightToLeft) << 3U |
-                           unsigned(state.alignment) << 5U | unsigned(state.markOutside) << 4U;
+                           unsigned(state.alignment) << 5U | unsigned(state.markOutside) << 4U |
+                           unsigned(state.frame.isSet) << 8U | unsigned(state.keepWithNext) << 9U;
     int tabs = 0;
     for (const TabStop& tab : state.tabs)
         tabs = static_cast<int>(static_cast<unsigned>(tabs) * 31U + static_cast<unsigned>(tab.position) * 8U +
-                                static_cast<unsigned>(tab.type));
+                                static_cast<unsigned>(tab.leader) * 4096U + static_cast<unsigned>(tab.type));
     int borders = 0;
     for (const Border& border : state.borders)
         borders =
@@ -34,7 +35,8 @@ std::size_t ParagraphStateHash::operator()(const ParagraphState& state) const
                              static_cast<unsigned>(border.width));
     return qHashMulti(0, flags, state.leftIndent, state.rightIndent, state.firstIndent, state.spaceBefore,
                       state.spaceAfter, state.lineSpacing, state.background, state.shading,
-                      state.patternColor, tabs, borders, state.list, state.listLevel, state.tableDepth);
+                      state.patternColor, state.frame.width, state.frame.left, tabs, borders, state.list,
+                      state.listLevel, state.tableDepth);
 }
 
 } // namespace torvik::rtf

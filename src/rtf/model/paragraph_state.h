@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rtf/paint/line_properties.h"
+
 #include <QList>
 #include <QString>
 #include <QTextOption>
@@ -40,21 +42,42 @@ struct TabStop {
     /// Twips from the left margin of the text.
     int position = 0;
     QTextOption::TabType type = QTextOption::LeftTab;
+    /// What fills the room before it.
+    TabLeader leader = TabLeader::None;
 
     bool operator==(const TabStop&) const = default;
 };
 
 /// Bullets and numbers as the older word processors wrote them, paragraph by paragraph.
 struct ParagraphNumbering {
-    enum class Kind : quint8 { None, Bullet, Number };
+    /// Skipped: the paragraph has no mark, and the numbers go on after it.
+    enum class Kind : quint8 { None, Bullet, Number, Skipped };
     Kind kind = Kind::None;
-    /// The number format: 0 decimal, 1 and 2 roman, 3 and 4 letters (upper case, lower case).
+    /// The number format, as lists number them: 0 decimal, 1 and 2 roman, 3 and 4 letters (upper case, lower
+    /// case).
     quint8 format = 0;
+    /// From 1 for the outermost; 0 for paragraphs without levels.
+    quint8 level = 0;
     int start = 1;
     QString before;
     QString after;
 
+    bool HasMark() const { return kind == Kind::Bullet || kind == Kind::Number; }
     bool operator==(const ParagraphNumbering&) const = default;
+};
+
+/// Where a paragraph of a frame stands. Lengths are twips.
+struct FramePlace {
+    bool isSet = false;
+    /// The frame's left edge counts from the edge of the page and not from the text.
+    bool fromPage = false;
+    /// 0 for as wide as the text around it.
+    int width = 0;
+    int left = 0;
+    /// Lines that a large initial letter is as tall as; 0 for any other text.
+    int initialLines = 0;
+
+    bool operator==(const FramePlace&) const = default;
 };
 
 /// What a paragraph looks like. Lengths are twips.
@@ -69,6 +92,7 @@ struct ParagraphState {
     int lineSpacing = 0;
     bool lineMultiple = false;
     bool keepTogether = false;
+    bool keepWithNext = false;
     bool breakBefore = false;
     bool rightToLeft = false;
     /// The bullet or number is drawn in front of the text by the list itself, so the first line is not
@@ -79,6 +103,7 @@ struct ParagraphState {
     int patternColor = 0;
     Border borders[SideCount];
     QList<TabStop> tabs;
+    FramePlace frame;
     /// Number of the list that the paragraph belongs to, 0 for none, and its level from 0.
     int list = 0;
     int listLevel = 0;

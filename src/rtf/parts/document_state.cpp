@@ -14,7 +14,7 @@ constexpr int noFont = std::numeric_limits<int>::min();
 
 DocumentState::DocumentState(qint64 fileBytes, QTextDocument& into)
     : formats(fonts, colors), budget(fileBytes), document(into),
-      cursor(&into), context{formats, pictures, budget}, body(context, cursor, FlowWriter::Room::Body),
+      cursor(&into), context{formats, pictures, budget, page}, body(context, cursor, FlowWriter::Room::Body),
       flow(context, body)
 {
     group.page = &CodePage::Of(codePage);
@@ -27,7 +27,8 @@ DocumentState::DocumentState(qint64 fileBytes, QTextDocument& into)
 
 bool DocumentState::IsBody() const
 {
-    return group.destination == Destination::Body || group.destination == Destination::Note;
+    return group.destination == Destination::Body || group.destination == Destination::Note ||
+           group.destination == Destination::ShapeText;
 }
 
 } // namespace torvik::rtf

@@ -4,8 +4,10 @@
 #include "rtf/model/color_table.h"
 #include "rtf/model/font_table.h"
 #include "rtf/model/list_table.h"
+#include "rtf/model/page_measures.h"
 #include "rtf/parts/group_state.h"
 #include "rtf/picture/picture_store.h"
+#include "rtf/picture/shape_picture.h"
 #include "rtf/write/flow_collector.h"
 #include "rtf/write/flow_writer.h"
 #include "rtf/write/formats.h"
@@ -34,6 +36,14 @@ struct DocumentState {
     /// The short text that is being gathered for a table: a font's name, the pattern of a list's level, a
     /// bookmark's name.
     QString aside;
+
+    PageMeasures page;
+    /// How many paragraphs and cells have ended.
+    int endedParagraphs = 0;
+    /// Lines, rectangles and the like of the paragraph that is being read.
+    std::vector<DrawnShape> drawings;
+    /// Text of the paragraph came before them.
+    bool drawingsComeAfter = false;
 
     FontTable fonts;
     ColorTable colors;

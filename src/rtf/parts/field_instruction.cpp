@@ -5,6 +5,8 @@
 
 namespace torvik::rtf {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Words and quoted texts of an instruction. In quotes a backslash takes the next character as it is.
@@ -36,16 +38,10 @@ QStringList Pieces(const QString& instruction)
     return pieces;
 }
 
-/// The piece after a switch such as \l, empty when the switch is not there.
-QString ValueOfSwitch(const QStringList& pieces, QLatin1StringView name)
+void ReadLink(FieldInstruction& read)
 {
-    const qsizetype at = pieces.indexOf(name);
-    return at >= 0 && at + 1 < pieces.size() ? pieces.at(at + 1) : QString();
-}
-
-void ReadLink(const QStringList& pieces, FieldInstruction& read)
-{
-    const QString bookmark = ValueOfSwitch(pieces, QLatin1StringView("\\l"));
+    const QStringList& pieces = read.pieces;
+    const QString bookmark = read.ValueOf(u"\\l"_s);
     const QString place = bookmark.isEmpty() ? QString() : u'#' + bookmark;
     const bool isLocal = pieces.size() > 1 && pieces.at(1).startsWith(u'\\');
     if (isLocal)
@@ -54,8 +50,9 @@ void ReadLink(const QStringList& pieces, FieldInstruction& read)
         read.target = SafeTarget(pieces.at(1) + place);
 }
 
-void ReadSymbol(const QStringList& pieces, FieldInstruction& read)
+void ReadSymbol(FieldInstruction& read)
 {
+    const QStringList& pieces = read.pieces;
     if (pieces.size() < 2)
         return;
     bool isNumber = false;
@@ -63,7 +60,7 @@ void ReadSymbol(const QStringList& pieces, FieldInstruction& read)
     if (!isNumber || code == 0 || code > 0xffff || (code >= 0xd800 && code < 0xe000))
         return;
     read.symbol = code;
-    read.symbolFont = ValueOfSwitch(pieces, QLatin1StringView("\\f"));
+    read.symbolFont = read.ValueOf(u"\\f"_s);
 }
 
 } // namespace
@@ -80,16 +77,28 @@ QString SafeTarget(const QString& address)
     return url.toString(QUrl::FullyEncoded);
 }
 
+QString FieldInstruction::ValueOf(const QString& name) const
+{
+    const qsizetype at = pieces.indexOf(name);
+    return at >= 0 && at + 1 < pieces.size() ? pieces.at(at + 1) : QString();
+}
+
 FieldInstruction ReadInstruction(const QString& instruction)
 {
     FieldInstruction read;
-    const QStringList pieces = Pieces(instruction);
-    if (pieces.isEmpty())
+    read.pieces = Pieces(instruction);
+    if (read.pieces.isEmpty())
         return read;
-    if (pieces.first().compare(QLatin1StringView("HYPERLINK"), Qt::CaseInsensitive) == 0)
-        ReadLink(pieces, read);
-    else if (pieces.first().compare(QLatin1StringView("SYMBOL"), Qt::CaseInsensitive) == 0)
-        ReadSymbol(pieces, read);
+    read.keyword = read.pieces.constFirst().toUpper();
+    // A formula begins right behind the word.
+    if (read.keyword.startsWith(QLatin1StringView("EQ\\")))
+        read.keyword.truncate(2);
+    const qsizetype start = instruction.indexOf(read.keyword, 0, Qt::CaseInsensitive);
+    read.rest = start < 0 ? QString() : instruction.mid(start + read.keyword.size());
+    if (read.keyword == QLatin1StringView("HYPERLINK"))
+        ReadLink(read);
+    else if (read.keyword == QLatin1StringView("SYMBOL"))
+        ReadSymbol(read);
     return read;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace torvik::rtf {
 
@@ -12,6 +13,14 @@ struct FieldInstruction {
     /// For a field that is one character of a font; 0 for none.
     char32_t symbol = 0;
     QString symbolFont;
+    /// The first word in capitals, all words and quoted texts, and everything after the first word as it
+    /// stands.
+    QString keyword;
+    QStringList pieces;
+    QString rest;
+
+    /// The piece after a switch such as \l; empty when the switch is not there.
+    QString ValueOf(const QString& name) const;
 };
 
 /// Reads an instruction such as `HYPERLINK "http://www.example" \o "tip"` or `SYMBOL 183 \f "Symbol"`.

@@ -1,5 +1,6 @@
 #include "rtf/parts/field_reader.h"
 
+#include "rtf/bounds/limits.h"
 #include "rtf/charset/symbol_font.h"
 
 #include <utility>
@@ -21,10 +22,14 @@ QString CharacterOf(const FieldInstruction& instruction)
 
 void FieldReader::Begin()
 {
-    if (!document_.IsBody() || document_.group.opensField)
+    const bool isInside = document_.group.destination == Destination::FieldInstruction;
+    if ((!document_.IsBody() && !isInside) || document_.group.opensField)
         return;
     document_.group.opensField = true;
-    fields_.emplace_back().start = document_.flow.Draft().text.size();
+    Field& field = fields_.emplace_back();
+    field.isInside = isInside;
+    field.start = document_.flow.Draft().text.size();
+    field.startParagraphs = document_.endedParagraphs;
 }
 
 void FieldReader::EndInstruction()
@@ -44,16 +49,57 @@ void FieldReader::BeginResult()
         document_.group.character.link = fields_.back().link;
 }
 
+bool FieldReader::HasResult(const Field& field) const
+{
+    return document_.flow.Draft().text.size() != field.start ||
+           document_.endedParagraphs != field.startParagraphs;
+}
+
+/// Gives the value of a field to the instruction around it, as one piece of that.
+void FieldReader::HandOut(const QString& value)
+{
+    QString& around = fields_.back().instruction;
+    if (around.size() + value.size() > maxAsideText)
+        return;
+    const bool isQuoted = around.count(u'"') % 2 != 0;
+    const bool needsQuotes = !isQuoted && (value.isEmpty() || value.contains(u' '));
+    QString plain = value;
+    plain.remove(u'"');
+    around += needsQuotes ? QString(u'"' + plain + u'"') : plain;
+}
+
+void FieldReader::LookAround()
+{
+    surroundings_.page = document_.page.number;
+    if (!surroundings_.now.isValid())
+        surroundings_.now = QDateTime::currentDateTime();
+}
+
+QString FieldReader::TextOf(const QString& instruction)
+{
+    if (!document_.IsBody())
+        return {};
+    LookAround();
+    return ResultOf(ReadInstruction(instruction), FormField(), surroundings_);
+}
+
 QString FieldReader::End()
 {
     if (fields_.empty())
         return {};
     const Field field = std::move(fields_.back());
     fields_.pop_back();
-    const bool hasResult = document_.flow.Draft().text.size() != field.start;
-    if (field.read.symbol == 0 || hasResult || !document_.IsBody())
+    LookAround();
+    if (field.isInside) {
+        if (!fields_.empty())
+            HandOut(field.value.isEmpty() ? ResultOf(field.read, field.form, surroundings_) : field.value);
         return {};
-    return CharacterOf(field.read);
+    }
+    if (!document_.IsBody() || HasResult(field))
+        return {};
+    if (field.read.symbol != 0)
+        return CharacterOf(field.read);
+    return ResultOf(field.read, field.form, surroundings_);
 }
 
 } // namespace torvik::rtf

@@ -2,6 +2,7 @@
 
 #include "rtf/parts/document_state.h"
 #include "rtf/parts/field_instruction.h"
+#include "rtf/parts/field_result.h"
 
 #include <vector>
 
@@ -17,22 +18,39 @@ public:
     /// Where the text of an instruction goes.
     QString& Instruction() { return fields_.empty() ? document_.aside : fields_.back().instruction; }
     void EndInstruction();
+    /// Whether the innermost field is part of the instruction of another one.
+    bool IsInside() const { return !fields_.empty() && fields_.back().isInside; }
     void BeginResult();
-    /// Ends the innermost field. Returns the character that it stands for when it has no result; else
-    /// nothing.
+    /// Where the result of such a field goes.
+    QString& Value() { return fields_.empty() ? document_.aside : fields_.back().value; }
+    FormField& Form() { return fields_.empty() ? noForm_ : fields_.back().form; }
+    /// Ends the innermost field. Returns the text that it stands for when it has no result; else nothing.
     QString End();
+    /// The text of a field that comes without a group, empty where no text is shown.
+    QString TextOf(const QString& instruction);
+    FieldSurroundings& Surroundings() { return surroundings_; }
 
 private:
     struct Field {
         QString instruction;
         FieldInstruction read;
+        FormField form;
+        QString value;
+        bool isInside = false;
         int link = 0;
         /// Length of the paragraph's text where the field began.
         qsizetype start = 0;
+        /// How many paragraphs had ended then.
+        int startParagraphs = 0;
     };
+    bool HasResult(const Field& field) const;
+    void HandOut(const QString& value);
+    void LookAround();
 
     DocumentState& document_;
     std::vector<Field> fields_;
+    FieldSurroundings surroundings_;
+    FormField noForm_;
 };
 
 } // namespace torvik::rtf

@@ -19,7 +19,20 @@ enum class Destination : quint8 {
     ListOverrides,
     LevelText,
     FieldInstruction,
+    /// The result of a field within the instruction of another one.
+    FieldValue,
+    FormField,
+    FormText,
+    FormChoice,
+    /// What the document tells about itself, and one entry of it.
+    Information,
+    InformationEntry,
     Picture,
+    /// A drawn object: its words are read, its text is that of the groups inside.
+    Shape,
+    ShapePropertyName,
+    ShapePropertyValue,
+    ShapeText,
     Mark,
     Numbering,
     NumberingBefore,
@@ -37,6 +50,9 @@ struct GroupState {
     /// The group began with the word that named its destination.
     bool opensDestination = false;
     bool opensField = false;
+    /// The group is a drawn object, or the text in one.
+    bool opensShape = false;
+    bool opensBox = false;
     bool isNestedTableProperties = false;
     bool isShapePicture = false;
     /// Characters that stand in for one Unicode character.

@@ -13,6 +13,7 @@ void NoteReader::End(const GroupState& ended)
 {
     if (!document_.flow.Draft().IsEmpty()) {
         const GroupState around = std::exchange(document_.group, ended);
+        document_.group.paragraph.frame.initialLines = 0;
         paragraphs_.EndParagraph();
         document_.group = around;
     }

@@ -1,6 +1,7 @@
 #include "rtf/parts/paragraph_reader.h"
 
 #include "rtf/bounds/limits.h"
+#include "rtf/parts/shape_drawings.h"
 
 #include <QTextDocument>
 
@@ -18,6 +19,9 @@ ParagraphState LooksOf(const ParagraphState& paragraph)
     looks.listLevel = 0;
     looks.numbering = ParagraphNumbering();
     looks.style = 0;
+    // The paragraphs of a table that has a place of its own carry it too.
+    if (looks.tableDepth > 0)
+        looks.frame = FramePlace();
     looks.tableDepth = 0;
     return looks;
 }
@@ -26,6 +30,8 @@ ParagraphState LooksOf(const ParagraphState& paragraph)
 
 void ParagraphReader::FinishDraft()
 {
+    PlaceDrawings(document_);
+    ++document_.endedParagraphs;
     const ParagraphState& paragraph = document_.group.paragraph;
     Paragraph& draft = document_.flow.Draft();
     draft.mark = counter_.MarkOf(paragraph, mark_);
@@ -46,6 +52,17 @@ void ParagraphReader::FinishDraft()
     breakPending_ = false;
 }
 
+/// A large first letter is a paragraph of its own to the document, and the beginning of the next one to
+/// the reader.
+bool ParagraphReader::IsInitialLetter() const
+{
+    constexpr qsizetype longest = 8;
+    const ParagraphState& paragraph = document_.group.paragraph;
+    const Paragraph& draft = document_.flow.Draft();
+    return paragraph.frame.initialLines > 0 && paragraph.tableDepth == 0 && !draft.IsEmpty() &&
+           draft.text.size() <= longest;
+}
+
 int ParagraphReader::NestedDepth() const
 {
     return std::max(2, document_.group.paragraph.tableDepth);
@@ -53,7 +70,7 @@ int ParagraphReader::NestedDepth() const
 
 void ParagraphReader::EndParagraph()
 {
-    if (!document_.IsBody())
+    if (!document_.IsBody() || IsInitialLetter())
         return;
     FinishDraft();
     document_.flow.EndParagraph(document_.group.paragraph.tableDepth);
@@ -83,6 +100,14 @@ void ParagraphReader::BreakPage()
     if (!document_.flow.Draft().IsEmpty())
         EndParagraph();
     breakPending_ = true;
+    ++document_.page.number;
+}
+
+void ParagraphReader::CancelBreak()
+{
+    if (breakPending_)
+        --document_.page.number;
+    breakPending_ = false;
 }
 
 void ParagraphReader::SetDefaultTab(int twips)

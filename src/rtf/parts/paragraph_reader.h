@@ -18,7 +18,7 @@ public:
     void EndCell(bool nested);
     void EndRow(bool nested);
     void BreakPage();
-    void CancelBreak() { breakPending_ = false; }
+    void CancelBreak();
     /// The mark of a list's paragraph as it is written, which is read before the paragraph.
     QString& Mark() { return mark_; }
     /// The distance in twips of the tabs that no paragraph names.
@@ -26,6 +26,7 @@ public:
 
 private:
     void FinishDraft();
+    bool IsInitialLetter() const;
     int NestedDepth() const;
 
     DocumentState& document_;

@@ -38,25 +38,28 @@ void PictureReader::AppendBytes(std::string_view bytes)
     source_.data.append(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
 
-void PictureReader::End(const GroupState& ended)
+bool PictureReader::End(const GroupState& ended)
 {
     const PictureSource source = std::move(source_);
     Begin();
     const GroupState& group = document_.group;
     const bool isShown =
-        (document_.IsBody() || group.destination == Destination::Hidden) && !group.character.hidden;
+        (document_.IsBody() || group.destination == Destination::Hidden ||
+         group.destination == Destination::Shape || group.destination == Destination::ShapePropertyValue) &&
+        !group.character.hidden;
     if (!isShown)
-        return;
+        return false;
     const ShownPicture picture = ShowPicture(source, document_.budget);
     if (picture.image.isNull()) {
         ++lost_;
-        return;
+        return false;
     }
     if (ended.isShapePicture)
         shapeWasShown_ = true;
     document_.flow.Draft().AppendPicture(document_.pictures.Add(picture.image, picture.size),
                                          looks_.Format());
     ++shown_;
+    return true;
 }
 
 void PictureReader::BeginShape()

@@ -19,8 +19,8 @@ public:
     /// Adds bytes that are written as hexadecimal digits; other characters are passed over.
     void AppendHex(std::string_view digits);
     void AppendBytes(std::string_view bytes);
-    /// Ends the picture whose group had the state `ended`.
-    void End(const GroupState& ended);
+    /// Ends the picture whose group had the state `ended`. Whether it is shown.
+    bool End(const GroupState& ended);
 
     /// The group holds the better one of two forms of a picture.
     void BeginShape();

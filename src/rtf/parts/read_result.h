@@ -12,6 +12,8 @@ struct ReadResult {
     bool wasDamaged = false;
     /// Something was left out because the document grew out of proportion to its file.
     bool wasCut = false;
+    /// Rows of tables are to have heights of their own.
+    bool hasRowHeights = false;
     int paragraphs = 0;
     int tables = 0;
     /// Pictures that are shown.

@@ -66,11 +66,20 @@ QString* TextRouter::AsideText()
     case Destination::Fonts:
     case Destination::LevelText:
     case Destination::Bookmark:
+    case Destination::ShapePropertyName:
+    case Destination::ShapePropertyValue:
         return &document_.aside;
     case Destination::AlternativeFont:
         return &fonts_.AlternativeName();
     case Destination::FieldInstruction:
         return &fields_.Instruction();
+    case Destination::FieldValue:
+        return &fields_.Value();
+    case Destination::FormText:
+        return &fields_.Form().text;
+    case Destination::FormChoice:
+    case Destination::InformationEntry:
+        return &document_.aside;
     case Destination::Mark:
         return &paragraphs_.Mark();
     case Destination::NumberingBefore:

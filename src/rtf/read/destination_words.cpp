@@ -20,6 +20,23 @@ void EnterGroup(Interpreter& interpreter, const Argument&)
     interpreter.Enter(destination);
 }
 
+void BeginFieldResult(Interpreter& interpreter, const Argument&)
+{
+    const bool isInside = interpreter.Document().group.destination == Destination::FieldInstruction;
+    if (isInside && interpreter.Fields().IsInside())
+        interpreter.Enter(Destination::FieldValue);
+    else
+        interpreter.Fields().BeginResult();
+}
+
+void BeginFormField(Interpreter& interpreter, const Argument&)
+{
+    if (interpreter.Document().group.destination != Destination::FieldInstruction)
+        return interpreter.Skip();
+    interpreter.Fields().Form() = FormField();
+    interpreter.Enter(Destination::FormField);
+}
+
 void BeginNote(Interpreter& interpreter, const Argument&)
 {
     if (!interpreter.Notes().MayBegin())
@@ -50,6 +67,40 @@ void BeginMark(Interpreter& interpreter, const Argument&)
     interpreter.Paragraphs().Mark().clear();
 }
 
+void BeginShapeGroup(Interpreter& interpreter, const Argument&)
+{
+    if (interpreter.Shapes().Begin())
+        interpreter.Shapes().Current().isGroup = true;
+}
+
+void BeginShapeInstructions(Interpreter& interpreter, const Argument&)
+{
+    if (!interpreter.Shapes().MayHoldShape())
+        return interpreter.Skip();
+    interpreter.Shapes().Current().hasInstructions = true;
+    interpreter.Enter(Destination::Shape);
+}
+
+/// The same object once more for older readers.
+void BeginShapeResult(Interpreter& interpreter, const Argument&)
+{
+    if (interpreter.Shapes().Current().hasInstructions || !interpreter.Document().IsBody())
+        interpreter.Skip();
+}
+
+void BeginShapeText(Interpreter& interpreter, const Argument&)
+{
+    if (interpreter.Shapes().BeginText())
+        interpreter.Enter(Destination::ShapeText);
+}
+
+/// An object of the older generation, or several of them.
+void BeginDrawing(Interpreter& interpreter, const Argument&)
+{
+    if (interpreter.Shapes().Begin())
+        interpreter.Enter(Destination::Shape);
+}
+
 constexpr WordEntry destinationEntries[] = {
     {"fonttbl", EnterGroup<Destination::Fonts>},
     {"colortbl", EnterGroup<Destination::Colors>},
@@ -59,7 +110,8 @@ constexpr WordEntry destinationEntries[] = {
     {"fldinst", EnterGroup<Destination::FieldInstruction>},
     {"bkmkstart", EnterGroup<Destination::Bookmark>},
     {"field", [](Interpreter& r, const Argument&) { r.Fields().Begin(); }},
-    {"fldrslt", [](Interpreter& r, const Argument&) { r.Fields().BeginResult(); }},
+    {"fldrslt", BeginFieldResult},
+    {"formfield", BeginFormField},
     {"footnote", BeginNote},
     {"pict", BeginPicture},
     {"shppict", [](Interpreter& r, const Argument&) { r.Pictures().BeginShape(); }},
@@ -67,18 +119,23 @@ constexpr WordEntry destinationEntries[] = {
     {"pntext", BeginMark},
     {"listtext", BeginMark},
     {"pn", EnterGroup<Destination::Numbering>},
-    // An object is shown by its result, a drawn shape by the picture and the text in it.
+    // An object is shown by its result.
     {"object", EnterGroup<Destination::Hidden>},
     {"result", EnterGroup<Destination::Body>},
-    {"shpinst", EnterGroup<Destination::Hidden>},
-    {"shptxt", EnterGroup<Destination::Body>},
+    {"shp", [](Interpreter& r, const Argument&) { r.Shapes().Begin(); }},
+    {"shpgrp", BeginShapeGroup},
+    {"shpinst", BeginShapeInstructions},
+    {"shprslt", BeginShapeResult},
+    {"shptxt", BeginShapeText},
+    {"dptxbxtext", BeginShapeText},
+    {"do", BeginDrawing},
     // Of two forms of a text the second, in Unicode, is the true one.
     {"upr", [](Interpreter& r, const Argument&) { r.SkipNextGroup(); }},
     {"ud", Nothing},
     {"nesttableprops",
      [](Interpreter& r, const Argument&) { r.Document().group.isNestedTableProperties = true; }},
     {"nonesttables", SkipGroup},
-    {"info", SkipGroup},
+    {"info", EnterGroup<Destination::Information>},
     {"header", SkipGroup},
     {"headerl", SkipGroup},
     {"headerr", SkipGroup},
@@ -100,7 +157,6 @@ constexpr WordEntry destinationEntries[] = {
     {"objdata", SkipGroup},
     {"objclass", SkipGroup},
     {"objname", SkipGroup},
-    {"shprslt", SkipGroup},
     {"revtbl", SkipGroup},
     {"filetbl", SkipGroup},
     {"pntxta", SkipGroup},

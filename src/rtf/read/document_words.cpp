@@ -1,3 +1,4 @@
+#include "rtf/bounds/limits.h"
 #include "rtf/read/interpreter.h"
 #include "rtf/read/word_table.h"
 
@@ -19,6 +20,9 @@ constexpr WordEntry documentEntries[] = {
     {"deff", [](Interpreter& r, const Argument& a) { r.Looks().SetDefaultFont(a.value); }},
     {"deftab",
      [](Interpreter& r, const Argument& a) { r.Paragraphs().SetDefaultTab(a.Within(20, 14400, 720)); }},
+    {"paperw", [](Interpreter& r, const Argument& a) { r.Document().page.width = a.Within(1440, maxTwips); }},
+    {"margl", [](Interpreter& r, const Argument& a) { r.Document().page.leftMargin = a.Within(0, 14400); }},
+    {"margr", [](Interpreter& r, const Argument& a) { r.Document().page.rightMargin = a.Within(0, 14400); }},
     {"uc", [](Interpreter& r, const Argument& a) { r.Document().group.fallbackLength = a.Within(0, 64, 1); }},
     {"u", [](Interpreter& r, const Argument& a) { r.Text().PutUnicode(a.value); }},
 };

@@ -1,6 +1,8 @@
 #include "rtf/read/interpreter.h"
 
 #include "rtf/bounds/limits.h"
+#include "rtf/parts/shape_drawings.h"
+#include "rtf/read/word_scope.h"
 #include "rtf/read/word_table.h"
 
 #include <QTextDocument>
@@ -12,29 +14,6 @@ namespace torvik::rtf {
 namespace {
 
 constexpr int defaultTab = 720;
-
-WordScope ScopeOf(Destination destination)
-{
-    switch (destination) {
-    case Destination::Fonts:
-    case Destination::AlternativeFont:
-        return WordScope::Fonts;
-    case Destination::Colors:
-        return WordScope::Colors;
-    case Destination::Lists:
-    case Destination::ListOverrides:
-    case Destination::LevelText:
-        return WordScope::Lists;
-    case Destination::Picture:
-        return WordScope::Picture;
-    case Destination::Numbering:
-    case Destination::NumberingBefore:
-    case Destination::NumberingAfter:
-        return WordScope::Numbering;
-    default:
-        return WordScope::Text;
-    }
-}
 
 /// Words that are never taken for the stand-in of a Unicode character: writers that forget the stand-in are
 /// more common than those that use such a word for one.
@@ -50,8 +29,9 @@ Interpreter::Interpreter(const QByteArray& bytes, QTextDocument& into)
     : tokens_({bytes.constData(), static_cast<std::size_t>(bytes.size())}), document_(bytes.size(), into),
       looks_(document_), borders_(document_), rows_(document_, borders_), fonts_(document_, looks_),
       fields_(document_), paragraphs_(document_, looks_), notes_(document_, paragraphs_),
-      pictures_(document_, looks_), router_(document_, looks_, fonts_, fields_, paragraphs_),
-      text_(document_, router_), styles_(*this, tokens_)
+      pictures_(document_, looks_), shapes_(document_, paragraphs_, borders_),
+      router_(document_, looks_, fonts_, fields_, paragraphs_), text_(document_, router_),
+      styles_(*this, tokens_)
 {
     paragraphs_.SetDefaultTab(defaultTab);
 }
@@ -72,8 +52,10 @@ ReadResult Interpreter::Read()
     document_.cursor.endEditBlock();
     document_.pictures.GiveTo(document_.document);
     result.wasRtf = true;
+    result.wasDamaged = result.wasDamaged || isBroken_;
     result.wasCut = document_.budget.Exhausted();
     result.paragraphs = document_.context.paragraphs;
+    result.hasRowHeights = document_.context.hasRowHeights;
     result.tables = document_.context.tables;
     result.pictures = pictures_.Shown();
     result.lostPictures = pictures_.Lost();
@@ -86,8 +68,11 @@ void Interpreter::FinishDocument()
     document_.group.destination = Destination::Body;
     text_.Flush();
     notes_.EndUnfinished();
+    shapes_.EndUnfinished();
+    document_.group.paragraph.frame.initialLines = 0;
     if (!document_.flow.Draft().IsEmpty())
         paragraphs_.EndParagraph();
+    PlaceDrawings(document_);
     document_.flow.Finish();
 }
 
@@ -226,6 +211,9 @@ void Interpreter::HandleBytes(std::string_view bytes)
         }
         break;
     case Destination::Hidden:
+    case Destination::Shape:
+    case Destination::FormField:
+    case Destination::Information:
     case Destination::Styles:
         break;
     default:
@@ -248,6 +236,8 @@ void Interpreter::OpenGroup()
         styles_.Sheet().BeginEntry();
     group.opensDestination = false;
     group.opensField = false;
+    group.opensShape = false;
+    group.opensBox = false;
 }
 
 void Interpreter::CloseGroup()
@@ -260,7 +250,7 @@ void Interpreter::CloseGroup()
     }
     if (groups_.size() <= 1) {
         // The last paragraph may end with the document, and still has the looks of the group that ends here.
-        ended_ = true;
+        ended_ = !GoesOn();
         return;
     }
     GroupState& group = document_.group;
@@ -270,11 +260,35 @@ void Interpreter::CloseGroup()
         styles_.Sheet().EndEntry();
     if (ended.opensDestination)
         EndDestination(ended);
+    if (ended.opensBox)
+        shapes_.EndText(ended);
+    if (ended.opensShape)
+        shapes_.End();
     if (ended.opensField) {
         const QString character = fields_.End();
         if (!character.isEmpty())
             text_.Put(character);
     }
+}
+
+/// Whether a brace closed the document by mistake: paragraphs follow it that belong to no other document.
+bool Interpreter::GoesOn()
+{
+    constexpr int mostWords = 2000;
+    constexpr int mostMistakes = 100;
+    if (++mistakenEnds_ > mostMistakes)
+        return false;
+    Tokenizer ahead = tokens_;
+    for (int i = 0; i < mostWords && groups_.size() == 1; ++i) {
+        const Token token = ahead.Next();
+        if (token.kind == TokenKind::End || token.text == "rtf")
+            return false;
+        if (token.kind == TokenKind::Word && (token.text == "par" || token.text == "pard")) {
+            isBroken_ = true;
+            return true;
+        }
+    }
+    return false;
 }
 
 void Interpreter::EndDestination(const GroupState& ended)
@@ -291,7 +305,21 @@ void Interpreter::EndDestination(const GroupState& ended)
         fields_.EndInstruction();
         break;
     case Destination::Picture:
-        pictures_.End(ended);
+        if (pictures_.End(ended) && !document_.IsBody())
+            shapes_.Current().hasPicture = true;
+        break;
+    case Destination::FormChoice:
+        if (QStringList& choices = fields_.Form().choices; choices.size() < FormField::mostChoices)
+            choices.append(document_.aside);
+        break;
+    case Destination::InformationEntry:
+        fields_.Surroundings().information[informationName_] = document_.aside;
+        break;
+    case Destination::ShapePropertyName:
+        shapes_.TakePropertyName();
+        break;
+    case Destination::ShapePropertyValue:
+        shapes_.TakePropertyValue();
         break;
     case Destination::Bookmark:
         looks_.SetBookmark(document_.formats.AddBookmark(document_.aside.trimmed()));
@@ -315,6 +343,12 @@ void Interpreter::Enter(Destination destination)
     document_.group.destination = destination;
     document_.group.opensDestination = true;
     document_.aside.clear();
+}
+
+void Interpreter::BeginInformation(const QString& name)
+{
+    informationName_ = name;
+    Enter(Destination::InformationEntry);
 }
 
 void Interpreter::Skip()

@@ -10,6 +10,7 @@
 #include "rtf/parts/picture_reader.h"
 #include "rtf/parts/read_result.h"
 #include "rtf/parts/row_reader.h"
+#include "rtf/parts/shape_reader.h"
 #include "rtf/parts/text_decoder.h"
 #include "rtf/parts/text_router.h"
 #include "rtf/read/style_reader.h"
@@ -38,11 +39,14 @@ public:
     ParagraphReader& Paragraphs() { return paragraphs_; }
     NoteReader& Notes() { return notes_; }
     PictureReader& Pictures() { return pictures_; }
+    ShapeReader& Shapes() { return shapes_; }
     TextDecoder& Text() { return text_; }
     StyleReader& Styles() { return styles_; }
 
     /// Makes the rest of the group part of a destination.
     void Enter(Destination destination);
+    /// Makes the rest of the group an entry of what the document tells about itself.
+    void BeginInformation(const QString& name);
     /// Passes over the rest of the group.
     void Skip();
     /// Passes over the group that comes next, if one does.
@@ -57,6 +61,7 @@ private:
     bool IsStandIn(const Token& token);
     void OpenGroup();
     void CloseGroup();
+    bool GoesOn();
     void EndDestination(const GroupState& ended);
     void FinishDocument();
 
@@ -70,15 +75,20 @@ private:
     ParagraphReader paragraphs_;
     NoteReader notes_;
     PictureReader pictures_;
+    ShapeReader shapes_;
     TextRouter router_;
     TextDecoder text_;
     StyleReader styles_;
 
+    QString informationName_;
     std::vector<GroupState> groups_;
     /// How many groups are open that are nested too deeply to be kept.
     int overflowDepth_ = 0;
     int unendingGroups_ = 0;
     bool ended_ = false;
+    /// More braces were closed than were open.
+    bool isBroken_ = false;
+    int mistakenEnds_ = 0;
     /// The next word may be passed over with its group by readers that do not know it.
     bool starPending_ = false;
 };

@@ -35,12 +35,26 @@ constexpr WordEntry listEntries[] = {
          if (!IsOverride(r))
              r.Document().lists.BeginLevel();
      }},
+    {"lfolevel", [](Interpreter& r, const Argument&) { r.Document().lists.BeginOverriddenLevel(); }},
+    {"levellegal",
+     [](Interpreter& r, const Argument& a) {
+         if (ListLevel* level = r.Document().lists.CurrentLevel(); level != nullptr && !IsOverride(r))
+             level->isLegal = a.IsOn();
+     }},
+    {"levelfollow",
+     [](Interpreter& r, const Argument& a) {
+         if (ListLevel* level = r.Document().lists.CurrentLevel(); level != nullptr && !IsOverride(r))
+             level->follow = a.Within(0, 2);
+     }},
     {"levelnfc", SetLevelFormat},
     {"levelnfcn", SetLevelFormat},
     {"levelstartat",
      [](Interpreter& r, const Argument& a) {
-         if (ListLevel* level = r.Document().lists.CurrentLevel(); level != nullptr && !IsOverride(r))
-             level->startAt = a.Within(0, 30000, 1);
+         const int start = a.Within(0, 30000, 1);
+         if (IsOverride(r))
+             r.Document().lists.SetOverriddenStart(start);
+         else if (ListLevel* level = r.Document().lists.CurrentLevel())
+             level->startAt = start;
      }},
     {"leveltext",
      [](Interpreter& r, const Argument&) {

@@ -39,15 +39,25 @@ void SetParagraphFlag(Interpreter& interpreter, const Argument& argument)
     interpreter.Paragraph().*flag = argument.IsOn();
 }
 
-/// The kind comes before the position: until then it is kept in a stop at position 0.
+/// Kind and leader come before the position: until then they are kept in a stop at position 0.
+TabStop& PendingTab(QList<TabStop>& tabs)
+{
+    if (tabs.isEmpty() || tabs.constLast().position != 0)
+        tabs.append(TabStop());
+    return tabs.last();
+}
+
 template <QTextOption::TabType type>
 void SetTabType(Interpreter& interpreter, const Argument&)
 {
     QList<TabStop>& tabs = interpreter.Paragraph().tabs;
-    if (tabs.isEmpty() || tabs.constLast().position != 0)
-        tabs.append({0, type});
-    else
-        tabs.last().type = type;
+    PendingTab(tabs).type = type;
+}
+
+template <TabLeader leader>
+void SetTabLeader(Interpreter& interpreter, const Argument&)
+{
+    PendingTab(interpreter.Paragraph().tabs).leader = leader;
 }
 
 void SetTab(Interpreter& interpreter, const Argument& argument)
@@ -57,7 +67,7 @@ void SetTab(Interpreter& interpreter, const Argument& argument)
     if (!tabs.isEmpty() && tabs.constLast().position == 0)
         tabs.last().position = position;
     else if (tabs.size() < maxTabs)
-        tabs.append({position, QTextOption::LeftTab});
+        tabs.append(TabStop{position});
 }
 
 template <Side side>
@@ -83,6 +93,18 @@ void SetBorderColor(Interpreter& interpreter, const Argument& argument)
     interpreter.Borders().Change([&](Border& border) { border.color = argument.value; });
 }
 
+FramePlace& Frame(Interpreter& interpreter)
+{
+    FramePlace& frame = interpreter.Paragraph().frame;
+    frame.isSet = true;
+    return frame;
+}
+
+void SetFrame(Interpreter& interpreter, const Argument&)
+{
+    Frame(interpreter);
+}
+
 constexpr WordEntry paragraphEntries[] = {
     {"pard", [](Interpreter& r, const Argument&) { r.Styles().ResetParagraph(); }},
     {"s", [](Interpreter& r, const Argument& a) { r.Styles().ApplyToParagraph(a.value); }},
@@ -105,6 +127,7 @@ constexpr WordEntry paragraphEntries[] = {
      }},
     {"slmult", SetParagraphFlag<&ParagraphState::lineMultiple>},
     {"keep", SetParagraphFlag<&ParagraphState::keepTogether>},
+    {"keepn", SetParagraphFlag<&ParagraphState::keepWithNext>},
     {"pagebb", SetParagraphFlag<&ParagraphState::breakBefore>},
     {"rtlpar", [](Interpreter& r, const Argument&) { r.Paragraph().rightToLeft = true; }},
     {"ltrpar", [](Interpreter& r, const Argument&) { r.Paragraph().rightToLeft = false; }},
@@ -115,9 +138,33 @@ constexpr WordEntry paragraphEntries[] = {
     {"tqr", SetTabType<QTextOption::RightTab>},
     {"tqc", SetTabType<QTextOption::CenterTab>},
     {"tqdec", SetTabType<QTextOption::DelimiterTab>},
+    {"tldot", SetTabLeader<TabLeader::Dots>},
+    {"tlmdot", SetTabLeader<TabLeader::MiddleDots>},
+    {"tlhyph", SetTabLeader<TabLeader::Hyphens>},
+    {"tlul", SetTabLeader<TabLeader::Line>},
+    {"tlth", SetTabLeader<TabLeader::ThickLine>},
+    {"tleq", SetTabLeader<TabLeader::DoubleLine>},
     {"ls", [](Interpreter& r, const Argument& a) { r.Paragraph().list = a.Within(0, 0x7fffffff); }},
     {"ilvl", [](Interpreter& r,
                 const Argument& a) { r.Paragraph().listLevel = a.Within(0, ListTable::maxLevels - 1); }},
+    {"absw", [](Interpreter& r, const Argument& a) { Frame(r).width = a.Within(0, maxTwips); }},
+    {"absh", SetFrame},
+    {"posx", [](Interpreter& r, const Argument& a) { Frame(r).left = a.Within(-maxTwips, maxTwips); }},
+    {"posnegx", SetFrame},
+    {"posxc", SetFrame},
+    {"posxi", SetFrame},
+    {"posxo", SetFrame},
+    {"posxl", SetFrame},
+    // Further to the right than any text, and then brought back into it.
+    {"posxr", [](Interpreter& r, const Argument&) { Frame(r).left = maxTwips; }},
+    {"posy", SetFrame},
+    {"posnegy", SetFrame},
+    {"posyt", SetFrame},
+    {"posyc", SetFrame},
+    {"posyb", SetFrame},
+    {"phpg", [](Interpreter& r, const Argument&) { Frame(r).fromPage = true; }},
+    {"dropcapli",
+     [](Interpreter& r, const Argument& a) { r.Paragraph().frame.initialLines = a.Within(0, 100); }},
     {"brdrt", SelectSide<SideTop>},
     {"brdrl", SelectSide<SideLeft>},
     {"brdrb", SelectSide<SideBottom>},

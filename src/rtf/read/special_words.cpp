@@ -13,6 +13,20 @@ void Put(Interpreter& interpreter, const Argument&)
     interpreter.Text().PutCharacter(unit);
 }
 
+/// Words that stand for a field.
+template <const char16_t* instruction>
+void PutField(Interpreter& interpreter, const Argument&)
+{
+    const QString text = interpreter.Fields().TextOf(QString::fromUtf16(instruction));
+    interpreter.Text().Put(text);
+}
+
+constexpr char16_t page[] = u"PAGE";
+constexpr char16_t date[] = u"DATE";
+constexpr char16_t longDate[] = u"DATE \\@ \"dddd, MMMM d, yyyy\"";
+constexpr char16_t shortDate[] = u"DATE \\@ \"ddd, MMM d, yyyy\"";
+constexpr char16_t time[] = u"TIME";
+
 constexpr char16_t lineSeparator = 0x2028;
 
 constexpr WordEntry specialEntries[] = {
@@ -22,6 +36,11 @@ constexpr WordEntry specialEntries[] = {
     {"sbknone", [](Interpreter& r, const Argument&) { r.Paragraphs().CancelBreak(); }},
     {"sbkcol", [](Interpreter& r, const Argument&) { r.Paragraphs().CancelBreak(); }},
     {"chftn", [](Interpreter& r, const Argument&) { r.Text().Put(r.Notes().Reference()); }},
+    {"chpgn", PutField<page>},
+    {"chdate", PutField<date>},
+    {"chdpl", PutField<longDate>},
+    {"chdpa", PutField<shortDate>},
+    {"chtime", PutField<time>},
     {"tab", Put<u'\t'>},
     {"line", Put<lineSeparator>},
     {"lbr", Put<lineSeparator>},

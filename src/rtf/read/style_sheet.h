@@ -29,17 +29,26 @@ public:
 
     /// What a style of paragraphs or of characters stands for; nullptr when the document has none with this
     /// number.
-    const StyleWords* OfParagraph(int number) const { return Find(paragraphs_, number); }
-    const StyleWords* OfCharacter(int number) const { return Find(characters_, number); }
+    /// Looks of the style that another one is based on come first.
+    const StyleWords* OfParagraph(int number) { return Find(paragraphs_, number); }
+    const StyleWords* OfCharacter(int number) { return Find(characters_, number); }
 
 private:
-    using Styles = std::unordered_map<int, StyleWords>;
+    struct Style {
+        StyleWords words;
+        /// Number of the style that it is based on, -1 for none.
+        int base = -1;
+        /// The words with those of the base, once they were asked for.
+        StyleWords whole;
+        bool isWhole = false;
+    };
+    using Styles = std::unordered_map<int, Style>;
     struct Entry {
         int number = 0;
         Styles StyleSheet::*kind = &StyleSheet::paragraphs_;
-        StyleWords words;
+        Style style;
     };
-    static const StyleWords* Find(const Styles& styles, int number);
+    static const StyleWords* Find(Styles& styles, int number);
 
     Styles paragraphs_;
     Styles characters_;

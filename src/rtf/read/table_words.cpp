@@ -38,12 +38,37 @@ void SetVerticalAlignment(Interpreter& interpreter, const Argument&)
     interpreter.Rows().Cell().verticalAlignment = alignment;
 }
 
+template <Side side>
+void SetRowPadding(Interpreter& interpreter, const Argument& argument)
+{
+    interpreter.Rows().Row().padding[side] = argument.Within(0, maxTwips);
+}
+
+template <Side side>
+void SetCellPadding(Interpreter& interpreter, const Argument& argument)
+{
+    interpreter.Rows().Cell().padding[side] = argument.Within(0, maxTwips);
+}
+
 constexpr WordEntry tableEntries[] = {
     {"trowd", [](Interpreter& r, const Argument&) { r.Rows().Begin(); }},
     {"trgaph", [](Interpreter& r, const Argument& a) { r.Rows().Row().gap = a.Within(0, maxTwips); }},
     {"trleft",
      [](Interpreter& r, const Argument& a) { r.Rows().Row().leftEdge = a.Within(-maxTwips, maxTwips); }},
     {"trhdr", [](Interpreter& r, const Argument&) { r.Rows().Row().isHeader = true; }},
+    {"trrh",
+     [](Interpreter& r, const Argument& a) { r.Rows().Row().height = a.Within(-maxTwips, maxTwips); }},
+    {"rtlrow", [](Interpreter& r, const Argument&) { r.Rows().Row().rightToLeft = true; }},
+    {"ltrrow", [](Interpreter& r, const Argument&) { r.Rows().Row().rightToLeft = false; }},
+    {"trpaddt", SetRowPadding<SideTop>},
+    {"trpaddl", SetRowPadding<SideLeft>},
+    {"trpaddb", SetRowPadding<SideBottom>},
+    {"trpaddr", SetRowPadding<SideRight>},
+    // Writers have these two the wrong way round.
+    {"clpadt", SetCellPadding<SideLeft>},
+    {"clpadl", SetCellPadding<SideTop>},
+    {"clpadb", SetCellPadding<SideBottom>},
+    {"clpadr", SetCellPadding<SideRight>},
     {"trql", SetRowAlignment<Alignment::Start>},
     {"trqc", SetRowAlignment<Alignment::Center>},
     {"trqr", SetRowAlignment<Alignment::Right>},

@@ -31,6 +31,9 @@ Scopes MakeScopes()
     AddWords(scopes, WordScope::Lists, ListWords());
     AddWords(scopes, WordScope::Picture, PictureWords());
     AddWords(scopes, WordScope::Numbering, NumberingWords());
+    AddWords(scopes, WordScope::Shape, ShapeWords());
+    AddWords(scopes, WordScope::Form, FormWords());
+    AddWords(scopes, WordScope::Information, InformationWords());
     return scopes;
 }
 

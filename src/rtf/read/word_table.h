@@ -26,7 +26,19 @@ struct WordEntry {
 };
 
 /// Where a control word is read: the same word has different meanings in different tables.
-enum class WordScope { Everywhere, Text, Fonts, Colors, Lists, Picture, Numbering, Count };
+enum class WordScope {
+    Everywhere,
+    Text,
+    Fonts,
+    Colors,
+    Lists,
+    Picture,
+    Numbering,
+    Shape,
+    Form,
+    Information,
+    Count
+};
 
 // Each table is in the file of its name.
 std::span<const WordEntry> DocumentWords();
@@ -40,6 +52,9 @@ std::span<const WordEntry> ColorWords();
 std::span<const WordEntry> ListWords();
 std::span<const WordEntry> PictureWords();
 std::span<const WordEntry> NumberingWords();
+std::span<const WordEntry> ShapeWords();
+std::span<const WordEntry> FormWords();
+std::span<const WordEntry> InformationWords();
 
 /// What a word does in a scope, or else everywhere; nullptr for a word that nobody knows.
 const WordEntry* FindWord(WordScope scope, std::string_view name);

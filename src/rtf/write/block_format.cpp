@@ -48,25 +48,35 @@ void SetLineHeight(QTextBlockFormat& format, const ParagraphState& state)
 void SetTabs(QTextBlockFormat& format, const ParagraphState& state)
 {
     const int lineStart = state.leftIndent + (state.markOutside ? 0 : state.firstIndent);
-    QList<QTextOption::Tab> tabs;
-    for (const TabStop& tab : state.tabs) {
-        const int position = tab.position - lineStart;
-        if (position > 0)
-            tabs.append({PixelsFromTwips(position), tab.type, u'.'});
+    QList<TabStop> stops;
+    for (TabStop stop : state.tabs) {
+        stop.position -= lineStart;
+        if (stop.position > 0)
+            stops.append(stop);
     }
     // A hanging indent is a tab stop of its own.
-    if (state.firstIndent < 0 && !state.markOutside) {
-        const double hanging = PixelsFromTwips(-state.firstIndent);
-        const bool isThere = std::any_of(tabs.begin(), tabs.end(), [&](const QTextOption::Tab& tab) {
-            return std::abs(tab.position - hanging) < 0.5;
+    const int hanging = -state.firstIndent;
+    if (hanging > 0 && !state.markOutside) {
+        constexpr int near = 8;
+        const bool isThere = std::any_of(stops.begin(), stops.end(), [&](const TabStop& stop) {
+            return std::abs(stop.position - hanging) < near;
         });
         if (!isThere)
-            tabs.append({hanging, QTextOption::LeftTab});
+            stops.append(TabStop{hanging});
     }
-    if (tabs.isEmpty())
+    if (stops.isEmpty())
         return;
-    std::sort(tabs.begin(), tabs.end(), [](const auto& a, const auto& b) { return a.position < b.position; });
+    std::sort(stops.begin(), stops.end(),
+              [](const auto& a, const auto& b) { return a.position < b.position; });
+    QList<QTextOption::Tab> tabs;
+    QString leaders;
+    for (const TabStop& stop : stops) {
+        tabs.append({PixelsFromTwips(stop.position), stop.type, u'.'});
+        leaders += QChar(static_cast<char16_t>(stop.leader));
+    }
     format.setTabPositions(tabs);
+    if (!leaders.trimmed().isEmpty())
+        format.setProperty(tabLeadersProperty, leaders);
 }
 
 } // namespace
@@ -92,6 +102,8 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
     SetTabs(format, state);
     if (state.keepTogether)
         format.setProperty(keepTogetherProperty, true);
+    if (state.keepWithNext)
+        format.setProperty(keepWithNextProperty, true);
     if (state.breakBefore)
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     if (state.rightToLeft)

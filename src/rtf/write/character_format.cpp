@@ -1,4 +1,5 @@
 #include "rtf/bounds/limits.h"
+#include "rtf/paint/line_properties.h"
 #include "rtf/write/formats.h"
 
 #include <algorithm>
@@ -11,6 +12,8 @@ QTextCharFormat::UnderlineStyle UnderlineStyleOf(Underline kind)
 {
     switch (kind) {
     case Underline::Single:
+    case Underline::Double:
+    case Underline::Thick:
         return QTextCharFormat::SingleUnderline;
     case Underline::Dotted:
         return QTextCharFormat::DotLine;
@@ -80,6 +83,10 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
         format.setFontStrikeOut(true);
     if (state.underline != Underline::None) {
         format.setUnderlineStyle(UnderlineStyleOf(state.underline));
+        if (state.underline == Underline::Double)
+            format.setProperty(underlineProperty, int(ExtraUnderline::Double));
+        else if (state.underline == Underline::Thick)
+            format.setProperty(underlineProperty, int(ExtraUnderline::Thick));
         const QColor line = colors_.ChosenAt(state.underlineColor);
         if (line.isValid())
             format.setUnderlineColor(line);

@@ -3,6 +3,8 @@
 #include "rtf/bounds/limits.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace torvik::rtf {
 
@@ -24,7 +26,7 @@ qint64 WaitingCostOf(const std::vector<Block>& blocks)
 {
     qint64 cost = 0;
     for (const Block& block : blocks) {
-        if (!block.table)
+        if (!block.table && !block.box)
             cost += WaitingCostOf(block.paragraph);
     }
     return cost;
@@ -49,26 +51,28 @@ int FlowCollector::Clamped(int depth)
 
 RowStyle& FlowCollector::RowAt(int depth)
 {
-    return rowStyles_[static_cast<std::size_t>(std::max(Clamped(depth), 1))];
+    return place_.rowStyles[static_cast<std::size_t>(std::max(Clamped(depth), 1))];
 }
 
 void FlowCollector::EndParagraph(int depth)
 {
     if (inNote_) {
-        if (context_.budget.Take(WaitingCostOf(draft_)))
-            notes_.push_back(draft_);
-        draft_.ClearText();
+        if (context_.budget.Take(WaitingCostOf(place_.draft)))
+            notes_.push_back(place_.draft);
+        place_.draft.ClearText();
         return;
     }
     SetDepth(Clamped(depth));
-    if (levels_.empty()) {
-        body_.Write(draft_);
-        draft_.ClearText();
-        return;
+    Deliver(std::exchange(place_.anchored, {}));
+    if (place_.levels.empty() && around_.empty()) {
+        body_.Write(place_.draft);
+        place_.draft.ClearText();
+    } else {
+        if (context_.budget.Take(WaitingCostOf(place_.draft)))
+            Keep(Block(std::move(place_.draft)));
+        place_.draft = Paragraph();
     }
-    if (context_.budget.Take(WaitingCostOf(draft_)))
-        levels_.back().cell.push_back({std::move(draft_), nullptr});
-    draft_ = Paragraph();
+    Deliver(std::exchange(place_.anchoredAfter, {}));
 }
 
 void FlowCollector::EndCell(int depth)
@@ -77,7 +81,7 @@ void FlowCollector::EndCell(int depth)
         return EndParagraph(0);
     const int level = std::max(Clamped(depth), 1);
     EndParagraph(level);
-    Level& open = levels_.back();
+    Level& open = place_.levels.back();
     if (open.row.cells.size() < static_cast<std::size_t>(maxRowCells)) {
         open.row.cells.push_back(std::move(open.cell));
     } else {
@@ -92,11 +96,11 @@ void FlowCollector::EndRow(int depth)
     if (inNote_)
         return;
     const int level = std::max(Clamped(depth), 1);
-    if (static_cast<std::size_t>(level) > levels_.size())
+    if (static_cast<std::size_t>(level) > place_.levels.size())
         return;
     SetDepth(level);
-    CloseRow(levels_.back(), level);
-    if (levels_.back().cells < maxTableCells)
+    CloseRow(place_.levels.back(), level);
+    if (place_.levels.back().cells < maxTableCells)
         return;
     // The table continues as another one below it.
     SetDepth(level - 1);
@@ -119,49 +123,89 @@ void FlowCollector::CloseRow(Level& level, int depth)
 
 void FlowCollector::SetDepth(int depth)
 {
-    while (static_cast<int>(levels_.size()) > depth)
+    while (static_cast<int>(place_.levels.size()) > depth)
         CloseLevel();
-    while (static_cast<int>(levels_.size()) < depth)
-        levels_.emplace_back();
+    while (static_cast<int>(place_.levels.size()) < depth)
+        place_.levels.emplace_back();
 }
 
 void FlowCollector::CloseLevel()
 {
-    Level level = std::move(levels_.back());
-    CloseRow(level, static_cast<int>(levels_.size()));
-    levels_.pop_back();
+    Level level = std::move(place_.levels.back());
+    CloseRow(level, static_cast<int>(place_.levels.size()));
+    place_.levels.pop_back();
     if (level.table.rows.empty())
         return;
-    Deliver({Paragraph(), std::make_unique<Table>(std::move(level.table))});
+    Deliver(Block(std::make_unique<Table>(std::move(level.table))));
+}
+
+void FlowCollector::Keep(Block block)
+{
+    std::vector<Block>& blocks = place_.levels.empty() ? place_.blocks : place_.levels.back().cell;
+    blocks.push_back(std::move(block));
 }
 
 void FlowCollector::Deliver(Block block)
 {
-    if (!levels_.empty()) {
-        levels_.back().cell.push_back(std::move(block));
-        return;
-    }
-    context_.budget.GiveBack(WaitingCostOf(*block.table));
-    body_.Write(*block.table);
+    if (!place_.levels.empty() || !around_.empty())
+        return Keep(std::move(block));
+    if (block.table)
+        context_.budget.GiveBack(WaitingCostOf(*block.table));
+    else if (block.box)
+        context_.budget.GiveBack(WaitingCostOf(block.box->blocks));
+    body_.Write(block);
+}
+
+void FlowCollector::BeginBox()
+{
+    around_.push_back(std::exchange(place_, Place()));
+}
+
+std::vector<Block> FlowCollector::EndBox()
+{
+    SetDepth(0);
+    Deliver(std::exchange(place_.anchored, {}));
+    Deliver(std::exchange(place_.anchoredAfter, {}));
+    std::vector<Block> blocks = std::move(place_.blocks);
+    place_ = std::move(around_.back());
+    around_.pop_back();
+    return blocks;
+}
+
+void FlowCollector::AddAnchored(Block block, bool after)
+{
+    (after ? place_.anchoredAfter : place_.anchored).push_back(std::move(block));
+}
+
+void FlowCollector::Deliver(std::vector<Block> anchored)
+{
+    for (Block& block : anchored)
+        Deliver(std::move(block));
 }
 
 void FlowCollector::BeginNote()
 {
     inNote_ = true;
-    interrupted_ = std::move(draft_);
-    draft_ = Paragraph();
+    interrupted_ = std::move(place_.draft);
+    place_.draft = Paragraph();
 }
 
 void FlowCollector::EndNote()
 {
     inNote_ = false;
-    draft_ = std::move(interrupted_);
+    place_.draft = std::move(interrupted_);
     interrupted_ = Paragraph();
 }
 
 void FlowCollector::Finish()
 {
+    while (!around_.empty()) {
+        std::vector<Block> lost = EndBox();
+        std::move(lost.begin(), lost.end(), std::back_inserter(place_.anchored));
+    }
     SetDepth(0);
+    Deliver(std::exchange(place_.anchored, {}));
+    Deliver(std::exchange(place_.anchoredAfter, {}));
     for (const Paragraph& note : notes_) {
         context_.budget.GiveBack(WaitingCostOf(note));
         body_.Write(note);

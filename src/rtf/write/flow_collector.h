@@ -14,7 +14,7 @@ public:
     FlowCollector(WritingContext& context, FlowWriter& body) : context_(context), body_(body) {}
 
     /// The paragraph that text is added to now.
-    Paragraph& Draft() { return draft_; }
+    Paragraph& Draft() { return place_.draft; }
     /// Ends the draft as a paragraph that stands `depth` tables deep. Formats and mark are already set in it.
     void EndParagraph(int depth);
     void EndCell(int depth);
@@ -25,6 +25,15 @@ public:
     void BeginNote();
     void EndNote();
     bool InNote() const { return inNote_; }
+    /// What comes until EndBox is the text of a box: paragraphs and tables of their own.
+    void BeginBox();
+    /// Ends the innermost box and returns what is in it.
+    std::vector<Block> EndBox();
+    int BoxDepth() const { return static_cast<int>(around_.size()); }
+    /// A box or a picture that stands where the draft is. It comes before the draft while that is empty, else
+    /// after it.
+    void AddAnchored(Block block, bool after);
+
     /// Writes what is still waiting: open tables, then the footnotes.
     void Finish();
 
@@ -35,17 +44,28 @@ private:
         std::vector<Block> cell;
         int cells = 0;
     };
+    /// The body, or the inside of a box.
+    struct Place {
+        Paragraph draft;
+        std::vector<Level> levels;
+        std::array<RowStyle, 8> rowStyles;
+        std::vector<Block> blocks;
+        std::vector<Block> anchored;
+        std::vector<Block> anchoredAfter;
+    };
     void SetDepth(int depth);
+    void Deliver(std::vector<Block> anchored);
     void CloseLevel();
     void CloseRow(Level& level, int depth);
+    /// Puts a block where the place gathers its blocks, or into its open cell.
+    void Keep(Block block);
     void Deliver(Block block);
     static int Clamped(int depth);
 
     WritingContext& context_;
     FlowWriter& body_;
-    Paragraph draft_;
-    std::vector<Level> levels_;
-    std::array<RowStyle, 8> rowStyles_;
+    Place place_;
+    std::vector<Place> around_;
     std::vector<Paragraph> notes_;
     Paragraph interrupted_;
     bool inNote_ = false;

@@ -1,6 +1,8 @@
 #include "rtf/write/flow_writer.h"
 
+#include "rtf/write/edge_spaces.h"
 #include "rtf/write/paragraph_box.h"
+#include "rtf/write/shape_box.h"
 #include "rtf/write/table_writer.h"
 
 #include <QTextTable>
@@ -19,7 +21,7 @@ constexpr qint64 boxCost = 4000;
 } // namespace
 
 FlowWriter::FlowWriter(WritingContext& context, const QTextCursor& cursor, Room room)
-    : context_(context), cursor_(cursor), atCellStart_(room == Room::Cell)
+    : context_(context), cursor_(cursor), atCellStart_(room == Room::Cell), spacing_(context.formats)
 {}
 
 qint64 FlowWriter::CostOf(qsizetype characters, std::size_t runs)
@@ -35,25 +37,61 @@ void FlowWriter::Write(const Paragraph& paragraph)
     boxFormat_ = paragraph.format;
     OpenBlock(paragraph);
     WriteSpans(paragraph);
+    if (box_ == nullptr)
+        spacing_.ParagraphCame(paragraph);
+    else
+        boxSpaceAfter_ = context_.formats.StateOf(paragraph.format).spaceAfter;
     ++context_.paragraphs;
 }
 
 void FlowWriter::Write(const std::vector<Block>& blocks)
 {
-    for (const Block& block : blocks) {
-        if (block.table)
-            Write(*block.table);
-        else
-            Write(block.paragraph);
-    }
+    for (const Block& block : blocks)
+        Write(block);
+}
+
+void FlowWriter::Write(const Block& block)
+{
+    if (block.table)
+        Write(*block.table);
+    else if (block.box)
+        Write(*block.box);
+    else
+        Write(block.paragraph);
+}
+
+BoxStyle FlowWriter::WithSpaces(const Box& box) const
+{
+    BoxStyle style = box.style;
+    const EdgeSpaces spaces = EdgeSpacesOf(box.blocks, box.blocks, context_.formats);
+    style.padding[SideTop] += spaces.above;
+    style.padding[SideBottom] += spaces.below;
+    return style;
+}
+
+void FlowWriter::Write(const Box& box)
+{
+    LeaveBox();
+    lists_.Interrupt();
+    if (!context_.budget.Take(boxCost))
+        return Write(box.blocks);
+    const int before = cursor_.position();
+    QTextTable* frame = InsertShapeBox(cursor_, WithSpaces(box));
+    spacing_.TableCame(*frame, before);
+    FlowWriter inside(context_, frame->cellAt(0, 0).firstCursorPosition(), Room::Cell);
+    inside.Write(box.blocks);
+    cursor_.setPosition(frame->lastPosition() + 1);
+    atCellStart_ = false;
+    fresh_ = true;
 }
 
 void FlowWriter::Write(const Table& table)
 {
     LeaveBox();
     lists_.Interrupt();
-    const int end = WriteTable(context_, cursor_, table);
-    if (end < 0) {
+    const int before = cursor_.position();
+    QTextTable* written = WriteTable(context_, cursor_, table);
+    if (written == nullptr) {
         // Too much for a table: its texts at least, one below the other.
         for (const Row& row : table.rows) {
             for (const std::vector<Block>& cell : row.cells)
@@ -61,7 +99,8 @@ void FlowWriter::Write(const Table& table)
         }
         return;
     }
-    cursor_.setPosition(end);
+    spacing_.TableCame(*written, before);
+    cursor_.setPosition(written->lastPosition() + 1);
     atCellStart_ = false;
     fresh_ = true;
 }
@@ -69,15 +108,19 @@ void FlowWriter::Write(const Table& table)
 void FlowWriter::PlaceBox(const Paragraph& paragraph)
 {
     const ParagraphState& state = context_.formats.StateOf(paragraph.format);
-    // Without text a single border is a mere rule, which the block draws.
-    const bool isBoxed = state.HasBox() || (state.HasBorder() && !paragraph.IsEmpty());
+    // Without text a single border is a mere rule, which the block draws; but the layout hides an empty one
+    // below a table.
+    const bool isRule = paragraph.IsEmpty() && !spacing_.IsBelowTable();
+    const bool isBoxed = state.HasBox() || state.frame.isSet || (state.HasBorder() && !isRule);
     if (box_ != nullptr && isBoxed && SharesBox(state, context_.formats.StateOf(boxFormat_)))
         return;
     LeaveBox();
     if (!isBoxed || !context_.budget.Take(boxCost))
         return;
-    box_ = InsertBox(cursor_, state, context_.formats.Colors());
-    atCellStart_ = qobject_cast<QTextTable*>(box_) != nullptr;
+    const int before = cursor_.position();
+    box_ = InsertBox(cursor_, state, context_.formats.Colors(), context_.page);
+    spacing_.TableCame(*box_, before, state.spaceBefore);
+    atCellStart_ = true;
     fresh_ = true;
 }
 
@@ -85,6 +128,7 @@ void FlowWriter::LeaveBox()
 {
     if (box_ == nullptr)
         return;
+    spacing_.AddBelowTable(boxSpaceAfter_);
     cursor_.setPosition(box_->lastPosition() + 1);
     box_ = nullptr;
     atCellStart_ = false;
@@ -129,7 +173,7 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
     if (place == ListWriter::Place::Starts)
         lists_.Start(paragraph.mark, cursor_);
     else if (!isItem && !paragraph.mark.literal.isEmpty())
-        cursor_.insertText(paragraph.mark.literal + u'\t', endFormat);
+        cursor_.insertText(paragraph.mark.literal + paragraph.mark.gap, endFormat);
 }
 
 void FlowWriter::WriteSpans(const Paragraph& paragraph)

@@ -2,11 +2,14 @@
 
 #include "rtf/bounds/budget.h"
 #include "rtf/model/content.h"
+#include "rtf/model/page_measures.h"
 #include "rtf/picture/picture_store.h"
 #include "rtf/write/formats.h"
 #include "rtf/write/list_writer.h"
+#include "rtf/write/table_spacing.h"
 
 #include <QTextCursor>
+#include <QTextTable>
 
 namespace torvik::rtf {
 
@@ -15,8 +18,11 @@ struct WritingContext {
     const Formats& formats;
     const PictureStore& pictures;
     Budget& budget;
+    const PageMeasures& page;
     int paragraphs = 0;
     int tables = 0;
+    /// Some row of a table is to have a height of its own.
+    bool hasRowHeights = false;
 };
 
 /// Writes paragraphs and tables one below the other, in the document's body or in one cell.
@@ -32,9 +38,13 @@ public:
 
     void Write(const Paragraph& paragraph);
     void Write(const Table& table);
+    void Write(const Box& box);
+    void Write(const Block& block);
     void Write(const std::vector<Block>& blocks);
 
 private:
+    /// The looks of a box with the space that its first and last paragraph want.
+    BoxStyle WithSpaces(const Box& box) const;
     void PlaceBox(const Paragraph& paragraph);
     void LeaveBox();
     void OpenBlock(const Paragraph& paragraph);
@@ -48,7 +58,10 @@ private:
     bool fresh_ = true;
     /// What comes before the fresh block is the start of a cell, which carries the cell's own format.
     bool atCellStart_ = false;
-    QTextFrame* box_ = nullptr;
+    TableSpacing spacing_;
+    QTextTable* box_ = nullptr;
+    /// Space after the last paragraph in the box, twips.
+    int boxSpaceAfter_ = 0;
     int boxFormat_ = 0;
 };
 

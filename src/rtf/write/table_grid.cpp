@@ -95,10 +95,19 @@ public:
         above_.assign(columns, -1);
         for (std::size_t r = 0; r < table_.rows.size(); ++r)
             PlaceRow(table_.rows[r], rowEdges[r]);
+        if (table_.rows.front().style.rightToLeft)
+            Mirror();
         return std::move(grid_);
     }
 
 private:
+    void Mirror()
+    {
+        std::reverse(grid_.columnWidths.begin(), grid_.columnWidths.end());
+        for (GridCell& cell : grid_.cells)
+            cell.column = static_cast<int>(grid_.columnWidths.size()) - cell.column - cell.columnSpan;
+    }
+
     void PlaceRow(const Row& row, const std::vector<int>& rowEdges)
     {
         const int rowNumber = grid_.rows++;
@@ -148,8 +157,8 @@ private:
     void AddContents(int cell, const std::vector<Block>& blocks)
     {
         GridCell& target = grid_.cells[static_cast<std::size_t>(cell)];
-        const bool isBlank =
-            blocks.size() == 1 && !blocks.front().table && blocks.front().paragraph.IsEmpty();
+        const bool isBlank = blocks.size() == 1 && !blocks.front().table && !blocks.front().box &&
+                             blocks.front().paragraph.IsEmpty();
         // The empty text of a merged cell adds nothing to the cell that it is part of.
         if (target.contents.empty() || !isBlank)
             target.contents.push_back(&blocks);

@@ -2,12 +2,15 @@
 
 #include "rtf/bounds/limits.h"
 #include "rtf/write/border_style.h"
+#include "rtf/write/edge_spaces.h"
 #include "rtf/write/flow_writer.h"
+#include "rtf/write/row_heights.h"
 #include "rtf/write/table_grid.h"
 
 #include <QTextTable>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace torvik::rtf {
 
@@ -26,7 +29,8 @@ QTextTableFormat TableFormatOf(const Table& table, const TableGrid& grid)
     format.setBorderCollapse(true);
     if (first.alignment == Alignment::Center)
         format.setAlignment(Qt::AlignHCenter);
-    else if (first.alignment == Alignment::Right)
+    else if (first.alignment == Alignment::Right ||
+             (first.rightToLeft && first.alignment == Alignment::Start))
         format.setAlignment(Qt::AlignRight);
     else if (grid.leftEdge > 0)
         format.setLeftMargin(PixelsFromTwips(grid.leftEdge));
@@ -58,13 +62,26 @@ const Border& BorderOf(const GridCell& cell, const RowStyle& row, const TableGri
 }
 
 QTextTableCellFormat CellFormat(const GridCell& cell, const RowStyle& row, const TableGrid& grid,
-                                const ColorTable& colors)
+                                const Formats& formats)
 {
+    const ColorTable& colors = formats.Colors();
     QTextTableCellFormat format;
-    const double gap = PixelsFromTwips(std::clamp(row.gap, 0, 720));
-    format.setLeftPadding(gap);
-    format.setRightPadding(gap);
     const CellStyle& style = *cell.style;
+    const auto padding = [&](Side side, int otherwise) {
+        const int own = style.padding[side] >= 0 ? style.padding[side] : row.padding[side];
+        return std::clamp(own >= 0 ? own : otherwise, 0, 720);
+    };
+    format.setLeftPadding(PixelsFromTwips(padding(SideLeft, row.gap)));
+    format.setRightPadding(PixelsFromTwips(padding(SideRight, row.gap)));
+    EdgeSpaces spaces;
+    if (!cell.contents.empty())
+        spaces = EdgeSpacesOf(*cell.contents.front(), *cell.contents.back(), formats);
+    const int top = padding(SideTop, 0) + spaces.above;
+    const int bottom = padding(SideBottom, 0) + spaces.below;
+    if (top > 0)
+        format.setTopPadding(PixelsFromTwips(top));
+    if (bottom > 0)
+        format.setBottomPadding(PixelsFromTwips(bottom));
     const QColor back =
         ShadedColor(colors.ChosenAt(style.patternColor), colors.ChosenAt(style.background), style.shading);
     if (back.isValid())
@@ -80,16 +97,16 @@ QTextTableCellFormat CellFormat(const GridCell& cell, const RowStyle& row, const
 
 } // namespace
 
-int WriteTable(WritingContext& context, const QTextCursor& where, const Table& table)
+QTextTable* WriteTable(WritingContext& context, const QTextCursor& where, const Table& table)
 {
     // Making the grid costs time too, so it is not made for nothing.
     const qint64 least = tableCost + cellCost * static_cast<qint64>(table.rows.size());
     if (table.rows.empty() || context.budget.Left() < least)
-        return -1;
+        return nullptr;
     const TableGrid grid = MakeGrid(table);
     const auto columns = static_cast<int>(grid.columnWidths.size());
     if (!context.budget.Take(tableCost + cellCost * columns * grid.rows))
-        return -1;
+        return nullptr;
     QTextCursor cursor(where);
     QTextTable* written = cursor.insertTable(grid.rows, columns, TableFormatOf(table, grid));
     for (const GridCell& cell : grid.cells) {
@@ -101,14 +118,19 @@ int WriteTable(WritingContext& context, const QTextCursor& where, const Table& t
         const RowStyle& row = table.rows[static_cast<std::size_t>(cell.row)].style;
         // The cell's format already holds its spans, so the rest is merged into it.
         QTextCharFormat format = place.format();
-        format.merge(CellFormat(cell, row, grid, context.formats.Colors()));
+        format.merge(CellFormat(cell, row, grid, context.formats));
+        if (cell.rowSpan == 1 && row.height != 0)
+            format.setProperty(rowHeightProperty, PixelsFromTwips(std::abs(row.height)));
         place.setFormat(format);
         FlowWriter flow(context, place.firstCursorPosition(), FlowWriter::Room::Cell);
         for (const std::vector<Block>* blocks : cell.contents)
             flow.Write(*blocks);
     }
     ++context.tables;
-    return written->lastPosition() + 1;
+    context.hasRowHeights =
+        context.hasRowHeights || std::any_of(table.rows.begin(), table.rows.end(),
+                                             [](const Row& row) { return row.style.height != 0; });
+    return written;
 }
 
 } // namespace torvik::rtf

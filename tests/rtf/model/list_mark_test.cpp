@@ -68,11 +68,33 @@ private Q_SLOTS:
         ListLevel level;
         level.format = 4;
         level.text = QString(QChar(2)) + QChar(1) + u')';
-        const int values[] = {3, 2};
-        const ListMark mark = MarkFromLevel(level, values, 2);
+        const LevelNumber numbers[] = {{3, 0}, {2, 4}};
+        const ListMark mark = MarkFromLevel(level, numbers, 2);
         QCOMPARE(mark.kind, ListMark::Kind::Number);
         QCOMPARE(mark.value, 2);
         QCOMPARE(mark.after, u")"_s);
+    }
+
+    void every_level_writes_its_number_in_its_own_format()
+    {
+        ListLevel level;
+        level.format = 0;
+        level.text = QString(QChar(5)) + u'(' + QChar(0) + u'.' + QChar(1) + u')';
+        const LevelNumber numbers[] = {{4, 1}, {2, 0}};
+        QCOMPARE(MarkFromLevel(level, numbers, 2).literal, u"(IV.2)"_s);
+        level.isLegal = true;
+        QCOMPARE(MarkFromLevel(level, numbers, 2).literal, u"(4.2)"_s);
+    }
+
+    void a_format_that_no_list_shows_is_text()
+    {
+        ListLevel level;
+        level.format = 18;
+        level.text = QString(QChar(3)) + u'<' + QChar(0) + u'>';
+        const LevelNumber numbers[] = {{3, 18}};
+        const ListMark mark = MarkFromLevel(level, numbers, 1);
+        QCOMPARE(mark.kind, ListMark::Kind::Literal);
+        QCOMPARE(mark.literal, u"<③>"_s);
     }
 };
 

@@ -1,6 +1,8 @@
 #include "rtf/documents.h"
 #include "support/test_class.h"
 
+#include <QDate>
+
 using namespace torvik::rtf;
 using namespace Qt::StringLiterals;
 
@@ -64,6 +66,90 @@ private Q_SLOTS:
                           "3}{\\fldrslt yes}}b\\par")
                      .Text(),
                  u"ayesb"_s);
+    }
+
+    void fields_without_a_result_show_what_can_be_told_data()
+    {
+        QTest::addColumn<QByteArray>("instruction");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("a choice") << QByteArray("IF 3 > 10 \"more\" \"less\"") << u"less"_s;
+        QTest::newRow("a choice between texts")
+            << QByteArray("IF Red = \"red\" \"the same\" other") << u"the same"_s;
+        QTest::newRow("a quoted text") << QByteArray("QUOTE \"as it stands\"") << u"as it stands"_s;
+        QTest::newRow("a quoted text in a choice")
+            << QByteArray("IF 1 = 1 \"{\\field{\\*\\fldinst QUOTE inner words}}\" \"no\"")
+            << u"inner words"_s;
+        QTest::newRow("a nested field without quotes around it")
+            << QByteArray("IF {\\field{\\*\\fldinst QUOTE \"two words\"}{\\fldrslt two words}} = \"two "
+                          "words\" yes no")
+            << u"yes"_s;
+        QTest::newRow("a formula") << QByteArray("EQ \\\\f(1,2)") << u"1/2"_s;
+        QTest::newRow("a word with its reading")
+            << QByteArray(
+                   "EQ \\\\* jc2 \\\\* \"Font:MS Mincho\" \\\\* hps10 \\\\o\\\\ad(\\\\s\\\\up 9(\\u12363 "
+                   "?\\u12435 ?),\\u28450 ?)")
+            << u"漢(かん)"_s;
+        QTest::newRow("a field of a mail merge") << QByteArray("MERGEFIELD Name") << u"«Name»"_s;
+        QTest::newRow("an address") << QByteArray("HYPERLINK \"http://www.torvik.example/\"")
+                                    << u"http://www.torvik.example/"_s;
+        QTest::newRow("the title") << QByteArray("TITLE") << u"The Car"_s;
+        QTest::newRow("pages") << QByteArray("NUMPAGES") << u"12"_s;
+        QTest::newRow("a page in roman numbers") << QByteArray("PAGE \\\\* roman") << u"i"_s;
+        QTest::newRow("a button") << QByteArray("MACROBUTTON Open Click here") << u"Click here"_s;
+        QTest::newRow("a text to fill in")
+            << QByteArray("FORMTEXT {\\*\\formfield{\\fftype0{\\*\\ffname T}{\\*\\ffdeftext told}}}")
+            << u"told"_s;
+        QTest::newRow("a box that is ticked")
+            << QByteArray("FORMCHECKBOX {\\*\\formfield{\\fftype1\\ffres1\\ffdefres0}}") << u"☒"_s;
+        QTest::newRow("a box as proposed")
+            << QByteArray("FORMCHECKBOX {\\*\\formfield{\\fftype1\\ffres25\\ffdefres0}}") << u"☐"_s;
+        QTest::newRow("a choice of a form")
+            << QByteArray("FORMDROPDOWN {\\*\\formfield{\\fftype2\\ffres1{\\*\\ffl red}{\\*\\ffl blue}}}")
+            << u"blue"_s;
+        QTest::newRow("nothing that is known") << QByteArray("RD other.doc") << QString();
+    }
+    void fields_without_a_result_show_what_can_be_told()
+    {
+        QFETCH(QByteArray, instruction);
+        QFETCH(QString, shown);
+        const QString text =
+            ReadBody("{\\info{\\title The Car}{\\author A}\\nofpages12}a{\\field{\\*\\fldinst " +
+                     instruction + "}{\\fldrslt }}b\\par")
+                .Text();
+        QCOMPARE(text, u'a' + shown + u'b');
+    }
+
+    void a_stored_result_comes_first()
+    {
+        QCOMPARE(ReadBody("{\\field{\\*\\fldinst QUOTE new}{\\fldrslt old\\par}}\\par").Text(), u"old\n"_s);
+        QCOMPARE(ReadBody("{\\field{\\*\\fldinst QUOTE new}{\\fldrslt old}}\\par").Text(), u"old"_s);
+    }
+
+    void sequences_count_each_for_itself()
+    {
+        const QByteArray figure = "{\\field{\\*\\fldinst SEQ Figure}}";
+        const QByteArray table = "{\\field{\\*\\fldinst SEQ Table \\\\* ROMAN}}";
+        QCOMPARE(ReadBody(figure + table + figure +
+                          "{\\field{\\*\\fldinst SEQ Figure \\\\c}}{\\field{\\*\\fldinst SEQ "
+                          "Figure \\\\r 7}}" +
+                          figure + table + "\\par")
+                     .Text(),
+                 u"1I2278II"_s);
+    }
+
+    void a_page_is_counted_from_the_breaks_that_are_told()
+    {
+        QCOMPARE(ReadBody("a\\par\\page b\\par\\page{\\field{\\*\\fldinst PAGE}} \\chpgn\\par").Text(),
+                 u"a\nb\n3 3"_s);
+    }
+
+    void a_date_without_a_result_is_todays()
+    {
+        const QByteArray field = "{\\field{\\*\\fldinst DATE \\\\@ \"yyyy-MM-dd\"}}\\par";
+        const QString before = QDate::currentDate().toString(u"yyyy-MM-dd"_s);
+        const QString shown = ReadBody(field).Text();
+        const QString after = QDate::currentDate().toString(u"yyyy-MM-dd"_s);
+        QVERIFY(shown == before || shown == after);
     }
 
     void footnotes_stand_below_everything()

@@ -100,6 +100,22 @@ private Q_SLOTS:
         QCOMPARE(sheet.OfParagraph(3)->size(), std::size_t(1));
         QVERIFY(sheet.OfCharacter(3) == nullptr);
     }
+
+    void a_style_has_the_looks_of_the_one_it_is_based_on()
+    {
+        const Reading read =
+            ReadBody("{\\stylesheet{\\fs30\\snext0 Normal;}{\\s1\\b\\qc\\sbasedon0\\snext0 head;}"
+                     "{\\s2\\i\\b0\\sbasedon1 sub;}{\\s3\\ul\\sbasedon222 alone;}{\\s4\\sbasedon5\\i a;}"
+                     "{\\s5\\sbasedon4\\ul b;}}\\pard\\plain\\s2 two\\par\\pard\\plain\\s3 three\\par"
+                     "\\pard\\plain\\s5 ring\\par\\pard\\plain text\\par");
+        QCOMPARE(read.Format("two").fontPointSize(), 15.0);
+        QVERIFY(read.Format("two").fontItalic());
+        QCOMPARE(read.Format("two").fontWeight(), int(QFont::Normal));
+        QCOMPARE(read.Block(u"two"_s).blockFormat().alignment(), Qt::AlignHCenter);
+        QCOMPARE(read.Format("three").fontPointSize(), 12.0);
+        QVERIFY(read.Format("ring").fontItalic() && read.Format("ring").fontUnderline());
+        QCOMPARE(read.Format("text").fontPointSize(), 12.0);
+    }
 };
 
 TORVIK_TEST(StyleSheetTest)

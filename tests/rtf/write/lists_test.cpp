@@ -103,6 +103,69 @@ private Q_SLOTS:
         QVERIFY(read.Block(u"b"_s).textList() != read.Block(u"a"_s).textList());
     }
 
+    void numbers_of_east_asia_are_text()
+    {
+        const Reading read = ReadBody(ListTable("\\levelnfc11\\levelstartat10{\\leveltext\\'03\\u31532 "
+                                                "?\\'00\\u31456 ?;}{\\levelnumbers\\'02;}") +
+                                      "\\pard\\ls1 one\\par two\\par");
+        QCOMPARE(read.Text(), u"第十章\tone\n第十一章\ttwo"_s);
+    }
+
+    void what_follows_a_number_is_as_told()
+    {
+        const QByteArray level = "\\levelnfc18\\levelfollow1{\\leveltext\\'01\\'00;}{\\levelnumbers\\'01;}";
+        QCOMPARE(ReadBody(ListTable(level) + "\\pard\\ls1 one\\par").Text(), u"① one"_s);
+    }
+
+    void a_reference_that_begins_anew_counts_for_itself()
+    {
+        const Reading read = ReadBody(
+            "{\\*\\listtable{\\list{\\listlevel\\levelnfc0\\levelstartat1{\\leveltext\\'02\\'00.;}{"
+            "\\levelnumbers"
+            "\\'01;}}\\listid7}}{\\*\\listoverridetable{\\listoverride\\listid7\\listoverridecount0\\ls1}"
+            "{\\listoverride\\listid7\\listoverridecount1{\\lfolevel\\listoverridestartat\\levelstartat1}"
+            "\\ls2}"
+            "{\\listoverride\\listid7\\listoverridecount0\\ls3}}"
+            "\\pard\\ls1 a\\par b\\par\\pard\\ls2 c\\par\\pard plain\\par\\pard\\ls2 d\\par\\pard\\ls3 "
+            "e\\par");
+        const auto markOf = [&](const QString& text) {
+            const QTextBlock block = read.Block(text);
+            return block.textList() != nullptr ? block.textList()->itemText(block) : QString();
+        };
+        QCOMPARE(markOf(u"b"_s), u"2."_s);
+        QCOMPARE(markOf(u"c"_s), u"1."_s);
+        QCOMPARE(markOf(u"d"_s), u"2."_s);
+        QCOMPARE(markOf(u"e"_s), u"3."_s);
+    }
+
+    void numbering_goes_on_after_a_paragraph_that_is_skipped()
+    {
+        const QByteArray item = "\\pard{\\*\\pn\\pnlvlbody\\pndec\\pnstart1{\\pntxta .}}";
+        const Reading read = ReadBody(item + "one\\par\\pard{\\*\\pn\\pnlvlcont\\pndec}skipped\\par" + item +
+                                      "two\\par\\pard plain\\par" + item + "first\\par");
+        QCOMPARE(read.Block(u"two"_s).textList()->itemText(read.Block(u"two"_s)), u"2."_s);
+        QVERIFY(read.Block(u"skipped"_s).textList() == nullptr);
+        QCOMPARE(read.Block(u"first"_s).textList()->itemText(read.Block(u"first"_s)), u"1."_s);
+    }
+
+    void levels_of_the_older_kind_count_each_for_itself()
+    {
+        const QByteArray outer = "\\pard{\\*\\pn\\pnlvl1\\pnucrm{\\pntxta .}}";
+        const QByteArray inner = "\\pard{\\*\\pn\\pnlvl2\\pndecd{\\pntxta )}}";
+        const Reading read =
+            ReadBody(outer + "a\\par" + inner + "b\\par c\\par" + outer + "d\\par" + inner + "e\\par");
+        QCOMPARE(read.Text(), u"a\n１)\tb\n２)\tc\nd\n１)\te"_s);
+        QCOMPARE(read.Block(u"d"_s).textList()->itemText(read.Block(u"d"_s)), u"II."_s);
+    }
+
+    void a_bullet_between_numbers_does_not_count()
+    {
+        const QByteArray item = "\\pard{\\*\\pn\\pnlvlbody\\pndec{\\pntxta .}}";
+        const Reading read =
+            ReadBody(item + "one\\par\\pard{\\*\\pn\\pnlvlblt{\\pntxtb *}}point\\par" + item + "two\\par");
+        QCOMPARE(read.Block(u"two"_s).textList()->itemText(read.Block(u"two"_s)), u"2."_s);
+    }
+
     void a_list_that_starts_again_is_another_one()
     {
         const Reading read =

@@ -1,6 +1,8 @@
 #include "rtf/documents.h"
+#include "rtf/paint/line_properties.h"
 #include "support/test_class.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QTextFrame>
 #include <QTextLayout>
 #include <QTextTable>
@@ -69,6 +71,22 @@ private Q_SLOTS:
         QCOMPARE(tabs.at(3), QTextOption::Tab(192, QTextOption::DelimiterTab, u'.'));
     }
 
+    void leaders_of_tabs_are_kept_in_their_order()
+    {
+        const QTextBlockFormat format =
+            FormatOf("\\tx2880\\tldot\\tx1440\\tqr\\tlth\\tx4320\\tlhyph\\tqc\\tx720");
+        QCOMPARE(format.tabPositions().size(), 4);
+        QCOMPARE(format.stringProperty(tabLeadersProperty), u"-. #"_s);
+        QCOMPARE(format.tabPositions().at(3), QTextOption::Tab(288, QTextOption::RightTab, u'.'));
+        QVERIFY(!FormatOf("\\tx720").hasProperty(tabLeadersProperty));
+    }
+
+    void staying_with_the_next()
+    {
+        QVERIFY(FormatOf("\\keepn").property(keepWithNextProperty).toBool());
+        QVERIFY(!FormatOf("\\keepn\\keepn0").property(keepWithNextProperty).toBool());
+    }
+
     void tabs_count_from_the_margin_and_not_from_the_indent()
     {
         // The layout counts from the start of the line, which is 24 pixels in.
@@ -126,18 +144,22 @@ private Q_SLOTS:
                  QTextFormat::PageBreak_Auto);
     }
 
-    void a_box_is_a_frame_with_a_border()
+    void a_box_has_a_border_on_all_sides()
     {
         const Reading read =
             ReadBody("before\\par\\pard\\box\\brdrs\\brdrw30\\brdrcf1 one\\par two\\par\\pard after\\par");
         const auto frames = read.document->rootFrame()->childFrames();
         QCOMPARE(frames.size(), 1);
-        const QTextFrameFormat format = frames.first()->frameFormat();
-        QCOMPARE(format.border(), 2.0);
-        QCOMPARE(format.borderBrush().color(), QColor(255, 0, 0));
-        QCOMPARE(format.borderStyle(), QTextFrameFormat::BorderStyle_Solid);
-        QCOMPARE(read.document->rootFrame()->childFrames().first()->firstCursorPosition().block().text(),
-                 u"one"_s);
+        auto* box = qobject_cast<QTextTable*>(frames.first());
+        QVERIFY(box != nullptr);
+        const QTextTableCellFormat format = box->cellAt(0, 0).format().toTableCellFormat();
+        for (const double border :
+             {format.topBorder(), format.leftBorder(), format.bottomBorder(), format.rightBorder()})
+            QCOMPARE(border, 2.0);
+        QCOMPARE(format.topBorderBrush().color(), QColor(255, 0, 0));
+        QCOMPARE(format.topBorderStyle(), QTextFrameFormat::BorderStyle_Solid);
+        QCOMPARE(format.leftPadding(), 4.0);
+        QCOMPARE(box->firstCursorPosition().block().text(), u"one"_s);
         QCOMPARE(read.Text(), u"before\none\ntwo\nafter"_s);
     }
 
@@ -145,8 +167,19 @@ private Q_SLOTS:
     {
         const Reading read =
             ReadBody("\\brdrt\\brdrdb\\brdrl\\brdrdb\\brdrb\\brdrdb\\brdrr\\brdrdb boxed\\par");
-        QCOMPARE(read.document->rootFrame()->childFrames().first()->frameFormat().borderStyle(),
+        auto* box = qobject_cast<QTextTable*>(read.document->rootFrame()->childFrames().first());
+        QCOMPARE(box->cellAt(0, 0).format().toTableCellFormat().rightBorderStyle(),
                  QTextFrameFormat::BorderStyle_Double);
+    }
+
+    void boxes_that_follow_each_other_have_no_line_between_them()
+    {
+        const Reading read = ReadBody("\\pard\\box\\brdrs one\\par\\pard\\box\\brdrdb two\\par\\pard x\\par");
+        read.document->setTextWidth(400);
+        const auto topOf = [&](const QString& text) {
+            return read.document->documentLayout()->blockBoundingRect(read.Block(text)).top();
+        };
+        QVERIFY(topOf(u"two"_s) - topOf(u"one"_s) < 40);
     }
 
     void a_border_below_is_drawn_below_the_text()
@@ -167,6 +200,16 @@ private Q_SLOTS:
         QVERIFY(read.document->firstBlock().next().blockFormat().hasProperty(
             QTextFormat::BlockTrailingHorizontalRulerWidth));
         QVERIFY(read.document->rootFrame()->childFrames().isEmpty());
+    }
+
+    void a_rule_below_a_box_is_seen()
+    {
+        const Reading read =
+            ReadBody("\\pard\\box\\brdrdb a\\par\\pard\\brdrb\\brdrs\\brdrw15\\par\\pard b\\par");
+        const auto frames = read.document->rootFrame()->childFrames();
+        QCOMPARE(frames.size(), 2);
+        auto* rule = qobject_cast<QTextTable*>(frames.at(1));
+        QCOMPARE(rule->cellAt(0, 0).format().toTableCellFormat().bottomBorder(), 1.0);
     }
 
     void text_without_an_end_of_paragraph_is_one_all_the_same()

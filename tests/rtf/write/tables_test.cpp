@@ -1,7 +1,10 @@
 #include "rtf/documents.h"
 #include "support/test_class.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QTextTable>
+
+#include <cmath>
 
 using namespace torvik::rtf;
 using namespace Qt::StringLiterals;
@@ -186,6 +189,101 @@ private Q_SLOTS:
     {
         const Reading read = ReadBody("\\trowd\\cellx1000\\cellx2000\\intbl a\\cell b");
         QCOMPARE(CellText(TableOf(read), 0, 1), u"b"_s);
+    }
+
+    void an_empty_paragraph_next_to_a_table_keeps_its_height_data()
+    {
+        QTest::addColumn<QByteArray>("between");
+        QTest::addColumn<double>("least");
+        QTest::newRow("between two tables") << QByteArray("\\pard\\fs24\\par") << 17.0;
+        QTest::newRow("two of them") << QByteArray("\\pard\\fs24\\par\\par") << 35.0;
+        QTest::newRow("three of them") << QByteArray("\\pard\\fs24\\par\\par\\par") << 50.0;
+        QTest::newRow("with space of its own") << QByteArray("\\pard\\fs24\\sb300\\sa150\\par") << 47.0;
+        QTest::newRow("of a height that is told") << QByteArray("\\pard\\sl-600\\slmult0\\par") << 39.0;
+        QTest::newRow("before text") << QByteArray("\\pard\\fs24\\par text\\par") << 34.0;
+        QTest::newRow("after text") << QByteArray("\\pard\\fs24 text\\par\\par") << 34.0;
+        QTest::newRow("text with space above and below") << QByteArray("\\pard\\sb300\\sa450 x\\par") << 64.0;
+    }
+    void an_empty_paragraph_next_to_a_table_keeps_its_height()
+    {
+        QFETCH(QByteArray, between);
+        QFETCH(double, least);
+        const QByteArray row = "\\trowd\\cellx3000\\pard\\intbl ";
+        const auto distance = [&](const QByteArray& middle) {
+            const Reading read =
+                ReadBody(row + "one\\cell\\row" + middle + row + "two\\cell\\row\\pard x\\par");
+            read.document->setTextWidth(400);
+            const auto& layout = *read.document->documentLayout();
+            return layout.blockBoundingRect(read.Block(u"two"_s)).top() -
+                   layout.blockBoundingRect(read.Block(u"one"_s)).bottom();
+        };
+        const double here = distance(between);
+        QVERIFY2(here >= least && here < least + 12, qPrintable(QString::number(here)));
+    }
+
+    void space_above_and_below_paragraphs_of_cells()
+    {
+        const Reading read = ReadBody("\\trowd\\cellx3000\\pard\\intbl\\sb150 one\\par\\pard\\intbl\\sa300 "
+                                      "two\\cell\\row\\pard x\\par");
+        const QTextTableCellFormat format = TableOf(read)->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(format.topPadding(), 10.0);
+        QCOMPARE(format.bottomPadding(), 20.0);
+    }
+
+    void margins_of_cells_come_before_those_of_the_row()
+    {
+        const Reading read =
+            ReadBody("\\trowd\\trgaph150\\trpaddt30\\trpaddfl3\\clpadt300\\clpadr450\\cellx2000"
+                     "\\cellx4000\\intbl a\\cell b\\cell\\row\\pard x\\par");
+        const QTextTableCellFormat first = TableOf(read)->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(first.leftPadding(), 20.0);
+        QCOMPARE(first.rightPadding(), 30.0);
+        QCOMPARE(first.topPadding(), 2.0);
+        QCOMPARE(TableOf(read)->cellAt(0, 1).format().toTableCellFormat().leftPadding(), 10.0);
+    }
+
+    void rows_are_as_high_as_told_data()
+    {
+        QTest::addColumn<QByteArray>("alignment");
+        QTest::addColumn<double>("above");
+        QTest::newRow("text at the top") << QByteArray("\\clvertalt") << 0.0;
+        QTest::newRow("text in the middle") << QByteArray("\\clvertalc") << 0.5;
+        QTest::newRow("text at the bottom") << QByteArray("\\clvertalb") << 1.0;
+    }
+    void rows_are_as_high_as_told()
+    {
+        QFETCH(QByteArray, alignment);
+        QFETCH(double, above);
+        const QByteArray row =
+            "\\trowd\\trrh1500" + alignment + "\\cellx2000" + alignment + "\\cellx4000\\intbl ";
+        const Reading read =
+            ReadBody(row + "one\\cell a\\par b\\cell\\row" + row + "two\\cell\\cell\\row\\pard x\\par");
+        read.document->setTextWidth(400);
+        const auto rectOf = [&](const QString& text) {
+            return read.document->documentLayout()->blockBoundingRect(read.Block(text));
+        };
+        QVERIFY(std::abs(rectOf(u"two"_s).top() - rectOf(u"one"_s).top() - 100) < 1.5);
+        const double top = rectOf(u"a"_s).top();
+        const double wanted = 4 + above * (100 - 2 * rectOf(u"a"_s).height());
+        QVERIFY2(std::abs(top - wanted) < 1.5,
+                 qPrintable(QString::number(top) + u' ' + QString::number(wanted)));
+        QVERIFY(std::abs(rectOf(u"one"_s).top() - 4 - above * (100 - rectOf(u"one"_s).height())) < 1.5);
+    }
+
+    void a_row_of_more_text_than_its_height_shows_all_of_it()
+    {
+        const Reading read =
+            ReadBody("\\trowd\\trrh-150\\cellx2000\\intbl one\\par two\\par three\\cell\\row\\pard x\\par");
+        QCOMPARE(TableOf(read)->cellAt(0, 0).format().toTableCellFormat().bottomPadding(), 0.0);
+    }
+
+    void rows_from_right_to_left_begin_at_the_right()
+    {
+        const Reading read =
+            ReadBody("\\trowd\\rtlrow\\cellx1500\\cellx4500\\intbl a\\cell b\\cell\\row\\pard x\\par");
+        QCOMPARE(CellText(TableOf(read), 0, 1), u"a"_s);
+        QCOMPARE(TableOf(read)->format().columnWidthConstraints().at(1).rawValue(), 100.0);
+        QVERIFY((TableOf(read)->format().alignment() & Qt::AlignRight) != 0);
     }
 
     void a_long_table_is_continued_below()

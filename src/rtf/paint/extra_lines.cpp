@@ -1,0 +1,217 @@
+#include "rtf/paint/extra_lines.h"
+
+#include "rtf/paint/line_properties.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace torvik::rtf {
+
+namespace {
+
+/// A stretch of a line, in the coordinates of the layout.
+struct Stretch {
+    double left = 0;
+    double right = 0;
+    double baseline = 0;
+};
+
+QFont FontOf(const QTextCharFormat& format, const QTextDocument& document, const QPainter& painter)
+{
+    QFont font(format.font().resolve(document.defaultFont()));
+    if (format.verticalAlignment() == QTextCharFormat::AlignSuperScript ||
+        format.verticalAlignment() == QTextCharFormat::AlignSubScript)
+        font.setPointSizeF(std::max(font.pointSizeF() * 2 / 3, 1.0));
+    return QFont(font, painter.device());
+}
+
+QColor ColorOf(const QTextCharFormat& format, const QColor& textColor)
+{
+    if (format.underlineColor().isValid())
+        return format.underlineColor();
+    return format.foreground().style() == Qt::NoBrush ? textColor : format.foreground().color();
+}
+
+void DrawRule(QPainter& painter, const Stretch& stretch, double below, double width, const QColor& color)
+{
+    painter.fillRect(
+        QRectF(stretch.left, stretch.baseline + below - width / 2, stretch.right - stretch.left, width),
+        color);
+}
+
+/// Signs at places that are the same for all lines, so that they stand below each other.
+void DrawSigns(QPainter& painter, const Stretch& stretch, QChar sign, const QColor& color)
+{
+    const QFontMetricsF metrics(painter.font(), painter.device());
+    const double step = metrics.horizontalAdvance(sign) * (sign == u'-' ? 1.2 : 1.6);
+    if (step < 0.5)
+        return;
+    painter.setPen(color);
+    const double room = metrics.horizontalAdvance(sign);
+    for (double x = std::ceil(stretch.left / step) * step; x + room <= stretch.right; x += step)
+        painter.drawText(QPointF(x, stretch.baseline), QString(sign));
+}
+
+void DrawLeader(QPainter& painter, Stretch stretch, TabLeader leader, const QColor& color)
+{
+    const QFontMetricsF metrics(painter.font(), painter.device());
+    const double space = metrics.horizontalAdvance(u' ') / 3;
+    const double thin = std::max(metrics.lineWidth(), 1.0);
+    switch (leader) {
+    case TabLeader::None:
+        break;
+    case TabLeader::Dots:
+    case TabLeader::MiddleDots:
+    case TabLeader::Hyphens:
+        stretch.left += space;
+        stretch.right -= space;
+        DrawSigns(painter, stretch, QChar(static_cast<char16_t>(leader)), color);
+        break;
+    case TabLeader::Line:
+        DrawRule(painter, stretch, metrics.underlinePos(), thin, color);
+        break;
+    case TabLeader::ThickLine:
+        DrawRule(painter, stretch, metrics.underlinePos(), thin * 2, color);
+        break;
+    case TabLeader::DoubleLine:
+        DrawRule(painter, stretch, metrics.underlinePos(), thin, color);
+        DrawRule(painter, stretch, metrics.underlinePos() + thin * 2, thin, color);
+        break;
+    }
+}
+
+/// Paints what one paragraph wants.
+class BlockPainter {
+public:
+    BlockPainter(QPainter& painter, const QTextBlock& block, const QColor& textColor, double scale)
+        : painter_(painter), block_(block), layout_(*block.layout()),
+          corner_(block.document()->documentLayout()->blockBoundingRect(block).topLeft() -
+                  layout_.boundingRect().topLeft()),
+          textColor_(textColor), scale_(scale)
+    {}
+
+    void Paint()
+    {
+        PaintLeaders();
+        for (auto part = block_.begin(); !part.atEnd(); ++part) {
+            const QTextFragment fragment = part.fragment();
+            const int kind = fragment.charFormat().intProperty(underlineProperty);
+            if (kind != int(ExtraUnderline::None))
+                PaintUnderline(fragment, static_cast<ExtraUnderline>(kind));
+        }
+    }
+
+private:
+    Stretch Between(const QTextLine& line, int from, int to) const
+    {
+        const double a = line.cursorToX(from);
+        const double b = line.cursorToX(to);
+        return {corner_.x() + std::min(a, b), corner_.x() + std::max(a, b),
+                corner_.y() + line.y() + line.ascent()};
+    }
+
+    void PaintUnderline(const QTextFragment& fragment, ExtraUnderline kind)
+    {
+        const int start = fragment.position() - block_.position();
+        const int end = start + fragment.length();
+        const QTextCharFormat format = fragment.charFormat();
+        const QFontMetricsF metrics(FontOf(format, *block_.document(), painter_), painter_.device());
+        const double thin = std::max(metrics.lineWidth(), 1.0);
+        const QColor color = ColorOf(format, textColor_);
+        for (int i = 0; i < layout_.lineCount(); ++i) {
+            const QTextLine line = layout_.lineAt(i);
+            const int from = std::max(start, line.textStart());
+            const int to = std::min(end, line.textStart() + line.textLength());
+            if (from >= to)
+                continue;
+            const Stretch stretch = Between(line, from, to);
+            if (kind == ExtraUnderline::Double)
+                DrawRule(painter_, stretch, metrics.underlinePos() + 2 * thin, thin, color);
+            else
+                DrawRule(painter_, stretch, metrics.underlinePos() + thin / 2, 2 * thin, color);
+        }
+    }
+
+    void PaintLeaders()
+    {
+        const QString leaders = block_.blockFormat().stringProperty(tabLeadersProperty);
+        if (leaders.isEmpty())
+            return;
+        const QList<QTextOption::Tab> tabs = block_.blockFormat().tabPositions();
+        const QString text = block_.text();
+        for (qsizetype at = text.indexOf(u'\t'); at >= 0; at = text.indexOf(u'\t', at + 1)) {
+            const int place = static_cast<int>(at);
+            const QTextLine line = layout_.lineForTextPosition(place);
+            if (!line.isValid())
+                continue;
+            const double start = (line.cursorToX(place) - line.x()) / scale_;
+            const auto stop = std::find_if(tabs.begin(), tabs.end(), [&](const QTextOption::Tab& tab) {
+                return tab.position > start + 0.5;
+            });
+            const qsizetype number = stop - tabs.begin();
+            if (stop == tabs.end() || number >= leaders.size() || leaders.at(number) == u' ')
+                continue;
+            QTextCursor cursor(block_);
+            cursor.setPosition(block_.position() + place + 1);
+            const QTextCharFormat format = cursor.charFormat();
+            painter_.setFont(FontOf(format, *block_.document(), painter_));
+            DrawLeader(painter_, Between(line, place, place + 1),
+                       static_cast<TabLeader>(leaders.at(number).unicode()), ColorOf(format, textColor_));
+        }
+    }
+
+    QPainter& painter_;
+    const QTextBlock& block_;
+    const QTextLayout& layout_;
+    QPointF corner_;
+    const QColor& textColor_;
+    double scale_;
+};
+
+bool WantsLines(const QTextBlock& block)
+{
+    if (block.blockFormat().hasProperty(tabLeadersProperty))
+        return true;
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+        if (part.fragment().charFormat().hasProperty(underlineProperty))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+ExtraLines::ExtraLines(const QTextDocument& document)
+{
+    // Most documents have no such format, and need not be gone through.
+    const QList<QTextFormat> formats = document.allFormats();
+    const bool isNeeded = std::any_of(formats.begin(), formats.end(), [](const QTextFormat& format) {
+        return format.hasProperty(tabLeadersProperty) || format.hasProperty(underlineProperty);
+    });
+    if (!isNeeded)
+        return;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (WantsLines(block))
+            blocks_.push_back(block);
+    }
+}
+
+void ExtraLines::Paint(QPainter& painter, const QRectF& clip, const QColor& textColor, double scale) const
+{
+    painter.save();
+    for (const QTextBlock& block : blocks_) {
+        const QRectF room = block.document()->documentLayout()->blockBoundingRect(block);
+        if (room.intersects(clip))
+            BlockPainter(painter, block, textColor, scale).Paint();
+    }
+    painter.restore();
+}
+
+} // namespace torvik::rtf

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QTextFormat>
+
+namespace torvik::rtf {
+
+/// In the format of a paragraph: what fills the room before each of its tab stops, one
+/// TabLeader for each stop in their order. Qt has nothing like it.
+inline constexpr int tabLeadersProperty = QTextFormat::UserProperty + 3;
+/// In the format of characters that Qt underlines once: the other line that they are to have.
+inline constexpr int underlineProperty = QTextFormat::UserProperty + 4;
+
+enum class TabLeader : char16_t {
+    None = u' ',
+    Dots = u'.',
+    MiddleDots = u'·',
+    Hyphens = u'-',
+    Line = u'_',
+    ThickLine = u'#',
+    DoubleLine = u'='
+};
+
+enum class ExtraUnderline { None, Double, Thick };
+
+} // namespace torvik::rtf

@@ -1,0 +1,147 @@
+#include "rtf/parts/field_result.h"
+
+#include "rtf/model/number_words.h"
+#include "rtf/parts/date_picture.h"
+#include "rtf/parts/equation.h"
+
+#include <algorithm>
+
+namespace torvik::rtf {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A number in the format that the switch "\*" names.
+QString Formatted(int value, const FieldInstruction& instruction)
+{
+    const QString format = instruction.ValueOf(u"\\*"_s);
+    if (format == QLatin1StringView("roman"))
+        return NumberInFormat(value, 2);
+    if (format == QLatin1StringView("ROMAN") || format == QLatin1StringView("Roman"))
+        return NumberInFormat(value, 1);
+    if (format == QLatin1StringView("alphabetic"))
+        return NumberInFormat(value, 4);
+    if (format == QLatin1StringView("ALPHABETIC"))
+        return NumberInFormat(value, 3);
+    if (format.compare(QLatin1StringView("ordinal"), Qt::CaseInsensitive) == 0)
+        return NumberInFormat(value, 5);
+    if (format.compare(QLatin1StringView("cardtext"), Qt::CaseInsensitive) == 0)
+        return NumberInFormat(value, 6).toLower();
+    if (format.compare(QLatin1StringView("ordtext"), Qt::CaseInsensitive) == 0)
+        return NumberInFormat(value, 7).toLower();
+    return QString::number(value);
+}
+
+QString Time(const FieldInstruction& instruction, const FieldSurroundings& around, const QString& usual)
+{
+    const QString picture = instruction.ValueOf(u"\\@"_s);
+    return DateByPicture(around.now, picture.isEmpty() ? usual : picture);
+}
+
+QString Sequence(const FieldInstruction& instruction, FieldSurroundings& around)
+{
+    constexpr int largest = 1'000'000;
+    constexpr qsizetype mostSequences = 1000;
+    const QString name = instruction.pieces.value(1).toLower();
+    if (around.sequences.size() >= mostSequences && !around.sequences.contains(name))
+        return {};
+    int& last = around.sequences[name];
+    const QString first = instruction.ValueOf(u"\\r"_s);
+    if (!first.isEmpty())
+        last = std::clamp(first.toInt(), 0, largest);
+    else if (!instruction.pieces.contains(u"\\c"_s))
+        last = std::min(last + 1, largest);
+    return instruction.pieces.contains(u"\\h"_s) ? QString() : Formatted(last, instruction);
+}
+
+bool Holds(const QString& left, const QString& sign, const QString& right)
+{
+    bool leftIsNumber = false;
+    bool rightIsNumber = false;
+    const double a = left.toDouble(&leftIsNumber);
+    const double b = right.toDouble(&rightIsNumber);
+    int order = left.compare(right, Qt::CaseInsensitive);
+    if (leftIsNumber && rightIsNumber)
+        order = a < b ? -1 : a > b ? 1 : 0;
+    if (sign == QLatin1StringView("<>"))
+        return order != 0;
+    if (sign == QLatin1StringView("<"))
+        return order < 0;
+    if (sign == QLatin1StringView(">"))
+        return order > 0;
+    if (sign == QLatin1StringView("<="))
+        return order <= 0;
+    if (sign == QLatin1StringView(">="))
+        return order >= 0;
+    return order == 0;
+}
+
+QString Choice(const QStringList& pieces)
+{
+    if (pieces.size() < 5)
+        return {};
+    return pieces.value(Holds(pieces.at(1), pieces.at(2), pieces.at(3)) ? 4 : 5);
+}
+
+QString Quoted(const QStringList& pieces)
+{
+    QStringList texts;
+    for (qsizetype i = 1; i < pieces.size(); ++i) {
+        if (pieces.at(i).startsWith(u'\\'))
+            ++i; // a switch and its value
+        else
+            texts.append(pieces.at(i));
+    }
+    return texts.join(u' ');
+}
+
+QString Link(const FieldInstruction& instruction)
+{
+    const QString address = instruction.pieces.value(1);
+    return address.startsWith(u'\\') ? QString() : address;
+}
+
+using Maker = QString (*)(const FieldInstruction& instruction, FieldSurroundings& around);
+
+const QHash<QString, Maker>& Makers()
+{
+    using Read = const FieldInstruction&;
+    using Around = FieldSurroundings&;
+    static const QHash<QString, Maker> makers{
+        {u"DATE"_s, [](Read r, Around a) { return Time(r, a, u"M/d/yyyy"_s); }},
+        {u"TIME"_s, [](Read r, Around a) { return Time(r, a, u"h:mm am/pm"_s); }},
+        {u"PAGE"_s, [](Read r, Around a) { return Formatted(a.page, r); }},
+        {u"NUMPAGES"_s, [](Read r, Around a) { return Formatted(std::max(a.pages, a.page), r); }},
+        {u"SEQ"_s, Sequence},
+        {u"AUTONUM"_s,
+         [](Read, Around a) { return QString(QString::number(++a.sequences[QString()]) + u'.'); }},
+        {u"AUTONUMLGL"_s,
+         [](Read, Around a) { return QString(QString::number(++a.sequences[QString()]) + u'.'); }},
+        {u"EQ"_s, [](Read r, Around) { return EquationText(r.rest); }},
+        {u"IF"_s, [](Read r, Around) { return Choice(r.pieces); }},
+        {u"QUOTE"_s, [](Read r, Around) { return Quoted(r.pieces); }},
+        {u"HYPERLINK"_s, [](Read r, Around) { return Link(r); }},
+        {u"MERGEFIELD"_s, [](Read r, Around) { return QString(u'«' + r.pieces.value(1) + u'»'); }},
+        {u"MACROBUTTON"_s, [](Read r, Around) { return QString(r.pieces.mid(2).join(u' ')); }},
+        {u"GOTOBUTTON"_s, [](Read r, Around) { return QString(r.pieces.mid(2).join(u' ')); }},
+        {u"TITLE"_s, [](Read, Around a) { return a.information.value(u"title"_s); }},
+        {u"SUBJECT"_s, [](Read, Around a) { return a.information.value(u"subject"_s); }},
+        {u"AUTHOR"_s, [](Read, Around a) { return a.information.value(u"author"_s); }},
+        {u"KEYWORDS"_s, [](Read, Around a) { return a.information.value(u"keywords"_s); }},
+        {u"COMMENTS"_s, [](Read, Around a) { return a.information.value(u"doccomm"_s); }},
+    };
+    return makers;
+}
+
+} // namespace
+
+QString ResultOf(const FieldInstruction& instruction, const FormField& form, FieldSurroundings& surroundings)
+{
+    if (form.kind != FormField::Kind::None)
+        return form.Value();
+    const Maker maker = Makers().value(instruction.keyword, nullptr);
+    return maker != nullptr ? maker(instruction, surroundings) : QString();
+}
+
+} // namespace torvik::rtf

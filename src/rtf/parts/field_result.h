@@ -1,0 +1,28 @@
+#pragma once
+
+#include "rtf/parts/field_instruction.h"
+#include "rtf/parts/form_field.h"
+
+#include <QDateTime>
+#include <QHash>
+#include <QString>
+
+namespace torvik::rtf {
+
+/// What fields without a stored result can be made from.
+struct FieldSurroundings {
+    QDateTime now;
+    /// The page that the field is on, and how many there are; from 1.
+    int page = 1;
+    int pages = 1;
+    /// What the document tells about itself: "title", "author" and the like.
+    QHash<QString, QString> information;
+    /// The last number of every sequence.
+    QHash<QString, int> sequences;
+};
+
+/// The text of a field whose document stores none, as it can be told without asking anybody; empty for fields
+/// that show nothing. Numbers of sequences are counted on.
+QString ResultOf(const FieldInstruction& instruction, const FormField& form, FieldSurroundings& surroundings);
+
+} // namespace torvik::rtf

@@ -1,0 +1,133 @@
+#include "rtf/documents.h"
+#include "support/test_class.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+
+#include <algorithm>
+
+using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
+
+/// What is painted over the text that the layout paints.
+class ExtraLinesTest : public QObject {
+    Q_OBJECT
+
+    static constexpr QSize page{480, 120};
+
+    static QImage Painted(const Reading& read)
+    {
+        QImage image(page, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        read.document->setDocumentMargin(0);
+        read.document->setTextWidth(page.width());
+        // The layout is made before anything is painted, as in a window.
+        (void)read.document->size();
+        QPainter painter(&image);
+        constexpr double ownSize = 1;
+        ExtraLines(*read.document).Paint(painter, QRectF(QPointF(), QSizeF(page)), Qt::black, ownSize);
+        return image;
+    }
+    static bool IsInked(const QImage& image, int x, int y) { return qGray(image.pixel(x, y)) < 200; }
+    /// How many columns of a stretch hold ink.
+    static int InkedColumns(const QImage& image, int from, int to)
+    {
+        int columns = 0;
+        for (int x = from; x < to; ++x) {
+            bool isInked = false;
+            for (int y = 0; y < image.height(); ++y)
+                isInked = isInked || IsInked(image, x, y);
+            columns += isInked ? 1 : 0;
+        }
+        return columns;
+    }
+    static int InkedRows(const QImage& image, int x)
+    {
+        int rows = 0;
+        for (int y = 0; y < image.height(); ++y)
+            rows += IsInked(image, x, y) ? 1 : 0;
+        return rows;
+    }
+
+private Q_SLOTS:
+    void leaders_fill_the_room_before_their_stop_data()
+    {
+        QTest::addColumn<QByteArray>("leader");
+        QTest::addColumn<int>("least");
+        QTest::addColumn<int>("most");
+        QTest::newRow("dots") << QByteArray("\\tldot") << 20 << 190;
+        QTest::newRow("dots in the middle") << QByteArray("\\tlmdot") << 20 << 190;
+        QTest::newRow("hyphens") << QByteArray("\\tlhyph") << 60 << 290;
+        QTest::newRow("a line") << QByteArray("\\tlul") << 290 << 300;
+        QTest::newRow("a thick line") << QByteArray("\\tlth") << 290 << 300;
+        QTest::newRow("a double line") << QByteArray("\\tleq") << 290 << 300;
+        QTest::newRow("none") << QByteArray() << 0 << 0;
+    }
+    void leaders_fill_the_room_before_their_stop()
+    {
+        QFETCH(QByteArray, leader);
+        QFETCH(int, least);
+        QFETCH(int, most);
+        const QImage image = Painted(ReadBody("\\pard" + leader + "\\tx6000\\fs24\\tab x\\par"));
+        const int columns = InkedColumns(image, 50, 350);
+        QVERIFY2(columns >= least && columns <= most, qPrintable(QString::number(columns)));
+        QCOMPARE(InkedColumns(image, 402, page.width()), 0);
+    }
+
+    void a_leader_ends_where_text_at_the_right_begins()
+    {
+        const QImage image = Painted(ReadBody("\\pard\\tqr\\tlul\\tx6000\\fs24\\tab wide words\\par"));
+        QVERIFY(InkedColumns(image, 0, 200) > 190);
+        QCOMPARE(InkedColumns(image, 380, page.width()), 0);
+    }
+
+    void thick_and_double_leaders_are_thicker_than_a_line()
+    {
+        const auto rows = [](const QByteArray& leader) {
+            return InkedRows(Painted(ReadBody("\\pard" + leader + "\\tx6000\\fs24\\tab x\\par")), 100);
+        };
+        QVERIFY(rows("\\tlth") > rows("\\tlul"));
+        QVERIFY(rows("\\tleq") > rows("\\tlul"));
+    }
+
+    void only_the_tab_to_the_stop_has_its_leader()
+    {
+        const QImage image = Painted(ReadBody("\\pard\\tx3000\\tlul\\tx6000\\fs24\\tab\\tab x\\par"));
+        QCOMPARE(InkedColumns(image, 0, 195), 0);
+        QVERIFY(InkedColumns(image, 205, 395) > 180);
+    }
+
+    void double_and_thick_underlines_are_painted_in_their_colour()
+    {
+        for (const QByteArray& word : {QByteArray("\\uldb"), QByteArray("\\ulth")}) {
+            const Reading read = ReadBody("\\pard\\fs24\\cf1 " + word + " underlined text\\ulnone  not\\par");
+            QVERIFY(read.Format("underlined").fontUnderline());
+            const QImage image = Painted(read);
+            bool isRed = false;
+            for (int y = 0; y < image.height(); ++y)
+                isRed = isRed || image.pixelColor(20, y) == QColor(255, 0, 0);
+            QVERIFY(isRed);
+        }
+    }
+
+    void the_colour_of_an_underline_comes_first()
+    {
+        const QImage image = Painted(ReadBody("\\pard\\fs24\\cf1\\uldb\\ulc3 underlined\\par"));
+        bool isBlue = false;
+        for (int y = 0; y < image.height(); ++y)
+            isBlue = isBlue || image.pixelColor(20, y) == QColor(0, 0, 255);
+        QVERIFY(isBlue);
+    }
+
+    void a_document_without_them_costs_nothing()
+    {
+        QVERIFY(ExtraLines(*ReadBody("\\tx720 a\\tab{\\ul b}\\par").document).IsEmpty());
+        QVERIFY(!ExtraLines(*ReadBody("a{\\uldb b}\\par").document).IsEmpty());
+        QVERIFY(ExtraLines().IsEmpty());
+    }
+};
+
+TORVIK_TEST(ExtraLinesTest)
+#include "extra_lines_test.moc"

@@ -1,0 +1,259 @@
+#include "rtf/documents.h"
+#include "support/test_class.h"
+
+#include <QImage>
+#include <QTextTable>
+#include <QUrl>
+
+using namespace torvik::rtf;
+using namespace Qt::StringLiterals;
+
+class ShapesTest : public QObject {
+    Q_OBJECT
+
+    static QByteArray Shape(const QByteArray& properties, const QByteArray& text)
+    {
+        return "{\\shp{\\*\\shpinst\\shpleft300\\shptop0\\shpright3300\\shpbottom1500" + properties +
+               (text.isEmpty() ? QByteArray() : "{\\shptxt " + text + "}") + "}{\\shprslt older form\\par}}";
+    }
+    static QByteArray Property(const QByteArray& name, const QByteArray& value)
+    {
+        return "{\\sp{\\sn " + name + "}{\\sv " + value + "}}";
+    }
+    static QList<QTextTable*> BoxesOf(const Reading& read)
+    {
+        QList<QTextTable*> boxes;
+        for (QTextFrame* frame : read.document->rootFrame()->childFrames()) {
+            if (auto* table = qobject_cast<QTextTable*>(frame))
+                boxes.append(table);
+        }
+        return boxes;
+    }
+    static QString TextOf(const QTextTable* box)
+    {
+        QTextCursor cursor = box->firstCursorPosition();
+        cursor.setPosition(box->lastPosition(), QTextCursor::KeepAnchor);
+        return cursor.selectedText().replace(QChar(QChar::ParagraphSeparator), u'/');
+    }
+    static QImage PictureOf(const Reading& read, int number)
+    {
+        return read.document->resource(QTextDocument::ImageResource, QUrl(u"rtf-picture:%1"_s.arg(number)))
+            .value<QImage>();
+    }
+    /// The size at which the document's only picture is shown, pixels.
+    static QSizeF OnlyPictureSize(const Reading& read)
+    {
+        for (QTextBlock block = read.document->begin(); block.isValid(); block = block.next()) {
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QTextImageFormat format = part.fragment().charFormat().toImageFormat();
+                if (format.isValid())
+                    return {format.width(), format.height()};
+            }
+        }
+        return {};
+    }
+
+private Q_SLOTS:
+    void text_of_a_shape_at_the_start_of_a_paragraph_is_a_box_before_it()
+    {
+        const Reading read = ReadBody("one\\par " + Shape({}, "\\pard in \\b the\\b0  box\\par last\\par") +
+                                      "two goes on\\par three\\par");
+        QCOMPARE(read.Text(), u"one\nin the box\nlast\ntwo goes on\nthree"_s);
+        QCOMPARE(BoxesOf(read).size(), 1);
+        QCOMPARE(TextOf(BoxesOf(read).first()), u"in the box/last"_s);
+        QCOMPARE(BoxesOf(read).first()->format().columnWidthConstraints().first().rawValue(), 200.0);
+        QCOMPARE(BoxesOf(read).first()->format().leftMargin(), 20.0);
+        QCOMPARE(read.result.tables, 0);
+    }
+
+    void text_of_a_shape_within_a_paragraph_is_a_box_after_it()
+    {
+        const Reading read = ReadBody("one " + Shape({}, "\\pard box\\par") + "goes on\\par two\\par");
+        QCOMPARE(read.Text(), u"one goes on\nbox\ntwo"_s);
+    }
+
+    void line_and_fill_of_a_box_are_as_told()
+    {
+        const Reading read =
+            ReadBody(Shape(Property("fillColor", "65535") + Property("lineColor", "16711680") +
+                               Property("lineWidth", "28575") + Property("dxTextLeft", "190500"),
+                           "boxed\\par"));
+        const QTextTableCellFormat format = BoxesOf(read).first()->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(format.background().color(), QColor(255, 255, 0));
+        QCOMPARE(format.topBorder(), 3.0);
+        QCOMPARE(format.leftBorderBrush().color(), QColor(0, 0, 255));
+        QCOMPARE(format.leftPadding(), 20.0);
+        const Reading bare = ReadBody(Shape(Property("fLine", "0") + Property("fFilled", "0"), "bare\\par"));
+        const QTextTableCellFormat none = BoxesOf(bare).first()->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(none.topBorder(), 0.0);
+        QCOMPARE(none.background().style(), Qt::NoBrush);
+    }
+
+    void boxes_of_the_older_generation()
+    {
+        const Reading read = ReadBody(
+            "a{\\*\\do\\dobxcolumn\\dobypara\\dptxbx\\dptxbxmar75{\\dptxbxtext\\pard old box\\par}"
+            "\\dpx150\\dpy0\\dpxsize1500\\dpysize750\\dpfillbgcr0\\dpfillbgcg128\\dpfillbgcb0\\dpfillpat1"
+            "\\dplinew30\\dplinecor255\\dplinecog0\\dplinecob0}b\\par");
+        QCOMPARE(read.Text(), u"ab\nold box\n"_s);
+        const QTextTable* box = BoxesOf(read).first();
+        const QTextTableCellFormat format = box->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(box->format().columnWidthConstraints().first().rawValue(), 100.0);
+        QCOMPARE(format.background().color(), QColor(0, 128, 0));
+        QCOMPARE(format.topBorder(), 2.0);
+        QCOMPARE(format.topBorderBrush().color(), QColor(255, 0, 0));
+        QCOMPARE(format.topPadding(), 5.0);
+    }
+
+    void text_is_never_lost_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::newRow("a shape in a cell")
+            << "\\trowd\\cellx5000\\intbl cell" + Shape({}, "words\\par") + "\\cell\\row\\pard after\\par";
+        QTest::newRow("a shape in a shape")
+            << "x" + Shape({}, "outer" + Shape({}, "words\\par") + "\\par") + "\\par";
+        QTest::newRow("a table in a shape")
+            << Shape({}, "\\trowd\\cellx900\\intbl words\\cell\\row\\pard\\par") + "\\par";
+        QTest::newRow("a shape in a group") << QByteArray(
+            "{\\shpgrp{\\*\\shpinst\\shpleft0\\shptop0\\shpright900\\shpbottom900{\\shp{\\*\\shpinst"
+            "{\\sp{\\sn relLeft}{\\sv 0}}{\\shptxt words\\par}}}}}\\par");
+        QTest::newRow("a shape in a note") << "x{\\footnote note" + Shape({}, "words\\par") + "}\\par";
+        QTest::newRow("a note in a shape") << Shape({}, "y{\\footnote words}\\par") + "\\par";
+        QTest::newRow("text of a shape on its own") << QByteArray("{\\shptxt words\\par}x\\par");
+        QTest::newRow("text of an older shape on its own") << QByteArray("{\\dptxbxtext words\\par}x\\par");
+        QTest::newRow("text before its properties")
+            << QByteArray("{\\shp{\\*\\shpinst{\\shptxt words}{\\sp{\\sn fLine}{\\sv 0}}}}\\par");
+        QTest::newRow("a group of older shapes") << QByteArray(
+            "{\\*\\do\\dpgroup\\dpcount2\\dpx0\\dpy0\\dpxsize900\\dpysize900\\dpline\\dpptx0\\dppty0\\dpptx9"
+            "\\dppty9\\dpx0\\dpy0\\dpxsize9\\dpysize9\\dptxbx{\\dptxbxtext words\\par}\\dpx0\\dpy0\\dpxsize9"
+            "\\dpysize9\\dpendgroup}x\\par");
+        QTest::newRow("letters drawn as a picture")
+            << Shape(Property("shapeType", "136") + Property("gtextUNICODE", "words"), {}) + "\\par";
+        QTest::newRow("a form for older readers alone")
+            << QByteArray("{\\shp{\\shprslt{\\*\\do\\dptxbx{\\dptxbxtext words\\par}\\dpx0\\dpy0}}}\\par");
+        QTest::newRow("no paragraph after the shape") << "x\\par" + Shape({}, "words");
+        QTest::newRow("deeper than boxes are nested")
+            << Shape({}, "{\\shptxt a").repeated(1) +
+                   QByteArray("{\\shp{\\*\\shpinst{\\shptxt b").repeated(30) + "words" +
+                   QByteArray("}}}").repeated(30);
+        QTest::newRow("the file ends inside") << QByteArray("x\\par{\\shp{\\*\\shpinst{\\shptxt words");
+    }
+    void text_is_never_lost()
+    {
+        QFETCH(QByteArray, body);
+        const QString text = ReadBody(body).Text();
+        QCOMPARE(text.count(u"words"_s), 1);
+        QVERIFY(!text.contains(u"older form"_s));
+    }
+
+    void a_frame_is_a_box_of_its_width()
+    {
+        const Reading read =
+            ReadBody("before\\par\\pard\\absw3000\\posx600\\brdrt\\brdrs\\brdrw30\\cbpat4 in\\par frame\\par"
+                     "\\pard after\\par");
+        QCOMPARE(read.Text(), u"before\nin\nframe\nafter"_s);
+        const QTextTable* box = BoxesOf(read).value(0);
+        QVERIFY(box != nullptr);
+        QCOMPARE(TextOf(box), u"in/frame"_s);
+        QCOMPARE(box->format().columnWidthConstraints().first().rawValue(), 200.0);
+        QCOMPARE(box->format().leftMargin(), 40.0);
+        const QTextTableCellFormat format = box->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(format.topBorder(), 2.0);
+        QCOMPARE(format.leftBorder(), 0.0);
+        QCOMPARE(format.background().color(), QColor(255, 255, 0));
+        QCOMPARE(read.result.tables, 0);
+    }
+
+    void a_frame_at_the_right_ends_with_the_text()
+    {
+        const Reading read = ReadBody("\\paperw9000\\margl1500\\margr1500\\pard\\absw3000\\posxr x\\par");
+        QCOMPARE(BoxesOf(read).first()->format().leftMargin(), 200.0);
+    }
+
+    void the_place_of_a_table_makes_no_boxes_of_its_cells()
+    {
+        const Reading read =
+            ReadBody("\\trowd\\cellx3000\\pard\\intbl\\posx600\\absw2000 cell\\cell\\row\\pard x\\par");
+        QCOMPARE(BoxesOf(read).size(), 1);
+        QVERIFY(BoxesOf(read).first()->childFrames().isEmpty());
+    }
+
+    void a_large_initial_letter_belongs_to_its_word()
+    {
+        const Reading read = ReadBody("\\pard\\dropcapli3\\dropcapt1\\absw600\\fs90 T\\par\\pard\\fs20 he "
+                                      "car\\par\\pard\\dropcapli2 Z\\par");
+        QCOMPARE(read.Text(), u"The car\nZ"_s);
+        QCOMPARE(read.Format("T").fontPointSize(), 45.0);
+    }
+
+    void the_list_around_a_box_goes_on()
+    {
+        const Reading read = ReadBody("{\\pntext 1.\\tab}" + Shape({}, "{\\pntext 7.\\tab}in\\par") +
+                                      "a\\par{\\pntext 2.\\tab}b\\par");
+        QCOMPARE(read.Text(), u"\n7.\tin\na\nb"_s);
+        QVERIFY(read.Block(u"a"_s).textList() == nullptr || read.Block(u"a"_s).text() == u"a"_s);
+    }
+
+    void lines_and_outlines_are_pictures_of_their_size()
+    {
+        const Reading read =
+            ReadBody(Shape(Property("shapeType", "3") + Property("fillColor", "255"), {}) + "b\\par");
+        QCOMPARE(read.document->blockCount(), 2);
+        QCOMPARE(OnlyPictureSize(read), QSizeF(201, 101));
+        const QImage image = PictureOf(read, 1);
+        QCOMPARE(image.pixelColor(image.width() / 2, image.height() / 2), QColor(255, 0, 0));
+        QCOMPARE(image.pixelColor(2, 2).alpha(), 0);
+        QCOMPARE(read.document->begin().blockFormat().leftMargin(), 292 / 15.0);
+    }
+
+    void a_line_of_the_older_generation()
+    {
+        const Reading read = ReadBody("{\\*\\do\\dobxcolumn\\dobypara\\dpline\\dpptx0\\dppty0\\dpptx1500"
+                                      "\\dppty0\\dpx0\\dpy0\\dpxsize1500\\dpysize0\\dplinew30"
+                                      "\\dplinecor0\\dplinecog0\\dplinecob255}x\\par");
+        QCOMPARE(OnlyPictureSize(read), QSizeF(102, 2));
+        QCOMPARE(PictureOf(read, 1).pixelColor(100, 2), QColor(0, 0, 255));
+    }
+
+    void shapes_of_one_paragraph_that_lie_together_are_one_picture()
+    {
+        const QByteArray two = Shape(Property("shapeType", "1"), {}) +
+                               "{\\shp{\\*\\shpinst\\shpleft300\\shptop1500\\shpright3300\\shpbottom3000" +
+                               Property("shapeType", "1") + "}}";
+        const Reading read = ReadBody(two + "x\\par");
+        QCOMPARE(OnlyPictureSize(read), QSizeF(201, 201));
+        QCOMPARE(read.document->blockCount(), 2);
+    }
+
+    void what_lies_behind_the_text_is_left_out()
+    {
+        const Reading read =
+            ReadBody(Shape("\\shpfblwtxt1" + Property("shapeType", "1") + Property("fillColor", "255"), {}) +
+                     "x\\par");
+        QVERIFY(OnlyPictureSize(read).isEmpty());
+    }
+
+    void hostile_shapes_end_well_data()
+    {
+        QTest::addColumn<QByteArray>("piece");
+        QTest::newRow("shapes") << QByteArray("{\\shp{\\*\\shpinst{\\shptxt a");
+        QTest::newRow("groups") << QByteArray("{\\shpgrp{\\*\\shpinst");
+        QTest::newRow("drawings") << QByteArray("{\\*\\do\\dptxbx{\\dptxbxtext ");
+        QTest::newRow("one text") << QByteArray("{\\shptxt\\shptxt\\dptxbxtext");
+        QTest::newRow("words without a shape") << QByteArray("\\dpx1\\dpline\\dpptx1\\shpleft5");
+        QTest::newRow("words in a drawing") << QByteArray("{\\*\\do\\dpline\\dpptx1\\dppty2147483647");
+        QTest::newRow("sizes beyond all bounds")
+            << QByteArray("{\\shp{\\*\\shpinst\\shpleft-2147483647\\shpright2147483647{\\sp{\\sn relRight}"
+                          "{\\sv -9223372036854775807}}{\\sp{\\sn lineWidth}{\\sv 999999999999}}}}\\par");
+    }
+    void hostile_shapes_end_well()
+    {
+        QFETCH(QByteArray, piece);
+        const Reading read = ReadBody("x\\par" + piece.repeated(3000));
+        QVERIFY(read.Text().contains(u"x"_s));
+        read.document->setTextWidth(500);
+    }
+};
+
+TORVIK_TEST(ShapesTest)
+#include "shapes_test.moc"
