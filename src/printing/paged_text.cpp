@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace torvik {
 
@@ -46,6 +47,41 @@ void ScaleIndents(QTextDocument& text, double scale)
     cursor.endEditBlock();
 }
 
+/// The layout takes the space between letters for pixels of the device.
+void ScaleLetterSpacing(QTextDocument& text, double scale)
+{
+    const QList<QTextFormat> formats = text.allFormats();
+    const bool isSpaced = std::any_of(formats.begin(), formats.end(), [](const QTextFormat& format) {
+        return format.hasProperty(QTextFormat::FontLetterSpacing);
+    });
+    if (!isSpaced)
+        return;
+    struct Stretch {
+        int begin;
+        int end;
+        double spacing;
+    };
+    std::vector<Stretch> stretches;
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextFragment piece = part.fragment();
+            const double spacing = piece.charFormat().fontLetterSpacing();
+            if (piece.charFormat().hasProperty(QTextFormat::FontLetterSpacing))
+                stretches.push_back({piece.position(), piece.position() + piece.length(), spacing * scale});
+        }
+    }
+    QTextCursor cursor(&text);
+    cursor.beginEditBlock();
+    for (const Stretch& stretch : stretches) {
+        QTextCharFormat format;
+        format.setFontLetterSpacing(stretch.spacing);
+        cursor.setPosition(stretch.begin);
+        cursor.setPosition(stretch.end, QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(format);
+    }
+    cursor.endEditBlock();
+}
+
 double ScreenResolution()
 {
     constexpr double usual = 96; // pixels to the inch
@@ -56,18 +92,19 @@ double ScreenResolution()
 } // namespace
 
 PagedText::PagedText(const QTextDocument& text, QPaintDevice& device, const QSizeF& page)
-    : text_(text.clone()), page_(page)
+    : text_(text.clone()), page_(page), scale_(device.logicalDpiY() / ScreenResolution())
 {
-    const double scale = device.logicalDpiY() / ScreenResolution();
     text_->setUndoRedoEnabled(false);
     text_->setDefaultFont(FontForPaper(text.defaultFont()));
     text_->setDocumentMargin(0);
-    ScaleIndents(*text_, scale);
+    ScaleIndents(*text_, scale_);
+    ScaleLetterSpacing(*text_, scale_);
     text_->documentLayout()->setPaintDevice(&device);
     text_->setPageSize(page_);
-    FitPicturesToPages(*text_, scale);
+    FitPicturesToPages(*text_, scale_);
     KeepParagraphsTogether(*text_);
-    FitPicturesToPages(*text_, scale); // what moved may have brought a picture to a page's end
+    FitPicturesToPages(*text_, scale_); // what moved may have brought a picture to a page's end
+    lines_ = rtf::ExtraLines(*text_);
 }
 
 PagedText::~PagedText() = default;
@@ -86,8 +123,10 @@ void PagedText::PaintPage(int number, QPainter& painter, const QPointF& corner) 
     context.palette.setColor(QPalette::Text, Qt::black);
     painter.save();
     painter.translate(corner.x(), corner.y() - top);
-    painter.setClipRect(page);
+    const double line = scale_ * 2; // a table as wide as the page has half of its border outside
+    painter.setClipRect(page.adjusted(-line, 0, line, 0));
     text_->documentLayout()->draw(&painter, context);
+    lines_.Paint(painter, context.clip, Qt::black, scale_);
     painter.restore();
 }
 

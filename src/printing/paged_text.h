@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rtf/rtf_reader.h"
+
 #include <QSizeF>
 
 #include <memory>
@@ -30,6 +32,8 @@ public:
 private:
     std::unique_ptr<QTextDocument> text_;
     QSizeF page_;
+    rtf::ExtraLines lines_;
+    double scale_;
 };
 
 } // namespace torvik

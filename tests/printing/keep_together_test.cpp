@@ -7,6 +7,8 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include <cmath>
+
 using namespace torvik;
 
 /// Paragraphs that are to stand on one page.
@@ -41,7 +43,40 @@ private Q_SLOTS:
             QCOMPARE(block.blockFormat().pageBreakPolicy(), QTextFormat::PageBreak_Auto);
     }
 
+    void a_paragraph_that_stays_with_the_next_never_ends_a_page()
+    {
+        int moved = 0;
+        for (int before = 1; before < 60; ++before) {
+            QTextDocument kept;
+            QTextDocument free;
+            const QByteArray lines = QByteArray("line\\par ").repeated(before);
+            const QByteArray rest = "text\\line text\\par end\\par";
+            Lay(kept, lines + "\\pard\\keepn head\\par below\\par\\pard\\keep " + rest);
+            Lay(free, lines + "\\pard head\\par below\\par\\pard\\keep " + rest);
+            QCOMPARE(PageOf(kept, "head"), PageOf(kept, "below"));
+            QCOMPARE(PageOf(kept, "below"), PageOf(kept, "text"));
+            moved += PageOf(free, "head") != PageOf(free, "text") ? 1 : 0;
+        }
+        QVERIFY(moved > 0); // else no page ended there
+    }
+
+    void paragraphs_that_all_stay_with_the_next_and_fill_a_page_stay()
+    {
+        QTextDocument document;
+        Lay(document, "\\pard\\keepn " + QByteArray("line\\par ").repeated(300) + "end\\par");
+        QVERIFY(document.pageCount() < 14);
+    }
+
 private:
+    static double PageOf(const QTextDocument& document, const char* text)
+    {
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            if (block.text().startsWith(QLatin1StringView(text)))
+                return std::floor((document.documentLayout()->blockBoundingRect(block).top() + 0.5) /
+                                  document.pageSize().height());
+        }
+        return -1;
+    }
     static void Lay(QTextDocument& document, const QByteArray& body)
     {
         rtf::ReadRichText("{\\rtf1 " + body + "}", document);

@@ -7,6 +7,8 @@
 #include "ui/look/look.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTextBrowser>
@@ -15,11 +17,35 @@
 #include <QUrl>
 
 #include <memory>
+#include <utility>
 
 namespace torvik {
 
+/// The pane itself, which paints over its text what the layout leaves out.
+class RichTextBox::Pane : public QTextBrowser {
+public:
+    void SetExtraLines(rtf::ExtraLines lines) { lines_ = std::move(lines); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QTextBrowser::paintEvent(event);
+        if (lines_.IsEmpty())
+            return;
+        QPainter painter(viewport());
+        const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+        painter.translate(-scrolled);
+        constexpr double ownSize = 1;
+        lines_.Paint(painter, QRectF(event->rect()).translated(scrolled), palette().color(QPalette::Text),
+                     ownSize);
+    }
+
+private:
+    rtf::ExtraLines lines_;
+};
+
 RichTextBox::RichTextBox(Container& container, const QString& name, const Twips& design)
-    : Control(container, name, new QTextBrowser, design), pane_(static_cast<QTextBrowser*>(&Widget()))
+    : Control(container, name, new Pane, design), pane_(static_cast<Pane*>(&Widget()))
 {
     pane_->setOpenLinks(false);
     pane_->setUndoRedoEnabled(false);
@@ -42,11 +68,13 @@ void RichTextBox::SetFileName(const QString& path)
     rtf::ReadRichText(bytes, *document);
 
     pane_->setExtraSelections({});
+    pane_->SetExtraLines({});
     QTextDocument* shown = document.release();
     shown->setParent(pane_);
     const QPointer<QTextDocument> earlier = pane_->document(); // the pane's own first one it deletes itself
     pane_->setDocument(shown);
     delete earlier;
+    pane_->SetExtraLines(rtf::ExtraLines(*shown));
     // The pane has brought its cursor into view, a little below the top.
     pane_->verticalScrollBar()->setValue(0);
     pane_->horizontalScrollBar()->setValue(0);

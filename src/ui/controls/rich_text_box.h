@@ -5,7 +5,6 @@
 
 #include <QList>
 
-class QTextBrowser;
 class QTextCursor;
 class QTextDocument;
 
@@ -40,9 +39,11 @@ protected:
     bool ClicksByMouse() const override { return !onLink_; }
 
 private:
+    class Pane;
+
     QTextCursor CursorAt(qsizetype place) const;
 
-    QTextBrowser* pane_;
+    Pane* pane_;
     bool onLink_ = false; ///< the mouse was last let go over a link
     QString fileName_;
 };
