@@ -117,6 +117,18 @@ def volumes():
 
 
 def documents():
+    write(
+        "rtf",
+        "drawings.rtf",
+        HEAD
+        + rb"\pard a{\shp{\*\shpinst\shpleft0\shptop0\shpright900\shpbottom900{\sp{\sn shapeType}{\sv 3}}{\sp{\sn pVerticies}"
+        rb"{\sv 8;2;(0,0);(9,9)}}{\sp{\sn fillColor}{\sv 255}}{\shptxt in\par}}{\shprslt x}}{\shpgrp{\*\shpinst{\sp{\sn groupRight}"
+        rb"{\sv 9}}{\shp{\*\shpinst{\sp{\sn relRight}{\sv 9}}}}}}{\*\do\dobxpage\dptxbx{\dptxbxtext t\par}\dpx1\dpy1\dpxsize9"
+        rb"\dpysize9\dpline\dpptx0\dppty0\dpptx9\dppty9\dplinew15\dppolyline\dpptx1\dppty2}\absw900\posx9 f\par\pard\dropcapli2 D\par"
+        rb"\pard{\field{\*\fldinst IF {\field{\*\fldinst SEQ a}} > 1 \"y\" n}}{\field{\*\fldinst EQ \\\\o\\\\ad(\\\\s\\\\up 9(a),b)}}"
+        rb"{\field{\*\fldinst FORMDROPDOWN{\*\formfield{\fftype2\ffres1{\*\ffl a}{\*\ffl b}}}}}\trowd\trrh900\rtlrow\clvertalc\cellx900"
+        rb"\pard\intbl\tldot\tx300\tab\uldb u\cell\row\pard\keepn\par}",
+    )
     write("rtf", "characters.rtf", HEAD + rb"""\b bold\b0\i x\i0\ul u\ulnone\super s\nosupersub\cf1 c\highlight1 h\caps C
 \u8364?\u-10179?\u-8704?{\f2\'93\'fa}{\v hid}\par}""")
     write("rtf", "paragraphs.rtf", HEAD + rb"""\pard\qc\li720\fi-360\sb120\sl360\slmult1\tqr\tx2000 a\tab b\par
