@@ -12,7 +12,9 @@
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
+#include <QTextBlock>
 #include <QTextDocument>
+#include <QTextList>
 
 #include <algorithm>
 #include <cmath>
@@ -67,6 +69,20 @@ QList<QImage> PagesOf(const QByteArray& article)
     return pages;
 }
 
+/// The text with the marks of lists, which the document itself draws.
+QString TextOf(const QByteArray& article)
+{
+    QTextDocument document;
+    torvik::rtf::ReadRichText(article, document);
+    QString text;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (const QTextList* list = block.textList())
+            text += list->itemText(block) + u'\t';
+        text += block.text() + u'\n';
+    }
+    return text;
+}
+
 QImage SideBySide(const QImage& left, const QImage& right)
 {
     QImage both(paper.width() * 2 + gap, paper.height(), QImage::Format_RGB32);
@@ -106,7 +122,7 @@ int main(int argc, char** argv)
     const QByteArray article = file.readAll();
     if (wantsPairs)
         return WritePairs(article, words.at(3), words.mid(4));
-    const QByteArray text = torvik::rtf::PlainText(article).toUtf8();
+    const QByteArray text = TextOf(article).toUtf8();
     std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout);
     return 0;
 }

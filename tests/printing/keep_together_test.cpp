@@ -68,12 +68,13 @@ private Q_SLOTS:
     }
 
 private:
+    /// The page of the first line of the paragraph that begins with a text.
     static double PageOf(const QTextDocument& document, const char* text)
     {
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+            const double top = document.documentLayout()->blockBoundingRect(block).top();
             if (block.text().startsWith(QLatin1StringView(text)))
-                return std::floor((document.documentLayout()->blockBoundingRect(block).top() + 0.5) /
-                                  document.pageSize().height());
+                return std::floor((top + block.layout()->lineAt(0).y() + 0.5) / document.pageSize().height());
         }
         return -1;
     }

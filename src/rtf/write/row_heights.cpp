@@ -37,7 +37,7 @@ void Measure(const QTextTable& table, std::vector<Missing>& missing)
 {
     for (int row = 0; row < table.rows(); ++row) {
         double wanted = 0;
-        Missing highest;
+        int highest = 0;
         double height = -1;
         for (int column = 0; column < table.columns(); ++column) {
             const QTextTableCell cell = table.cellAt(row, column);
@@ -49,13 +49,12 @@ void Measure(const QTextTable& table, std::vector<Missing>& missing)
             const double here = HeightOf(cell, *table.document());
             if (here > height) {
                 height = here;
-                highest.cell = cell;
+                highest = column;
             }
             column += cell.columnSpan() - 1;
         }
-        highest.pixels = wanted - height;
-        if (height >= 0 && highest.pixels >= 0.5)
-            missing.push_back(highest);
+        if (height >= 0 && wanted - height >= 0.5)
+            missing.push_back({table.cellAt(row, highest), wanted - height});
     }
 }
 

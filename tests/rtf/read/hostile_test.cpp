@@ -131,7 +131,9 @@ private Q_SLOTS:
             QCOMPARE(ParagraphsIn(*table, column), 1);
         // The last cell takes what there is no column for, as far as the document may grow.
         QVERIFY(ParagraphsIn(*table, 63) > 1);
-        QCOMPARE(read.result.paragraphs, 63 + ParagraphsIn(*table, 63));
+        // What waits for its table costs more than what is written, so there is room for the end again.
+        QCOMPARE(read.document->lastBlock().text(), u"x"_s);
+        QCOMPARE(read.result.paragraphs, 63 + ParagraphsIn(*table, 63) + 1);
     }
 
     void rows_that_inherit_a_wide_definition()
