@@ -107,7 +107,8 @@ QSize SizeOf(const Value& size)
 /// A coat as a list, and back.
 Value ListOf(const Coat& coat)
 {
-    return Value::List{static_cast<int>(coat.kind), coat.colour, coat.rays, coat.rayFrom};
+    return Value::List{static_cast<double>(coat.kind), coat.colour, static_cast<double>(coat.rays),
+                       coat.rayFrom};
 }
 
 Coat CoatOf(const Value& list)
