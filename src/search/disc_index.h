@@ -37,7 +37,7 @@ struct IndexAnswer {
 struct IndexProgress {
     qsizetype Read = 0;
     qsizetype Total = 0;
-    qsizetype LeftOut = 0; ///< could not be read, or holds nothing
+    qsizetype LeftOut = 0; ///< could not be read, or hold no word
     bool IsDone = false;
     bool IsUsable = true; ///< false where there is no SQLite with full text
 };

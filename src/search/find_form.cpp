@@ -2,7 +2,7 @@
 #include "search/bind_search.h"
 #include "search/finder.h"
 #include "ui/forms/event.h"
-#include "ui/forms/screen.h"
+#include "ui/forms/units.h"
 #include "windows/find_window.h"
 #include "windows/main_window.h"
 
@@ -42,9 +42,8 @@ QString TextOfProgress(const IndexProgress& progress)
         return u"The disc is gone: %1 of %2 were not read"_s.arg(progress.LeftOut).arg(progress.Total);
     if (!progress.IsDone)
         return u"Reading %1 of %2"_s.arg(progress.Read).arg(progress.Total);
-    if (progress.LeftOut > 0)
-        return u"%1 could not be read"_s.arg(progress.LeftOut);
-    return {};
+    const qsizetype lacking = progress.LeftOut + finder->Missing();
+    return lacking > 0 ? u"%1 are missing or cannot be read"_s.arg(lacking) : QString();
 }
 
 /// The last count stands until the next answer comes, as the list does.

@@ -84,11 +84,4 @@ void Finder::News()
     news();
 }
 
-IndexProgress Finder::Progress() const
-{
-    IndexProgress progress = index_->Progress();
-    progress.LeftOut += missing_;
-    return progress;
-}
-
 } // namespace torvik

@@ -25,7 +25,9 @@ public:
 
     void Ask(const QString& question) { index_->Ask(question); }
     std::optional<IndexAnswer> TakeAnswer() { return index_->TakeAnswer(); }
-    IndexProgress Progress() const;
+    IndexProgress Progress() const { return index_->Progress(); }
+    /// How many articles that the screens ask for are not on the disc.
+    int Missing() const { return missing_; }
     /// True when the disc went away before all of it was read.
     bool IsDiscGone() const { return isDiscGone_; }
     const Findable& Entry(qsizetype entry) const { return findables_[entry]; }

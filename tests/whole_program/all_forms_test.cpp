@@ -172,7 +172,10 @@ private:
         if (form == u"Form2"_s)
             return Words("Image1 SSPanel1 Picture3");
         if (form == u"txtForm"_s)
-            return Words("rtbText SSCommand1 cmdPrint SSCommand2 SSCommand3");
+            return Words("rtbText SSCommand1 cmdPrint SSCommand2 SSCommand3 panFind txtFindText "
+                         "cmdFindBefore cmdFindNext lblFindText");
+        if (form == u"frmFind"_s)
+            return Words("txtFind lstFound lblFound ProgressGuage cmdOpen cmdClose");
         if (form == u"frmSlide"_s)
             return Words("Image1 pnlPhotoNumber panYear panInterval SSCommand1 SSCommand2 PnlCoStar "
                          "StatusDate StatusDay StatusTime cmdExit") +
@@ -232,17 +235,19 @@ private:
             {"optMovie(", {QAccessible::RadioButton}},
             {"Check1(", {QAccessible::CheckBox}},
             {"List1(", {QAccessible::List}},
+            {"lst", {QAccessible::List}},
             {"Text", {QAccessible::EditableText}},
-            {"txtFile", {QAccessible::EditableText}},
+            {"txt", {QAccessible::EditableText}},
             {"rtb", {QAccessible::StaticText}},
             {"Label", {QAccessible::StaticText}},
-            {"lblSound(", {QAccessible::StaticText}},
+            {"lbl", {QAccessible::StaticText}},
             {"HScroll1", {QAccessible::ScrollBar}},
             {"VScroll1", {QAccessible::ScrollBar}},
             {"ProgressGuage", {QAccessible::ProgressBar}},
             {"pnlPhotoNumber", {QAccessible::StaticText}},
             {"pnl", {QAccessible::Grouping}},
             {"panAbout", {QAccessible::Grouping}},
+            {"panFind", {QAccessible::Grouping}},
             {"SSPanel1", {QAccessible::StaticText, QAccessible::Grouping}}, // carries a picture on two forms
             {"SSPanel", {QAccessible::StaticText}},
             {"pan", {QAccessible::StaticText}},

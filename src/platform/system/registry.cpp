@@ -1,5 +1,6 @@
 #include "platform/system/registry.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace torvik {
@@ -9,11 +10,12 @@ namespace {
 RegistryQuery machinesRegistry;
 
 /// The bytes from the last to the first, each without a leading zero: 0x0105 reads as 0x15, as it always has.
-QString NumberOfBytes(const QByteArray& bytes)
+QString NumberOfBytes(QByteArray bytes)
 {
+    std::reverse(bytes.begin(), bytes.end());
     QString digits;
-    for (auto byte = bytes.crbegin(); byte != bytes.crend(); ++byte)
-        digits += QString::number(static_cast<unsigned char>(*byte), 16);
+    for (const char byte : bytes)
+        digits += QString::number(static_cast<unsigned char>(byte), 16);
     return QString::number(digits.toULongLong(nullptr, 16));
 }
 

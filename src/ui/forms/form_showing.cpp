@@ -160,6 +160,7 @@ void Form::ShowModal()
     if (owner != nullptr && owner->WindowState() == State::Maximized && AreEqual(owner->place_, place_)) {
         state_ = State::Maximized;
         plainFrame_ = owner->plainFrame_;
+        window_->windowHandle()->setFlag(Qt::WindowMaximizeButtonHint); // without it some managers refuse
     }
     ComeUp();
     MakeChange();

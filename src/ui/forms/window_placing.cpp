@@ -192,7 +192,9 @@ void Form::Watch()
 void Form::Settle()
 {
     const bool onScreen = window_->isVisible() && !window_->isMinimized();
-    if (onScreen && !window_->windowHandle()->isExposed() && !unsettledUntil_.hasExpired()) {
+    // On the way from maximized to full screen some desktops stay in between for a moment.
+    const bool isOnTheWay = placing_ && covering_ && !window_->isFullScreen();
+    if (onScreen && (isOnTheWay || !window_->windowHandle()->isExposed()) && !unsettledUntil_.hasExpired()) {
         settling_->start(calm);
         return;
     }

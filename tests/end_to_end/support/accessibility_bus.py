@@ -5,6 +5,7 @@ from gi.repository import Gio, GLib
 _ANSWER_TIME = 20_000  # milliseconds; a machine under load answers late
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"
+ACTION = "org.a11y.atspi.Action"
 COMPONENT = "org.a11y.atspi.Component"
 
 

@@ -138,11 +138,14 @@ class DesktopCase(ProgramTest):
         self.assert_show_on_main_window()
 
     def check_slide_show_over_maximized_window(self):
+        at_once = MAXIMIZED <= self.screen.states_of(self.main)  # because it fills the screen
         self.screen.change_state(self.main, "add,maximized_vert,maximized_horz")
         wait_until(lambda: MAXIMIZED <= self.screen.states_of(self.main), "the maximized window")
         wait_until(lambda: self.frame(self.main) == self.screen.work_area(),
                    lambda: f"{self.screen.work_area()}; it is {self.frame(self.main)}")
         self.assert_show_on_main_window()
+        if at_once:
+            return
         self.screen.change_state(self.main, "remove,maximized_vert,maximized_horz")
         wait_until(lambda: not MAXIMIZED & self.screen.states_of(self.main), "the ordinary window")
 
@@ -157,13 +160,17 @@ class DesktopCase(ProgramTest):
     def check_saved_place(self):
         if self.fits:
             self.screen.move_window(self.main, 16, 27)
+            wait_until(lambda: self.frame(self.main).left == 16, "the new place")
         place = self.frame(self.main)
         self.program.click("Exit", window=MAIN_TITLE)
         self.assertEqual(self.program.wait_for_end(), 0)
         self.program = self.start(self.screen, self.disc.folder)
         self.program.start_browsing()
         self.main = self.window(MAIN_TITLE)
-        wait_until(lambda: self.frame(self.main) == place,
-                   lambda: f"the saved place {place}; it is {self.frame(self.main)}")
+        if self.screen.work_area().holds(place):
+            wait_until(lambda: self.frame(self.main) == place,
+                       lambda: f"the saved place {place}; it is {self.frame(self.main)}")
+        else:  # a manager may maximize a window that is larger than the screen
+            self.assertEqual((self.frame(self.main).left, self.frame(self.main).top), (place.left, place.top))
         self.program.click("Exit", window=MAIN_TITLE)
         self.assertEqual(self.program.wait_for_end(), 0)

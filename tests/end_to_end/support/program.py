@@ -8,7 +8,7 @@ from dataclasses import dataclass
 from pathlib import Path
 
 from support.session import home_variables
-from support.spoken import read_elements
+from support.spoken import activate_element, read_elements
 from support.waiting import PATIENCE, wait_until
 
 MAIN_TITLE = "The Torvik Vollandry    2001"
@@ -46,7 +46,7 @@ class Program:
         self._scale = scale
         home.mkdir(exist_ok=True)
         surroundings = {**screen.environment, **home_variables(home), "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-                        "CUPS_SERVER": NO_PRINTERS}
+                        "CUPS_SERVER": NO_PRINTERS, **getattr(screen, "own_variables", {})}
         if scale != 1:
             surroundings["QT_SCALE_FACTOR"] = str(scale)
         self._process = subprocess.Popen(
@@ -143,6 +143,12 @@ class Program:
 
     def click_photo(self, button=1):
         self.click(self.view().photo, role="graphic", button=button)
+
+    def activate(self, name, role="push button", window=None):
+        """Presses as a screen reader does, without a mouse."""
+        self._wait(lambda: (found := self.find(name, role, window)) is not None and found.enabled,
+                   f"{role} {name!r} to be enabled", PATIENCE)
+        activate_element(self.find(name, role, window))
 
     def press(self, *keys):
         self.screen.press_key(*keys)

@@ -3,7 +3,9 @@
 from dataclasses import dataclass
 from functools import cache
 
-from support.accessibility_bus import ACCESSIBLE, AccessibilityBus, name_question, place_question
+from gi.repository import GLib
+
+from support.accessibility_bus import ACCESSIBLE, ACTION, AccessibilityBus, name_question, place_question
 
 # Numbers of the states in the two words that an element answers with.
 _ENABLED, _FOCUSED, _SHOWING = 8, 12, 25
@@ -20,6 +22,7 @@ class Element:
     height: float
     enabled: bool
     focused: bool
+    accessible: tuple = None  # the object on the accessibility bus
 
     @property
     def middle(self):
@@ -52,6 +55,11 @@ def read_elements(process, scale=1.0):
     return elements
 
 
+def activate_element(element):
+    """Has the element do what a press does."""
+    _bus().ask([(element.accessible, ACTION, "DoAction", GLib.Variant("(i)", (0,)))])
+
+
 def _children(accessibles):
     answers = _bus().ask([(accessible, ACCESSIBLE, "GetChildren", None) for accessible in accessibles])
     return [answer or [] for answer in answers]
@@ -74,7 +82,7 @@ def _read_level(level, scale, elements):
             continue
         title = name if window is None else window
         elements.append(Element(name, role, title, *(pixels * scale for pixels in place),
-                                enabled=bool(state & 1 << _ENABLED), focused=bool(state & 1 << _FOCUSED)))
+                                enabled=bool(state & 1 << _ENABLED), focused=bool(state & 1 << _FOCUSED), accessible=accessible))
         below.append((accessible, title))
     families = _children([accessible for accessible, _ in below])
     return [(child, title) for (_, title), family in zip(below, families) for child in family]
