@@ -41,7 +41,7 @@ private Q_SLOTS:
         } catch (const std::runtime_error& failure) {
             const QString told = QString::fromUtf8(failure.what());
             QVERIFY2(told.startsWith(u"Drawing \"board_face\""), failure.what());
-            QVERIFY2(told.endsWith(u"An unknown word: fillbox"), failure.what());
+            QVERIFY2(told.endsWith(u"An unknown word: rgb"), failure.what());
         }
     }
 
