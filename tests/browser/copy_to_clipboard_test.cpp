@@ -205,6 +205,7 @@ private:
     void OpenKinds()
     {
         Kinds->Show();
+        program_->Settle();
         Kinds->Window().activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&Kinds->Window()));
     }

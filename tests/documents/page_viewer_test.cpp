@@ -333,6 +333,7 @@ private:
         frmScroll->picChild.Load(u"G:\\ads\\67brto00.jpg"_s);
         frmScroll->Image1.Load(u"G:\\ads\\67brto00.jpg"_s);
         frmScroll->Show();
+        program_->Settle();
         frmScroll->Window().activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&frmScroll->Window()));
         program_->Settle();

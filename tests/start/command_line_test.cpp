@@ -76,7 +76,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("problem");
         const auto drive = [](const QString& text) {
-            return u"--drive takes a letter from D to Z and a folder, such as E=/media/disc; not \"%1\"."_s
+            return u"--drive takes a letter from D to Z and a folder or a disc image, such as E=/media/disc; not \"%1\"."_s
                 .arg(text);
         };
         QTest::newRow("letter C") << QStringList{u"--drive"_s, u"C=/x"_s} << drive(u"C=/x"_s);

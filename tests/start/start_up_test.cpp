@@ -10,6 +10,10 @@
 #include "windows/main_window.h"
 #include "windows/splash.h"
 
+#include <QLoggingCategory>
+
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
@@ -24,25 +28,33 @@ void LowerPhoto(Form1Controls& form)
         form.Image4.SetHeight(400);
 }
 
-/// A disc that is not there at first, and is taken out again as soon as the splash comes back after a Retry.
-class DiscLostWithSplash : public QObject {
+/// A drive that is empty at first and loses its disc once, in the moment after the search has found it there:
+/// the search notes in its log what it finds.
+class DiscLostWhenFound {
 public:
-    explicit DiscLostWithSplash(Program& program) : program_(program)
+    explicit DiscLostWhenFound(Program& program)
     {
-        program_.PutDiscIn({});
-        qApp->installEventFilter(this);
+        program_ = &program;
+        program.PutDiscIn({});
+        QLoggingCategory::setFilterRules(u"torvik.disc.debug=true"_s);
+        qInstallMessageHandler(Note);
     }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
+    ~DiscLostWhenFound()
     {
-        if (event->type() == QEvent::Show && watched->objectName() == u"Form2"_s && ++shows_ == 2)
-            program_.PutDiscIn({});
-        return false;
+        qInstallMessageHandler(nullptr);
+        QLoggingCategory::setFilterRules({});
     }
+    DiscLostWhenFound(const DiscLostWhenFound&) = delete;
+    DiscLostWhenFound& operator=(const DiscLostWhenFound&) = delete;
 
 private:
-    Program& program_;
-    int shows_ = 0;
+    static void Note(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text)
+    {
+        if (text.contains(u" has photos"_s) && program_ != nullptr)
+            std::exchange(program_, nullptr)->PutDiscIn({});
+    }
+
+    static inline Program* program_ = nullptr;
 };
 
 } // namespace
@@ -199,7 +211,7 @@ private Q_SLOTS:
 
     void photos_that_cannot_be_listed_are_asked_about_and_retry_goes_on()
     {
-        const DiscLostWithSplash lost(*program_);
+        const DiscLostWhenFound lost(*program_);
         program_->Messages.Answer(msgbox::answerRetry); // ER001: no disc yet
         program_->Messages.Answer(msgbox::answerRetry); // ER037: gone again
         QStringList codes;
@@ -215,7 +227,7 @@ private Q_SLOTS:
 
     void cancel_on_photos_that_cannot_be_listed_ends_with_the_splash_up()
     {
-        const DiscLostWithSplash lost(*program_);
+        const DiscLostWhenFound lost(*program_);
         program_->Messages.Answer(msgbox::answerRetry);
         program_->Messages.Answer(msgbox::answerCancel);
         bool splash = false;

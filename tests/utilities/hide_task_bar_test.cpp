@@ -58,18 +58,6 @@ private Q_SLOTS:
         QVERIFY(!Form1->CoversScreen());
     }
 
-    void a_users_own_change_of_size_brings_the_bar_back()
-    {
-        Form1->mnuHideStatus.Click.Fire();
-        program_->Settle();
-        QVERIFY(Form1->CoversScreen());
-        Form1->Window().resize(Form1->Window().width() - 50, Form1->Window().height() - 40);
-        program_->Settle();
-        QCOMPARE(Form1->mnuHideStatus.Caption(), u"HideStatusBar"_s);
-        QVERIFY(!Form1->CoversScreen());
-        QCOMPARE(state.ApiResult, 0); // it was hidden before
-    }
-
     void the_same_size_again_leaves_the_bar_hidden()
     {
         Form1->mnuHideStatus.Click.Fire();

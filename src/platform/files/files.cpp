@@ -134,18 +134,20 @@ QString FindFile(const QString& patternOrPath)
         return first;
     }
     const Place place = PlaceOf(patternOrPath);
-    EntryStatus status;
-    ResumeNext([&] { status = place.On->Status(place.Path); });
-    if (!status.IsFile)
+    // A flag of its own: GCC 12 drops the initial value of a structure that a call would have filled but for
+    // its failure.
+    bool isFile = false;
+    ResumeNext([&] { isFile = place.On->Status(place.Path).IsFile; });
+    if (!isFile)
         return {};
     return NameFromHost(std::string_view(place.Path).substr(place.Path.rfind('/') + 1));
 }
 
 bool FileExists(const QString& path)
 {
-    EntryStatus status;
-    ResumeNext([&] { status = EntryAt(path); });
-    return status.IsFile;
+    bool isFile = false;
+    ResumeNext([&] { isFile = EntryAt(path).IsFile; });
+    return isFile;
 }
 
 qint64 FileLength(const QString& path)
