@@ -104,10 +104,10 @@ private Q_SLOTS:
 
     void every_document_keeps_an_inch_from_the_edges()
     {
-        QString long_;
+        QString wordy;
         for (int count = 0; count < 300; ++count)
-            long_ += u"Words enough to fill lines and pages. "_s;
-        run_->User.Disc.AddDocument(u"67desc.rtf"_s, long_);
+            wordy += u"Words enough to fill lines and pages. "_s;
+        run_->User.Disc.AddDocument(u"67desc.rtf"_s, wordy);
         run_->Print({box::description}, "1967", "1967");
         const QSizeF paper = run_->Printed.Paper(1);
         const QRectF ink = InkOf(run_->Printed.Image(1, 1));
