@@ -66,7 +66,7 @@ double PressSound()
 /// show and some more have passed.
 double LongestBlock()
 {
-    MediaControl& device = frmMovie->MMControl1.Device;
+    MediaControl& device = frmMovie->MMControl1.device;
     double longest = bench::Milliseconds([] { frmMovie->optMovie(1).Click.Fire(); });
     longest = std::max(longest, bench::Milliseconds([&] { device.Command(u"play"_s); }));
     while (device.Position() < 200)

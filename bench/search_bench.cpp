@@ -75,7 +75,7 @@ public:
 
     void WaitForEnd()
     {
-        while (!index_.Progress().IsDone)
+        while (!index_.Progress().isDone)
             news_.acquire();
     }
 
@@ -84,8 +84,8 @@ public:
         index_.TakeAnswer();
         index_.Ask(words);
         for (;;) {
-            if (const auto answer = index_.TakeAnswer(); answer && answer->Question == words)
-                return answer->Count;
+            if (const auto answer = index_.TakeAnswer(); answer && answer->question == words)
+                return answer->count;
             news_.acquire();
         }
     }
@@ -118,6 +118,7 @@ double SlowestQuery(Index& index)
     double slowest = 0;
     for (const QString& words : typed) {
         std::vector<double> times;
+        times.reserve(rounds);
         for (int round = 0; round < rounds; ++round)
             times.push_back(bench::Milliseconds([&] { index.Find(words); }));
         slowest = std::max(slowest, bench::Median(times));
@@ -192,10 +193,12 @@ int main(int argc, char** argv)
     std::vector<double> bare;
     std::vector<double> once;
     std::vector<double> tenfold;
+    for (std::vector<double>* times : {&bare, &once, &tenfold})
+        times->reserve(rounds);
     for (int round = 0; round < rounds; ++round) {
         bare.push_back(ProcessorSeconds([&] {
             for (const IndexedText& text : Documents(1))
-                letters += rtf::PlainText(text.Read()).size();
+                letters += rtf::PlainText(text.read()).size();
         }));
     }
     for (int round = 0; round < rounds; ++round)

@@ -19,11 +19,11 @@ namespace {
 
 /// What a step changes before it has found a photo.
 struct Cursor {
-    Integer PhotoIndex;
-    bool SkipFirstPhoto;
-    bool SteppedForward;
-    bool SteppedBackward;
-    QString YearCode;
+    Integer photoIndex;
+    bool skipFirstPhoto;
+    bool steppedForward;
+    bool steppedBackward;
+    QString yearCode;
 
     static Cursor Now()
     {
@@ -32,11 +32,11 @@ struct Cursor {
     }
     void PutBack() const
     {
-        state.PhotoIndex = PhotoIndex;
-        state.SkipFirstPhoto = SkipFirstPhoto;
-        state.SteppedForward = SteppedForward;
-        state.SteppedBackward = SteppedBackward;
-        state.YearCode = YearCode;
+        state.PhotoIndex = photoIndex;
+        state.SkipFirstPhoto = skipFirstPhoto;
+        state.SteppedForward = steppedForward;
+        state.SteppedBackward = steppedBackward;
+        state.YearCode = yearCode;
     }
 };
 

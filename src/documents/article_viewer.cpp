@@ -5,6 +5,7 @@
 #include "platform/files/files.h"
 #include "printing/rich_text_printing.h"
 #include "program/box_title.h"
+#include "program/catalogue/other_files.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
@@ -54,17 +55,11 @@ void cmdPrint_Click()
     MsgBox(u"Printing complete!"_s, msgbox::exclamation, boxTitle);
 }
 
-/// The narration of what the main window shows. The second test asks for a document although a folder stands
-/// there, so it never holds.
+/// The narration of what the main window shows.
 QString NarrationFile()
 {
-    QString file = state.DiscRoot + u"\\wav\\"_s;
     const QString title = Form1->panYear.Caption();
-    if (title == nothingChosen || file == u"intro.rtf"_s)
-        file += u"intro.wav"_s;
-    else
-        file += title + u".wav"_s;
-    return file;
+    return state.DiscRoot + (title == nothingChosen ? startNarration : NarrationOf(title));
 }
 
 void PlayNarration()

@@ -37,7 +37,7 @@ QString MovieOfList(int index)
 void BeginCopying()
 {
     Screen.SetMousePointer(MousePointer::Hourglass);
-    state.CopyRemaining = PresentCopyJob().Size;
+    state.CopyRemaining = PresentCopyJob().size;
     Form1->SetEnabled(false);
 }
 
@@ -46,7 +46,7 @@ void BeginCopying()
 /// then the failure is shown like that of a file.
 void CopyFileOfList(QString (*nameOf)(int index))
 {
-    const QString& folder = PresentCopyJob().Folder;
+    const QString& folder = PresentCopyJob().folder;
     const auto workOut = [&] {
         state.CopySource = nameOf(state.LoopIndex);
         state.CopyTarget = ProgramFolder() + folder + state.CopySource;
@@ -70,7 +70,7 @@ void EndCopying()
     Form1->ProgressGuage2.SetFloodPercent(100);
     Form1->ProgressGuage2.SetCaption(100);
     Screen.SetMousePointer(MousePointer::Default);
-    state.MessageText = PresentCopyJob().Done;
+    state.MessageText = PresentCopyJob().done;
     state.MessageAnswer = QString::number(MsgBox(state.MessageText, msgbox::exclamation, boxTitle));
     Form1->SetEnabled(true);
 }

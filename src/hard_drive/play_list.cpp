@@ -2,6 +2,7 @@
 #include "hard_drive/copy_file.h"
 #include "platform/files/file_changes.h"
 #include "platform/paths/program_folder.h"
+#include "program/catalogue/other_files.h"
 #include "program/keep_on_top.h"
 #include "program/play_list_buttons.h"
 #include "program/program_state.h"
@@ -27,7 +28,7 @@ void frmSSPhoto_Load()
 QString ShownFile()
 {
     if (Form1->panYear.Caption() == nothingChosen)
-        return ProgramFolder() + u"\\graphics\\ClassicTorviks.jpg"_s;
+        return ProgramFolder() + pictureOfAll;
     return state.CurrentPhotoFile;
 }
 

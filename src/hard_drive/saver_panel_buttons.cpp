@@ -8,6 +8,7 @@
 #include "platform/system/saver_agreement.h"
 #include "platform/system/settings_store.h"
 #include "program/catalogue/articles.h"
+#include "program/catalogue/other_files.h"
 #include "program/panel_over_year_bar.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
@@ -130,7 +131,7 @@ void SSCommand4_Click()
 void ShowHelp()
 {
     const QString folder = state.DiscRoot + u"\\richtext\\"_s;
-    const QString document = FindFile(folder + u"sshelp.rtf"_s);
+    const QString document = FindFile(state.DiscRoot + saverHelp);
     if (document.isEmpty()) {
         ReportError();
         return;

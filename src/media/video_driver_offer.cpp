@@ -1,6 +1,7 @@
 #include "media/video_driver_offer.h"
 
 #include "media/bind_media.h"
+#include "program/catalogue/other_files.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "program/run_and_wait.h"
@@ -22,7 +23,7 @@ const QString question = u"If you are experiencing difficulties running the Torv
 void Install()
 {
     Form1->SetEnabled(false);
-    RunAndWait(state.DiscRoot + u"\\IndeoVideo\\iv5play.exe"_s);
+    RunAndWait(state.DiscRoot + movieDriver);
     Form1->SetEnabled(true);
 }
 

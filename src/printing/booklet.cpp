@@ -2,6 +2,7 @@
 
 #include "printing/rich_text_printing.h"
 #include "program/box_title.h"
+#include "program/catalogue/booklet.h"
 #include "program/catalogue/pictures.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
@@ -17,8 +18,6 @@ using namespace Qt::StringLiterals;
 namespace torvik {
 
 namespace {
-
-const QString textFolder = u"\\RichText\\"_s;
 
 constexpr int margin = 1440; // twips
 
@@ -54,25 +53,19 @@ int RangeNumber(const QString& year)
     return digits.isEmpty() ? 0 : static_cast<int>(ToNumber(digits));
 }
 
-/// How the files of a year begin.
-QString YearPrefix(int number)
-{
-    return number < 100 ? QString::number(number) : u"A%1"_s.arg(number - 100);
-}
-
 /// The job stays open: the first document behind the cover continues it.
 void PrintCover()
 {
     for (const CoverPicture& picture : CoverPictures()) {
-        Form1->Picture3.Load(state.DiscRoot + QString::fromLatin1(picture.File));
-        Printer.PaintPicture(Form1->Picture3.Picture(), picture.X, picture.Y);
+        Form1->Picture3.Load(state.DiscRoot + QString::fromLatin1(picture.file));
+        Printer.PaintPicture(Form1->Picture3.Picture(), picture.x, picture.y);
     }
     Printer.NewPage();
 }
 
-void PrintDocument(const QString& name)
+void PrintDocument(const QString& file)
 {
-    state.DocumentFile = state.DiscRoot + textFolder + name;
+    state.DocumentFile = state.DiscRoot + file;
     Form1->rtbText.SetFileName(state.DocumentFile);
     PrintRichText(Form1->rtbText, margin, margin, margin, margin);
 }
@@ -81,12 +74,12 @@ void PrintDocument(const QString& name)
 void PrintYear(const QString& prefix)
 {
     if (IsTicked(box::description))
-        PrintDocument(prefix + u"desc.rtf"_s);
+        PrintDocument(BookletDescription(prefix));
     if (!IsTicked(box::details))
         return;
-    PrintDocument(prefix + u"opts.rtf"_s);
-    PrintDocument(prefix + u"stats.rtf"_s);
-    PrintDocument(prefix + u"colors.rtf"_s);
+    const QStringList details = BookletDetails(prefix);
+    for (const QString& file : details)
+        PrintDocument(file);
 }
 
 void Refuse(const QString& code)
@@ -108,7 +101,7 @@ bool PrintYears(int from, int to)
         return false;
     }
     for (int number = from; number <= to; ++number)
-        PrintYear(YearPrefix(number));
+        PrintYear(BookletPrefix(number));
     return true;
 }
 
@@ -126,7 +119,7 @@ void PrintWhatIsTicked(int from, int to)
     if (IsTicked(box::cover))
         PrintCover();
     if (IsTicked(box::introduction))
-        PrintDocument(u"introduction.rtf"_s);
+        PrintDocument(BookletIntroduction());
     if (!WantsYears() || PrintYears(from, to))
         SayThatItIsPrinted();
 }

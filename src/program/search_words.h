@@ -12,9 +12,9 @@ namespace torvik {
 
 /// One thing that is looked for: a word, or several that stand in a row.
 struct SearchTerm {
-    QStringList Words;        ///< without letter case and accents; never empty
-    bool IsBeginning = false; ///< the last word may go on: "scoop" for "scoops"
-    bool IsExcluded = false;  ///< what holds it is not wanted
+    QStringList words;        ///< without letter case and accents; never empty
+    bool isBeginning = false; ///< the last word may go on: "scoop" for "scoops"
+    bool isExcluded = false;  ///< what holds it is not wanted
 };
 
 /// What a person typed, as terms. Blanks part the words; quotes hold several together, a closing one may be

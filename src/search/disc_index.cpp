@@ -4,6 +4,7 @@
 #include "runtime/failure.h"
 #include "search/text_index.h"
 
+#include <QCoreApplication>
 #include <QThreadPool>
 
 #include <chrono>
@@ -23,12 +24,18 @@ constexpr qsizetype mostHits = 100;                ///< that are given with thei
 constexpr qsizetype lineLength = 110;              ///< as much as the form has room for
 constexpr std::chrono::milliseconds freshFor{120}; ///< an answer, while more is read
 
-/// Threads of an index that is gone may still wait for a disc; the program's end waits for them.
+/// Threads of an index that is gone may still wait for a disc. The program's end waits for them while there
+/// is still an application: later the toolkit's list of databases, which they leave, is gone as well.
 QThreadPool& Threads()
 {
     static QThreadPool pool;
-    constexpr int many = 16;
-    pool.setMaxThreadCount(many);
+    static const bool isAwaited = [] {
+        constexpr int many = 16;
+        pool.setMaxThreadCount(many);
+        qAddPostRoutine([] { pool.waitForDone(); });
+        return true;
+    }();
+    Q_UNUSED(isAwaited)
     return pool;
 }
 
@@ -36,7 +43,7 @@ QThreadPool& Threads()
 QString TextOf(const IndexedText& entry)
 {
     try {
-        return rtf::PlainText(entry.Read());
+        return rtf::PlainText(entry.read());
     } catch (const RunTimeError&) {
         return {};
     } catch (const std::bad_alloc&) {
@@ -55,15 +62,15 @@ bool IsEmpty(const QString& text)
 
 /// What the index and its thread share; each keeps it alive.
 struct DiscIndex::Shared {
-    QList<IndexedText> Entries;
-    std::function<void()> News;
+    QList<IndexedText> entries;
+    std::function<void()> news;
 
-    mutable std::mutex Mutex;
-    std::condition_variable Changed;
-    bool Over = false; ///< the index is gone
-    std::optional<QString> Question;
-    std::optional<IndexAnswer> Answer;
-    IndexProgress Progress;
+    mutable std::mutex mutex;
+    std::condition_variable changed;
+    bool over = false; ///< the index is gone
+    std::optional<QString> question;
+    std::optional<IndexAnswer> answer;
+    IndexProgress progress;
 
     void Work();
 
@@ -71,8 +78,8 @@ private:
     bool ReadAll(TextIndex& index);
     void AnswerQuestions(TextIndex& index);
     std::optional<QString> NextQuestion(bool readMore);
-    IndexAnswer AnswerTo(const QString& question, TextIndex& index) const;
-    void Give(IndexAnswer answer);
+    IndexAnswer AnswerTo(const QString& words, TextIndex& index) const;
+    void Give(IndexAnswer given);
     /// Calls `change` with the lock held, then tells of it; false once the index is gone.
     template <typename Change>
     bool Tell(Change&& change);
@@ -85,11 +92,11 @@ private:
 template <typename Change>
 bool DiscIndex::Shared::Tell(Change&& change)
 {
-    const std::lock_guard lock(Mutex);
-    if (Over)
+    const std::lock_guard lock(mutex);
+    if (over)
         return false;
     change();
-    News();
+    news();
     return true;
 }
 
@@ -99,8 +106,8 @@ void DiscIndex::Shared::Work()
     TextIndex index;
     if (!index.IsUsable()) {
         Tell([this] {
-            Progress.IsUsable = false;
-            Progress.IsDone = true;
+            progress.isUsable = false;
+            progress.isDone = true;
         });
         return;
     }
@@ -110,101 +117,101 @@ void DiscIndex::Shared::Work()
 
 bool DiscIndex::Shared::ReadAll(TextIndex& index)
 {
-    for (const IndexedText& entry : std::as_const(Entries)) {
-        const QString text = entry.Read ? TextOf(entry) : QString();
-        const bool isLeftOut = entry.Read && IsEmpty(text);
+    for (const IndexedText& entry : std::as_const(entries)) {
+        const QString text = entry.read ? TextOf(entry) : QString();
+        const bool isLeftOut = entry.read && IsEmpty(text);
         texts_.push_back(text);
         if (!isLeftOut)
-            index.Add(static_cast<int>(texts_.size()), entry.Title, text);
+            index.Add(static_cast<int>(texts_.size()), entry.title, text);
         if (!Tell([&] {
-                ++Progress.Read;
-                Progress.LeftOut += isLeftOut ? 1 : 0;
+                ++progress.read;
+                progress.leftOut += isLeftOut ? 1 : 0;
             }))
             return false;
-        if (const auto question = NextQuestion(true))
-            Give(AnswerTo(*question, index));
+        if (const auto next = NextQuestion(true))
+            Give(AnswerTo(*next, index));
     }
     index.Commit();
     if (!asked_.isEmpty())
         Give(AnswerTo(asked_, index));
-    return Tell([this] { Progress.IsDone = true; });
+    return Tell([this] { progress.isDone = true; });
 }
 
 void DiscIndex::Shared::AnswerQuestions(TextIndex& index)
 {
-    while (const auto question = NextQuestion(false))
-        Give(AnswerTo(*question, index));
+    while (const auto next = NextQuestion(false))
+        Give(AnswerTo(*next, index));
 }
 
 /// While more is read: a new question, or the last one once its answer has grown old; nothing when there is
 /// neither. Afterwards waits for a new one; nothing when the index is gone.
 std::optional<QString> DiscIndex::Shared::NextQuestion(bool readMore)
 {
-    std::unique_lock lock(Mutex);
+    std::unique_lock lock(mutex);
     if (!readMore)
-        Changed.wait(lock, [this] { return Over || Question; });
-    if (Over)
+        changed.wait(lock, [this] { return over || question; });
+    if (over)
         return std::nullopt;
-    if (Question)
-        return asked_ = *std::exchange(Question, std::nullopt);
+    if (question)
+        return asked_ = *std::exchange(question, std::nullopt);
     const bool isOld = !asked_.isEmpty() && Time::now() - answeredAt_ >= freshFor;
     return isOld ? std::optional(asked_) : std::nullopt;
 }
 
-IndexAnswer DiscIndex::Shared::AnswerTo(const QString& question, TextIndex& index) const
+IndexAnswer DiscIndex::Shared::AnswerTo(const QString& words, TextIndex& index) const
 {
-    const QList<SearchTerm> terms = SearchTermsOf(question);
+    const QList<SearchTerm> terms = SearchTermsOf(words);
     const QList<int> numbers = index.Find(terms);
-    IndexAnswer answer;
-    answer.Question = question;
-    answer.Count = numbers.size();
+    IndexAnswer found;
+    found.question = words;
+    found.count = numbers.size();
     for (const int number : numbers.mid(0, mostHits)) {
         const auto entry = static_cast<std::size_t>(number) - 1;
-        answer.Best.append(
+        found.best.append(
             {static_cast<qsizetype>(entry), LineAroundFirstHit(texts_[entry], terms, lineLength)});
     }
-    return answer;
+    return found;
 }
 
-void DiscIndex::Shared::Give(IndexAnswer answer)
+void DiscIndex::Shared::Give(IndexAnswer given)
 {
     answeredAt_ = Time::now();
-    Tell([&] { Answer = std::move(answer); });
+    Tell([&] { answer = std::move(given); });
 }
 
 DiscIndex::DiscIndex(QList<IndexedText> texts, std::function<void()> news)
     : shared_(std::make_shared<Shared>())
 {
-    shared_->Entries = std::move(texts);
-    shared_->News = std::move(news);
-    shared_->Progress.Total = shared_->Entries.size();
+    shared_->entries = std::move(texts);
+    shared_->news = std::move(news);
+    shared_->progress.total = shared_->entries.size();
     Threads().start([shared = shared_] { shared->Work(); });
 }
 
 DiscIndex::~DiscIndex()
 {
-    const std::lock_guard lock(shared_->Mutex);
-    shared_->Over = true;
-    shared_->Changed.notify_all();
+    const std::lock_guard lock(shared_->mutex);
+    shared_->over = true;
+    shared_->changed.notify_all();
 }
 
 void DiscIndex::Ask(const QString& question)
 {
-    const std::lock_guard lock(shared_->Mutex);
-    shared_->Question = question;
-    shared_->Changed.notify_all();
+    const std::lock_guard lock(shared_->mutex);
+    shared_->question = question;
+    shared_->changed.notify_all();
 }
 
 std::optional<IndexAnswer> DiscIndex::TakeAnswer()
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return std::exchange(shared_->Answer, std::nullopt);
+    const std::lock_guard lock(shared_->mutex);
+    return std::exchange(shared_->answer, std::nullopt);
 }
 
 IndexProgress DiscIndex::Progress() const
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return shared_->Progress;
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->progress;
 }
 
 } // namespace torvik

@@ -14,32 +14,32 @@ namespace torvik {
 
 /// One thing that can be found, as the index takes it.
 struct IndexedText {
-    QString Title; ///< searched too, and weighs more than the text
+    QString title; ///< searched too, and weighs more than the text
     /// Gives the bytes of the rich text. It runs on the index's own thread and tells by a RunTimeError what
     /// cannot be read. None for what has a title only.
-    std::function<QByteArray()> Read;
+    std::function<QByteArray()> read;
 };
 
 /// One thing that was found.
 struct IndexHit {
-    qsizetype Entry = 0; ///< which of the texts, counted from 0
-    FoundLine Line;
+    qsizetype entry = 0; ///< which of the texts, counted from 0
+    FoundLine line;
 };
 
 /// What came of a question.
 struct IndexAnswer {
-    QString Question;
-    qsizetype Count = 0;
-    QList<IndexHit> Best; ///< the best of them first
+    QString question;
+    qsizetype count = 0;
+    QList<IndexHit> best; ///< the best of them first
 };
 
 /// How far the reading is.
 struct IndexProgress {
-    qsizetype Read = 0;
-    qsizetype Total = 0;
-    qsizetype LeftOut = 0; ///< could not be read, or hold no word
-    bool IsDone = false;
-    bool IsUsable = true; ///< false where there is no SQLite with full text
+    qsizetype read = 0;
+    qsizetype total = 0;
+    qsizetype leftOut = 0; ///< could not be read, or hold no word
+    bool isDone = false;
+    bool isUsable = true; ///< false where there is no SQLite with full text
 };
 
 /// The texts of a disc, read and searched on a thread of its own: bytes go in, words come out through one

@@ -9,17 +9,17 @@ namespace torvik {
 
 /// One thing that can be found on the disc.
 struct Findable {
-    QString Title; ///< as the window that shows it is titled
-    QString Place; ///< where a person finds it by hand: "1969 > Description"
-    QString File;  ///< the document, as a drive path; empty for what has a title alone
+    QString title; ///< as the window that shows it is titled
+    QString place; ///< where a person finds it by hand: "1969 > Description"
+    QString file;  ///< the document, as a drive path; empty for what has a title alone
     /// Shows it as its button or menu entry does; a document is searched for `words`, and marked.
-    std::function<void(const QString& words)> Open;
+    std::function<void(const QString& words)> open;
 };
 
 /// What there is to be found.
 struct FoundCatalogue {
-    QList<Findable> Findables;
-    int Missing = 0; ///< articles that a button or menu entry asks for and the disc has not
+    QList<Findable> findables;
+    int missing = 0; ///< articles that a button or menu entry asks for and the disc has not
 };
 
 /// All that the screens can show of the disc in the drive, by the tables that the screens themselves go by:

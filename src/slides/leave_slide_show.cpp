@@ -47,7 +47,7 @@ void FitFocusToTitle()
 {
     const QString title = Form1->panYear.Caption();
     const Topic* topic = BrowsedTopicOf(title);
-    if (topic != nullptr && !topic->KeepsYearButtons)
+    if (topic != nullptr && !topic->keepsYearButtons)
         FitButtonsToTopic();
     if (topic != nullptr || title == YearOfButton(yearCount)) {
         Form1->cmdYR(1).SetFocus();
@@ -72,7 +72,7 @@ void LeaveWithPhoto()
     state.CurrentYearButton = 0;
     FitFocusToTitle();
     if (const Topic* topic = TopicOf(Form1->panYear.Caption()))
-        state.YearCode = QString::fromLatin1(topic->Code);
+        state.YearCode = QString::fromLatin1(topic->code);
     state.SlideShowOpen = false;
     state.PhotoIndex -= 1;
 }

@@ -3,6 +3,7 @@
 #include "browser/browse_from_start.h"
 #include "browser/restore_main_window.h"
 #include "browser/select_year.h"
+#include "program/catalogue/other_files.h"
 #include "program/catalogue/topics.h"
 #include "program/program_state.h"
 #include "program/task_bar.h"
@@ -23,7 +24,7 @@ void Form1_Load()
 {
     Form1Controls& form = *Form1;
     form.mnuMag(1).SetCaption(DoubleAmpersands(form.mnuMag(1).Caption()));
-    state.DocumentFile = state.DiscRoot + u"\\richtext\\desc.rtf"_s;
+    state.DocumentFile = state.DiscRoot + startDocument;
     Screen.SetMousePointer(MousePointer::Default);
     Form2.Unload();
     form.Frame1.ZOrder();
@@ -58,7 +59,7 @@ void ReturnFromSlideShow()
         Form1->Image4.Show();
     RestoreMainWindow();
     if (const Topic* topic = BrowsedTopicOf(Form1->panYear.Caption()))
-        state.YearCode = QString::fromLatin1(topic->Code);
+        state.YearCode = QString::fromLatin1(topic->code);
 }
 
 void Form1_Activate()

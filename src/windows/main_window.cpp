@@ -37,13 +37,13 @@ CommonDialogDesign DesignOfCommonDialog()
 } // namespace
 
 Form1Controls::Form1Controls()
-    : Form({.Name = u"Form1"_s,
-            .Caption = u"The Torvik Vollandry    2001"_s,
-            .ClientWidth = 12060,
-            .ClientHeight = 8385,
-            .Border = FormBorder::Sizable,
-            .ScaleMode = Scale::Pixels,
-            .HasMenu = true}),
+    : Form({.name = u"Form1"_s,
+            .caption = u"The Torvik Vollandry    2001"_s,
+            .clientWidth = 12060,
+            .clientHeight = 8385,
+            .border = FormBorder::Sizable,
+            .scaleMode = Scale::Pixels,
+            .hasMenu = true}),
       Form1Menu(static_cast<Form&>(*this)), SaverPanel(static_cast<Form&>(*this)),
       ProgressPanel(static_cast<Form&>(*this)), PrintPanel(static_cast<Form&>(*this)),
       SoundPanel(static_cast<Form&>(*this)),

@@ -72,13 +72,18 @@ ControlArray<Label> MakeLabels(Panel& panel)
     ControlArray<Label> labels(u"lblSound"_s);
     for (int index = 0; index < soundCount; ++index) {
         const Twips button = PlaceOfButton(index);
-        labels.Add(index, panel, Twips{button.Left + 510, button.Top, 1680, button.Height},
+        labels.Add(index, panel, Twips{button.left + 510, button.top, 1680, button.height},
                    soundLabels[index]);
     }
     return labels;
 }
 
 } // namespace
+
+QString SoundLabel(int index)
+{
+    return soundLabels[index];
+}
 
 SoundPanel::SoundPanel(Form& form)
     : pnlSound(form, u"pnlSound"_s, {2000, 1200, 7980, 5580}),

@@ -11,6 +11,9 @@ namespace torvik {
 /// The panel of sound effects has this many buttons, from index 0 on.
 inline constexpr int soundCount = 29;
 
+/// What is written beside a button.
+QString SoundLabel(int index);
+
 /// The work panel with the sound effects; hidden over the browsing view.
 ///
 ///   +----------------------------------------------------+

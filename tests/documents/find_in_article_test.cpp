@@ -58,8 +58,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddDocument(u"some.rtf"_s, u"A Red car, a red hood, "_s +
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddDocument(u"some.rtf"_s, u"A Red car, a red hood, "_s +
                                                       u"more of it\\par "_s.repeated(200) +
                                                       u"and a redder roof."_s);
         program_->StartBrowsing();
@@ -200,7 +200,7 @@ private Q_SLOTS:
 
     void thousands_of_hits_are_marked_at_once()
     {
-        program_->Disc.AddDocument(u"many.rtf"_s, u"red "_s.repeated(6000));
+        program_->disc.AddDocument(u"many.rtf"_s, u"red "_s.repeated(6000));
         Open(u"many.rtf"_s);
         Type(u"red "_s);
         QCOMPARE(txtForm->lblFindText.Caption(), u"1 of 5000"_s);

@@ -57,7 +57,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         printed_ = std::make_unique<PrintFolder>();
     }
     void cleanup()
@@ -247,7 +247,7 @@ private Q_SLOTS:
 
     void a_file_that_is_no_rich_text_prints_in_readable_letters()
     {
-        program_->Disc.AddFile(u"RichText/plain.rtf"_s, "HHH without any format");
+        program_->disc.AddFile(u"RichText/plain.rtf"_s, "HHH without any format");
         PrintFile(u"plain.rtf"_s, 1440, 1440, 1440, 1440);
         const QRectF ink = InkOf(printed_->Image(1, 1));
         QVERIFY2(ink.height() >= 5 * pixel, qPrintable(QString::number(ink.height())));
@@ -327,7 +327,7 @@ private Q_SLOTS:
 private:
     void Print(const QByteArray& rtf, int left = 1440, int top = 1440, int right = 1440, int bottom = 1440)
     {
-        program_->Disc.AddFile(u"RichText/text.rtf"_s,
+        program_->disc.AddFile(u"RichText/text.rtf"_s,
                                "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs24 " + rtf + "}");
         PrintFile(u"text.rtf"_s, left, top, right, bottom);
     }

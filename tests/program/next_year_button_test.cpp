@@ -16,7 +16,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
         Form1->cmdYR(1).SetEnabled(true);
         Form1->cmdYR(20).SetFocus();

@@ -9,8 +9,8 @@ namespace {
 /// A term as a short text: "-" excluded, "*" open, words joined by "+".
 QString Told(const SearchTerm& term)
 {
-    return (term.IsExcluded ? u"-"_s : QString()) + term.Words.join(u'+') +
-           (term.IsBeginning ? u"*"_s : QString());
+    return (term.isExcluded ? u"-"_s : QString()) + term.words.join(u'+') +
+           (term.isBeginning ? u"*"_s : QString());
 }
 
 QString TermsOf(const QString& typed)
@@ -26,7 +26,7 @@ QStringList Found(const QString& typed, const QString& text, qsizetype most = 10
 {
     QStringList pieces;
     for (const TextRange& place : PlacesOf(SearchTermsOf(typed), text, most))
-        pieces.append(text.mid(place.Begin, place.Length));
+        pieces.append(text.mid(place.begin, place.length));
     return pieces;
 }
 
@@ -91,7 +91,7 @@ private Q_SLOTS:
             typed.append(u"w%1"_s.arg(word));
         QCOMPARE(SearchTermsOf(typed.join(u' ')).size(), 64);
         QCOMPARE(SearchTermsOf(typed.join(u'-')).size(), 1);
-        QCOMPARE(SearchTermsOf(typed.join(u'-')).first().Words.size(), 64);
+        QCOMPARE(SearchTermsOf(typed.join(u'-')).first().words.size(), 64);
     }
 
     void exclusions_alone_look_for_nothing()

@@ -11,14 +11,14 @@ namespace {
 
 class TestStage : public Stage {
 public:
-    explicit TestStage(const QSize& size) : Size(size) {}
+    explicit TestStage(const QSize& size) : size(size) {}
 
-    QSize Pixels() const override { return Size; }
+    QSize Pixels() const override { return size; }
     Fade& Shown() override { return fade_; }
-    void Refresh() override { ++Refreshes; }
+    void Refresh() override { ++refreshes; }
 
-    QSize Size;
-    int Refreshes = 0;
+    QSize size;
+    int refreshes = 0;
 
 private:
     Fade fade_;
@@ -64,7 +64,7 @@ private Q_SLOTS:
         QCOMPARE(show.Advance(1800), 4200);
         QCOMPARE(show.Advance(5999), 1);
         QCOMPARE(show.Advance(6000), 33);
-        QCOMPARE(stage.Refreshes, 6);
+        QCOMPARE(stage.refreshes, 6);
     }
 
     void the_passage_takes_no_more_than_half_of_a_short_interval()
@@ -165,7 +165,7 @@ private Q_SLOTS:
         Show show({5000, drive});
         show.SetStages({&stage});
         show.Advance(0);
-        stage.Size = {60, 200};
+        stage.size = {60, 200};
         show.StageResized(stage);
         QCOMPARE(stage.Shown().Frame().size(), QSize(60, 200));
         QVERIFY(IsRed(stage.Shown().Frame().pixelColor(30, 100)));

@@ -2,6 +2,7 @@
 #include "search/disc_index.h"
 #include "support/test_class.h"
 
+#include <QScopeGuard>
 #include <QSemaphore>
 
 using namespace Qt::StringLiterals;
@@ -38,21 +39,21 @@ private Q_SLOTS:
         DiscIndex index(SomeTexts(), [] {});
         QVERIFY(WaitForEnd(index));
         const IndexAnswer answer = AnswerTo(index, u"hood scoop"_s);
-        QCOMPARE(answer.Question, u"hood scoop"_s);
-        QCOMPARE(answer.Count, 1);
-        QCOMPARE(answer.Best.first().Entry, 0);
-        QCOMPARE(answer.Best.first().Line.Text, u"The hood scoop is painted."_s);
-        QCOMPARE(answer.Best.first().Line.Found, QList<TextRange>({{4, 4}, {9, 5}}));
+        QCOMPARE(answer.question, u"hood scoop"_s);
+        QCOMPARE(answer.count, 1);
+        QCOMPARE(answer.best.first().entry, 0);
+        QCOMPARE(answer.best.first().line.text, u"The hood scoop is painted."_s);
+        QCOMPARE(answer.best.first().line.found, QList<TextRange>({{4, 4}, {9, 5}}));
     }
 
     void what_has_a_title_only_is_found_by_it()
     {
         DiscIndex index(SomeTexts(), [] {});
-        const IndexAnswer answer = AnswerTo(index, u"glider"_s, [&] { return index.Progress().IsDone; });
-        QCOMPARE(answer.Count, 1);
-        QCOMPARE(answer.Best.first().Entry, 2);
-        QCOMPARE(answer.Best.first().Line.Text, QString());
-        QCOMPARE(index.Progress().LeftOut, 0);
+        const IndexAnswer answer = AnswerTo(index, u"glider"_s, [&] { return index.Progress().isDone; });
+        QCOMPARE(answer.count, 1);
+        QCOMPARE(answer.best.first().entry, 2);
+        QCOMPARE(answer.best.first().line.text, QString());
+        QCOMPARE(index.Progress().leftOut, 0);
     }
 
     void the_progress_counts_what_was_read_and_what_was_left_out()
@@ -65,13 +66,13 @@ private Q_SLOTS:
         DiscIndex index(texts, [] {});
         QVERIFY(WaitForEnd(index));
         const IndexProgress progress = index.Progress();
-        QCOMPARE(progress.Read, 7);
-        QCOMPARE(progress.Total, 7);
-        QCOMPARE(progress.LeftOut, 4);
-        QVERIFY(progress.IsUsable);
+        QCOMPARE(progress.read, 7);
+        QCOMPARE(progress.total, 7);
+        QCOMPARE(progress.leftOut, 4);
+        QVERIFY(progress.isUsable);
         // What could not be read is found by nothing, its title included.
-        QCOMPARE(AnswerTo(index, u"failing"_s).Count, 0);
-        QCOMPARE(AnswerTo(index, u"hood"_s).Count, 2);
+        QCOMPARE(AnswerTo(index, u"failing"_s).count, 0);
+        QCOMPARE(AnswerTo(index, u"hood"_s).count, 2);
     }
 
     void a_damaged_article_is_found_by_what_there_is_of_it()
@@ -79,23 +80,33 @@ private Q_SLOTS:
         DiscIndex index({{u"Cut"_s, [] { return QByteArray("{\\rtf1\\ansi {\\b The hood scoop is pain"); }}},
                         [] {});
         QVERIFY(WaitForEnd(index));
-        QCOMPARE(AnswerTo(index, u"scoop"_s).Count, 1);
+        QCOMPARE(AnswerTo(index, u"scoop"_s).count, 1);
     }
 
     void questions_are_answered_while_more_is_read()
     {
+        auto asked = std::make_shared<QSemaphore>();
         auto gate = std::make_shared<QSemaphore>();
+        const auto openInAnyCase = qScopeGuard([asked, gate] {
+            asked->release();
+            gate->release();
+        });
         QList<IndexedText> texts = SomeTexts();
+        texts.append({u"Slow"_s, [asked] {
+                          asked->acquire();
+                          return QByteArray("{\\rtf1 slow words}");
+                      }});
         texts.append({u"Late"_s, [gate] {
                           gate->acquire();
                           return QByteArray("{\\rtf1 a late hood}");
                       }});
         texts.append(Text(u"Last"_s, "words"));
         DiscIndex index(texts, [] {});
+        QTRY_COMPARE(index.Progress().read, 3);
         index.Ask(u"hood"_s);
-        const IndexAnswer early = NextAnswer(index);
-        QVERIFY(early.Count >= 1 && early.Count <= 2);
-        QVERIFY(!index.Progress().IsDone);
+        asked->release();
+        QCOMPARE(NextAnswer(index).count, 2);
+        QVERIFY(!index.Progress().isDone);
         gate->release();
         QVERIFY(WaitForEnd(index));
         QTRY_COMPARE(LastCount(index), 3); // answered again, without another question
@@ -108,7 +119,7 @@ private Q_SLOTS:
         index.TakeAnswer();
         for (const QString& question : {u"h"_s, u"ho"_s, u"hoo"_s, u"glossary"_s})
             index.Ask(question);
-        QCOMPARE(AnswerOf(index, u"glossary"_s).Count, 1);
+        QCOMPARE(AnswerOf(index, u"glossary"_s).count, 1);
         QVERIFY(!index.TakeAnswer().has_value());
     }
 
@@ -120,8 +131,8 @@ private Q_SLOTS:
         DiscIndex index(texts, [] {});
         QVERIFY(WaitForEnd(index));
         const IndexAnswer answer = AnswerTo(index, u"car"_s);
-        QCOMPARE(answer.Count, 150);
-        QCOMPARE(answer.Best.size(), 100);
+        QCOMPARE(answer.count, 150);
+        QCOMPARE(answer.best.size(), 100);
     }
 
     void news_are_told_until_the_end_and_never_after_it()
@@ -149,13 +160,13 @@ private Q_SLOTS:
     {
         DiscIndex index({}, [] {});
         QVERIFY(WaitForEnd(index));
-        QCOMPARE(AnswerTo(index, u"hood"_s).Count, 0);
+        QCOMPARE(AnswerTo(index, u"hood"_s).count, 0);
     }
 
 private:
     static bool WaitForEnd(const DiscIndex& index)
     {
-        return QTest::qWaitFor([&] { return index.Progress().IsDone; }, 20'000);
+        return QTest::qWaitFor([&] { return index.Progress().isDone; }, 20'000);
     }
 
     static IndexAnswer NextAnswer(DiscIndex& index)
@@ -168,7 +179,7 @@ private:
     static IndexAnswer AnswerOf(DiscIndex& index, const QString& question)
     {
         IndexAnswer answer = NextAnswer(index);
-        while (answer.Question != question && answer.Count >= 0)
+        while (answer.question != question && answer.count >= 0)
             answer = NextAnswer(index);
         return answer;
     }
@@ -191,7 +202,7 @@ private:
     {
         static qsizetype last = -1;
         if (const auto answer = index.TakeAnswer())
-            last = answer->Count;
+            last = answer->count;
         return last;
     }
 };

@@ -42,8 +42,8 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         ForgetSettings();
-        program_->Disc.AddGroup(u"67"_s, 3);
-        program_->Disc.AddGroup(u"68"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"68"_s, 2);
     }
     void cleanup()
     {
@@ -183,7 +183,7 @@ private Q_SLOTS:
         program_->StartBrowsing();
         state.TrayWindow = FindWindowByClass(u"Shell_TrayWnd"_s);
         ShowWindow(state.TrayWindow, showWindow::hide);
-        program_->Disc.AddFile(u"wav/x.wav"_s, "RIFF");
+        program_->disc.AddFile(u"wav/x.wav"_s, "RIFF");
         Form1->MMControl1.SetFileName(u"G:\\wav\\x.wav"_s);
         Form1->MMControl1.Command(u"open"_s);
         Form1->mnuExit.Click.Fire();
@@ -197,11 +197,11 @@ private Q_SLOTS:
         program_->StartBrowsing();
         state.TrayWindow = FindWindowByClass(u"Shell_TrayWnd"_s);
         ShowWindow(state.TrayWindow, showWindow::hide);
-        program_->Disc.Remove(u"Torviks"_s);
+        program_->disc.Remove(u"Torviks"_s);
         program_->PutDiscIn({});
         program_->DoubleClick(Form1->panPhoto);
         QVERIFY(ProgramIsEnding());
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER037"_s));
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER037"_s));
         QVERIFY(Form1->CoversScreen());
         QCOMPARE(Saved(u"MainLeft"_s), u"(none)"_s);
     }

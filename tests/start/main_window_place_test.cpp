@@ -37,7 +37,7 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         ForgetSettings();
-        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"67"_s, 3);
     }
     void cleanup()
     {
@@ -72,9 +72,9 @@ private Q_SLOTS:
     {
         SavePlace(u"MainTop"_s, u"somewhere"_s);
         program_->StartBrowsing();
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(
-            program_->Messages.Last().Text,
+            program_->messages.Last().text,
             u"Run-time error '13':\r\n\r\nType mismatch\r\n\r\n"
             "The setting \"MainTop\" holds \"somewhere\" instead of a number. Correct it or delete its line, "
             "in the section [Settings] of the file\r\n"_s +
@@ -107,7 +107,7 @@ private Q_SLOTS:
         else
             Form1->Window().close();
         QVERIFY(ProgramIsEnding());
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
         QCOMPARE(SavedPlace(u"MainLeft"_s), u"450"_s);
         QCOMPARE(SavedPlace(u"MainTop"_s), u"600"_s);
         QCOMPARE(SavedPlace(u"MainWidth"_s), u"11250"_s);
@@ -143,7 +143,7 @@ private Q_SLOTS:
 
         program_.reset();
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"67"_s, 3);
         program_->StartBrowsing();
         QTRY_VERIFY(!Form1->IsSettling());
         QCOMPARE(Form1->WindowState(), Form::State::Normal);

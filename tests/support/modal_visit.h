@@ -13,7 +13,7 @@ namespace torvik {
 /// instead of hanging.
 class ModalVisit {
 public:
-    ModalVisit(std::function<void()> action, std::function<void()> giveUp)
+    ModalVisit(const std::function<void()>& action, const std::function<void()>& giveUp)
     {
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, action, giveUp] {
             if (QApplication::activeModalWidget() == nullptr)

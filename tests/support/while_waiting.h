@@ -9,7 +9,7 @@ namespace torvik {
 /// Runs `action` once, from inside the next loop that lets events run in which `begun` says yes.
 class WhileWaiting {
 public:
-    WhileWaiting(std::function<bool()> begun, std::function<void()> action)
+    WhileWaiting(const std::function<bool()>& begun, const std::function<void()>& action)
     {
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, begun, action] {
             if (!begun())

@@ -62,6 +62,12 @@ class LintTest(unittest.TestCase):
     def test_ui_includes_no_subsystem(self):
         self.assert_caught("src/ui/forms/a.cpp", '\n#include "windows/main_window.h"\n', "ui/forms may not include windows")
 
+    def test_the_reader_of_rich_text_has_one_door(self):
+        self.assert_caught("src/documents/a.cpp", '#include "rtf/model/style.h"\n',
+                           "from outside rtf only rtf/rtf_reader.h is included")
+        self.assert_clean({"src/documents/a.cpp": '#include "rtf/rtf_reader.h"\n',
+                           "src/rtf/write/a.cpp": '#include "rtf/model/style.h"\n'})
+
     def test_a_subsystem_includes_none_above_it(self):
         self.assert_caught("src/windows/a.cpp", '#include "program/program_state.h"\n', "windows may not include program")
         self.assert_caught("src/browser/a.cpp", '#include "slides/slide_steps.h"\n', "browser may not include slides")

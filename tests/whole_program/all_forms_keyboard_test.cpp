@@ -38,7 +38,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"67"_s, 3);
         program_->Start();
     }
     void cleanup() { program_.reset(); }
@@ -154,7 +154,7 @@ private:
             QVERIFY2(walk.contains(widget->objectName()),
                      qPrintable(widget->objectName() + u" is not in "_s + walk.join(u' ')));
         }
-        QVERIFY(expected > 0 || form.Design().Name == u"Form2"_s);
+        QVERIFY(expected > 0 || form.Design().name == u"Form2"_s);
     }
 
     std::unique_ptr<Program> program_;

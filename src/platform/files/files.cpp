@@ -1,11 +1,11 @@
 #include "platform/files/files.h"
 
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/folder_index.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/matching_names.h"
 #include "platform/paths/name_pattern.h"
-#include "platform/paths/path_lookup.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
 
@@ -31,7 +31,7 @@ constexpr qint64 firstRoom = qint64{64} * 1024 * 1024;
 EntryStatus EntryAt(const QString& path)
 {
     const Place place = PlaceOf(path);
-    return place.On->Status(place.Path);
+    return place.on->Status(place.path);
 }
 
 /// A number that is the same for names that differ in letter case alone, and mostly for no others.
@@ -73,7 +73,7 @@ void DropCaseClashes(std::vector<std::string>& names)
 /// The whole content of a file; on any thread.
 QByteArray ContentOf(const Place& place)
 {
-    const std::unique_ptr<OpenFile> file = place.On->Open(place.Path);
+    const std::unique_ptr<OpenFile> file = place.on->Open(place.path);
     if (file->Length() > largestContent)
         Fail(failure::outOfMemory);
     try {
@@ -104,9 +104,9 @@ QString MarkInImage(const QString& path)
     QString mark;
     ResumeNext([&] {
         const Place place = PlaceOf(path);
-        const EntryStatus status = place.On->Status(place.Path);
-        if (status.IsFolder)
-            mark = u"%1 %2"_s.arg(reinterpret_cast<quintptr>(place.On.get())).arg(status.Written);
+        const EntryStatus status = place.on->Status(place.path);
+        if (status.isFolder)
+            mark = u"%1 %2"_s.arg(reinterpret_cast<quintptr>(place.on.get())).arg(status.written);
     });
     return mark;
 }
@@ -115,7 +115,7 @@ QString MarkInImage(const QString& path)
 
 QStringList FilesMatching(const QString& pattern)
 {
-    std::vector<std::string> names = NamesMatching(pattern).Names;
+    std::vector<std::string> names = NamesMatching(pattern).names;
     DropCaseClashes(names);
     QStringList texts;
     texts.reserve(static_cast<qsizetype>(names.size()));
@@ -128,7 +128,7 @@ QString FindFile(const QString& patternOrPath)
 {
     if (NamePattern::HasWildcards(QStringView(patternOrPath).mid(BeginOfName(patternOrPath)))) {
         const QStringList names = FilesMatching(patternOrPath);
-        const QString first = names.isEmpty() ? QString() : names.first();
+        QString first = names.isEmpty() ? QString() : names.first();
         qCDebug(logFiles, "%s: %d found%s%s", qUtf8Printable(patternOrPath), int(names.size()),
                 first.isEmpty() ? "" : ", the first is ", qUtf8Printable(first));
         return first;
@@ -137,25 +137,25 @@ QString FindFile(const QString& patternOrPath)
     // A flag of its own: GCC 12 drops the initial value of a structure that a call would have filled but for
     // its failure.
     bool isFile = false;
-    ResumeNext([&] { isFile = place.On->Status(place.Path).IsFile; });
+    ResumeNext([&] { isFile = place.on->Status(place.path).isFile; });
     if (!isFile)
         return {};
-    return NameFromHost(std::string_view(place.Path).substr(place.Path.rfind('/') + 1));
+    return NameFromHost(std::string_view(place.path).substr(place.path.rfind('/') + 1));
 }
 
 bool FileExists(const QString& path)
 {
     bool isFile = false;
-    ResumeNext([&] { isFile = EntryAt(path).IsFile; });
+    ResumeNext([&] { isFile = EntryAt(path).isFile; });
     return isFile;
 }
 
 qint64 FileLength(const QString& path)
 {
     const EntryStatus status = EntryAt(path);
-    if (!status.IsFile)
+    if (!status.isFile)
         Fail(failure::fileNotFound);
-    return status.Length;
+    return status.length;
 }
 
 QByteArray ReadFile(const QString& path)

@@ -29,10 +29,10 @@ public:
 
 /// What is known of a file or folder that is not open.
 struct EntryStatus {
-    bool IsFile = false; ///< neither a folder nor a device, a pipe or the like
-    bool IsFolder = false;
-    qint64 Length = 0;  ///< bytes
-    qint64 Written = 0; ///< seconds since 1970
+    bool isFile = false; ///< neither a folder nor a device, a pipe or the like
+    bool isFolder = false;
+    qint64 length = 0;  ///< bytes
+    qint64 written = 0; ///< seconds since 1970
 };
 
 /// What a drive letter stands for: a folder of the host, or the image of a disc. A path inside is bytes,
@@ -69,8 +69,8 @@ public:
 
 /// A file or folder, or where one is yet to be made.
 struct Place {
-    std::shared_ptr<const Volume> On;
-    std::string Path; ///< as it is spelled there
+    std::shared_ptr<const Volume> on;
+    std::string path; ///< as it is spelled there
 };
 
 } // namespace torvik

@@ -11,8 +11,8 @@ inline constexpr const char* narrowTitle = "The Torvik Vollandry     ";
 
 /// A document and the window title that belongs to it.
 struct Article {
-    QString File; ///< under the disc's root, "\richtext\67desc.rtf"
-    QString WindowTitle;
+    QString file; ///< under the disc's root, "\richtext\67desc.rtf"
+    QString windowTitle;
 };
 
 /// The buttons that look an article up before they open it.

@@ -33,7 +33,7 @@ protected:
 
 ScrollBar::ScrollBar(Container& container, const QString& name, const Twips& design)
     : Control(container, name,
-              new ScrollBarWidget(design.Width >= design.Height ? Qt::Horizontal : Qt::Vertical), design),
+              new ScrollBarWidget(design.width >= design.height ? Qt::Horizontal : Qt::Vertical), design),
       bar_(static_cast<QScrollBar*>(&Widget()))
 {
     bar_->setRange(0, max_);

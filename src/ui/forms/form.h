@@ -35,13 +35,13 @@ enum class FormBorder {
 
 /// What a form is at design.
 struct FormDesign {
-    QString Name;
-    QString Caption;
-    double ClientWidth = 0;  ///< twips
-    double ClientHeight = 0; ///< twips
-    FormBorder Border = FormBorder::Fixed;
-    Scale ScaleMode = Scale::Twips;
-    bool HasMenu = false;
+    QString name;
+    QString caption;
+    double clientWidth = 0;  ///< twips
+    double clientHeight = 0; ///< twips
+    FormBorder border = FormBorder::Fixed;
+    Scale scaleMode = Scale::Twips;
+    bool hasMenu = false;
 };
 
 /// A top-level window with its controls. A form derives from it as a struct of named controls.
@@ -130,7 +130,7 @@ public:
     void Adopt(QObject& unseen);
 
     QWidget& Host() override;
-    Scale ScaleMode() const override { return design_.ScaleMode; }
+    Scale ScaleMode() const override { return design_.scaleMode; }
     Form& OwnerForm() override { return *this; }
     FormWindow& Window() { return *window_; }
     const FormDesign& Design() const { return design_; }
@@ -240,7 +240,7 @@ private:
 /// moment. While the Load runs, a touch gives the form as it is; if the Load itself unloaded the form, the
 /// next touch in it makes the form anew without a second Load.
 template <typename T>
-class FormHandle : public FormHandleBase {
+class FormHandle final : public FormHandleBase {
 public:
     using Binder = std::function<void(T&)>;
 

@@ -29,8 +29,8 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
 {
     InstallSpokenRoles();
     const FormDesign& design = form.Design();
-    setObjectName(design.Name);
-    switch (design.Border) {
+    setObjectName(design.name);
+    switch (design.border) {
     case FormBorder::None:
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
         break;
@@ -42,7 +42,7 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
         setWindowFlags(Qt::Window);
         break;
     }
-    if (design.HasMenu) {
+    if (design.hasMenu) {
         menuBar_ = new QMenuBar(this);
         menuBar_->setNativeMenuBar(false);
         menuBar_->setFixedHeight(menuHeight);

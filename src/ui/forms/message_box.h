@@ -39,9 +39,9 @@ bool MessageBoxStandsOver(const Form& form);
 
 /// A box that was asked for.
 struct MessageRequest {
-    QString Text;
-    int Style = 0;
-    QString Title; ///< as shown, so never empty
+    QString text;
+    int style = 0;
+    QString title; ///< as shown, so never empty
 };
 
 /// Answers boxes in place of the user, for the tests: no box is shown while a responder is set.

@@ -34,9 +34,9 @@ public:
     const QString& FileName() const { return fileName_; }
 
     /// Kept as they are set: nothing notifies, and no command waits or shares.
-    bool Notify = false;
-    bool Wait = false;
-    bool Shareable = false;
+    bool notify = false;
+    bool wait = false;
+    bool shareable = false;
 
     /// hWndDisplay: the control that pictures are shown on, from now on also those of a movie that is open
     /// already; null for none. Pictures fill it as far as their proportions allow.
@@ -61,7 +61,7 @@ public:
     void Seek(qint64 place);
 
     /// The mode, the position or the length has changed.
-    Event<> Changed;
+    Event<> changed;
 
 private:
     void Open();

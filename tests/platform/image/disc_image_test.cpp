@@ -26,10 +26,10 @@ namespace {
 void TakePaths(const DiscImage& image, std::size_t folder, const QString& in, QStringList& paths)
 {
     for (const ImageEntry& entry : image.Folders()[folder]) {
-        const QString path = in + QString::fromStdString(entry.Name);
-        paths.append(entry.IsFolder ? path + u'/' : path);
-        if (entry.IsFolder)
-            TakePaths(image, entry.Folder, path + u'/', paths);
+        const QString path = in + QString::fromStdString(entry.name);
+        paths.append(entry.isFolder ? path + u'/' : path);
+        if (entry.isFolder)
+            TakePaths(image, entry.folder, path + u'/', paths);
     }
 }
 
@@ -49,7 +49,7 @@ QStringList PathsOf(const ImageDrive& drive)
 
 QByteArray ContentOf(const DiscImage& image, const ImageEntry& file)
 {
-    QByteArray content(static_cast<qsizetype>(file.Length), '?');
+    QByteArray content(static_cast<qsizetype>(file.length), '?');
     qsizetype filled = 0;
     while (filled < content.size()) {
         const qsizetype got = image.Read(file, filled, content.data() + filled,
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QCOMPARE(PathsOf(disc.image), (QStringList{u"TORVIKS/"_s, u"TORVIKS/67TOR001.JPG"_s, u"README"_s,
                                                    u"plain"_s, u"no;version"_s}));
         QCOMPARE(ContentOf(disc.image, disc.image.Folders()[1][0]), QByteArray("one"));
-        QCOMPARE(disc.image.Folders()[1][0].Written, qint64{1006342215}); // 11:30:15 at Greenwich
+        QCOMPARE(disc.image.Folders()[1][0].written, qint64{1006342215}); // 11:30:15 at Greenwich
     }
 
     void content_is_read_at_any_place_and_across_sectors()
@@ -166,10 +166,10 @@ private Q_SLOTS:
         QCOMPARE(root.size(), std::size_t{4});
         char bytes[4096];
         QCOMPARE(FailureOf([&] { disc.image.Read(root[0], 0, bytes, 100); }), failure::deviceIo);
-        QCOMPARE(root[1].Length, qint64{0xFFFFFFFF});
+        QCOMPARE(root[1].length, qint64{0xFFFFFFFF});
         QCOMPARE(disc.image.Read(root[1], 0, bytes, sizeof bytes), qsizetype{sizeof bytes});
         QCOMPARE(FailureOf([&] { disc.image.Read(root[1], 0xF0000000, bytes, 100); }), failure::deviceIo);
-        QVERIFY(disc.image.Folders()[root[2].Folder].empty());
+        QVERIFY(disc.image.Folders()[root[2].folder].empty());
         QCOMPARE(ContentOf(disc.image, root[3]), QByteArray("content"));
     }
 
@@ -199,7 +199,7 @@ private Q_SLOTS:
         ImageMaker maker;
         maker.AddFile("FILE;1", MixedBytes(6000));
         const OpenedImage disc(maker.Iso());
-        QVERIFY(QFile::resize(disc.drive.PathOf(u"disc.iso"_s), 30 * 2048));
+        QVERIFY(QFile::resize(disc.drive.PathOf(u"disc.iso"_s), 30LL * 2048));
         char byte = 0;
         QCOMPARE(FailureOf([&] { disc.image.Read(disc.image.Folders()[0][0], 0, &byte, 1); }),
                  failure::deviceIo);
@@ -242,7 +242,7 @@ private Q_SLOTS:
         const ImageDrive drive;
         QVERIFY(drive.Write(u"text.iso"_s, "no image"));
         QVERIFY(drive.Write(u"empty.iso"_s, {}));
-        QVERIFY(drive.Write(u"mark.iso"_s, QByteArray(16 * 2048, '\0') + "\1CD001"));
+        QVERIFY(drive.Write(u"mark.iso"_s, QByteArray(16LL * 2048, '\0') + "\1CD001"));
         for (const QString& name : {u"text.iso"_s, u"empty.iso"_s, u"mark.iso"_s, u"missing.iso"_s, u"."_s})
             QCOMPARE(FailureOf([&] { DiscImage(drive.PathOf(name).toStdString()); }),
                      failure::deviceUnavailable);
@@ -254,7 +254,7 @@ private Q_SLOTS:
         maker.AddFile("FILE;1", MixedBytes(3000), maker.AddFolder("FOLDER"));
         const QByteArray bytes = maker.Iso();
         const ImageDrive drive;
-        for (qsizetype length = 15 * 2048; length < bytes.size(); length += 509) {
+        for (qsizetype length = 15LL * 2048; length < bytes.size(); length += 509) {
             QVERIFY(drive.Write(u"disc.iso"_s, bytes.left(length)));
             FailureOf([&] {
                 const DiscImage image(drive.PathOf(u"disc.iso"_s).toStdString());

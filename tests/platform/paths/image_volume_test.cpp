@@ -142,8 +142,8 @@ private Q_SLOTS:
     {
         const ImageDrive drive(SmallDisc().Iso());
         const Place place = PlaceOf(OnDisc("torviks\\67tor002.jpg"));
-        QCOMPARE(place.Path, std::string("/TORVIKS/67TOR002.JPG"));
-        const std::unique_ptr<OpenFile> file = place.On->Open(place.Path);
+        QCOMPARE(place.path, std::string("/TORVIKS/67TOR002.JPG"));
+        const std::unique_ptr<OpenFile> file = place.on->Open(place.path);
         char bytes[10];
         file->SeekTo(4995);
         QCOMPARE(file->Read(bytes, 10), 5);
@@ -160,9 +160,9 @@ private Q_SLOTS:
     {
         const ImageDrive drive(SmallDisc().Iso());
         const Place place = PlaceOf(OnDisc("readme"));
-        QCOMPARE(place.On->Status(place.Path).Written, qint64{1006342215});
-        QVERIFY(place.On->Status("").IsFolder);
-        QCOMPARE(place.On->Folders("", [](std::string_view) { return true; }),
+        QCOMPARE(place.on->Status(place.path).written, qint64{1006342215});
+        QVERIFY(place.on->Status("").isFolder);
+        QCOMPARE(place.on->Folders("", [](std::string_view) { return true; }),
                  (std::vector<std::string>{"TORVIKS", "EMPTY"}));
     }
 

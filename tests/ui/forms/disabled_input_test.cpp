@@ -45,7 +45,7 @@ struct SideForm : Form {
 };
 
 FormHandle<MainForm> Main;
-FormHandle<SideForm> Side;
+FormHandle<SideForm> side;
 
 void Wheel(QWidget& widget)
 {
@@ -143,10 +143,10 @@ private Q_SLOTS:
 
     void other_forms_take_input()
     {
-        QVERIFY(UiRoom::Open(*Side));
+        QVERIFY(UiRoom::Open(*side));
         int clicks = 0;
-        Side->Go.Click = [&] { ++clicks; };
-        QTest::mouseClick(&Side->Go.Widget(), Qt::LeftButton);
+        side->Go.Click = [&] { ++clicks; };
+        QTest::mouseClick(&side->Go.Widget(), Qt::LeftButton);
         QCOMPARE(clicks, 1);
     }
 

@@ -161,7 +161,7 @@ private Q_SLOTS:
     void a_form_without_a_caption_is_called_by_its_name()
     {
         FormDesign design = DesignOf(u"Plain"_s);
-        design.Caption.clear();
+        design.caption.clear();
         struct PlainForm : Form {
             explicit PlainForm(const FormDesign& plain) : Form(plain) {}
         };

@@ -349,9 +349,9 @@ private Q_SLOTS:
             return msgbox::answerRetry;
         });
         QCOMPARE(MsgBox(u" text "_s, 5), msgbox::answerRetry);
-        QCOMPARE(asked.Text, u" text "_s);
-        QCOMPARE(asked.Style, 5);
-        QCOMPARE(asked.Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(asked.text, u" text "_s);
+        QCOMPARE(asked.style, 5);
+        QCOMPARE(asked.title, u"The Torvik Vollandry 2001"_s);
     }
 
 private:
