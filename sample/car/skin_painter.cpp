@@ -1,6 +1,7 @@
 #include "sample/car/skin_painter.h"
 
 #include "sample/geometry/shapes.h"
+#include "sample/geometry/wide_registers.h"
 
 #include <QPainter>
 
@@ -127,6 +128,7 @@ SkinMap SkinPainter::Finish()
     colourPainter_.reset();
     materialPainter_.reset();
     reliefPainter_.reset();
+    LetGoOfWideRegisters();
     return SkinMap(colour_, material_, relief_, left_, bottom_, scale_);
 }
 
