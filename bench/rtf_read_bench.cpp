@@ -1,5 +1,5 @@
-// How fast a rich-text article becomes a document, against two baselines measured in the same run: the
-// toolkit reading the same content from its own markup, and a converter of rich text to markup where one is
+// How fast a rich-text article becomes a document, against two baselines measured in the same run: Qt
+// reading the same content from its own markup, and a converter of rich text to markup where one is
 // installed.
 
 #include "rtf/rtf_reader.h"

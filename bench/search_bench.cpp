@@ -19,6 +19,7 @@
 #include <QProcess>
 #include <QSemaphore>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -145,11 +146,12 @@ double PeerMilliseconds(const QString& disc)
     if (QStandardPaths::findExecutable(u"unrtf"_s).isEmpty())
         return 0;
     const QString command =
-        u"for file in *.rtf; do unrtf --text \"$file\" 2>/dev/null; done | grep -ic scoop"_s;
+        u"for file in \"$0\"/*.rtf; do unrtf --text \"$file\" 2>/dev/null; done | grep -ic scoop"_s;
+    const QTemporaryDir scratch; // unrtf writes the pictures of a document where it stands
     return bench::Milliseconds([&] {
         QProcess shell;
-        shell.setWorkingDirectory(QDir(disc).filePath(u"RichText"_s));
-        shell.start(u"sh"_s, {u"-c"_s, command});
+        shell.setWorkingDirectory(scratch.path());
+        shell.start(u"sh"_s, {u"-c"_s, command, QDir(disc).filePath(u"RichText"_s)});
         shell.waitForFinished(-1);
     });
 }

@@ -57,6 +57,7 @@ public:
     }
 
 private:
+    /// Screens that cannot show the file do not suffer from it either.
     void Take(const QString& path, const QString& screen, Need need = Need::Full)
     {
         AskedFile& file = asked_[FoldedPath(path)];
@@ -101,11 +102,10 @@ private:
             if (*file != '\0')
                 Take(QString::fromLatin1(file), screen + button, isEnabled ? Need::Full : Need::Known);
         };
-        const bool hasNotes = *topic.notes.below5 != '\0';
-        own(topic.description, u"Description"_s, topic.hasDescription);
-        own(topic.options, u"Options"_s, topic.keepsYearButtons);
-        own(topic.colors, u"Colors"_s, topic.keepsYearButtons);
-        own(topic.statistics, u"Details"_s, topic.hasStatistics && !hasNotes);
+        own(topic.description, u"Description"_s, AsksForArticle(ArticleButton::Description, topic));
+        own(topic.options, u"Options"_s, AsksForArticle(ArticleButton::Options, topic));
+        own(topic.colors, u"Colors"_s, AsksForArticle(ArticleButton::Colors, topic));
+        own(topic.statistics, u"Details"_s, AsksForArticle(ArticleButton::Statistics, topic));
         own(topic.emblem, u"Emblem"_s, true); // also while it is open and the topic is chosen
         own(topic.script, u"Script"_s, true);
         Take(NarrationOf(title), {}, Need::Known);
@@ -131,9 +131,9 @@ private:
         for (const QString& photo : photos_) {
             const QString path = u"E:"_s + torviksFolder + photo;
             TakePathPosition(path);
-            Take(torviksFolder + photo, ScreenOfPhoto(photo), Need::Known);
+            Take(torviksFolder + photo, ScreenOfPhoto(photo), Need::Optional);
             Take(CaptionOfPhoto(path).mid(2), ScreenOfPhoto(photo) + u" > caption of "_s + photo,
-                 Need::Known);
+                 Need::Optional);
         }
     }
 

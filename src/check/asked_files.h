@@ -8,10 +8,10 @@ namespace torvik {
 
 /// How much a screen needs a file that it asks for.
 enum class Need {
-    Known,  ///< a table names it, but no button that works leads to it, or the program only looks whether it
-            ///< is there
-    Remark, ///< the program has always lived without it
-    Full,   ///< without it the screen shows an error instead
+    Known,    ///< a table names it, but no button that works leads to it
+    Optional, ///< its screen shows or plays it where it is there
+    Remark,   ///< the program has always lived without it
+    Full,     ///< without it the screen shows an error instead
 };
 
 /// A file that screens ask for.

@@ -91,14 +91,9 @@ public:
 private:
     void TakeFile(const ListedFile& file, const Examination& examined)
     {
-        const auto asked = asked_.constFind(FoldedPath(file.path));
-        if (!examined.isWhole) {
-            QStringList screens = asked != asked_.cend() ? asked->screens : QStringList();
-            const QString photo = PhotoIn(file.path);
-            if (screens.isEmpty() && !photo.isEmpty())
-                screens = {ScreenOfPhoto(photo)};
-            findings_.append({examined.kind, file.path, examined.what, screens});
-        }
+        if (!examined.isWhole)
+            findings_.append(
+                {examined.kind, file.path, examined.what, asked_.value(FoldedPath(file.path)).screens});
     }
 
     const QList<ListedFile>& files_;
@@ -117,7 +112,7 @@ QList<Finding> MissingFiles(const QList<ListedFile>& files, const QHash<QString,
         there.insert(FoldedPath(file.path));
     QList<Finding> findings;
     for (auto file = asked.cbegin(); file != asked.cend(); ++file) {
-        if (file->most == Need::Known || there.contains(file.key()))
+        if (file->most < Need::Remark || there.contains(file.key()))
             continue;
         if (file->most == Need::Full)
             findings.append({FindingKind::Missing, file->path, u"is missing"_s, file->screens});

@@ -57,9 +57,9 @@ public:
     }
 
 private:
-    void Add(FindingKind kind, const QString& file, const QString& what, const QString& screen = {})
+    void Add(FindingKind kind, const QString& file, const QString& what, const QStringList& screens = {})
     {
-        findings_.append({kind, file, what, screen.isEmpty() ? QStringList() : QStringList(screen)});
+        findings_.append({kind, file, what, screens});
     }
 
     void FindTwins()
@@ -68,7 +68,8 @@ private:
             std::sort(paths.begin(), paths.end());
             for (qsizetype other = 1; other < paths.size(); ++other)
                 Add(FindingKind::Odd, paths[other],
-                    u"differs from %1 in letter case alone, and only that one is found"_s.arg(paths.first()));
+                    u"differs from %1 in letter case alone, and only that one is found"_s.arg(paths.first()),
+                    asked_.value(FoldedPath(paths[other])).screens);
         }
     }
 
@@ -77,33 +78,35 @@ private:
         for (const ListedFile& file : files_) {
             if (asked_.contains(FoldedPath(file.path)))
                 continue;
-            if (IsCaptionName(file.path))
-                Add(FindingKind::Odd, file.path, u"is the caption of a photo that is not there"_s);
+            if (const QString photo = PhotoOfCaption(file.path); !photo.isEmpty())
+                Add(FindingKind::Odd, file.path, u"is the caption of a photo that is not there"_s,
+                    {ScreenOfPhoto(photo)});
             else
                 Add(FindingKind::NeverAsked, file.path, u"is not asked for by any screen"_s);
         }
     }
 
-    /// Whether a document is named as a photo is: two characters of a year or topic, some letters, a number.
-    static bool IsCaptionName(const QString& path)
+    /// The photo that a document is named after: two characters of a year or topic, some letters, a number.
+    /// Empty when it is named otherwise.
+    static QString PhotoOfCaption(const QString& path)
     {
-        static const QRegularExpression form(u"^richtext\\\\(..)[a-z]+\\d{3}\\.rtf$"_s,
+        static const QRegularExpression form(u"^richtext\\\\((..)[a-z]+\\d{3})\\.rtf$"_s,
                                              QRegularExpression::CaseInsensitiveOption);
         const QRegularExpressionMatch match = form.match(path);
-        if (!match.hasMatch())
-            return false;
-        const QString code = match.captured(1).toUpper();
+        const QString code = match.captured(2).toUpper();
         bool isNumber = false;
         code.toInt(&isNumber);
-        return isNumber || code == u"A0"_s || code == u"A1"_s || TopicOfCode(code) != nullptr;
+        const bool isPhotos = isNumber || code == u"A0"_s || code == u"A1"_s || TopicOfCode(code) != nullptr;
+        return match.hasMatch() && isPhotos ? match.captured(1).toUpper() + u".JPG"_s : QString();
     }
 
     void FindMissingCaptions()
     {
         for (const QString& photo : photos_) {
-            if (!spellings_.contains(FoldedPath(CaptionPathOf(photo))))
+            const QString caption = FoldedPath(CaptionPathOf(photo));
+            if (!spellings_.contains(caption))
                 Add(FindingKind::Odd, torviksFolder.mid(1) + photo, u"has no caption"_s,
-                    ScreenOfPhoto(photo));
+                    asked_.value(caption).screens);
         }
     }
 
@@ -126,7 +129,7 @@ private:
                             ? u"follows a gap: there is no number %1"_s.arg(expected)
                             : u"follows a gap: there are no numbers %1 to %2"_s.arg(expected).arg(
                                   photo.key() - 1),
-                        ScreenOfPhoto(photo.value()));
+                        {ScreenOfPhoto(photo.value())});
                 expected = photo.key() + 1;
             }
         }
@@ -149,7 +152,7 @@ private:
             const qint64 middle = others[others.size() / 2];
             const QSize size = examined_[static_cast<std::size_t>(file)].pixels;
             const QString measures = u"%1 by %2 pixels"_s.arg(size.width()).arg(size.height());
-            const QString screen = ScreenOfPhoto(PhotoIn(files_[file].path));
+            const QStringList screen{ScreenOfPhoto(PhotoIn(files_[file].path))};
             if (pixels > middle * muchLarger)
                 Add(FindingKind::Odd, files_[file].path, u"is far larger than the others: "_s + measures,
                     screen);

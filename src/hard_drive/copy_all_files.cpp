@@ -41,9 +41,9 @@ void BeginCopying()
     Form1->SetEnabled(false);
 }
 
-/// Copies the file that has the number `state.LoopIndex` in its list. Where the disc was changed and holds
-/// nothing of the kind, the count is still that of the earlier disc and leads behind the end of the list:
-/// then the failure is shown like that of a file.
+/// Copies the file that has the number `state.LoopIndex` in its list. Where the disc was changed and has
+/// fewer files, the count is still that of the earlier disc and leads past the end of the list: that failure
+/// is shown like that of a file.
 void CopyFileOfList(QString (*nameOf)(int index))
 {
     const QString& folder = PresentCopyJob().folder;

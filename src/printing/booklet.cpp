@@ -53,7 +53,7 @@ int RangeNumber(const QString& year)
     return digits.isEmpty() ? 0 : static_cast<int>(ToNumber(digits));
 }
 
-/// The job stays open: the first document behind the cover continues it.
+/// The job stays open: the first document after the cover continues it.
 void PrintCover()
 {
     for (const CoverPicture& picture : CoverPictures()) {

@@ -86,7 +86,7 @@ private:
             read_.task = task;
     }
 
-    /// A window may be named behind it, for a box in front of that window; the box stands for itself here.
+    /// A window may be named after it, for a box in front of that window; the box stands for itself here.
     void TakeInform()
     {
         Choose(SaverTask::Inform);

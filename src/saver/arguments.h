@@ -28,7 +28,7 @@ struct SaverArguments {
     QString problem; ///< what is wrong with it, in words for the user; empty when nothing is
 };
 
-/// Reads the arguments behind the program's name, in the manner of Windows (/s) and of X (-root); letter case
+/// Reads the arguments after the program's name, in the manner of Windows (/s) and of X (-root); letter case
 /// and the signs in front do not matter. `screenSaverWindow` is the window that the environment names, or
 /// empty; it is drawn into unless the arguments ask for another window, the show on all screens, or
 /// information.

@@ -15,7 +15,7 @@ namespace torvik {
 /// One thing that can be found, as the index takes it.
 struct IndexedText {
     QString title; ///< searched too, and weighs more than the text
-    /// Gives the bytes of the rich text. It runs on the index's own thread and tells by a RunTimeError what
+    /// Gives the bytes of the rich text. It runs on a thread of the index and tells by a RunTimeError what
     /// cannot be read. None for what has a title only.
     std::function<QByteArray()> read;
 };
@@ -42,11 +42,12 @@ struct IndexProgress {
     bool isUsable = true; ///< false where there is no SQLite with full text
 };
 
-/// The texts of a disc, read and searched on a thread of its own: bytes go in, words come out through one
-/// queue, and nobody waits. Questions are answered from what is read so far, and again while more is read.
+/// The texts of a disc, read and searched on threads of its own: bytes go in, words come out through one
+/// queue, and nobody waits, not even for a disc that hangs. Questions are answered from what is read so far,
+/// and again while more is read.
 class DiscIndex {
 public:
-    /// Begins to read. `news` is called on the index's thread when there is something to take; never after
+    /// Begins to read. `news` is called on a thread of the index when there is something to take; never after
     /// the end of this object.
     DiscIndex(QList<IndexedText> texts, std::function<void()> news);
     /// Does not wait for a disc that is busy.

@@ -66,7 +66,7 @@ void Finder::Read()
     texts.reserve(findables_.size());
     for (const Findable& findable : std::as_const(findables_))
         texts.append(TextOf(findable));
-    // Of many news at a time one is told.
+    // Many pieces of news at once are told as one.
     index_ = std::make_unique<DiscIndex>(std::move(texts), [this] {
         if (!newsOnTheWay_.exchange(true))
             QMetaObject::invokeMethod(

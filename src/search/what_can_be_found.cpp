@@ -26,14 +26,15 @@ struct DocumentButton {
     ArticleButton button;
     torvik::Button Form1Controls::*control;
     const char* name;
+    const char* nameOfTopics; ///< on the button while a topic is the chosen one
     const char* Topic::*ownArticle;
 };
 
 const DocumentButton documentButtons[] = {
-    {ArticleButton::Description, &Form1Controls::cmdDesc, "Description", &Topic::description},
-    {ArticleButton::Options, &Form1Controls::cmdOptions, "Options", &Topic::options},
-    {ArticleButton::Statistics, &Form1Controls::cmdStats, "Statistics", &Topic::statistics},
-    {ArticleButton::Colors, &Form1Controls::cmdColors, "Colors", &Topic::colors},
+    {ArticleButton::Description, &Form1Controls::cmdDesc, "Description", "Description", &Topic::description},
+    {ArticleButton::Options, &Form1Controls::cmdOptions, "Options", "Options", &Topic::options},
+    {ArticleButton::Statistics, &Form1Controls::cmdStats, "Statistics", "Details", &Topic::statistics},
+    {ArticleButton::Colors, &Form1Controls::cmdColors, "Colors", "Colors", &Topic::colors},
 };
 
 /// The photos of one year or topic: their places in the list.
@@ -75,12 +76,13 @@ private:
         catalogue_.findables.append({title.simplified(), place, file, std::move(open)});
     }
 
+    /// `isAskedFor`: by a button that works; what else lies on the disc is found too.
     void AddArticle(const Article& article, const QString& place, const Choosing& choose,
-                    torvik::Button Form1Controls::*button)
+                    torvik::Button Form1Controls::*button, bool isAskedFor = true)
     {
         const QString file = state.DiscRoot + article.file;
         if (!FileExists(file)) {
-            ++catalogue_.missing;
+            catalogue_.missing += isAskedFor ? 1 : 0;
             return;
         }
         Add(article.windowTitle, place, file,
@@ -105,19 +107,19 @@ private:
             const bool givesWay = hasNotes && each.button == ArticleButton::Statistics;
             if (*(topic.*each.ownArticle) != '\0' && !givesWay)
                 AddArticle(ArticleOf(each.button, title),
-                           title.trimmed() + u" > "_s + QLatin1String(each.name), ChooseTopic(topic),
-                           each.control);
+                           title.trimmed() + u" > "_s + QLatin1String(each.nameOfTopics), ChooseTopic(topic),
+                           each.control, AsksForArticle(each.button, topic));
         }
     }
 
     void AddLibraryDocument(const LibraryDocument& document)
     {
         const QString file = state.DiscRoot + QLatin1String(document.file);
+        const QString screen = QString::fromUtf8(document.screen);
         if (!FileExists(file)) {
-            ++catalogue_.missing;
+            catalogue_.missing += screen.isEmpty() ? 0 : 1;
             return;
         }
-        const QString screen = QString::fromUtf8(document.screen);
         Add(WindowTitleOf(document), screen.isEmpty() ? u"Library"_s : screen, file,
             [entry = QString::fromLatin1(document.entry)](const QString& words) {
                 OpenLibraryDocument(entry, words);

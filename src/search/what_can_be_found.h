@@ -22,7 +22,7 @@ struct FoundCatalogue {
     int missing = 0; ///< articles that a button or menu entry asks for and the disc has not
 };
 
-/// All that the screens can show of the disc in the drive, by the tables that the screens themselves go by:
+/// All that the screens can show of the disc in the drive, from the tables that the screens themselves use:
 /// articles of the years and of the topics that there are photos of, the library, notes and captions of the
 /// photos, movies and sounds by their titles. A caption or note that is not on the disc is none; an article
 /// is counted.

@@ -23,7 +23,7 @@ struct CommandLine {
     QString problem; ///< what is wrong with it, in words for the user; empty when nothing is
 };
 
-/// Reads the arguments behind the program's name.
+/// Reads the arguments after the program's name.
 CommandLine ReadCommandLine(const QStringList& arguments);
 
 /// The text of --help. Needs an application object, which knows the program's name; one without windows will

@@ -32,7 +32,7 @@ void Form1_Load()
     form.Show();
 }
 
-/// Opens the browser on 1967, with the focus on the year behind it.
+/// Opens the browser on 1967, with the focus on the year after it.
 void ShowFirstYear()
 {
     Form1Controls& form = *Form1;

@@ -72,7 +72,7 @@ QApplication* MakeApplication(int& argc, char** argv, const QString& scale)
 Application::Application(int& argc, char** argv, const QString& scale)
     : application_(MakeApplication(argc, argv, scale))
 {
-    // No display name: the platform would append it to the title of every window and box.
+    // No display name: Qt would append it to the title of every window and box.
     QApplication::setApplicationName(u"torvik2001"_s);
     QApplication::setDesktopFileName(u"torvik2001"_s);
     QApplication::setQuitOnLastWindowClosed(false);

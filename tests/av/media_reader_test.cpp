@@ -228,7 +228,7 @@ private Q_SLOTS:
         }
     }
 
-    void behind_the_end_stands_the_last_picture()
+    void after_the_end_comes_the_last_picture()
     {
         const auto reader = Reader(TestMovie::Avi());
         const Contents whole = ReadAll(*reader);

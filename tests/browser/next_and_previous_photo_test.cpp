@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(Shown(), u"670.JPG 1"_s);
     }
 
-    void the_focus_stays_behind_the_year_on_show_data()
+    void the_focus_stays_on_the_year_after_the_one_on_show_data()
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("focus");
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QTest::newRow("a topic") << u"Early Torvik Prototypes "_s << u"cmdYR(1)"_s;
     }
 
-    void the_focus_stays_behind_the_year_on_show()
+    void the_focus_stays_on_the_year_after_the_one_on_show()
     {
         QFETCH(QString, title);
         QFETCH(QString, focus);

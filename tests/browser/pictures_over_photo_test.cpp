@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(picture.Picture().FileName(), before);
     }
 
-    void the_code_of_a_loader_stays_behind()
+    void a_loader_leaves_its_code_in_the_record()
     {
         AddPictures(u"67"_s, {50, 20});
         LoadEmblem();

@@ -95,7 +95,7 @@ private Q_SLOTS:
         QCOMPARE(int(state.CurrentYearButton), index);
     }
 
-    void a_year_without_photos_leaves_the_focus_behind_the_clicked_button()
+    void a_year_without_photos_leaves_the_focus_on_the_year_after_the_clicked_one()
     {
         program_->Click(Form1->cmdYR(10));
         QCOMPARE(program_->messages.Count(), 1);

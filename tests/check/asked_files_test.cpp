@@ -65,11 +65,15 @@ private Q_SLOTS:
         QVERIFY(Asked(u"richtext\\pt006.rtf"_s, photos).path.isEmpty());
     }
 
-    void captions_are_known_by_their_photos()
+    void photos_and_captions_are_asked_for_where_they_are_there()
     {
-        QVERIFY(Asked(u"RichText\\67tor001.rtf"_s, {u"67TOR001.JPG"_s}).most == Need::Known);
-        QVERIFY(!Asked(u"RichText\\67tor001.rtf"_s, {u"67TOR001.JPG"_s}).path.isEmpty());
+        const QStringList photos{u"67TOR001.JPG"_s};
+        const AskedFile caption = Asked(u"RichText\\67tor001.rtf"_s, photos);
+        QVERIFY(caption.most == Need::Optional);
+        QCOMPARE(caption.screens, QStringList{u"1967 > caption of 67TOR001.JPG"_s});
         QVERIFY(Asked(u"RichText\\67tor001.rtf"_s).path.isEmpty());
+        QVERIFY(Asked(u"torviks\\67tor001.jpg"_s, photos).most == Need::Optional);
+        QCOMPARE(Asked(u"torviks\\67tor001.jpg"_s, photos).screens, QStringList{u"1967"_s});
     }
 
     void every_document_of_the_library_is_asked_for_under_its_menu_entry()

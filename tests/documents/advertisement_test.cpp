@@ -243,7 +243,7 @@ private Q_SLOTS:
         QCOMPARE(program_->messages.Count(), 0);
     }
 
-    void a_failure_behind_the_loading_is_passed_over()
+    void a_failure_after_the_loading_is_passed_over()
     {
         int shown = 0;
         ModalVisit visit(

@@ -67,7 +67,7 @@ private Q_SLOTS:
         QVERIFY(txtForm.IsLoaded());
         QVERIFY(!txtForm->Visible());
         QCOMPARE(Program::Focus(), u"cmdDesc"_s);
-        // What comes behind the file has not happened; what comes before it has.
+        // What comes after the file has not happened; what comes before it has.
         QCOMPARE(state.DocumentTitle, way == Stored ? title : earlier);
         QCOMPARE(txtForm->Caption(), way == Stored || way == Before ? title : earlier);
     }
@@ -174,7 +174,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("index");
         QTest::newRow("0") << 0;
-        QTest::newRow("behind the last") << 6;
+        QTest::newRow("after the last") << 6;
         QTest::newRow("negative") << -1;
     }
     void an_index_that_no_entry_has_opens_what_was_open_before()

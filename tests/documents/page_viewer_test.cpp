@@ -156,7 +156,7 @@ private Q_SLOTS:
         QCOMPARE(frmScroll->HScroll1.Max(), 1240 - 783);
         QVERIFY(frmScroll->HScroll1.Enabled());
         QCOMPARE(frmScroll->HScroll1.LargeChange(), (1240 - 783) / 42 / 6);
-        QCOMPARE(frmScroll->VScroll1.Max(), 900 - 583); // and the layout goes on behind it
+        QCOMPARE(frmScroll->VScroll1.Max(), 900 - 583); // and the layout goes on after it
         QCOMPARE(RectOf(frmScroll->SSCommand1), QRectF(784, 583, bar, bar));
     }
 

@@ -138,13 +138,13 @@ private Q_SLOTS:
         QCOMPARE(Target(), QByteArray("new"));
     }
 
-    void a_target_in_use_is_replaced_and_its_user_keeps_what_he_reads()
+    void a_target_in_use_is_replaced_and_its_reader_keeps_the_old_content()
     {
         program_->AddToProgramFolder(u"Torviks/A.JPG"_s, "old");
-        QFile user(program_->InProgramFolder(u"Torviks/A.JPG"_s));
-        QVERIFY(user.open(QIODevice::ReadOnly));
+        QFile reader(program_->InProgramFolder(u"Torviks/A.JPG"_s));
+        QVERIFY(reader.open(QIODevice::ReadOnly));
         Copy("new");
-        QCOMPARE(user.readAll(), QByteArray("old"));
+        QCOMPARE(reader.readAll(), QByteArray("old"));
         QCOMPARE(Target(), QByteArray("new"));
     }
 

@@ -18,7 +18,7 @@ private Q_SLOTS:
     }
     void cleanup() { program_.reset(); }
 
-    void the_movies_of_the_disc_stand_there_in_capitals_with_an_empty_one_behind()
+    void the_movies_of_the_disc_stand_there_in_capitals_with_an_empty_one_after_them()
     {
         for (const char* name : {"movies/drive.avi", "movies/Race.Avi", "movies/notes.txt"})
             program_->disc.AddFile(QString::fromLatin1(name), "x");

@@ -454,7 +454,7 @@ private Q_SLOTS:
         QCOMPARE(program_->messages.Last().text, success);
     }
 
-    void a_copy_that_does_not_come_about_is_waited_for_without_an_end_data()
+    void a_copy_that_is_never_made_is_waited_for_forever_data()
     {
         QTest::addColumn<QString>("reason");
         QTest::newRow("the panel is cancelled") << "cancelled";
@@ -462,7 +462,7 @@ private Q_SLOTS:
         QTest::newRow("there is no room") << "no room";
     }
 
-    void a_copy_that_does_not_come_about_is_waited_for_without_an_end()
+    void a_copy_that_is_never_made_is_waited_for_forever()
     {
         QFETCH(QString, reason);
         if (reason == u"declined"_s)

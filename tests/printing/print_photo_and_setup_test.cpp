@@ -83,7 +83,7 @@ private Q_SLOTS:
         const double line = (words.at(4).top() - words.at(0).top()) / 2;
         QVERIFY2(line > 200 && line < 260, qPrintable(QString::number(line)));
         QVERIFY(qAbs(words.at(0).top() - (border + 8 * line)) < millimetre);
-        // Both begin behind twelve blanks.
+        // Both begin after twelve blanks.
         QVERIFY(qAbs(words.at(0).left() - words.at(4).left()) < 20);
         const double blanks = words.at(0).left() - border;
         QVERIFY2(blanks > 12 * 45 && blanks < 12 * 70, qPrintable(QString::number(blanks)));

@@ -162,7 +162,7 @@ private Q_SLOTS:
         QTest::newRow("too wide") << 20000 << 4000 << QByteArray();
         QTest::newRow("both") << 20000 << 30000 << QByteArray();
         QTest::newRow("many pages high") << 3000 << 31000 << QByteArray();
-        QTest::newRow("behind text") << 4000 << 20000 << Lines(1, 10);
+        QTest::newRow("after text") << 4000 << 20000 << Lines(1, 10);
         QTest::newRow("in a line with text") << 4000 << 20000 << QByteArray("beside ");
         QTest::newRow("indented") << 9000 << 9000 << QByteArray("\\li3000 ");
         QTest::newRow("as high as the page") << 4000 << 16838 - 2880 << QByteArray();

@@ -23,7 +23,7 @@ private Q_SLOTS:
     }
     void cleanup() { program_.reset(); }
 
-    void it_is_the_one_behind_and_goes_round()
+    void it_is_the_next_one_and_goes_round()
     {
         QCOMPARE(NextYearButtonAfter(0), 1);
         QCOMPARE(NextYearButtonAfter(1), 2);

@@ -97,7 +97,7 @@ private Q_SLOTS:
         QCOMPARE(state.MessageAnswer, u"2"_s);
     }
 
-    void the_focus_goes_to_the_year_behind_the_current_one_data()
+    void the_focus_goes_to_the_year_after_the_current_one_data()
     {
         QTest::addColumn<int>("current");
         QTest::addColumn<QString>("focus");
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QTest::newRow("2001") << 35 << u"cmdYR(1)"_s;
     }
 
-    void the_focus_goes_to_the_year_behind_the_current_one()
+    void the_focus_goes_to_the_year_after_the_current_one()
     {
         QFETCH(int, current);
         QFETCH(QString, focus);

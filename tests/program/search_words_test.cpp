@@ -55,12 +55,12 @@ private Q_SLOTS:
             QTest::newRow(name) << typed << terms;
         };
         row("the last word is open while it is typed", u"hood scoop"_s, u"hood scoop*"_s);
-        row("a blank behind it closes it", u"hood scoop "_s, u"hood scoop"_s);
+        row("a blank after it closes it", u"hood scoop "_s, u"hood scoop"_s);
         row("an asterisk leaves a word open", u"scoop* hood "_s, u"scoop* hood"_s);
         row("quotes hold words together", u"\"hood scoop\" red "_s, u"hood+scoop red"_s);
         row("a quote that is not closed yet is open", u"\"hood sco"_s, u"hood+sco*"_s);
         row("a closed quote is closed", u"\"hood scoop\""_s, u"hood+scoop"_s);
-        row("an asterisk behind a quote opens it", u"\"hood sco\"* "_s, u"hood+sco*"_s);
+        row("an asterisk after a quote opens it", u"\"hood sco\"* "_s, u"hood+sco*"_s);
         row("a minus sign excludes", u"hood -scoop"_s, u"hood -scoop"_s);
         row("also what is in quotes", u"car -\"hood scoop\" "_s, u"car -hood+scoop"_s);
         row("a minus sign inside a word parts it", u"four-speed "_s, u"four+speed"_s);

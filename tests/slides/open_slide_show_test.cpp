@@ -131,7 +131,7 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [] { QCOMPARE(ShownSlide(), u"68A.JPG, 1 of 1, 1968 "_s); }));
     }
 
-    void behind_a_title_without_photos_the_show_opens_on_nothing()
+    void after_a_title_without_photos_the_show_opens_on_nothing()
     {
         program_->Click(Form1->cmdYR(4)); // no photo of 1970 is on the disc
         QCOMPARE(program_->messages.Count(), 1);

@@ -121,7 +121,7 @@ private Q_SLOTS:
         QVERIFY(ReadCommandLine({u"--drive"_s, u"C=/x"_s, u"--version"_s}).version);
     }
 
-    void what_stands_behind_two_dashes_is_a_folder()
+    void what_follows_two_dashes_is_a_folder()
     {
         const CommandLine line = ReadCommandLine({u"--"_s, u"--drive"_s});
         QVERIFY(line.problem.isEmpty());

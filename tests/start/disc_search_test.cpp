@@ -1,3 +1,4 @@
+#include "platform/files/files.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "platform/system/settings_store.h"
@@ -137,13 +138,29 @@ private Q_SLOTS:
         QVERIFY(ProgramIsEnding());
     }
 
+    /// The root of drive C is the machine's own, where a test puts nothing. So two content folders lie deeper
+    /// on it, and which roots are searched is read from the log.
     void drive_C_is_never_searched()
     {
+        program_->disc.AddGroup(u"67"_s, 1);
+        const QString content = DrivePath(program_->disc.Folder());
+        QVERIFY(content.startsWith(u"C:\\"_s));
+        QCOMPARE(FindFile(content + u"\\Torviks\\*.jpg"_s), u"67A.JPG"_s);
         program_->AddToProgramFolder(u"Torviks/68A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
         program_->PutDiscIn({});
+        LoggedMessages log(u"torvik.disc"_s);
         program_->Start();
         QVERIFY(ProgramIsEnding());
         QCOMPARE(state.DiscRoot, QString());
+        QStringList searched;
+        for (const QString& line : log.Texts()) {
+            if (line.startsWith(u"torvik.disc: drive "_s))
+                searched.append(line.section(u' ', 2, 2));
+        }
+        QStringList letters;
+        for (char letter = 'D'; letter <= 'Z'; ++letter)
+            letters.append(QChar(QLatin1Char(letter)) + u":"_s);
+        QCOMPARE(searched, letters);
     }
 
     void no_disc_takes_the_splash_away_and_asks()

@@ -133,7 +133,7 @@ private:
     }
 
     /// Everything in `area` that does something when it is used: the controls with a handler of their own and
-    /// all that the toolkit can put the focus on. Of the options of a group the chosen one is enough: the
+    /// all that Qt can put the focus on. Of the options of a group the chosen one is enough: the
     /// arrow keys go on from there.
     static void ExpectTabReaches(Form& form, QWidget& area)
     {

@@ -25,7 +25,7 @@ namespace {
 /// What fits into the address space of the machines that the program is made for.
 constexpr qint64 largestContent = std::numeric_limits<qint32>::max();
 
-/// Of a file that claims to be longer than that the rest gets room when it comes.
+/// For a file that claims to be longer, room for the rest is made as it comes.
 constexpr qint64 firstRoom = qint64{64} * 1024 * 1024;
 
 EntryStatus EntryAt(const QString& path)
@@ -98,7 +98,8 @@ QByteArray ContentOf(const Place& place)
     }
 }
 
-/// What tells a folder of a disc image from others: which image that is, and when the folder was written.
+/// What tells a folder of a disc image from others: which image stands in the drive, and when the folder was
+/// written.
 QString MarkInImage(const QString& path)
 {
     QString mark;
@@ -106,7 +107,7 @@ QString MarkInImage(const QString& path)
         const Place place = PlaceOf(path);
         const EntryStatus status = place.on->Status(place.path);
         if (status.isFolder)
-            mark = u"%1 %2"_s.arg(reinterpret_cast<quintptr>(place.on.get())).arg(status.written);
+            mark = u"%1 %2"_s.arg(place.on->Number()).arg(status.written);
     });
     return mark;
 }

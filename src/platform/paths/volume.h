@@ -23,7 +23,7 @@ public:
     virtual qint64 Length() const = 0;
     /// Reads up to `room` bytes; returns how many came, 0 at the end. Failure 57, Device I/O error.
     virtual qsizetype Read(char* target, qsizetype room) = 0;
-    /// Reads on from a byte, counted from 0; one behind the end is followed by nothing.
+    /// Reads on from a byte, counted from 0; at or past the end nothing comes.
     virtual void SeekTo(qint64 place) = 0;
 };
 
@@ -42,10 +42,14 @@ class Volume {
 public:
     using NameTest = std::function<bool(std::string_view name)>;
 
-    Volume() = default;
+    Volume();
     virtual ~Volume() = default;
     Volume(const Volume&) = delete;
     Volume& operator=(const Volume&) = delete;
+
+    /// A number that no other volume of this run has had, so that an image is told from the next one in the
+    /// same drive.
+    quint64 Number() const { return number_; }
 
     /// How a path is spelled: as it stands when it exists, otherwise with the names that differ in letter
     /// case alone, the first in binary order of several. What exists in no spelling stays as it is written.
@@ -65,6 +69,9 @@ public:
     virtual std::unique_ptr<OpenFile> Open(const std::string& path) const = 0;
     /// The host's name for a path, by which it can be written. Nothing where the host has none.
     virtual std::optional<std::string> HostPath(const std::string& path) const = 0;
+
+private:
+    quint64 number_;
 };
 
 /// A file or folder, or where one is yet to be made.

@@ -81,6 +81,20 @@ QString ArticleErrorCode(ArticleButton button)
     return QLatin1String(RuleOf(button).errorCode);
 }
 
+bool AsksForArticle(ArticleButton button, const Topic& topic)
+{
+    switch (button) {
+    case ArticleButton::Description:
+        return topic.hasDescription;
+    case ArticleButton::Statistics:
+        return topic.hasStatistics && *topic.notes.below5 == '\0';
+    case ArticleButton::Options:
+    case ArticleButton::Colors:
+        break;
+    }
+    return topic.keepsYearButtons;
+}
+
 Article NostalgiaOf(const QString& title)
 {
     return {u"\\richtext\\nostalgia"_s + Mid(title, 3, 2) + u".rtf"_s,

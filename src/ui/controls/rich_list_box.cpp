@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace torvik {
 
-/// The rows as the toolkit's list asks for them.
+/// The rows as Qt's list asks for them.
 class RichListModel : public QAbstractListModel {
 public:
     using QAbstractListModel::QAbstractListModel;

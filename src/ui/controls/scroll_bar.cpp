@@ -12,7 +12,7 @@ namespace torvik {
 
 namespace {
 
-/// The platform's bar turns the left and right keys round when it lies flat.
+/// Qt's bar turns the left and right keys round when it lies flat.
 class ScrollBarWidget : public QScrollBar {
 public:
     using QScrollBar::QScrollBar;

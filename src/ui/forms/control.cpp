@@ -1,6 +1,7 @@
 #include "ui/forms/control.h"
 
 #include "runtime/failure.h"
+#include "ui/forms/disabled_input.h"
 #include "ui/forms/form.h"
 #include "ui/forms/keys.h"
 #include "ui/forms/program_end.h"
@@ -308,6 +309,12 @@ bool Control::PressedByKey(const QKeyEvent& event)
     if (self != nullptr)
         MouseReleased(isLeft ? mouse::left : mouse::right, true);
     return true;
+}
+
+void Control::Pressed(const Event<>& event) const
+{
+    if (TakesInput(*widget_))
+        event.Fire();
 }
 
 void Control::PressKey(int code, int shift)

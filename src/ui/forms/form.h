@@ -110,7 +110,7 @@ public:
     void SetMousePointer(MousePointer pointer);
 
     /// A disabled form takes no input; it does not turn grey. While an InputHold stands the form is disabled,
-    /// and what is set takes effect behind it.
+    /// and what is set takes effect when it has gone.
     bool Enabled() const { return enabled_ && holds_ == 0; }
     void SetEnabled(bool enabled);
 
@@ -161,7 +161,7 @@ private:
     void ApplyPlace();
     void Change();
     void MakeChange();
-    void ShowWindow();
+    void PutWindowOnScreen();
     void ChangeWindow();
     void Unsettle();
     void Watch();

@@ -85,11 +85,11 @@ void Form::MakeChange()
     if (window_->isVisible())
         ChangeWindow();
     else
-        ShowWindow();
+        PutWindowOnScreen();
     Unsettle();
 }
 
-void Form::ShowWindow()
+void Form::PutWindowOnScreen()
 {
     ApplySize();
     ApplyPlace();

@@ -8,7 +8,7 @@ namespace torvik {
 
 class Form;
 
-/// The toolkit's numeric styles and answers of a message box.
+/// The numeric styles and answers of a message box, as Windows has them.
 namespace msgbox {
 inline constexpr int ok = 0;
 inline constexpr int okCancel = 1;

@@ -261,7 +261,7 @@ void Form::TakeMeasures()
         Resize.Fire();
 }
 
-/// The measures of an ordinary window that covers, with the frame that the desktop draws around such a one,
+/// The measures of an ordinary window that covers, with the frame that the desktop draws around it,
 /// what the maximized window covers now. A form that takes them over stands exactly on it, and when they are
 /// taken up again at the next start nothing runs off the screen.
 Twips Form::CoveredMeasures() const

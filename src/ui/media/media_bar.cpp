@@ -69,7 +69,7 @@ MediaBarButton* MediaBar::MakeButton(MediaButton button)
     part->setFocusPolicy(Qt::TabFocus);
     part->arrow = [this, button](int step) { MoveFocus(button, step); };
     part->show();
-    connect(part, &QAbstractButton::clicked, this, [this, button] { ButtonClick(button).Fire(); });
+    connect(part, &QAbstractButton::clicked, this, [this, button] { Pressed(ButtonClick(button)); });
     return part;
 }
 

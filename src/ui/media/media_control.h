@@ -38,7 +38,7 @@ public:
     bool wait = false;
     bool shareable = false;
 
-    /// hWndDisplay: the control that pictures are shown on, from now on also those of a movie that is open
+    /// The control that pictures are shown on, from now on also those of a movie that is open
     /// already; null for none. Pictures fill it as far as their proportions allow.
     void SetDisplay(Control* where);
 

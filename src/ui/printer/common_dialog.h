@@ -38,7 +38,7 @@ public:
     void SetHelpFile(const QString& path) { helpFile_ = path; }
     int HelpCommand() const { return helpCommand_; }
     void SetHelpCommand(int command) { helpCommand_ = command; }
-    /// Gives the help system its command (ui/win_help.h) with the help file.
+    /// Gives the help system its command (ui/help/help_system.h) with the help file.
     void ShowHelp() const;
 
 private:

@@ -79,7 +79,7 @@ private Q_SLOTS:
         QVERIFY(IsRead(drive, u"bare.cue"_s));
     }
 
-    void the_data_track_is_found_behind_others()
+    void the_data_track_is_found_after_others()
     {
         const ImageDrive drive;
         const QByteArray audio(2352LL * 150, 'a');

@@ -4,7 +4,7 @@
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
-/// What stands behind --drive.
+/// The value of --drive.
 class DriveOptionTest : public QObject {
     Q_OBJECT
 

@@ -184,6 +184,29 @@ private Q_SLOTS:
         QVERIFY(!FileExists(OnDisc("readme")));
     }
 
+    void the_mark_of_a_folder_tells_one_image_from_the_next_of_the_same_name()
+    {
+        ImageMaker first;
+        first.AddFile("BOOKS.RTF;1", "one", first.AddFolder("RICHTEXT"));
+        const ImageDrive drive(first.Iso());
+        const QString mark = FolderMark(OnDisc("RichText"));
+        QVERIFY(!mark.isEmpty());
+        QCOMPARE(FolderMark(OnDisc("richtext")), mark);
+        QCOMPARE(FolderMark(OnDisc("none")), QString());
+        QCOMPARE(FolderMark(OnDisc("richtext\\books.rtf")), QString());
+
+        ImageMaker second;
+        second.AddFile("BOOKS.RTF;1", "two", second.AddFolder("RICHTEXT"));
+        QVERIFY(drive.Write(u"other.iso"_s, second.Iso()));
+        QVERIFY(QFile::remove(drive.PathOf(u"disc.iso"_s)));
+        QVERIFY(QFile::rename(drive.PathOf(u"other.iso"_s), drive.PathOf(u"disc.iso"_s)));
+        QCOMPARE(FolderMark(OnDisc("RichText")), mark); // the first one is still open, and read
+        QCOMPARE(ReadFile(OnDisc("richtext\\books.rtf")), QByteArray("one"));
+        RefreshDrives();
+        QVERIFY(FolderMark(OnDisc("RichText")) != mark);
+        QCOMPARE(ReadFile(OnDisc("richtext\\books.rtf")), QByteArray("two"));
+    }
+
     void an_open_file_outlives_its_drive()
     {
         const ImageDrive drive(SmallDisc().Iso());

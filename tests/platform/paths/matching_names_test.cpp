@@ -29,7 +29,7 @@ private Q_SLOTS:
         QVERIFY(NamesMatching(u"E:\\none\\*.jpg"_s).names.empty());
     }
 
-    void the_name_begins_behind_the_last_backslash_or_slash()
+    void the_name_begins_after_the_last_backslash_or_slash()
     {
         QCOMPARE(BeginOfName(u"E:\\a\\b.jpg"_s), 5);
         QCOMPARE(BeginOfName(u"E:\\a/b.jpg"_s), 5);

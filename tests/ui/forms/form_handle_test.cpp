@@ -78,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(side->Go.Caption(), u"1"_s);
     }
 
-    void an_unload_inside_the_load_and_a_touch_behind_it_make_the_form_anew_without_a_second_load()
+    void an_unload_inside_the_load_and_a_touch_after_it_make_the_form_anew_without_a_second_load()
     {
         FormHandle<SideForm>& side = *side_;
         side.Bind([&](SideForm& form) {
@@ -262,7 +262,7 @@ private Q_SLOTS:
         QCOMPARE(calls_, QStringList{u"7"_s});
     }
 
-    void a_touch_behind_an_unload_runs_load_again()
+    void a_touch_after_an_unload_runs_load_again()
     {
         FormHandle<SideForm>& side = *side_;
         side.Bind([this](SideForm& form) { form.Load = [this] { calls_.append(u"load"_s); }; });

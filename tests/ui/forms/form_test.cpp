@@ -182,8 +182,8 @@ private Q_SLOTS:
             side.Unload();
         });
         side->ShowModal();
-        order.append(u"behind"_s);
-        QCOMPARE(order, (QStringList{u"unload"_s, u"behind"_s}));
+        order.append(u"after"_s);
+        QCOMPARE(order, (QStringList{u"unload"_s, u"after"_s}));
         QVERIFY(!side.IsLoaded());
     }
 
@@ -212,12 +212,12 @@ private Q_SLOTS:
                 splash->Hide();
             });
             splash->ShowModal();
-            order.append(u"behind splash"_s);
+            order.append(u"after splash"_s);
             side->Hide();
         });
         side->ShowModal();
-        order.append(u"behind side"_s);
-        QCOMPARE(order, (QStringList{u"hide splash"_s, u"behind splash"_s, u"behind side"_s}));
+        order.append(u"after side"_s);
+        QCOMPARE(order, (QStringList{u"hide splash"_s, u"after splash"_s, u"after side"_s}));
     }
 
     void an_outer_modal_form_that_goes_first_returns_when_the_inner_one_has_gone()
@@ -230,11 +230,11 @@ private Q_SLOTS:
                 UiRoom::Soon([&] { splash->Hide(); });
             });
             splash->ShowModal();
-            order.append(u"behind inner"_s);
+            order.append(u"after inner"_s);
         });
         side->ShowModal();
-        order.append(u"behind outer"_s);
-        QCOMPARE(order, (QStringList{u"outer gone"_s, u"behind inner"_s, u"behind outer"_s}));
+        order.append(u"after outer"_s);
+        QCOMPARE(order, (QStringList{u"outer gone"_s, u"after inner"_s, u"after outer"_s}));
     }
 
     void a_modal_form_alone_takes_input()

@@ -45,15 +45,15 @@ private Q_SLOTS:
     void init() { room_ = std::make_unique<UiRoom>(); }
     void cleanup() { room_.reset(); }
 
-    void no_statement_behind_the_end_runs()
+    void no_statement_after_the_end_runs()
     {
-        bool behind = false;
+        bool after = false;
         QVERIFY(!ProgramIsEnding());
         QVERIFY(Ends([&] {
             EndProgram();
-            behind = true;
+            after = true;
         }));
-        QVERIFY(!behind);
+        QVERIFY(!after);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void the_end_inside_nested_modal_forms_leaves_all_of_them()
     {
-        QStringList behind;
+        QStringList after;
         QVERIFY(UiRoom::Open(*first));
         first->Go.Click = [&] {
             UiRoom::Soon([&] {
@@ -90,19 +90,19 @@ private Q_SLOTS:
                     UiRoom::Soon([&] {
                         RunHandler([&] {
                             EndProgram();
-                            behind.append(u"end"_s);
+                            after.append(u"end"_s);
                         });
                     });
                     third->ShowModal();
-                    behind.append(u"third"_s);
+                    after.append(u"third"_s);
                 });
             });
             second->ShowModal();
-            behind.append(u"second"_s);
+            after.append(u"second"_s);
         };
         QTest::mouseClick(&first->Go.Widget(), Qt::LeftButton);
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(behind, QStringList());
+        QCOMPARE(after, QStringList());
         QVERIFY(first.IsLoaded() && second.IsLoaded() && third.IsLoaded());
     }
 

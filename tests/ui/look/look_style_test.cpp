@@ -24,7 +24,7 @@ QImage Grab(QWidget& widget)
 
 } // namespace
 
-/// The platform's widgets in the program's look.
+/// Qt's widgets in the program's look.
 class LookStyleTest : public QObject {
     Q_OBJECT
 

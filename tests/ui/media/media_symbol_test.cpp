@@ -23,7 +23,7 @@ QImage Drawn(MediaButton button, bool enabled = true, double factor = 1)
     return image;
 }
 
-/// The columns of the middle row that are dark, as pairs of the first and the one behind the last.
+/// The columns of the middle row that are dark, as pairs of the first and the one after the last.
 QList<std::pair<int, int>> DarkRuns(const QImage& image, int y)
 {
     QList<std::pair<int, int>> runs;
