@@ -2,6 +2,7 @@
 
 #include "browser/bind_browser.h"
 #include "browser/photo_caption.h"
+#include "program/catalogue/topics.h"
 #include "program/photo_list.h"
 #include "program/photo_name.h"
 #include "program/play_list_buttons.h"
@@ -91,11 +92,11 @@ void FocusAfterStep()
 {
     const QString& code = state.YearCode;
     int button = 1;
-    if (code == u"A0"_s)
+    if (code == code2000)
         button = yearCount;
     else if (code <= u"99"_s)
-        button = static_cast<int>(Val(code)) - 65;
-    if (code == u"A0"_s || code == u"A1"_s)
+        button = static_cast<int>(Val(code)) - yearBeforeFirst + 1;
+    if (code == code2000 || code == code2001)
         Form1->cmdYR(button).SetEnabled(true);
     Form1->cmdYR(button).SetFocus();
 }

@@ -96,7 +96,8 @@ private:
         const QString code = match.captured(2).toUpper();
         bool isNumber = false;
         code.toInt(&isNumber);
-        const bool isPhotos = isNumber || code == u"A0"_s || code == u"A1"_s || TopicOfCode(code) != nullptr;
+        const bool isPhotos =
+            isNumber || code == code2000 || code == code2001 || TopicOfCode(code) != nullptr;
         return match.hasMatch() && isPhotos ? match.captured(1).toUpper() + u".JPG"_s : QString();
     }
 

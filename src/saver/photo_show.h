@@ -38,9 +38,6 @@ public:
     /// A stage has changed its size.
     void StageResized(Stage& stage);
 
-    /// The file name of the photo that is on; empty while the title card is.
-    const QString& PhotoName() const { return photo_.FileName(); }
-
 private:
     void TakeNext();
     bool TakeNextPhoto();

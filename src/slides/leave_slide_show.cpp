@@ -35,8 +35,7 @@ void CarryPhotoOver()
 /// failure 13, Type mismatch.
 void FocusYearAfter()
 {
-    constexpr int yearBeforeTheFirst = 66;
-    const int button = static_cast<int>(RoundHalfEven(ToNumber(state.YearCode))) - yearBeforeTheFirst;
+    const int button = static_cast<int>(RoundHalfEven(ToNumber(state.YearCode))) - yearBeforeFirst;
     Form1->cmdYR(button + 1).SetFocus();
     state.CurrentYearButton = button;
 }

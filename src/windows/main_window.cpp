@@ -14,7 +14,7 @@ QString CaptionOfYearButton(int index)
         return u"1967"_s;
     if (index == 24)
         return u"1990"_s;
-    return u"%1"_s.arg((index + 66) % 100, 2, 10, QLatin1Char('0'));
+    return u"%1"_s.arg((index + yearBeforeFirst) % 100, 2, 10, QLatin1Char('0'));
 }
 
 /// Two rows, each led by a button wide enough for four digits.

@@ -1,8 +1,8 @@
-#include "platform/system/settings_store.h"
 #include "program/program_state.h"
 #include "program/task_bar.h"
 #include "start/main_window_life.h"
 #include "support/program.h"
+#include "support/saved_settings.h"
 #include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
@@ -15,11 +15,6 @@ using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
-
-QString Saved(const QString& key)
-{
-    return GetSetting(applicationTitle, u"Settings"_s, key, u"(none)"_s);
-}
 
 /// Lets a panel lie over the year bar before the window is loaded.
 bool barIsCovered = false;
@@ -215,11 +210,6 @@ private Q_SLOTS:
     }
 
 private:
-    static void ForgetSettings()
-    {
-        QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/The Torvik Vollandry 2001.ini"_s);
-    }
-
     std::unique_ptr<Program> program_;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/system/settings_store.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/saved_settings.h"
 #include "support/test_class.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
@@ -19,11 +20,6 @@ namespace {
 void SavePlace(const QString& key, const QString& value)
 {
     SaveSetting(applicationTitle, u"Settings"_s, key, value);
-}
-
-QString SavedPlace(const QString& key)
-{
-    return GetSetting(applicationTitle, u"Settings"_s, key, u"(none)"_s);
 }
 
 } // namespace
@@ -81,7 +77,7 @@ private Q_SLOTS:
                 SettingsPlace(applicationTitle));
         QVERIFY(QFile::exists(SettingsPlace(applicationTitle)));
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(SavedPlace(u"MainTop"_s), u"somewhere"_s);
+        QCOMPARE(Saved(u"MainTop"_s), u"somewhere"_s);
     }
 
     void closing_saves_the_placement_and_ends_data()
@@ -108,10 +104,10 @@ private Q_SLOTS:
             Form1->Window().close();
         QVERIFY(ProgramIsEnding());
         QVERIFY(program_->messages.Shown().isEmpty());
-        QCOMPARE(SavedPlace(u"MainLeft"_s), u"450"_s);
-        QCOMPARE(SavedPlace(u"MainTop"_s), u"600"_s);
-        QCOMPARE(SavedPlace(u"MainWidth"_s), u"11250"_s);
-        QCOMPARE(SavedPlace(u"MainHeight"_s), u"8400"_s);
+        QCOMPARE(Saved(u"MainLeft"_s), u"450"_s);
+        QCOMPARE(Saved(u"MainTop"_s), u"600"_s);
+        QCOMPARE(Saved(u"MainWidth"_s), u"11250"_s);
+        QCOMPARE(Saved(u"MainHeight"_s), u"8400"_s);
     }
 
     void closing_while_minimized_keeps_the_settings_of_the_run_before()
@@ -124,8 +120,8 @@ private Q_SLOTS:
         QCOMPARE(Form1->WindowState(), Form::State::Minimized);
         Form1->mnuExit.Click.Fire();
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(SavedPlace(u"MainLeft"_s), u"300"_s);
-        QCOMPARE(SavedPlace(u"MainWidth"_s), u"(none)"_s);
+        QCOMPARE(Saved(u"MainLeft"_s), u"300"_s);
+        QCOMPARE(Saved(u"MainWidth"_s), u"(none)"_s);
     }
 
     void closing_while_maximized_saves_what_an_ordinary_window_takes_for_the_same_area()
@@ -137,9 +133,9 @@ private Q_SLOTS:
         QTRY_VERIFY(Form1->Left() == 0.0 && !Form1->IsSettling());
         const QRect covered = Form1->Window().windowHandle()->frameGeometry();
         Form1->mnuExit.Click.Fire();
-        QCOMPARE(SavedPlace(u"MainLeft"_s), u"0"_s);
-        QCOMPARE(SavedPlace(u"MainTop"_s), u"0"_s);
-        QVERIFY(SavedPlace(u"MainWidth"_s).toDouble() > 6000);
+        QCOMPARE(Saved(u"MainLeft"_s), u"0"_s);
+        QCOMPARE(Saved(u"MainTop"_s), u"0"_s);
+        QVERIFY(Saved(u"MainWidth"_s).toDouble() > 6000);
 
         program_.reset();
         program_ = std::make_unique<Program>();
@@ -183,11 +179,6 @@ private:
         SavePlace(u"MainTop"_s, u"600"_s);
         SavePlace(u"MainWidth"_s, u"6000"_s);
         SavePlace(u"MainHeight"_s, u"6000"_s);
-    }
-
-    static void ForgetSettings()
-    {
-        QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/The Torvik Vollandry 2001.ini"_s);
     }
 
     std::unique_ptr<Program> program_;

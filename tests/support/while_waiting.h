@@ -21,6 +21,7 @@ public:
         timer_.start(0);
     }
 
+    /// Whether it was run, or has begun to.
     bool Ran() const { return ran_; }
 
 private:

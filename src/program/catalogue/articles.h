@@ -6,10 +6,11 @@ namespace torvik {
 
 struct Topic;
 
-// In front of what a window title tells. Which of the two it is has always been different from one document
-// to the next.
+// In front of what a window title tells. Which of the first two it is has always been different from one
+// document to the next; the third leads the title of an advertisement.
 inline constexpr const char* wideTitle = "The Torvik Vollandry       ";
 inline constexpr const char* narrowTitle = "The Torvik Vollandry     ";
+inline constexpr const char* pageTitle = "The Torvik Vollandry    ";
 
 /// A document and the window title that belongs to it.
 struct Article {

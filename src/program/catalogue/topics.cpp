@@ -1,6 +1,7 @@
 #include "program/catalogue/topics.h"
 
 #include "runtime/text.h"
+#include "windows/main_window.h"
 
 #include <algorithm>
 
@@ -169,9 +170,9 @@ QString TitleOfCode(const QString& code)
     const Topic* topic = TopicOfCode(code);
     if (topic != nullptr && topic->isNamedInSlideShow)
         return QString::fromLatin1(topic->title);
-    if (code == u"A0"_s)
+    if (code == code2000)
         return u"2000"_s;
-    if (code == u"A1"_s)
+    if (code == code2001)
         return u"2001"_s;
     return u"19"_s + code + u" "_s;
 }
@@ -182,15 +183,15 @@ QString CodeOfTitle(const QString& title)
         return QString::fromLatin1(topic->code);
     QString digits = Mid(title, 3, 2);
     if (digits == u"00"_s)
-        return u"A0"_s;
+        return code2000;
     if (digits == u"01"_s)
-        return u"A1"_s;
+        return code2001;
     return digits;
 }
 
 QString YearOfButton(int index)
 {
-    return index < 34 ? u"19%1"_s.arg(index + 66) : u"200%1"_s.arg(index - 34);
+    return QString::number(1900 + yearBeforeFirst + index);
 }
 
 } // namespace torvik

@@ -49,6 +49,10 @@ struct Topic {
     bool keepsOverlays = false;     ///< open emblem, script and clip art stay, and are loaded anew
 };
 
+// The codes of 2000 and 2001, which sort after those of the other years.
+inline constexpr QLatin1String code2000("A0");
+inline constexpr QLatin1String code2001("A1");
+
 /// All topics.
 std::span<const Topic> Topics();
 

@@ -134,8 +134,8 @@ public:
     Form& OwnerForm() override { return *this; }
     FormWindow& Window() { return *window_; }
     const FormDesign& Design() const { return design_; }
-    /// True while the program's placing of the window is still on its way through the desktop; its steps
-    /// become no measures of the form.
+    /// For the tests: true while the program's placing of the window is still on its way through the desktop;
+    /// its steps become no measures of the form.
     bool IsSettling() const { return changing_ || !settled_; }
     /// True once the form was unloaded, although it lives on until the handlers that were running then are
     /// done.

@@ -51,7 +51,7 @@ public:
     enum class Mode { NotOpen, Stopped, Playing, Paused };
     /// A file that turned out to be nothing that can be played is NotOpen.
     Mode State() const { return mode_; }
-    /// True between "open" and "close", whatever the file holds.
+    /// For the tests: true between "open" and "close", whatever the file holds.
     bool IsOpen() const { return stream_ != nullptr; }
 
     /// Where it stands and how long the file is, in milliseconds.
