@@ -107,7 +107,7 @@ QImage PaintClipArt(const SmallPicture& strip)
     const CarShape shape = ShapeOfYear(strip.year);
     const double scale = 41;
     DrawCarSide(p, shape, paint, {scene.center().x() - shape.length * scale / 2, groundLine}, scale);
-    DrawWheel(p, shape.wheel, {344, 40}, 30);
+    DrawWheel(p, shape, {344, 40}, 30);
     DrawYear(p, QRectF(386, 5, 88, 70), strip.year, paint);
     return picture;
 }

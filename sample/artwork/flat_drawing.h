@@ -19,6 +19,6 @@ void FillOutlined(QPainter& painter, const QPainterPath& shape, const QColor& co
 void DrawCarSide(QPainter& painter, const CarShape& shape, const QColor& paint, const QPointF& foot,
                  double scale);
 /// The face of its wheel.
-void DrawWheel(QPainter& painter, WheelFace face, const QPointF& middle, double radius);
+void DrawWheel(QPainter& painter, const CarShape& shape, const QPointF& middle, double radius);
 
 } // namespace torvik::sample

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QPainterPath>
-#include <QString>
+#include "sample/drawings/script.h"
 
 namespace torvik::sample {
 
@@ -17,5 +16,8 @@ struct Pen {
 /// The word in joined handwriting as one shape, its line of writing at y = 0 and its left edge near x = 0.
 /// Knows the letters of the names of the cars; throws std::out_of_range for others.
 QPainterPath WriteWord(const QString& word, const Pen& pen);
+
+/// Teaches a script ink(word, xHeight, broad, fine, spread): the word written with such a pen.
+void TeachPen(Script& script);
 
 } // namespace torvik::sample

@@ -2,6 +2,8 @@
 
 #include "sample/geometry/curve.h"
 
+#include <span>
+
 namespace torvik::sample {
 
 enum class Lamps { RoundInGrille, RoundInWings, RectangularPair, Slim, Tall };
@@ -68,6 +70,18 @@ struct CarShape : CarLines, CarLooks {
     double bumperHeight = 0.42;
     bool wing = false;
 };
+
+/// A curve and a number of a body, each by its name.
+struct CarCurve {
+    const char* name;
+    Curve CarLines::*field;
+};
+struct CarFigure {
+    const char* name;
+    double CarShape::*field;
+};
+std::span<const CarCurve> CarCurves();
+std::span<const CarFigure> CarFigures();
 
 /// The body of the model year (1967 to 2001); six generations, and small changes from year to year.
 CarShape ShapeOfYear(int year);

@@ -1,6 +1,11 @@
 #include "sample/car/skin_painter.h"
 
+#include "sample/geometry/shapes.h"
 #include "sample/geometry/wide_registers.h"
+
+#include <QPainter>
+
+#include <cmath>
 
 namespace torvik::sample {
 
@@ -12,6 +17,13 @@ QColor Grey(int level, int second = 0)
 {
     return QColor(std::clamp(level, 0, 255), std::clamp(second, 0, 255), 0);
 }
+Surface SurfaceOf(const Value& look)
+{
+    const auto number = [&](std::size_t i) { return look.Items().size() > i ? look.At(i).Whole() : 0; };
+    return {look.At(0).Brush(), number(1), number(2), number(3), number(4)};
+}
+
+const Surface chromeLook{QColor(246, 246, 248), 255, 0, 0, 0};
 
 } // namespace
 
@@ -120,11 +132,51 @@ SkinMap SkinPainter::Finish()
     return SkinMap(colour_, material_, relief_, left_, bottom_, scale_);
 }
 
-QPainterPath RoundedPath(double u0, double v0, double u1, double v1, double radius)
+void TeachSkin(Script& script, SkinPainter& painter)
 {
-    return Rounded(
-        QRectF(QPointF(std::min(u0, u1), std::min(v0, v1)), QPointF(std::max(u0, u1), std::max(v0, v1))),
-        radius);
+    TeachShapes(script);
+    const std::pair<const char*, Value::List> looks[] = {
+        {"chromeLook", {QColor(246, 246, 248), 255, 0, 0, 0}},
+        {"rubberLook", {QColor(34, 34, 36), 0, 0, 215, 0}},
+        {"darkLook", {QColor(10, 10, 11), 0, 0, 235, 0}},
+        {"glassLook", {QColor(30, 38, 40), 0, 255, 0, 0}}};
+    for (const auto& [name, look] : looks)
+        script.Set(QString::fromLatin1(name), look);
+    using Action = void (*)(SkinPainter&, const Arguments&);
+    constexpr std::pair<const char*, Action> actions[] = {
+        {"fill", [](SkinPainter& p, const Arguments& a) { p.Fill(a.Path(0), SurfaceOf(a.at(1))); }},
+        {"bar",
+         [](SkinPainter& p, const Arguments& a) { p.Line(a.Path(0), a.Number(1), SurfaceOf(a.at(2))); }},
+        {"ridge", [](SkinPainter& p, const Arguments& a) { p.Ridge(a.Path(0), a.Number(1), a.Whole(2)); }},
+        {"raise", [](SkinPainter& p, const Arguments& a) { p.Raise(a.Path(0), a.Number(1), a.Whole(2)); }},
+        {"gap", [](SkinPainter& p, const Arguments& a) { p.Gap(a.Path(0)); }},
+        {"chromebar", [](SkinPainter& p, const Arguments& a) { p.ChromeBar(a.Path(0), a.Number(1)); }},
+        {"label",
+         [](SkinPainter& p, const Arguments& a) {
+             p.Text(a.Text(0), a.Number(1), a.Number(2), a.Number(3), a.Text(4), a.Number(5) != 0,
+                    a.Number(6) != 0, SurfaceOf(a.at(7)));
+         }},
+    };
+    for (const auto& [name, action] : actions) {
+        script.Teach(name, [&painter, action](const Arguments& a) {
+            action(painter, a);
+            return Value();
+        });
+    }
+    // A rounded box between two corners, whichever they are.
+    script.Teach("plank", [](const Arguments& a) {
+        const auto [left, right] = std::minmax({a.Number(0), a.Number(2)});
+        const auto [bottom, top] = std::minmax({a.Number(1), a.Number(3)});
+        return Rounded(QRectF(QPointF(left, bottom), QPointF(right, top)), a.Number(4));
+    });
+    // The shape a fifth smaller round a point.
+    script.Teach("about", [](const Arguments& a) {
+        QTransform inner;
+        inner.translate(a.Number(1), a.Number(2));
+        inner.scale(0.8, 0.8);
+        inner.translate(-a.Number(1), -a.Number(2));
+        return inner.map(a.Path(0));
+    });
 }
 
 } // namespace torvik::sample

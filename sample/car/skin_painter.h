@@ -1,7 +1,7 @@
 #pragma once
 
 #include "sample/car/skin.h"
-#include "sample/geometry/shapes.h"
+#include "sample/drawings/script.h"
 
 #include <memory>
 
@@ -48,24 +48,8 @@ private:
     double scale_;
 };
 
-QPainterPath RoundedPath(double u0, double v0, double u1, double v1, double radius);
-
-/// Looks that occur everywhere.
-inline const Surface chromeLook{QColor(246, 246, 248), 255, 0, 0, 0};
-inline const Surface rubberLook{QColor(34, 34, 36), 0, 0, 215, 0};
-inline const Surface darkLook{QColor(10, 10, 11), 0, 0, 235, 0};
-inline const Surface glassLook{QColor(30, 38, 40), 0, 255, 0, 0};
-
-SkinMap DrawSideSkin(const CarShape& shape, const Paint& paint, const Trim& trim, CarSide side,
-                     double pointsPerMetre);
-SkinMap DrawTopSkin(const CarShape& shape, const Paint& paint, const Trim& trim, double pointsPerMetre);
-SkinMap DrawFrontSkin(const CarShape& shape, const Paint& paint, const Trim& trim, double pointsPerMetre);
-SkinMap DrawRearSkin(const CarShape& shape, const Paint& paint, const Trim& trim, double pointsPerMetre);
-/// The face of wheel and tyre, centred on the hub.
-SkinMap DrawWheelSkin(const CarShape& shape, const Paint& paint, const Trim& trim, double pointsPerMetre);
-
-/// The number plate with its middle at (u, v); used by front and rear.
-class SkinPainter;
-void DrawPlate(SkinPainter& painter, double u, double v, const QString& text);
+/// Teaches a script the words that paint on sheets, and the looks that occur everywhere. A look is a list of
+/// colour, metal, glass, roughness and glow. The painter has to outlive the script.
+void TeachSkin(Script& script, SkinPainter& painter);
 
 } // namespace torvik::sample

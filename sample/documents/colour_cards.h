@@ -22,9 +22,9 @@ std::vector<CardColour> ColourCard(int year);
 
 /// A trim of the seats.
 struct SeatTrim {
-    const char* name;
-    const char* cloth;
-    unsigned colour; ///< 0xRRGGBB
+    QString name;
+    QString cloth;
+    QRgb colour; ///< 0xRRGGBB
     int from;
     int to;
 };

@@ -7,6 +7,8 @@
 #include "sample/files/rich_document.h"
 #include "sample/files/text_store.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace torvik::sample {
@@ -14,51 +16,6 @@ namespace torvik::sample {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// An article that is one stored text.
-struct LibraryFile {
-    const char* file;
-    const char* text;
-};
-
-constexpr LibraryFile libraryFiles[] = {{"books.rtf", "books"},
-                                        {"carstuff.rtf", "calendars"},
-                                        {"catalogs.rtf", "catalogs"},
-                                        {"contrib.rtf", "contributions"},
-                                        {"credits.rtf", "credits"},
-                                        {"danbury.rtf", "danbury"},
-                                        {"desc.rtf", "how_to_read"},
-                                        {"desperat.rtf", "metal_signs"},
-                                        {"ENGINES.rtf", "engines"},
-                                        {"franklin.rtf", "franklin"},
-                                        {"glossary.rtf", "glossary"},
-                                        {"idsellark.rtf", "sellark_guide"},
-                                        {"idTorvik.rtf", "identification"},
-                                        {"Introduction.rtf", "introduction"},
-                                        {"knives.rtf", "knives"},
-                                        {"m1stats.rtf", "kestra_one"},
-                                        {"m3stats.rtf", "kestra_three"},
-                                        {"mag4.rtf", "magazine_torvik_fords"},
-                                        {"mag5.rtf", "magazine_five"},
-                                        {"magmi.rtf", "magazine_illustrated"},
-                                        {"magmm.rtf", "magazine_monthly"},
-                                        {"magmmff.rtf", "magazine_muscle"},
-                                        {"monopoly.rtf", "monopoly"},
-                                        {"msstats.rtf", "super_stallion"},
-                                        {"notice.rtf", "notice"},
-                                        {"plates.rtf", "plates"},
-                                        {"PRIntro.rtf", "press_introduction"},
-                                        {"PRMarket.rtf", "press_market"},
-                                        {"PROptions.rtf", "press_options"},
-                                        {"ptdesc.rtf", "prototypes"},
-                                        {"sbcolors.rtf", "harwell_colours"},
-                                        {"sbopts.rtf", "harwell_options"},
-                                        {"sbstats.rtf", "harwell_figures"},
-                                        {"sshelp.rtf", "saver_help"},
-                                        {"stamps.rtf", "stamps"},
-                                        {"timeline.rtf", "timeline"},
-                                        {"TorvikAdsList.rtf", "advertisements"},
-                                        {"whatsnew.rtf", "whats_new"}};
 
 /// "67" to "99", then "a0" and "a1": how the names of the articles of a year begin.
 QString ArticlePrefix(int year)
@@ -93,9 +50,10 @@ std::vector<PlannedDocument> PlanDocuments()
         add(prefix + (year < 2000 ? u"opts.rtf"_s : u"OPTS.rtf"_s), YearOptions(year));
         add(u"nostalgia%1.rtf"_s.arg(year % 100, 2, 10, '0'_L1), YearNostalgia(year));
     }
-    for (const LibraryFile& library : libraryFiles)
-        add(QString::fromLatin1(library.file),
-            ArticleOfSource(StoredText(QString::fromLatin1(library.text))));
+    // Each line: the file, and the stored text that it is.
+    const QStringList library = StoredText(u"library"_s).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString& line : library)
+        add(line.section(u' ', 0, 0), ArticleOfSource(StoredText(line.section(u' ', 1))));
     add(u"stats.rtf"_s, LibraryStatistics());
     std::sort(documents.begin(), documents.end(),
               [](const PlannedDocument& a, const PlannedDocument& b) { return a.file < b.file; });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <span>
@@ -38,13 +39,13 @@ Measures MeasuresOf(int year);
 /// An engine in the tune in which it was sold during some years.
 struct Engine {
     char code; ///< the letter on the plate
-    const char* name;
-    const char* layout; ///< "i4", "i6", "v6" or "v8"
+    QByteArray name;
+    QByteArray layout; ///< "i4", "i6", "v6" or "v8"
     double litres;
     double bore;        ///< millimetres
     double stroke;      ///< millimetres
     double compression; ///< to one
-    const char* feed;
+    QByteArray feed;
     int power;   ///< bhp
     int powerAt; ///< revolutions a minute
     int torque;  ///< lb-ft
@@ -67,7 +68,7 @@ enum class OptionGroup { Drive, Comfort, Looks, Sound };
 /// Something that could be ordered, in the years in which it could.
 struct Option {
     OptionGroup group;
-    const char* name; ///< UTF-8
+    QByteArray name; ///< UTF-8
     int from;
     int to;
     int price; ///< in dollars of 1967

@@ -68,9 +68,8 @@ void AddTrims(Article& article, int year)
         .heading = true};
     table.rows.push_back(head);
     for (const SeatTrim& trim : SeatTrims(year)) {
-        Row row{.cells = {Swatch(article, QColor(QRgb(trim.colour))),
-                          article.CellOf(QString::fromUtf8(trim.name)),
-                          article.CellOf(QString::fromUtf8(trim.cloth))}};
+        Row row{.cells = {Swatch(article, QColor(QRgb(trim.colour))), article.CellOf(trim.name),
+                          article.CellOf(trim.cloth)}};
         table.rows.push_back(row);
     }
     article.AddTable(table);

@@ -9,10 +9,12 @@ Curve::Curve(std::initializer_list<Point> points) : points_(points)
     FindSlopes();
 }
 
-Curve::Curve(std::initializer_list<double> placesAndValues)
+Curve::Curve(std::initializer_list<double> placesAndValues) : Curve(std::vector<double>(placesAndValues)) {}
+
+Curve::Curve(const std::vector<double>& placesAndValues)
 {
-    for (const double* place = placesAndValues.begin(); place != placesAndValues.end(); place += 2)
-        points_.push_back({place[0], place[1]});
+    for (std::size_t i = 0; i + 1 < placesAndValues.size(); i += 2)
+        points_.push_back({placesAndValues[i], placesAndValues[i + 1]});
     FindSlopes();
 }
 

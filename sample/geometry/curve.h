@@ -20,6 +20,7 @@ public:
 
     /// The same from places and values in turn.
     Curve(std::initializer_list<double> placesAndValues);
+    explicit Curve(const std::vector<double>& placesAndValues);
 
     double operator()(double at) const;
     /// The same curve with every value raised by `amount`.

@@ -1,5 +1,6 @@
 #include "sample/motifs/motifs.h"
 
+#include "sample/motifs/motif_script.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/film.h"
 
@@ -19,12 +20,14 @@ QImage PaintCar(const PlannedPhoto& photo)
 
 QImage TakePhoto(const PlannedPhoto& photo)
 {
-    // In the order of the motifs.
-    constexpr QImage (*painters[])(const PlannedPhoto&) = {
-        PaintCar,     PaintDashboard, PaintBadge,   PaintEngine,    PaintStamps, PaintSign,
-        PaintDieCast, PaintKnife,     PaintCookies, PaintBoardGame, PaintClay,   PaintSketch};
-    QImage picture =
-        painters[static_cast<std::size_t>(photo.motif)](photo).convertToFormat(QImage::Format_RGB32);
+    // In the order of the motifs; those without a name are not drawings.
+    constexpr const char* drawings[] = {nullptr,   "dashboard", "badge",   "engine",     "stamps", "sign",
+                                        "diecast", "knife",     "cookies", "board_game", nullptr,  "sketch"};
+    const char* drawing = drawings[static_cast<std::size_t>(photo.motif)];
+    QImage picture = drawing                      ? PaintMotif(drawing, photo)
+                     : photo.motif == Motif::Clay ? PaintClay(photo)
+                                                  : PaintCar(photo);
+    picture = picture.convertToFormat(QImage::Format_RGB32);
     Develop(picture, photo.year, SeedOf(photo));
     return picture;
 }

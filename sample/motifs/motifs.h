@@ -6,19 +6,10 @@
 
 namespace torvik::sample {
 
-/// The picture as it is looked at, before it is stored: a car in its place, or one of the motifs below.
+/// The picture as it is looked at, before it is stored: a car in its place, or another motif.
 QImage TakePhoto(const PlannedPhoto& photo);
 
-QImage PaintDashboard(const PlannedPhoto& photo);
-QImage PaintEngine(const PlannedPhoto& photo);
-QImage PaintBadge(const PlannedPhoto& photo);
-QImage PaintStamps(const PlannedPhoto& photo);
-QImage PaintSign(const PlannedPhoto& photo);
-QImage PaintDieCast(const PlannedPhoto& photo);
-QImage PaintKnife(const PlannedPhoto& photo);
-QImage PaintCookies(const PlannedPhoto& photo);
-QImage PaintBoardGame(const PlannedPhoto& photo);
+/// A model of clay in the studio.
 QImage PaintClay(const PlannedPhoto& photo);
-QImage PaintSketch(const PlannedPhoto& photo);
 
 } // namespace torvik::sample

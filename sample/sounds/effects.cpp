@@ -1,5 +1,7 @@
 #include "sample/sounds/effects.h"
 
+#include "sample/sounds/score.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -22,6 +24,11 @@ Effect Two(const char* file, double seconds, SoundForm form, TwoEars (*voice)())
             }};
 }
 
+Effect Score(const char* file, double seconds, int channels, SoundForm form, const char* name)
+{
+    return {file, seconds, channels, form, [name] { return PlayScore(name); }};
+}
+
 } // namespace
 
 const std::vector<Effect>& SoundEffects()
@@ -32,21 +39,35 @@ const std::vector<Effect>& SoundEffects()
     static constexpr SoundForm oldest{11025, 8};
     static constexpr SoundForm dull{11025, 16};
     static const std::vector<Effect> effects{
-        One("backfrng.wav", 4.0, usual, Backfiring),     One("car_door.wav", 2.8, usual, CarDoor),
-        One("carhorns.wav", 4.6, old, CarHorns),         Two("horns.wav", 6.5, usual, Traffic),
-        Two("cop-car.wav", 6.5, usual, PoliceCar),       One("taxi.wav", 3.6, oldest, TaxiHorns),
-        One("sportcar.wav", 5.5, usual, SportsCar),      Two("18wheelr.wav", 7.0, usual, EighteenWheeler),
-        One("peel-out.wav", 5.5, usual, DragStart),      Two("Track2.wav", 7.5, usual, AtTheTrack),
-        Two("nascar.wav", 4.5, usual, StockCarsPass),    One("racecar.wav", 5.0, usual, RacingLap),
-        Two("indy-car.wav", 4.0, usual, SpeedwayPass),   One("mcycle.wav", 6.0, usual, TwinMotorcycle),
-        One("batmoble.wav", 6.0, usual, TurbineCar),     One("62sellark.wav", 5.0, old, GentleSix),
-        One("63sellark.wav", 5.5, usual, SportyEight),   One("selstart.wav", 7.5, usual, ThreeStarts),
-        One("passby.wav", 3.2, usual, PassingEight),     One("selcar.wav", 6.0, oldest, OldColumnShift),
-        One("qr7start.wav", 5.0, usual, BigEightStart),  One("motorcyc2.wav", 5.5, usual, FourMotorcycle),
-        One("hot_rod.wav", 6.0, usual, BlownHotRod),     One("red_lght.wav", 7.0, usual, RedLight),
-        One("porche.wav", 6.0, usual, AirCooledStart),   One("stealth.wav", 4.5, usual, OpenRoadster),
-        One("stuck.wav", 6.5, dull, StuckOnIce),         One("revnrun.wav", 6.0, usual, RevAndRun),
-        Two("goingby.wav", 4.5, usual, GoingByInTheWet),
+        One("backfrng.wav", 4.0, usual, Backfiring),
+        Score("car_door.wav", 2.8, 1, usual, "carDoor"),
+        Score("carhorns.wav", 4.6, 1, old, "carHorns"),
+        Score("horns.wav", 6.5, 2, usual, "traffic"),
+        Score("cop-car.wav", 6.5, 2, usual, "policeCar"),
+        Score("taxi.wav", 3.6, 1, oldest, "taxiHorns"),
+        Score("sportcar.wav", 5.5, 1, usual, "sportsCar"),
+        Two("18wheelr.wav", 7.0, usual, EighteenWheeler),
+        Score("peel-out.wav", 5.5, 1, usual, "dragStart"),
+        Score("Track2.wav", 7.5, 2, usual, "atTheTrack"),
+        Score("nascar.wav", 4.5, 2, usual, "stockCarsPass"),
+        Score("racecar.wav", 5.0, 1, usual, "racingLap"),
+        Score("indy-car.wav", 4.0, 2, usual, "speedwayPass"),
+        Score("mcycle.wav", 6.0, 1, usual, "twinMotorcycle"),
+        One("batmoble.wav", 6.0, usual, TurbineCar),
+        Score("62sellark.wav", 5.0, 1, old, "gentleSix"),
+        Score("63sellark.wav", 5.5, 1, usual, "sportyEight"),
+        Score("selstart.wav", 7.5, 1, usual, "threeStarts"),
+        Score("passby.wav", 3.2, 1, usual, "passingEight"),
+        One("selcar.wav", 6.0, oldest, OldColumnShift),
+        Score("qr7start.wav", 5.0, 1, usual, "bigEightStart"),
+        Score("motorcyc2.wav", 5.5, 1, usual, "fourMotorcycle"),
+        Score("hot_rod.wav", 6.0, 1, usual, "blownHotRod"),
+        Score("red_lght.wav", 7.0, 1, usual, "redLight"),
+        Score("porche.wav", 6.0, 1, usual, "airCooledStart"),
+        Score("stealth.wav", 4.5, 1, usual, "openRoadster"),
+        One("stuck.wav", 6.5, dull, StuckOnIce),
+        Score("revnrun.wav", 6.0, 1, usual, "revAndRun"),
+        Score("goingby.wav", 4.5, 2, usual, "goingByInTheWet"),
     };
     return effects;
 }

@@ -26,40 +26,11 @@ QByteArray MakeEffect(const Effect& effect);
 /// The bytes of the effect of this name; throws std::runtime_error for a name that is not planned.
 QByteArray EffectNamed(const char* file);
 
-/// What the single effects sound like; `effects.cpp` gives them their files. Most are a little longer than
-/// their file, so that it can be cut at its end.
-
+/// The effects that are not scores of drawings/effects.txt, as they follow formulas from sample to sample.
 Sound Backfiring();
-Sound CarDoor();
-Sound CarHorns();
-TwoEars Traffic();
-TwoEars PoliceCar();
-Sound TaxiHorns();
 TwoEars EighteenWheeler();
-Sound RedLight();
 Sound StuckOnIce();
-Sound PassingEight();
-TwoEars GoingByInTheWet();
-
-Sound SportsCar();
-Sound DragStart();
-TwoEars AtTheTrack();
-TwoEars StockCarsPass();
-Sound RacingLap();
-TwoEars SpeedwayPass();
-Sound TurbineCar();
-Sound OpenRoadster();
-Sound RevAndRun();
-
-Sound TwinMotorcycle();
-Sound FourMotorcycle();
-
-Sound GentleSix();
-Sound SportyEight();
-Sound ThreeStarts();
 Sound OldColumnShift();
-Sound BigEightStart();
-Sound BlownHotRod();
-Sound AirCooledStart();
+Sound TurbineCar();
 
 } // namespace torvik::sample

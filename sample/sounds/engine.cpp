@@ -94,20 +94,6 @@ const EngineKind diesel{Evenly(6, 2), 0.0030, {3.4, 3.4}, 0.45, 700,  0.12, 0,
 const EngineKind turbocharged{Evenly(8, 2), 0.0006, {0.75, 0.8}, 0.7,  3000, 0.2, 0,
                               0.4,          0.10,   0.05,        3200, 0.16, 17,  0.3};
 
-EngineKind Tuned(EngineKind kind, const Tuning& tuning)
-{
-    kind.pulse = tuning.pulse.value_or(kind.pulse);
-    kind.pipes = tuning.pipes.value_or(kind.pipes);
-    kind.ring = tuning.ring.value_or(kind.ring);
-    kind.muffler = tuning.muffler.value_or(kind.muffler);
-    kind.rough = tuning.rough.value_or(kind.rough);
-    kind.lope = tuning.lope.value_or(kind.lope);
-    kind.whine = tuning.whine.value_or(kind.whine);
-    kind.whineRatio = tuning.whineRatio.value_or(kind.whineRatio);
-    kind.crackle = tuning.crackle.value_or(kind.crackle);
-    return kind;
-}
-
 Sound RunEngine(const EngineKind& kind, const Driving& driving)
 {
     Random random(driving.seed);

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 namespace torvik::sample {
@@ -39,20 +38,6 @@ struct EngineKind {
 /// shortly after the other.
 extern const EngineKind burblingEight, screamingEight, straightSix, airCooledSix, straightFour, bigTwin,
     diesel, turbocharged;
-
-/// What is different in an engine that somebody has worked on.
-struct Tuning {
-    std::optional<double> pulse = {};
-    std::optional<std::array<double, 2>> pipes = {};
-    std::optional<double> ring = {};
-    std::optional<double> muffler = {};
-    std::optional<double> rough = {};
-    std::optional<double> lope = {};
-    std::optional<double> whine = {};
-    std::optional<double> whineRatio = {};
-    std::optional<double> crackle = {};
-};
-EngineKind Tuned(EngineKind kind, const Tuning& tuning);
 
 /// How the engine is driven.
 struct Driving {

@@ -5,6 +5,7 @@
 #include "search/text_index.h"
 
 #include <QCoreApplication>
+#include <QSqlDatabase>
 #include <QThreadPool>
 
 #include <chrono>
@@ -27,13 +28,14 @@ constexpr qsizetype lineLength = 110;              ///< as much as the form has 
 constexpr std::chrono::milliseconds freshFor{120}; ///< an answer, while more is read
 
 /// The threads that use a database. None of them ever waits for a disc, so the program's end can wait for
-/// them while there is still an application: later Qt's list of databases, which they leave, is gone as well.
+/// them while there is still an application and Qt's list of databases, which they leave.
 QThreadPool& IndexThreads()
 {
     static QThreadPool pool;
     static const bool isAwaited = [] {
         constexpr int many = 16;
         pool.setMaxThreadCount(many);
+        QSqlDatabase::drivers(); // the list's own end is set by this, and what was set last is called first
         qAddPostRoutine([] { pool.waitForDone(); });
         return true;
     }();

@@ -184,22 +184,22 @@ private Q_SLOTS:
         ImageMaker first;
         first.AddFile("BOOKS.RTF;1", "one", first.AddFolder("RICHTEXT"));
         const ImageDrive drive(first.Iso());
-        const QString mark = FolderMark(OnDisc("RichText"));
+        const QString mark = FolderMark(On("RichText"));
         QVERIFY(!mark.isEmpty());
-        QCOMPARE(FolderMark(OnDisc("richtext")), mark);
-        QCOMPARE(FolderMark(OnDisc("none")), QString());
-        QCOMPARE(FolderMark(OnDisc("richtext\\books.rtf")), QString());
+        QCOMPARE(FolderMark(On("richtext")), mark);
+        QCOMPARE(FolderMark(On("none")), QString());
+        QCOMPARE(FolderMark(On("richtext\\books.rtf")), QString());
 
         ImageMaker second;
         second.AddFile("BOOKS.RTF;1", "two", second.AddFolder("RICHTEXT"));
         QVERIFY(drive.Write(u"other.iso"_s, second.Iso()));
         QVERIFY(QFile::remove(drive.PathOf(u"disc.iso"_s)));
         QVERIFY(QFile::rename(drive.PathOf(u"other.iso"_s), drive.PathOf(u"disc.iso"_s)));
-        QCOMPARE(FolderMark(OnDisc("RichText")), mark); // the first one is still open, and read
-        QCOMPARE(ReadFile(OnDisc("richtext\\books.rtf")), QByteArray("one"));
+        QCOMPARE(FolderMark(On("RichText")), mark); // the first one is still open, and read
+        QCOMPARE(ReadFile(On("richtext\\books.rtf")), QByteArray("one"));
         RefreshDrives();
-        QVERIFY(FolderMark(OnDisc("RichText")) != mark);
-        QCOMPARE(ReadFile(OnDisc("richtext\\books.rtf")), QByteArray("two"));
+        QVERIFY(FolderMark(On("RichText")) != mark);
+        QCOMPARE(ReadFile(On("richtext\\books.rtf")), QByteArray("two"));
     }
 
     void an_open_file_outlives_its_drive()

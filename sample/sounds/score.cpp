@@ -1,0 +1,216 @@
+#include "sample/sounds/score.h"
+
+#include "sample/drawings/script.h"
+#include "sample/geometry/curve.h"
+#include "sample/sounds/engine.h"
+#include "sample/sounds/filters.h"
+#include "sample/sounds/motion.h"
+#include "sample/sounds/road.h"
+
+#include <stdexcept>
+
+namespace torvik::sample {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+/// A number, a list of seconds and values, or a drive at one speed.
+Course CourseOf(const Value& value)
+{
+    if (!value.IsList())
+        return Always(value.Number());
+    if (value.At(0).IsText())
+        return [speed = value.At(1).Number(), passing = value.At(2).Number()](double t) {
+            return speed * (t - passing);
+        };
+    std::vector<double> points;
+    for (const Value& point : value.Items())
+        points.insert(points.end(), {point.At(0).Number(), point.At(1).Number()});
+    return Curve(points);
+}
+
+std::vector<double> NumbersOf(const Value& list)
+{
+    std::vector<double> numbers;
+    for (const Value& number : list.Items())
+        numbers.push_back(number.Number());
+    return numbers;
+}
+
+std::uint32_t Seed(const Value& value)
+{
+    return static_cast<std::uint32_t>(value.Whole());
+}
+
+/// The name of an engine, or a list of its name and of what is different in it.
+EngineKind EngineOf(const Value& value)
+{
+    const std::pair<QLatin1String, const EngineKind*> kinds[] = {{"burblingEight"_L1, &burblingEight},
+                                                                 {"screamingEight"_L1, &screamingEight},
+                                                                 {"straightSix"_L1, &straightSix},
+                                                                 {"airCooledSix"_L1, &airCooledSix},
+                                                                 {"straightFour"_L1, &straightFour},
+                                                                 {"bigTwin"_L1, &bigTwin},
+                                                                 {"diesel"_L1, &diesel},
+                                                                 {"turbocharged"_L1, &turbocharged}};
+    const std::pair<QLatin1String, double EngineKind::*> numbers[] = {
+        {"pulse"_L1, &EngineKind::pulse},
+        {"ring"_L1, &EngineKind::ring},
+        {"muffler"_L1, &EngineKind::muffler},
+        {"rough"_L1, &EngineKind::rough},
+        {"lope"_L1, &EngineKind::lope},
+        {"whine"_L1, &EngineKind::whine},
+        {"whineRatio"_L1, &EngineKind::whineRatio},
+        {"crackle"_L1, &EngineKind::crackle}};
+    const Value& name = value.IsList() ? value.At(0) : value;
+    const auto* known = std::find_if(std::begin(kinds), std::end(kinds),
+                                     [&](const auto& kind) { return kind.first == name.Text(); });
+    if (known == std::end(kinds))
+        throw std::runtime_error("There is no such engine.");
+    EngineKind kind = *known->second;
+    for (std::size_t i = 1; value.IsList() && i < value.Items().size(); ++i) {
+        const Value& change = value.At(i);
+        if (change.At(0).Text() == "pipes"_L1)
+            kind.pipes = {change.At(1).Number(), change.At(2).Number()};
+        for (const auto& [word, field] : numbers) {
+            if (change.At(0).Text() == word)
+                kind.*field = change.At(1).Number();
+        }
+    }
+    return kind;
+}
+
+Driving DrivingOf(const Value& list)
+{
+    return {list.At(0).Number(), CourseOf(list.At(1)), CourseOf(list.At(2)), Seed(list.At(3))};
+}
+
+Drive DriveOf(const Value& list)
+{
+    Drive drive{CourseOf(list.At(0)), list.At(1).Number()};
+    if (list.Items().size() > 2)
+        drive.dulled = list.At(2).Number();
+    return drive;
+}
+
+/// The sounds of a score while it is played; a script knows them by their numbers.
+class Sounds {
+public:
+    using Channels = std::vector<Sound>;
+
+    Value Keep(Channels sound)
+    {
+        kept_.push_back(std::move(sound));
+        return static_cast<double>(kept_.size() - 1);
+    }
+    Channels& Of(const Value& number) { return kept_.at(static_cast<std::size_t>(number.Whole())); }
+
+    void TeachSources(Script& script);
+    void TeachChanges(Script& script);
+
+private:
+    std::vector<Channels> kept_;
+};
+
+using Source = Sound (*)(const Arguments& a);
+
+constexpr std::pair<const char*, Source> sources[] = {
+    {"silence", [](const Arguments& a) { return Silence(a.Number(0)); }},
+    {"runRaw", [](const Arguments& a) { return RunEngine(EngineOf(a.at(0)), DrivingOf(a.at(1))); }},
+    {"running",
+     [](const Arguments& a) {
+         return Running(EngineOf(a.at(0)), DrivingOf(a.at(1)), a.size() > 2 ? a.Number(2) : 1);
+     }},
+    {"crank", [](const Arguments& a) { return CrankEngine(a.Number(0), a.Number(1), Seed(a.at(2))); }},
+    {"rolling",
+     [](const Arguments& a) {
+         return Rolling(a.Number(0), a.Number(1), a.Number(2), Seed(a.at(3)), a.Number(4));
+     }},
+    {"tyreRoll",
+     [](const Arguments& a) { return TyreRoll(a.Number(0), CourseOf(a.at(1)), a.Number(2), Seed(a.at(3))); }},
+    {"squeal", [](const Arguments& a) { return TyreSqueal(a.Number(0), CourseOf(a.at(1)), Seed(a.at(2))); }},
+    {"horn", [](const Arguments& a) { return CarHorn(a.Number(0), NumbersOf(a.at(1)), a.Number(2)); }},
+    {"struck", [](const Arguments& a) { return Struck(a.Number(0), NumbersOf(a.at(1)), a.Number(2)); }},
+    {"rich",
+     [](const Arguments& a) { return RichTone(a.Number(0), CourseOf(a.at(1)), a.Whole(2), a.Number(3)); }},
+    {"white", [](const Arguments& a) { return WhiteNoise(a.Number(0), Seed(a.at(1))); }},
+    {"crowd", [](const Arguments& a) { return Crowd(a.Number(0), Seed(a.at(1))); }},
+    {"hum", [](const Arguments& a) { return CityHum(a.Number(0), Seed(a.at(1))); }},
+    {"siren", [](const Arguments& a) { return Siren(a.Number(0), a.Number(1)); }},
+    {"backfire", [](const Arguments& a) { return Backfire(Seed(a.at(0))); }},
+    {"tick", [](const Arguments& a) { return IndicatorTick(a.Number(0) != 0); }},
+    {"doorLatch", [](const Arguments&) { return DoorLatch(); }},
+    {"doorCreak", [](const Arguments& a) { return DoorCreak(a.Number(0), Seed(a.at(1))); }},
+    {"doorSlam", [](const Arguments& a) { return DoorSlam(a.Number(0), Seed(a.at(1))); }},
+};
+
+/// What is done to each channel by itself.
+using Change = Sound (*)(Sound sound, const Arguments& a);
+
+constexpr std::pair<const char*, Change> changes[] = {
+    {"levelled", [](Sound s, const Arguments& a) { return Levelled(std::move(s), a.Number(1)); }},
+    {"faded", [](Sound s, const Arguments& a) { return Faded(std::move(s), a.Number(1), a.Number(2)); }},
+    {"lasting", [](Sound s, const Arguments& a) { return Lasting(std::move(s), a.Number(1)); }},
+    {"lowpass",
+     [](Sound s, const Arguments& a) { return Filtered(std::move(s), Filter::LowPass(a.Number(1))); }},
+    {"highpass",
+     [](Sound s, const Arguments& a) { return Filtered(std::move(s), Filter::HighPass(a.Number(1))); }},
+    {"bandpass",
+     [](Sound s, const Arguments& a) {
+         return Filtered(std::move(s), Filter::BandPass(a.Number(1), a.Number(2)));
+     }},
+    {"driven", [](Sound s, const Arguments& a) { return Driven(std::move(s), a.Number(1)); }},
+    {"inRoom", [](Sound s, const Arguments& a) { return InRoom(s, a.Number(1), a.Number(2)); }},
+    {"shaped", [](Sound s, const Arguments& a) { return Shaped(std::move(s), CourseOf(a.at(1))); }},
+    {"passing", [](Sound s, const Arguments& a) { return Passing(s, DriveOf(a.at(1))); }},
+};
+
+void Sounds::TeachSources(Script& script)
+{
+    for (const auto& [name, source] : sources)
+        script.Teach(name, [this, source](const Arguments& a) { return Keep({source(a)}); });
+    script.Teach("bothEars", [this](const Arguments& a) {
+        TwoEars both = PassingBothEars(Of(a.at(0)).front(), DriveOf(a.at(1)));
+        return Keep({std::move(both.left), std::move(both.right)});
+    });
+    script.Teach("placed", [this](const Arguments& a) {
+        TwoEars both = Placed(Of(a.at(0)).front(), a.Number(1));
+        return Keep({std::move(both.left), std::move(both.right)});
+    });
+}
+
+void Sounds::TeachChanges(Script& script)
+{
+    for (const auto& [name, change] : changes) {
+        script.Teach(name, [this, change](const Arguments& a) {
+            Channels sound = Of(a.at(0));
+            for (Sound& channel : sound)
+                channel = change(std::move(channel), a);
+            return Keep(std::move(sound));
+        });
+    }
+    script.Teach("loudest", [this](const Arguments& a) { return Loudest(Of(a.at(0)).front()); });
+    script.Teach("add", [this](const Arguments& a) {
+        Channels& onto = Of(a.at(0));
+        const Channels& what = Of(a.at(1));
+        for (std::size_t i = 0; i < onto.size(); ++i)
+            Add(onto[i], what.at(i), a.size() > 2 ? a.Number(2) : 0, a.size() > 3 ? a.Number(3) : 1);
+        return Value();
+    });
+}
+
+} // namespace
+
+std::vector<Sound> PlayScore(const char* name)
+{
+    Sounds sounds;
+    Script script("effects");
+    TeachShapes(script);
+    sounds.TeachSources(script);
+    sounds.TeachChanges(script);
+    script.Set(u"effect"_s, QString::fromLatin1(name));
+    script.Run();
+    return sounds.Of(script.Get("sound"));
+}
+
+} // namespace torvik::sample
