@@ -153,7 +153,7 @@ EntryStatus ImageVolume::Status(const std::string& path) const
     const ImageEntry* const entry = image->Find(path);
     if (entry == nullptr)
         FailAsMissing(*image, path);
-    return {!entry->IsFolder, entry->IsFolder, entry->Length, entry->Written};
+    return {!entry->IsFolder, entry->IsFolder, entry->Length, entry->Written, 0, 0};
 }
 
 std::vector<std::string> ImageVolume::Files(const std::string& folder, const NameTest& isWanted) const
