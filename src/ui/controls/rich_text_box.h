@@ -40,6 +40,7 @@ protected:
     bool ClicksByMouse() const override { return !onLink_; }
 
 private:
+    void LayOut();
     QTextCursor CursorAt(qsizetype place) const;
 
     QTextBrowser* pane_;
