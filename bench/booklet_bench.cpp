@@ -123,7 +123,7 @@ int main(int argc, char** argv)
 
     QStringList messages;
     SetMessageResponder([&](const MessageRequest& request) {
-        messages.append(request.Text);
+        messages.append(request.text);
         return msgbox::answerCancel;
     });
     SetProgramFolder(home.path());

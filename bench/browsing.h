@@ -3,10 +3,15 @@
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "ui/forms/clock.h"
+#include "ui/forms/message_box.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -29,6 +34,21 @@ public:
 private:
     QTemporaryDir folder_;
 };
+
+/// Writes a file, and its folder where that is missing. A bench without its files ends.
+inline void Write(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+/// Answers each message box at once, so that none holds a measurement up.
+inline void AnswerOk()
+{
+    SetMessageResponder([](const MessageRequest&) { return msgbox::answerOk; });
+}
 
 /// Puts a disc in drive E:. The clock stands still then.
 inline void PutDiscIn(const QString& disc, const QString& programFolder)

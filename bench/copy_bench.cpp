@@ -1,6 +1,7 @@
 // The copying of 42 MB of photos with both gauges and a look at the events after each block, against the
 // system's cp on the same files; and how often the window is painted meanwhile.
 
+#include "browsing.h"
 #include "hard_drive/copy_all_files.h"
 #include "measure.h"
 #include "platform/paths/drives.h"
@@ -9,7 +10,6 @@
 #include "ui/application.h"
 #include "ui/forms/event.h"
 #include "ui/forms/form_window.h"
-#include "ui/forms/message_box.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
 
@@ -92,7 +92,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     torvik::Application application(argc, argv);
-    torvik::SetMessageResponder([](const torvik::MessageRequest&) { return torvik::msgbox::answerOk; });
+    torvik::bench::AnswerOk();
     const QTemporaryDir disc;
     const QTemporaryDir folder;
     if (!MakePhotos(disc.filePath(u"Torviks"_s)))

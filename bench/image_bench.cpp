@@ -4,6 +4,7 @@
 
 #include "av/media_reader.h"
 #include "bind_handlers.h"
+#include "browsing.h"
 #include "hard_drive/copy_all_files.h"
 #include "measure.h"
 #include "platform/files/files.h"
@@ -16,7 +17,6 @@
 #include "ui/forms/clock.h"
 #include "ui/forms/event.h"
 #include "ui/forms/form_window.h"
-#include "ui/forms/message_box.h"
 #include "ui/media/file_source.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
@@ -24,7 +24,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -58,14 +57,6 @@ struct Image {
 };
 constexpr Image images[] = {{"ISO", u'F'}, {"BIN/CUE", u'G'}};
 
-void Write(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
-
 void MakeFolderDisc(const QString& folder)
 {
     QDir().mkpath(folder + u"/Torviks"_s);
@@ -79,10 +70,11 @@ void MakeFolderDisc(const QString& folder)
         byte = static_cast<char>(grain >> 24);
     }
     for (int number = 0; number < otherPhotos; ++number)
-        Write(u"%1/Torviks/68TOR%2.JPG"_s.arg(folder).arg(number, 3, 10, QLatin1Char('0')), content);
+        bench::Write(u"%1/Torviks/68TOR%2.JPG"_s.arg(folder).arg(number, 3, 10, QLatin1Char('0')), content);
     for (int number = 0; number < documents; ++number)
-        Write(u"%1/RichText/68tor%2.rtf"_s.arg(folder).arg(number, 3, 10, QLatin1Char('0')), "{\\rtf1 text}");
-    Write(folder + u"/movies/torvik69.avi"_s, TestMovie::Avi());
+        bench::Write(u"%1/RichText/68tor%2.rtf"_s.arg(folder).arg(number, 3, 10, QLatin1Char('0')),
+                     "{\\rtf1 text}");
+    bench::Write(folder + u"/movies/torvik69.avi"_s, TestMovie::Avi());
 }
 
 void MakeImages(const QTemporaryDir& place)
@@ -94,9 +86,9 @@ void MakeImages(const QTemporaryDir& place)
     QFile file(iso);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("there is no image");
-    Write(place.filePath(u"disc.bin"_s), ImageMaker::Raw(file.readAll(), 1, 2352));
-    Write(place.filePath(u"disc.cue"_s),
-          "FILE \"disc.bin\" BINARY\nTRACK 01 MODE1/2352\nINDEX 01 00:00:00\n");
+    bench::Write(place.filePath(u"disc.bin"_s), ImageMaker::Raw(file.readAll(), 1, 2352));
+    bench::Write(place.filePath(u"disc.cue"_s),
+                 "FILE \"disc.bin\" BINARY\nTRACK 01 MODE1/2352\nINDEX 01 00:00:00\n");
 }
 
 /// Medians of what is measured on a folder and on an image by turns. The first time is not counted.
@@ -212,7 +204,7 @@ bool Measure()
     MakeFolderDisc(place.filePath(u"disc"_s));
     MakeImages(place);
     SetProgramFolder(program.path());
-    SetMessageResponder([](const MessageRequest&) { return msgbox::answerOk; });
+    bench::AnswerOk();
     Stand(place);
     bool isOk = MeasureOpening(place);
     Stand(place);

@@ -3,21 +3,18 @@
 
 #include "av/media_reader.h"
 #include "bind_handlers.h"
+#include "browsing.h"
 #include "measure.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
 #include "support/test_movie.h"
-#include "ui/forms/message_box.h"
 #include "ui/media/file_source.h"
 #include "windows/main_window.h"
 #include "windows/movie_window.h"
 #include "windows/splash.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -33,14 +30,6 @@ using namespace torvik;
 constexpr int rounds = 15;
 constexpr double soundLimit = 50;  // milliseconds
 constexpr double movieLimit = 100; // milliseconds
-
-void Write(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
 
 double BareOpening(const QString& path)
 {
@@ -66,7 +55,7 @@ double PressSound()
 /// show and some more have passed.
 double LongestBlock()
 {
-    MediaControl& device = frmMovie->MMControl1.Device;
+    MediaControl& device = frmMovie->MMControl1.device;
     double longest = bench::Milliseconds([] { frmMovie->optMovie(1).Click.Fire(); });
     longest = std::max(longest, bench::Milliseconds([&] { device.Command(u"play"_s); }));
     while (device.Position() < 200)
@@ -78,14 +67,14 @@ bool Measure()
 {
     const QTemporaryDir disc;
     const QTemporaryDir program;
-    Write(disc.filePath(u"Torviks/67A.JPG"_s), "no photo");
+    bench::Write(disc.filePath(u"Torviks/67A.JPG"_s), "no photo");
     const QString sound = disc.filePath(u"wav/backfrng.wav"_s);
     const QString movie = disc.filePath(u"movies/Torvik69.avi"_s);
-    Write(sound, TestMovie::Wav());
-    Write(movie, TestMovie::Avi());
+    bench::Write(sound, TestMovie::Wav());
+    bench::Write(movie, TestMovie::Avi());
     SetProgramFolder(program.path());
     SetDriveOptions({{u'E', disc.path()}});
-    SetMessageResponder([](const MessageRequest&) { return msgbox::answerOk; });
+    bench::AnswerOk();
     Form2.LoadForm();
     state.YearCode = u"67"_s;
     state.MovieFolder = u"E:\\movies\\"_s;

@@ -1,5 +1,5 @@
-// How fast a rich-text article becomes a document, against two baselines measured in the same run: the
-// toolkit reading the same content from its own markup, and a converter of rich text to markup where one is
+// How fast a rich-text article becomes a document, against two baselines measured in the same run: Qt
+// reading the same content from its own markup, and a converter of rich text to markup where one is
 // installed.
 
 #include "rtf/rtf_reader.h"
@@ -22,14 +22,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype Mebibyte = 1024 * 1024;
-constexpr int Pictures = 10;
-constexpr int Repeats = 7;
-constexpr double LimitAgainstMarkup = 0.6;
-constexpr double LimitAgainstConverter = 1.0 / 5;
-constexpr double LimitOfGrowth = 1.5;
+constexpr qsizetype mebibyte = 1024LL * 1024;
+constexpr int pictures = 10;
+constexpr int repeats = 7;
+constexpr double limitAgainstMarkup = 0.6;
+constexpr double limitAgainstConverter = 1.0 / 5;
+constexpr double limitOfGrowth = 1.5;
 
-constexpr const char* Head =
+constexpr const char* head =
     R"({\rtf1\ansi\ansicpg1252\deff0{\fonttbl{\f0\froman\fcharset0 Times New Roman;}{\f1\fswiss\fcharset0 Arial;})"
     R"({\f2\fnil\fcharset2 Symbol;}}{\colortbl ;\red192\green0\blue0;\red0\green64\blue160;}\viewkind4\uc1)"
     "\r\n";
@@ -90,13 +90,13 @@ QByteArray Picture(int seed)
 
 QByteArray Article(qsizetype bytes)
 {
-    QByteArray article = Head;
+    QByteArray article = head;
     int number = 0;
     int pictures = 0;
     while (article.size() < bytes) {
         article += ParagraphNumber(number++);
         // As many in each mebibyte.
-        if (article.size() < bytes && article.size() > Mebibyte * (pictures + 1) / (Pictures + 1))
+        if (article.size() < bytes && article.size() > mebibyte * (pictures + 1) / (pictures + 1))
             article += Picture(++pictures);
     }
     return article + "}\r\n";
@@ -152,7 +152,7 @@ bool CompareWithConverter(const QByteArray& article, double reading)
         process.start(converter, {u"--html"_s, file.fileName()});
         process.waitForFinished(-1);
     });
-    return Report("reading against unrtf converting", reading, converting, LimitAgainstConverter);
+    return Report("reading against unrtf converting", reading, converting, limitAgainstConverter);
 }
 
 } // namespace
@@ -162,25 +162,25 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    const QByteArray article = Article(Mebibyte);
+    const QByteArray article = Article(mebibyte);
     QTextDocument read;
     const torvik::rtf::ReadResult result = torvik::rtf::ReadRichText(article, read);
     std::printf("article of %lld bytes: %d paragraphs, %d tables, %d pictures\n", qlonglong(article.size()),
                 result.paragraphs, result.tables, result.pictures);
     const QString markup = read.toHtml();
 
-    const double reading = ReadTime(article, Repeats);
-    const double fromMarkup = Milliseconds(Repeats, [&] {
+    const double reading = ReadTime(article, repeats);
+    const double fromMarkup = Milliseconds(repeats, [&] {
         QTextDocument document;
         document.setHtml(markup);
     });
-    bool isGood = result.pictures == Pictures;
-    isGood = Report("reading against setHtml of the same content", reading, fromMarkup, LimitAgainstMarkup) &&
+    bool isGood = result.pictures == pictures;
+    isGood = Report("reading against setHtml of the same content", reading, fromMarkup, limitAgainstMarkup) &&
              isGood;
     isGood = CompareWithConverter(article, reading) && isGood;
 
-    const QByteArray large = Article(50 * Mebibyte);
+    const QByteArray large = Article(50 * mebibyte);
     const double growth = ReadTime(large, 1);
-    isGood = Report("50 MiB against 50 times 1 MiB", growth, reading * 50, LimitOfGrowth) && isGood;
+    isGood = Report("50 MiB against 50 times 1 MiB", growth, reading * 50, limitOfGrowth) && isGood;
     return isGood ? 0 : 1;
 }

@@ -19,6 +19,7 @@
 #include <QProcess>
 #include <QSemaphore>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -75,7 +76,7 @@ public:
 
     void WaitForEnd()
     {
-        while (!index_.Progress().IsDone)
+        while (!index_.Progress().isDone)
             news_.acquire();
     }
 
@@ -84,8 +85,8 @@ public:
         index_.TakeAnswer();
         index_.Ask(words);
         for (;;) {
-            if (const auto answer = index_.TakeAnswer(); answer && answer->Question == words)
-                return answer->Count;
+            if (const auto answer = index_.TakeAnswer(); answer && answer->question == words)
+                return answer->count;
             news_.acquire();
         }
     }
@@ -118,6 +119,7 @@ double SlowestQuery(Index& index)
     double slowest = 0;
     for (const QString& words : typed) {
         std::vector<double> times;
+        times.reserve(rounds);
         for (int round = 0; round < rounds; ++round)
             times.push_back(bench::Milliseconds([&] { index.Find(words); }));
         slowest = std::max(slowest, bench::Median(times));
@@ -144,11 +146,12 @@ double PeerMilliseconds(const QString& disc)
     if (QStandardPaths::findExecutable(u"unrtf"_s).isEmpty())
         return 0;
     const QString command =
-        u"for file in *.rtf; do unrtf --text \"$file\" 2>/dev/null; done | grep -ic scoop"_s;
+        u"for file in \"$0\"/*.rtf; do unrtf --text \"$file\" 2>/dev/null; done | grep -ic scoop"_s;
+    const QTemporaryDir scratch; // unrtf writes the pictures of a document where it stands
     return bench::Milliseconds([&] {
         QProcess shell;
-        shell.setWorkingDirectory(QDir(disc).filePath(u"RichText"_s));
-        shell.start(u"sh"_s, {u"-c"_s, command});
+        shell.setWorkingDirectory(scratch.path());
+        shell.start(u"sh"_s, {u"-c"_s, command, QDir(disc).filePath(u"RichText"_s)});
         shell.waitForFinished(-1);
     });
 }
@@ -192,10 +195,12 @@ int main(int argc, char** argv)
     std::vector<double> bare;
     std::vector<double> once;
     std::vector<double> tenfold;
+    for (std::vector<double>* times : {&bare, &once, &tenfold})
+        times->reserve(rounds);
     for (int round = 0; round < rounds; ++round) {
         bare.push_back(ProcessorSeconds([&] {
             for (const IndexedText& text : Documents(1))
-                letters += rtf::PlainText(text.Read()).size();
+                letters += rtf::PlainText(text.read()).size();
         }));
     }
     for (int round = 0; round < rounds; ++round)

@@ -1,6 +1,7 @@
 #include "sample/artwork/art_maker.h"
 #include "sample/disc_maker.h"
 #include "sample/documents/document_plan.h"
+#include "sample/files/in_parallel.h"
 
 #include <QGuiApplication>
 #include <QStringList>
@@ -21,10 +22,13 @@ struct Part {
     std::function<void(const QString& disc, const QString& program)> make;
 };
 
+/// The parts, the longest first.
 const std::vector<Part>& Parts()
 {
     static const std::vector<Part> parts{
         {"photos", [](const QString& disc, const QString&) { MakePhotos(disc); }},
+        {"movies", [](const QString& disc, const QString&) { MakeMovies(disc); }},
+        {"ads", [](const QString& disc, const QString&) { MakeAds(disc); }},
         {"captions", [](const QString& disc, const QString&) { MakeCaptions(disc); }},
         {"documents", [](const QString& disc, const QString&) { MakeDocuments(disc); }},
         {"help", [](const QString&, const QString& program) { MakeHelpFile(program); }},
@@ -32,10 +36,8 @@ const std::vector<Part>& Parts()
         {"emblems", [](const QString& disc, const QString&) { MakeEmblems(disc); }},
         {"scripts", [](const QString& disc, const QString&) { MakeScripts(disc); }},
         {"clipart", [](const QString& disc, const QString&) { MakeClipArt(disc); }},
-        {"ads", [](const QString& disc, const QString&) { MakeAds(disc); }},
         {"booklet", [](const QString& disc, const QString&) { MakeBookletArt(disc); }},
         {"sounds", [](const QString& disc, const QString&) { MakeSounds(disc); }},
-        {"movies", [](const QString& disc, const QString&) { MakeMovies(disc); }},
         {"passby", [](const QString&, const QString& program) { MakePassBySound(program); }},
     };
     return parts;
@@ -76,10 +78,13 @@ int main(int argc, char** argv)
             MakeIcons(arguments[1]);
             return 0;
         }
+        std::vector<const Part*> wanted;
         for (const Part& part : Parts()) {
             if (IsWanted(part, arguments.mid(2)))
-                part.make(arguments[0], arguments[1]);
+                wanted.push_back(&part);
         }
+        // Beside each other, since some parts have much that only one processor can do.
+        InParallel(wanted.size(), [&](std::size_t i) { wanted[i]->make(arguments[0], arguments[1]); });
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "make_sample: %s\n", failure.what());
         return 1;

@@ -36,8 +36,8 @@ QString TakeFolders(const torvik::CommandLine& line)
 {
     using namespace torvik;
     const int error = ResumeNext([&] {
-        SetProgramFolder(line.ProgramFolder);
-        SetDriveOptions(line.Drives);
+        SetProgramFolder(line.programFolder);
+        SetDriveOptions(line.drives);
     });
     return error == 0 ? QString() : RunTimeErrorText(error) + u"."_s;
 }
@@ -49,11 +49,11 @@ int CheckOnly(int argc, char** argv)
     const HeldVariable withoutDisplay("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const CommandLine line = ReadCommandLine(ArgumentsOf(argc, argv));
-    if (!line.Problem.isEmpty())
-        return Complain(line.Problem);
+    if (!line.problem.isEmpty())
+        return Complain(line.problem);
     if (const QString problem = TakeFolders(line); !problem.isEmpty())
         return Complain(problem);
-    return RunCheck(line.CheckedDisc, line.Json);
+    return RunCheck(line.checkedDisc, line.json);
 }
 
 } // namespace
@@ -62,28 +62,28 @@ int main(int argc, char** argv)
 {
     using namespace torvik;
     const CommandLine early = ReadCommandLine(ArgumentsOf(argc, argv));
-    if (early.Help) {
+    if (early.help) {
         const QCoreApplication withoutDisplay(argc, argv);
         std::fputs(qPrintable(HelpText()), stdout);
         return 0;
     }
-    if (early.Version) {
+    if (early.version) {
         std::printf("torvik2001 %s\n", programVersion);
         return 0;
     }
-    if (early.Verbose)
+    if (early.verbose)
         LogEverything();
-    if (early.Check)
+    if (early.check)
         return CheckOnly(argc, argv);
 
-    Application application(argc, argv, ChosenScale(IsScale(early.Scale) ? early.Scale : QString()));
+    Application application(argc, argv, ChosenScale(IsScale(early.scale) ? early.scale : QString()));
     const CommandLine line = ReadCommandLine(ArgumentsOf(argc, argv));
-    if (!line.Problem.isEmpty())
-        return Complain(line.Problem);
+    if (!line.problem.isEmpty())
+        return Complain(line.problem);
     if (const QString problem = TakeFolders(line); !problem.isEmpty())
         return Complain(problem);
     SupplyProgramFolder();
-    Printer.PrintTo(line.PrintFolder);
+    Printer.PrintTo(line.printFolder);
     qCDebug(logStart, "torvik2001 %s, program folder %s", programVersion, qUtf8Printable(ProgramFolder()));
 
     BindHandlers();

@@ -39,10 +39,10 @@ int Complain(const QString& problem)
 QString TakeFolders(const SaverArguments& arguments)
 {
     const int error = ResumeNext([&] {
-        SetProgramFolder(arguments.ProgramFolder);
-        SetDriveOptions(arguments.Drives);
+        SetProgramFolder(arguments.programFolder);
+        SetDriveOptions(arguments.drives);
         RefreshDrives();
-        if (arguments.ProgramFolder.isEmpty() && DriveFolder(u'Z').isEmpty())
+        if (arguments.programFolder.isEmpty() && DriveFolder(u'Z').isEmpty())
             SetProgramFolder(QCoreApplication::applicationDirPath() + u"/.."_s);
     });
     return error == 0 ? QString() : RunTimeErrorText(error) + u"."_s;
@@ -80,14 +80,14 @@ int Run(Application& application, const SaverArguments& arguments)
 {
     const double start = QRandomGenerator::global()->generateDouble();
     std::optional<ShowRunner> runner;
-    switch (arguments.Task) {
+    switch (arguments.task) {
     case SaverTask::Show:
         return application.Run(
             [&] { runner.emplace(ReadSaverSettings(), start, OpenOnAllScreens, QCoreApplication::quit); });
     case SaverTask::Desktop:
         return application.Run([&] { runner.emplace(ReadSaverSettings(), start, OpenBehindAll, nullptr); });
     case SaverTask::Embed:
-        return Embed(application, arguments.Window);
+        return Embed(application, arguments.window);
     case SaverTask::Inform:
         break;
     }
@@ -102,21 +102,21 @@ int Run(Application& application, const SaverArguments& arguments)
 int main(int argc, char** argv)
 {
     const SaverArguments early = ReadSaverArguments(ArgumentsOf(argc, argv), WindowOfScreenSaver());
-    if (early.Help) {
+    if (early.help) {
         std::fputs(qPrintable(SaverHelpText()), stdout);
         return 0;
     }
-    if (early.Version) {
+    if (early.version) {
         std::printf("Torvik2001.scr %s\n", programVersion);
         return 0;
     }
-    if (early.Task == SaverTask::Embed || early.Task == SaverTask::Desktop)
+    if (early.task == SaverTask::Embed || early.task == SaverTask::Desktop)
         PreferForeignWindows();
 
-    Application application(argc, argv, early.Scale);
+    Application application(argc, argv, early.scale);
     const SaverArguments arguments = ReadSaverArguments(ArgumentsOf(argc, argv), WindowOfScreenSaver());
-    if (!arguments.Problem.isEmpty())
-        return Complain(arguments.Problem);
+    if (!arguments.problem.isEmpty())
+        return Complain(arguments.problem);
     if (const QString problem = TakeFolders(arguments); !problem.isEmpty())
         return Complain(problem);
     return Run(application, arguments);

@@ -1,5 +1,7 @@
 #include "sample/car/skin_painter.h"
 
+#include "sample/geometry/wide_registers.h"
+
 namespace torvik::sample {
 
 namespace {
@@ -114,6 +116,7 @@ SkinMap SkinPainter::Finish()
     colourPainter_.reset();
     materialPainter_.reset();
     reliefPainter_.reset();
+    LetGoOfWideRegisters();
     return SkinMap(colour_, material_, relief_, left_, bottom_, scale_);
 }
 

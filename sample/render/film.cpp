@@ -1,6 +1,7 @@
 #include "sample/render/film.h"
 
 #include "sample/geometry/noise.h"
+#include "sample/geometry/wide_registers.h"
 
 #include <algorithm>
 #include <array>
@@ -151,6 +152,7 @@ QImage Blurred(const QImage& picture, double radius)
 void Develop(QImage& picture, int year, std::uint32_t seed)
 {
     Bleed(picture);
+    LetGoOfWideRegisters();
     std::array<int, 256> red = Layer(0.01, 1.0, 0.22);
     std::array<int, 256> green = Layer(0.01, 1.0, 0.22);
     std::array<int, 256> blue = Layer(0.012, 1.0, 0.22);

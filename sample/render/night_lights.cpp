@@ -1,6 +1,7 @@
 #include "sample/render/night_lights.h"
 
 #include "sample/geometry/shapes.h"
+#include "sample/geometry/wide_registers.h"
 #include "sample/render/film.h"
 
 #include <QPainter>
@@ -9,6 +10,7 @@ namespace torvik::sample {
 
 void PaintBeams(QImage& picture, const CarShape& shape, const Camera& camera)
 {
+    LetGoOfWideRegisters();
     const double half = shape.length / 2;
     const int horizon = std::clamp(Floor(camera.HorizonRow()) + 1, 0, picture.height());
     for (int y = horizon; y < picture.height(); ++y) {

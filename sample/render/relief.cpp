@@ -1,6 +1,7 @@
 #include "sample/render/relief.h"
 
 #include "sample/geometry/shapes.h"
+#include "sample/geometry/wide_registers.h"
 #include "sample/render/film.h"
 
 #include <QPainter>
@@ -147,6 +148,7 @@ void Relief::Add(const QPainterPath& shape, const Coat& coat, const Rise& rise)
     painter.scale(fineness, fineness);
     painter.fillPath(shape, Qt::black);
     painter.end();
+    LetGoOfWideRegisters();
 
     Field mask(heights_.size());
     for (int y = 0; y < height_; ++y) {
@@ -226,6 +228,7 @@ Rgb Relief::ColourAt(int x, int y) const
 
 QImage Relief::Over(const QImage& ground) const
 {
+    LetGoOfWideRegisters();
     QImage picture = ground.convertToFormat(QImage::Format_RGB32);
     for (int y = 0; y < picture.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));

@@ -1,5 +1,6 @@
 #include "sample/render/renderer.h"
 
+#include "sample/geometry/wide_registers.h"
 #include "sample/render/film.h"
 #include "sample/render/shading.h"
 
@@ -134,6 +135,7 @@ void ScanPart(Strip& strip, const Mesh& part, const std::vector<Corner>& corners
 
 void Render(QImage& picture, const Subject& subject, const Camera& camera, const Environment& light)
 {
+    LetGoOfWideRegisters();
     const Camera fine = camera.Enlarged(2.0);
     std::vector<std::vector<Corner>> corners;
     double top = std::numeric_limits<double>::max();
@@ -162,7 +164,7 @@ void Render(QImage& picture, const Subject& subject, const Camera& camera, const
     const int lastColumn = std::clamp(Floor(right / 2) + 2, 0, picture.width());
     const Shader shader(subject, light, camera.eye);
 
-    constexpr int rowsInStrip = 96;
+    constexpr int rowsInStrip = 16; // a strip of a photo stays in the processor's cache
     for (int row = firstRow; row < lastRow; row += rowsInStrip) {
         const int rows = std::min(rowsInStrip, lastRow - row);
         Strip strip(firstColumn * 2, (lastColumn - firstColumn) * 2, row * 2, rows * 2);

@@ -1,6 +1,7 @@
 #include "sample/scenery/scenery.h"
 
 #include "sample/geometry/shapes.h"
+#include "sample/geometry/wide_registers.h"
 #include "sample/render/film.h"
 
 namespace torvik::sample {
@@ -37,6 +38,7 @@ Scenery TurnedRound(Scenery scenery)
 
 QImage PaintScenery(const Scenery& scenery, const Camera& camera, QSize size)
 {
+    LetGoOfWideRegisters();
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     const int width = size.width();
     const int height = size.height();

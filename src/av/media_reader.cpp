@@ -46,7 +46,7 @@ std::unique_ptr<MediaReader> MediaReader::Open(std::unique_ptr<ByteSource> sourc
     if (!reader->OpenFile())
         return nullptr;
     reader->OpenStreams();
-    return reader->info_.HasPictures || reader->info_.HasSound ? std::move(reader) : nullptr;
+    return reader->info_.hasPictures || reader->info_.hasSound ? std::move(reader) : nullptr;
 }
 
 MediaReader::MediaReader(std::unique_ptr<ByteSource> source, const SoundFormat& sound)
@@ -82,10 +82,10 @@ void MediaReader::OpenStreams()
     soundStream_ = av_find_best_stream(file_.get(), AVMEDIA_TYPE_AUDIO, -1, pictureStream_, nullptr, 0);
     if (soundStream_ >= 0)
         sound_ = SoundDecoder::Open(*file_->streams[soundStream_], wanted_, startTime_);
-    info_.HasPictures = pictures_ != nullptr;
-    info_.HasSound = sound_ != nullptr;
-    info_.Duration = file_->duration == AV_NOPTS_VALUE ? 0 : std::max<qint64>(0, file_->duration);
-    info_.FrameDuration = pictures_ != nullptr ? pictures_->FrameDuration() : 0;
+    info_.hasPictures = pictures_ != nullptr;
+    info_.hasSound = sound_ != nullptr;
+    info_.duration = file_->duration == AV_NOPTS_VALUE ? 0 : std::max<qint64>(0, file_->duration);
+    info_.frameDuration = pictures_ != nullptr ? pictures_->FrameDuration() : 0;
     for (unsigned index = 0; index < file_->nb_streams; ++index) {
         const int stream = static_cast<int>(index);
         if (!(stream == pictureStream_ && pictures_) && !(stream == soundStream_ && sound_))
@@ -133,8 +133,8 @@ std::optional<MediaPicture> MediaReader::NextPicture()
         auto picture = pictures_->Receive();
         if (!picture)
             return std::nullopt;
-        const qint64 tolerance = info_.FrameDuration / 4; // times of pictures are rounded
-        if (picture->Time + info_.FrameDuration - tolerance > from_) {
+        const qint64 tolerance = info_.frameDuration / 4; // times of pictures are rounded
+        if (picture->time + info_.frameDuration - tolerance > from_) {
             passedOver_.reset();
             return picture;
         }
@@ -149,12 +149,12 @@ std::optional<MediaSamples> MediaReader::NextSamples()
         auto samples = sound_->Receive();
         if (!samples)
             return std::nullopt;
-        const qint64 early = (from_ - samples->Time) * wanted_.Rate / 1'000'000 * wanted_.BytesPerFrame();
+        const qint64 early = (from_ - samples->time) * wanted_.rate / 1'000'000 * wanted_.BytesPerFrame();
         if (early <= 0)
             return samples;
-        if (early < samples->Bytes.size()) {
-            samples->Bytes.remove(0, static_cast<qsizetype>(early));
-            samples->Time = from_;
+        if (early < samples->bytes.size()) {
+            samples->bytes.remove(0, static_cast<qsizetype>(early));
+            samples->time = from_;
             return samples;
         }
     }
@@ -167,7 +167,7 @@ void MediaReader::Seek(qint64 time)
     passedOver_.reset();
     drained_ = false;
     // A picture back, since the library rounds to its own nearest one; what is early is passed over.
-    const qint64 target = std::max<qint64>(0, from_ - info_.FrameDuration) + startTime_;
+    const qint64 target = std::max<qint64>(0, from_ - info_.frameDuration) + startTime_;
     if (avformat_seek_file(file_.get(), -1, INT64_MIN, target, target, 0) < 0)
         av_seek_frame(file_.get(), -1, startTime_, AVSEEK_FLAG_BACKWARD | AVSEEK_FLAG_ANY);
     if (pictures_)

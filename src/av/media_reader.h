@@ -31,7 +31,7 @@ public:
     /// The next piece in the order of the file.
     Piece Next();
     /// Goes to a time in microseconds: the next picture is the one on show then, and the sound begins there.
-    /// Behind the end that is the last picture.
+    /// After the end, that is the last picture.
     void Seek(qint64 time);
 
 private:

@@ -32,63 +32,63 @@ QThreadPool& Readers()
 
 /// What the stream and its reader share; each keeps it alive.
 struct MediaStream::Shared {
-    Opener OpenSource;
-    SoundFormat Sound;
+    Opener openSource;
+    SoundFormat sound;
 
-    mutable std::mutex Mutex;
-    std::condition_variable Changed;
-    bool Over = false; // the stream is gone
-    State Progress = State::Opening;
-    MediaInfo Info;
-    std::optional<qint64> SeekTo;
-    bool Ended = false;
-    std::deque<MediaPicture> Pictures;
-    std::deque<MediaSamples> Samples;
-    qint64 PictureBytes = 0;
-    qint64 SoundBytes = 0;
-    qint64 EndOfRead = 0;
+    mutable std::mutex mutex;
+    std::condition_variable changed;
+    bool over = false; // the stream is gone
+    State progress = State::Opening;
+    MediaInfo info;
+    std::optional<qint64> seekTo;
+    bool ended = false;
+    std::deque<MediaPicture> pictures;
+    std::deque<MediaSamples> samples;
+    qint64 pictureBytes = 0;
+    qint64 soundBytes = 0;
+    qint64 endOfRead = 0;
 
     void Forget()
     {
-        Pictures.clear();
-        Samples.clear();
-        PictureBytes = 0;
-        SoundBytes = 0;
-        EndOfRead = 0;
-        Ended = false;
+        pictures.clear();
+        samples.clear();
+        pictureBytes = 0;
+        soundBytes = 0;
+        endOfRead = 0;
+        ended = false;
     }
 
-    qint64 DurationOf(qint64 bytes) const { return bytes * 1'000'000 / Sound.BytesPerSecond(); }
+    qint64 DurationOf(qint64 bytes) const { return bytes * 1'000'000 / sound.BytesPerSecond(); }
 
     bool HasEnough() const
     {
-        const bool enoughPictures = !Info.HasPictures || Pictures.size() >= picturesAhead;
-        const bool enoughSound = !Info.HasSound || SoundBytes >= Sound.BytesPerSecond();
-        return (enoughPictures && enoughSound) || PictureBytes >= picturesLimit;
+        const bool enoughPictures = !info.hasPictures || pictures.size() >= picturesAhead;
+        const bool enoughSound = !info.hasSound || soundBytes >= sound.BytesPerSecond();
+        return (enoughPictures && enoughSound) || pictureBytes >= picturesLimit;
     }
 
     void Keep(MediaPicture&& picture)
     {
-        EndOfRead = std::max(EndOfRead, picture.Time + Info.FrameDuration);
-        PictureBytes += picture.Image.sizeInBytes();
-        Pictures.push_back(std::move(picture));
+        endOfRead = std::max(endOfRead, picture.time + info.frameDuration);
+        pictureBytes += picture.image.sizeInBytes();
+        pictures.push_back(std::move(picture));
     }
     void Keep(MediaSamples&& piece)
     {
-        EndOfRead = std::max(EndOfRead, piece.Time + DurationOf(piece.Bytes.size()));
-        if (SoundBytes >= soundLimit)
+        endOfRead = std::max(endOfRead, piece.time + DurationOf(piece.bytes.size()));
+        if (soundBytes >= soundLimit)
             return;
-        SoundBytes += piece.Bytes.size();
-        Samples.push_back(std::move(piece));
+        soundBytes += piece.bytes.size();
+        samples.push_back(std::move(piece));
     }
-    void Keep(MediaReader::End&& /*end*/) { Ended = true; }
+    void Keep(MediaReader::End&& /*end*/) { ended = true; }
 
     MediaPicture TakePicture()
     {
-        MediaPicture picture = std::move(Pictures.front());
-        Pictures.pop_front();
-        PictureBytes -= picture.Image.sizeInBytes();
-        Changed.notify_all();
+        MediaPicture picture = std::move(pictures.front());
+        pictures.pop_front();
+        pictureBytes -= picture.image.sizeInBytes();
+        changed.notify_all();
         return picture;
     }
 
@@ -98,17 +98,17 @@ struct MediaStream::Shared {
 /// The reader's whole life, in the background.
 void MediaStream::Shared::Read()
 {
-    std::unique_ptr<MediaReader> reader = MediaReader::Open(OpenSource(), Sound);
-    std::unique_lock lock(Mutex);
-    Progress = reader != nullptr ? State::Ready : State::Failed;
+    std::unique_ptr<MediaReader> reader = MediaReader::Open(openSource(), sound);
+    std::unique_lock lock(mutex);
+    progress = reader != nullptr ? State::Ready : State::Failed;
     if (reader == nullptr)
         return;
-    Info = reader->Info();
+    info = reader->Info();
     for (;;) {
-        Changed.wait(lock, [this] { return Over || SeekTo || (!Ended && !HasEnough()); });
-        if (Over)
+        changed.wait(lock, [this] { return over || seekTo || (!ended && !HasEnough()); });
+        if (over)
             return;
-        if (const auto target = std::exchange(SeekTo, std::nullopt)) {
+        if (const auto target = std::exchange(seekTo, std::nullopt)) {
             lock.unlock();
             reader->Seek(*target);
             lock.lock();
@@ -117,104 +117,104 @@ void MediaStream::Shared::Read()
         lock.unlock();
         MediaReader::Piece piece = reader->Next();
         lock.lock();
-        if (!SeekTo)
+        if (!seekTo)
             std::visit([this](auto&& some) { Keep(std::forward<decltype(some)>(some)); }, std::move(piece));
     }
 }
 
 MediaStream::MediaStream(Opener open, const SoundFormat& sound) : shared_(std::make_shared<Shared>())
 {
-    shared_->OpenSource = std::move(open);
-    shared_->Sound = sound;
+    shared_->openSource = std::move(open);
+    shared_->sound = sound;
     Readers().start([shared = shared_] { shared->Read(); });
 }
 
 MediaStream::~MediaStream()
 {
-    const std::lock_guard lock(shared_->Mutex);
-    shared_->Over = true;
+    const std::lock_guard lock(shared_->mutex);
+    shared_->over = true;
     shared_->Forget();
-    shared_->Changed.notify_all();
+    shared_->changed.notify_all();
 }
 
 MediaStream::State MediaStream::Progress() const
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return shared_->Progress;
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->progress;
 }
 
 MediaInfo MediaStream::Info() const
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return shared_->Info;
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->info;
 }
 
 void MediaStream::Seek(qint64 time)
 {
-    const std::lock_guard lock(shared_->Mutex);
+    const std::lock_guard lock(shared_->mutex);
     shared_->Forget();
-    shared_->SeekTo = time;
-    shared_->Changed.notify_all();
+    shared_->seekTo = time;
+    shared_->changed.notify_all();
 }
 
 std::optional<MediaPicture> MediaStream::TakePicture(qint64 time)
 {
-    const std::lock_guard lock(shared_->Mutex);
+    const std::lock_guard lock(shared_->mutex);
     std::optional<MediaPicture> latest;
-    while (!shared_->Pictures.empty() && shared_->Pictures.front().Time <= time)
+    while (!shared_->pictures.empty() && shared_->pictures.front().time <= time)
         latest = shared_->TakePicture();
     return latest;
 }
 
 std::optional<MediaPicture> MediaStream::TakeNextPicture()
 {
-    const std::lock_guard lock(shared_->Mutex);
-    if (shared_->Pictures.empty())
+    const std::lock_guard lock(shared_->mutex);
+    if (shared_->pictures.empty())
         return std::nullopt;
     return shared_->TakePicture();
 }
 
 bool MediaStream::HasPicture() const
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return !shared_->Pictures.empty();
+    const std::lock_guard lock(shared_->mutex);
+    return !shared_->pictures.empty();
 }
 
 QByteArray MediaStream::TakeSound(qsizetype bytes, qint64 time)
 {
-    const std::lock_guard lock(shared_->Mutex);
-    auto& waiting = shared_->Samples;
+    const std::lock_guard lock(shared_->mutex);
+    auto& waiting = shared_->samples;
     QByteArray taken;
     while (!waiting.empty()) {
         MediaSamples& first = waiting.front();
-        const qint64 end = first.Time + shared_->DurationOf(first.Bytes.size());
-        const qsizetype part = end < time ? 0 : std::min(bytes - taken.size(), first.Bytes.size());
+        const qint64 end = first.time + shared_->DurationOf(first.bytes.size());
+        const qsizetype part = end < time ? 0 : std::min(bytes - taken.size(), first.bytes.size());
         if (end >= time && part <= 0)
             break;
-        taken.append(first.Bytes.constData(), part);
-        if (end < time || part == first.Bytes.size()) {
-            shared_->SoundBytes -= first.Bytes.size();
+        taken.append(first.bytes.constData(), part);
+        if (end < time || part == first.bytes.size()) {
+            shared_->soundBytes -= first.bytes.size();
             waiting.pop_front();
             continue;
         }
-        first.Time += shared_->DurationOf(part);
-        first.Bytes.remove(0, part);
-        shared_->SoundBytes -= part;
+        first.time += shared_->DurationOf(part);
+        first.bytes.remove(0, part);
+        shared_->soundBytes -= part;
     }
-    shared_->Changed.notify_all();
+    shared_->changed.notify_all();
     return taken;
 }
 
 bool MediaStream::AtEnd() const
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return shared_->Ended && shared_->Pictures.empty() && shared_->Samples.empty() && !shared_->SeekTo;
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->ended && shared_->pictures.empty() && shared_->samples.empty() && !shared_->seekTo;
 }
 
 qint64 MediaStream::EndOfRead() const
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return shared_->EndOfRead;
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->endOfRead;
 }
 
 } // namespace torvik

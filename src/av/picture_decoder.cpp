@@ -48,9 +48,9 @@ std::optional<MediaPicture> PictureDecoder::Receive()
 {
     while (avcodec_receive_frame(codec_.get(), frame_.get()) >= 0) {
         MediaPicture picture{TimeOf(*frame_), Convert(*frame_)};
-        next_ = picture.Time + frameDuration_;
+        next_ = picture.time + frameDuration_;
         av_frame_unref(frame_.get());
-        if (!picture.Image.isNull())
+        if (!picture.image.isNull())
             return picture;
     }
     return std::nullopt;

@@ -8,7 +8,7 @@ namespace {
 
 AVSampleFormat FormatOf(const SoundFormat& sound)
 {
-    return sound.Kind == SoundFormat::Sample::Int16 ? AV_SAMPLE_FMT_S16 : AV_SAMPLE_FMT_FLT;
+    return sound.kind == SoundFormat::Sample::Int16 ? AV_SAMPLE_FMT_S16 : AV_SAMPLE_FMT_FLT;
 }
 
 } // namespace
@@ -43,14 +43,14 @@ std::optional<MediaSamples> SoundDecoder::Receive()
 {
     while (avcodec_receive_frame(codec_.get(), frame_.get()) >= 0) {
         MediaSamples samples;
-        samples.Time = next_;
+        samples.time = next_;
         if (frame_->best_effort_timestamp != AV_NOPTS_VALUE)
-            samples.Time =
+            samples.time =
                 av_rescale_q(frame_->best_effort_timestamp, timeBase_, libav::microsecond) - startTime_;
-        samples.Bytes = Convert(*frame_);
-        next_ = samples.Time + samples.Bytes.size() * 1'000'000 / wanted_.BytesPerSecond();
+        samples.bytes = Convert(*frame_);
+        next_ = samples.time + samples.bytes.size() * 1'000'000 / wanted_.BytesPerSecond();
         av_frame_unref(frame_.get());
-        if (!samples.Bytes.isEmpty())
+        if (!samples.bytes.isEmpty())
             return samples;
     }
     return std::nullopt;
@@ -67,10 +67,10 @@ bool SoundDecoder::PrepareFor(const AVFrame& frame)
     AVChannelLayout from;
     AVChannelLayout to;
     av_channel_layout_default(&from, channels);
-    av_channel_layout_default(&to, wanted_.Channels);
+    av_channel_layout_default(&to, wanted_.channels);
     SwrContext* converter = nullptr;
     const int made =
-        swr_alloc_set_opts2(&converter, &to, FormatOf(wanted_), wanted_.Rate, &from,
+        swr_alloc_set_opts2(&converter, &to, FormatOf(wanted_), wanted_.rate, &from,
                             static_cast<AVSampleFormat>(frame.format), frame.sample_rate, 0, nullptr);
     av_channel_layout_uninit(&from);
     av_channel_layout_uninit(&to);

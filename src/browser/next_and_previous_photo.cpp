@@ -3,6 +3,7 @@
 #include "browser/bind_browser.h"
 #include "browser/neighbours.h"
 #include "browser/photo_caption.h"
+#include "program/catalogue/topics.h"
 #include "program/photo_list.h"
 #include "program/photo_name.h"
 #include "program/play_list_buttons.h"
@@ -20,11 +21,11 @@ namespace {
 
 /// What a step changes before it has found a photo.
 struct Cursor {
-    Integer PhotoIndex;
-    bool SkipFirstPhoto;
-    bool SteppedForward;
-    bool SteppedBackward;
-    QString YearCode;
+    Integer photoIndex;
+    bool skipFirstPhoto;
+    bool steppedForward;
+    bool steppedBackward;
+    QString yearCode;
 
     static Cursor Now()
     {
@@ -33,11 +34,11 @@ struct Cursor {
     }
     void PutBack() const
     {
-        state.PhotoIndex = PhotoIndex;
-        state.SkipFirstPhoto = SkipFirstPhoto;
-        state.SteppedForward = SteppedForward;
-        state.SteppedBackward = SteppedBackward;
-        state.YearCode = YearCode;
+        state.PhotoIndex = photoIndex;
+        state.SkipFirstPhoto = skipFirstPhoto;
+        state.SteppedForward = steppedForward;
+        state.SteppedBackward = steppedBackward;
+        state.YearCode = yearCode;
     }
 };
 
@@ -93,11 +94,11 @@ void FocusAfterStep()
 {
     const QString& code = state.YearCode;
     int button = 1;
-    if (code == u"A0"_s)
+    if (code == code2000)
         button = yearCount;
     else if (code <= u"99"_s)
-        button = static_cast<int>(Val(code)) - 65;
-    if (code == u"A0"_s || code == u"A1"_s)
+        button = static_cast<int>(Val(code)) - yearBeforeFirst + 1;
+    if (code == code2000 || code == code2001)
         Form1->cmdYR(button).SetEnabled(true);
     Form1->cmdYR(button).SetFocus();
 }

@@ -17,11 +17,11 @@ namespace {
 
 /// Where the walk goes after the last year, by the codes of the titles.
 struct WalkStep {
-    const char* From;
-    const char* To;
-    int NextYearButton;
-    int FocusButton;
-    void (*ShowIt)();
+    const char* from;
+    const char* to;
+    int nextYearButton;
+    int focusButton;
+    void (*showIt)();
 };
 
 constexpr WalkStep afterTheYears[] = {
@@ -33,7 +33,7 @@ constexpr WalkStep afterTheYears[] = {
 const WalkStep* StepFrom(const QString& title)
 {
     for (const WalkStep& step : afterTheYears) {
-        if (title == TitleOfCode(QLatin1String(step.From)))
+        if (title == TitleOfCode(QLatin1String(step.from)))
             return &step;
     }
     return nullptr;
@@ -58,10 +58,10 @@ void WalkOn()
     WalkToNextYear();
 
     if (const WalkStep* step = StepFrom(Form1->panYear.Caption())) {
-        Form1->panYear.SetCaption(TitleOfCode(QLatin1String(step->To)));
-        state.NextYearButton = step->NextYearButton;
-        Form1->cmdYR(step->FocusButton).SetFocus();
-        step->ShowIt();
+        Form1->panYear.SetCaption(TitleOfCode(QLatin1String(step->to)));
+        state.NextYearButton = step->nextYearButton;
+        Form1->cmdYR(step->focusButton).SetFocus();
+        step->showIt();
     } else {
         Form1->panYear.SetCaption(YearOfButton(state.NextYearButton));
         SelectYear();

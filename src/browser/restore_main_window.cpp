@@ -15,13 +15,13 @@ namespace {
 void SetDocumentButtons(const Topic* topic)
 {
     Form1Controls& form = *Form1;
-    const bool ownTopic = topic != nullptr && !topic->KeepsYearButtons;
+    const bool ownTopic = topic != nullptr && !topic->keepsYearButtons;
     for (Button* button : {&form.cmdColors, &form.cmdOptions, &form.cmdClipArt, &form.cmdEmblem,
                            &form.cmdScript, &form.cmdAd, &form.cmdNostalgia})
         button->SetEnabled(!ownTopic);
-    form.cmdStats.SetEnabled(!ownTopic || topic->HasStatistics);
+    form.cmdStats.SetEnabled(!ownTopic || topic->hasStatistics);
     if (ownTopic)
-        form.cmdDesc.SetEnabled(topic->HasDescription);
+        form.cmdDesc.SetEnabled(topic->hasDescription);
 }
 
 void DropOverlays()
@@ -34,7 +34,7 @@ void DropOverlays()
 void RefreshOverlays(const Topic* topic)
 {
     Form1Controls& form = *Form1;
-    if (topic != nullptr && topic->KeepsYearButtons) {
+    if (topic != nullptr && topic->keepsYearButtons) {
         form.picClipArt.Hide();
         for (Button* button : {&form.cmdStats, &form.cmdDesc, &form.cmdClipArt, &form.cmdNostalgia})
             button->SetEnabled(false);
@@ -62,7 +62,7 @@ void RestoreMainWindow()
         const Topic* topic = BrowsedTopicOf(form.panYear.Caption());
         SetDocumentButtons(topic);
         state.YearCode = Mid(form.panYear.Caption(), 3, 2);
-        if (topic != nullptr && !topic->KeepsOverlays)
+        if (topic != nullptr && !topic->keepsOverlays)
             DropOverlays();
         else
             RefreshOverlays(topic);

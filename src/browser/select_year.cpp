@@ -26,7 +26,7 @@ void TakeYearCode()
     const QString title = Form1->panYear.Caption();
     state.YearCode = CodeOfTitle(title);
     const Topic* topic = BrowsedTopicOf(title);
-    if (topic != nullptr && topic->RenamesStatistics)
+    if (topic != nullptr && topic->renamesStatistics)
         Form1->cmdStats.SetCaption(detailsCaption);
 }
 

@@ -46,7 +46,7 @@ void SelectBySpaceBar(int index)
     BeginSelection();
     if (state.TorviksPathPos == 0)
         state.TorviksPathPos = 1;
-    Form1->panYear.SetCaption(u"19%1"_s.arg(state.TorviksPathPos + 66));
+    Form1->panYear.SetCaption(u"19%1"_s.arg(state.TorviksPathPos + yearBeforeFirst));
     FinishSelection(index);
 }
 

@@ -57,19 +57,20 @@ public:
     }
 
 private:
+    /// Screens that cannot show the file do not suffer from it either.
     void Take(const QString& path, const QString& screen, Need need = Need::Full)
     {
         AskedFile& file = asked_[FoldedPath(path)];
-        if (file.Path.isEmpty())
-            file.Path = path.mid(path.startsWith(u'\\') ? 1 : 0);
-        if (need != Need::Known && !file.Screens.contains(screen))
-            file.Screens.append(screen);
-        file.Most = std::max(file.Most, need);
+        if (file.path.isEmpty())
+            file.path = path.mid(path.startsWith(u'\\') ? 1 : 0);
+        if (need != Need::Known && !file.screens.contains(screen))
+            file.screens.append(screen);
+        file.most = std::max(file.most, need);
     }
 
     void TakeStart()
     {
-        Take(ArticleOf(ArticleButton::Description, nothingChosen).File, u"Start > Description"_s);
+        Take(ArticleOf(ArticleButton::Description, nothingChosen).file, u"Start > Description"_s);
         Take(startDocument, {}, Need::Known);
         Take(startNarration, {}, Need::Known);
         Take(saverHelp, u"File > Install Screen saver > Help"_s);
@@ -79,11 +80,11 @@ private:
 
     void TakeYear(const QString& year)
     {
-        Take(ArticleOf(ArticleButton::Description, year).File, year + u" > Description"_s);
-        Take(ArticleOf(ArticleButton::Options, year).File, year + u" > Options"_s);
-        Take(ArticleOf(ArticleButton::Statistics, year).File, year + u" > Statistics"_s);
-        Take(ArticleOf(ArticleButton::Colors, year).File, year + u" > Colors"_s);
-        Take(NostalgiaOf(year).File, year + u" > Nostalgia"_s);
+        Take(ArticleOf(ArticleButton::Description, year).file, year + u" > Description"_s);
+        Take(ArticleOf(ArticleButton::Options, year).file, year + u" > Options"_s);
+        Take(ArticleOf(ArticleButton::Statistics, year).file, year + u" > Statistics"_s);
+        Take(ArticleOf(ArticleButton::Colors, year).file, year + u" > Colors"_s);
+        Take(NostalgiaOf(year).file, year + u" > Nostalgia"_s);
         Take(EmblemOf(year), year + u" > Emblem"_s);
         Take(ScriptOf(year), year + u" > Script"_s);
         Take(ClipArtOf(Mid(year, 3, 2)), year + u" > ClipArt"_s);
@@ -95,34 +96,33 @@ private:
     /// What a topic has of its own. A button that is grey for it leads nowhere, but its file may be there.
     void TakeTopic(const Topic& topic)
     {
-        const QString title = QString::fromLatin1(topic.Title);
+        const QString title = QString::fromLatin1(topic.title);
         const QString screen = title.trimmed() + u" > "_s;
         const auto own = [&](const char* file, const QString& button, bool isEnabled) {
             if (*file != '\0')
                 Take(QString::fromLatin1(file), screen + button, isEnabled ? Need::Full : Need::Known);
         };
-        const bool hasNotes = *topic.Notes.Below5 != '\0';
-        own(topic.Description, u"Description"_s, topic.HasDescription);
-        own(topic.Options, u"Options"_s, topic.KeepsYearButtons);
-        own(topic.Colors, u"Colors"_s, topic.KeepsYearButtons);
-        own(topic.Statistics, u"Details"_s, topic.HasStatistics && !hasNotes);
-        own(topic.Emblem, u"Emblem"_s, true); // also while it is open and the topic is chosen
-        own(topic.Script, u"Script"_s, true);
+        own(topic.description, u"Description"_s, AsksForArticle(ArticleButton::Description, topic));
+        own(topic.options, u"Options"_s, AsksForArticle(ArticleButton::Options, topic));
+        own(topic.colors, u"Colors"_s, AsksForArticle(ArticleButton::Colors, topic));
+        own(topic.statistics, u"Details"_s, AsksForArticle(ArticleButton::Statistics, topic));
+        own(topic.emblem, u"Emblem"_s, true); // also while it is open and the topic is chosen
+        own(topic.script, u"Script"_s, true);
         Take(NarrationOf(title), {}, Need::Known);
     }
 
     void TakeNotes(const Topic& topic)
     {
-        if (*topic.Notes.Below5 == '\0')
+        if (*topic.notes.below5 == '\0')
             return;
-        const QString screen = QString::fromLatin1(topic.Title).trimmed() + u" > "_s;
+        const QString screen = QString::fromLatin1(topic.title).trimmed() + u" > "_s;
         const auto isOfTopic = [&](const QString& photo) {
-            return Left(photo, 2) == QLatin1String(topic.Code);
+            return Left(photo, 2) == QLatin1String(topic.code);
         };
         const auto count = static_cast<int>(std::count_if(photos_.begin(), photos_.end(), isOfTopic));
-        const bool isShown = topic.IsBrowsed && topic.HasStatistics;
+        const bool isShown = topic.isBrowsed && topic.hasStatistics;
         for (int photo = 1; photo <= (isShown ? count : mostNotes); ++photo)
-            Take(NoteOf(QString::fromLatin1(topic.Title), photo),
+            Take(NoteOf(QString::fromLatin1(topic.title), photo),
                  screen + u"Details to photo %1"_s.arg(photo), isShown ? Need::Full : Need::Known);
     }
 
@@ -131,18 +131,18 @@ private:
         for (const QString& photo : photos_) {
             const QString path = u"E:"_s + torviksFolder + photo;
             TakePathPosition(path);
-            Take(torviksFolder + photo, ScreenOfPhoto(photo), Need::Known);
+            Take(torviksFolder + photo, ScreenOfPhoto(photo), Need::Optional);
             Take(CaptionOfPhoto(path).mid(2), ScreenOfPhoto(photo) + u" > caption of "_s + photo,
-                 Need::Known);
+                 Need::Optional);
         }
     }
 
     void TakeLibrary()
     {
         for (const LibraryDocument& document : LibraryDocuments()) {
-            if (document.File != nullptr && *document.File != '\0')
-                Take(QString::fromLatin1(document.File), QString::fromLatin1(document.Screen),
-                     *document.Screen != '\0' ? Need::Full : Need::Known);
+            if (document.file != nullptr && *document.file != '\0')
+                Take(QString::fromLatin1(document.file), QString::fromLatin1(document.screen),
+                     *document.screen != '\0' ? Need::Full : Need::Known);
         }
     }
 
@@ -150,9 +150,9 @@ private:
     {
         for (int option = 0; option < movieCountOfPlayer; ++option) {
             const Movie movie = MovieOf(option);
-            const QString title = movie.WindowTitle.mid(movie.WindowTitle.indexOf(u" - "_s) + 3);
-            if (!movie.File.isEmpty())
-                Take(movieFolder + movie.File, u"Movies > "_s + title);
+            const QString title = movie.windowTitle.mid(movie.windowTitle.indexOf(u" - "_s) + 3);
+            if (!movie.file.isEmpty())
+                Take(movieFolder + movie.file, u"Movies > "_s + title);
         }
         for (int button = 0; button < soundCount; ++button)
             Take(SoundOf(button), u"Sound Effects > "_s + SoundLabel(button));
@@ -162,7 +162,7 @@ private:
     {
         const QString booklet = u"File > PrintBooklet"_s;
         for (const CoverPicture& picture : CoverPictures())
-            Take(QString::fromLatin1(picture.File), booklet + u" > cover"_s);
+            Take(QString::fromLatin1(picture.file), booklet + u" > cover"_s);
         Take(BookletIntroduction(), booklet);
         for (int year = firstYear; year <= lastYear; ++year) {
             const QString prefix = BookletPrefix(year);
@@ -192,7 +192,7 @@ QString ScreenOfPhoto(const QString& photo)
 {
     const QString code = Left(photo, 2).toUpper();
     const Topic* topic = TopicOfCode(code);
-    return topic != nullptr ? QString::fromLatin1(topic->Title).trimmed() : TitleOfCode(code).trimmed();
+    return topic != nullptr ? QString::fromLatin1(topic->title).trimmed() : TitleOfCode(code).trimmed();
 }
 
 } // namespace torvik

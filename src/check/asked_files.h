@@ -8,17 +8,17 @@ namespace torvik {
 
 /// How much a screen needs a file that it asks for.
 enum class Need {
-    Known,  ///< a table names it, but no button that works leads to it, or the program only looks whether it
-            ///< is there
-    Remark, ///< the program has always lived without it
-    Full,   ///< without it the screen shows an error instead
+    Known,    ///< a table names it, but no button that works leads to it
+    Optional, ///< its screen shows or plays it where it is there
+    Remark,   ///< the program has always lived without it
+    Full,     ///< without it the screen shows an error instead
 };
 
 /// A file that screens ask for.
 struct AskedFile {
-    QString Path; ///< from the disc's root on, as the first screen spells it: "richtext\67desc.rtf"
-    QStringList Screens;
-    Need Most = Need::Known; ///< of all its screens
+    QString path; ///< from the disc's root on, as the first screen spells it: "richtext\67desc.rtf"
+    QStringList screens;
+    Need most = Need::Known; ///< of all its screens
 };
 
 /// The form of a path by which files are the same: letter case does not count, nor a backslash in front.

@@ -49,6 +49,7 @@ std::vector<Examination> ExamineAll(const QList<ListedFile>& files, const CheckP
         }
     };
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     for (int count = 0; count < threadCount; ++count)
         threads.emplace_back(work);
     const int all = static_cast<int>(files.size());
@@ -82,7 +83,7 @@ public:
             TakeFile(files_[file], examined_[static_cast<std::size_t>(file)]);
         findings_ += Oddities(files_, examined_, asked_);
         std::stable_sort(findings_.begin(), findings_.end(), [](const Finding& a, const Finding& b) {
-            return std::tuple(a.Kind, FoldedPath(a.File)) < std::tuple(b.Kind, FoldedPath(b.File));
+            return std::tuple(a.kind, FoldedPath(a.file)) < std::tuple(b.kind, FoldedPath(b.file));
         });
         return findings_;
     }
@@ -90,14 +91,9 @@ public:
 private:
     void TakeFile(const ListedFile& file, const Examination& examined)
     {
-        const auto asked = asked_.constFind(FoldedPath(file.Path));
-        if (!examined.IsWhole) {
-            QStringList screens = asked != asked_.cend() ? asked->Screens : QStringList();
-            const QString photo = PhotoIn(file.Path);
-            if (screens.isEmpty() && !photo.isEmpty())
-                screens = {ScreenOfPhoto(photo)};
-            findings_.append({examined.Kind, file.Path, examined.What, screens});
-        }
+        if (!examined.isWhole)
+            findings_.append(
+                {examined.kind, file.path, examined.what, asked_.value(FoldedPath(file.path)).screens});
     }
 
     const QList<ListedFile>& files_;
@@ -113,16 +109,16 @@ QList<Finding> MissingFiles(const QList<ListedFile>& files, const QHash<QString,
 {
     QSet<QString> there;
     for (const ListedFile& file : files)
-        there.insert(FoldedPath(file.Path));
+        there.insert(FoldedPath(file.path));
     QList<Finding> findings;
     for (auto file = asked.cbegin(); file != asked.cend(); ++file) {
-        if (file->Most == Need::Known || there.contains(file.key()))
+        if (file->most < Need::Remark || there.contains(file.key()))
             continue;
-        if (file->Most == Need::Full)
-            findings.append({FindingKind::Missing, file->Path, u"is missing"_s, file->Screens});
+        if (file->most == Need::Full)
+            findings.append({FindingKind::Missing, file->path, u"is missing"_s, file->screens});
         else
-            findings.append({FindingKind::Remark, file->Path,
-                             u"is missing, and the program says so in words of its own"_s, file->Screens});
+            findings.append({FindingKind::Remark, file->path,
+                             u"is missing, and the program says so in words of its own"_s, file->screens});
     }
     return findings;
 }
@@ -136,11 +132,11 @@ CheckResult CheckDisc(QChar letter, const CheckProgress& progress)
 {
     CheckResult result;
     const QList<ListedFile> files = AllFiles(QString(letter) + u":\\"_s);
-    result.Disc = DriveFolder(letter);
-    result.FileCount = static_cast<int>(files.size());
+    result.disc = DriveFolder(letter);
+    result.fileCount = static_cast<int>(files.size());
     for (const ListedFile& file : files)
-        result.Bytes += std::max<qint64>(file.Length, 0);
-    result.Findings = FindingsOf(files, ExamineAll(files, progress));
+        result.bytes += std::max<qint64>(file.length, 0);
+    result.findings = FindingsOf(files, ExamineAll(files, progress));
     return result;
 }
 

@@ -23,7 +23,7 @@ constexpr qsizetype pieceSize = 1 << 20;
 
 QByteArray WholeContent(const ListedFile& file)
 {
-    const std::unique_ptr<OpenFile> open = file.Where.On->Open(file.Where.Path);
+    const std::unique_ptr<OpenFile> open = file.where.on->Open(file.where.path);
     QByteArray content;
     for (;;) {
         const qsizetype before = content.size();
@@ -41,7 +41,7 @@ QByteArray WholeContent(const ListedFile& file)
 /// Reads a file of any length to its end; how many bytes came.
 qint64 ReadThrough(const ListedFile& file)
 {
-    const std::unique_ptr<OpenFile> open = file.Where.On->Open(file.Where.Path);
+    const std::unique_ptr<OpenFile> open = file.where.on->Open(file.where.path);
     QByteArray piece(pieceSize, Qt::Uninitialized);
     qint64 length = 0;
     while (const qsizetype got = open->Read(piece.data(), piece.size()))
@@ -58,13 +58,13 @@ bool EndsWith(const QString& path, std::initializer_list<const char*> endings)
 
 Examination ExamineContent(const ListedFile& file)
 {
-    if (EndsWith(file.Path, {".jpg", ".jpeg", ".bmp", ".png", ".gif"}))
+    if (EndsWith(file.path, {".jpg", ".jpeg", ".bmp", ".png", ".gif"}))
         return ExaminePicture(WholeContent(file));
-    if (EndsWith(file.Path, {".rtf"}))
+    if (EndsWith(file.path, {".rtf"}))
         return ExamineArticle(WholeContent(file));
-    if (EndsWith(file.Path, {".avi", ".wav"})) {
+    if (EndsWith(file.path, {".avi", ".wav"})) {
         ReadThrough(file); // a disc that fails in the middle is no damaged movie
-        return EndsWith(file.Path, {".avi"}) ? ExamineMovie(file.Where) : ExamineSound(file.Where);
+        return EndsWith(file.path, {".avi"}) ? ExamineMovie(file.where) : ExamineSound(file.where);
     }
     ReadThrough(file);
     return {};
@@ -74,7 +74,7 @@ Examination ExamineContent(const ListedFile& file)
 
 Examination Examine(const ListedFile& file)
 {
-    if (file.Length == 0)
+    if (file.length == 0)
         return {false, FindingKind::Empty, u"has no content"_s, {}};
     Examination examined;
     try {

@@ -9,10 +9,10 @@ namespace torvik {
 
 /// What a look into one file brought.
 struct Examination {
-    bool IsWhole = true;
-    FindingKind Kind = FindingKind::Damaged; ///< of what is wrong
-    QString What;                            ///< in words for the user
-    QSize Pixels;                            ///< of a picture
+    bool isWhole = true;
+    FindingKind kind = FindingKind::Damaged; ///< of what is wrong
+    QString what;                            ///< in words for the user
+    QSize pixels;                            ///< of a picture
 };
 
 /// A file whose content is not what it should be.

@@ -18,11 +18,11 @@ constexpr qint64 second = 1'000'000; // microseconds
 
 /// What came of decoding a whole file.
 struct Decoded {
-    bool IsOpen = false;
-    MediaInfo Info;
-    qint64 Pictures = 0;
-    qint64 SoundBytes = 0;
-    qint64 End = 0; ///< of the last piece, in microseconds
+    bool isOpen = false;
+    MediaInfo info;
+    qint64 pictures = 0;
+    qint64 soundBytes = 0;
+    qint64 end = 0; ///< of the last piece, in microseconds
 };
 
 Decoded Decode(const Place& place)
@@ -32,17 +32,17 @@ Decoded Decode(const Place& place)
     const std::unique_ptr<MediaReader> reader = MediaReader::Open(FileSource::Open(place), format);
     if (reader == nullptr)
         return decoded;
-    decoded.IsOpen = true;
-    decoded.Info = reader->Info();
+    decoded.isOpen = true;
+    decoded.info = reader->Info();
     for (;;) {
         const MediaReader::Piece piece = reader->Next();
         if (const auto* const picture = std::get_if<MediaPicture>(&piece)) {
-            ++decoded.Pictures;
-            decoded.End = std::max(decoded.End, picture->Time + decoded.Info.FrameDuration);
+            ++decoded.pictures;
+            decoded.end = std::max(decoded.end, picture->time + decoded.info.frameDuration);
         } else if (const auto* const samples = std::get_if<MediaSamples>(&piece)) {
-            decoded.SoundBytes += samples->Bytes.size();
-            decoded.End = std::max(decoded.End,
-                                   samples->Time + samples->Bytes.size() * second / format.BytesPerSecond());
+            decoded.soundBytes += samples->bytes.size();
+            decoded.end = std::max(decoded.end,
+                                   samples->time + samples->bytes.size() * second / format.BytesPerSecond());
         } else {
             return decoded;
         }
@@ -52,10 +52,10 @@ Decoded Decode(const Place& place)
 /// A movie that stops before the time that it tells of. Times are rounded, so a little less is no loss.
 QString EarlyEnd(const Decoded& decoded)
 {
-    const qint64 tolerance = std::max(second / 2, 3 * decoded.Info.FrameDuration);
-    if (decoded.Info.Duration - decoded.End <= tolerance)
+    const qint64 tolerance = std::max(second / 2, 3 * decoded.info.frameDuration);
+    if (decoded.info.duration - decoded.end <= tolerance)
         return {};
-    return u"ends after %1 of %2 seconds"_s.arg(decoded.End / second).arg(decoded.Info.Duration / second);
+    return u"ends after %1 of %2 seconds"_s.arg(decoded.end / second).arg(decoded.info.duration / second);
 }
 
 } // namespace
@@ -63,7 +63,7 @@ QString EarlyEnd(const Decoded& decoded)
 Examination ExamineMovie(const Place& place)
 {
     const Decoded decoded = Decode(place);
-    if (!decoded.IsOpen || decoded.Pictures == 0)
+    if (!decoded.isOpen || decoded.pictures == 0)
         return Damaged(u"has no readable picture"_s);
     if (const QString problem = MovieIndexProblem(place); !problem.isEmpty())
         return Damaged(problem);
@@ -75,7 +75,7 @@ Examination ExamineMovie(const Place& place)
 Examination ExamineSound(const Place& place)
 {
     const Decoded decoded = Decode(place);
-    if (!decoded.IsOpen || decoded.SoundBytes == 0)
+    if (!decoded.isOpen || decoded.soundBytes == 0)
         return Damaged(u"has no sound"_s);
     if (const QString problem = SoundLengthProblem(place); !problem.isEmpty())
         return Damaged(problem);

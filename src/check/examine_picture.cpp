@@ -60,7 +60,7 @@ Examination ExaminePicture(const QByteArray& bytes)
     if (complaints != 0)
         return Damaged(u"has damaged bytes inside"_s);
     Examination whole;
-    whole.Pixels = size;
+    whole.pixels = size;
     return whole;
 }
 

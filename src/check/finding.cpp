@@ -29,13 +29,13 @@ QString KindWord(FindingKind kind)
 
 int CheckResult::CountOf(FindingKind kind) const
 {
-    return static_cast<int>(std::count_if(Findings.begin(), Findings.end(),
-                                          [kind](const Finding& finding) { return finding.Kind == kind; }));
+    return static_cast<int>(std::count_if(findings.begin(), findings.end(),
+                                          [kind](const Finding& finding) { return finding.kind == kind; }));
 }
 
 bool CheckResult::IsWhole() const
 {
-    return CountOf(FindingKind::Remark) == Findings.size();
+    return CountOf(FindingKind::Remark) == findings.size();
 }
 
 } // namespace torvik

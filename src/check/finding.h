@@ -19,10 +19,10 @@ enum class FindingKind {
 
 /// One line of the report.
 struct Finding {
-    FindingKind Kind = FindingKind::Missing;
-    QString File;        ///< from the disc's root on, "Torviks\67TOR001.JPG"
-    QString What;        ///< in words for the user, without a point
-    QStringList Screens; ///< that suffer, "1972 > Advertisement"
+    FindingKind kind = FindingKind::Missing;
+    QString file;        ///< from the disc's root on, "Torviks\67TOR001.JPG"
+    QString what;        ///< in words for the user, without a point
+    QStringList screens; ///< that suffer, "1972 > Advertisement"
 };
 
 /// The kind in one word, as the machine-readable report has it: "missing", "never-asked".
@@ -30,10 +30,10 @@ QString KindWord(FindingKind kind);
 
 /// What was found on a disc.
 struct CheckResult {
-    QString Disc; ///< as it was named, or where it was found
-    int FileCount = 0;
-    qint64 Bytes = 0;
-    QList<Finding> Findings; ///< by kind and file
+    QString disc; ///< as it was named, or where it was found
+    int fileCount = 0;
+    qint64 bytes = 0;
+    QList<Finding> findings; ///< by kind and file
 
     int CountOf(FindingKind kind) const;
     /// Whether there is nothing but remarks.

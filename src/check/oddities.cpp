@@ -43,7 +43,7 @@ public:
         : files_(files), examined_(examined), asked_(asked), photos_(NamesOfPhotos(files))
     {
         for (const ListedFile& file : files_)
-            spellings_[FoldedPath(file.Path)].append(file.Path);
+            spellings_[FoldedPath(file.path)].append(file.path);
     }
 
     QList<Finding> Find()
@@ -57,9 +57,9 @@ public:
     }
 
 private:
-    void Add(FindingKind kind, const QString& file, const QString& what, const QString& screen = {})
+    void Add(FindingKind kind, const QString& file, const QString& what, const QStringList& screens = {})
     {
-        findings_.append({kind, file, what, screen.isEmpty() ? QStringList() : QStringList(screen)});
+        findings_.append({kind, file, what, screens});
     }
 
     void FindTwins()
@@ -68,42 +68,46 @@ private:
             std::sort(paths.begin(), paths.end());
             for (qsizetype other = 1; other < paths.size(); ++other)
                 Add(FindingKind::Odd, paths[other],
-                    u"differs from %1 in letter case alone, and only that one is found"_s.arg(paths.first()));
+                    u"differs from %1 in letter case alone, and only that one is found"_s.arg(paths.first()),
+                    asked_.value(FoldedPath(paths[other])).screens);
         }
     }
 
     void FindNeverAsked()
     {
         for (const ListedFile& file : files_) {
-            if (asked_.contains(FoldedPath(file.Path)))
+            if (asked_.contains(FoldedPath(file.path)))
                 continue;
-            if (IsCaptionName(file.Path))
-                Add(FindingKind::Odd, file.Path, u"is the caption of a photo that is not there"_s);
+            if (const QString photo = PhotoOfCaption(file.path); !photo.isEmpty())
+                Add(FindingKind::Odd, file.path, u"is the caption of a photo that is not there"_s,
+                    {ScreenOfPhoto(photo)});
             else
-                Add(FindingKind::NeverAsked, file.Path, u"is not asked for by any screen"_s);
+                Add(FindingKind::NeverAsked, file.path, u"is not asked for by any screen"_s);
         }
     }
 
-    /// Whether a document is named as a photo is: two characters of a year or topic, some letters, a number.
-    static bool IsCaptionName(const QString& path)
+    /// The photo that a document is named after: two characters of a year or topic, some letters, a number.
+    /// Empty when it is named otherwise.
+    static QString PhotoOfCaption(const QString& path)
     {
-        static const QRegularExpression form(u"^richtext\\\\(..)[a-z]+\\d{3}\\.rtf$"_s,
+        static const QRegularExpression form(u"^richtext\\\\((..)[a-z]+\\d{3})\\.rtf$"_s,
                                              QRegularExpression::CaseInsensitiveOption);
         const QRegularExpressionMatch match = form.match(path);
-        if (!match.hasMatch())
-            return false;
-        const QString code = match.captured(1).toUpper();
+        const QString code = match.captured(2).toUpper();
         bool isNumber = false;
         code.toInt(&isNumber);
-        return isNumber || code == u"A0"_s || code == u"A1"_s || TopicOfCode(code) != nullptr;
+        const bool isPhotos =
+            isNumber || code == code2000 || code == code2001 || TopicOfCode(code) != nullptr;
+        return match.hasMatch() && isPhotos ? match.captured(1).toUpper() + u".JPG"_s : QString();
     }
 
     void FindMissingCaptions()
     {
         for (const QString& photo : photos_) {
-            if (!spellings_.contains(FoldedPath(CaptionPathOf(photo))))
+            const QString caption = FoldedPath(CaptionPathOf(photo));
+            if (!spellings_.contains(caption))
                 Add(FindingKind::Odd, torviksFolder.mid(1) + photo, u"has no caption"_s,
-                    ScreenOfPhoto(photo));
+                    asked_.value(caption).screens);
         }
     }
 
@@ -126,7 +130,7 @@ private:
                             ? u"follows a gap: there is no number %1"_s.arg(expected)
                             : u"follows a gap: there are no numbers %1 to %2"_s.arg(expected).arg(
                                   photo.key() - 1),
-                        ScreenOfPhoto(photo.value()));
+                        {ScreenOfPhoto(photo.value())});
                 expected = photo.key() + 1;
             }
         }
@@ -137,31 +141,31 @@ private:
         QMap<QString, QList<qint64>> ofKind; // pictures of one folder are of one kind
         for (qsizetype file = 0; file < files_.size(); ++file) {
             if (const qint64 pixels = PixelsOf(file); pixels > 0)
-                ofKind[FoldedPath(FolderOf(files_[file].Path))].append(pixels);
+                ofKind[FoldedPath(FolderOf(files_[file].path))].append(pixels);
         }
         for (QList<qint64>& pixels : ofKind)
             std::sort(pixels.begin(), pixels.end());
         for (qsizetype file = 0; file < files_.size(); ++file) {
-            const QList<qint64> others = ofKind.value(FoldedPath(FolderOf(files_[file].Path)));
+            const QList<qint64> others = ofKind.value(FoldedPath(FolderOf(files_[file].path)));
             const qint64 pixels = PixelsOf(file);
-            if (pixels <= 0 || others.size() < fewestToCompare || PhotoIn(files_[file].Path).isEmpty())
+            if (pixels <= 0 || others.size() < fewestToCompare || PhotoIn(files_[file].path).isEmpty())
                 continue;
             const qint64 middle = others[others.size() / 2];
-            const QSize size = examined_[static_cast<std::size_t>(file)].Pixels;
+            const QSize size = examined_[static_cast<std::size_t>(file)].pixels;
             const QString measures = u"%1 by %2 pixels"_s.arg(size.width()).arg(size.height());
-            const QString screen = ScreenOfPhoto(PhotoIn(files_[file].Path));
+            const QStringList screen{ScreenOfPhoto(PhotoIn(files_[file].path))};
             if (pixels > middle * muchLarger)
-                Add(FindingKind::Odd, files_[file].Path, u"is far larger than the others: "_s + measures,
+                Add(FindingKind::Odd, files_[file].path, u"is far larger than the others: "_s + measures,
                     screen);
             else if (pixels * muchLarger < middle)
-                Add(FindingKind::Odd, files_[file].Path, u"is far smaller than the others: "_s + measures,
+                Add(FindingKind::Odd, files_[file].path, u"is far smaller than the others: "_s + measures,
                     screen);
         }
     }
 
     qint64 PixelsOf(qsizetype file) const
     {
-        const QSize size = examined_[static_cast<std::size_t>(file)].Pixels;
+        const QSize size = examined_[static_cast<std::size_t>(file)].pixels;
         return size.isValid() ? qint64{size.width()} * size.height() : 0;
     }
 
@@ -188,7 +192,7 @@ QStringList NamesOfPhotos(const QList<ListedFile>& files)
 {
     QStringList photos;
     for (const ListedFile& file : files) {
-        if (const QString photo = PhotoIn(file.Path); !photo.isEmpty())
+        if (const QString photo = PhotoIn(file.path); !photo.isEmpty())
             photos.append(photo);
     }
     photos.sort();
@@ -207,9 +211,9 @@ QStringList ScreensWithoutPhoto(const QStringList& photos)
             screens.append(YearOfButton(button));
     }
     for (const Topic& topic : Topics()) {
-        if (topic.IsBrowsed && topic.Entry.Menu != TopicMenu::None &&
-            !codes.contains(QLatin1String(topic.Code)))
-            screens.append(QString::fromLatin1(topic.Title).trimmed());
+        if (topic.isBrowsed && topic.entry.menu != TopicMenu::None &&
+            !codes.contains(QLatin1String(topic.code)))
+            screens.append(QString::fromLatin1(topic.title).trimmed());
     }
     return screens;
 }

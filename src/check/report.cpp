@@ -46,20 +46,20 @@ QString Printable(const QString& text)
 
 QString Line(const Finding& finding, qsizetype kindWidth, qsizetype fileWidth, bool inColour)
 {
-    const QString colour = inColour ? ColourOf(finding.Kind) : QString();
-    QString line = colour + KindWord(finding.Kind).leftJustified(kindWidth) +
+    const QString colour = inColour ? ColourOf(finding.kind) : QString();
+    QString line = colour + KindWord(finding.kind).leftJustified(kindWidth) +
                    (colour.isEmpty() ? QString() : u"\x1b[0m"_s);
-    line += u"  "_s + Printable(finding.File).leftJustified(fileWidth) + u"  "_s + Printable(finding.What);
-    if (!finding.Screens.isEmpty())
-        line += u"  ["_s + finding.Screens.join(u"; "_s) + u']';
+    line += u"  "_s + Printable(finding.file).leftJustified(fileWidth) + u"  "_s + Printable(finding.what);
+    if (!finding.screens.isEmpty())
+        line += u"  ["_s + finding.screens.join(u"; "_s) + u']';
     return line + u'\n';
 }
 
 QString Summary(const CheckResult& result)
 {
     const QLocale plain = QLocale::c();
-    QString text = u"%1: %2 files, %3\n"_s.arg(Printable(result.Disc), plain.toString(result.FileCount),
-                                               plain.formattedDataSize(result.Bytes));
+    QString text = u"%1: %2 files, %3\n"_s.arg(Printable(result.disc), plain.toString(result.fileCount),
+                                               plain.formattedDataSize(result.bytes));
     QStringList counts;
     for (const FindingKind kind : kinds) {
         if (const int count = result.CountOf(kind); count > 0)
@@ -77,12 +77,12 @@ QString ReportText(const CheckResult& result, bool inColour)
     constexpr qsizetype widestFile = 40;
     qsizetype kindWidth = 0;
     qsizetype fileWidth = 0;
-    for (const Finding& finding : result.Findings) {
-        kindWidth = std::max(kindWidth, KindWord(finding.Kind).size());
-        fileWidth = std::max(fileWidth, std::min(finding.File.size(), widestFile));
+    for (const Finding& finding : result.findings) {
+        kindWidth = std::max(kindWidth, KindWord(finding.kind).size());
+        fileWidth = std::max(fileWidth, std::min(finding.file.size(), widestFile));
     }
     QString text;
-    for (const Finding& finding : result.Findings)
+    for (const Finding& finding : result.findings)
         text += Line(finding, kindWidth, fileWidth, inColour);
     if (!text.isEmpty())
         text += u'\n';
@@ -92,16 +92,16 @@ QString ReportText(const CheckResult& result, bool inColour)
 QByteArray ReportJson(const CheckResult& result)
 {
     QJsonArray findings;
-    for (const Finding& finding : result.Findings)
-        findings.append(QJsonObject{{u"kind"_s, KindWord(finding.Kind)},
-                                    {u"file"_s, finding.File},
-                                    {u"what"_s, finding.What},
-                                    {u"screens"_s, QJsonArray::fromStringList(finding.Screens)}});
+    for (const Finding& finding : result.findings)
+        findings.append(QJsonObject{{u"kind"_s, KindWord(finding.kind)},
+                                    {u"file"_s, finding.file},
+                                    {u"what"_s, finding.what},
+                                    {u"screens"_s, QJsonArray::fromStringList(finding.screens)}});
     QJsonObject counts;
     for (const FindingKind kind : kinds)
         counts.insert(KindWord(kind), result.CountOf(kind));
-    const QJsonObject report{{u"version"_s, formatVersion},  {u"disc"_s, result.Disc},
-                             {u"files"_s, result.FileCount}, {u"bytes"_s, result.Bytes},
+    const QJsonObject report{{u"version"_s, formatVersion},  {u"disc"_s, result.disc},
+                             {u"files"_s, result.fileCount}, {u"bytes"_s, result.bytes},
                              {u"whole"_s, result.IsWhole()}, {u"counts"_s, counts},
                              {u"findings"_s, findings}};
     return QJsonDocument(report).toJson(QJsonDocument::Indented);

@@ -19,14 +19,14 @@ constexpr int mostChunks = 10'000;
 constexpr qint64 longestIndex = qint64{64} * 1024 * 1024;
 
 struct Chunk {
-    QByteArray Name; ///< of a list the name of its kind, "movi"
-    qint64 Begin = 0;
-    qint64 Length = 0; ///< as it is told
+    QByteArray name; ///< of a list the name of its kind, "movi"
+    qint64 begin = 0;
+    qint64 length = 0; ///< as it is told
 };
 
 class ChunkReader {
 public:
-    explicit ChunkReader(const Place& place) : file_(place.On->Open(place.Path)) {}
+    explicit ChunkReader(const Place& place) : file_(place.on->Open(place.path)) {}
 
     qint64 Length() const { return file_->Length(); }
 
@@ -60,10 +60,10 @@ public:
     {
         qint64 place = headLength + 4;
         for (int count = 0; count < mostChunks; ++count) {
-            const auto chunk = At(place);
-            if (!chunk || chunk->Name == name)
+            auto chunk = At(place);
+            if (!chunk || chunk->name == name)
                 return chunk;
-            place = chunk->Begin + chunk->Length + chunk->Length % 2;
+            place = chunk->begin + chunk->length + chunk->length % 2;
         }
         return std::nullopt;
     }
@@ -81,9 +81,9 @@ bool EntriesLeadInto(const Chunk& pictures, const QByteArray& index)
         const qint64 place = qFromLittleEndian<quint32>(index.constData() + entry + 8);
         const qint64 length = qFromLittleEndian<quint32>(index.constData() + entry + 12);
         if (first < 0)
-            first = place < pictures.Begin ? pictures.Begin : 0;
+            first = place < pictures.begin ? pictures.begin : 0;
         const qint64 begin = first + place;
-        if (begin < pictures.Begin || begin + headLength + length > pictures.Begin + pictures.Length)
+        if (begin < pictures.begin || begin + headLength + length > pictures.begin + pictures.length)
             return false;
     }
     return true;
@@ -97,14 +97,14 @@ QString MovieIndexProblem(const Place& place)
     const auto pictures = reader.Find("movi");
     if (!pictures)
         return u"has no pictures where they should be"_s;
-    if (pictures->Begin + pictures->Length > reader.Length())
+    if (pictures->begin + pictures->length > reader.Length())
         return u"ends early"_s;
     const auto index = reader.Find("idx1");
-    if (!index || index->Length < indexEntry)
+    if (!index || index->length < indexEntry)
         return u"has no index, so places in it are hard to find"_s;
-    if (index->Length > longestIndex || index->Begin + index->Length > reader.Length())
+    if (index->length > longestIndex || index->begin + index->length > reader.Length())
         return u"has a broken index"_s;
-    const bool isRight = EntriesLeadInto(*pictures, reader.Bytes(index->Begin, index->Length));
+    const bool isRight = EntriesLeadInto(*pictures, reader.Bytes(index->begin, index->length));
     return isRight ? QString() : u"has a broken index"_s;
 }
 
@@ -113,8 +113,8 @@ QString SoundLengthProblem(const Place& place)
     ChunkReader reader(place);
     const auto samples = reader.Find("data");
     // Programs that write without knowing the end leave all bits set.
-    const bool isTold = samples && samples->Length != 0xFFFFFFFF;
-    return isTold && samples->Begin + samples->Length > reader.Length() ? u"ends early"_s : QString();
+    const bool isTold = samples && samples->length != 0xFFFFFFFF;
+    return isTold && samples->begin + samples->length > reader.Length() ? u"ends early"_s : QString();
 }
 
 } // namespace torvik

@@ -70,7 +70,7 @@ int RunCheck(const QString& disc, bool asJson)
         if (const auto letter = DriveOf(disc))
             result = CheckDisc(*letter, progress);
     });
-    if (result.FileCount == 0)
+    if (result.fileCount == 0)
         return SayNoDisc(disc);
     if (asJson)
         std::fputs(ReportJson(result).constData(), stdout);

@@ -1,6 +1,7 @@
 #include "documents/bind_documents.h"
 #include "documents/page_viewer.h"
 #include "program/box_title.h"
+#include "program/catalogue/articles.h"
 #include "program/catalogue/pictures.h"
 #include "program/keep_on_top.h"
 #include "program/program_state.h"
@@ -46,7 +47,7 @@ void LoadPage()
 void ShowPage()
 {
     ResumeNext([] {
-        frmScroll->SetCaption(u"The Torvik Vollandry    "_s + Form1->panYear.Caption() + u" Advertisement"_s);
+        frmScroll->SetCaption(QLatin1String(pageTitle) + Form1->panYear.Caption() + u" Advertisement"_s);
     });
     ResumeNext(TurnFullSizeViewOver);
     ResumeNext([] { frmScroll->ShowModal(); });

@@ -33,7 +33,7 @@ void txtForm_Load()
     WidenOkButton();
 }
 
-/// The window goes in the middle of this, so its buttons are set to rights before it does.
+/// The window goes in the middle of this, so its buttons are reset before that.
 void CloseViewer()
 {
     txtForm->SSCommand2.SetWidth(353);

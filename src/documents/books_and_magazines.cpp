@@ -18,16 +18,16 @@ namespace {
 void LoadDocument(const LibraryDocument& document)
 {
     const QString title = WindowTitleOf(document);
-    if (document.Way == TitleWay::Stored)
+    if (document.way == TitleWay::Stored)
         state.DocumentTitle = title;
-    if (document.File != nullptr)
-        state.DocumentFile = state.DiscRoot + QLatin1String(document.File);
-    if (document.Way == TitleWay::DirectBefore)
+    if (document.file != nullptr)
+        state.DocumentFile = state.DiscRoot + QLatin1String(document.file);
+    if (document.way == TitleWay::DirectBefore)
         txtForm->SetCaption(title);
     txtForm->rtbText.SetFileName(state.DocumentFile);
-    if (document.Way == TitleWay::Late)
+    if (document.way == TitleWay::Late)
         state.DocumentTitle = title;
-    if (document.Way == TitleWay::DirectAfter)
+    if (document.way == TitleWay::DirectAfter)
         txtForm->SetCaption(title);
 }
 
@@ -36,16 +36,16 @@ void OpenDocument(const LibraryDocument& document)
     OnError(
         [&] {
             LoadDocument(document);
-            if (document.SettlesButtons) {
+            if (document.settlesButtons) {
                 PutWaveButtonsAway();
                 WidenOkButton();
             }
-            if (document.ComesToFront)
+            if (document.comesToFront)
                 txtForm->ZOrder();
             txtForm->ShowModal();
         },
         [&] {
-            state.ErrorCode = QLatin1String(document.ErrorCode);
+            state.ErrorCode = QLatin1String(document.errorCode);
             ReportError();
         });
 }
@@ -59,7 +59,7 @@ void OpenDocumentOf(const QString& menuArray, int index)
         return;
     }
     LibraryDocument unnamed = *entry(1);
-    unnamed.File = nullptr;
+    unnamed.file = nullptr;
     OpenDocument(unnamed);
 }
 

@@ -20,8 +20,8 @@ constexpr qsizetype mostPlaces = 5000;
 
 /// What the bar has found in the text on show.
 struct FoundPlaces {
-    QList<TextRange> Places;
-    qsizetype Present = -1;
+    QList<TextRange> places;
+    qsizetype present = -1;
 };
 FoundPlaces found;
 
@@ -45,16 +45,16 @@ void CloseBar()
 void ShowPresent(const QString& note = {})
 {
     txtFormControls& form = *txtForm;
-    form.rtbText.SetMarks(found.Places, found.Present);
-    if (found.Present >= 0)
-        form.rtbText.BringIntoView(found.Places[found.Present]);
-    if (found.Places.isEmpty())
+    form.rtbText.SetMarks(found.places, found.present);
+    if (found.present >= 0)
+        form.rtbText.BringIntoView(found.places[found.present]);
+    if (found.places.isEmpty())
         form.lblFindText.SetCaption(LookForSomething(SearchTermsOf(form.txtFindText.Text())) ? u"Not found"_s
                                                                                              : QString());
     else
         form.lblFindText.SetCaption(
-            u"%1 of %2%3"_s.arg(found.Present + 1).arg(found.Places.size()).arg(note));
-    const bool canWalk = found.Places.size() > 1;
+            u"%1 of %2%3"_s.arg(found.present + 1).arg(found.places.size()).arg(note));
+    const bool canWalk = found.places.size() > 1;
     form.cmdFindNext.SetEnabled(canWalk);
     form.cmdFindBefore.SetEnabled(canWalk);
 }
@@ -62,31 +62,31 @@ void ShowPresent(const QString& note = {})
 /// While a word is being typed the present place stays where it was, or goes on from there.
 void FindTyped()
 {
-    const qsizetype from = found.Present >= 0 ? found.Places[found.Present].Begin : 0;
-    found.Places = PlacesOf(SearchTermsOf(txtForm->txtFindText.Text()), txtForm->rtbText.Text(), mostPlaces);
-    const auto next = std::find_if(found.Places.begin(), found.Places.end(),
-                                   [from](const TextRange& place) { return place.Begin >= from; });
-    found.Present = next != found.Places.end() ? next - found.Places.begin() : found.Places.size() - 1;
+    const qsizetype from = found.present >= 0 ? found.places[found.present].begin : 0;
+    found.places = PlacesOf(SearchTermsOf(txtForm->txtFindText.Text()), txtForm->rtbText.Text(), mostPlaces);
+    const auto next = std::find_if(found.places.begin(), found.places.end(),
+                                   [from](const TextRange& place) { return place.begin >= from; });
+    found.present = next != found.places.end() ? next - found.places.begin() : found.places.size() - 1;
     ShowPresent();
 }
 
 void StepToNext()
 {
-    const qsizetype count = found.Places.size();
+    const qsizetype count = found.places.size();
     if (count == 0)
         return;
-    const bool isLast = found.Present + 1 == count;
-    found.Present = isLast ? 0 : found.Present + 1;
+    const bool isLast = found.present + 1 == count;
+    found.present = isLast ? 0 : found.present + 1;
     ShowPresent(isLast ? u", on from the top"_s : QString());
 }
 
 void StepToPrevious()
 {
-    const qsizetype count = found.Places.size();
+    const qsizetype count = found.places.size();
     if (count == 0)
         return;
-    const bool isFirst = found.Present == 0;
-    found.Present = isFirst ? count - 1 : found.Present - 1;
+    const bool isFirst = found.present == 0;
+    found.present = isFirst ? count - 1 : found.present - 1;
     ShowPresent(isFirst ? u", on from the end"_s : QString());
 }
 
@@ -109,12 +109,11 @@ void AskForWords()
 void txtForm_KeyDown(int code, int shift)
 {
     const bool isOpen = txtForm->panFind.Visible();
-    if (code == key::letterF && shift == held::ctrl)
+    const bool isFind = code == key::letterF && shift == held::ctrl;
+    if (isFind || (code == key::f3 && !isOpen))
         AskForWords();
-    else if (code == key::f3 && isOpen)
-        Step(shift);
     else if (code == key::f3)
-        AskForWords();
+        Step(shift);
     else if (code == key::escape && isOpen)
         CloseBar();
 }

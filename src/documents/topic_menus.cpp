@@ -18,13 +18,13 @@ namespace {
 void SetTitle(TopicMenu menu, int index)
 {
     if (const Topic* topic = TopicOfEntry(menu, index))
-        Form1->panYear.SetCaption(QString::fromLatin1(topic->Title));
+        Form1->panYear.SetCaption(QString::fromLatin1(topic->title));
 }
 
 /// A topic that no menu leads to, by its code.
 void ShowTopicWithoutPhotos(const QString& code)
 {
-    Form1->panYear.SetCaption(QString::fromLatin1(TopicOfCode(code)->Title));
+    Form1->panYear.SetCaption(QString::fromLatin1(TopicOfCode(code)->title));
     ShowSpecialTopic();
     Form1->Image4.Clear();
 }

@@ -1,6 +1,6 @@
+#include "documents/article_of_button.h"
 #include "documents/article_viewer.h"
 #include "documents/bind_documents.h"
-#include "documents/find_article.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
 #include "runtime/failure.h"
@@ -71,8 +71,8 @@ void ShowNostalgia()
         return;
     const Article article = NostalgiaOf(title);
     state.YearCode = Mid(title, 3, 2);
-    state.DocumentFile = state.DiscRoot + article.File;
-    txtForm->SetCaption(article.WindowTitle);
+    state.DocumentFile = state.DiscRoot + article.file;
+    txtForm->SetCaption(article.windowTitle);
     txtForm->rtbText.SetFileName(state.DocumentFile);
     txtForm->ZOrder();
     PutWaveButtonsAway();

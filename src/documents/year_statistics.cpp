@@ -1,7 +1,7 @@
 #include "browser/photo_caption.h"
+#include "documents/article_of_button.h"
 #include "documents/article_viewer.h"
 #include "documents/bind_documents.h"
-#include "documents/find_article.h"
 #include "program/next_year_button.h"
 #include "program/program_state.h"
 #include "program/report_error.h"

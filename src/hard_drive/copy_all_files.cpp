@@ -37,16 +37,16 @@ QString MovieOfList(int index)
 void BeginCopying()
 {
     Screen.SetMousePointer(MousePointer::Hourglass);
-    state.CopyRemaining = PresentCopyJob().Size;
+    state.CopyRemaining = PresentCopyJob().size;
     Form1->SetEnabled(false);
 }
 
-/// Copies the file that has the number `state.LoopIndex` in its list. Where the disc was changed and holds
-/// nothing of the kind, the count is still that of the earlier disc and leads behind the end of the list:
-/// then the failure is shown like that of a file.
+/// Copies the file that has the number `state.LoopIndex` in its list. Where the disc was changed and has
+/// fewer files, the count is still that of the earlier disc and leads past the end of the list: that failure
+/// is shown like that of a file.
 void CopyFileOfList(QString (*nameOf)(int index))
 {
-    const QString& folder = PresentCopyJob().Folder;
+    const QString& folder = PresentCopyJob().folder;
     const auto workOut = [&] {
         state.CopySource = nameOf(state.LoopIndex);
         state.CopyTarget = ProgramFolder() + folder + state.CopySource;
@@ -70,7 +70,7 @@ void EndCopying()
     Form1->ProgressGuage2.SetFloodPercent(100);
     Form1->ProgressGuage2.SetCaption(100);
     Screen.SetMousePointer(MousePointer::Default);
-    state.MessageText = PresentCopyJob().Done;
+    state.MessageText = PresentCopyJob().done;
     state.MessageAnswer = QString::number(MsgBox(state.MessageText, msgbox::exclamation, boxTitle));
     Form1->SetEnabled(true);
 }

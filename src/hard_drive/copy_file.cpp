@@ -22,10 +22,10 @@ namespace {
 
 /// How a copy goes through a file and what it shows on the way.
 struct BlockWise {
-    qsizetype BlockSize; ///< bytes
+    qsizetype blockSize; ///< bytes
     /// A block was read and is about to be written; with it `percent` of the file.
-    std::function<void(double percent)> BlockRead;
-    std::function<void()> BlocksWritten;
+    std::function<void(double percent)> blockRead;
+    std::function<void()> blocksWritten;
 };
 
 /// The number of whole blocks; a count beyond 16 bits is failure 6.
@@ -48,7 +48,7 @@ void LetEventsRun(const QString& target)
 void Copy(const QString& source, const QString& target, const BlockWise& way)
 {
     const qint64 size = FileLength(source);
-    QByteArray buffer(way.BlockSize, ' ');
+    QByteArray buffer(way.blockSize, ' ');
     if (FileExists(target)) {
         if (IsSameFile(source, target))
             Fail(failure::pathFileAccess); // replacing it would destroy the source
@@ -57,15 +57,15 @@ void Copy(const QString& source, const QString& target, const BlockWise& way)
     BinaryInput input(source);
     BinaryOutput output(target);
 
-    const Integer blocks = CountBlocks(size, way.BlockSize);
+    const Integer blocks = CountBlocks(size, way.blockSize);
     for (int block = 1; block <= blocks; ++block) {
-        input.Read(buffer, way.BlockSize);
-        way.BlockRead(static_cast<double>(block * way.BlockSize) / static_cast<double>(size) * 100);
-        output.Write(buffer, way.BlockSize);
+        input.Read(buffer, way.blockSize);
+        way.blockRead(static_cast<double>(block * way.blockSize) / static_cast<double>(size) * 100);
+        output.Write(buffer, way.blockSize);
         LetEventsRun(target);
     }
-    way.BlocksWritten();
-    if (const qint64 rest = size - blocks * way.BlockSize; rest != 0) {
+    way.blocksWritten();
+    if (const qint64 rest = size - blocks * way.blockSize; rest != 0) {
         input.Read(buffer, rest);
         output.Write(buffer, rest);
     }
@@ -96,7 +96,7 @@ void CountDown(qsizetype bytes)
 /// A disc that holds more than the job's fixed size leaves the gauge full; the files go on being copied.
 double PercentOfJob()
 {
-    const double percent = 100 - static_cast<double>(state.CopyRemaining) / PresentCopyJob().Size * 100;
+    const double percent = 100 - static_cast<double>(state.CopyRemaining) / PresentCopyJob().size * 100;
     return std::min(percent, 100.0);
 }
 

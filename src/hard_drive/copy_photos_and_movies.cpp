@@ -68,7 +68,7 @@ void CopyAll()
 
 void cmdCopy_Click()
 {
-    const QString targetFolder = ProgramFolder() + PresentCopyJob().Folder;
+    const QString targetFolder = ProgramFolder() + PresentCopyJob().folder;
     Form1->cmdCopy.SetEnabled(false);
     Form1->cmdCancel.SetEnabled(false);
     Form1->pnlProgress.Show();
@@ -100,8 +100,8 @@ void OpenFor(bool photos)
 void ShowCopyPanel()
 {
     const CopyJob& job = PresentCopyJob();
-    Form1->Label2.SetCaption(job.Heading);
-    Form1->cmdCopy.SetCaption(job.Button);
+    Form1->Label2.SetCaption(job.heading);
+    Form1->cmdCopy.SetCaption(job.button);
     PlacePanel();
 
     qint64 total = 0;
@@ -110,8 +110,8 @@ void ShowCopyPanel()
     GetDiskSpace(total, free, drive);
     constexpr int bytesInUnit = 1000;
     free *= bytesInUnit;
-    if (free < job.RoomDemanded) {
-        state.MessageText = TooLittleRoom(free, job.RoomDemanded);
+    if (free < job.roomDemanded) {
+        state.MessageText = TooLittleRoom(free, job.roomDemanded);
         MsgBox(state.MessageText, msgbox::critical, boxTitle);
         return;
     }

@@ -19,9 +19,9 @@ void GetDiskSpace(qint64& total, qint64& free, QString& drive)
         drive = Left(DropLastCharacter(folder + u' '), rootLength);
         // On this host one drive is many file systems: that of the folder itself is meant.
         const DiskClusters clusters = DiskClustersOf(folder);
-        const qint64 clusterSize = clusters.SectorsPerCluster * clusters.BytesPerSector;
-        total = clusters.Total / clustersInUnit * clusterSize;
-        free = clusters.Free / clustersInUnit * clusterSize;
+        const qint64 clusterSize = clusters.sectorsPerCluster * clusters.bytesPerSector;
+        total = clusters.total / clustersInUnit * clusterSize;
+        free = clusters.free / clustersInUnit * clusterSize;
     };
     OnError(measure, [] { MsgBox(u"Internal GetDisk error!"_s); });
 }

@@ -80,7 +80,7 @@ void ShowDelay()
     Form1->panInterval.SetCaption(DelayInSeconds(state.SlideDelay) + u" Seconds"_s);
 }
 
-/// The user works the copy panel meanwhile. A copy that does not come about is waited for without an end.
+/// The user works the copy panel meanwhile. If no copy is ever made, the wait has no end.
 void WaitForCopies()
 {
     state.CopyForSaver = true;

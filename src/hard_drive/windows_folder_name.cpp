@@ -10,7 +10,7 @@ namespace torvik {
 
 namespace {
 
-/// The system's way of giving a text: into a buffer, with a zero character behind it. A text that does not
+/// The system's way of giving a text: into a buffer, with a zero character after it. A text that does not
 /// fit leaves the buffer as it is.
 void PutInto(QString& buffer, const QString& answer)
 {

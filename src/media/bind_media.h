@@ -10,7 +10,7 @@ void BindMedia();
 void BindSoundPanelButtons();
 /// The Movies entry of the main menu and the form that plays them.
 void BindMoviePlayer();
-/// The entry of the main menu that does so.
+/// The entry of the main menu that offers the driver of the movies.
 void BindVideoDriverOffer();
 
 } // namespace torvik

@@ -32,14 +32,14 @@ void OpenMovie(const QString& path)
 {
     frmMovie->PicMovie.SetHeight(pictureHeight);
     MMControl& player = frmMovie->MMControl1;
-    player.Device.Notify = false;
-    player.Device.Wait = true;
-    player.Device.Shareable = false;
+    player.device.notify = false;
+    player.device.wait = true;
+    player.device.shareable = false;
     player.Show();
-    player.Device.Command(u"close"_s);
-    player.Device.SetDeviceType(u"AVIVideo"_s);
-    player.Device.SetFileName(path);
-    player.Device.Command(u"open"_s);
+    player.device.Command(u"close"_s);
+    player.device.SetDeviceType(u"AVIVideo"_s);
+    player.device.SetFileName(path);
+    player.device.Command(u"open"_s);
     Screen.SetMousePointer(MousePointer::Default);
 }
 
@@ -58,8 +58,8 @@ void ChooseMovie(int index)
     frmMovie->PicMovie.Show();
     if (index < movieCountOfPlayer) {
         const Movie movie = MovieOf(index);
-        path += movie.File;
-        frmMovie->SetCaption(movie.WindowTitle);
+        path += movie.file;
+        frmMovie->SetCaption(movie.windowTitle);
     }
     FindFile(path);
     if (state.YearCode.isEmpty())
@@ -84,19 +84,19 @@ void frmMovie_Load()
     form.PicMovie.Show();
     form.optMovie(0).SetValue(true);
     state.NextYearButton = 0;
-    form.MMControl1.Device.SetDisplay(&form.PicMovie);
+    form.MMControl1.device.SetDisplay(&form.PicMovie);
 }
 
 /// The device goes with the form, not only when the last of its handlers is done.
 void frmMovie_Unload()
 {
-    frmMovie->MMControl1.Device.Command(u"close"_s);
+    frmMovie->MMControl1.device.Command(u"close"_s);
     Form1->SetEnabled(true);
 }
 
 void MMControl1_StopClick()
 {
-    MediaControl& device = frmMovie->MMControl1.Device;
+    MediaControl& device = frmMovie->MMControl1.device;
     device.Command(u"stop"_s);
     device.Command(u"prev"_s);
 }
@@ -129,7 +129,7 @@ void BindMoviePlayer()
         MMControl& player = form.MMControl1;
         const auto gives = [&player](const char* command) {
             const QString word = QString::fromLatin1(command);
-            return [&player, word] { player.Device.Command(word); };
+            return [&player, word] { player.device.Command(word); };
         };
         player.ButtonClick(MediaButton::Back) = gives("back");
         player.ButtonClick(MediaButton::Next) = gives("next");

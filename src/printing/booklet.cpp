@@ -53,12 +53,12 @@ int RangeNumber(const QString& year)
     return digits.isEmpty() ? 0 : static_cast<int>(ToNumber(digits));
 }
 
-/// The job stays open: the first document behind the cover continues it.
+/// The job stays open: the first document after the cover continues it.
 void PrintCover()
 {
     for (const CoverPicture& picture : CoverPictures()) {
-        Form1->Picture3.Load(state.DiscRoot + QString::fromLatin1(picture.File));
-        Printer.PaintPicture(Form1->Picture3.Picture(), picture.X, picture.Y);
+        Form1->Picture3.Load(state.DiscRoot + QString::fromLatin1(picture.file));
+        Printer.PaintPicture(Form1->Picture3.Picture(), picture.x, picture.y);
     }
     Printer.NewPage();
 }

@@ -11,7 +11,7 @@ class QTextDocument;
 
 namespace torvik {
 
-/// A rich text laid out for a paint device on pages of one size. A page ends behind a whole line, and
+/// A rich text laid out for a paint device on pages of one size. A page ends after a whole line, and
 /// not inside a paragraph that is to be kept together. A picture that fits a page stands on one page; a
 /// larger one is shrunk until it fits.
 class PagedText {

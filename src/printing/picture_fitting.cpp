@@ -19,11 +19,11 @@ namespace {
 
 /// A picture and the line that it stands on, in the pixels of the layout.
 struct PlacedPicture {
-    int Position = 0; ///< of its character in the document
-    QTextImageFormat Format;
-    QSizeF Size;
-    QRectF Line;
-    double Ascent = 0; ///< of the line
+    int position = 0; ///< of its character in the document
+    QTextImageFormat format;
+    QSizeF size;
+    QRectF line;
+    double ascent = 0; ///< of the line
 };
 
 QSizeF SizeOf(const QTextImageFormat& format, const QTextDocument& document)
@@ -68,34 +68,34 @@ std::vector<PlacedPicture> PicturesOf(const QTextDocument& document, double scal
 double ShrinkingOf(const PlacedPicture& picture, const QSizeF& page, double unit)
 {
     constexpr double oneStep = 0.97; // where only a new layout can tell whether it is enough
-    if (picture.Size.isEmpty())
+    if (picture.size.isEmpty())
         return 1;
 
     double factor = 1;
-    const double widthRoom = page.width() - picture.Line.left() - unit;
-    if (picture.Size.width() > widthRoom + unit && widthRoom > unit)
-        factor = widthRoom / picture.Size.width();
+    const double widthRoom = page.width() - picture.line.left() - unit;
+    if (picture.size.width() > widthRoom + unit && widthRoom > unit)
+        factor = widthRoom / picture.size.width();
 
     // Only the tallest of a line's pictures can make it too tall.
-    if (picture.Size.height() < picture.Ascent - unit)
+    if (picture.size.height() < picture.ascent - unit)
         return factor;
-    const double beside = std::max(0.0, picture.Line.height() - picture.Size.height());
+    const double beside = std::max(0.0, picture.line.height() - picture.size.height());
     const double heightRoom = page.height() - beside - unit;
-    if (picture.Line.height() > page.height() && heightRoom > unit)
-        return std::min(factor, heightRoom / picture.Size.height());
-    const bool cut = std::floor(picture.Line.top() / page.height()) !=
-                     std::floor((picture.Line.bottom() - 1) / page.height());
+    if (picture.line.height() > page.height() && heightRoom > unit)
+        return std::min(factor, heightRoom / picture.size.height());
+    const bool cut = std::floor(picture.line.top() / page.height()) !=
+                     std::floor((picture.line.bottom() - 1) / page.height());
     return cut ? std::min(factor, oneStep) : factor;
 }
 
 void Shrink(QTextDocument& document, const PlacedPicture& picture, double factor, double scale)
 {
-    QTextImageFormat format = picture.Format;
-    format.setWidth(picture.Size.width() * factor / scale);
-    format.setHeight(picture.Size.height() * factor / scale);
+    QTextImageFormat format = picture.format;
+    format.setWidth(picture.size.width() * factor / scale);
+    format.setHeight(picture.size.height() * factor / scale);
     QTextCursor cursor(&document);
-    cursor.setPosition(picture.Position);
-    cursor.setPosition(picture.Position + 1, QTextCursor::KeepAnchor);
+    cursor.setPosition(picture.position);
+    cursor.setPosition(picture.position + 1, QTextCursor::KeepAnchor);
     cursor.setCharFormat(format);
 }
 

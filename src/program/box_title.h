@@ -6,7 +6,7 @@ namespace torvik {
 
 using namespace Qt::StringLiterals;
 
-/// The title of the boxes that are not the program's own name in full.
+/// The short title, of boxes that report or ask; other boxes bear the program's full name.
 inline const QString boxTitle = u"The Torvik Vollandry"_s;
 
 } // namespace torvik

@@ -10,8 +10,8 @@ namespace torvik {
 namespace {
 
 struct CodeText {
-    const char* Code;
-    const char* Text;
+    const char* code;
+    const char* text;
 };
 
 constexpr const char* noDisc = " Unable to detect the Torvik Vollandry CDROM.";
@@ -82,8 +82,8 @@ QString TextOf(const QString& code)
     if (code == u"ER032"_s)
         return SoundFileText();
     for (const CodeText& entry : catalogue) {
-        if (code == QLatin1String(entry.Code))
-            return QString::fromLatin1(entry.Text);
+        if (code == QLatin1String(entry.code))
+            return QString::fromLatin1(entry.text);
     }
     return {};
 }
@@ -93,9 +93,9 @@ QString TextOf(const QString& code)
 CatalogueEntry CatalogueEntryOf(const QString& code)
 {
     CatalogueEntry entry;
-    entry.Text = TextOf(code);
-    entry.Retry = code == u"ER001"_s || code == u"ER037"_s || code == u"ER055"_s;
-    entry.DiscHint = code != u"ER034"_s && code != u"ER036"_s;
+    entry.text = TextOf(code);
+    entry.retry = code == u"ER001"_s || code == u"ER037"_s || code == u"ER055"_s;
+    entry.discHint = code != u"ER034"_s && code != u"ER036"_s;
     return entry;
 }
 

@@ -80,7 +80,7 @@ struct ProgramState {
     Integer MovieCount;
     Integer MovieListIndex;
 
-    // Local copies
+    // Copies on the hard drive
     bool CopyingPhotos = false;
     bool CopyDeclined = false;
     bool CopyForSaver = false;

@@ -19,8 +19,8 @@ const QString blankLine = u"\r\n\r\n"_s;
 
 QString MessageOf(const CatalogueEntry& entry)
 {
-    QString message = u"Error number: "_s + state.ErrorCode + blankLine + entry.Text;
-    if (entry.DiscHint)
+    QString message = u"Error number: "_s + state.ErrorCode + blankLine + entry.text;
+    if (entry.discHint)
         message += blankLine + u"Make sure that the Torvik Vollandry is in the CDROM drive."_s;
     return message;
 }
@@ -39,7 +39,7 @@ void ReportError()
 {
     const CatalogueEntry entry = CatalogueEntryOf(state.ErrorCode);
     state.MessageText = MessageOf(entry);
-    if (entry.Retry) {
+    if (entry.retry) {
         AskForRetry();
         return;
     }

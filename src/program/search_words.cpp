@@ -91,13 +91,13 @@ public:
     {
         SearchTerm term;
         if (text_[at_] == u'-') {
-            term.IsExcluded = true;
+            term.isExcluded = true;
             ++at_;
         }
         const QString piece = at_ < text_.size() && text_[at_] == u'"' ? TakeQuoted() : TakePlain();
-        term.Words = WordsOf(piece);
-        const bool endsOpen = at_ == text_.size() && !closed_ && !term.IsExcluded && EndsInWord(piece);
-        term.IsBeginning = TakeAsterisk() || piece.endsWith(u'*') || endsOpen;
+        term.words = WordsOf(piece);
+        const bool endsOpen = at_ == text_.size() && !closed_ && !term.isExcluded && EndsInWord(piece);
+        term.isBeginning = TakeAsterisk() || piece.endsWith(u'*') || endsOpen;
         return term;
     }
 
@@ -139,25 +139,25 @@ private:
 
 bool IsWord(const SearchTerm& term, qsizetype index, const QString& word)
 {
-    const bool isOpen = term.IsBeginning && index + 1 == term.Words.size();
-    return isOpen ? word.startsWith(term.Words[index]) : word == term.Words[index];
+    const bool isOpen = term.isBeginning && index + 1 == term.words.size();
+    return isOpen ? word.startsWith(term.words[index]) : word == term.words[index];
 }
 
 struct PlacedWord {
-    QString Word;
-    TextRange Range;
+    QString word;
+    TextRange range;
 };
 
 /// How many words from the first of `ahead` on the term takes; 0 when they are not the term's.
 qsizetype WordsTaken(const SearchTerm& term, const std::deque<PlacedWord>& ahead)
 {
-    if (term.IsExcluded || static_cast<qsizetype>(ahead.size()) < term.Words.size())
+    if (term.isExcluded || static_cast<qsizetype>(ahead.size()) < term.words.size())
         return 0;
-    for (qsizetype index = 0; index < term.Words.size(); ++index) {
-        if (!IsWord(term, index, ahead[static_cast<std::size_t>(index)].Word))
+    for (qsizetype index = 0; index < term.words.size(); ++index) {
+        if (!IsWord(term, index, ahead[static_cast<std::size_t>(index)].word))
             return 0;
     }
-    return term.Words.size();
+    return term.words.size();
 }
 
 } // namespace
@@ -168,9 +168,9 @@ QList<SearchTerm> SearchTermsOf(const QString& typed)
     Typed input(typed);
     for (qsizetype room = mostWords; room > 0 && input.SkipBlanks();) {
         SearchTerm term = input.NextTerm();
-        term.Words = term.Words.mid(0, room);
-        room -= term.Words.size();
-        if (!term.Words.isEmpty())
+        term.words = term.words.mid(0, room);
+        room -= term.words.size();
+        if (!term.words.isEmpty())
             terms.append(term);
     }
     return terms;
@@ -178,7 +178,7 @@ QList<SearchTerm> SearchTermsOf(const QString& typed)
 
 bool LookForSomething(const QList<SearchTerm>& terms)
 {
-    return std::any_of(terms.begin(), terms.end(), [](const SearchTerm& term) { return !term.IsExcluded; });
+    return std::any_of(terms.begin(), terms.end(), [](const SearchTerm& term) { return !term.isExcluded; });
 }
 
 void EachWord(const QString& text, const std::function<bool(const QString&, const TextRange&)>& visit)
@@ -194,12 +194,12 @@ void EachWord(const QString& text, const std::function<bool(const QString&, cons
         const Part part = PartOf(character);
         if (part == Part::Word) {
             if (word.isEmpty())
-                range.Begin = at;
+                range.begin = at;
             Append(word, Folded(character));
-            range.Length = next - range.Begin;
+            range.length = next - range.begin;
         } else if (!word.isEmpty()) {
             if (part == Part::Silent) {
-                range.Length = next - range.Begin;
+                range.length = next - range.begin;
             } else {
                 if (!visit(word, range))
                     return;
@@ -217,7 +217,7 @@ QList<TextRange> PlacesOf(const QList<SearchTerm>& terms, const QString& text, q
     QList<TextRange> places;
     qsizetype reach = 0;
     for (const SearchTerm& term : terms)
-        reach = std::max(reach, term.IsExcluded ? 0 : term.Words.size());
+        reach = std::max(reach, term.isExcluded ? 0 : term.words.size());
     if (reach == 0 || most <= 0)
         return places;
 
@@ -227,8 +227,8 @@ QList<TextRange> PlacesOf(const QList<SearchTerm>& terms, const QString& text, q
         for (const SearchTerm& term : terms)
             taken = std::max(taken, WordsTaken(term, ahead));
         if (taken > 0) {
-            const TextRange last = ahead[static_cast<std::size_t>(taken) - 1].Range;
-            const qsizetype begin = ahead.front().Range.Begin;
+            const TextRange last = ahead[static_cast<std::size_t>(taken) - 1].range;
+            const qsizetype begin = ahead.front().range.begin;
             places.append({begin, last.End() - begin});
         }
         const auto done = static_cast<std::ptrdiff_t>(std::max<qsizetype>(taken, 1));

@@ -12,15 +12,15 @@ namespace torvik {
 
 /// One thing that is looked for: a word, or several that stand in a row.
 struct SearchTerm {
-    QStringList Words;        ///< without letter case and accents; never empty
-    bool IsBeginning = false; ///< the last word may go on: "scoop" for "scoops"
-    bool IsExcluded = false;  ///< what holds it is not wanted
+    QStringList words;        ///< without letter case and accents; never empty
+    bool isBeginning = false; ///< the last word may go on: "scoop" for "scoops"
+    bool isExcluded = false;  ///< what holds it is not wanted
 };
 
-/// What a person typed, as terms. Blanks part the words; quotes hold several together, a closing one may be
-/// missing; a minus sign in front excludes; an asterisk behind, or the end of the typing right behind the
-/// word, leaves its end open. Anything else that is no letter and no digit only parts words, so no input is
-/// an error. Words beyond the 64th are left out.
+/// What a person typed, as terms. Blanks separate the words; quotes hold several together, a closing one may
+/// be missing; a minus sign in front excludes; an asterisk after a word, or typing that ends right after
+/// it, leaves its end open. Anything else that is no letter and no digit only separates words, so no input
+/// is an error. Words beyond the 64th are left out.
 QList<SearchTerm> SearchTermsOf(const QString& typed);
 
 /// Whether there is anything in it to look for: exclusions alone find nothing.

@@ -64,8 +64,8 @@ qsizetype LengthOfNumber(const QByteArray& text)
     return end;
 }
 
-/// Whether a number that is too large or too small for the machine is the former: whether it has more digits
-/// before its point than its exponent takes away.
+/// Whether a number outside the machine's range is too large rather than too small: whether it has more
+/// digits before its point than its exponent takes away.
 bool IsLarge(const QByteArray& text)
 {
     const qsizetype exponentSign = text.indexOf('e');

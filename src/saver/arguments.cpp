@@ -15,8 +15,8 @@ namespace {
 
 /// One argument taken apart: "/P:1234" is "p" with the value "1234".
 struct Argument {
-    QString Name; ///< lower case, without the signs in front
-    std::optional<QString> Value;
+    QString name; ///< lower case, without the signs in front
+    std::optional<QString> value;
 };
 
 std::optional<Argument> TakeApart(const QString& text)
@@ -27,7 +27,7 @@ std::optional<Argument> TakeApart(const QString& text)
         return std::nullopt;
     Argument argument{match.captured(1).toLower(), std::nullopt};
     if (match.capturedStart(2) >= 0)
-        argument.Value = match.captured(2);
+        argument.value = match.captured(2);
     return argument;
 }
 
@@ -44,7 +44,7 @@ public:
 
     SaverArguments Read()
     {
-        while (!rest_.isEmpty() && read_.Problem.isEmpty())
+        while (!rest_.isEmpty() && read_.problem.isEmpty())
             Take(rest_.takeFirst());
         return read_;
     }
@@ -55,7 +55,7 @@ private:
     void Take(const QString& text)
     {
         const auto argument = TakeApart(text);
-        const QString name = argument ? argument->Name : QString();
+        const QString name = argument ? argument->name : QString();
         if (name == u"s"_s)
             Choose(SaverTask::Show);
         else if (name == u"c"_s)
@@ -67,26 +67,26 @@ private:
         else if (name == u"drive"_s)
             TakeDrive(ValueOf(text, *argument));
         else if (name == u"program-folder"_s)
-            read_.ProgramFolder = ValueOf(text, *argument);
+            read_.programFolder = ValueOf(text, *argument);
         else if (name == u"scale"_s)
             TakeScale(ValueOf(text, *argument));
         else if (name == u"help"_s || name == u"h"_s || name == u"?"_s)
-            read_.Help = true;
+            read_.help = true;
         else if (name == u"version"_s || name == u"v"_s)
-            read_.Version = true;
+            read_.version = true;
         else
-            read_.Problem = u"There is no option %1."_s.arg(text);
+            read_.problem = u"There is no option %1."_s.arg(text);
     }
 
     /// A window that is named stays, whatever else is said.
     void Choose(SaverTask task)
     {
         hasTask_ = true;
-        if (read_.Task != SaverTask::Embed)
-            read_.Task = task;
+        if (read_.task != SaverTask::Embed)
+            read_.task = task;
     }
 
-    /// A window may be named behind it, for a box in front of that window; the box stands for itself here.
+    /// A window may be named after it, for a box in front of that window; the box stands for itself here.
     void TakeInform()
     {
         Choose(SaverTask::Inform);
@@ -96,39 +96,39 @@ private:
 
     void TakeWindow(const QString& option, const QString& number)
     {
-        if (!read_.Problem.isEmpty())
+        if (!read_.problem.isEmpty())
             return;
-        read_.Window = WindowNumber(number);
-        if (read_.Window == 0)
-            read_.Problem = u"%1 takes the number of a window; not \"%2\"."_s.arg(option, number);
+        read_.window = WindowNumber(number);
+        if (read_.window == 0)
+            read_.problem = u"%1 takes the number of a window; not \"%2\"."_s.arg(option, number);
         hasTask_ = true;
-        read_.Task = SaverTask::Embed;
+        read_.task = SaverTask::Embed;
     }
 
     void TakeDrive(const QString& value)
     {
-        if (!read_.Problem.isEmpty())
+        if (!read_.problem.isEmpty())
             return;
         if (const auto drive = ReadDriveOption(value))
-            read_.Drives.append(*drive);
+            read_.drives.append(*drive);
         else
-            read_.Problem = DriveOptionProblem(value);
+            read_.problem = DriveOptionProblem(value);
     }
 
     void TakeScale(const QString& value)
     {
-        read_.Scale = value;
-        if (read_.Problem.isEmpty() && !IsScale(value))
-            read_.Problem = ScaleProblem(value);
+        read_.scale = value;
+        if (read_.problem.isEmpty() && !IsScale(value))
+            read_.problem = ScaleProblem(value);
     }
 
     QString ValueOf(const QString& option, const Argument& argument)
     {
-        if (argument.Value)
-            return *argument.Value;
+        if (argument.value)
+            return *argument.value;
         if (!rest_.isEmpty())
             return rest_.takeFirst();
-        read_.Problem = u"%1 needs a value."_s.arg(option);
+        read_.problem = u"%1 needs a value."_s.arg(option);
         return {};
     }
 
@@ -144,9 +144,9 @@ SaverArguments ReadSaverArguments(const QStringList& arguments, const QString& s
     Reader reader(arguments);
     SaverArguments read = reader.Read();
     const quint64 given = WindowNumber(screenSaverWindow);
-    if (given != 0 && (!reader.HasTask() || read.Task == SaverTask::Desktop)) {
-        read.Task = SaverTask::Embed;
-        read.Window = given;
+    if (given != 0 && (!reader.HasTask() || read.task == SaverTask::Desktop)) {
+        read.task = SaverTask::Embed;
+        read.window = given;
     }
     return read;
 }

@@ -18,17 +18,17 @@ enum class SaverTask {
 
 /// What the saver's command line asks for.
 struct SaverArguments {
-    SaverTask Task = SaverTask::Inform;
-    quint64 Window = 0;        ///< number of the window to draw into
-    QList<DriveOption> Drives; ///< --drive LETTER=FOLDER
-    QString ProgramFolder;     ///< --program-folder FOLDER; empty when it was not given
-    QString Scale;             ///< --scale FACTOR, fit or auto; empty when it was not given
-    bool Help = false;
-    bool Version = false;
-    QString Problem; ///< what is wrong with it, in words for the user; empty when nothing is
+    SaverTask task = SaverTask::Inform;
+    quint64 window = 0;        ///< number of the window to draw into
+    QList<DriveOption> drives; ///< --drive LETTER=FOLDER
+    QString programFolder;     ///< --program-folder FOLDER; empty when it was not given
+    QString scale;             ///< --scale FACTOR, fit or auto; empty when it was not given
+    bool help = false;
+    bool version = false;
+    QString problem; ///< what is wrong with it, in words for the user; empty when nothing is
 };
 
-/// Reads the arguments behind the program's name, in the manner of Windows (/s) and of X (-root); letter case
+/// Reads the arguments after the program's name, in the manner of Windows (/s) and of X (-root); letter case
 /// and the signs in front do not matter. `screenSaverWindow` is the window that the environment names, or
 /// empty; it is drawn into unless the arguments ask for another window, the show on all screens, or
 /// information.

@@ -55,7 +55,7 @@ HostWindow::HostWindow(quint64 number) : number_(number), window_(QWindow::fromW
 
 HostWindow::~HostWindow() = default;
 
-/// The toolkit does not tell the size of a foreign window, but a picture of it has that size: one row gives
+/// Qt does not tell the size of a foreign window, but a picture of it has that size: one row gives
 /// the width, one column the height.
 std::optional<QSize> HostWindow::Size() const
 {
@@ -69,7 +69,7 @@ std::optional<QSize> HostWindow::Size() const
     return QSize(qCeil(row.deviceIndependentSize().width()), qCeil(column.deviceIndependentSize().height()));
 }
 
-/// The toolkit puts no window on the screen whose parent, in its eyes, is not there. So it first shows one
+/// Qt puts no window on the screen whose parent, in its eyes, is not there. So it first shows one
 /// out of sight, of which the desktop is not told, and then moves it into the host.
 SaverWindows HostWindow::Open()
 {

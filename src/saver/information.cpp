@@ -8,8 +8,8 @@ namespace torvik {
 
 QString InformationText(const SaverSettings& settings)
 {
-    const QString folder = settings.Folder.isEmpty() ? u"none chosen yet"_s : settings.Folder;
-    const double seconds = settings.Interval / 1000.0;
+    const QString folder = settings.folder.isEmpty() ? u"none chosen yet"_s : settings.folder;
+    const double seconds = settings.interval / 1000.0;
     const QString unit = seconds == 1 ? u" second"_s : u" seconds"_s;
     return u"The Torvik Vollandry Screen Saver\r\n\r\nPhotos:  "_s + folder + u"\r\nDelay:  "_s +
            NumberText(seconds) + unit +

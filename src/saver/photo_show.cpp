@@ -22,7 +22,7 @@ constexpr int mostTries = 16;
 } // namespace
 
 Show::Show(const SaverSettings& settings, double start)
-    : round_(settings.Folder, start), interval_(settings.Interval)
+    : round_(settings.folder, start), interval_(settings.interval)
 {}
 
 void Show::SetStages(std::vector<Stage*> stages)

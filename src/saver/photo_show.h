@@ -23,8 +23,8 @@ public:
     virtual void Refresh() = 0;
 };
 
-/// The show: photo after photo, or the title card where there is none. All stages show the same. Time is told
-/// to it, in milliseconds that never go back.
+/// The show: photo after photo, or the title card where there is none. All stages show the same. Time is
+/// given to it, in milliseconds that never go back.
 class Show {
 public:
     /// `start` as in PhotoRound.
@@ -37,9 +37,6 @@ public:
     int Advance(qint64 now);
     /// A stage has changed its size.
     void StageResized(Stage& stage);
-
-    /// The file name of the photo that is on; empty while the title card is.
-    const QString& PhotoName() const { return photo_.FileName(); }
 
 private:
     void TakeNext();

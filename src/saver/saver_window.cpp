@@ -11,8 +11,8 @@ QSize SaverWindow::Pixels() const
 
 bool SaverWindow::event(QEvent* event)
 {
-    if (Noticed)
-        Noticed(*event);
+    if (noticed)
+        noticed(*event);
     return QRasterWindow::event(event);
 }
 
@@ -25,8 +25,8 @@ void SaverWindow::paintEvent(QPaintEvent* /*event*/)
 void SaverWindow::resizeEvent(QResizeEvent* event)
 {
     QRasterWindow::resizeEvent(event);
-    if (SizeChanged)
-        SizeChanged(*this);
+    if (sizeChanged)
+        sizeChanged(*this);
 }
 
 } // namespace torvik

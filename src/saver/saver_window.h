@@ -18,8 +18,8 @@ public:
     Fade& Shown() override { return fade_; }
     void Refresh() override { update(); }
 
-    std::function<void(const QEvent&)> Noticed;    ///< each event of the window, before it is worked on
-    std::function<void(SaverWindow&)> SizeChanged; ///< the window or the scale of its screen changed
+    std::function<void(const QEvent&)> noticed;    ///< each event of the window, before it is worked on
+    std::function<void(SaverWindow&)> sizeChanged; ///< the window or the scale of its screen changed
 
 protected:
     bool event(QEvent* event) override;

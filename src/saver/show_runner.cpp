@@ -27,8 +27,8 @@ void ShowRunner::Open()
     windows_ = open_();
     std::vector<Stage*> stages;
     for (const auto& window : windows_) {
-        window->Noticed = [this](const QEvent& event) { Notice(event); };
-        window->SizeChanged = [this](SaverWindow& changed) { show_.StageResized(changed); };
+        window->noticed = [this](const QEvent& event) { Notice(event); };
+        window->sizeChanged = [this](SaverWindow& changed) { show_.StageResized(changed); };
         stages.push_back(window.get());
     }
     show_.SetStages(std::move(stages));

@@ -9,8 +9,10 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <deque>
 #include <mutex>
 #include <new>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -24,9 +26,9 @@ constexpr qsizetype mostHits = 100;                ///< that are given with thei
 constexpr qsizetype lineLength = 110;              ///< as much as the form has room for
 constexpr std::chrono::milliseconds freshFor{120}; ///< an answer, while more is read
 
-/// Threads of an index that is gone may still wait for a disc. The program's end waits for them while there
-/// is still an application: later the toolkit's list of databases, which they leave, is gone as well.
-QThreadPool& Threads()
+/// The threads that use a database. None of them ever waits for a disc, so the program's end can wait for
+/// them while there is still an application: later Qt's list of databases, which they leave, is gone as well.
+QThreadPool& IndexThreads()
 {
     static QThreadPool pool;
     static const bool isAwaited = [] {
@@ -43,7 +45,7 @@ QThreadPool& Threads()
 QString TextOf(const IndexedText& entry)
 {
     try {
-        return rtf::PlainText(entry.Read());
+        return rtf::PlainText(entry.read());
     } catch (const RunTimeError&) {
         return {};
     } catch (const std::bad_alloc&) {
@@ -60,158 +62,185 @@ bool IsEmpty(const QString& text)
 
 } // namespace
 
-/// What the index and its thread share; each keeps it alive.
+/// What the index and its two threads share; each keeps it alive. One reads, and may wait for a disc as long
+/// as that takes. The other one has the table of words; it takes what was read, and answers.
 struct DiscIndex::Shared {
-    QList<IndexedText> Entries;
-    std::function<void()> News;
+    QList<IndexedText> entries;
+    std::function<void()> news;
 
-    mutable std::mutex Mutex;
-    std::condition_variable Changed;
-    bool Over = false; ///< the index is gone
-    std::optional<QString> Question;
-    std::optional<IndexAnswer> Answer;
-    IndexProgress Progress;
+    mutable std::mutex mutex;
+    std::condition_variable changed;
+    bool over = false;            ///< the index is gone
+    std::deque<QString> wereRead; ///< and are not in the table yet
+    std::optional<QString> question;
+    std::optional<IndexAnswer> answer;
+    IndexProgress progress;
 
-    void Work();
+    /// The lives of the two threads.
+    void ReadEntries();
+    void FillAndAnswer();
 
 private:
-    bool ReadAll(TextIndex& index);
-    void AnswerQuestions(TextIndex& index);
-    std::optional<QString> NextQuestion(bool readMore);
-    IndexAnswer AnswerTo(const QString& question, TextIndex& index) const;
-    void Give(IndexAnswer answer);
-    /// Calls `change` with the lock held, then tells of it; false once the index is gone.
-    template <typename Change>
-    bool Tell(Change&& change);
+    enum class Task { End, Answer, Fill };
 
-    std::vector<QString> texts_; ///< of the entries that are read; on the thread alone
+    Task WaitForTask();
+    void Fill(TextIndex& index);
+    void AddNext(const QString& text, TextIndex& index);
+    void AnswerTo(const QString& words, TextIndex& index);
+    /// Calls `change` with the lock held, then tells of it.
+    template <typename Change>
+    void Tell(Change&& change);
+
+    // On the second thread alone.
+    std::vector<QString> texts_; ///< of the entries that are in the table
     QString asked_;
     Time::time_point answeredAt_;
 };
 
 template <typename Change>
-bool DiscIndex::Shared::Tell(Change&& change)
+void DiscIndex::Shared::Tell(Change&& change)
 {
-    const std::lock_guard lock(Mutex);
-    if (Over)
-        return false;
+    const std::lock_guard lock(mutex);
+    if (over)
+        return;
     change();
-    News();
-    return true;
+    news();
 }
 
-/// The thread's whole life.
-void DiscIndex::Shared::Work()
+void DiscIndex::Shared::ReadEntries()
+{
+    for (const IndexedText& entry : std::as_const(entries)) {
+        QString text = entry.read ? TextOf(entry) : QString();
+        const std::lock_guard lock(mutex);
+        if (over)
+            return;
+        wereRead.push_back(std::move(text));
+        changed.notify_all();
+    }
+}
+
+void DiscIndex::Shared::FillAndAnswer()
 {
     TextIndex index;
     if (!index.IsUsable()) {
         Tell([this] {
-            Progress.IsUsable = false;
-            Progress.IsDone = true;
+            progress.isUsable = false;
+            progress.isDone = true;
         });
         return;
     }
-    if (ReadAll(index))
-        AnswerQuestions(index);
-}
-
-bool DiscIndex::Shared::ReadAll(TextIndex& index)
-{
-    for (const IndexedText& entry : std::as_const(Entries)) {
-        const QString text = entry.Read ? TextOf(entry) : QString();
-        const bool isLeftOut = entry.Read && IsEmpty(text);
-        texts_.push_back(text);
-        if (!isLeftOut)
-            index.Add(static_cast<int>(texts_.size()), entry.Title, text);
-        if (!Tell([&] {
-                ++Progress.Read;
-                Progress.LeftOut += isLeftOut ? 1 : 0;
-            }))
-            return false;
-        if (const auto question = NextQuestion(true))
-            Give(AnswerTo(*question, index));
+    if (entries.isEmpty())
+        Tell([this] { progress.isDone = true; });
+    for (;;) {
+        switch (WaitForTask()) {
+        case Task::Answer:
+            AnswerTo(asked_, index);
+            break;
+        case Task::Fill:
+            Fill(index);
+            break;
+        case Task::End:
+            return;
+        }
     }
-    index.Commit();
-    if (!asked_.isEmpty())
-        Give(AnswerTo(asked_, index));
-    return Tell([this] { Progress.IsDone = true; });
 }
 
-void DiscIndex::Shared::AnswerQuestions(TextIndex& index)
+/// A question comes before what was read, so that nobody waits for an answer.
+DiscIndex::Shared::Task DiscIndex::Shared::WaitForTask()
 {
-    while (const auto question = NextQuestion(false))
-        Give(AnswerTo(*question, index));
+    std::unique_lock lock(mutex);
+    changed.wait(lock, [this] { return over || question || !wereRead.empty(); });
+    if (over)
+        return Task::End;
+    if (!question)
+        return Task::Fill;
+    asked_ = *std::exchange(question, std::nullopt);
+    return Task::Answer;
 }
 
-/// While more is read: a new question, or the last one once its answer has grown old; nothing when there is
-/// neither. Afterwards waits for a new one; nothing when the index is gone.
-std::optional<QString> DiscIndex::Shared::NextQuestion(bool readMore)
+/// Takes one text; when it was the last, or the last answer has grown old, that question is answered again.
+void DiscIndex::Shared::Fill(TextIndex& index)
 {
-    std::unique_lock lock(Mutex);
-    if (!readMore)
-        Changed.wait(lock, [this] { return Over || Question; });
-    if (Over)
-        return std::nullopt;
-    if (Question)
-        return asked_ = *std::exchange(Question, std::nullopt);
-    const bool isOld = !asked_.isEmpty() && Time::now() - answeredAt_ >= freshFor;
-    return isOld ? std::optional(asked_) : std::nullopt;
+    QString text;
+    {
+        const std::lock_guard lock(mutex);
+        text = std::move(wereRead.front());
+        wereRead.pop_front();
+    }
+    AddNext(text, index);
+    const bool isLast = static_cast<qsizetype>(texts_.size()) == entries.size();
+    if (isLast)
+        index.Commit();
+    if (!asked_.isEmpty() && (isLast || Time::now() - answeredAt_ >= freshFor))
+        AnswerTo(asked_, index);
+    if (isLast)
+        Tell([this] { progress.isDone = true; });
 }
 
-IndexAnswer DiscIndex::Shared::AnswerTo(const QString& question, TextIndex& index) const
+void DiscIndex::Shared::AddNext(const QString& text, TextIndex& index)
 {
-    const QList<SearchTerm> terms = SearchTermsOf(question);
+    const IndexedText& entry = entries[static_cast<qsizetype>(texts_.size())];
+    const bool isLeftOut = entry.read && IsEmpty(text);
+    texts_.push_back(text);
+    if (!isLeftOut)
+        index.Add(static_cast<int>(texts_.size()), entry.title, text);
+    Tell([&] {
+        ++progress.read;
+        progress.leftOut += isLeftOut ? 1 : 0;
+    });
+}
+
+void DiscIndex::Shared::AnswerTo(const QString& words, TextIndex& index)
+{
+    const QList<SearchTerm> terms = SearchTermsOf(words);
     const QList<int> numbers = index.Find(terms);
-    IndexAnswer answer;
-    answer.Question = question;
-    answer.Count = numbers.size();
+    IndexAnswer found;
+    found.question = words;
+    found.count = numbers.size();
     for (const int number : numbers.mid(0, mostHits)) {
         const auto entry = static_cast<std::size_t>(number) - 1;
-        answer.Best.append(
+        found.best.append(
             {static_cast<qsizetype>(entry), LineAroundFirstHit(texts_[entry], terms, lineLength)});
     }
-    return answer;
-}
-
-void DiscIndex::Shared::Give(IndexAnswer answer)
-{
     answeredAt_ = Time::now();
-    Tell([&] { Answer = std::move(answer); });
+    Tell([&] { answer = std::move(found); });
 }
 
 DiscIndex::DiscIndex(QList<IndexedText> texts, std::function<void()> news)
     : shared_(std::make_shared<Shared>())
 {
-    shared_->Entries = std::move(texts);
-    shared_->News = std::move(news);
-    shared_->Progress.Total = shared_->Entries.size();
-    Threads().start([shared = shared_] { shared->Work(); });
+    shared_->entries = std::move(texts);
+    shared_->news = std::move(news);
+    shared_->progress.total = shared_->entries.size();
+    // Apart from all pools, since a pool's end waits for its threads.
+    std::thread([shared = shared_] { shared->ReadEntries(); }).detach();
+    IndexThreads().start([shared = shared_] { shared->FillAndAnswer(); });
 }
 
 DiscIndex::~DiscIndex()
 {
-    const std::lock_guard lock(shared_->Mutex);
-    shared_->Over = true;
-    shared_->Changed.notify_all();
+    const std::lock_guard lock(shared_->mutex);
+    shared_->over = true;
+    shared_->changed.notify_all();
 }
 
 void DiscIndex::Ask(const QString& question)
 {
-    const std::lock_guard lock(shared_->Mutex);
-    shared_->Question = question;
-    shared_->Changed.notify_all();
+    const std::lock_guard lock(shared_->mutex);
+    shared_->question = question;
+    shared_->changed.notify_all();
 }
 
 std::optional<IndexAnswer> DiscIndex::TakeAnswer()
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return std::exchange(shared_->Answer, std::nullopt);
+    const std::lock_guard lock(shared_->mutex);
+    return std::exchange(shared_->answer, std::nullopt);
 }
 
 IndexProgress DiscIndex::Progress() const
 {
-    const std::lock_guard lock(shared_->Mutex);
-    return shared_->Progress;
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->progress;
 }
 
 } // namespace torvik

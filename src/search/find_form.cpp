@@ -24,10 +24,10 @@ QPointer<Finder> finder;
 
 /// What the list shows.
 struct FoundList {
-    QString Question;
-    qsizetype Count = 0;
-    QList<Findable> Hits;
-    bool OpensFirst = false; ///< Return was pressed before the answer came
+    QString question;
+    qsizetype count = 0;
+    QList<Findable> hits;
+    bool opensFirst = false; ///< Return was pressed before the answer came
 };
 FoundList found;
 
@@ -38,24 +38,24 @@ bool LooksForSomething(const QString& words)
 
 QString TextOfProgress(const IndexProgress& progress)
 {
-    if (progress.IsDone && finder->IsDiscGone())
-        return u"The disc is gone: %1 of %2 were not read"_s.arg(progress.LeftOut).arg(progress.Total);
-    if (!progress.IsDone)
-        return u"Reading %1 of %2"_s.arg(progress.Read).arg(progress.Total);
-    const qsizetype lacking = progress.LeftOut + finder->Missing();
+    if (progress.isDone && finder->IsDiscGone())
+        return u"The disc is gone: %1 of %2 were not read"_s.arg(progress.leftOut).arg(progress.total);
+    if (!progress.isDone)
+        return u"Reading %1 of %2"_s.arg(progress.read).arg(progress.total);
+    const qsizetype lacking = progress.leftOut + finder->Missing();
     return lacking > 0 ? u"%1 are missing or cannot be read"_s.arg(lacking) : QString();
 }
 
 /// The last count stands until the next answer comes, as the list does.
 QString TextOfCount()
 {
-    if (!LooksForSomething(found.Question) || !LooksForSomething(frmFind->txtFind.Text()))
+    if (!LooksForSomething(found.question) || !LooksForSomething(frmFind->txtFind.Text()))
         return {};
-    if (found.Count == 0)
+    if (found.count == 0)
         return u"Nothing found"_s;
-    QString text = u"%1 found"_s.arg(found.Count);
-    if (found.Count > found.Hits.size())
-        text += u", the best %1 are shown"_s.arg(found.Hits.size());
+    QString text = u"%1 found"_s.arg(found.count);
+    if (found.count > found.hits.size())
+        text += u", the best %1 are shown"_s.arg(found.hits.size());
     return text;
 }
 
@@ -63,7 +63,7 @@ void ShowState()
 {
     frmFindControls& form = *frmFind;
     const IndexProgress progress = finder->Progress();
-    if (!progress.IsUsable) {
+    if (!progress.isUsable) {
         form.lblFound.SetCaption(u"Finding needs SQLite, which is not installed"_s);
         form.ProgressGuage.Hide();
         return;
@@ -71,16 +71,16 @@ void ShowState()
     QStringList lines{TextOfCount(), TextOfProgress(progress)};
     lines.removeAll(QString());
     form.lblFound.SetCaption(lines.join(u'\n'));
-    form.ProgressGuage.SetVisible(!progress.IsDone);
-    if (progress.Total > 0)
-        form.ProgressGuage.SetFloodPercent(100.0 * static_cast<double>(progress.Read) /
-                                           static_cast<double>(progress.Total));
-    form.cmdOpen.SetEnabled(!found.Hits.isEmpty());
+    form.ProgressGuage.SetVisible(!progress.isDone);
+    if (progress.total > 0)
+        form.ProgressGuage.SetFloodPercent(100.0 * static_cast<double>(progress.read) /
+                                           static_cast<double>(progress.total));
+    form.cmdOpen.SetEnabled(!found.hits.isEmpty());
 }
 
 bool IsSame(const Findable& one, const Findable& other)
 {
-    return one.Title == other.Title && one.Place == other.Place && one.File == other.File;
+    return one.title == other.title && one.place == other.place && one.file == other.file;
 }
 
 /// The row that is to be chosen among other hits: while more is read the same hit as before, else the best.
@@ -89,7 +89,7 @@ int RowToChoose(const QList<Findable>& hits, bool isSameQuestion)
     const int chosen = frmFind->lstFound.ListIndex();
     if (chosen < 0 || !isSameQuestion)
         return 0;
-    const Findable before = found.Hits[chosen];
+    const Findable before = found.hits[chosen];
     const auto stays =
         std::find_if(hits.begin(), hits.end(), [&](const Findable& hit) { return IsSame(hit, before); });
     return stays != hits.end() ? static_cast<int>(stays - hits.begin()) : 0;
@@ -100,14 +100,14 @@ void ShowAnswer(const IndexAnswer& answer)
     RichListBox& list = frmFind->lstFound;
     QList<RichListRow> rows;
     QList<Findable> hits;
-    for (const IndexHit& hit : answer.Best) {
-        hits.append(finder->Entry(hit.Entry));
-        rows.append({hits.last().Title, hits.last().Place, hit.Line.Text, hit.Line.Found});
+    for (const IndexHit& hit : answer.best) {
+        hits.append(finder->Entry(hit.entry));
+        rows.append({hits.last().title, hits.last().place, hit.line.text, hit.line.found});
     }
-    const int choice = RowToChoose(hits, answer.Question == found.Question);
-    found.Question = answer.Question;
-    found.Count = answer.Count;
-    found.Hits = std::move(hits);
+    const int choice = RowToChoose(hits, answer.question == found.question);
+    found.question = answer.question;
+    found.count = answer.count;
+    found.hits = std::move(hits);
     list.SetRows(rows);
     if (!rows.isEmpty() && list.ListIndex() != choice)
         list.SetListIndex(choice);
@@ -120,11 +120,11 @@ void TakeNews()
     if (!frmFind.IsLoaded())
         return;
     const std::optional<IndexAnswer> answer = finder->TakeAnswer();
-    const bool isAnswered = answer && answer->Question == frmFind->txtFind.Text();
+    const bool isAnswered = answer && answer->question == frmFind->txtFind.Text();
     if (isAnswered)
         ShowAnswer(*answer);
     ShowState();
-    if (isAnswered && std::exchange(found.OpensFirst, false))
+    if (isAnswered && std::exchange(found.opensFirst, false))
         OpenChosen();
 }
 
@@ -148,7 +148,7 @@ void AskNow()
 
 void txtFind_Change()
 {
-    found.OpensFirst = false;
+    found.opensFirst = false;
     frmFind->TypingRest.SetInterval(typingRest);
 }
 
@@ -163,19 +163,19 @@ void OpenChosen()
         form.lblFound.SetCaption(u"The main window is busy"_s);
         return;
     }
-    const Findable hit = found.Hits[chosen]; // the list may change while it is open
-    hit.Open(found.Question);
+    const Findable hit = found.hits[chosen]; // the list may change while it is open
+    hit.open(found.question);
 }
 
 /// Letters that were not asked for yet are asked for now, and what is found first is opened.
 void OpenWhatIsTyped()
 {
-    if (found.Question == frmFind->txtFind.Text()) {
+    if (found.question == frmFind->txtFind.Text()) {
         OpenChosen();
         return;
     }
     AskNow();
-    found.OpensFirst = true;
+    found.opensFirst = true;
 }
 
 void Walk(int rows)

@@ -22,21 +22,21 @@ QString MarkOfDisc()
 /// What is searched of a title: not the product's name, which stands in front of them all.
 QString SearchedTitle(const Findable& findable)
 {
-    QString title = findable.Title;
+    QString title = findable.title;
     if (title.startsWith(boxTitle))
         title.remove(0, boxTitle.size());
-    return title + u' ' + findable.Place;
+    return title + u' ' + findable.place;
 }
 
 IndexedText TextOf(const Findable& findable)
 {
     IndexedText text;
-    text.Title = SearchedTitle(findable);
-    if (findable.File.isEmpty())
+    text.title = SearchedTitle(findable);
+    if (findable.file.isEmpty())
         return text;
     // A file that cannot be looked up any more is one that cannot be read.
-    if (const int error = ResumeNext([&] { text.Read = FileToRead(findable.File); }); error != 0)
-        text.Read = [error]() -> QByteArray { Fail(error); };
+    if (const int error = ResumeNext([&] { text.read = FileToRead(findable.file); }); error != 0)
+        text.read = [error]() -> QByteArray { Fail(error); };
     return text;
 }
 
@@ -60,13 +60,13 @@ void Finder::Read()
     disc_ = MarkOfDisc();
     isDiscGone_ = false;
     FoundCatalogue catalogue = WhatCanBeFound();
-    findables_ = std::move(catalogue.Findables);
-    missing_ = catalogue.Missing;
+    findables_ = std::move(catalogue.findables);
+    missing_ = catalogue.missing;
     QList<IndexedText> texts;
     texts.reserve(findables_.size());
     for (const Findable& findable : std::as_const(findables_))
         texts.append(TextOf(findable));
-    // Of many news at a time one is told.
+    // Many pieces of news at once are told as one.
     index_ = std::make_unique<DiscIndex>(std::move(texts), [this] {
         if (!newsOnTheWay_.exchange(true))
             QMetaObject::invokeMethod(
@@ -78,7 +78,7 @@ void Finder::News()
 {
     newsOnTheWay_ = false;
     const IndexProgress progress = index_->Progress();
-    if (progress.IsDone && progress.LeftOut > 0 && !isDiscGone_)
+    if (progress.isDone && progress.leftOut > 0 && !isDiscGone_)
         isDiscGone_ = MarkOfDisc() != disc_;
     const auto news = news_; // what it opens may be the end of this object
     news();

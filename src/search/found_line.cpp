@@ -51,16 +51,16 @@ QString OneLine(const QString& text, qsizetype begin, qsizetype length)
 FoundLine LineAroundFirstHit(const QString& text, const QList<SearchTerm>& terms, qsizetype length)
 {
     const QList<TextRange> first = PlacesOf(terms, text, 1);
-    const qsizetype hit = first.isEmpty() ? 0 : first.first().Begin;
+    const qsizetype hit = first.isEmpty() ? 0 : first.first().begin;
     const qsizetype before = length / 4; // the words in front of it tell less than those behind it
     const qsizetype begin = hit <= before ? 0 : BeginOfWord(text, hit - before);
 
     FoundLine line;
-    line.Text = OneLine(text, begin, length);
+    line.text = OneLine(text, begin, length);
     if (begin > 0)
-        line.Text.prepend(ellipsis);
+        line.text.prepend(ellipsis);
     if (!first.isEmpty())
-        line.Found = PlacesOf(terms, line.Text, length);
+        line.found = PlacesOf(terms, line.text, length);
     return line;
 }
 

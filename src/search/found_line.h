@@ -9,8 +9,8 @@ namespace torvik {
 
 /// A line of a text with the words in it that were looked for.
 struct FoundLine {
-    QString Text;
-    QList<TextRange> Found; ///< in Text
+    QString text;
+    QList<TextRange> found; ///< in Text
 };
 
 /// The surroundings of the first place where a text holds what is looked for, on one line of about `length`

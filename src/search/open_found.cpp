@@ -51,8 +51,8 @@ Choosing ChooseYear(int button)
 
 Choosing ChooseTopic(const Topic& topic)
 {
-    const int index = topic.Entry.Index;
-    switch (topic.Entry.Menu) {
+    const int index = topic.entry.index;
+    switch (topic.entry.menu) {
     case TopicMenu::Artwork:
         return [index] { ShowArtTopic(index); };
     case TopicMenu::Stuff:
@@ -62,7 +62,7 @@ Choosing ChooseTopic(const Topic& topic)
     case TopicMenu::None:
         break;
     }
-    return [title = QString::fromLatin1(topic.Title)] { ChooseTopicByItsCode(title); };
+    return [title = QString::fromLatin1(topic.title)] { ChooseTopicByItsCode(title); };
 }
 
 void OpenArticleOf(const Choosing& choose, Button Form1Controls::*button, const QString& words)

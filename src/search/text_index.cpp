@@ -39,8 +39,8 @@ QString FoldedText(const QString& text)
 
 QString Phrase(const SearchTerm& term)
 {
-    const QString words = u'"' + term.Words.join(u' ') + u'"';
-    return term.IsBeginning ? words + u'*' : words;
+    const QString words = u'"' + term.words.join(u' ') + u'"';
+    return term.isBeginning ? words + u'*' : words;
 }
 
 } // namespace
@@ -52,7 +52,7 @@ QString MatchExpressionOf(const QList<SearchTerm>& terms)
     QStringList wanted;
     QStringList excluded;
     for (const SearchTerm& term : terms)
-        (term.IsExcluded ? excluded : wanted).append(Phrase(term));
+        (term.isExcluded ? excluded : wanted).append(Phrase(term));
     const QString all = wanted.join(u" AND ");
     return excluded.isEmpty() ? all : u"(%1) NOT (%2)"_s.arg(all, excluded.join(u" OR "));
 }

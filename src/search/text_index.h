@@ -22,7 +22,7 @@ public:
     TextIndex(const TextIndex&) = delete;
     TextIndex& operator=(const TextIndex&) = delete;
 
-    /// False where the toolkit's SQLite driver is missing, or knows no full text; then nothing is found.
+    /// False where Qt's SQLite driver is missing, or knows no full text; then nothing is found.
     bool IsUsable() const { return isUsable_; }
 
     /// Adds a text under a number of the caller's, 1 or more. What was added can be found at once.

@@ -23,17 +23,18 @@ namespace torvik {
 namespace {
 
 struct DocumentButton {
-    ArticleButton Button;
-    torvik::Button Form1Controls::*Control;
-    const char* Name;
-    const char* Topic::*OwnArticle;
+    ArticleButton button;
+    torvik::Button Form1Controls::*control;
+    const char* name;
+    const char* nameOfTopics; ///< on the button while a topic is the chosen one
+    const char* Topic::*ownArticle;
 };
 
 const DocumentButton documentButtons[] = {
-    {ArticleButton::Description, &Form1Controls::cmdDesc, "Description", &Topic::Description},
-    {ArticleButton::Options, &Form1Controls::cmdOptions, "Options", &Topic::Options},
-    {ArticleButton::Statistics, &Form1Controls::cmdStats, "Statistics", &Topic::Statistics},
-    {ArticleButton::Colors, &Form1Controls::cmdColors, "Colors", &Topic::Colors},
+    {ArticleButton::Description, &Form1Controls::cmdDesc, "Description", "Description", &Topic::description},
+    {ArticleButton::Options, &Form1Controls::cmdOptions, "Options", "Options", &Topic::options},
+    {ArticleButton::Statistics, &Form1Controls::cmdStats, "Statistics", "Details", &Topic::statistics},
+    {ArticleButton::Colors, &Form1Controls::cmdColors, "Colors", "Colors", &Topic::colors},
 };
 
 /// The photos of one year or topic: their places in the list.
@@ -57,7 +58,7 @@ public:
             AddArticlesOfYear(button);
         // A topic without a photo can only be chosen with an error.
         for (const Topic& topic : Topics()) {
-            if (topic.IsBrowsed && groups.contains(QString::fromLatin1(topic.Code)))
+            if (topic.isBrowsed && groups.contains(QString::fromLatin1(topic.code)))
                 AddArticlesOfTopic(topic);
         }
         for (const LibraryDocument& document : LibraryDocuments())
@@ -72,18 +73,19 @@ private:
     void Add(const QString& title, const QString& place, const QString& file,
              std::function<void(const QString&)> open)
     {
-        catalogue_.Findables.append({title.simplified(), place, file, std::move(open)});
+        catalogue_.findables.append({title.simplified(), place, file, std::move(open)});
     }
 
+    /// `isAskedFor`: by a button that works; what else lies on the disc is found too.
     void AddArticle(const Article& article, const QString& place, const Choosing& choose,
-                    torvik::Button Form1Controls::*button)
+                    torvik::Button Form1Controls::*button, bool isAskedFor = true)
     {
-        const QString file = state.DiscRoot + article.File;
+        const QString file = state.DiscRoot + article.file;
         if (!FileExists(file)) {
-            ++catalogue_.Missing;
+            catalogue_.missing += isAskedFor ? 1 : 0;
             return;
         }
-        Add(article.WindowTitle, place, file,
+        Add(article.windowTitle, place, file,
             [choose, button](const QString& words) { OpenArticleOf(choose, button, words); });
     }
 
@@ -92,34 +94,34 @@ private:
         const QString year = YearOfButton(button);
         const Choosing choose = ChooseYear(button);
         for (const DocumentButton& each : documentButtons)
-            AddArticle(ArticleOf(each.Button, year), year + u" > "_s + QLatin1String(each.Name), choose,
-                       each.Control);
+            AddArticle(ArticleOf(each.button, year), year + u" > "_s + QLatin1String(each.name), choose,
+                       each.control);
         AddArticle(NostalgiaOf(year), year + u" > Nostalgia"_s, choose, &Form1Controls::cmdNostalgia);
     }
 
     void AddArticlesOfTopic(const Topic& topic)
     {
-        const QString title = QString::fromLatin1(topic.Title);
+        const QString title = QString::fromLatin1(topic.title);
         const bool hasNotes = !NoteOf(title, 1).isEmpty();
         for (const DocumentButton& each : documentButtons) {
-            const bool givesWay = hasNotes && each.Button == ArticleButton::Statistics;
-            if (*(topic.*each.OwnArticle) != '\0' && !givesWay)
-                AddArticle(ArticleOf(each.Button, title),
-                           title.trimmed() + u" > "_s + QLatin1String(each.Name), ChooseTopic(topic),
-                           each.Control);
+            const bool givesWay = hasNotes && each.button == ArticleButton::Statistics;
+            if (*(topic.*each.ownArticle) != '\0' && !givesWay)
+                AddArticle(ArticleOf(each.button, title),
+                           title.trimmed() + u" > "_s + QLatin1String(each.nameOfTopics), ChooseTopic(topic),
+                           each.control, AsksForArticle(each.button, topic));
         }
     }
 
     void AddLibraryDocument(const LibraryDocument& document)
     {
-        const QString file = state.DiscRoot + QLatin1String(document.File);
+        const QString file = state.DiscRoot + QLatin1String(document.file);
+        const QString screen = QString::fromUtf8(document.screen);
         if (!FileExists(file)) {
-            ++catalogue_.Missing;
+            catalogue_.missing += screen.isEmpty() ? 0 : 1;
             return;
         }
-        const QString screen = QString::fromUtf8(document.Screen);
         Add(WindowTitleOf(document), screen.isEmpty() ? u"Library"_s : screen, file,
-            [entry = QString::fromLatin1(document.Entry)](const QString& words) {
+            [entry = QString::fromLatin1(document.entry)](const QString& words) {
                 OpenLibraryDocument(entry, words);
             });
     }
@@ -133,11 +135,11 @@ private:
                 AddCaptions(year, group->second, ChooseYear(button));
         }
         for (const Topic& topic : Topics()) {
-            const auto group = groups.find(QString::fromLatin1(topic.Code));
-            if (!topic.IsBrowsed || group == groups.end())
+            const auto group = groups.find(QString::fromLatin1(topic.code));
+            if (!topic.isBrowsed || group == groups.end())
                 continue;
-            AddCaptions(QString::fromLatin1(topic.Title), group->second, ChooseTopic(topic));
-            AddNotes(QString::fromLatin1(topic.Title), group->second, ChooseTopic(topic));
+            AddCaptions(QString::fromLatin1(topic.title), group->second, ChooseTopic(topic));
+            AddNotes(QString::fromLatin1(topic.title), group->second, ChooseTopic(topic));
         }
     }
 
@@ -170,8 +172,8 @@ private:
     {
         for (int option = 0; option < movieOptionCount; ++option) {
             const Movie movie = MovieOf(option);
-            if (!movie.File.isEmpty() && IsMovieThere(movie.File))
-                Add(movie.WindowTitle, Form1->mnuMovies.Caption(), {},
+            if (!movie.file.isEmpty() && IsMovieThere(movie.file))
+                Add(movie.windowTitle, Form1->mnuMovies.Caption(), {},
                     [option](const QString& /*words*/) { OpenMovieOf(option); });
         }
     }

@@ -35,8 +35,7 @@ void CarryPhotoOver()
 /// failure 13, Type mismatch.
 void FocusYearAfter()
 {
-    constexpr int yearBeforeTheFirst = 66;
-    const int button = static_cast<int>(RoundHalfEven(ToNumber(state.YearCode))) - yearBeforeTheFirst;
+    const int button = static_cast<int>(RoundHalfEven(ToNumber(state.YearCode))) - yearBeforeFirst;
     Form1->cmdYR(button + 1).SetFocus();
     state.CurrentYearButton = button;
 }
@@ -47,7 +46,7 @@ void FitFocusToTitle()
 {
     const QString title = Form1->panYear.Caption();
     const Topic* topic = BrowsedTopicOf(title);
-    if (topic != nullptr && !topic->KeepsYearButtons)
+    if (topic != nullptr && !topic->keepsYearButtons)
         FitButtonsToTopic();
     if (topic != nullptr || title == YearOfButton(yearCount)) {
         Form1->cmdYR(1).SetFocus();
@@ -72,7 +71,7 @@ void LeaveWithPhoto()
     state.CurrentYearButton = 0;
     FitFocusToTitle();
     if (const Topic* topic = TopicOf(Form1->panYear.Caption()))
-        state.YearCode = QString::fromLatin1(topic->Code);
+        state.YearCode = QString::fromLatin1(topic->code);
     state.SlideShowOpen = false;
     state.PhotoIndex -= 1;
 }

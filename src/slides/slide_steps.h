@@ -2,9 +2,9 @@
 
 namespace torvik {
 
-/// Shows the next photo, behind the last one the first.
+/// Shows the next photo; after the last one, the first.
 void SlideStepForward();
-/// Shows the photo before, before the first one the last.
+/// Shows the previous photo; before the first one, the last.
 void SlideStepBack();
 
 } // namespace torvik

@@ -46,7 +46,7 @@ void mmSlide_PauseClick()
     frmSlide->SSCommand1.SetFocus();
 }
 
-/// Behind the last photo a tick only goes back to the start, so the last photo stays for two delays.
+/// After the last photo a tick only goes back to the start, so the last photo stays for two delays.
 void ShowNextSlide()
 {
     if (state.PhotoIndex < state.PhotoCount + 1) {

@@ -13,31 +13,31 @@ namespace {
 
 /// The one list of options. A new one is a member here, its row in `All`, and a field of CommandLine.
 struct Options {
-    const QCommandLineOption Drive{u"drive"_s,
+    const QCommandLineOption drive{u"drive"_s,
                                    u"The folder or disc image stands for a drive, D to Z. May be repeated."_s,
                                    u"LETTER=FOLDER"_s};
-    const QCommandLineOption ProgramFolder{
+    const QCommandLineOption programFolder{
         u"program-folder"_s, u"The folder of copied photos, start-up sound and help file."_s, u"FOLDER"_s};
-    const QCommandLineOption PrintTo{
+    const QCommandLineOption printTo{
         u"print-to"_s, u"Writes each print job there as a file: job-1.pdf, job-2.pdf, ..."_s, u"FOLDER"_s};
-    const QCommandLineOption Scale{
+    const QCommandLineOption scale{
         u"scale"_s,
         u"Enlarges everything by 1 to 8, such as 1.5; \"fit\" is as large as the screen allows. "
         "Remembered until \"auto\" is given."_s,
         u"FACTOR"_s};
-    const QCommandLineOption Check{
+    const QCommandLineOption check{
         u"check"_s,
         u"Checks the disc, tells what is missing or damaged, and ends: with 0 when the disc is whole, "
         "1 when something was found, 2 when there is no disc."_s};
-    const QCommandLineOption Json{u"json"_s, u"The check reports to a program, as JSON."_s};
-    const QCommandLineOption Verbose{
+    const QCommandLineOption json{u"json"_s, u"The check reports to a program, as JSON."_s};
+    const QCommandLineOption verbose{
         u"verbose"_s, u"Tells which drives, files, decoders and printers are tried, and with what result."_s};
-    const QCommandLineOption Help{{u"h"_s, u"help"_s}, u"Shows this text."_s};
-    const QCommandLineOption Version{{u"v"_s, u"version"_s}, u"Shows the version."_s};
+    const QCommandLineOption help{{u"h"_s, u"help"_s}, u"Shows this text."_s};
+    const QCommandLineOption version{{u"v"_s, u"version"_s}, u"Shows the version."_s};
 
     QList<QCommandLineOption> All() const
     {
-        return {Drive, ProgramFolder, PrintTo, Scale, Check, Json, Verbose, Help, Version};
+        return {drive, programFolder, printTo, scale, check, json, verbose, help, version};
     }
 };
 
@@ -58,24 +58,24 @@ void Prepare(QCommandLineParser& parser, const Options& options)
 void TakeDrive(CommandLine& read, const QString& value)
 {
     if (const auto drive = ReadDriveOption(value))
-        read.Drives.append(*drive);
-    else if (read.Problem.isEmpty())
-        read.Problem = DriveOptionProblem(value);
+        read.drives.append(*drive);
+    else if (read.problem.isEmpty())
+        read.problem = DriveOptionProblem(value);
 }
 
 void TakeScale(CommandLine& read, const QString& value, bool isGiven)
 {
-    read.Scale = value;
-    if (isGiven && !IsScale(value) && read.Problem.isEmpty())
-        read.Problem = ScaleProblem(value);
+    read.scale = value;
+    if (isGiven && !IsScale(value) && read.problem.isEmpty())
+        read.problem = ScaleProblem(value);
 }
 
 /// A check is of one disc, and that may be one of the drives.
 void TakeCheck(CommandLine& read, const QStringList& discs)
 {
-    read.CheckedDisc = discs.value(0);
-    if (discs.size() > 1 && read.Problem.isEmpty())
-        read.Problem = u"--check checks one disc at a time."_s;
+    read.checkedDisc = discs.value(0);
+    if (discs.size() > 1 && read.problem.isEmpty())
+        read.problem = u"--check checks one disc at a time."_s;
 }
 
 } // namespace
@@ -87,26 +87,26 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     Prepare(parser, options);
     CommandLine read;
     if (!parser.parse(QStringList(QString()) + arguments))
-        read.Problem = parser.errorText();
-    const QStringList drives = parser.values(options.Drive);
+        read.problem = parser.errorText();
+    const QStringList drives = parser.values(options.drive);
     for (const QString& value : drives)
         TakeDrive(read, value);
     const QStringList folders = parser.positionalArguments();
-    read.Check = parser.isSet(options.Check);
-    read.Json = parser.isSet(options.Json);
-    if (read.Check)
+    read.check = parser.isSet(options.check);
+    read.json = parser.isSet(options.json);
+    if (read.check)
         TakeCheck(read, folders);
     else
         for (const QString& folder : folders)
-            read.Drives.append({QChar(), folder});
-    if (read.Json && !read.Check && read.Problem.isEmpty())
-        read.Problem = u"--json belongs to --check."_s;
-    read.ProgramFolder = parser.value(options.ProgramFolder);
-    read.PrintFolder = parser.value(options.PrintTo);
-    TakeScale(read, parser.value(options.Scale), parser.isSet(options.Scale));
-    read.Verbose = parser.isSet(options.Verbose);
-    read.Help = parser.isSet(options.Help);
-    read.Version = parser.isSet(options.Version);
+            read.drives.append({QChar(), folder});
+    if (read.json && !read.check && read.problem.isEmpty())
+        read.problem = u"--json belongs to --check."_s;
+    read.programFolder = parser.value(options.programFolder);
+    read.printFolder = parser.value(options.printTo);
+    TakeScale(read, parser.value(options.scale), parser.isSet(options.scale));
+    read.verbose = parser.isSet(options.verbose);
+    read.help = parser.isSet(options.help);
+    read.version = parser.isSet(options.version);
     return read;
 }
 

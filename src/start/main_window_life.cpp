@@ -32,7 +32,7 @@ void Form1_Load()
     form.Show();
 }
 
-/// Opens the browser on 1967, with the focus on the year behind it.
+/// Opens the browser on 1967, with the focus on the year after it.
 void ShowFirstYear()
 {
     Form1Controls& form = *Form1;
@@ -59,7 +59,7 @@ void ReturnFromSlideShow()
         Form1->Image4.Show();
     RestoreMainWindow();
     if (const Topic* topic = BrowsedTopicOf(Form1->panYear.Caption()))
-        state.YearCode = QString::fromLatin1(topic->Code);
+        state.YearCode = QString::fromLatin1(topic->code);
 }
 
 void Form1_Activate()

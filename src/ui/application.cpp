@@ -37,8 +37,8 @@ QIcon ProgramIcon()
 
 /// How the desktop shows programs that ask for nothing.
 struct DesktopView {
-    double Factor = 1;
-    QSizeF WorkArea; ///< in the display's own pixels
+    double factor = 1;
+    QSizeF workArea; ///< in the display's own pixels
 };
 
 /// The factor must be known before the application object is made, and the screen is known only to one.
@@ -57,10 +57,10 @@ QApplication* MakeApplication(int& argc, char** argv, const QString& scale)
 {
     constexpr const char* factorOfQt = "QT_SCALE_FACTOR";
     const DesktopView desktop = LookAtDesktop(argc, argv);
-    Screen.SetScaledByDesktop(desktop.Factor != 1);
-    const double wanted = ScaleFactor(scale, desktop.Factor, desktop.WorkArea);
+    Screen.SetScaledByDesktop(desktop.factor != 1);
+    const double wanted = ScaleFactor(scale, desktop.factor, desktop.workArea);
     // Held only while Qt reads it: what the program starts is not enlarged.
-    const double further = FactorInEnvironment(factorOfQt) * wanted / desktop.Factor;
+    const double further = FactorInEnvironment(factorOfQt) * wanted / desktop.factor;
     const HeldVariable held(factorOfQt, QByteArray::number(further));
     // Only asked for the sound devices, and it answers at once; a choice of the user's own wins.
     SetEnvironmentDefault("QT_MEDIA_BACKEND", "ffmpeg");
@@ -72,7 +72,7 @@ QApplication* MakeApplication(int& argc, char** argv, const QString& scale)
 Application::Application(int& argc, char** argv, const QString& scale)
     : application_(MakeApplication(argc, argv, scale))
 {
-    // No display name: the platform would append it to the title of every window and box.
+    // No display name: Qt would append it to the title of every window and box.
     QApplication::setApplicationName(u"torvik2001"_s);
     QApplication::setDesktopFileName(u"torvik2001"_s);
     QApplication::setQuitOnLastWindowClosed(false);

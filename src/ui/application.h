@@ -9,10 +9,10 @@ class QApplication;
 
 namespace torvik {
 
-/// The toolkit's application object with the program's look. One lives while the program runs.
+/// Qt's application object with the program's look. One lives while the program runs.
 class Application {
 public:
-    /// Takes the command line's arguments out that are the toolkit's own (-platform, -style, ...).
+    /// Takes the command line's arguments out that are Qt's own (-platform, -style, ...).
     /// `scale` is how large everything is drawn (see ui/scale.h).
     Application(int& argc, char** argv, const QString& scale = {});
     ~Application();

@@ -7,10 +7,10 @@ using namespace Qt::StringLiterals;
 namespace torvik {
 
 frmAboutControls::frmAboutControls()
-    : Form({.Name = u"frmAbout"_s,
-            .Caption = u"About The Torvik Vollandry 2001"_s,
-            .ClientWidth = 6240,
-            .ClientHeight = 5070})
+    : Form({.name = u"frmAbout"_s,
+            .caption = u"About The Torvik Vollandry 2001"_s,
+            .clientWidth = 6240,
+            .clientHeight = 5070})
 {
     Picture2.Show(Picture::FromResource(u":/assets/icon.png"_s));
     Image1.Show(Picture::FromResource(u":/assets/splash.png"_s));

@@ -5,7 +5,7 @@ using namespace Qt::StringLiterals;
 namespace torvik {
 
 txtFormControls::txtFormControls()
-    : Form({.Name = u"txtForm"_s, .Caption = u"txtForm"_s, .ClientWidth = 7965, .ClientHeight = 6840})
+    : Form({.name = u"txtForm"_s, .caption = u"txtForm"_s, .clientWidth = 7965, .clientHeight = 6840})
 {
     Adopt(CommonDialog1);
     cmdPrint.SetPicture(u":/assets/button_print.png"_s, u"Print"_s);

@@ -9,11 +9,11 @@ namespace {
 FormDesign DesignOfFind()
 {
     FormDesign design;
-    design.Name = u"frmFind"_s;
-    design.Caption = u"Find"_s;
-    design.ClientWidth = 7500;
-    design.ClientHeight = 4920;
-    design.Border = FormBorder::Sizable;
+    design.name = u"frmFind"_s;
+    design.caption = u"Find"_s;
+    design.clientWidth = 7500;
+    design.clientHeight = 4920;
+    design.border = FormBorder::Sizable;
     return design;
 }
 

@@ -14,7 +14,7 @@ QString CaptionOfYearButton(int index)
         return u"1967"_s;
     if (index == 24)
         return u"1990"_s;
-    return u"%1"_s.arg((index + 66) % 100, 2, 10, QLatin1Char('0'));
+    return u"%1"_s.arg((index + yearBeforeFirst) % 100, 2, 10, QLatin1Char('0'));
 }
 
 /// Two rows, each led by a button wide enough for four digits.
@@ -37,13 +37,13 @@ CommonDialogDesign DesignOfCommonDialog()
 } // namespace
 
 Form1Controls::Form1Controls()
-    : Form({.Name = u"Form1"_s,
-            .Caption = u"The Torvik Vollandry    2001"_s,
-            .ClientWidth = 12060,
-            .ClientHeight = 8385,
-            .Border = FormBorder::Sizable,
-            .ScaleMode = Scale::Pixels,
-            .HasMenu = true}),
+    : Form({.name = u"Form1"_s,
+            .caption = u"The Torvik Vollandry    2001"_s,
+            .clientWidth = 12060,
+            .clientHeight = 8385,
+            .border = FormBorder::Sizable,
+            .scaleMode = Scale::Pixels,
+            .hasMenu = true}),
       Form1Menu(static_cast<Form&>(*this)), SaverPanel(static_cast<Form&>(*this)),
       ProgressPanel(static_cast<Form&>(*this)), PrintPanel(static_cast<Form&>(*this)),
       SoundPanel(static_cast<Form&>(*this)),

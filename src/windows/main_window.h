@@ -24,6 +24,7 @@ using namespace Qt::StringLiterals;
 
 /// The year bar holds this many buttons, 1967 to 2001.
 inline constexpr int yearCount = 35;
+inline constexpr int yearBeforeFirst = 66; ///< of the century; button 1 is 1967
 
 /// The caption of panYear while nothing has been chosen yet.
 inline const QString nothingChosen = u"panYear"_s;

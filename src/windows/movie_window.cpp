@@ -24,7 +24,7 @@ ControlArray<OptionButton> MakeOptions(Form& form)
 } // namespace
 
 frmMovieControls::frmMovieControls()
-    : Form({.Name = u"frmMovie"_s, .Caption = u"Torvik Movies"_s, .ClientWidth = 8220, .ClientHeight = 4860}),
+    : Form({.name = u"frmMovie"_s, .caption = u"Torvik Movies"_s, .clientWidth = 8220, .clientHeight = 4860}),
       optMovie(MakeOptions(*this))
 {
     PicMovie.Show(Picture::FromResource(u":/assets/movie_opening.png"_s));

@@ -13,12 +13,12 @@ constexpr int arrowStep = 40; // pixels: some lines of print
 } // namespace
 
 frmScrollControls::frmScrollControls()
-    : Form({.Name = u"frmScroll"_s,
-            .Caption = u"The Torvik Vollandry"_s,
-            .ClientWidth = 9600,
-            .ClientHeight = 7200,
-            .Border = FormBorder::None,
-            .ScaleMode = Scale::Pixels})
+    : Form({.name = u"frmScroll"_s,
+            .caption = u"The Torvik Vollandry"_s,
+            .clientWidth = 9600,
+            .clientHeight = 7200,
+            .border = FormBorder::None,
+            .scaleMode = Scale::Pixels})
 {
     Image1.SetToolTip(u"Click the left mouse button to zoom in. Click the Right mouse button to close."_s);
     picParent.SetToolTip(zoomOutTip);

@@ -7,10 +7,10 @@ using namespace Qt::StringLiterals;
 namespace torvik {
 
 frmSSPhotoControls::frmSSPhotoControls()
-    : Form({.Name = u"frmSSPhoto"_s,
-            .Caption = u"The Torvik Vollandry 2001"_s,
-            .ClientWidth = 4680,
-            .ClientHeight = 3900})
+    : Form({.name = u"frmSSPhoto"_s,
+            .caption = u"The Torvik Vollandry 2001"_s,
+            .clientWidth = 4680,
+            .clientHeight = 3900})
 {
     SetLeft((Screen.Width() - Width()) / 2);
     SetTop((Screen.Height() - Height()) / 2);

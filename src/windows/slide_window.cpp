@@ -26,10 +26,10 @@ void SetUpBar(MediaBar& bar)
 
 /// As large as the main window, which has a menu bar where this one has room for its photo.
 frmSlideControls::frmSlideControls()
-    : Form({.Name = u"frmSlide"_s,
-            .Caption = u"The Torvik Vollandry Slide Show"_s,
-            .ClientWidth = 12060,
-            .ClientHeight = 8670})
+    : Form({.name = u"frmSlide"_s,
+            .caption = u"The Torvik Vollandry Slide Show"_s,
+            .clientWidth = 12060,
+            .clientHeight = 8670})
 {
     constexpr int titleSize = 16; // pixels
     Image1.Show(Picture::FromResource(u":/assets/slide_show.jpg"_s));

@@ -72,7 +72,7 @@ ControlArray<Label> MakeLabels(Panel& panel)
     ControlArray<Label> labels(u"lblSound"_s);
     for (int index = 0; index < soundCount; ++index) {
         const Twips button = PlaceOfButton(index);
-        labels.Add(index, panel, Twips{button.Left + 510, button.Top, 1680, button.Height},
+        labels.Add(index, panel, Twips{button.left + 510, button.top, 1680, button.height},
                    soundLabels[index]);
     }
     return labels;

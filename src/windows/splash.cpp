@@ -7,11 +7,11 @@ using namespace Qt::StringLiterals;
 namespace torvik {
 
 Form2Controls::Form2Controls()
-    : Form({.Name = u"Form2"_s,
-            .Caption = u"The Torvik Vollandry 2001"_s,
-            .ClientWidth = 9000,
-            .ClientHeight = 6540,
-            .Border = FormBorder::None})
+    : Form({.name = u"Form2"_s,
+            .caption = u"The Torvik Vollandry 2001"_s,
+            .clientWidth = 9000,
+            .clientHeight = 6540,
+            .border = FormBorder::None})
 {
     SetLeft((Screen.Width() - Width()) / 2);
     SetTop((Screen.Height() - Height()) / 2);

@@ -15,27 +15,27 @@ namespace {
 
 /// Everything that a file holds, read from where the reader stands.
 struct Contents {
-    QList<MediaPicture> Pictures;
-    QByteArray Sound;
-    qint64 SoundFrom = -1;
-    int Pieces = 0;
+    QList<MediaPicture> pictures;
+    QByteArray sound;
+    qint64 soundFrom = -1;
+    int pieces = 0;
 };
 
 Contents ReadAll(MediaReader& reader)
 {
     constexpr int tooMany = 100'000;
     Contents contents;
-    for (; contents.Pieces < tooMany; ++contents.Pieces) {
+    for (; contents.pieces < tooMany; ++contents.pieces) {
         MediaReader::Piece piece = reader.Next();
         if (std::holds_alternative<MediaReader::End>(piece))
             break;
         if (auto* picture = std::get_if<MediaPicture>(&piece)) {
-            contents.Pictures.append(*picture);
+            contents.pictures.append(*picture);
         } else {
             const auto& samples = std::get<MediaSamples>(piece);
-            if (contents.SoundFrom < 0)
-                contents.SoundFrom = samples.Time;
-            contents.Sound += samples.Bytes;
+            if (contents.soundFrom < 0)
+                contents.soundFrom = samples.time;
+            contents.sound += samples.bytes;
         }
     }
     return contents;
@@ -48,9 +48,9 @@ std::unique_ptr<MediaReader> Reader(const QByteArray& bytes)
 
 /// The sound's left channel: how loud it is (0 to 1) and how often it swings in a second.
 struct Heard {
-    double Loudness = 0;
-    double Hertz = 0;
-    double Seconds = 0;
+    double loudness = 0;
+    double hertz = 0;
+    double seconds = 0;
 };
 
 Heard Listen(const QByteArray& sound)
@@ -64,24 +64,24 @@ Heard Listen(const QByteArray& sound)
     bool high = false;
     for (qsizetype index = 0; index < count; ++index) {
         constexpr double clear = 0.1; // what codecs add is smaller
-        const double value = samples[index * format.Channels] / 32768.0;
+        const double value = samples[index * format.channels] / 32768.0;
         sum += value * value;
         if (!high && value > clear)
             ++swings;
         high = high ? value > -clear : value > clear;
     }
-    heard.Seconds = static_cast<double>(count) / format.Rate;
-    heard.Loudness = count > 0 ? std::sqrt(sum / static_cast<double>(count)) : 0;
-    heard.Hertz = heard.Seconds > 0 ? swings / heard.Seconds : 0;
+    heard.seconds = static_cast<double>(count) / format.rate;
+    heard.loudness = count > 0 ? std::sqrt(sum / static_cast<double>(count)) : 0;
+    heard.hertz = heard.seconds > 0 ? swings / heard.seconds : 0;
     return heard;
 }
 
 void CheckTone(const QByteArray& sound)
 {
     const Heard heard = Listen(sound);
-    QVERIFY2(std::abs(heard.Seconds - 2) < 0.15, qPrintable(QString::number(heard.Seconds)));
-    QVERIFY2(heard.Loudness > 0.1, qPrintable(QString::number(heard.Loudness)));
-    QVERIFY2(std::abs(heard.Hertz - 440) < 15, qPrintable(QString::number(heard.Hertz)));
+    QVERIFY2(std::abs(heard.seconds - 2) < 0.15, qPrintable(QString::number(heard.seconds)));
+    QVERIFY2(heard.loudness > 0.1, qPrintable(QString::number(heard.loudness)));
+    QVERIFY2(std::abs(heard.hertz - 440) < 15, qPrintable(QString::number(heard.hertz)));
 }
 
 void CheckBars(const QImage& image)
@@ -137,30 +137,30 @@ private Q_SLOTS:
         QFETCH(const QStringList, codecs);
         const auto reader = Reader(TestMovie::Avi(codecs));
         QVERIFY(reader != nullptr);
-        QVERIFY(reader->Info().HasPictures);
-        QVERIFY(reader->Info().HasSound);
-        QVERIFY(std::abs(reader->Info().Duration - 2'000'000) < 100'000);
-        QVERIFY(std::abs(reader->Info().FrameDuration - TestMovie::pictureDuration) <= 1);
+        QVERIFY(reader->Info().hasPictures);
+        QVERIFY(reader->Info().hasSound);
+        QVERIFY(std::abs(reader->Info().duration - 2'000'000) < 100'000);
+        QVERIFY(std::abs(reader->Info().frameDuration - TestMovie::pictureDuration) <= 1);
         const Contents contents = ReadAll(*reader);
-        QCOMPARE(contents.Pictures.size(), TestMovie::pictures);
-        for (int index = 0; index < contents.Pictures.size(); ++index)
-            QVERIFY(std::abs(contents.Pictures[index].Time - index * 2'000'000LL / TestMovie::pictures) <
+        QCOMPARE(contents.pictures.size(), TestMovie::pictures);
+        for (int index = 0; index < contents.pictures.size(); ++index)
+            QVERIFY(std::abs(contents.pictures[index].time - index * 2'000'000LL / TestMovie::pictures) <
                     1000);
-        CheckBars(contents.Pictures.first().Image);
-        CheckBars(contents.Pictures.last().Image);
-        QVERIFY(contents.Pictures.first().Image != contents.Pictures.last().Image);
-        CheckTone(contents.Sound);
+        CheckBars(contents.pictures.first().image);
+        CheckBars(contents.pictures.last().image);
+        QVERIFY(contents.pictures.first().image != contents.pictures.last().image);
+        CheckTone(contents.sound);
     }
 
     void run_length_coded_pictures_have_the_colours_of_their_palette()
     {
         const auto reader = Reader(TestMovie::RunLengthAvi());
         QVERIFY(reader != nullptr);
-        QVERIFY(!reader->Info().HasSound);
+        QVERIFY(!reader->Info().hasSound);
         const Contents contents = ReadAll(*reader);
-        QCOMPARE(contents.Pictures.size(), TestMovie::pictures);
-        CheckBars(contents.Pictures.first().Image);
-        CheckBars(contents.Pictures.last().Image);
+        QCOMPARE(contents.pictures.size(), TestMovie::pictures);
+        CheckBars(contents.pictures.first().image);
+        CheckBars(contents.pictures.last().image);
     }
 
     void a_sound_is_heard_whole_data()
@@ -185,9 +185,9 @@ private Q_SLOTS:
         QFETCH(const int, channels);
         const auto reader = Reader(TestMovie::Wav(codec, rate, channels));
         QVERIFY(reader != nullptr);
-        QVERIFY(!reader->Info().HasPictures);
-        QVERIFY(reader->Info().HasSound);
-        CheckTone(ReadAll(*reader).Sound);
+        QVERIFY(!reader->Info().hasPictures);
+        QVERIFY(reader->Info().hasSound);
+        CheckTone(ReadAll(*reader).sound);
     }
 
     void samples_come_in_the_format_that_is_wanted()
@@ -195,7 +195,7 @@ private Q_SLOTS:
         const SoundFormat wanted{8000, 1, SoundFormat::Sample::Float};
         const auto reader = MediaReader::Open(std::make_unique<BytesInMemory>(TestMovie::Wav()), wanted);
         QVERIFY(reader != nullptr);
-        const QByteArray sound = ReadAll(*reader).Sound;
+        const QByteArray sound = ReadAll(*reader).sound;
         QVERIFY(std::abs(static_cast<double>(sound.size()) / wanted.BytesPerSecond() - 2) < 0.1);
         const auto* samples = reinterpret_cast<const float*>(sound.constData());
         const float loudest = *std::max_element(samples, samples + sound.size() / 4);
@@ -216,31 +216,31 @@ private Q_SLOTS:
         QVERIFY(reader != nullptr);
         const Contents whole = ReadAll(*reader);
         for (const int picture : {20, 7, 0, 29, 8}) {
-            const qint64 begin = whole.Pictures[picture].Time;
+            const qint64 begin = whole.pictures[picture].time;
             for (const qint64 within : {0LL, TestMovie::pictureDuration / 2}) {
                 reader->Seek(begin + within);
                 const Contents rest = ReadAll(*reader);
-                QCOMPARE(rest.Pictures.size(), TestMovie::pictures - picture);
-                QCOMPARE(rest.Pictures.first().Time, begin);
-                QCOMPARE(rest.Pictures.first().Image, whole.Pictures[picture].Image);
-                QVERIFY(std::abs(rest.SoundFrom - (begin + within)) < 3000);
+                QCOMPARE(rest.pictures.size(), TestMovie::pictures - picture);
+                QCOMPARE(rest.pictures.first().time, begin);
+                QCOMPARE(rest.pictures.first().image, whole.pictures[picture].image);
+                QVERIFY(std::abs(rest.soundFrom - (begin + within)) < 3000);
             }
         }
     }
 
-    void behind_the_end_stands_the_last_picture()
+    void after_the_end_comes_the_last_picture()
     {
         const auto reader = Reader(TestMovie::Avi());
         const Contents whole = ReadAll(*reader);
         for (const qint64 place : {2'000'000LL, 90'000'000LL}) {
             reader->Seek(place);
             const Contents rest = ReadAll(*reader);
-            QCOMPARE(rest.Pictures.size(), 1);
-            QCOMPARE(rest.Pictures.first().Time, whole.Pictures.last().Time);
-            QVERIFY(rest.Sound.isEmpty());
+            QCOMPARE(rest.pictures.size(), 1);
+            QCOMPARE(rest.pictures.first().time, whole.pictures.last().time);
+            QVERIFY(rest.sound.isEmpty());
         }
         reader->Seek(-5);
-        QCOMPARE(ReadAll(*reader).Pictures.size(), TestMovie::pictures);
+        QCOMPARE(ReadAll(*reader).pictures.size(), TestMovie::pictures);
     }
 
     void what_is_no_movie_is_refused_data()
@@ -268,8 +268,8 @@ private Q_SLOTS:
         const auto reader = Reader(whole.left(whole.size() / 2));
         QVERIFY(reader != nullptr);
         const Contents contents = ReadAll(*reader);
-        QVERIFY(contents.Pictures.size() > 5);
-        QVERIFY(contents.Pictures.size() < TestMovie::pictures);
+        QVERIFY(contents.pictures.size() > 5);
+        QVERIFY(contents.pictures.size() < TestMovie::pictures);
     }
 
     void damage_anywhere_never_keeps_it_from_ending()
@@ -286,9 +286,9 @@ private Q_SLOTS:
                 const auto reader = Reader(damaged);
                 if (reader == nullptr)
                     continue;
-                QVERIFY(ReadAll(*reader).Pieces < 100'000);
+                QVERIFY(ReadAll(*reader).pieces < 100'000);
                 reader->Seek(1'000'000);
-                QVERIFY(ReadAll(*reader).Pieces < 100'000);
+                QVERIFY(ReadAll(*reader).pieces < 100'000);
             }
         }
     }

@@ -28,8 +28,8 @@ private Q_SLOTS:
     {
         MediaStream stream(Opening(TestMovie::Avi()), SoundFormat());
         QTRY_COMPARE(stream.Progress(), MediaStream::State::Ready);
-        QVERIFY(stream.Info().HasPictures);
-        QVERIFY(stream.Info().HasSound);
+        QVERIFY(stream.Info().hasPictures);
+        QVERIFY(stream.Info().hasSound);
         QTRY_VERIFY(stream.HasPicture());
         QVERIFY(!stream.AtEnd());
     }
@@ -54,8 +54,8 @@ private Q_SLOTS:
         while (count < TestMovie::pictures) {
             QTRY_VERIFY(stream.HasPicture());
             const auto picture = stream.TakeNextPicture();
-            QVERIFY(picture->Time > last);
-            last = picture->Time;
+            QVERIFY(picture->time > last);
+            last = picture->time;
             stream.TakeSound(1'000'000, 0);
             ++count;
         }
@@ -69,7 +69,7 @@ private Q_SLOTS:
         MediaStream stream(Opening(TestMovie::Avi()), SoundFormat());
         QTRY_VERIFY(stream.HasPicture());
         QVERIFY(!stream.TakePicture(-1));
-        QCOMPARE(stream.TakePicture(TestMovie::pictureDuration / 2)->Time, 0);
+        QCOMPARE(stream.TakePicture(TestMovie::pictureDuration / 2)->time, 0);
         QVERIFY(!stream.TakePicture(TestMovie::pictureDuration / 2));
     }
 
@@ -81,7 +81,7 @@ private Q_SLOTS:
             stream.Seek(picture * TestMovie::pictureDuration + 1000);
             QVERIFY(!stream.AtEnd());
             QTRY_VERIFY(stream.HasPicture()); // the reader may have been quick enough to have it at once
-            QVERIFY(std::abs(stream.TakeNextPicture()->Time - picture * TestMovie::pictureDuration) < 1000);
+            QVERIFY(std::abs(stream.TakeNextPicture()->time - picture * TestMovie::pictureDuration) < 1000);
         }
     }
 

@@ -20,15 +20,15 @@ namespace {
 
 /// One control of each kind that can be copied from.
 struct KindsForm : Form {
-    KindsForm() : Form({.Name = u"Kinds"_s, .Caption = {}, .ClientWidth = 6000, .ClientHeight = 4500}) {}
-    TextBox Text{*this, u"Text"_s, {0, 0, 1500, 375}, u"67TOR001.JPG"_s};
-    ComboBox Combo{*this, u"Combo"_s, {0, 600, 1500, 375}, {u"one"_s, u"two"_s}};
-    ListBox List{*this, u"List"_s, {0, 1200, 1500, 900}};
-    Image Photo{*this, u"Photo"_s, {1800, 0, 900, 600}};
-    PictureBox Pane{*this, u"Pane"_s, {1800, 900, 900, 600}};
+    KindsForm() : Form({.name = u"Kinds"_s, .caption = {}, .clientWidth = 6000, .clientHeight = 4500}) {}
+    TextBox text{*this, u"Text"_s, {0, 0, 1500, 375}, u"67TOR001.JPG"_s};
+    ComboBox combo{*this, u"Combo"_s, {0, 600, 1500, 375}, {u"one"_s, u"two"_s}};
+    ListBox list{*this, u"List"_s, {0, 1200, 1500, 900}};
+    Image photo{*this, u"Photo"_s, {1800, 0, 900, 600}};
+    PictureBox pane{*this, u"Pane"_s, {1800, 900, 900, 600}};
 };
 
-FormHandle<KindsForm> Kinds;
+FormHandle<KindsForm> kinds;
 
 QClipboard& Desktop()
 {
@@ -50,8 +50,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddFile(u"emblems/emb67.jpg"_s, TestDisc::Jpeg(Qt::red, {160, 90}));
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddFile(u"emblems/emb67.jpg"_s, TestDisc::Jpeg(Qt::red, {160, 90}));
         program_->StartBrowsing();
         Desktop().setText(u"before"_s);
         state.ClipboardRequest = u"2"_s;
@@ -69,22 +69,22 @@ private Q_SLOTS:
         QFETCH(QString, request);
         state.ClipboardRequest = request;
         CopyToClipboard();
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QCOMPARE(Desktop().text(), u"before"_s);
     }
 
     void the_question_is_asked_with_yes_and_no_and_the_answer_is_kept()
     {
         QVERIFY(ProgramState().ClipboardRequest.isEmpty());
-        program_->Messages.Answer(msgbox::answerNo);
+        program_->messages.Answer(msgbox::answerNo);
         CopyToClipboard();
-        QCOMPARE(program_->Messages.Count(), 1);
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, u"Would you like to copy this image to the Windows Clipboard?"_s);
-        QCOMPARE(box.Style, 32 + 4);
-        QCOMPARE(box.Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, u"Would you like to copy this image to the Windows Clipboard?"_s);
+        QCOMPARE(box.style, 32 + 4);
+        QCOMPARE(box.title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(static_cast<int>(state.MessageResult), 7);
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         CopyToClipboard();
         QCOMPARE(static_cast<int>(state.MessageResult), 6);
     }
@@ -92,16 +92,16 @@ private Q_SLOTS:
     void no_leaves_the_clipboard_untouched()
     {
         OpenEmblem();
-        program_->Messages.Answer(msgbox::answerNo);
+        program_->messages.Answer(msgbox::answerNo);
         program_->Click(Form1->picEmblem, Qt::RightButton);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(Desktop().text(), u"before"_s);
     }
 
     void a_right_click_on_a_picture_copies_that_picture()
     {
         OpenEmblem();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         program_->Click(Form1->picEmblem, Qt::RightButton);
         QCOMPARE(Desktop().image().size(), QSize(160, 90));
         QVERIFY(Desktop().image().pixelColor(80, 45).red() > 230);
@@ -112,7 +112,7 @@ private Q_SLOTS:
     {
         OpenEmblem();
         const QString focus = Program::Focus();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         program_->Click(Form1->picEmblem, Qt::RightButton);
         QCOMPARE(Program::Focus(), focus);
         program_->Press(Qt::Key_Period);
@@ -122,7 +122,7 @@ private Q_SLOTS:
     void yes_with_a_push_button_active_empties_the_clipboard()
     {
         Form1->cmdYR(2).SetFocus();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         CopyToClipboard();
         QVERIFY(NothingThere());
     }
@@ -130,7 +130,7 @@ private Q_SLOTS:
     void yes_with_nothing_active_empties_the_clipboard()
     {
         FormHandleBase::DiscardAll();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         CopyToClipboard();
         QVERIFY(NothingThere());
     }
@@ -138,9 +138,9 @@ private Q_SLOTS:
     void a_text_box_gives_what_is_selected_of_it()
     {
         OpenKinds();
-        Kinds->Text.SetFocus();
-        static_cast<QLineEdit&>(Kinds->Text.Widget()).setSelection(2, 6);
-        program_->Messages.Answer(msgbox::answerYes);
+        kinds->text.SetFocus();
+        static_cast<QLineEdit&>(kinds->text.Widget()).setSelection(2, 6);
+        program_->messages.Answer(msgbox::answerYes);
         CopyToClipboard();
         QCOMPARE(Desktop().text(), u"TOR001"_s);
     }
@@ -148,9 +148,9 @@ private Q_SLOTS:
     void a_combo_box_gives_its_text()
     {
         OpenKinds();
-        Kinds->Combo.SetFocus();
+        kinds->combo.SetFocus();
         program_->Press(Qt::Key_Down);
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         CopyToClipboard();
         QCOMPARE(Desktop().text(), u"two"_s);
     }
@@ -158,9 +158,9 @@ private Q_SLOTS:
     void a_picture_box_gives_its_picture()
     {
         OpenKinds();
-        Kinds->Pane.Load(u"G:\\emblems\\emb67.jpg"_s);
-        program_->Click(Kinds->Pane);
-        program_->Messages.Answer(msgbox::answerYes);
+        kinds->pane.Load(u"G:\\emblems\\emb67.jpg"_s);
+        program_->Click(kinds->pane);
+        program_->messages.Answer(msgbox::answerYes);
         CopyToClipboard();
         QCOMPARE(Desktop().image().size(), QSize(160, 90));
     }
@@ -168,11 +168,11 @@ private Q_SLOTS:
     void a_list_box_gives_the_selected_text()
     {
         OpenKinds();
-        Kinds->List.AddItem(u"first"_s);
-        Kinds->List.AddItem(u"second"_s);
-        Kinds->List.SetListIndex(1);
-        Kinds->List.SetFocus();
-        program_->Messages.Answer(msgbox::answerYes);
+        kinds->list.AddItem(u"first"_s);
+        kinds->list.AddItem(u"second"_s);
+        kinds->list.SetListIndex(1);
+        kinds->list.SetFocus();
+        program_->messages.Answer(msgbox::answerYes);
         CopyToClipboard();
         QCOMPARE(Desktop().text(), u"second"_s);
     }
@@ -180,9 +180,9 @@ private Q_SLOTS:
     void an_image_gives_its_picture_at_natural_size()
     {
         OpenKinds();
-        Kinds->Photo.Load(u"G:\\emblems\\emb67.jpg"_s);
-        program_->Click(Kinds->Photo, Qt::RightButton);
-        program_->Messages.Answer(msgbox::answerYes);
+        kinds->photo.Load(u"G:\\emblems\\emb67.jpg"_s);
+        program_->Click(kinds->photo, Qt::RightButton);
+        program_->messages.Answer(msgbox::answerYes);
         CopyToClipboard();
         QCOMPARE(Desktop().image().size(), QSize(160, 90));
     }
@@ -190,8 +190,8 @@ private Q_SLOTS:
     void a_picture_without_content_leaves_the_clipboard_empty()
     {
         OpenKinds();
-        program_->Click(Kinds->Pane);
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->Click(kinds->pane);
+        program_->messages.Answer(msgbox::answerYes);
         CopyToClipboard();
         QVERIFY(NothingThere());
     }
@@ -204,10 +204,10 @@ private:
     }
     void OpenKinds()
     {
-        Kinds->Show();
+        kinds->Show();
         program_->Settle();
-        Kinds->Window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&Kinds->Window()));
+        kinds->Window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&kinds->Window()));
     }
 
     std::unique_ptr<Program> program_;

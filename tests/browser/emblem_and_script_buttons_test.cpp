@@ -15,10 +15,10 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         for (const char* prefix : {"67", "69", "70", "A1"})
-            program_->Disc.AddGroup(QString::fromLatin1(prefix), 2);
+            program_->disc.AddGroup(QString::fromLatin1(prefix), 2);
         for (const char* file : {"emblems/emb69.jpg", "emblems/emb01.jpg", "scripts/scri69.jpg",
                                  "scripts/scri01.jpg", "ClipArt/69clip.jpg", "ClipArt/01clip.jpg"})
-            program_->Disc.AddFile(QString::fromLatin1(file), TestDisc::Jpeg(Qt::blue, {160, 90}));
+            program_->disc.AddFile(QString::fromLatin1(file), TestDisc::Jpeg(Qt::blue, {160, 90}));
         program_->StartBrowsing();
         Choose(3);
     }
@@ -47,7 +47,7 @@ private Q_SLOTS:
         QVERIFY(PaneOf(pane).Visible());
         QCOMPARE(PaneOf(pane).Width(), 160.0);
         QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_second_click_closes_emblem_or_script_and_moves_the_focus_once_more_data()
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(Program::Focus(), ButtonOf(pane).Name());
         QCOMPARE(state.ErrorCode, u"before"_s);
         QCOMPARE(state.YearCode, u"xx"_s);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void with_nothing_chosen_only_an_open_clip_art_closes()
@@ -122,7 +122,7 @@ private Q_SLOTS:
         QCOMPARE(state.YearCode, u"01"_s);
         program_->Press(Qt::Key_Period); // and stepping still finds the year's photos
         QCOMPARE(Form1->Image4.Picture().FileName(), u"A1B.JPG"_s);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void clip_art_comes_up_in_front_in_its_place()
@@ -148,8 +148,8 @@ private Q_SLOTS:
         Choose(4);
         state.YearCode = u"xx"_s;
         program_->Click(ButtonOf(pane));
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: "_s + code));
         QCOMPARE(state.ErrorCode, code);
         QVERIFY(!PaneOf(pane).Visible());
         QCOMPARE(Program::Focus(), u"cmdYR(5)"_s);
@@ -167,7 +167,7 @@ private Q_SLOTS:
         QVERIFY(!PaneOf(pane).Visible());
         QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
         QCOMPARE(state.ClipboardRequest, u" "_s);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void open_pictures_follow_the_year_that_is_chosen()
@@ -193,13 +193,13 @@ private Q_SLOTS:
         PictureBox& picture = PaneOf(pane);
         picture.Show();
         picture.ZOrder();
-        program_->Messages.Answer(msgbox::answerNo);
+        program_->messages.Answer(msgbox::answerNo);
         program_->Click(picture, Qt::RightButton);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(state.ClipboardRequest, u"2"_s);
         QVERIFY(picture.Visible());
         program_->Click(picture, Qt::MiddleButton);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(state.ClipboardRequest, u" "_s);
         QVERIFY(picture.Visible());
     }
@@ -221,7 +221,7 @@ private Q_SLOTS:
         program_->Click(Form1->picEmbRear);
         QCOMPARE(state.ClipboardRequest, u" "_s);
         QVERIFY(Form1->picEmbRear.Visible());
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
 private:
@@ -250,7 +250,7 @@ private:
     void Choose(int year)
     {
         program_->Click(Form1->cmdYR(year));
-        program_->Messages.Clear();
+        program_->messages.Clear();
     }
 
     std::unique_ptr<Program> program_;

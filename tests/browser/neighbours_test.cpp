@@ -26,8 +26,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 7);
-        program_->Disc.AddGroup(u"68"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 7);
+        program_->disc.AddGroup(u"68"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -58,8 +58,8 @@ private Q_SLOTS:
 
     void a_photo_that_was_ready_looks_like_any_other()
     {
-        program_->Disc.AddPhoto(u"67B.JPG"_s, Qt::red);
-        program_->Disc.AddPhoto(u"67C.JPG"_s, Qt::blue);
+        program_->disc.AddPhoto(u"67B.JPG"_s, Qt::red);
+        program_->disc.AddPhoto(u"67C.JPG"_s, Qt::blue);
         StepPhotoForward();
         QTRY_VERIFY(IsReady("67C.JPG"));
         StepPhotoForward();
@@ -73,11 +73,11 @@ private Q_SLOTS:
     void a_photo_that_is_damaged_meanwhile_is_told_when_it_is_stepped_on()
     {
         QTRY_VERIFY(IsReady("67B.JPG") && IsReady("67C.JPG"));
-        program_->Disc.AddFile(u"Torviks/67B.JPG"_s, "damaged");
-        QCOMPARE(program_->Messages.Count(), 0);
+        program_->disc.AddFile(u"Torviks/67B.JPG"_s, "damaged");
+        QCOMPARE(program_->messages.Count(), 0);
         StepPhotoForward();
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(
             u"Error number: ER012\r\n\r\n Unable to load photo."_s));
         QCOMPARE(Shown(), u"67A.JPG"_s);
         StepPhotoForward();
@@ -86,13 +86,13 @@ private Q_SLOTS:
 
     void a_photo_that_was_damaged_when_it_was_read_ahead_may_be_mended_before_the_step()
     {
-        program_->Disc.AddFile(u"Torviks/67C.JPG"_s, "damaged");
+        program_->disc.AddFile(u"Torviks/67C.JPG"_s, "damaged");
         StepPhotoForward();
         QTRY_VERIFY(IsReady("67D.JPG"));
-        program_->Disc.AddPhoto(u"67C.JPG"_s);
+        program_->disc.AddPhoto(u"67C.JPG"_s);
         StepPhotoForward();
         QCOMPARE(Shown(), u"67C.JPG"_s);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_list_that_is_built_anew_drops_them()
@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         state.PhotoCount = state.PhotoFiles.Count() + 3;
         ReadNeighboursAhead(1, Walk::Backward);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
 private:

@@ -17,8 +17,8 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         for (const char* prefix : {"67", "68", "99", "A0", "A1", "PT"})
-            program_->Disc.AddGroup(QString::fromLatin1(prefix), 3);
-        program_->Disc.AddGroup(u"70"_s, 1);
+            program_->disc.AddGroup(QString::fromLatin1(prefix), 3);
+        program_->disc.AddGroup(u"70"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -56,7 +56,7 @@ private Q_SLOTS:
             seen.append(Form1->panPhoto.Caption());
         }
         QCOMPARE(seen.join(u' '), u"2 3 1 2 1 3 2 1 3"_s);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void forward_forward_backward_lands_on_the_second_neighbour()
@@ -115,13 +115,13 @@ private Q_SLOTS:
 
     void a_double_click_on_the_number_sees_a_photo_that_came_meanwhile()
     {
-        program_->Disc.AddPhoto(u"670.JPG"_s);
+        program_->disc.AddPhoto(u"670.JPG"_s);
         StepPhotoBackward();
         program_->DoubleClick(Form1->panPhoto);
         QCOMPARE(Shown(), u"670.JPG 1"_s);
     }
 
-    void the_focus_stays_behind_the_year_on_show_data()
+    void the_focus_stays_on_the_year_after_the_one_on_show_data()
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("focus");
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QTest::newRow("a topic") << u"Early Torvik Prototypes "_s << u"cmdYR(1)"_s;
     }
 
-    void the_focus_stays_behind_the_year_on_show()
+    void the_focus_stays_on_the_year_after_the_one_on_show()
     {
         QFETCH(QString, title);
         QFETCH(QString, focus);
@@ -196,7 +196,7 @@ private Q_SLOTS:
             QVERIFY(state.SteppedForward);
             QVERIFY(!state.SteppedBackward);
         }
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void the_list_need_not_hold_a_year_in_one_run()
@@ -214,7 +214,7 @@ private Q_SLOTS:
 
     void a_name_without_more_than_its_code_is_a_photo_of_the_year()
     {
-        program_->Disc.AddPhoto(u"67.JPG"_s);
+        program_->disc.AddPhoto(u"67.JPG"_s);
         StepPhotoBackward();
         program_->DoubleClick(Form1->panPhoto);
         QCOMPARE(Shown(), u"67.JPG 1"_s);
@@ -222,11 +222,11 @@ private Q_SLOTS:
 
     void forward_with_a_missing_photo_is_ER012_and_ends_the_step()
     {
-        program_->Disc.Remove(u"Torviks/67B.JPG"_s);
+        program_->disc.Remove(u"Torviks/67B.JPG"_s);
         Form1->cmdYR(20).SetFocus();
         StepPhotoForward();
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text,
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text,
                  u"Error number: ER012\r\n\r\n Unable to load photo.\r\n\r\n"
                  "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
         QCOMPARE(Program::Focus(), u"cmdYR(20)"_s);
@@ -238,48 +238,48 @@ private Q_SLOTS:
 
     void backward_with_a_missing_photo_is_ER011_and_the_rest_of_the_step_still_runs()
     {
-        program_->Disc.Remove(u"Torviks/67C.JPG"_s);
+        program_->disc.Remove(u"Torviks/67C.JPG"_s);
         Form1->cmdYR(20).SetFocus();
         StepPhotoBackward();
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(
             u"Error number: ER011\r\n\r\n Unable to load Slide Show photo."_s));
         QCOMPARE(int(state.ShownPhotoIndex), 4);
         QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
         QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
         StepPhotoBackward();
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(Shown(), u"67B.JPG 2"_s);
     }
 
     void a_damaged_photo_is_told_once_in_each_direction_and_then_passed()
     {
-        program_->Disc.AddFile(u"Torviks/67B.JPG"_s, "damaged");
+        program_->disc.AddFile(u"Torviks/67B.JPG"_s, "damaged");
         program_->Press(Form1->cmdYR(2), Qt::Key_Comma);
         QCOMPARE(Shown(), u"67C.JPG 3"_s);
         program_->Press(Form1->cmdYR(2), Qt::Key_Comma);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(Shown(), u"67C.JPG 3"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 3);
         program_->Press(Form1->cmdYR(2), Qt::Key_Comma);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(Shown(), u"67A.JPG 1"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 1);
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
-        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->messages.Count(), 2);
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
-        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->messages.Count(), 2);
         QCOMPARE(Shown(), u"67C.JPG 3"_s);
     }
 
     void a_year_whose_first_photo_is_damaged_shows_the_others()
     {
-        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, "damaged");
+        program_->disc.AddFile(u"Torviks/68A.JPG"_s, "damaged");
         for (const Qt::Key key : {Qt::Key_Period, Qt::Key_Comma}) {
-            program_->Messages.Clear();
+            program_->messages.Clear();
             program_->Click(Form1->cmdYR(2));
-            QCOMPARE(program_->Messages.Count(), 1);
-            QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER023"_s));
+            QCOMPARE(program_->messages.Count(), 1);
+            QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER023"_s));
             QVERIFY(!Form1->Image4.Visible());
             program_->Press(Form1->cmdYR(3), key);
             QVERIFY(Form1->Image4.Visible());
@@ -300,10 +300,10 @@ private Q_SLOTS:
     void damaged_photos_are_reported_and_the_window_stays_usable()
     {
         QFETCH(QByteArray, content);
-        program_->Disc.AddFile(u"Torviks/67B.JPG"_s, content);
+        program_->disc.AddFile(u"Torviks/67B.JPG"_s, content);
         program_->Press(Qt::Key_Period);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER012"_s));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER012"_s));
         QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
         QVERIFY(Form1->Enabled());
         program_->Press(Qt::Key_Period);
@@ -314,11 +314,11 @@ private Q_SLOTS:
     {
         program_->PutDiscIn({});
         program_->Press(Qt::Key_Period);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER012"_s));
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER012"_s));
         program_->PutDiscIn(u'G');
-        program_->Messages.Clear();
+        program_->messages.Clear();
         program_->Press(Qt::Key_Period);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
 private:

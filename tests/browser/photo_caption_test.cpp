@@ -19,9 +19,9 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"67"_s, 3);
         for (const char* letter : {"A", "B", "C"})
-            program_->Disc.AddDocument(u"67%1.rtf"_s.arg(QLatin1String(letter)),
+            program_->disc.AddDocument(u"67%1.rtf"_s.arg(QLatin1String(letter)),
                                        u"Caption of photo %1"_s.arg(QLatin1String(letter)));
         program_->StartBrowsing();
     }
@@ -87,21 +87,21 @@ private Q_SLOTS:
     {
         QFETCH(bool, forward);
         QFETCH(QString, code);
-        program_->Disc.Remove(u"RichText/67B.rtf"_s);
-        program_->Disc.Remove(u"RichText/67C.rtf"_s);
+        program_->disc.Remove(u"RichText/67B.rtf"_s);
+        program_->disc.Remove(u"RichText/67C.rtf"_s);
         Form1->rtbDetails.Show();
         if (forward)
             StepPhotoForward();
         else
             StepPhotoBackward();
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: "_s + code));
     }
 
     void steps_go_on_as_ever_over_captions_that_are_missing()
     {
         for (const char* name : {"67A", "67B", "67C"})
-            program_->Disc.Remove(u"RichText/%1.rtf"_s.arg(QLatin1String(name)));
+            program_->disc.Remove(u"RichText/%1.rtf"_s.arg(QLatin1String(name)));
         Form1->rtbDetails.Show();
         QStringList shown;
         for (void (*step)() : {StepPhotoBackward, StepPhotoBackward, StepPhotoForward, StepPhotoForward,
@@ -111,7 +111,7 @@ private Q_SLOTS:
             QCOMPARE(int(state.ShownPhotoIndex), Form1->panPhoto.Caption().toInt());
         }
         QCOMPARE(shown.join(u' '), u"67C 67B 67C 67A 67C 67A"_s);
-        QCOMPARE(program_->Messages.Count(), 6);
+        QCOMPARE(program_->messages.Count(), 6);
     }
 
     void after_a_missing_caption_only_the_step_backward_sees_to_the_play_list_data()
@@ -126,8 +126,8 @@ private Q_SLOTS:
         QFETCH(bool, forward);
         program_->AddToProgramFolder(u"ssTorviks/67B.JPG"_s, "x");
         program_->AddToProgramFolder(u"ssTorviks/67C.JPG"_s, "x");
-        program_->Disc.Remove(u"RichText/67B.rtf"_s);
-        program_->Disc.Remove(u"RichText/67C.rtf"_s);
+        program_->disc.Remove(u"RichText/67B.rtf"_s);
+        program_->disc.Remove(u"RichText/67C.rtf"_s);
         Form1->rtbDetails.Show();
         QVERIFY(frmSSPhoto->SSCommand7.Enabled());
         if (forward)
@@ -141,7 +141,7 @@ private Q_SLOTS:
 
     void a_step_backward_whose_caption_is_missing_leaves_the_place_of_the_pane()
     {
-        program_->Disc.Remove(u"RichText/67C.rtf"_s);
+        program_->disc.Remove(u"RichText/67C.rtf"_s);
         Form1->rtbDetails.Show();
         Form1->rtbDetails.Move(7, 9);
         StepPhotoBackward();

@@ -21,9 +21,9 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         for (int year = 67; year <= 99; ++year)
-            program_->Disc.AddGroup(QString::number(year), 2);
+            program_->disc.AddGroup(QString::number(year), 2);
         for (const char* prefix : {"A0", "A1", "TD", "TF", "VM", "ZZ", "SB"})
-            program_->Disc.AddGroup(QString::fromLatin1(prefix), 2);
+            program_->disc.AddGroup(QString::fromLatin1(prefix), 2);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -53,7 +53,7 @@ private Q_SLOTS:
                                               u"67A.JPG"_s, u"68A.JPG"_s}));
         QCOMPARE(focus.mid(34), (QStringList{u"cmdYR(1)"_s, u"cmdYR(1)"_s, u"cmdYR(1)"_s, u"cmdYR(2)"_s,
                                              u"cmdYR(2)"_s, u"cmdYR(3)"_s}));
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void the_cursor_starts_anew_with_each_click()
@@ -125,7 +125,7 @@ private Q_SLOTS:
     {
         program_->AddToProgramFolder(u"ssTorviks/67A.JPG"_s, "x");
         program_->Click(Form1->Image4, Qt::RightButton);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
         QVERIFY(frmSSPhoto->Visible());
     }
 

@@ -22,7 +22,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -56,12 +56,12 @@ private Q_SLOTS:
         QFETCH(QString, pane);
         QFETCH(QString, title);
         QFETCH(QString, file);
-        program_->Disc.AddFile(file, TestDisc::Jpeg(Qt::blue, {90, 30}));
+        program_->disc.AddFile(file, TestDisc::Jpeg(Qt::blue, {90, 30}));
         SetTitle(title);
         PictureBox& picture = PaneOf(pane);
         picture.Show();
         Load(pane);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QVERIFY(picture.Visible());
         QCOMPARE(picture.Picture().FileName().toLower(), file.section(u'/', 1).toLower());
         QCOMPARE(picture.Width(), 90.0);
@@ -70,11 +70,11 @@ private Q_SLOTS:
 
     void clip_art_goes_by_the_year_code_and_not_by_the_title()
     {
-        program_->Disc.AddFile(u"ClipArt/A1clip.jpg"_s, TestDisc::Jpeg(Qt::blue, {90, 30}));
+        program_->disc.AddFile(u"ClipArt/A1clip.jpg"_s, TestDisc::Jpeg(Qt::blue, {90, 30}));
         SetTitle(u"1969"_s);
         state.YearCode = u"A1"_s;
         LoadClipArt();
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QCOMPARE(Form1->picClipArt.Picture().FileName(), u"A1clip.jpg"_s);
     }
 
@@ -91,7 +91,7 @@ private Q_SLOTS:
         program_.reset();
         program_ = std::make_unique<Program>();
         program_->SetScreen(screen);
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         AddPictures(u"67"_s, {160, 90});
         program_->StartBrowsing();
         LoadEmblem();
@@ -162,16 +162,16 @@ private Q_SLOTS:
         const QString before = picture.Picture().FileName();
         SetTitle(u"1969"_s);
         if (!content.isNull())
-            program_->Disc.AddFile(file, content);
+            program_->disc.AddFile(file, content);
         Load(pane);
         QCOMPARE(state.ErrorCode, code);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: "_s + code));
         QCOMPARE(picture.Visible(), visible);
         QCOMPARE(picture.Picture().FileName(), before);
     }
 
-    void the_code_of_a_loader_stays_behind()
+    void a_loader_leaves_its_code_in_the_record()
     {
         AddPictures(u"67"_s, {50, 20});
         LoadEmblem();
@@ -191,7 +191,7 @@ private:
     void AddPictures(const QString& year, const QSize& size)
     {
         for (const QString& file : {u"emblems/emb%1.jpg"_s, u"scripts/scri%1.jpg"_s, u"ClipArt/%1clip.jpg"_s})
-            program_->Disc.AddFile(file.arg(year), TestDisc::Jpeg(Qt::blue, size));
+            program_->disc.AddFile(file.arg(year), TestDisc::Jpeg(Qt::blue, size));
     }
     static PictureBox& PaneOf(const QString& name)
     {

@@ -17,11 +17,11 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         for (const char* file :
              {"emblems/emb69.jpg", "emblems/EMBpt.jpg", "emblems/embsb.jpg", "SCRIPTS/scri69.jpg",
               "SCRIPTS/SCRIpt.jpg", "SCRIPTS/SCRISB.jpg", "Clipart/69clip.jpg"})
-            program_->Disc.AddFile(QString::fromLatin1(file), TestDisc::Jpeg(Qt::blue, {90, 30}));
+            program_->disc.AddFile(QString::fromLatin1(file), TestDisc::Jpeg(Qt::blue, {90, 30}));
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -89,14 +89,14 @@ private Q_SLOTS:
         QCOMPARE(Form1->picScript.Picture().FileName(), u"scri69.jpg"_s);
         QCOMPARE(Form1->picClipArt.Picture().FileName(), u"69clip.jpg"_s);
         QVERIFY(OverlaysVisible());
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void overlays_that_are_closed_stay_closed()
     {
         Form1->panYear.SetCaption(u"1970"_s);
         RestoreMainWindow();
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
         QVERIFY(!Form1->picEmblem.Visible());
     }
 
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(!Form1->picEmblem.Visible());
         QVERIFY(!Form1->picScript.Visible());
         QVERIFY(!Form1->picClipArt.Visible());
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void the_prototypes_reload_them_as_a_year_does()
@@ -148,8 +148,8 @@ private Q_SLOTS:
         Form1->picEmblem.Show();
         Form1->panYear.SetCaption(u"1970"_s);
         RestoreMainWindow();
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER022"_s));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER022"_s));
         QVERIFY(!Form1->picEmblem.Visible());
     }
 

@@ -19,7 +19,7 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         for (const char* prefix : {"67", "69", "A0", "VM"})
-            program_->Disc.AddGroup(QString::fromLatin1(prefix), 2);
+            program_->disc.AddGroup(QString::fromLatin1(prefix), 2);
         program_->StartBrowsing();
         Form1->cmdYR(1).SetEnabled(true);
     }
@@ -53,7 +53,7 @@ private Q_SLOTS:
 
     void a_file_name_is_shown_by_its_first_twelve_characters()
     {
-        program_->Disc.AddPhoto(u"68LONGNAME0001.JPG"_s);
+        program_->disc.AddPhoto(u"68LONGNAME0001.JPG"_s);
         program_->DoubleClick(Form1->panPhoto);
         state.ShowFileNames = true;
         Select(u"1968"_s);
@@ -64,8 +64,8 @@ private Q_SLOTS:
     {
         state.CurrentYearButton = 3;
         Select(u"1970"_s);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text,
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text,
                  u"Error number: ER023\r\n\r\n Torvik photo not found for year selected.\r\n\r\n"
                  "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
         QVERIFY(!Form1->Image4.Visible());
@@ -77,11 +77,11 @@ private Q_SLOTS:
 
     void a_photo_that_cannot_be_loaded_is_ER023_and_the_focus_stays()
     {
-        program_->Disc.AddFile(u"Torviks/69A.JPG"_s, "no picture");
+        program_->disc.AddFile(u"Torviks/69A.JPG"_s, "no picture");
         Form1->cmdYR(20).SetFocus();
         Select(u"1969"_s);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER023"_s));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER023"_s));
         QVERIFY(!Form1->Image4.Visible());
         QCOMPARE(Program::Focus(), u"cmdYR(20)"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 3);
@@ -89,14 +89,14 @@ private Q_SLOTS:
 
     void on_a_disc_that_lost_its_photos_every_year_is_ER023_and_the_window_stays_usable()
     {
-        program_->Disc.Remove(u"Torviks"_s);
+        program_->disc.Remove(u"Torviks"_s);
         program_->DoubleClick(Form1->panPhoto);
-        program_->Messages.Clear();
+        program_->messages.Clear();
         program_->Click(Form1->cmdYR(3));
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER023"_s));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER023"_s));
         QVERIFY(!ProgramIsEnding());
-        program_->Disc.AddGroup(u"69"_s, 2);
+        program_->disc.AddGroup(u"69"_s, 2);
         program_->DoubleClick(Form1->panPhoto);
         program_->Click(Form1->cmdYR(3));
         QCOMPARE(Form1->Image4.Picture().FileName(), u"69A.JPG"_s);
@@ -111,12 +111,12 @@ private Q_SLOTS:
 
     void the_code_is_compared_with_its_letter_case()
     {
-        program_->Disc.AddPhoto(u"MUA.JPG"_s);
+        program_->disc.AddPhoto(u"MUA.JPG"_s);
         program_->DoubleClick(Form1->panPhoto);
-        program_->Messages.Clear();
+        program_->messages.Clear();
         Select(u"Lemuel Ostrand Art Print "_s);
         QCOMPARE(state.YearCode, u"mu"_s);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
     }
 
     void the_play_list_follows()
@@ -166,7 +166,7 @@ private Q_SLOTS:
 private:
     void Select(const QString& title)
     {
-        program_->Messages.Clear();
+        program_->messages.Clear();
         Form1->panYear.SetCaption(title);
         SelectYear();
     }

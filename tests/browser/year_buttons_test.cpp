@@ -15,7 +15,7 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         for (const QString& prefix : {u"67"_s, u"68"_s, u"69"_s, u"70"_s, u"A0"_s, u"A1"_s})
-            program_->Disc.AddGroup(prefix, 3);
+            program_->disc.AddGroup(prefix, 3);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -29,7 +29,7 @@ private Q_SLOTS:
         QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
         QCOMPARE(int(state.CurrentYearButton), 3);
         QCOMPARE(int(state.PhotoIndex), 0);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void the_last_button_goes_round_to_the_first()
@@ -95,10 +95,10 @@ private Q_SLOTS:
         QCOMPARE(int(state.CurrentYearButton), index);
     }
 
-    void a_year_without_photos_leaves_the_focus_behind_the_clicked_button()
+    void a_year_without_photos_leaves_the_focus_on_the_year_after_the_clicked_one()
     {
         program_->Click(Form1->cmdYR(10));
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(Program::Focus(), u"cmdYR(11)"_s);
         QVERIFY(!Form1->Image4.Visible());
     }

@@ -28,7 +28,7 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         for (const char* prefix : {"67", "69", "87", "A1"})
-            program_->Disc.AddGroup(QString::fromLatin1(prefix), 2);
+            program_->disc.AddGroup(QString::fromLatin1(prefix), 2);
         AddPage(u"69brto00.jpg"_s, {1240, 1610});
         program_->StartBrowsing();
         program_->Click(Form1->cmdYR(3));
@@ -52,7 +52,7 @@ private Q_SLOTS:
         QCOMPARE(pageWidth, 1240.0);
         QCOMPARE(across, 1240 - (800 - 17)); // the layout has run since the page was loaded
         QCOMPARE(caption, u"The Torvik Vollandry    1969 Advertisement"_s);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void the_viewer_takes_the_place_and_size_of_the_screen_data()
@@ -116,7 +116,7 @@ private Q_SLOTS:
 
     void the_folder_is_found_in_any_letter_case()
     {
-        QDir disc(program_->Disc.Folder());
+        QDir disc(program_->disc.Folder());
         QVERIFY(disc.rename(u"ads/69brto00.jpg"_s, u"ads/69BRTO00.JPG"_s));
         QVERIFY(disc.rename(u"ads"_s, u"ADS"_s));
         QString shown;
@@ -167,13 +167,13 @@ private Q_SLOTS:
         Form1->panYear.SetCaption(title);
         state.ErrorCode = u"before"_s;
         bool enabled = true;
-        program_->Messages.WhenAsked([&] { enabled = Form1->Enabled(); });
+        program_->messages.WhenAsked([&] { enabled = Form1->Enabled(); });
         program_->Click(Form1->cmdAd);
-        QCOMPARE(program_->Messages.Count(), 1);
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, sorry);
-        QCOMPARE(box.Style, 48);
-        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, sorry);
+        QCOMPARE(box.style, 48);
+        QCOMPARE(box.title, u"The Torvik Vollandry"_s);
         QCOMPARE(state.MessageText, sorry);
         QCOMPARE(state.MessageAnswer, u"1"_s);
         QCOMPARE(state.ErrorCode, u"before"_s);
@@ -197,10 +197,10 @@ private Q_SLOTS:
     void a_page_that_cannot_be_shown_says_sorry()
     {
         QFETCH(QByteArray, content);
-        program_->Disc.AddFile(u"ads/69brto00.jpg"_s, content);
+        program_->disc.AddFile(u"ads/69brto00.jpg"_s, content);
         program_->Click(Form1->cmdAd);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, sorry);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, sorry);
         QVERIFY(Form1->Enabled());
         QVERIFY(!frmScroll->Visible());
     }
@@ -209,11 +209,11 @@ private Q_SLOTS:
     {
         program_->Click(Form1->cmdYR(35));
         program_->Click(Form1->cmdAd);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         int loads = 0;
         frmScroll->Load = [&] { ++loads; };
         program_->Click(Form1->cmdAd);
-        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->messages.Count(), 2);
         program_->Click(Form1->cmdYR(3));
         bool allVisible = false;
         int down = 0;
@@ -225,7 +225,7 @@ private Q_SLOTS:
         QVERIFY(allVisible);
         QCOMPARE(down, 1610 - (600 - 17));
         QCOMPARE(loads, 0);
-        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->messages.Count(), 2);
     }
 
     void a_page_of_20000_pixels_opens()
@@ -240,10 +240,10 @@ private Q_SLOTS:
         });
         QCOMPARE(width, 20000.0);
         QCOMPARE(across, 20000 - 783);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
-    void a_failure_behind_the_loading_is_passed_over()
+    void a_failure_after_the_loading_is_passed_over()
     {
         int shown = 0;
         ModalVisit visit(
@@ -257,14 +257,14 @@ private Q_SLOTS:
             [] { frmScroll.Unload(); });
         program_->Click(Form1->cmdAd);
         QCOMPARE(shown, 2);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QVERIFY(!ProgramIsEnding());
     }
 
 private:
     void AddPage(const QString& name, const QSize& size)
     {
-        program_->Disc.AddFile(u"ads/"_s + name, TestDisc::Jpeg(Qt::darkGreen, size));
+        program_->disc.AddFile(u"ads/"_s + name, TestDisc::Jpeg(Qt::darkGreen, size));
     }
     /// A JPEG whose header tells a size that its data does not have.
     static QByteArray Sized(QByteArray jpeg, int width, int height)

@@ -22,12 +22,12 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         QString lines;
         for (int number = 1; number <= 200; ++number)
             lines += u"Line %1\\par\n"_s.arg(number);
-        program_->Disc.AddDocument(u"long.rtf"_s, lines);
-        program_->Disc.AddDocument(u"other.rtf"_s, lines + u"Other"_s);
+        program_->disc.AddDocument(u"long.rtf"_s, lines);
+        program_->disc.AddDocument(u"other.rtf"_s, lines + u"Other"_s);
         program_->StartBrowsing();
         txtForm->rtbText.SetFileName(u"G:\\RichText\\long.rtf"_s);
         txtForm->Show();

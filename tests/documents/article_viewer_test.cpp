@@ -26,8 +26,8 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         for (const QString& prefix : {u"67"_s, u"69"_s, u"A1"_s})
-            program_->Disc.AddGroup(prefix, 2);
-        program_->Disc.AddDocument(u"some.rtf"_s, u"Some words about a car."_s);
+            program_->disc.AddGroup(prefix, 2);
+        program_->disc.AddDocument(u"some.rtf"_s, u"Some words about a car."_s);
         program_->StartBrowsing();
         state.DocumentFile = u"G:\\RichText\\some.rtf"_s;
         state.DocumentTitle = u"A title of its own"_s;
@@ -110,10 +110,10 @@ private Q_SLOTS:
             focus = Program::Focus();
             modal = QApplication::activeModalWidget() == txtForm->rtbText.Widget().window();
         });
-        QVERIFY(viewed.Came);
-        QCOMPARE(viewed.Caption, u"A title of its own"_s);
-        QCOMPARE(viewed.File, u"G:\\RichText\\some.rtf"_s);
-        QCOMPARE(viewed.Text, u"Some words about a car."_s);
+        QVERIFY(viewed.came);
+        QCOMPARE(viewed.caption, u"A title of its own"_s);
+        QCOMPARE(viewed.file, u"G:\\RichText\\some.rtf"_s);
+        QCOMPARE(viewed.text, u"Some words about a car."_s);
         QCOMPARE(focus, u"SSCommand1"_s);
         QVERIFY(modal);
         QVERIFY(!txtForm.IsLoaded());
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QVERIFY(!open);
         QVERIFY(Form1->Enabled());
         QCOMPARE(Program::Focus(), focus);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void a_single_click_in_the_text_does_nothing()
@@ -217,16 +217,16 @@ private Q_SLOTS:
         bool open = false;
         Open([&] {
             txtForm->SetCaption(u"What the window says"_s);
-            program_->Messages.Answer(msgbox::answerNo);
+            program_->messages.Answer(msgbox::answerNo);
             program_->Click(txtForm->cmdPrint);
             open = txtForm.IsLoaded() && txtForm->Visible();
         });
-        QCOMPARE(program_->Messages.Count(), 1);
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, u"Would you like to print the \r\n\r\nWhat the window says?"_s);
-        QCOMPARE(box.Style, 36);
-        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
-        QCOMPARE(state.MessageText, box.Text);
+        QCOMPARE(program_->messages.Count(), 1);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, u"Would you like to print the \r\n\r\nWhat the window says?"_s);
+        QCOMPARE(box.style, 36);
+        QCOMPARE(box.title, u"The Torvik Vollandry"_s);
+        QCOMPARE(state.MessageText, box.text);
         QCOMPARE(state.MessageAnswer, u"7"_s);
         QVERIFY(open);
         QVERIFY(printed.Files().isEmpty());
@@ -237,17 +237,17 @@ private Q_SLOTS:
         const PrintFolder printed;
         bool open = false;
         Open([&] {
-            program_->Messages.Answer(msgbox::answerYes);
+            program_->messages.Answer(msgbox::answerYes);
             program_->Click(txtForm->cmdPrint);
             open = txtForm.IsLoaded() && txtForm->Visible();
         });
         QVERIFY(open);
         QCOMPARE(state.MessageAnswer, u"6"_s);
-        QCOMPARE(program_->Messages.Count(), 2);
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, u"Printing complete!"_s);
-        QCOMPARE(box.Style, 48);
-        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
+        QCOMPARE(program_->messages.Count(), 2);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, u"Printing complete!"_s);
+        QCOMPARE(box.style, 48);
+        QCOMPARE(box.title, u"The Torvik Vollandry"_s);
         QCOMPARE(printed.Files(), QStringList(u"job-1.pdf"_s));
         QCOMPARE(printed.Pages(1).size(), 1);
         QCOMPARE(printed.Pages(1).first().simplified(), u"Some words about a car."_s);
@@ -263,7 +263,7 @@ private Q_SLOTS:
         const ModalVisit visit(
             [&] {
                 program_->Settle();
-                program_->Messages.Answer(msgbox::answerYes);
+                program_->messages.Answer(msgbox::answerYes);
                 QTest::mouseClick(&txtForm->cmdPrint.Widget(), Qt::LeftButton);
             },
             [] { QVERIFY(ProgramIsEnding()); });
@@ -276,8 +276,8 @@ private Q_SLOTS:
         Printer.PrintTo({});
         QVERIFY(visit.Ran());
         QVERIFY(ended);
-        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '482':\r\n\r\nPrinter error"_s);
-        QCOMPARE(program_->Messages.Count(),
+        QCOMPARE(program_->messages.Last().text, u"Run-time error '482':\r\n\r\nPrinter error"_s);
+        QCOMPARE(program_->messages.Count(),
                  2); // the question and the failure; nothing is said to be complete
     }
 
@@ -307,10 +307,10 @@ private:
 
     static void CheckPlace(const Control& control, const Twips& place)
     {
-        QCOMPARE(control.Left(), place.Left);
-        QCOMPARE(control.Top(), place.Top);
-        QCOMPARE(control.Width(), place.Width);
-        QCOMPARE(control.Height(), place.Height);
+        QCOMPARE(control.Left(), place.left);
+        QCOMPARE(control.Top(), place.top);
+        QCOMPARE(control.Width(), place.width);
+        QCOMPARE(control.Height(), place.height);
     }
 
     static int ColoursOf(const QImage& image)

@@ -35,18 +35,18 @@ private Q_SLOTS:
         QFETCH(QString, path);
         QFETCH(QString, title);
         QFETCH(int, way);
-        program_->Disc.AddDocument(FileOf(path), u"Text of "_s + FileOf(path));
+        program_->disc.AddDocument(FileOf(path), u"Text of "_s + FileOf(path));
         state.DocumentTitle = earlier;
         QCOMPARE(ActionOf(entry)->text(), menu);
 
         const Viewed viewed = Open(entry);
-        QVERIFY2(viewed.Came, qPrintable(program_->Messages.Last().Text));
-        QCOMPARE(viewed.File, u"G:"_s + path);
-        QCOMPARE(state.DocumentFile, viewed.File);
-        QCOMPARE(viewed.Text, u"Text of "_s + FileOf(path));
-        QCOMPARE(viewed.Caption, way == Late ? earlier : title);
+        QVERIFY2(viewed.came, qPrintable(program_->messages.Last().text));
+        QCOMPARE(viewed.file, u"G:"_s + path);
+        QCOMPARE(state.DocumentFile, viewed.file);
+        QCOMPARE(viewed.text, u"Text of "_s + FileOf(path));
+        QCOMPARE(viewed.caption, way == Late ? earlier : title);
         QCOMPARE(state.DocumentTitle, way == Before || way == After ? earlier : title);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
         QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
     }
 
@@ -59,24 +59,24 @@ private Q_SLOTS:
         QFETCH(QString, code);
         state.DocumentTitle = earlier;
         Form1->cmdDesc.SetFocus();
-        QVERIFY(!Open(entry).Came);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY2(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code + u"\r"_s),
-                 qPrintable(program_->Messages.Last().Text));
+        QVERIFY(!Open(entry).came);
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY2(program_->messages.Last().text.startsWith(u"Error number: "_s + code + u"\r"_s),
+                 qPrintable(program_->messages.Last().text));
         QCOMPARE(state.ErrorCode, code);
         QVERIFY(txtForm.IsLoaded());
         QVERIFY(!txtForm->Visible());
         QCOMPARE(Program::Focus(), u"cmdDesc"_s);
-        // What comes behind the file has not happened; what comes before it has.
+        // What comes after the file has not happened; what comes before it has.
         QCOMPARE(state.DocumentTitle, way == Stored ? title : earlier);
         QCOMPARE(txtForm->Caption(), way == Stored || way == Before ? title : earlier);
     }
 
     void before_the_failure_no_code_is_set()
     {
-        program_->Disc.AddDocument(u"books.rtf"_s, u"Books"_s);
+        program_->disc.AddDocument(u"books.rtf"_s, u"Books"_s);
         state.ErrorCode = u"ER999"_s;
-        QVERIFY(Open(u"mnuBooks"_s).Came);
+        QVERIFY(Open(u"mnuBooks"_s).came);
         QCOMPARE(state.ErrorCode, u"ER999"_s);
     }
 
@@ -88,7 +88,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, entry);
         QFETCH(QString, path);
-        program_->Disc.AddDocument(FileOf(path), FileOf(path));
+        program_->disc.AddDocument(FileOf(path), FileOf(path));
         for (Button* wave : {&txtForm->SSCommand2, &txtForm->SSCommand3}) {
             wave->SetEnabled(true);
             wave->Show();
@@ -114,10 +114,10 @@ private Q_SLOTS:
     {
         AddAll({u"books.rtf"_s, u"credits.rtf"_s, u"whatsnew.rtf"_s});
         Open(u"mnuBooks"_s);
-        QCOMPARE(Open(u"mnuCredits"_s).Caption, u"The Torvik Vollandry       Credits"_s);
+        QCOMPARE(Open(u"mnuCredits"_s).caption, u"The Torvik Vollandry       Credits"_s);
         const Viewed whatsNew = Open(u"mnuWhatsNew"_s);
-        QCOMPARE(whatsNew.Text, u"whatsnew.rtf"_s);
-        QCOMPARE(whatsNew.Caption, u"The Torvik Vollandry       Books"_s);
+        QCOMPARE(whatsNew.text, u"whatsnew.rtf"_s);
+        QCOMPARE(whatsNew.caption, u"The Torvik Vollandry       Books"_s);
     }
 
     void an_empty_title_reaches_the_window_system_as_it_is()
@@ -139,16 +139,16 @@ private Q_SLOTS:
     void whats_new_as_the_first_document_has_no_title()
     {
         AddAll({u"whatsnew.rtf"_s});
-        QCOMPARE(Open(u"mnuWhatsNew"_s).Caption, QString());
-        QCOMPARE(Open(u"mnuWhatsNew"_s).Caption, u"The Torvik Vollandry       What's New"_s);
+        QCOMPARE(Open(u"mnuWhatsNew"_s).caption, QString());
+        QCOMPARE(Open(u"mnuWhatsNew"_s).caption, u"The Torvik Vollandry       What's New"_s);
     }
 
     void a_magazine_after_the_books_bears_their_title_and_the_next_late_entry_its_own()
     {
         AddAll({u"books.rtf"_s, u"magmi.rtf"_s, u"PRIntro.rtf"_s});
         Open(u"mnuBooks"_s);
-        QCOMPARE(Open(u"mnuMag(1)"_s).Caption, u"The Torvik Vollandry       Books"_s);
-        QCOMPARE(Open(u"mnuPR(1)"_s).Caption, u"The Torvik Vollandry       Magazines"_s);
+        QCOMPARE(Open(u"mnuMag(1)"_s).caption, u"The Torvik Vollandry       Books"_s);
+        QCOMPARE(Open(u"mnuPR(1)"_s).caption, u"The Torvik Vollandry       Magazines"_s);
     }
 
     void the_print_question_quotes_a_stale_title_too()
@@ -158,7 +158,7 @@ private Q_SLOTS:
         const ModalVisit visit([&] { program_->Click(txtForm->cmdPrint); }, [] { txtForm.Unload(); });
         ActionOf(u"mnuMag(1)"_s)->trigger();
         QVERIFY(visit.Ran());
-        QCOMPARE(program_->Messages.Last().Text,
+        QCOMPARE(program_->messages.Last().text,
                  u"Would you like to print the \r\n\r\nThe Torvik Vollandry       Books?"_s);
     }
 
@@ -166,15 +166,15 @@ private Q_SLOTS:
     {
         AddAll({u"catalogs.rtf"_s});
         Open(u"mnuBooks"_s); // is not there
-        QCOMPARE(Open(u"mnuCatalogs"_s).Caption, u"The Torvik Vollandry       Books"_s);
-        QCOMPARE(Open(u"mnuCatalogs"_s).Caption, u"The Torvik Vollandry       Catalogs"_s);
+        QCOMPARE(Open(u"mnuCatalogs"_s).caption, u"The Torvik Vollandry       Books"_s);
+        QCOMPARE(Open(u"mnuCatalogs"_s).caption, u"The Torvik Vollandry       Catalogs"_s);
     }
 
     void an_index_that_no_entry_has_opens_what_was_open_before_data()
     {
         QTest::addColumn<int>("index");
         QTest::newRow("0") << 0;
-        QTest::newRow("behind the last") << 6;
+        QTest::newRow("after the last") << 6;
         QTest::newRow("negative") << -1;
     }
     void an_index_that_no_entry_has_opens_what_was_open_before()
@@ -183,7 +183,7 @@ private Q_SLOTS:
         AddAll({u"books.rtf"_s});
         for (const auto show : {ShowMagazine, ShowPressRelease, ShowMiscellaneous}) {
             Open(u"mnuBooks"_s);
-            QCOMPARE(ViewerOf(*program_, [&] { show(index); }).Text, u"books.rtf"_s);
+            QCOMPARE(ViewerOf(*program_, [&] { show(index); }).text, u"books.rtf"_s);
         }
     }
 
@@ -206,15 +206,15 @@ private Q_SLOTS:
         QFETCH(QString, title);
         QFETCH(QString, code);
         const auto show = guide ? ShowSiblingGuide : ShowEngines;
-        QVERIFY(!ViewerOf(*program_, show).Came);
+        QVERIFY(!ViewerOf(*program_, show).came);
         QCOMPARE(state.ErrorCode, code);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         txtForm.Unload();
 
-        program_->Disc.AddDocument(FileOf(path), FileOf(path));
+        program_->disc.AddDocument(FileOf(path), FileOf(path));
         const Viewed viewed = ViewerOf(*program_, show);
-        QCOMPARE(viewed.File, u"G:"_s + path);
-        QCOMPARE(viewed.Caption, title);
+        QCOMPARE(viewed.file, u"G:"_s + path);
+        QCOMPARE(viewed.caption, title);
         QCOMPARE(state.DocumentTitle, title);
     }
 
@@ -274,7 +274,7 @@ private:
     void AddAll(const QStringList& files)
     {
         for (const QString& file : files)
-            program_->Disc.AddDocument(file, file);
+            program_->disc.AddDocument(file, file);
     }
 
     static QAction* ActionOf(const QString& name)

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QImage>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScrollBar>
@@ -41,6 +42,16 @@ QString Present()
     return Marked(look::presentMark).join(u'|');
 }
 
+int CountOf(const QImage& image, const QColor& colour)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == colour ? 1 : 0;
+    }
+    return count;
+}
+
 bool IsInView(const QString& word)
 {
     QTextCursor cursor(Pane().document());
@@ -58,8 +69,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddDocument(u"some.rtf"_s, u"A Red car, a red hood, "_s +
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddDocument(u"some.rtf"_s, u"A Red car, a red hood, "_s +
                                                       u"more of it\\par "_s.repeated(200) +
                                                       u"and a redder roof."_s);
         program_->StartBrowsing();
@@ -196,11 +207,48 @@ private Q_SLOTS:
         QVERIFY(!txtForm->rtbText.Document().toHtml().contains(look::mark.name()));
         Key(Qt::Key_F3); // the selection stays
         QVERIFY(Pane().textCursor().hasSelection());
+
+        Key(Qt::Key_Escape);
+        const PrintFolder printed;
+        Print();
+        Type(u"red"_s);
+        QCOMPARE(txtForm->lblFindText.Caption(), u"1 of 3"_s);
+        Print();
+        QCOMPARE(printed.Jobs(), 2);
+        QVERIFY(InkOf(printed.Image(1, 1)).isValid());
+        QCOMPARE(printed.Image(2, 1), printed.Image(1, 1));
+    }
+
+    void marks_can_be_read_on_every_ground_data()
+    {
+        QTest::addColumn<QString>("ground");
+        QTest::addColumn<QColor>("colour");
+        QTest::newRow("paper") << QString() << QColor(Qt::white);
+        QTest::newRow("black") << u"\\chcbpat1\\cf2 "_s << QColor(Qt::black);
+        QTest::newRow("blue") << u"\\chcbpat3\\cf2 "_s << QColor(0, 0, 160);
+    }
+    void marks_can_be_read_on_every_ground()
+    {
+        QFETCH(QString, ground);
+        QFETCH(QColor, colour);
+        program_->disc.AddFile(
+            u"RichText/ground.rtf"_s,
+            "{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl;\\red0\\green0\\blue0;\\red255\\green255\\blue255;"
+            "\\red0\\green0\\blue160;}\\fs60 " +
+                ground.toLatin1() + "red and red again}");
+        Open(u"ground.rtf"_s);
+        const QImage before = Pane().viewport()->grab().toImage();
+        QVERIFY(CountOf(before, colour) > 0);
+        Type(u"red"_s);
+        const QImage marked = Pane().viewport()->grab().toImage();
+        for (const QColor& mark : {look::presentMark, look::mark})
+            QVERIFY(CountOf(marked, mark) > CountOf(before, mark) + 500);
+        QVERIFY(CountOf(marked, look::text) > CountOf(before, look::text)); // dark letters on both
     }
 
     void thousands_of_hits_are_marked_at_once()
     {
-        program_->Disc.AddDocument(u"many.rtf"_s, u"red "_s.repeated(6000));
+        program_->disc.AddDocument(u"many.rtf"_s, u"red "_s.repeated(6000));
         Open(u"many.rtf"_s);
         Type(u"red "_s);
         QCOMPARE(txtForm->lblFindText.Caption(), u"1 of 5000"_s);
@@ -215,6 +263,14 @@ private:
         txtForm->Show();
         txtForm->Window().activateWindow();
         program_->Settle();
+    }
+
+    /// Answers the question whether to print, and the box that tells of the end.
+    void Print()
+    {
+        program_->messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerOk);
+        program_->Click(txtForm->cmdPrint);
     }
 
     void Key(Qt::Key key, Qt::KeyboardModifiers held = {})

@@ -16,11 +16,11 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddGroup(u"69"_s, 2);
-        program_->Disc.AddFile(u"wav/1969.wav"_s, "RIFF");
-        program_->Disc.AddFile(u"wav/intro.wav"_s, "RIFF");
-        program_->Disc.AddFile(u"wav/Torvik Metal Signs .wav"_s, "RIFF");
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"69"_s, 2);
+        program_->disc.AddFile(u"wav/1969.wav"_s, "RIFF");
+        program_->disc.AddFile(u"wav/intro.wav"_s, "RIFF");
+        program_->disc.AddFile(u"wav/Torvik Metal Signs .wav"_s, "RIFF");
         program_->StartBrowsing();
         txtForm->Show();
         for (Button* button : {&txtForm->SSCommand2, &txtForm->SSCommand3}) {
@@ -50,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(state.ErrorCode, u"ER032"_s);
         QCOMPARE(Form1->MMControl1.FileName(), file);
         QVERIFY(Form1->MMControl1.IsOpen());
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void a_missing_narration_is_reported_and_the_device_left_as_it_was()
@@ -95,17 +95,17 @@ private Q_SLOTS:
     {
         program_->Click(txtForm->SSCommand3);
         QVERIFY(!Form1->MMControl1.IsOpen());
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
 private:
     void CheckReport(const QString& file)
     {
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text,
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text,
                  u"Error number: ER032\r\n\r\n Unable to load sound file: "_s + file +
                      u"\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s);
-        QCOMPARE(program_->Messages.Last().Style, 16);
+        QCOMPARE(program_->messages.Last().style, 16);
     }
 
     std::unique_ptr<Program> program_;

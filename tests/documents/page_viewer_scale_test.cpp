@@ -35,7 +35,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, title);
         Program program;
-        program.Disc.AddGroup(u"67"_s, 1);
+        program.disc.AddGroup(u"67"_s, 1);
         program.StartBrowsing();
         Screen.Pretend(std::nullopt); // the real one
         const QSize screen = QGuiApplication::primaryScreen()->size();
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(Screen.Height(), screen.height() * 15.0);
 
         Form1->panYear.SetCaption(title);
-        program.Disc.AddFile(u"ads/67brto00.jpg"_s, TestDisc::Jpeg(Qt::blue, {1240, 1610}));
+        program.disc.AddFile(u"ads/67brto00.jpg"_s, TestDisc::Jpeg(Qt::blue, {1240, 1610}));
         frmScroll->SetWidth(Screen.Width());
         frmScroll->SetHeight(Screen.Height());
         frmScroll->picChild.Load(u"G:\\ads\\67brto00.jpg"_s);

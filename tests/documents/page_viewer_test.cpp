@@ -26,7 +26,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -152,13 +152,13 @@ private Q_SLOTS:
     void a_range_above_32767_overflows_and_the_bar_keeps_the_one_it_had()
     {
         OpenPage({1240, 700});
-        program_->Disc.AddFile(u"ads/67brto00.jpg"_s, TestDisc::Jpeg(Qt::blue, {33600, 900}));
+        program_->disc.AddFile(u"ads/67brto00.jpg"_s, TestDisc::Jpeg(Qt::blue, {33600, 900}));
         frmScroll->picChild.Load(u"G:\\ads\\67brto00.jpg"_s);
         frmScroll->SetWidth(801 * 15);
         QCOMPARE(frmScroll->HScroll1.Max(), 1240 - 783);
         QVERIFY(frmScroll->HScroll1.Enabled());
         QCOMPARE(frmScroll->HScroll1.LargeChange(), (1240 - 783) / 42 / 6);
-        QCOMPARE(frmScroll->VScroll1.Max(), 900 - 583); // and the layout goes on behind it
+        QCOMPARE(frmScroll->VScroll1.Max(), 900 - 583); // and the layout goes on after it
         QCOMPARE(RectOf(frmScroll->SSCommand1), QRectF(784, 583, bar, bar));
     }
 
@@ -356,7 +356,7 @@ private:
     /// Shows the viewer on a window of 800 by 600 pixels with a page of that size.
     void OpenPage(const QSize& page)
     {
-        program_->Disc.AddFile(u"ads/67brto00.jpg"_s, TestDisc::Jpeg(Qt::blue, page));
+        program_->disc.AddFile(u"ads/67brto00.jpg"_s, TestDisc::Jpeg(Qt::blue, page));
         frmScroll->SetWidth(800 * 15);
         frmScroll->SetHeight(600 * 15);
         frmScroll->picChild.Load(u"G:\\ads\\67brto00.jpg"_s);

@@ -23,7 +23,7 @@ private Q_SLOTS:
         program_ = std::make_unique<Program>();
         for (const QString& prefix : {u"67"_s, u"69"_s, u"TD"_s, u"TF"_s, u"VM"_s, u"ZZ"_s, u"SB"_s, u"PT"_s,
                                       u"M1"_s, u"M3"_s, u"MS"_s})
-            program_->Disc.AddGroup(prefix, 2);
+            program_->disc.AddGroup(prefix, 2);
         program_->StartBrowsing();
         program_->Click(Form1->cmdYR(3));
     }
@@ -62,7 +62,7 @@ private Q_SLOTS:
         QCOMPARE(Form1->panYear.Caption(), title);
         QCOMPARE(Form1->Image4.Visible(), !photo.isEmpty());
         if (photo.isEmpty())
-            QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER023"_s));
+            QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER023"_s));
         else
             QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\"_s + photo);
         CheckBeginning();
@@ -119,20 +119,20 @@ private Q_SLOTS:
     {
         QFETCH(QString, entry);
         for (const char* code : {"TD", "SB"}) {
-            program_->Disc.Remove(u"Torviks/%1A.JPG"_s.arg(QLatin1String(code)));
-            program_->Disc.Remove(u"Torviks/%1B.JPG"_s.arg(QLatin1String(code)));
+            program_->disc.Remove(u"Torviks/%1A.JPG"_s.arg(QLatin1String(code)));
+            program_->disc.Remove(u"Torviks/%1B.JPG"_s.arg(QLatin1String(code)));
         }
         BuildPhotoSet();
         QVERIFY(!Form1->Image4.Picture().IsEmpty());
         MousePointer pointer = MousePointer::Default;
         bool cleared = false;
-        program_->Messages.WhenAsked([&] {
+        program_->messages.WhenAsked([&] {
             pointer = Screen.Pointer();
             cleared = Form1->Image4.Picture().IsEmpty();
         });
         ChooseMenu(*Form1, entry);
         program_->Settle();
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(pointer, MousePointer::Hourglass);
         QVERIFY(cleared);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
@@ -166,8 +166,8 @@ private Q_SLOTS:
 
     void two_topics_without_an_entry_clear_even_a_photo_that_bears_their_letters()
     {
-        program_->Disc.AddPhoto(u"rvA.JPG"_s);
-        program_->Disc.AddPhoto(u"anA.JPG"_s);
+        program_->disc.AddPhoto(u"rvA.JPG"_s);
+        program_->disc.AddPhoto(u"anA.JPG"_s);
         state.PhotoFiles(1) = u"G:\\Torviks\\rvA.JPG"_s;
         state.PhotoFiles(2) = u"G:\\Torviks\\anA.JPG"_s;
         for (void (*show)() : {ShowCalendars, ShowCollectorPlates}) {
@@ -177,7 +177,7 @@ private Q_SLOTS:
             QVERIFY(Form1->Image4.Picture().IsEmpty());
             QVERIFY(Form1->Image4.Visible());
         }
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void two_topics_without_an_entry_clear_the_photo()
@@ -185,10 +185,10 @@ private Q_SLOTS:
         for (const auto& [show, title] :
              {std::pair{&ShowCalendars, u"Torvik Calendars "_s},
               std::pair{&ShowCollectorPlates, u"Franklin Mint Collector Plates "_s}}) {
-            program_->Messages.Clear();
+            program_->messages.Clear();
             show();
             QCOMPARE(Form1->panYear.Caption(), title);
-            QCOMPARE(program_->Messages.Count(), 1); // no photo bears the letters of such a title
+            QCOMPARE(program_->messages.Count(), 1); // no photo bears the letters of such a title
             QCOMPARE(int(state.CurrentYearButton), 0);
         }
     }

@@ -18,7 +18,7 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         for (const QString& prefix : {u"67"_s, u"69"_s, u"A1"_s})
-            program_->Disc.AddGroup(prefix, 2);
+            program_->disc.AddGroup(prefix, 2);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -94,14 +94,14 @@ private Q_SLOTS:
         QFETCH(QString, file);
         QFETCH(QString, opened);
         QFETCH(QString, window);
-        program_->Disc.AddDocument(file, u"Text of "_s + file);
+        program_->disc.AddDocument(file, u"Text of "_s + file);
         const Viewed viewed = Click(button, title);
-        QVERIFY2(viewed.Came, qPrintable(program_->Messages.Last().Text));
-        QCOMPARE(viewed.Caption, window);
-        QCOMPARE(viewed.File, u"G:"_s + opened);
-        QCOMPARE(state.DocumentFile, viewed.File);
-        QCOMPARE(viewed.Text, u"Text of "_s + file);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY2(viewed.came, qPrintable(program_->messages.Last().text));
+        QCOMPARE(viewed.caption, window);
+        QCOMPARE(viewed.file, u"G:"_s + opened);
+        QCOMPARE(state.DocumentFile, viewed.file);
+        QCOMPARE(viewed.text, u"Text of "_s + file);
+        QVERIFY(program_->messages.Shown().isEmpty());
         QVERIFY(!txtForm.IsLoaded());
     }
 
@@ -109,7 +109,7 @@ private Q_SLOTS:
     {
         for (const QString& file : {u"69colors.rtf"_s, u"69desc.rtf"_s, u"a1desc.rtf"_s,
                                     u"introduction.rtf"_s, u"69opts.rtf"_s, u"stamps.rtf"_s})
-            program_->Disc.AddDocument(file, file);
+            program_->disc.AddDocument(file, file);
         Click(u"cmdColors"_s, u"1969"_s);
         QCOMPARE(state.DocumentTitle, u"The Torvik Vollandry       1969 Colors"_s);
         Click(u"cmdDesc"_s, u"1969"_s);
@@ -143,11 +143,11 @@ private Q_SLOTS:
         QFETCH(QString, button);
         QFETCH(QString, title);
         QFETCH(QString, code);
-        QVERIFY(!Click(button, title).Came);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY2(program_->Messages.Last().Text.startsWith(u"Error number: "_s + code + u"\r"_s),
-                 qPrintable(program_->Messages.Last().Text));
-        QCOMPARE(program_->Messages.Last().Style, 16);
+        QVERIFY(!Click(button, title).came);
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY2(program_->messages.Last().text.startsWith(u"Error number: "_s + code + u"\r"_s),
+                 qPrintable(program_->messages.Last().text));
+        QCOMPARE(program_->messages.Last().style, 16);
         QCOMPARE(state.ErrorCode, code);
     }
 
@@ -174,8 +174,8 @@ private Q_SLOTS:
         QFETCH(QString, button);
         QFETCH(QString, code);
         program_->PutDiscIn(QChar());
-        QVERIFY(!Click(button, u"1969"_s).Came);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(!Click(button, u"1969"_s).came);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(state.ErrorCode, code);
         QCOMPARE(Program::Focus(), button); // a failure is pending, so the focus stays
     }
@@ -191,20 +191,20 @@ private Q_SLOTS:
     {
         state.ErrorCode = u"ER999"_s;
         for (const QString& button : {u"cmdColors"_s, u"cmdOptions"_s, u"cmdNostalgia"_s}) {
-            QVERIFY(!Click(button, u"panYear"_s).Came);
+            QVERIFY(!Click(button, u"panYear"_s).came);
             QCOMPARE(state.ErrorCode, u"ER999"_s);
         }
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void a_failed_opening_leaves_the_old_caption_for_the_next_stored_title()
     {
-        program_->Disc.AddDocument(u"69colors.rtf"_s, u"Colours"_s);
+        program_->disc.AddDocument(u"69colors.rtf"_s, u"Colours"_s);
         Click(u"cmdDesc"_s, u"1969"_s);
         QVERIFY(txtForm.IsLoaded());
         QVERIFY(!txtForm->Visible());
-        QCOMPARE(Click(u"cmdColors"_s, u"1969"_s).Caption, u"The Torvik Vollandry       1969 Description"_s);
-        QCOMPARE(Click(u"cmdColors"_s, u"1969"_s).Caption, u"The Torvik Vollandry       1969 Colors"_s);
+        QCOMPARE(Click(u"cmdColors"_s, u"1969"_s).caption, u"The Torvik Vollandry       1969 Description"_s);
+        QCOMPARE(Click(u"cmdColors"_s, u"1969"_s).caption, u"The Torvik Vollandry       1969 Colors"_s);
     }
 
     void colours_that_are_missing_never_touch_the_viewer()
@@ -222,14 +222,14 @@ private Q_SLOTS:
 
     void the_description_hides_the_wave_buttons_without_disabling_them()
     {
-        program_->Disc.AddDocument(u"69desc.rtf"_s, u"Description"_s);
+        program_->disc.AddDocument(u"69desc.rtf"_s, u"Description"_s);
         CheckWaveButtons(u"cmdDesc"_s, true);
     }
 
     void the_others_disable_and_hide_the_wave_buttons()
     {
-        program_->Disc.AddDocument(u"69colors.rtf"_s, u"Colours"_s);
-        program_->Disc.AddDocument(u"nostalgia69.rtf"_s, u"Nostalgia"_s);
+        program_->disc.AddDocument(u"69colors.rtf"_s, u"Colours"_s);
+        program_->disc.AddDocument(u"nostalgia69.rtf"_s, u"Nostalgia"_s);
         CheckWaveButtons(u"cmdColors"_s, false);
         CheckWaveButtons(u"cmdNostalgia"_s, false);
     }
@@ -241,7 +241,7 @@ private Q_SLOTS:
         QCOMPARE(state.YearCode, u"rv"_s);
         QCOMPARE(state.DocumentFile, u"G:\\richtext\\nostalgiarv.rtf"_s);
         QCOMPARE(txtForm->Caption(), u"The Torvik Vollandry     Nostalgia Torv"_s);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
     }
 
@@ -249,7 +249,7 @@ private Q_SLOTS:
     {
         Screen.SetMousePointer(MousePointer::Hourglass);
         MousePointer whileAsked = MousePointer::Default;
-        program_->Messages.WhenAsked([&] { whileAsked = Screen.Pointer(); });
+        program_->messages.WhenAsked([&] { whileAsked = Screen.Pointer(); });
         Click(u"cmdNostalgia"_s, u"1969"_s);
         QCOMPARE(whileAsked, MousePointer::Hourglass);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
@@ -257,8 +257,8 @@ private Q_SLOTS:
 
     void an_article_is_found_whatever_the_letter_case_of_its_name()
     {
-        program_->Disc.AddDocument(u"69DESC.RTF"_s, u"Capitals"_s);
-        QCOMPARE(Click(u"cmdDesc"_s, u"1969"_s).Text, u"Capitals"_s);
+        program_->disc.AddDocument(u"69DESC.RTF"_s, u"Capitals"_s);
+        QCOMPARE(Click(u"cmdDesc"_s, u"1969"_s).text, u"Capitals"_s);
     }
 
 private:

@@ -21,7 +21,7 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         for (const QString& prefix : {u"67"_s, u"69"_s, u"A1"_s})
-            program_->Disc.AddGroup(prefix, 2);
+            program_->disc.AddGroup(prefix, 2);
         program_->StartBrowsing();
         program_->Click(Form1->cmdYR(3));
     }
@@ -62,10 +62,10 @@ private Q_SLOTS:
         QFETCH(QString, title);
         QFETCH(int, photo);
         QFETCH(QString, file);
-        program_->Disc.AddDocument(file, u"Note "_s + file);
+        program_->disc.AddDocument(file, u"Note "_s + file);
         const Viewed viewed = ClickStats(title, photo);
-        QVERIFY(!viewed.Came);
-        QVERIFY2(program_->Messages.Shown().isEmpty(), qPrintable(program_->Messages.Last().Text));
+        QVERIFY(!viewed.came);
+        QVERIFY2(program_->messages.Shown().isEmpty(), qPrintable(program_->messages.Last().text));
         QVERIFY(Form1->rtbDetails.Visible());
         QCOMPARE(state.DocumentFile, u"G:\\richtext\\"_s + file);
         QCOMPARE(Form1->rtbDetails.FileName(), state.DocumentFile);
@@ -98,22 +98,22 @@ private Q_SLOTS:
         QFETCH(QString, title);
         QFETCH(QString, file);
         QFETCH(QString, window);
-        program_->Disc.AddDocument(file, u"Article "_s + file);
+        program_->disc.AddDocument(file, u"Article "_s + file);
         const Viewed viewed = ClickStats(title);
-        QVERIFY2(viewed.Came, qPrintable(program_->Messages.Last().Text));
-        QCOMPARE(viewed.Caption, window);
+        QVERIFY2(viewed.came, qPrintable(program_->messages.Last().text));
+        QCOMPARE(viewed.caption, window);
         QCOMPARE(state.DocumentTitle, window);
-        QCOMPARE(viewed.File, u"G:\\richtext\\"_s + file);
-        QCOMPARE(viewed.Text, u"Article "_s + file);
+        QCOMPARE(viewed.file, u"G:\\richtext\\"_s + file);
+        QCOMPARE(viewed.text, u"Article "_s + file);
         QVERIFY(!Form1->rtbDetails.Visible());
         CheckNotePlace();
     }
 
     void the_first_Kestra_has_notes_and_so_never_its_article()
     {
-        program_->Disc.AddDocument(u"m1stats.rtf"_s, u"Article"_s);
-        program_->Disc.AddDocument(u"m1002.rtf"_s, u"Note"_s);
-        QVERIFY(!ClickStats(u"Torvik Kestra I "_s).Came);
+        program_->disc.AddDocument(u"m1stats.rtf"_s, u"Article"_s);
+        program_->disc.AddDocument(u"m1002.rtf"_s, u"Note"_s);
+        QVERIFY(!ClickStats(u"Torvik Kestra I "_s).came);
         QCOMPARE(Form1->rtbDetails.Text(), u"Note"_s);
     }
 
@@ -121,16 +121,16 @@ private Q_SLOTS:
     {
         state.ErrorCode = u"ER999"_s;
         Form1->cmdStats.SetFocus();
-        QVERIFY(!ClickStats(u"panYear"_s).Came);
+        QVERIFY(!ClickStats(u"panYear"_s).came);
         QCOMPARE(state.ErrorCode, u"ER999"_s);
         QCOMPARE(Program::Focus(), u"cmdStats"_s);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
         QCOMPARE(Form1->rtbDetails.Height(), 65.0);
     }
 
     void a_second_click_hides_the_note_and_moves_the_focus_once_more()
     {
-        program_->Disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
+        program_->disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
         ClickStats(u"Torvik Metal Signs "_s);
         QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
         QVERIFY(Form1->rtbDetails.Visible());
@@ -142,15 +142,15 @@ private Q_SLOTS:
 
     void a_visible_note_is_only_hidden_although_a_year_is_on_show()
     {
-        program_->Disc.AddDocument(u"69stats.rtf"_s, u"Article"_s);
+        program_->disc.AddDocument(u"69stats.rtf"_s, u"Article"_s);
         Form1->rtbDetails.Show();
-        QVERIFY(!ClickStats(u"1969"_s).Came);
+        QVERIFY(!ClickStats(u"1969"_s).came);
         QVERIFY(!Form1->rtbDetails.Visible());
     }
 
     void a_click_on_the_note_hides_it_and_moves_the_focus()
     {
-        program_->Disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
+        program_->disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
         ClickStats(u"Torvik Metal Signs "_s);
         Form1->cmdStats.SetFocus();
         QTest::mouseClick(Form1->rtbDetails.Widget().findChild<QWidget*>(u"qt_scrollarea_viewport"_s),
@@ -162,7 +162,7 @@ private Q_SLOTS:
 
     void a_click_on_a_link_of_the_note_opens_it_and_leaves_the_note()
     {
-        program_->Disc.AddFile(u"RichText/vms02.rtf"_s,
+        program_->disc.AddFile(u"RichText/vms02.rtf"_s,
                                "{\\rtf1 {\\field{\\*\\fldinst HYPERLINK \"http://quillon.example/a\"}"
                                "{\\fldrslt Quillon}}\\par words without a link}");
         Form1->panYear.SetCaption(u"Torvik Metal Signs "_s);
@@ -172,17 +172,17 @@ private Q_SLOTS:
         const Desktop desktop;
         QTest::mouseClick(pane->viewport(), Qt::LeftButton, {}, MiddleOf(*pane, 3));
         program_->Settle();
-        QCOMPARE(desktop.Opened, QStringList{u"http://quillon.example/a"_s});
+        QCOMPARE(desktop.opened, QStringList{u"http://quillon.example/a"_s});
         QVERIFY(Form1->rtbDetails.Visible());
         QTest::mouseClick(pane->viewport(), Qt::LeftButton, {}, MiddleOf(*pane, 12));
         program_->Settle();
         QVERIFY(!Form1->rtbDetails.Visible());
-        QCOMPARE(desktop.Opened.size(), 1);
+        QCOMPARE(desktop.opened.size(), 1);
     }
 
     void the_note_comes_in_front_of_the_photo()
     {
-        program_->Disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
+        program_->disc.AddDocument(u"vms02.rtf"_s, u"Note"_s);
         Form1->Image4.ZOrder();
         ClickStats(u"Torvik Metal Signs "_s);
         const QWidget& note = Form1->rtbDetails.Widget();
@@ -194,9 +194,9 @@ private Q_SLOTS:
     void a_missing_note_is_reported_and_stays_hidden_in_its_new_place()
     {
         Form1->cmdStats.SetFocus();
-        QVERIFY(!ClickStats(u"Torvik Metal Signs "_s).Came);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(
+        QVERIFY(!ClickStats(u"Torvik Metal Signs "_s).came);
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(
             u"Error number: ER027\r\n\r\n Unable to load the text file."_s));
         QVERIFY(!Form1->rtbDetails.Visible());
         CheckNotePlace();
@@ -205,9 +205,9 @@ private Q_SLOTS:
 
     void a_missing_article_is_reported()
     {
-        QVERIFY(!ClickStats(u"1969"_s).Came);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER027\r"_s));
+        QVERIFY(!ClickStats(u"1969"_s).came);
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER027\r"_s));
         QCOMPARE(Program::Focus(), u"cmdYR(4)"_s);
         QVERIFY(!txtForm.IsLoaded());
     }
@@ -215,18 +215,18 @@ private Q_SLOTS:
     void a_disc_that_is_gone_is_reported()
     {
         program_->PutDiscIn(QChar());
-        QVERIFY(!ClickStats(u"1969"_s).Came);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QVERIFY(!ClickStats(u"1969"_s).came);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(state.ErrorCode, u"ER027"_s);
     }
 
     void a_focus_that_cannot_move_is_reported_before_anything_is_shown()
     {
-        program_->Disc.AddDocument(u"69stats.rtf"_s, u"Article"_s);
+        program_->disc.AddDocument(u"69stats.rtf"_s, u"Article"_s);
         Form1->cmdYR(4).SetEnabled(false);
-        QVERIFY(!ClickStats(u"1969"_s).Came);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER027\r"_s));
+        QVERIFY(!ClickStats(u"1969"_s).came);
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER027\r"_s));
         QCOMPARE(Form1->rtbDetails.Height(), 65.0);
     }
 

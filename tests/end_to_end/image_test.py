@@ -1,9 +1,14 @@
 #!/usr/bin/python3 -B
-"""The sample disc as an image: walked through, looked at, listened to and copied as from its folder."""
+"""A disc as an image: walked through, looked at, listened to, printed, copied and shown by the saver as from its folder."""
 
+import subprocess
+
+from media_test import FIRST_MOVIE, encode
 from support.case import ProgramTest, run
 from support.disc_image import FolderDisc, make_bin_and_cue, make_iso
 from support.program import BOX_TITLE, executable
+from support.saver import Saver, write_settings
+from support.sound_server import SoundServer
 from support.waiting import wait_until
 from walk_test import BEHIND_THE_YEARS, YEARS, prefix_of
 
@@ -59,6 +64,67 @@ class Image(ProgramTest):
         for name in disc.photos:
             self.assertEqual((disc.folder / "Torviks" / name).read_bytes(),
                              (self.program_folder / "Torviks" / name).read_bytes())
+
+    def test_movies_and_sounds_are_played_from_an_image(self):
+        disc = self.make_disc()
+        movie = disc.folder / "movies" / "torvik67.avi"
+        encode(movie, "testsrc=s=320x240:r=15:d=12", "-c:v", "mjpeg", "-q:v", "3", "-c:a", "pcm_s16le")
+        sound = disc.folder / "wav" / "backfrng.wav"
+        sound.parent.mkdir()
+        subprocess.run(["ffmpeg", "-v", "error", "-f", "lavfi", "-i", "sine=440:d=30:r=11025,volume=4", str(sound)],
+                       stdin=subprocess.DEVNULL, check=True)
+        server = SoundServer()
+        self.addCleanup(server.__exit__)
+        screen = self.make_screen(1024, 768)
+        screen.environment["PULSE_SERVER"] = server.address
+        program = self.start(screen, make_bin_and_cue(disc.folder, self.folder / "disc.cue"))
+        program.start_browsing()
+        program.choose("Sound Effects")
+        program.click("Backfiring")
+        server.wait_for_sound()
+        program.click("Stop")
+        server.wait_for_silence()
+        program.click("Close")
+        program.choose("Movies")
+        program.wait_for_window(FIRST_MOVIE)
+        program.click("Prev", window=FIRST_MOVIE)
+        place = program.wait_for("Movie")
+
+        def picture():
+            return screen.pixels(place.left, place.top, place.width, place.height)
+
+        first = picture()
+        program.click("Next", window=FIRST_MOVIE)
+        wait_until(lambda: picture() != first, "the last picture")
+        program.click("Prev", window=FIRST_MOVIE)
+        wait_until(lambda: picture() == first, "the first picture again")
+
+    def test_an_article_is_printed_from_an_image(self):
+        disc = self.make_disc()
+        texts = disc.folder / "RichText"
+        texts.mkdir(exist_ok=True)
+        (texts / "books.rtf").write_text(r"{\rtf1\ansi All books about it.}", "ascii")
+        printed = self.folder / "printed"
+        program = self.start(self.make_screen(), "--print-to", printed, make_iso(disc.folder, self.folder / "disc.iso"))
+        program.start_browsing()
+        program.choose("Literature", "Torvik Books")
+        program.click("Print")
+        program.click("Yes", window=BOX_TITLE)
+        program.wait_for("Printing complete!", window=BOX_TITLE)
+        program.answer("OK")
+        text = subprocess.run(["pdftotext", str(printed / "job-1.pdf"), "-"], capture_output=True, text=True, check=True)
+        self.assertIn("All books about it.", text.stdout)
+
+    def test_the_saver_shows_the_photos_of_an_image(self):
+        disc = self.make_disc()
+        image = make_iso(disc.folder, self.folder / "disc.iso")
+        screen = self.make_screen()
+        home = self.folder / "home"
+        home.mkdir()
+        write_settings(home, 1, "E:\\Torviks\\")
+        saver = Saver(screen, home, "/s", "--drive", f"E={image}")
+        self.addCleanup(saver.__exit__)
+        saver.wait_for_colour((400, 300), list(disc.photos.values()), "a photo")
 
     def test_an_image_in_the_program_folder_is_the_disc(self):
         disc = self.make_disc()

@@ -23,8 +23,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddPhoto(u"a1tor001.jpg"_s, Qt::red);
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddPhoto(u"a1tor001.jpg"_s, Qt::red);
         program_->StartBrowsing();
         state.CopyingPhotos = true;
     }
@@ -34,19 +34,19 @@ private Q_SLOTS:
     {
         MakeCopyFolder(ProgramFolder() + torviksFolder);
         QVERIFY(QFileInfo(program_->InProgramFolder(u"Torviks"_s)).isDir());
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QVERIFY(!state.CopyDeclined);
     }
 
     void a_folder_that_exists_brings_the_question_even_when_it_is_empty()
     {
         QVERIFY(QDir().mkpath(program_->InProgramFolder(u"TORVIKS"_s)));
-        program_->Messages.Answer(msgbox::answerOk);
+        program_->messages.Answer(msgbox::answerOk);
         MakeCopyFolder(ProgramFolder() + torviksFolder);
         AssertQuestion();
         QCOMPARE(int(state.MessageResult), msgbox::answerOk);
         QVERIFY(!state.CopyDeclined);
-        program_->Messages.Answer(msgbox::answerCancel);
+        program_->messages.Answer(msgbox::answerCancel);
         MakeCopyFolder(ProgramFolder() + torviksFolder);
         QCOMPARE(int(state.MessageResult), msgbox::answerCancel);
         QVERIFY(state.CopyDeclined);
@@ -66,7 +66,7 @@ private Q_SLOTS:
         const QStringList expected{u"67A.JPG"_s, u"67B.JPG"_s, u"A1TOR001.JPG"_s};
         QCOMPARE(Copies(u"Torviks"_s), expected);
         QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/A1TOR001.JPG"_s)),
-                 BytesOf(program_->Disc.PathOf(u"Torviks/a1tor001.jpg"_s)));
+                 BytesOf(program_->disc.PathOf(u"Torviks/a1tor001.jpg"_s)));
         AssertDone(u"Photos successfully copied!\r\n"_s);
         QCOMPARE(state.CopySource, u"G:\\Torviks\\A1TOR001.JPG"_s);
         QCOMPARE(state.CopyTarget, ProgramFolder() + u"\\Torviks\\A1TOR001.JPG"_s);
@@ -86,8 +86,8 @@ private Q_SLOTS:
 
     void all_movies_are_copied_and_the_photos_stay_where_they_are_read()
     {
-        program_->Disc.AddFile(u"movies/drive.avi"_s, MixedBytes(60'000));
-        program_->Disc.AddFile(u"movies/Race.avi"_s, MixedBytes(10));
+        program_->disc.AddFile(u"movies/drive.avi"_s, MixedBytes(60'000));
+        program_->disc.AddFile(u"movies/Race.avi"_s, MixedBytes(10));
         program_->AddToProgramFolder(u"movies/x.txt"_s, "x");
         state.CopyingPhotos = false;
         CopyAllMovies();
@@ -100,7 +100,7 @@ private Q_SLOTS:
 
     void the_window_takes_no_input_and_the_hourglass_stands_meanwhile()
     {
-        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(50'000));
+        program_->disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(50'000));
         MakeTarget();
         QList<bool> enabled;
         QList<MousePointer> pointers;
@@ -123,7 +123,7 @@ private Q_SLOTS:
         MakeTarget();
         MousePointer pointer = MousePointer::Hourglass;
         bool enabled = true;
-        program_->Messages.WhenAsked([&] {
+        program_->messages.WhenAsked([&] {
             pointer = Screen.Pointer();
             enabled = Form1->Enabled();
         });
@@ -152,8 +152,8 @@ private Q_SLOTS:
 
     void a_disk_that_is_full_is_told_for_each_file()
     {
-        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(50'000));
-        program_->Disc.AddFile(u"Torviks/68B.JPG"_s, MixedBytes(50'000));
+        program_->disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(50'000));
+        program_->disc.AddFile(u"Torviks/68B.JPG"_s, MixedBytes(50'000));
         MakeTarget();
         const FileSizeLimit limit(30'000);
         CopyAllPhotos();
@@ -163,7 +163,7 @@ private Q_SLOTS:
 
     void a_disc_that_is_pulled_out_in_mid_copy_is_told_for_each_file_that_is_left()
     {
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(50'000));
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(50'000));
         MakeTarget();
         {
             const EachRound round([&] { program_->PutDiscIn({}); });
@@ -176,12 +176,12 @@ private Q_SLOTS:
 
     void a_disc_without_photos_leads_to_no_copy_and_to_no_end()
     {
-        program_->Disc.Remove(u"Torviks"_s);
+        program_->disc.Remove(u"Torviks"_s);
         MakeTarget();
         CopyAllPhotos();
-        QCOMPARE(program_->Messages.Count(), 4);
-        QCOMPARE(program_->Messages.Shown().at(1).Text, u"Subscript out of range"_s);
-        QCOMPARE(program_->Messages.Last().Text, u"Photos successfully copied!\r\n"_s);
+        QCOMPARE(program_->messages.Count(), 4);
+        QCOMPARE(program_->messages.Shown().at(1).text, u"Subscript out of range"_s);
+        QCOMPARE(program_->messages.Last().text, u"Photos successfully copied!\r\n"_s);
         QCOMPARE(Copies(u"Torviks"_s), QStringList());
         QVERIFY(Form1->Enabled());
     }
@@ -195,13 +195,13 @@ private Q_SLOTS:
 
     void a_disc_without_movies_after_one_with_movies_is_told_for_each_of_those()
     {
-        program_->Disc.AddFile(u"movies/a.avi"_s, "x");
-        program_->Disc.AddFile(u"movies/b.avi"_s, "x");
+        program_->disc.AddFile(u"movies/a.avi"_s, "x");
+        program_->disc.AddFile(u"movies/b.avi"_s, "x");
         program_->AddToProgramFolder(u"movies/x.txt"_s, "x");
         state.CopyingPhotos = false;
         CopyAllMovies();
-        program_->Disc.Remove(u"movies"_s);
-        program_->Messages.Clear();
+        program_->disc.Remove(u"movies"_s);
+        program_->messages.Clear();
         CopyAllMovies();
         QCOMPARE(Texts(), (QStringList{u"File not found"_s, u"Subscript out of range"_s,
                                        u"Movies successfully copied!\r\n"_s}));
@@ -218,27 +218,27 @@ private:
     QStringList Texts() const
     {
         QStringList texts;
-        for (const MessageRequest& box : program_->Messages.Shown())
-            texts.append(box.Text);
+        for (const MessageRequest& box : program_->messages.Shown())
+            texts.append(box.text);
         return texts;
     }
 
     void AssertQuestion()
     {
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, u"These files have already been copied\r\nto your hard drive.\r\n\r\n"
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, u"These files have already been copied\r\nto your hard drive.\r\n\r\n"
                            "Would you like to copy them again?"_s);
-        QCOMPARE(box.Style, msgbox::question + msgbox::okCancel);
-        QCOMPARE(box.Title, applicationTitle);
+        QCOMPARE(box.style, msgbox::question + msgbox::okCancel);
+        QCOMPARE(box.title, applicationTitle);
     }
 
     void AssertDone(const QString& text)
     {
-        QCOMPARE(program_->Messages.Count(), 1);
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, text);
-        QCOMPARE(box.Style, msgbox::exclamation);
-        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, text);
+        QCOMPARE(box.style, msgbox::exclamation);
+        QCOMPARE(box.title, u"The Torvik Vollandry"_s);
         QCOMPARE(state.MessageText, text);
         QCOMPARE(state.MessageAnswer, u"1"_s);
     }

@@ -21,9 +21,9 @@ using namespace torvik;
 
 /// What the copy panel shows at one moment.
 struct CopyPanelReading {
-    QString Path;
-    QString File; ///< percent and caption
-    QString Job;
+    QString path;
+    QString file; ///< percent and caption
+    QString job;
     bool operator==(const CopyPanelReading&) const = default;
 };
 
@@ -63,7 +63,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
         state.CopyingPhotos = true;
         state.CopyRemaining = 42'000'000;
@@ -90,10 +90,10 @@ private Q_SLOTS:
         const QByteArray content = MixedBytes(size);
         Copy(content);
         QCOMPARE(Target(), content);
-        QCOMPARE(BytesOf(program_->Disc.PathOf(u"Torviks/A.JPG"_s)), content);
+        QCOMPARE(BytesOf(program_->disc.PathOf(u"Torviks/A.JPG"_s)), content);
         QCOMPARE(state.CopyRemaining, 42'000'000 - counted);
         QCOMPARE(ReadingOf(Form1->ProgressGuage), u"100 100"_s);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void both_gauges_and_the_path_follow_each_block()
@@ -138,13 +138,13 @@ private Q_SLOTS:
         QCOMPARE(Target(), QByteArray("new"));
     }
 
-    void a_target_in_use_is_replaced_and_its_user_keeps_what_he_reads()
+    void a_target_in_use_is_replaced_and_its_reader_keeps_the_old_content()
     {
         program_->AddToProgramFolder(u"Torviks/A.JPG"_s, "old");
-        QFile user(program_->InProgramFolder(u"Torviks/A.JPG"_s));
-        QVERIFY(user.open(QIODevice::ReadOnly));
+        QFile reader(program_->InProgramFolder(u"Torviks/A.JPG"_s));
+        QVERIFY(reader.open(QIODevice::ReadOnly));
         Copy("new");
-        QCOMPARE(user.readAll(), QByteArray("old"));
+        QCOMPARE(reader.readAll(), QByteArray("old"));
         QCOMPARE(Target(), QByteArray("new"));
     }
 
@@ -194,9 +194,9 @@ private Q_SLOTS:
 
     void a_source_that_may_not_be_read_is_told()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(30'000));
-        QCOMPARE(chmod(HostOf(program_->Disc.Folder()), 0755), 0);
-        QCOMPARE(chmod(HostOf(program_->Disc.PathOf(u"Torviks/A.JPG"_s)), 0), 0);
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(30'000));
+        QCOMPARE(chmod(HostOf(program_->disc.Folder()), 0755), 0);
+        QCOMPARE(chmod(HostOf(program_->disc.PathOf(u"Torviks/A.JPG"_s)), 0), 0);
         const OrdinaryUser user;
         QVERIFY(OrdinaryUser::IsOne());
         CopyOnly();
@@ -205,12 +205,12 @@ private Q_SLOTS:
 
     void a_source_that_cannot_be_read_on_in_mid_file_is_told_and_the_copy_ends_there()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(75'000));
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(75'000));
         bool torn = false;
         {
             const EachRound round([&] {
                 if (!std::exchange(torn, true))
-                    QVERIFY(TearOut(program_->Disc.PathOf(u"Torviks/A.JPG"_s)));
+                    QVERIFY(TearOut(program_->disc.PathOf(u"Torviks/A.JPG"_s)));
             });
             CopyOnly();
         }
@@ -221,10 +221,10 @@ private Q_SLOTS:
 
     void a_source_that_ends_early_is_told_and_not_made_up()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(100'000));
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(100'000));
         bool cut = false;
         const EachRound round(
-            [&] { cut = truncate(HostOf(program_->Disc.PathOf(u"Torviks/A.JPG"_s)), 60'000) == 0; });
+            [&] { cut = truncate(HostOf(program_->disc.PathOf(u"Torviks/A.JPG"_s)), 60'000) == 0; });
         CopyOnly();
         QVERIFY(cut);
         AssertTold(u"Input past end of file"_s);
@@ -233,7 +233,7 @@ private Q_SLOTS:
 
     void a_full_disk_is_told_and_the_path_shows_where()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(100'000));
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(100'000));
         const FileSizeLimit limit(60'000);
         QVERIFY(limit.IsSet());
         CopyOnly();
@@ -244,7 +244,7 @@ private Q_SLOTS:
 
     void a_disk_that_is_full_at_the_rest_is_told()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(30'000));
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(30'000));
         const FileSizeLimit limit(25'000);
         QVERIFY(limit.IsSet());
         CopyOnly();
@@ -253,20 +253,20 @@ private Q_SLOTS:
 
     void a_failed_copy_holds_neither_file()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(100'000));
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(100'000));
         const qsizetype before = OpenFileCount();
         const FileSizeLimit limit(60'000);
         for (int time = 0; time < 5; ++time)
             CopyOnly();
-        QCOMPARE(program_->Messages.Count(), 5);
+        QCOMPARE(program_->messages.Count(), 5);
         QCOMPARE(OpenFileCount(), before);
     }
 
     void a_folder_that_may_not_be_written_to_is_told()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, "new");
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, "new");
         program_->AddToProgramFolder(u"Torviks/A.JPG"_s, "old");
-        for (const QString& folder : {program_->Disc.Folder(), program_->InProgramFolder({}),
+        for (const QString& folder : {program_->disc.Folder(), program_->InProgramFolder({}),
                                       program_->InProgramFolder(u"Torviks"_s)})
             QCOMPARE(chmod(HostOf(folder), 0755), 0);
         {
@@ -283,7 +283,7 @@ private Q_SLOTS:
 
     void a_target_folder_that_is_missing_is_told()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, "new");
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, "new");
         state.CopySource = u"G:\\Torviks\\A.JPG"_s;
         state.CopyTarget = ProgramFolder() + u"\\none\\A.JPG"_s;
         CopyFileWithGauges();
@@ -299,12 +299,12 @@ private Q_SLOTS:
 
     void a_source_that_is_the_target_is_never_written()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, "precious");
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, "precious");
         state.CopySource = u"G:\\Torviks\\A.JPG"_s;
         state.CopyTarget = u"G:\\TORVIKS\\a.jpg"_s;
         CopyFileWithGauges();
         AssertTold(u"Path/File access error"_s);
-        QCOMPARE(BytesOf(program_->Disc.PathOf(u"Torviks/A.JPG"_s)), QByteArray("precious"));
+        QCOMPARE(BytesOf(program_->disc.PathOf(u"Torviks/A.JPG"_s)), QByteArray("precious"));
     }
 
     void more_than_the_jobs_size_leaves_the_gauge_full_and_is_copied()
@@ -312,7 +312,7 @@ private Q_SLOTS:
         state.CopyRemaining = 30'000;
         const QByteArray content = MixedBytes(600'000);
         Copy(content);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QCOMPARE(ReadingOf(Form1->ProgressGuage2), u"100 100"_s);
         QCOMPARE(state.CopyRemaining, -570'000);
         QCOMPARE(Target(), content);
@@ -338,7 +338,7 @@ private Q_SLOTS:
 
     void the_small_gauge_follows_blocks_of_1000_bytes_without_a_caption()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(3'500));
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(3'500));
         QStringList seen;
         const EachRound round([&] { seen.append(ReadingOf(frmSSPhoto->ProgressGuage)); });
         frmSSPhoto->ProgressGuage.SetCaption(u"own"_s);
@@ -347,13 +347,13 @@ private Q_SLOTS:
         QCOMPARE(seen, (QStringList{u"29 own"_s, u"57 own"_s, u"86 own"_s}));
         QCOMPARE(frmSSPhoto->ProgressGuage.FloodPercent(), 86);
         QCOMPARE(Target(), MixedBytes(3'500));
-        QCOMPARE(PanelNow().Path, u"before"_s);
+        QCOMPARE(PanelNow().path, u"before"_s);
         QCOMPARE(state.CopyRemaining, 42'000'000);
     }
 
     void whole_blocks_of_1000_bytes_end_at_100()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(4'000));
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(4'000));
         CopySmall();
         QCOMPARE(frmSSPhoto->ProgressGuage.FloodPercent(), 100);
         QCOMPARE(Target(), MixedBytes(4'000));
@@ -361,7 +361,7 @@ private Q_SLOTS:
 
     void a_file_below_1000_bytes_never_moves_the_small_gauge()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(999));
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(999));
         frmSSPhoto->ProgressGuage.SetFloodPercent(33);
         CopySmall();
         QCOMPARE(frmSSPhoto->ProgressGuage.FloodPercent(), 33);
@@ -377,7 +377,7 @@ private Q_SLOTS:
 
     void a_small_copy_that_fails_is_told_and_holds_neither_file()
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(5'000));
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(5'000));
         const qsizetype before = OpenFileCount();
         const FileSizeLimit limit(2'000);
         CopySmall();
@@ -399,13 +399,13 @@ private:
     /// A file of that length that takes no room.
     void AddSparse(qint64 size)
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, {});
-        QCOMPARE(truncate(HostOf(program_->Disc.PathOf(u"Torviks/A.JPG"_s)), size), 0);
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, {});
+        QCOMPARE(truncate(HostOf(program_->disc.PathOf(u"Torviks/A.JPG"_s)), size), 0);
     }
 
     void Copy(const QByteArray& content)
     {
-        program_->Disc.AddFile(u"Torviks/A.JPG"_s, content);
+        program_->disc.AddFile(u"Torviks/A.JPG"_s, content);
         CopyOnly();
     }
 
@@ -425,12 +425,12 @@ private:
     /// The last box was the plain one with this text, and it was one only.
     void AssertTold(const QString& text)
     {
-        QCOMPARE(program_->Messages.Count(), 1);
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, text);
-        QCOMPARE(box.Style, msgbox::ok);
-        QCOMPARE(box.Title, applicationTitle);
-        program_->Messages.Clear();
+        QCOMPARE(program_->messages.Count(), 1);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, text);
+        QCOMPARE(box.style, msgbox::ok);
+        QCOMPARE(box.title, applicationTitle);
+        program_->messages.Clear();
     }
 
     std::unique_ptr<Program> program_;

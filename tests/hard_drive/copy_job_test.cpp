@@ -39,7 +39,7 @@ private Q_SLOTS:
         QFETCH(QString, done);
         SetDiskMeter([](const QString&) { return DiskClusters{8, 512, 1'000'000, 2'000'000}; });
         const QByteArray content(21'600'000, 'x');
-        program_->Disc.AddFile(file, content);
+        program_->disc.AddFile(file, content);
         (photos ? Form1->mnuCopy : Form1->mnuCopyMovies).Click.Fire();
         QCOMPARE(Form1->Label2.Caption(), heading);
         QCOMPARE(Form1->cmdCopy.Caption(), button);
@@ -47,14 +47,14 @@ private Q_SLOTS:
         int most = 0;
         {
             const EachRound round([&] {
-                if (program_->Messages.Count() == 0)
+                if (program_->messages.Count() == 0)
                     most = Form1->ProgressGuage2.FloodPercent();
             });
             program_->Click(Form1->cmdCopy);
         }
         QCOMPARE(BytesOf(program_->InProgramFolder(file)), content);
         QCOMPARE(most, percent);
-        QCOMPARE(program_->Messages.Last().Text, done);
+        QCOMPARE(program_->messages.Last().text, done);
     }
 };
 

@@ -41,8 +41,8 @@ private Q_SLOTS:
     {
         HaveFree(plenty);
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddFile(u"movies/drive.avi"_s, "movie");
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddFile(u"movies/drive.avi"_s, "movie");
         program_->StartBrowsing();
     }
     void cleanup()
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(state.CopyForSaver);
         QVERIFY(!QFileInfo::exists(program_->InProgramFolder(u"Torviks"_s)));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void too_little_room_for_photos_is_told_and_no_panel_opens()
@@ -130,7 +130,7 @@ private Q_SLOTS:
         HaveFree(9); // 36,864,000 bytes
         Form1->mnuCopy.Click.Fire();
         AssertSpaceMessage(u"36,864,000"_s, u"1,136,000"_s, u"38,000,000"_s);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(state.CopyForSaver);
         QCOMPARE(Form1->Label2.Caption(), u"Copy photos from CD-ROM to hard drive"_s);
@@ -153,7 +153,7 @@ private Q_SLOTS:
     void exactly_the_room_that_is_demanded_is_enough()
     {
         // 1,900 units of one sector and 20 bytes: 38,000 times 1,000.
-        SetDiskMeter([](const QString&) { return DiskClusters{1, 20, 1'900 * 1024, 1'900 * 1024}; });
+        SetDiskMeter([](const QString&) { return DiskClusters{1, 20, 1'900LL * 1024, 1'900LL * 1024}; });
         Form1->mnuCopy.Click.Fire();
         QVERIFY(Form1->pnlProgress.Visible());
         SetDiskMeter([](const QString&) { return DiskClusters{1, 37'999, 1024, 1024}; });
@@ -166,10 +166,10 @@ private Q_SLOTS:
     {
         SetDiskMeter([](const QString&) -> DiskClusters { Fail(failure::deviceIo); });
         Form1->mnuCopy.Click.Fire();
-        QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Shown().first().Text, u"Internal GetDisk error!"_s);
+        QCOMPARE(program_->messages.Count(), 2);
+        QCOMPARE(program_->messages.Shown().first().text, u"Internal GetDisk error!"_s);
         AssertSpaceMessage({}, u"38,000,000"_s, u"38,000,000"_s);
-        QVERIFY(program_->Messages.Last().Text.contains(u"You have:   bytes\r\n"_s));
+        QVERIFY(program_->messages.Last().text.contains(u"You have:   bytes\r\n"_s));
         QVERIFY(!Form1->pnlProgress.Visible());
     }
 
@@ -179,15 +179,15 @@ private Q_SLOTS:
         Form1->mnuCopy.Click.Fire();
         program_->Click(Form1->cmdCopy);
         QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/67B.JPG"_s)),
-                 BytesOf(program_->Disc.PathOf(u"Torviks/67B.JPG"_s)));
+                 BytesOf(program_->disc.PathOf(u"Torviks/67B.JPG"_s)));
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(!state.CopyForSaver);
         QVERIFY(!Form1->cmdCopy.Enabled());
         QVERIFY(!Form1->cmdCancel.Enabled());
         QCOMPARE(state.PhotoRoot, ProgramFolder());
         QCOMPARE(state.PhotoFiles(2), ProgramFolder() + u"\\Torviks\\67B.JPG"_s);
-        program_->Disc.Remove(u"Torviks/67A.JPG"_s);
-        program_->Disc.Remove(u"Torviks/67B.JPG"_s);
+        program_->disc.Remove(u"Torviks/67A.JPG"_s);
+        program_->disc.Remove(u"Torviks/67B.JPG"_s);
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
         QCOMPARE(state.CurrentPhotoFile, ProgramFolder() + u"\\Torviks\\67B.JPG"_s);
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
@@ -217,7 +217,7 @@ private Q_SLOTS:
 
     void both_buttons_are_off_while_files_move()
     {
-        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(25'000));
+        program_->disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(25'000));
         Form1->mnuCopy.Click.Fire();
         bool seen = false;
         {
@@ -236,9 +236,9 @@ private Q_SLOTS:
         program_->AddToProgramFolder(u"Torviks/67A.JPG"_s, "old");
         state.CopyForSaver = true;
         Form1->mnuCopy.Click.Fire();
-        program_->Messages.Answer(msgbox::answerCancel);
+        program_->messages.Answer(msgbox::answerCancel);
         program_->Click(Form1->cmdCopy);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(Form1->cmdCopy.Enabled());
         QVERIFY(Form1->cmdCancel.Enabled());
@@ -253,10 +253,10 @@ private Q_SLOTS:
         program_->AddToProgramFolder(u"Torviks/67A.JPG"_s, "old");
         state.CopyDeclined = true;
         Form1->mnuCopy.Click.Fire();
-        program_->Messages.Answer(msgbox::answerOk);
+        program_->messages.Answer(msgbox::answerOk);
         program_->Click(Form1->cmdCopy);
         QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/67A.JPG"_s)),
-                 BytesOf(program_->Disc.PathOf(u"Torviks/67A.JPG"_s)));
+                 BytesOf(program_->disc.PathOf(u"Torviks/67A.JPG"_s)));
         QVERIFY(!state.CopyDeclined);
     }
 
@@ -272,7 +272,7 @@ private Q_SLOTS:
 
     void the_window_cannot_be_closed_while_files_move()
     {
-        program_->Disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(75'000));
+        program_->disc.AddFile(u"Torviks/68A.JPG"_s, MixedBytes(75'000));
         Form1->mnuCopy.Click.Fire();
         {
             const EachRound round([] {
@@ -287,7 +287,7 @@ private Q_SLOTS:
 
     void a_program_that_ends_in_mid_copy_leaves_at_once_and_holds_no_file()
     {
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(75'000));
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(75'000));
         const qsizetype before = OpenFileCount();
         Form1->mnuCopy.Click.Fire();
         {
@@ -298,7 +298,7 @@ private Q_SLOTS:
             program_->Click(Form1->cmdCopy);
         }
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QCOMPARE(OpenFileCount(), before);
         // Neither the rest of the photos nor the half of one.
         QCOMPARE(QDir(program_->InProgramFolder(u"Torviks"_s)).entryList(QDir::Files), QStringList());
@@ -307,7 +307,7 @@ private Q_SLOTS:
     void closing_the_play_list_in_mid_copy_lets_nothing_overtake_the_copy()
     {
         for (const char* name : {"67A", "68A", "69A"})
-            program_->Disc.AddFile(u"Torviks/%1.JPG"_s.arg(QString::fromLatin1(name)), MixedBytes(75'000));
+            program_->disc.AddFile(u"Torviks/%1.JPG"_s.arg(QString::fromLatin1(name)), MixedBytes(75'000));
         program_->Click(Form1->Image4, Qt::RightButton);
         Form1->mnuCopy.Click.Fire();
         int tries = 0;
@@ -330,7 +330,7 @@ private Q_SLOTS:
         for (const char* name : {"67A", "68A", "69A"})
             QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/%1.JPG"_s.arg(QString::fromLatin1(name)))),
                      MixedBytes(75'000));
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QVERIFY(Form1->Enabled());
         program_->Click(Form1->cmdExit);
         QVERIFY(ProgramIsEnding());
@@ -339,15 +339,15 @@ private Q_SLOTS:
 private:
     void AssertSpaceMessage(const QString& have, const QString& need, const QString& total)
     {
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, u"Not enough available hard disk space to copy photos.\r\n\r\n"
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, u"Not enough available hard disk space to copy photos.\r\n\r\n"
                            "Free some up and try again.\r\n\r\n"
                            "You have:  %1 bytes\r\n\r\n"
                            "You need:   %2 bytes more\r\n\r\n"
                            "For a total of:   %3 bytes free.\r\n"_s.arg(have, need, total));
-        QCOMPARE(box.Style, msgbox::critical);
-        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
-        QCOMPARE(state.MessageText, box.Text);
+        QCOMPARE(box.style, msgbox::critical);
+        QCOMPARE(box.title, u"The Torvik Vollandry"_s);
+        QCOMPARE(state.MessageText, box.text);
     }
 
     std::unique_ptr<Program> program_;

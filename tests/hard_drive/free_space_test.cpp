@@ -21,7 +21,7 @@ private Q_SLOTS:
         QString asked;
         SetDiskMeter([&](const QString& folder) {
             asked = folder;
-            return DiskClusters{8, 512, 3 * 1024, 9 * 1024};
+            return DiskClusters{8, 512, 3LL * 1024, 9LL * 1024};
         });
         const QTemporaryDir folder;
         const QString before = QDir::currentPath();
@@ -68,9 +68,9 @@ private Q_SLOTS:
         QString drive = u"E"_s;
         GetDiskSpace(total, free, drive);
         QCOMPARE(messages.Count(), 1);
-        QCOMPARE(messages.Last().Text, u"Internal GetDisk error!"_s);
-        QCOMPARE(messages.Last().Style, msgbox::ok);
-        QCOMPARE(messages.Last().Title, applicationTitle);
+        QCOMPARE(messages.Last().text, u"Internal GetDisk error!"_s);
+        QCOMPARE(messages.Last().style, msgbox::ok);
+        QCOMPARE(messages.Last().title, applicationTitle);
         QCOMPARE(total, 5);
         QCOMPARE(free, 6);
         QCOMPARE(drive, u"C:\\"_s);
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QString drive = u"E"_s;
         GetDiskSpace(total, free, drive);
         QVERIFY(QDir::setCurrent(before));
-        QCOMPARE(messages.Last().Text, u"Internal GetDisk error!"_s);
+        QCOMPARE(messages.Last().text, u"Internal GetDisk error!"_s);
         QCOMPARE(free, 6);
         QCOMPARE(drive, u"   "_s);
     }

@@ -18,10 +18,10 @@ private Q_SLOTS:
     }
     void cleanup() { program_.reset(); }
 
-    void the_movies_of_the_disc_stand_there_in_capitals_with_an_empty_one_behind()
+    void the_movies_of_the_disc_stand_there_in_capitals_with_an_empty_one_after_them()
     {
         for (const char* name : {"movies/drive.avi", "movies/Race.Avi", "movies/notes.txt"})
-            program_->Disc.AddFile(QString::fromLatin1(name), "x");
+            program_->disc.AddFile(QString::fromLatin1(name), "x");
         BuildMovieList();
         QCOMPARE(int(state.MovieCount), 2);
         QCOMPARE(Names(), (QStringList{u"DRIVE.AVI"_s, u"RACE.AVI"_s}));
@@ -29,7 +29,7 @@ private Q_SLOTS:
         QCOMPARE(state.MovieFiles(3), QString());
         QCOMPARE(int(state.MovieListIndex), 3);
         QCOMPARE(state.ErrorCode, u"ER055"_s);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void without_a_movie_the_count_stays_what_it_was()
@@ -37,28 +37,28 @@ private Q_SLOTS:
         BuildMovieList();
         QCOMPARE(int(state.MovieCount), 0);
         QCOMPARE(state.MovieFiles.Count(), 1);
-        program_->Disc.AddFile(u"movies/a.avi"_s, "x");
+        program_->disc.AddFile(u"movies/a.avi"_s, "x");
         BuildMovieList();
-        program_->Disc.Remove(u"movies/a.avi"_s);
+        program_->disc.Remove(u"movies/a.avi"_s);
         BuildMovieList();
         QCOMPARE(int(state.MovieCount), 1);
         QCOMPARE(state.MovieFiles.Count(), 1);
         QCOMPARE(state.MovieFiles(1), QString());
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_drive_that_is_gone_is_reported_once_and_the_list_is_empty()
     {
         state.MovieCount = 3;
         program_->PutDiscIn({});
-        program_->Messages.Answer(msgbox::answerRetry);
+        program_->messages.Answer(msgbox::answerRetry);
         BuildMovieList();
-        QCOMPARE(program_->Messages.Count(), 1);
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, u"Error number: ER055\r\n\r\n"
+        QCOMPARE(program_->messages.Count(), 1);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, u"Error number: ER055\r\n\r\n"
                            " Unable to detect the Torvik Vollandry CDROM.\r\n\r\n"
                            "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
-        QCOMPARE(box.Style, msgbox::retryCancel);
+        QCOMPARE(box.style, msgbox::retryCancel);
         QCOMPARE(int(state.MovieCount), 3);
         QCOMPARE(state.MovieFiles(1), QString());
     }
@@ -66,7 +66,7 @@ private Q_SLOTS:
     void cancel_in_the_report_ends_the_program()
     {
         program_->PutDiscIn({});
-        program_->Messages.Answer(msgbox::answerCancel);
+        program_->messages.Answer(msgbox::answerCancel);
         RunHandler([] { BuildMovieList(); });
         QVERIFY(ProgramIsEnding());
     }
@@ -74,11 +74,11 @@ private Q_SLOTS:
     void a_list_beyond_16_bits_comes_to_an_end()
     {
         for (int number = 0; number < 32'768; ++number)
-            program_->Disc.AddFile(u"movies/%1.avi"_s.arg(number), {});
+            program_->disc.AddFile(u"movies/%1.avi"_s.arg(number), {});
         for (int report = 0; report < 2; ++report)
-            program_->Messages.Answer(msgbox::answerRetry);
+            program_->messages.Answer(msgbox::answerRetry);
         BuildMovieList();
-        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->messages.Count(), 2);
         QCOMPARE(int(state.MovieCount), 32'766);
     }
 

@@ -27,7 +27,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 2);
         program_->StartBrowsing();
         program_->Click(Form1->Image4, Qt::RightButton);
     }
@@ -61,10 +61,10 @@ private Q_SLOTS:
 
     void add_puts_the_photo_on_the_list()
     {
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(3'500));
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(3'500));
         MousePointer meanwhile = MousePointer::Default;
         MousePointer atTheEnd = MousePointer::Hourglass;
-        program_->Messages.WhenAsked([&] { atTheEnd = frmSSPhoto->Pointer(); });
+        program_->messages.WhenAsked([&] { atTheEnd = frmSSPhoto->Pointer(); });
         {
             const EachRound round([&] {
                 if (frmSSPhoto->ProgressGuage.FloodPercent() == 57)
@@ -96,7 +96,7 @@ private Q_SLOTS:
 
     void a_step_in_mid_add_leaves_the_paths_of_the_add()
     {
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(3'500));
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(3'500));
         bool stepped = false;
         {
             const EachRound round([&] {
@@ -112,12 +112,12 @@ private Q_SLOTS:
 
     void a_missing_source_is_told_and_success_comes_all_the_same()
     {
-        program_->Disc.Remove(u"Torviks/67A.JPG"_s);
+        program_->disc.Remove(u"Torviks/67A.JPG"_s);
         program_->Click(frmSSPhoto->SSCommand7);
-        QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Shown().first().Text, u"File not found"_s);
-        QCOMPARE(program_->Messages.Shown().first().Style, msgbox::ok);
-        QCOMPARE(program_->Messages.Last().Text, u"Photo Successfully Copied!"_s);
+        QCOMPARE(program_->messages.Count(), 2);
+        QCOMPARE(program_->messages.Shown().first().text, u"File not found"_s);
+        QCOMPARE(program_->messages.Shown().first().style, msgbox::ok);
+        QCOMPARE(program_->messages.Last().text, u"Photo Successfully Copied!"_s);
         QVERIFY(!frmSSPhoto->SSCommand7.Enabled());
         QVERIFY(frmSSPhoto->SSCommand8.Enabled());
     }
@@ -129,7 +129,7 @@ private Q_SLOTS:
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
         frmSSPhoto->ProgressGuage.SetFloodPercent(40);
         MousePointer atTheEnd = MousePointer::Hourglass;
-        program_->Messages.WhenAsked([&] { atTheEnd = frmSSPhoto->Pointer(); });
+        program_->messages.WhenAsked([&] { atTheEnd = frmSSPhoto->Pointer(); });
         program_->Click(frmSSPhoto->SSCommand8);
         AssertTold(u"Photo Successfully Removed!"_s, msgbox::exclamation);
         QCOMPARE(ListNames(), QStringList{u"68A.JPG"_s});
@@ -143,9 +143,9 @@ private Q_SLOTS:
     {
         program_->Click(frmSSPhoto->SSCommand7);
         QVERIFY(QFile::remove(program_->InProgramFolder(u"ssTorviks/67A.JPG"_s)));
-        program_->Messages.Clear();
+        program_->messages.Clear();
         program_->Click(frmSSPhoto->SSCommand8);
-        QVERIFY(program_->Messages.Last().Text.contains(u"Run-time error '53'"_s));
+        QVERIFY(program_->messages.Last().text.contains(u"Run-time error '53'"_s));
         QVERIFY(ProgramIsEnding());
     }
 
@@ -154,7 +154,7 @@ private Q_SLOTS:
         for (const char* name : {"ssTorviks/67A.JPG", "ssTorviks/68b.jpg", "ssTorviks/mine.txt"})
             program_->AddToProgramFolder(QString::fromLatin1(name), "x");
         frmSSPhoto->ProgressGuage.SetFloodPercent(40);
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         program_->Click(frmSSPhoto->SSCommand2);
         QCOMPARE(ListNames(), QStringList{u"mine.txt"_s});
         QCOMPARE(int(state.MessageResult), msgbox::answerYes);
@@ -171,7 +171,7 @@ private Q_SLOTS:
         program_->AddToProgramFolder(u"ssTorviks/67A.JPG"_s, "x");
         Form1->mnuSaver.Click.Fire();
         QVERIFY(Form1->Option1(1).Enabled());
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         program_->Click(frmSSPhoto->SSCommand2);
         Form1->mnuSaver.Click.Fire();
         QVERIFY(!Form1->Option1(1).Enabled());
@@ -183,31 +183,31 @@ private Q_SLOTS:
         const QString list = program_->InProgramFolder(u"ssTorviks"_s);
         QVERIFY(QFile::remove(list + u"/67A.JPG"_s));
         QVERIFY(QDir(list).mkpath(u"67A.JPG/in use"_s)); // what no rights of anybody can remove as a file
-        program_->Messages.Clear();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Clear();
+        program_->messages.Answer(msgbox::answerYes);
         program_->Click(frmSSPhoto->SSCommand2);
         AssertRemovedAll();
         QVERIFY(QFileInfo::exists(list + u"/67A.JPG/in use"_s));
         QVERIFY(!ProgramIsEnding());
         frmSSPhoto->SSCommand8.SetEnabled(true);
-        program_->Messages.Clear();
+        program_->messages.Clear();
         program_->Click(frmSSPhoto->SSCommand8);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY2(program_->Messages.Last().Text.startsWith(u"Run-time error '"_s),
-                 qPrintable(program_->Messages.Last().Text));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY2(program_->messages.Last().text.startsWith(u"Run-time error '"_s),
+                 qPrintable(program_->messages.Last().text));
         QVERIFY(ProgramIsEnding());
     }
 
     void remove_all_of_an_empty_list_and_of_none_reports_success()
     {
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         program_->Click(frmSSPhoto->SSCommand2);
         AssertRemovedAll();
         QVERIFY(QDir().rmdir(program_->InProgramFolder(u"ssTorviks"_s)));
         program_->Click(frmSSPhoto->SSCommand9);
         frmSSPhoto->Show();
-        program_->Messages.Clear();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Clear();
+        program_->messages.Answer(msgbox::answerYes);
         program_->Click(frmSSPhoto->SSCommand2);
         AssertRemovedAll();
     }
@@ -215,16 +215,16 @@ private Q_SLOTS:
     void no_keeps_the_whole_list()
     {
         program_->AddToProgramFolder(u"ssTorviks/67A.JPG"_s, "x");
-        program_->Messages.Answer(msgbox::answerNo);
+        program_->messages.Answer(msgbox::answerNo);
         program_->Click(frmSSPhoto->SSCommand2);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(ListNames(), QStringList{u"67A.JPG"_s});
         QVERIFY(frmSSPhoto->SSCommand2.Enabled());
     }
 
     void remove_all_stays_off_until_the_form_is_loaded_again()
     {
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         program_->Click(frmSSPhoto->SSCommand2);
         program_->Click(frmSSPhoto->SSCommand7);
         program_->Press(Form1->cmdYR(2), Qt::Key_Period);
@@ -238,7 +238,7 @@ private Q_SLOTS:
     {
         Clipboard.SetText(u"before"_s);
         program_->Click(frmSSPhoto->SSCommand3);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QCOMPARE(QGuiApplication::clipboard()->image().size(), QSize(64, 48));
         QCOMPARE(QGuiApplication::clipboard()->text(), QString());
     }
@@ -267,7 +267,7 @@ private Q_SLOTS:
                    "If you remove all photos, remember to re-install the \r\n"
                    "Screen Saver and choose the Select All Photos option."_s,
                    msgbox::ok);
-        QCOMPARE(state.MessageText, program_->Messages.Last().Text);
+        QCOMPARE(state.MessageText, program_->messages.Last().text);
     }
 
     void exit_and_the_close_box_end_the_form_and_enable_the_main_window()
@@ -286,7 +286,7 @@ private Q_SLOTS:
 
     void the_form_may_be_closed_in_mid_add()
     {
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(5'000));
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(5'000));
         bool closed = false;
         {
             const EachRound round([&] {
@@ -301,7 +301,7 @@ private Q_SLOTS:
 
     void the_program_may_be_closed_in_mid_add_and_keeps_no_half_photo()
     {
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(5'000));
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(5'000));
         const qsizetype before = OpenFileCount();
         {
             const EachRound round([] {
@@ -311,14 +311,14 @@ private Q_SLOTS:
             program_->Click(frmSSPhoto->SSCommand7);
         }
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QCOMPARE(OpenFileCount(), before);
         QCOMPARE(ListNames(), QStringList());
     }
 
     void add_pressed_again_in_mid_add_leaves_the_whole_photo()
     {
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(5'500));
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, MixedBytes(5'500));
         bool again = false;
         {
             const EachRound round([&] {
@@ -344,30 +344,30 @@ private:
 
     void AssertTold(const QString& text, int style)
     {
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         AssertLast(text, style);
     }
 
     void AssertLast(const QString& text, int style)
     {
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, text);
-        QCOMPARE(box.Style, style);
-        QCOMPARE(box.Title, applicationTitle);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, text);
+        QCOMPARE(box.style, style);
+        QCOMPARE(box.title, applicationTitle);
     }
 
     void AssertRemovedAll()
     {
-        QCOMPARE(program_->Messages.Count(), 2);
-        const MessageRequest question = program_->Messages.Shown().first();
-        QCOMPARE(question.Text, u"Would you like to remove all photos from the Torvik "
+        QCOMPARE(program_->messages.Count(), 2);
+        const MessageRequest question = program_->messages.Shown().first();
+        QCOMPARE(question.text, u"Would you like to remove all photos from the Torvik "
                                 "Vollandry Screen Saver list?"_s);
-        QCOMPARE(question.Style, msgbox::question + msgbox::yesNo);
+        QCOMPARE(question.style, msgbox::question + msgbox::yesNo);
         AssertLast(u"All Photos Successfully Removed!\r\n\r\n"
                    "You must re-install The Torvik Vollandry Screen Saver \r\n"
                    "if you have previously installed it to play Selected Photos."_s,
                    msgbox::ok);
-        QCOMPARE(state.MessageText, program_->Messages.Last().Text);
+        QCOMPARE(state.MessageText, program_->messages.Last().text);
     }
 
     std::unique_ptr<Program> program_;

@@ -23,7 +23,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 2);
         program_->AddToProgramFolder(u"Torviks/67A.JPG"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
         program_->AddToProgramFolder(u"Torviks/67b.jpg"_s, "x");
         program_->AddToProgramFolder(u"movies/DRIVE.AVI"_s, "x");
@@ -34,7 +34,7 @@ private Q_SLOTS:
     void photos_go_with_their_folder_and_the_program_ends()
     {
         QCOMPARE(state.PhotoRoot, ProgramFolder());
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
         QVERIFY(!Exists(u"Torviks"_s));
         QVERIFY(Exists(u"movies/DRIVE.AVI"_s));
@@ -49,7 +49,7 @@ private Q_SLOTS:
     {
         SaveSetting(saver::settings, saver::section, saver::interval, u"5"_s);
         SaveSetting(saver::settings, saver::section, saver::photoFolder, ProgramFolder() + u"\\Torviks\\"_s);
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
         QVERIFY(!Exists(u"Torviks"_s));
         QCOMPARE(GetSetting(saver::settings, saver::section, saver::interval), u"5"_s);
@@ -61,7 +61,7 @@ private Q_SLOTS:
     {
         const QByteArray before = qgetenv("XDG_CONFIG_HOME");
         qputenv("XDG_CONFIG_HOME", "/dev/null/nowhere");
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
         qputenv("XDG_CONFIG_HOME", before);
         AssertPhotoMessages();
@@ -70,7 +70,7 @@ private Q_SLOTS:
 
     void movies_go_with_their_folder_and_the_program_stays()
     {
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemoveMovies.Click.Fire();
         QVERIFY(!Exists(u"movies"_s));
         QVERIFY(Exists(u"Torviks/67A.JPG"_s));
@@ -83,11 +83,11 @@ private Q_SLOTS:
 
     void no_changes_nothing()
     {
-        program_->Messages.Answer(msgbox::answerNo);
+        program_->messages.Answer(msgbox::answerNo);
         Form1->mnuRemove.Click.Fire();
-        program_->Messages.Answer(msgbox::answerNo);
+        program_->messages.Answer(msgbox::answerNo);
         Form1->mnuRemoveMovies.Click.Fire();
-        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->messages.Count(), 2);
         QCOMPARE(int(state.MessageResult), msgbox::answerNo);
         QCOMPARE(state.PhotoRoot, ProgramFolder());
         QVERIFY(Exists(u"Torviks/67A.JPG"_s));
@@ -99,11 +99,11 @@ private Q_SLOTS:
     {
         QVERIFY(QDir(program_->InProgramFolder(u"Torviks"_s)).removeRecursively());
         QVERIFY(QDir(program_->InProgramFolder(u"movies"_s)).removeRecursively());
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemoveMovies.Click.Fire();
         AssertMovieMessages();
-        program_->Messages.Clear();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Clear();
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
         AssertPhotoMessages();
         QVERIFY(ProgramIsEnding());
@@ -113,10 +113,10 @@ private Q_SLOTS:
     {
         program_->AddToProgramFolder(u"Torviks/mine.txt"_s, "mine");
         program_->AddToProgramFolder(u"movies/mine.mpg"_s, "mine");
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemoveMovies.Click.Fire();
-        program_->Messages.Clear();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Clear();
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
         AssertPhotoMessages();
         QCOMPARE(BytesOf(program_->InProgramFolder(u"Torviks/mine.txt"_s)), QByteArray("mine"));
@@ -128,7 +128,7 @@ private Q_SLOTS:
     void a_folder_that_is_left_over_without_photos_does_not_count_at_the_next_start()
     {
         program_->AddToProgramFolder(u"Torviks/mine.txt"_s, "mine");
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
         FormHandleBase::DiscardAll();
         ForgetProgramEnd();
@@ -141,7 +141,7 @@ private Q_SLOTS:
     {
         QCOMPARE(chmod(HostOf(u""_s), 0755), 0);
         QCOMPARE(chmod(HostOf(u"movies"_s), 0555), 0);
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         {
             const OrdinaryUser user;
             QVERIFY(OrdinaryUser::IsOne());
@@ -168,9 +168,9 @@ private Q_SLOTS:
     void a_program_folder_that_is_the_disc_loses_nothing()
     {
         state.DiscRoot = ProgramFolder();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemoveMovies.Click.Fire();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         Form1->mnuRemove.Click.Fire();
         QVERIFY(Exists(u"Torviks/67A.JPG"_s));
         QVERIFY(Exists(u"movies/DRIVE.AVI"_s));
@@ -186,15 +186,15 @@ private:
     }
 
     /// Answers the question, and does `action` when the message behind it is up.
-    void AnswerYesThen(std::function<void()> action)
+    void AnswerYesThen(const std::function<void()>& action)
     {
-        program_->Messages.Answer(msgbox::answerYes);
-        program_->Messages.WhenAsked([this, action] { program_->Messages.WhenAsked(action); });
+        program_->messages.Answer(msgbox::answerYes);
+        program_->messages.WhenAsked([this, action] { program_->messages.WhenAsked(action); });
     }
 
     void AssertPhotoMessages()
     {
-        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->messages.Count(), 2);
         AssertQuestion(u"photos"_s);
         AssertPlain(u"All Photos Successfully Removed!\r\n\r\n"
                     "You must now exit and re-enter the Torvik Vollandry to allow \r\n"
@@ -205,27 +205,27 @@ private:
 
     void AssertMovieMessages()
     {
-        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->messages.Count(), 2);
         AssertQuestion(u"movies"_s);
         AssertPlain(u"All movies successfully removed!"_s);
     }
 
     void AssertQuestion(const QString& what)
     {
-        const MessageRequest box = program_->Messages.Shown().first();
-        QCOMPARE(box.Text,
+        const MessageRequest box = program_->messages.Shown().first();
+        QCOMPARE(box.text,
                  u"Would you like to remove all Torvik Vollandry "_s + what + u" from your hard drive?"_s);
-        QCOMPARE(box.Style, msgbox::question + msgbox::yesNo);
-        QCOMPARE(box.Title, applicationTitle);
+        QCOMPARE(box.style, msgbox::question + msgbox::yesNo);
+        QCOMPARE(box.title, applicationTitle);
         QCOMPARE(int(state.MessageResult), msgbox::answerYes);
     }
 
     void AssertPlain(const QString& text)
     {
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, text);
-        QCOMPARE(box.Style, msgbox::ok);
-        QCOMPARE(box.Title, applicationTitle);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, text);
+        QCOMPARE(box.style, msgbox::ok);
+        QCOMPARE(box.title, applicationTitle);
         QCOMPARE(state.MessageText, text);
     }
 

@@ -83,8 +83,8 @@ private Q_SLOTS:
         QVERIFY(QDir(home_->path()).mkpath(u"config"_s));
         SetDiskMeter([](const QString&) { return DiskClusters{8, 512, 100'000'000, 100'000'000}; });
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddGroup(u"68"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"68"_s, 1);
         program_->AddToProgramFolder(u"Torvik2001.scr"_s, saverFile);
         QVERIFY(QFile::setPermissions(program_->InProgramFolder(u"Torvik2001.scr"_s),
                                       QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
@@ -231,10 +231,10 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(InstalledSaver()).isExecutable());
         QCOMPARE(state.CopySource, ProgramFolder() + u"\\Torvik2001.scr"_s);
         QCOMPARE(state.CopyTarget, WindowsFolder() + u"\\Torvik2001.scr"_s);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, success);
-        QCOMPARE(program_->Messages.Last().Style, msgbox::ok);
-        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, success);
+        QCOMPARE(program_->messages.Last().style, msgbox::ok);
+        QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(Form1->SSCommand6.Caption(), u"Exit"_s);
         QVERIFY(Form1->pnlSSaver.Visible());
     }
@@ -245,7 +245,7 @@ private Q_SLOTS:
         Open();
         program_->Click(Form1->Option1(1));
         QString caption;
-        program_->Messages.WhenAsked([&caption] { caption = Form1->SSCommand6.Caption(); });
+        program_->messages.WhenAsked([&caption] { caption = Form1->SSCommand6.Caption(); });
         program_->Click(Form1->SSCommand4);
         QCOMPARE(caption, u"Cancel"_s);
     }
@@ -275,8 +275,8 @@ private Q_SLOTS:
         AddLocalPhotos();
         Open();
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, success);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, success);
         QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
     }
 
@@ -312,16 +312,16 @@ private Q_SLOTS:
     void without_local_photos_the_user_is_asked_and_no_takes_those_of_the_disc()
     {
         Open();
-        program_->Messages.Answer(msgbox::answerNo);
+        program_->messages.Answer(msgbox::answerNo);
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(program_->Messages.Count(), 2);
-        const MessageRequest asked = program_->Messages.Shown().first();
-        QCOMPARE(asked.Text, question);
-        QCOMPARE(asked.Style, msgbox::question | msgbox::yesNo);
-        QCOMPARE(asked.Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(program_->messages.Count(), 2);
+        const MessageRequest asked = program_->messages.Shown().first();
+        QCOMPARE(asked.text, question);
+        QCOMPARE(asked.style, msgbox::question | msgbox::yesNo);
+        QCOMPARE(asked.title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(int(state.MessageResult), msgbox::answerNo);
         QCOMPARE(Setting("TorviksDir"), u"G:\\Torviks\\"_s);
-        QCOMPARE(program_->Messages.Last().Text, success);
+        QCOMPARE(program_->messages.Last().text, success);
         QVERIFY(!Form1->pnlProgress.Visible());
         QVERIFY(!state.CopyForSaver);
     }
@@ -330,15 +330,15 @@ private Q_SLOTS:
     {
         program_->AddToProgramFolder(u"Torviks/note.txt"_s, "no photo");
         Open();
-        program_->Messages.Answer(msgbox::answerNo);
+        program_->messages.Answer(msgbox::answerNo);
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(program_->Messages.Shown().first().Text, question);
+        QCOMPARE(program_->messages.Shown().first().text, question);
     }
 
     void yes_opens_the_copy_panel_and_goes_on_when_the_copy_is_done()
     {
         Open();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         bool photos = false;
         QString button;
         QString settingBefore;
@@ -357,14 +357,14 @@ private Q_SLOTS:
         QVERIFY(!state.CopyForSaver);
         QVERIFY(QFile::exists(program_->InProgramFolder(u"Torviks/67A.JPG"_s)));
         QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
-        QCOMPARE(program_->Messages.Last().Text, success);
+        QCOMPARE(program_->messages.Last().text, success);
         QCOMPARE(Form1->SSCommand6.Caption(), u"Exit"_s);
     }
 
     void the_window_lives_while_the_installation_waits()
     {
         Open();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         QString title;
         const WhileWaiting wait(WaitHasBegun, [&] {
             program_->Click(Form1->cmdCancel);
@@ -379,12 +379,12 @@ private Q_SLOTS:
     void closing_the_program_ends_the_wait_and_installs_nothing()
     {
         Open();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         const WhileWaiting wait(WaitHasBegun, [&] { program_->Click(Form1->cmdExit); });
         program_->Click(Form1->SSCommand4);
         QVERIFY(wait.Ran());
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(Setting("TorviksDir"), u"(none)"_s);
         QVERIFY(!QFile::exists(InstalledSaver()));
     }
@@ -392,7 +392,7 @@ private Q_SLOTS:
     void install_pressed_again_during_the_wait_installs_when_the_copy_is_done()
     {
         const WhileWaiting wait(WaitHasBegun, [&] {
-            program_->Messages.Answer(msgbox::answerYes);
+            program_->messages.Answer(msgbox::answerYes);
             const WhileWaiting inner(WaitHasBegun, [&] { program_->Click(Form1->cmdCopy); });
             program_->Click(Form1->SSCommand4);
             QVERIFY(inner.Ran());
@@ -401,8 +401,8 @@ private Q_SLOTS:
         QVERIFY(wait.Ran());
         QVERIFY(!state.CopyForSaver);
         QStringList texts;
-        for (const MessageRequest& box : program_->Messages.Shown())
-            texts.append(box.Text);
+        for (const MessageRequest& box : program_->messages.Shown())
+            texts.append(box.text);
         QCOMPARE(texts,
                  (QStringList{question, question, u"Photos successfully copied!\r\n"_s, success, success}));
         QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
@@ -414,7 +414,7 @@ private Q_SLOTS:
         bool waits = false;
         QString folder;
         const WhileWaiting wait(WaitHasBegun, [&] {
-            program_->Messages.Answer(msgbox::answerNo);
+            program_->messages.Answer(msgbox::answerNo);
             program_->Click(Form1->SSCommand4);
             folder = Setting("TorviksDir");
             waits = state.CopyForSaver;
@@ -425,19 +425,19 @@ private Q_SLOTS:
         QVERIFY(waits);
         QCOMPARE(folder, u"G:\\Torviks\\"_s);
         QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
-        QCOMPARE(program_->Messages.Last().Text, success);
+        QCOMPARE(program_->messages.Last().text, success);
     }
 
     void closing_the_program_ends_every_wait()
     {
         const WhileWaiting wait(WaitHasBegun, [&] {
-            program_->Messages.Answer(msgbox::answerYes);
+            program_->messages.Answer(msgbox::answerYes);
             const WhileWaiting inner(WaitHasBegun, [&] { Form1->Host().window()->close(); });
             program_->Click(Form1->SSCommand4);
         });
         InstallWithAYes();
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(program_->Messages.Count(), 2);
+        QCOMPARE(program_->messages.Count(), 2);
         QCOMPARE(Setting("TorviksDir"), u"(none)"_s);
     }
 
@@ -451,10 +451,10 @@ private Q_SLOTS:
         InstallWithAYes();
         QVERIFY(wait.Ran());
         QVERIFY(!frmSSPhoto.IsLoaded());
-        QCOMPARE(program_->Messages.Last().Text, success);
+        QCOMPARE(program_->messages.Last().text, success);
     }
 
-    void a_copy_that_does_not_come_about_is_waited_for_without_an_end_data()
+    void a_copy_that_is_never_made_is_waited_for_forever_data()
     {
         QTest::addColumn<QString>("reason");
         QTest::newRow("the panel is cancelled") << "cancelled";
@@ -462,7 +462,7 @@ private Q_SLOTS:
         QTest::newRow("there is no room") << "no room";
     }
 
-    void a_copy_that_does_not_come_about_is_waited_for_without_an_end()
+    void a_copy_that_is_never_made_is_waited_for_forever()
     {
         QFETCH(QString, reason);
         if (reason == u"declined"_s)
@@ -470,7 +470,7 @@ private Q_SLOTS:
         if (reason == u"no room"_s)
             SetDiskMeter([](const QString&) { return DiskClusters{8, 512, 1024, 2048}; });
         Open();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         int rounds = 0;
         QTimer timer;
         connect(&timer, &QTimer::timeout, &timer, [&] {
@@ -491,14 +491,14 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand4);
         QCOMPARE(rounds, 20);
         QVERIFY(state.CopyForSaver);
-        QCOMPARE(program_->Messages.Count(), reason == u"cancelled"_s ? 1 : 2);
+        QCOMPARE(program_->messages.Count(), reason == u"cancelled"_s ? 1 : 2);
         QCOMPARE(Setting("TorviksDir"), u"(none)"_s);
     }
 
     void a_later_copy_from_the_menu_ends_the_wait()
     {
         Open();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         const WhileWaiting wait(WaitHasBegun, [&] {
             program_->Click(Form1->cmdCancel);
             Form1->mnuCopy.Click.Fire();
@@ -506,7 +506,7 @@ private Q_SLOTS:
         });
         program_->Click(Form1->SSCommand4);
         QVERIFY(wait.Ran());
-        QCOMPARE(program_->Messages.Last().Text, success);
+        QCOMPARE(program_->messages.Last().text, success);
         QCOMPARE(Setting("TorviksDir"), ProgramFolder() + u"\\Torviks\\"_s);
     }
 
@@ -555,10 +555,10 @@ private Q_SLOTS:
     void a_failure_while_the_user_is_asked_is_reported_too()
     {
         Open();
-        program_->Messages.WhenAsked([] { Fail(failure::deviceIo); });
+        program_->messages.WhenAsked([] { Fail(failure::deviceIo); });
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Last().Text, noSaver);
+        QCOMPARE(program_->messages.Count(), 2);
+        QCOMPARE(program_->messages.Last().text, noSaver);
     }
 
     void a_second_try_after_a_failure_installs()
@@ -569,7 +569,7 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand4);
         program_->AddToProgramFolder(u"Torvik2001.scr"_s, saverFile);
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(program_->Messages.Last().Text, success);
+        QCOMPARE(program_->messages.Last().text, success);
         QCOMPARE(Content(InstalledSaver()), saverFile);
     }
 
@@ -580,7 +580,7 @@ private Q_SLOTS:
         QVERIFY(QDir(home_->path()).mkdir(u"m"_s)); // where a name that is cut at its blank would lead
         Open();
         program_->Click(Form1->SSCommand4);
-        QCOMPARE(program_->Messages.Last().Text, success);
+        QCOMPARE(program_->messages.Last().text, success);
         QCOMPARE(Content(home_->filePath(u"my own data/torvik2001/windows/Torvik2001.scr"_s)), saverFile);
         QVERIFY(!QFile::exists(home_->filePath(u"m/Torvik2001.scr"_s)));
     }
@@ -589,7 +589,7 @@ private Q_SLOTS:
 
     void help_opens_its_document()
     {
-        program_->Disc.AddDocument(u"SsHelp.rtf"_s, u"How to install it"_s);
+        program_->disc.AddDocument(u"SsHelp.rtf"_s, u"How to install it"_s);
         Open();
         bool waveButtons = true;
         bool okIsWide = false;
@@ -605,14 +605,14 @@ private Q_SLOTS:
             },
             [] { txtForm.Unload(); });
         program_->Click(Form1->SSCommand5);
-        QVERIFY(viewed.Came);
-        QCOMPARE(viewed.Caption, u"The Torvik Vollandry       Install Screen Saver Help"_s);
-        QCOMPARE(viewed.File, u"G:\\richtext\\SsHelp.rtf"_s);
-        QCOMPARE(state.DocumentFile, viewed.File);
-        QCOMPARE(viewed.Text, u"How to install it"_s);
+        QVERIFY(viewed.came);
+        QCOMPARE(viewed.caption, u"The Torvik Vollandry       Install Screen Saver Help"_s);
+        QCOMPARE(viewed.file, u"G:\\richtext\\SsHelp.rtf"_s);
+        QCOMPARE(state.DocumentFile, viewed.file);
+        QCOMPARE(viewed.text, u"How to install it"_s);
         QVERIFY(!waveButtons);
         QVERIFY(okIsWide);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
         QVERIFY(Form1->pnlSSaver.Visible());
     }
 
@@ -627,7 +627,7 @@ private Q_SLOTS:
 
     void help_that_cannot_be_read_is_reported()
     {
-        program_->Disc.AddFile(u"RichText/sshelp.rtf"_s, "");
+        program_->disc.AddFile(u"RichText/sshelp.rtf"_s, "");
         Open();
         program_->Click(Form1->SSCommand5);
         AssertOnly(noHelp);
@@ -663,7 +663,7 @@ private:
     void InstallWithAYes()
     {
         Open();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         program_->Click(Form1->SSCommand4);
     }
 
@@ -689,10 +689,10 @@ private:
 
     void AssertOnly(const QString& message) const
     {
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, message);
-        QCOMPARE(program_->Messages.Last().Style, msgbox::critical);
-        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, message);
+        QCOMPARE(program_->messages.Last().style, msgbox::critical);
+        QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry"_s);
     }
 
     static bool IsInFrontOf(const Control& front, const Control& back)

@@ -36,7 +36,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("answer");
         QTest::addColumn<QString>("cut");
-        QTest::newRow("none: the zero character behind it goes") << u"C:\\WINDOWS"_s << u"C:\\WINDOWS"_s;
+        QTest::newRow("none: the zero character after it goes") << u"C:\\WINDOWS"_s << u"C:\\WINDOWS"_s;
         QTest::newRow("one") << u"C:\\my windows"_s << u"C:\\m"_s;
         QTest::newRow("several") << u"C:\\a b c"_s << u"C:\\"_s;
         QTest::newRow("at the end") << u"C:\\win "_s << u"C:\\wi"_s;

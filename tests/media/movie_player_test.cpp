@@ -22,9 +22,9 @@ namespace {
 using Mode = MediaControl::Mode;
 
 struct Movie {
-    const char* Caption;
-    const char* File;
-    const char* Title;
+    const char* caption;
+    const char* file;
+    const char* title;
 };
 
 const Movie movies[] = {
@@ -41,7 +41,7 @@ const QString report = u"Error number: ER045\r\n\r\n Unable to load Torvik Movie
 
 MediaControl& Device()
 {
-    return frmMovie->MMControl1.Device;
+    return frmMovie->MMControl1.device;
 }
 
 QAbstractButton& BarButton(const char* name)
@@ -74,10 +74,10 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 2);
         for (const Movie& movie : movies) {
-            if (*movie.File != '\0')
-                program_->Disc.AddFile(u"Movies/"_s + QString::fromLatin1(movie.File), TestMovie::Avi());
+            if (*movie.file != '\0')
+                program_->disc.AddFile(u"Movies/"_s + QString::fromLatin1(movie.file), TestMovie::Avi());
         }
         program_->StartBrowsing();
     }
@@ -135,13 +135,13 @@ private Q_SLOTS:
             QCOMPARE(int(state.NextYearButton), 0);
             QCOMPARE(Device().FileName(), u"G:\\movies\\Torvik67.avi"_s);
             QVERIFY(Device().IsOpen());
-            QVERIFY(Device().Wait && !Device().Notify && !Device().Shareable);
+            QVERIFY(Device().wait && !Device().notify && !Device().shareable);
             QCOMPARE(Device().State(), Mode::Stopped);
             QVERIFY(Shown().isNull()); // the opening picture stands until something is played
             QVERIFY(!form.PicMovie.Picture().IsEmpty());
             QCOMPARE(Screen.Pointer(), MousePointer::Default);
         }));
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void it_holds_the_controls_that_it_has_always_had()
@@ -150,10 +150,10 @@ private Q_SLOTS:
             frmMovieControls& form = *frmMovie;
             QCOMPARE(form.optMovie.Count(), 6);
             for (int index = 0; index < 6; ++index)
-                QCOMPARE(form.optMovie(index).Caption(), QString::fromLatin1(movies[index].Caption));
+                QCOMPARE(form.optMovie(index).Caption(), QString::fromLatin1(movies[index].caption));
             QCOMPARE(form.SSCommand1.Caption(), u"Exit"_s);
             QCOMPARE(form.SSCommand2.Caption(), u"Help"_s);
-            QCOMPARE(form.Design().Caption, u"Torvik Movies"_s);
+            QCOMPARE(form.Design().caption, u"Torvik Movies"_s);
             for (const char* name :
                  {"PicMovie", "SSPanel1", "HScroll1", "MMControl1", "SSCommand1", "SSCommand2"})
                 QVERIFY(form.Window().findChild<QWidget*>(QString::fromLatin1(name)) != nullptr);
@@ -168,7 +168,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("index");
         for (int index = 1; index < 6; ++index)
-            QTest::newRow(movies[index].Title) << index;
+            QTest::newRow(movies[index].title) << index;
     }
     void each_option_opens_its_movie()
     {
@@ -176,12 +176,12 @@ private Q_SLOTS:
         QVERIFY(VisitMovies(*program_, [&] {
             program_->Click(frmMovie->optMovie(index));
             QVERIFY(frmMovie->optMovie(index).Value());
-            QCOMPARE(frmMovie->Caption(), QString::fromLatin1(movies[index].Title));
-            QCOMPARE(Device().FileName(), u"G:\\movies\\"_s + QString::fromLatin1(movies[index].File));
+            QCOMPARE(frmMovie->Caption(), QString::fromLatin1(movies[index].title));
+            QCOMPARE(Device().FileName(), u"G:\\movies\\"_s + QString::fromLatin1(movies[index].file));
             QVERIFY(Device().IsOpen());
             QCOMPARE(Screen.Pointer(), MousePointer::Default);
         }));
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void the_option_without_a_movie_opens_the_folder_which_plays_nothing()
@@ -192,7 +192,7 @@ private Q_SLOTS:
             QTRY_COMPARE(Device().State(), Mode::NotOpen);
             QVERIFY(!BarButton("Play").isEnabled());
         }));
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void another_movie_ends_the_one_that_plays()
@@ -208,19 +208,19 @@ private Q_SLOTS:
 
     void a_movie_that_is_missing_or_damaged_says_nothing()
     {
-        program_->Disc.Remove(u"Movies/Q44.avi"_s);
-        program_->Disc.AddFile(u"Movies/RocknRoll.avi"_s, "no movie");
+        program_->disc.Remove(u"Movies/Q44.avi"_s);
+        program_->disc.AddFile(u"Movies/RocknRoll.avi"_s, "no movie");
         QVERIFY(VisitMovies(*program_, [&] {
             for (const int index : {3, 4}) {
                 program_->Click(frmMovie->optMovie(index));
-                QCOMPARE(frmMovie->Caption(), QString::fromLatin1(movies[index].Title));
+                QCOMPARE(frmMovie->Caption(), QString::fromLatin1(movies[index].title));
                 QTRY_COMPARE(Device().State(), Mode::NotOpen);
                 QCOMPARE(Screen.Pointer(), MousePointer::Default);
             }
             program_->Click(frmMovie->optMovie(2));
             QTRY_VERIFY(BarButton("Play").isEnabled() && Device().Length() > 0);
         }));
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     // The two ways into the error
@@ -229,16 +229,16 @@ private Q_SLOTS:
     {
         state.YearCode.clear();
         QVERIFY(VisitMovies(*program_, [&] {
-            QCOMPARE(program_->Messages.Count(), 1);
-            QCOMPARE(program_->Messages.Last().Text, report);
-            QCOMPARE(program_->Messages.Last().Style, 16);
+            QCOMPARE(program_->messages.Count(), 1);
+            QCOMPARE(program_->messages.Last().text, report);
+            QCOMPARE(program_->messages.Last().style, 16);
             QCOMPARE(frmMovie->Caption(), u"Torvik Movies - The 1967 Torvik"_s);
             QVERIFY(!Device().IsOpen());
             QVERIFY(!frmMovie->MMControl1.Visible());
             QVERIFY(frmMovie->PicMovie.Visible());
             QCOMPARE(Screen.Pointer(), MousePointer::Hourglass);
             program_->Click(frmMovie->optMovie(2));
-            QCOMPARE(program_->Messages.Count(), 2);
+            QCOMPARE(program_->messages.Count(), 2);
             QCOMPARE(frmMovie->Caption(), u"Torvik Movies - The Super Glider"_s);
             QVERIFY(Form1->Enabled()); // the report enables it
         }));
@@ -250,7 +250,7 @@ private Q_SLOTS:
     {
         state.YearCode = u"backfrng.wav"_s;
         QVERIFY(VisitMovies(*program_, [] { QVERIFY(Device().IsOpen()); }));
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void a_failure_while_the_disc_is_asked_is_reported_after_the_title_has_changed()
@@ -258,8 +258,8 @@ private Q_SLOTS:
         QVERIFY(VisitMovies(*program_, [&] {
             program_->PutDiscIn(QChar());
             program_->Click(frmMovie->optMovie(4));
-            QCOMPARE(program_->Messages.Count(), 1);
-            QCOMPARE(program_->Messages.Last().Text, report);
+            QCOMPARE(program_->messages.Count(), 1);
+            QCOMPARE(program_->messages.Last().text, report);
             QCOMPARE(frmMovie->Caption(), u"Torvik Movies - Rock and Roll"_s);
             QCOMPARE(Device().FileName(), u"G:\\movies\\Torvik67.avi"_s);
             QCOMPARE(Screen.Pointer(), MousePointer::Hourglass);

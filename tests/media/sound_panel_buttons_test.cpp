@@ -11,8 +11,8 @@ using namespace torvik;
 namespace {
 
 struct Sound {
-    const char* Label;
-    const char* File;
+    const char* label;
+    const char* file;
 };
 
 const Sound sounds[] = {
@@ -60,10 +60,10 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddGroup(u"69"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"69"_s, 2);
         for (const Sound& sound : sounds)
-            program_->Disc.AddFile(u"wav/"_s + QString::fromLatin1(sound.File), "RIFF");
+            program_->disc.AddFile(u"wav/"_s + QString::fromLatin1(sound.file), "RIFF");
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -97,23 +97,23 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("index");
         for (int index = 0; index < 29; ++index)
-            QTest::newRow(sounds[index].Label) << index;
+            QTest::newRow(sounds[index].label) << index;
     }
     void each_button_plays_its_file()
     {
         QFETCH(const int, index);
-        const QString file = QString::fromLatin1(sounds[index].File);
+        const QString file = QString::fromLatin1(sounds[index].file);
         Open();
-        QCOMPARE(Form1->lblSound(index).Caption(), QString::fromLatin1(sounds[index].Label));
+        QCOMPARE(Form1->lblSound(index).Caption(), QString::fromLatin1(sounds[index].label));
         QCOMPARE(Form1->SSCommand2(index).Widget().accessibleName(),
-                 QString::fromLatin1(sounds[index].Label));
+                 QString::fromLatin1(sounds[index].label));
         QCOMPARE(Form1->SSCommand2(index).Widget().objectName(), u"SSCommand2(%1)"_s.arg(index));
         program_->Click(Form1->SSCommand2(index));
         QCOMPARE(state.SoundFile, u"G:\\wav\\"_s + file);
         QCOMPARE(Form1->MMControl1.FileName(), state.SoundFile);
         QVERIFY(Form1->MMControl1.IsOpen());
         QCOMPARE(state.YearCode, file);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void there_are_no_more_buttons_than_sounds()
@@ -125,7 +125,7 @@ private Q_SLOTS:
     void a_sound_plays_at_once_and_stop_ends_it()
     {
         using Mode = MediaControl::Mode;
-        program_->Disc.AddFile(u"wav/taxi.wav"_s, TestMovie::Wav());
+        program_->disc.AddFile(u"wav/taxi.wav"_s, TestMovie::Wav());
         Open();
         program_->Click(Form1->SSCommand2(5));
         QCOMPARE(Form1->MMControl1.State(), Mode::Playing);
@@ -138,8 +138,8 @@ private Q_SLOTS:
     void a_second_sound_plays_in_place_of_one_that_is_playing()
     {
         using Mode = MediaControl::Mode;
-        program_->Disc.AddFile(u"wav/taxi.wav"_s, TestMovie::Wav());
-        program_->Disc.AddFile(u"wav/horns.wav"_s, TestMovie::Wav());
+        program_->disc.AddFile(u"wav/taxi.wav"_s, TestMovie::Wav());
+        program_->disc.AddFile(u"wav/horns.wav"_s, TestMovie::Wav());
         Open();
         program_->Click(Form1->SSCommand2(5));
         QTRY_VERIFY(Form1->MMControl1.Length() > 0);
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(Form1->MMControl1.FileName(), u"G:\\wav\\horns.wav"_s);
         QTRY_VERIFY(Form1->MMControl1.Length() > 0);
         QCOMPARE(Form1->MMControl1.State(), Mode::Playing);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     /// The name of the sound is the code of no photo, so a step finds nothing to show.
@@ -162,7 +162,7 @@ private Q_SLOTS:
             QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
             QCOMPARE(Form1->panPhoto.Caption(), u"1"_s);
         }
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
         program_->Click(Form1->cmdYR(1 + 2));
         program_->Press(Form1->cmdYR(4), Qt::Key_Period);
         QCOMPARE(Form1->Image4.Picture().FileName(), u"69B.JPG"_s);
@@ -179,8 +179,8 @@ private Q_SLOTS:
 
     void the_name_found_on_the_disc_stays_the_code_of_the_year_until_the_next_choice()
     {
-        program_->Disc.Remove(u"wav/backfrng.wav"_s);
-        program_->Disc.AddFile(u"wav/BACKFRNG.WAV"_s, "RIFF");
+        program_->disc.Remove(u"wav/backfrng.wav"_s);
+        program_->disc.AddFile(u"wav/BACKFRNG.WAV"_s, "RIFF");
         QCOMPARE(state.YearCode, u"67"_s);
         Open();
         program_->Click(Form1->SSCommand2(0));
@@ -191,14 +191,14 @@ private Q_SLOTS:
 
     void a_missing_file_is_reported_and_the_sound_before_left_alone()
     {
-        program_->Disc.Remove(u"wav/carhorns.wav"_s);
+        program_->disc.Remove(u"wav/carhorns.wav"_s);
         Open();
         program_->Click(Form1->SSCommand2(0));
         program_->Click(Form1->SSCommand2(2));
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, soundReport);
-        QCOMPARE(program_->Messages.Last().Style, 16);
-        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, soundReport);
+        QCOMPARE(program_->messages.Last().style, 16);
+        QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry"_s);
         QCOMPARE(state.YearCode, QString());
         QCOMPARE(state.ErrorCode, u"ER038"_s);
         QCOMPARE(Form1->MMControl1.FileName(), u"G:\\wav\\backfrng.wav"_s);
@@ -209,13 +209,13 @@ private Q_SLOTS:
     void without_the_folder_every_press_is_reported()
     {
         for (const Sound& sound : sounds)
-            program_->Disc.Remove(u"wav/"_s + QString::fromLatin1(sound.File));
+            program_->disc.Remove(u"wav/"_s + QString::fromLatin1(sound.file));
         Open();
         for (const int index : {0, 28}) {
-            program_->Messages.Clear();
+            program_->messages.Clear();
             program_->Click(Form1->SSCommand2(index));
-            QCOMPARE(program_->Messages.Count(), 1);
-            QCOMPARE(program_->Messages.Last().Text, soundReport);
+            QCOMPARE(program_->messages.Count(), 1);
+            QCOMPARE(program_->messages.Last().text, soundReport);
             QCOMPARE(state.YearCode, QString());
         }
     }
@@ -226,8 +226,8 @@ private Q_SLOTS:
         Open();
         program_->PutDiscIn(QChar());
         program_->Click(Form1->SSCommand2(3));
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, soundReport);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, soundReport);
         QVERIFY(!Form1->MMControl1.IsOpen());
         QCOMPARE(state.YearCode, QString());
     }
@@ -242,7 +242,7 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand3);
         QVERIFY(!Form1->MMControl1.IsOpen());
         QCOMPARE(Form1->MMControl1.State(), MediaControl::Mode::NotOpen);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
         QVERIFY(Form1->pnlSound.Visible());
     }
 

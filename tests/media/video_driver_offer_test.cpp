@@ -28,8 +28,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
-        program_->Disc.AddFile(u"movies/Torvik67.avi"_s, TestMovie::Avi());
+        program_->disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddFile(u"movies/Torvik67.avi"_s, TestMovie::Avi());
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -37,12 +37,12 @@ private Q_SLOTS:
     void the_menu_asks_and_no_changes_nothing()
     {
         AddInstaller();
-        program_->Messages.Answer(msgbox::answerNo);
+        program_->messages.Answer(msgbox::answerNo);
         AskFromMenu();
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, question);
-        QCOMPARE(program_->Messages.Last().Style, msgbox::question | msgbox::yesNo);
-        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, question);
+        QCOMPARE(program_->messages.Last().style, msgbox::question | msgbox::yesNo);
+        QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(int(state.MessageResult), 7);
         QVERIFY(!Installed());
         QVERIFY(!frmMovie.IsLoaded());
@@ -51,9 +51,9 @@ private Q_SLOTS:
     void yes_from_the_menu_runs_the_installer_with_the_main_window_disabled()
     {
         AddInstaller();
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         bool enabledMeanwhile = true;
-        program_->Messages.WhenAsked([&] {
+        program_->messages.WhenAsked([&] {
             // Runs in the loop that waits for the installer.
             QMetaObject::invokeMethod(
                 qApp, [&] { enabledMeanwhile = Form1->Enabled(); }, Qt::QueuedConnection);
@@ -64,16 +64,16 @@ private Q_SLOTS:
         QVERIFY(!enabledMeanwhile);
         QVERIFY(Form1->Enabled());
         QVERIFY(!frmMovie.IsLoaded());
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
     }
 
     void a_missing_installer_is_reported()
     {
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         AskFromMenu();
-        QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Last().Text, driverReport);
-        QCOMPARE(program_->Messages.Last().Style, 16);
+        QCOMPARE(program_->messages.Count(), 2);
+        QCOMPARE(program_->messages.Last().text, driverReport);
+        QCOMPARE(program_->messages.Last().style, 16);
         QCOMPARE(state.ErrorCode, u"ER003"_s);
         QVERIFY(Form1->Enabled());
     }
@@ -89,14 +89,14 @@ private Q_SLOTS:
     {
         QFETCH(bool, mayRun);
         const QString file = u"IndeoVideo/iv5play.exe"_s;
-        program_->Disc.AddFile(file, "MZ\x90 no program of this machine");
+        program_->disc.AddFile(file, "MZ\x90 no program of this machine");
         if (mayRun)
-            QVERIFY(QFile::setPermissions(program_->Disc.PathOf(file),
+            QVERIFY(QFile::setPermissions(program_->disc.PathOf(file),
                                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-        program_->Messages.Answer(msgbox::answerYes);
+        program_->messages.Answer(msgbox::answerYes);
         AskFromMenu();
-        QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Last().Text, driverReport);
+        QCOMPARE(program_->messages.Count(), 2);
+        QCOMPARE(program_->messages.Last().text, driverReport);
         QCOMPARE(Form1->Enabled(), true);
         program_->Click(Form1->cmdYR(2));
         QVERIFY(!ProgramIsEnding());
@@ -105,10 +105,10 @@ private Q_SLOTS:
     void help_asks_the_same_and_no_leaves_the_player_as_it_was()
     {
         QVERIFY(VisitMovies(*program_, [&] {
-            program_->Messages.Answer(msgbox::answerNo);
+            program_->messages.Answer(msgbox::answerNo);
             const Form* before = &*frmMovie;
             program_->Click(frmMovie->SSCommand2);
-            QCOMPARE(program_->Messages.Last().Text, question);
+            QCOMPARE(program_->messages.Last().text, question);
             QVERIFY(frmMovie->Visible());
             QCOMPARE(&*frmMovie, before);
         }));
@@ -120,7 +120,7 @@ private Q_SLOTS:
         bool cameAgain = false;
         QVERIFY(VisitMovies(*program_, [&] {
             program_->Click(frmMovie->optMovie(3));
-            program_->Messages.Answer(msgbox::answerYes);
+            program_->messages.Answer(msgbox::answerYes);
             const Form* before = &*frmMovie;
             QTimer again;
             connect(&again, &QTimer::timeout, this, [&] {
@@ -141,10 +141,10 @@ private Q_SLOTS:
     void a_missing_installer_leaves_the_player_open()
     {
         QVERIFY(VisitMovies(*program_, [&] {
-            program_->Messages.Answer(msgbox::answerYes);
+            program_->messages.Answer(msgbox::answerYes);
             program_->Click(frmMovie->SSCommand2);
-            QCOMPARE(program_->Messages.Count(), 2);
-            QCOMPARE(program_->Messages.Last().Text, driverReport);
+            QCOMPARE(program_->messages.Count(), 2);
+            QCOMPARE(program_->messages.Last().text, driverReport);
             QVERIFY(frmMovie->Visible());
         }));
     }
@@ -159,11 +159,11 @@ private:
     void AddInstaller()
     {
         const QString file = u"IndeoVideo/iv5play.exe"_s;
-        program_->Disc.AddFile(file, "#!/bin/sh\ntouch \"$(dirname \"$0\")/done\"\n");
-        QVERIFY(QFile::setPermissions(program_->Disc.PathOf(file),
+        program_->disc.AddFile(file, "#!/bin/sh\ntouch \"$(dirname \"$0\")/done\"\n");
+        QVERIFY(QFile::setPermissions(program_->disc.PathOf(file),
                                       QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
-    bool Installed() const { return QFile::exists(program_->Disc.PathOf(u"IndeoVideo/done"_s)); }
+    bool Installed() const { return QFile::exists(program_->disc.PathOf(u"IndeoVideo/done"_s)); }
 
     std::unique_ptr<Program> program_;
 };

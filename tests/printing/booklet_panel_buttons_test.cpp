@@ -18,8 +18,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
-        program_->Disc.AddGroup(u"69"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"69"_s, 1);
         printed_ = std::make_unique<PrintFolder>();
         program_->StartBrowsing();
     }

@@ -48,7 +48,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, to);
         run_->Print({box::description}, from.constData(), to.constData());
         ExpectNoYears(*run_);
-        QCOMPARE(run_->Printed.Jobs(), 0);
+        QCOMPARE(run_->printed.Jobs(), 0);
     }
 
     void every_box_by_year_needs_the_years_data()
@@ -68,8 +68,8 @@ private Q_SLOTS:
     {
         run_->Print({box::cover, box::introduction, box::description});
         ExpectNoYears(*run_);
-        QCOMPARE(run_->Printed.Jobs(), 1);
-        QCOMPARE(run_->Printed.Pages(1).size(), 2);
+        QCOMPARE(run_->printed.Jobs(), 1);
+        QCOMPARE(run_->printed.Pages(1).size(), 2);
     }
 
     void a_range_that_runs_backwards_is_told_data()
@@ -93,7 +93,7 @@ private Q_SLOTS:
     void the_hourglass_stands_until_the_refusal_was_read()
     {
         MousePointer during = MousePointer::Default;
-        run_->User.Messages.WhenAsked([&] { during = Screen.Pointer(); });
+        run_->user.messages.WhenAsked([&] { during = Screen.Pointer(); });
         run_->Print({box::description});
         QCOMPARE(during, MousePointer::Hourglass);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, file);
         QFETCH(QStringList, printed);
-        run_->User.Disc.Remove(file);
+        run_->user.disc.Remove(file);
         run_->Print({box::introduction, box::description, box::details}, "1967", "1969");
         ExpectNoFile(*run_);
         ExpectTexts(*run_, printed);
@@ -136,14 +136,14 @@ private Q_SLOTS:
 
     void the_choices_stay_after_a_failure_and_print_when_the_file_is_there()
     {
-        run_->User.Disc.Remove(u"RichText/68desc.rtf"_s);
+        run_->user.disc.Remove(u"RichText/68desc.rtf"_s);
         run_->Print({box::description}, "1967", "1969");
         ExpectNoFile(*run_);
         QVERIFY(Form1->Check1(box::description).Value());
         QCOMPARE(Form1->List1(0).Text(), u"1967"_s);
         QCOMPARE(Form1->List1(1).Text(), u"1969"_s);
-        AddYear(run_->User.Disc, u"68"_s);
-        run_->User.Click(Form1->cmdPrint);
+        AddYear(run_->user.disc, u"68"_s);
+        run_->user.Click(Form1->cmdPrint);
         ExpectSuccess(*run_);
         ExpectTexts(*run_, {u"Description of 67."_s, u"Description of 67."_s, u"Description of 68."_s,
                             u"Description of 69."_s});
@@ -151,7 +151,7 @@ private Q_SLOTS:
 
     void a_failure_leaves_the_focus_where_it_is()
     {
-        run_->User.Disc.Remove(u"RichText/introduction.rtf"_s);
+        run_->user.disc.Remove(u"RichText/introduction.rtf"_s);
         run_->Print({box::introduction});
         QCOMPARE(Program::Focus(), u"cmdPrint"_s);
     }
@@ -159,8 +159,8 @@ private Q_SLOTS:
     void the_hourglass_stands_until_the_failure_was_read()
     {
         MousePointer during = MousePointer::Default;
-        run_->User.Messages.WhenAsked([&] { during = Screen.Pointer(); });
-        run_->User.Disc.Remove(u"RichText/introduction.rtf"_s);
+        run_->user.messages.WhenAsked([&] { during = Screen.Pointer(); });
+        run_->user.disc.Remove(u"RichText/introduction.rtf"_s);
         run_->Print({box::introduction});
         QCOMPARE(during, MousePointer::Hourglass);
         QCOMPARE(Screen.Pointer(), MousePointer::Default);
@@ -169,32 +169,32 @@ private Q_SLOTS:
     void a_cover_picture_that_is_missing_ends_the_booklet_data() { AddCoverFiles(); }
     void a_cover_picture_that_is_missing_ends_the_booklet()
     {
-        run_->User.Disc.Remove(QString::fromLatin1(QTest::currentDataTag()));
+        run_->user.disc.Remove(QString::fromLatin1(QTest::currentDataTag()));
         run_->Print({box::cover, box::introduction});
         ExpectNoFile(*run_);
-        QCOMPARE(run_->Printed.Jobs(), 0);
+        QCOMPARE(run_->printed.Jobs(), 0);
     }
 
     void a_cover_picture_that_is_damaged_ends_the_booklet_data() { AddCoverFiles(); }
     void a_cover_picture_that_is_damaged_ends_the_booklet()
     {
         const QString path = QString::fromLatin1(QTest::currentDataTag());
-        QFile file(run_->User.Disc.PathOf(path));
+        QFile file(run_->user.disc.PathOf(path));
         QVERIFY(file.resize(file.size() / 2));
         run_->Print({box::cover, box::introduction});
         ExpectNoFile(*run_);
-        QCOMPARE(run_->Printed.Jobs(), 0);
+        QCOMPARE(run_->printed.Jobs(), 0);
     }
 
     void a_cover_without_its_introduction_waits_in_its_open_job()
     {
-        run_->User.Disc.Remove(u"RichText/introduction.rtf"_s);
+        run_->user.disc.Remove(u"RichText/introduction.rtf"_s);
         run_->Print({box::cover, box::introduction});
         ExpectNoFile(*run_);
         QVERIFY(Printer.HasJob());
         Printer.EndDoc();
-        QCOMPARE(run_->Printed.Pages(1).size(), 2);
-        QVERIFY(!InkOf(run_->Printed.Image(1, 1)).isNull());
+        QCOMPARE(run_->printed.Pages(1).size(), 2);
+        QVERIFY(!InkOf(run_->printed.Image(1, 1)).isNull());
     }
 
     void no_printer_is_told_as_a_file_that_does_not_print_data()
@@ -218,8 +218,8 @@ private Q_SLOTS:
         Printer.SetUp(PrinterSetup{u"Gone"_s, QPageSize(QPageSize::A4)});
         run_->Print({box::introduction});
         ExpectNoFile(*run_);
-        Printer.PrintTo(run_->Printed.Path());
-        run_->User.Click(Form1->cmdPrint);
+        Printer.PrintTo(run_->printed.Path());
+        run_->user.Click(Form1->cmdPrint);
         ExpectPrinted(*run_, {u"Introduction."_s});
     }
 
@@ -229,14 +229,14 @@ private Q_SLOTS:
         QString lines;
         for (int line = 0; line < 6000; ++line)
             lines += u"Line %1 of many that fill the disk.\\par\n"_s.arg(line * 7919);
-        run_->User.Disc.AddDocument(u"68desc.rtf"_s, lines);
+        run_->user.disc.AddDocument(u"68desc.rtf"_s, lines);
         {
             const FullDisk full(room);
             run_->Print({box::description}, "1967", "1969");
         }
         ExpectNoFile(*run_);
         QVERIFY(!Printer.HasJob());
-        QCOMPARE(run_->Printed.Files(), QStringList(u"job-1.pdf"_s));
+        QCOMPARE(run_->printed.Files(), QStringList(u"job-1.pdf"_s));
         ExpectTexts(*run_, {u"Description of 67."_s});
     }
 
@@ -245,7 +245,7 @@ private:
     {
         QTest::addColumn<int>("index");
         for (int index = 0; index < 4; ++index)
-            QTest::newRow(coverArt.at(static_cast<std::size_t>(index)).File) << index;
+            QTest::newRow(coverArt.at(static_cast<std::size_t>(index)).file) << index;
     }
 
     std::unique_ptr<BookletRun> run_;

@@ -71,13 +71,13 @@ private Q_SLOTS:
 
     void long_documents_take_the_pages_that_they_need()
     {
-        run_->User.Disc.AddDocument(u"99desc.rtf"_s, u"One.\\page Two.\\page Three."_s);
-        run_->User.Disc.AddDocument(u"A1desc.rtf"_s, u"One.\\page Two."_s);
+        run_->user.disc.AddDocument(u"99desc.rtf"_s, u"One.\\page Two.\\page Three."_s);
+        run_->user.disc.AddDocument(u"A1desc.rtf"_s, u"One.\\page Two."_s);
         run_->Print({box::description}, "1999", "2001");
-        QCOMPARE(run_->Printed.Jobs(), 3);
-        QCOMPARE(run_->Printed.Pages(1).size(), 3);
-        QCOMPARE(run_->Printed.Pages(2).size(), 1);
-        QCOMPARE(run_->Printed.Pages(3).size(), 2);
+        QCOMPARE(run_->printed.Jobs(), 3);
+        QCOMPARE(run_->printed.Pages(1).size(), 3);
+        QCOMPARE(run_->printed.Pages(2).size(), 1);
+        QCOMPARE(run_->printed.Pages(3).size(), 2);
     }
 
     void the_boxes_do_not_mind_the_order_in_which_they_are_ticked()
@@ -107,10 +107,10 @@ private Q_SLOTS:
         QString wordy;
         for (int count = 0; count < 300; ++count)
             wordy += u"Words enough to fill lines and pages. "_s;
-        run_->User.Disc.AddDocument(u"67desc.rtf"_s, wordy);
+        run_->user.disc.AddDocument(u"67desc.rtf"_s, wordy);
         run_->Print({box::description}, "1967", "1967");
-        const QSizeF paper = run_->Printed.Paper(1);
-        const QRectF ink = InkOf(run_->Printed.Image(1, 1));
+        const QSizeF paper = run_->printed.Paper(1);
+        const QRectF ink = InkOf(run_->printed.Image(1, 1));
         constexpr double millimetre = 56.7;
         QVERIFY(qAbs(ink.left() - 1440) < millimetre);
         QVERIFY(ink.top() >= 1440 - millimetre && ink.top() < 1440 + 200);
@@ -124,7 +124,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("index");
         for (int index = 0; index < 4; ++index)
-            QTest::newRow(coverArt.at(static_cast<std::size_t>(index)).File) << index;
+            QTest::newRow(coverArt.at(static_cast<std::size_t>(index)).file) << index;
     }
     void each_cover_picture_stands_at_its_place_in_its_natural_size()
     {
@@ -133,15 +133,15 @@ private Q_SLOTS:
         constexpr double millimetre = 56.7; // twips
         run_->Print({box::cover, box::introduction});
         const CoverArt& art = coverArt.at(static_cast<std::size_t>(index));
-        const QRectF ink = InkOf(run_->Printed.Image(1, 1), [&](const QColor& colour) {
-            return qAbs(colour.red() - art.Colour.red()) < 40 &&
-                   qAbs(colour.green() - art.Colour.green()) < 40 &&
-                   qAbs(colour.blue() - art.Colour.blue()) < 40;
+        const QRectF ink = InkOf(run_->printed.Image(1, 1), [&](const QColor& colour) {
+            return qAbs(colour.red() - art.colour.red()) < 40 &&
+                   qAbs(colour.green() - art.colour.green()) < 40 &&
+                   qAbs(colour.blue() - art.colour.blue()) < 40;
         });
-        QVERIFY(qAbs(ink.left() - (border + art.Place.x())) < millimetre);
-        QVERIFY(qAbs(ink.top() - (border + art.Place.y())) < millimetre);
-        QVERIFY(qAbs(ink.width() - art.Size.width() * 15) < millimetre);
-        QVERIFY(qAbs(ink.height() - art.Size.height() * 15) < millimetre);
+        QVERIFY(qAbs(ink.left() - (border + art.place.x())) < millimetre);
+        QVERIFY(qAbs(ink.top() - (border + art.place.y())) < millimetre);
+        QVERIFY(qAbs(ink.width() - art.size.width() * 15) < millimetre);
+        QVERIFY(qAbs(ink.height() - art.size.height() * 15) < millimetre);
     }
 
     void the_cover_pictures_are_printed_in_order()
@@ -149,26 +149,26 @@ private Q_SLOTS:
         run_->Print({box::cover, box::introduction});
         QList<QSize> expected;
         for (const CoverArt& art : coverArt)
-            expected.append(art.Size);
-        QCOMPARE(run_->Printed.PictureSizes(1), expected);
+            expected.append(art.size);
+        QCOMPARE(run_->printed.PictureSizes(1), expected);
     }
 
     void the_cover_rides_in_the_job_of_the_first_document()
     {
         run_->Print({box::cover, box::introduction, box::description}, "1967", "1968");
-        QCOMPARE(run_->Printed.Jobs(), 3);
-        QCOMPARE(run_->Printed.Pages(1).size(), 2);
-        QCOMPARE(run_->Printed.Pages(1).at(0).simplified(), QString());
-        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), u"Introduction."_s);
-        QCOMPARE(run_->Printed.Pages(2).size(), 1);
+        QCOMPARE(run_->printed.Jobs(), 3);
+        QCOMPARE(run_->printed.Pages(1).size(), 2);
+        QCOMPARE(run_->printed.Pages(1).at(0).simplified(), QString());
+        QCOMPARE(run_->printed.Pages(1).at(1).simplified(), u"Introduction."_s);
+        QCOMPARE(run_->printed.Pages(2).size(), 1);
     }
 
     void without_an_introduction_the_cover_rides_with_the_first_year()
     {
         run_->Print({box::cover, box::details}, "1967", "1967");
-        QCOMPARE(run_->Printed.Jobs(), 3);
-        QCOMPARE(run_->Printed.Pages(1).size(), 2);
-        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), u"Options of 67."_s);
+        QCOMPARE(run_->printed.Jobs(), 3);
+        QCOMPARE(run_->printed.Pages(1).size(), 2);
+        QCOMPARE(run_->printed.Pages(1).at(1).simplified(), u"Options of 67."_s);
     }
 
     void a_cover_alone_needs_no_year_and_leaves_its_job_open()
@@ -176,24 +176,24 @@ private Q_SLOTS:
         run_->Print({box::cover});
         ExpectSuccess(*run_);
         QVERIFY(Printer.HasJob());
-        QCOMPARE(run_->Printed.Jobs(), 0);
+        QCOMPARE(run_->printed.Jobs(), 0);
         Printer.EndDoc(); // as the end of the program does
-        QCOMPARE(run_->Printed.Jobs(), 1);
-        QCOMPARE(run_->Printed.Pages(1).size(), 2);
-        QVERIFY(!InkOf(run_->Printed.Image(1, 1)).isNull());
-        QVERIFY(InkOf(run_->Printed.Image(1, 2)).isNull());
+        QCOMPARE(run_->printed.Jobs(), 1);
+        QCOMPARE(run_->printed.Pages(1).size(), 2);
+        QVERIFY(!InkOf(run_->printed.Image(1, 1)).isNull());
+        QVERIFY(InkOf(run_->printed.Image(1, 2)).isNull());
     }
 
     void the_next_document_continues_the_job_of_a_cover_that_stood_alone()
     {
         run_->Print({box::cover});
-        run_->User.Click(Form1->Check1(box::cover));
-        run_->User.Click(Form1->Check1(box::introduction));
-        run_->User.Click(Form1->cmdPrint);
+        run_->user.Click(Form1->Check1(box::cover));
+        run_->user.Click(Form1->Check1(box::introduction));
+        run_->user.Click(Form1->cmdPrint);
         QVERIFY(!Printer.HasJob());
-        QCOMPARE(run_->Printed.Jobs(), 1);
-        QCOMPARE(run_->Printed.Pages(1).size(), 2);
-        QCOMPARE(run_->Printed.Pages(1).at(1).simplified(), u"Introduction."_s);
+        QCOMPARE(run_->printed.Jobs(), 1);
+        QCOMPARE(run_->printed.Pages(1).size(), 2);
+        QCOMPARE(run_->printed.Pages(1).at(1).simplified(), u"Introduction."_s);
     }
 
     // What the user is told
@@ -202,7 +202,7 @@ private Q_SLOTS:
     {
         run_->Print({box::cover, box::description}, "1967", "1968");
         ExpectSuccess(*run_);
-        QCOMPARE(run_->User.Messages.Count(), 1);
+        QCOMPARE(run_->user.messages.Count(), 1);
         QCOMPARE(state.MessageText, u"Booklet printed!\r\n"_s);
         QVERIFY(Form1->pnlPrint.Visible());
         QVERIFY(Form1->Check1(box::cover).Value() && Form1->Check1(box::description).Value());
@@ -213,7 +213,7 @@ private Q_SLOTS:
 
     void the_captions_change_only_after_the_message()
     {
-        run_->User.Messages.WhenAsked([this] {
+        run_->user.messages.WhenAsked([this] {
             seen_ = {Form1->cmdPrint.Caption(), Form1->cmdOK.Caption()};
             QCOMPARE(Screen.Pointer(), MousePointer::Default);
         });
@@ -224,8 +224,8 @@ private Q_SLOTS:
     void printing_again_prints_the_same_again()
     {
         run_->Print({box::introduction, box::description}, "1967", "1968");
-        run_->User.Messages.Clear();
-        run_->User.Click(Form1->cmdPrint);
+        run_->user.messages.Clear();
+        run_->user.Click(Form1->cmdPrint);
         ExpectSuccess(*run_);
         const QStringList booklet{u"Introduction."_s, u"Description of 67."_s, u"Description of 68."_s};
         ExpectPrinted(*run_, booklet + booklet);
@@ -234,7 +234,7 @@ private Q_SLOTS:
     void clear_begins_anew_after_a_booklet()
     {
         run_->Print({box::introduction});
-        run_->User.Click(Form1->SSCommand7);
+        run_->user.Click(Form1->SSCommand7);
         QCOMPARE(Form1->cmdPrint.Caption(), u"Print"_s);
         QCOMPARE(Form1->cmdOK.Caption(), u"Cancel"_s);
         QVERIFY(!Form1->cmdPrint.Enabled());
@@ -244,7 +244,7 @@ private Q_SLOTS:
     {
         run_->Print({box::introduction});
         QCOMPARE(Form1->cmdOK.Caption(), u"Exit"_s);
-        run_->User.Click(Form1->cmdOK);
+        run_->user.Click(Form1->cmdOK);
         QVERIFY(!Form1->pnlPrint.Visible());
     }
 

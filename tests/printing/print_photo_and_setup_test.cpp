@@ -28,8 +28,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddPhoto(u"67A.JPG"_s, QColor(220, 20, 20), {320, 200});
-        program_->Disc.AddPhoto(u"69A.JPG"_s, QColor(20, 20, 220), {200, 320});
+        program_->disc.AddPhoto(u"67A.JPG"_s, QColor(220, 20, 20), {320, 200});
+        program_->disc.AddPhoto(u"69A.JPG"_s, QColor(20, 20, 220), {200, 320});
         printed_ = std::make_unique<PrintFolder>();
         program_->StartBrowsing();
     }
@@ -43,10 +43,10 @@ private Q_SLOTS:
     void the_user_is_asked_first()
     {
         ChoosePrintPhoto(msgbox::answerCancel);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, u"Would you like to print this photograph?"_s);
-        QCOMPARE(program_->Messages.Last().Style, 32 + 1);
-        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, u"Would you like to print this photograph?"_s);
+        QCOMPARE(program_->messages.Last().style, 32 + 1);
+        QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(int(state.MessageResult), 2);
     }
 
@@ -83,7 +83,7 @@ private Q_SLOTS:
         const double line = (words.at(4).top() - words.at(0).top()) / 2;
         QVERIFY2(line > 200 && line < 260, qPrintable(QString::number(line)));
         QVERIFY(qAbs(words.at(0).top() - (border + 8 * line)) < millimetre);
-        // Both begin behind twelve blanks.
+        // Both begin after twelve blanks.
         QVERIFY(qAbs(words.at(0).left() - words.at(4).left()) < 20);
         const double blanks = words.at(0).left() - border;
         QVERIFY2(blanks > 12 * 45 && blanks < 12 * 70, qPrintable(QString::number(blanks)));
@@ -108,7 +108,7 @@ private Q_SLOTS:
 
     void what_is_on_show_is_printed_also_when_it_is_no_photo_of_a_year()
     {
-        program_->Disc.AddFile(u"ads/67ad.jpg"_s, TestDisc::Jpeg(QColor(20, 160, 20), {100, 50}));
+        program_->disc.AddFile(u"ads/67ad.jpg"_s, TestDisc::Jpeg(QColor(20, 160, 20), {100, 50}));
         Form1->Image4.Load(u"G:\\ads\\67ad.jpg"_s);
         ChoosePrintPhoto(msgbox::answerOk);
         const QRectF picture = InkOf(printed_->Image(1, 1), [](const QColor& colour) {
@@ -120,7 +120,7 @@ private Q_SLOTS:
 
     void a_large_picture_runs_off_the_page()
     {
-        program_->Disc.AddPhoto(u"69A.JPG"_s, QColor(20, 20, 220), {2000, 1500});
+        program_->disc.AddPhoto(u"69A.JPG"_s, QColor(20, 20, 220), {2000, 1500});
         program_->Click(Form1->cmdYR(3));
         ChoosePrintPhoto(msgbox::answerOk);
         QCOMPARE(printed_->Pages(1).size(), 1);
@@ -155,8 +155,8 @@ private Q_SLOTS:
         Printer.PrintTo(u"/proc/nothing/here"_s);
         ChoosePrintPhoto(msgbox::answerOk);
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '482':\r\n\r\nPrinter error"_s);
+        QCOMPARE(program_->messages.Count(), 2);
+        QCOMPARE(program_->messages.Last().text, u"Run-time error '482':\r\n\r\nPrinter error"_s);
     }
 
     void a_printer_that_is_gone_is_that_error_too()
@@ -165,7 +165,7 @@ private Q_SLOTS:
         Printer.SetUp(PrinterSetup{u"Gone"_s, QPageSize(QPageSize::A4)});
         ChoosePrintPhoto(msgbox::answerOk);
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '482':\r\n\r\nPrinter error"_s);
+        QCOMPARE(program_->messages.Last().text, u"Run-time error '482':\r\n\r\nPrinter error"_s);
     }
 
     void print_setup_asks_once_with_the_flag_of_a_set_up()
@@ -186,7 +186,7 @@ private Q_SLOTS:
     {
         SetPrinterResponder([](const PrinterSetup& present, const QList<PrinterOption>&) {
             return std::optional(
-                PrinterSetup{present.Name, QPageSize(QPageSize::A5), QPageLayout::Landscape});
+                PrinterSetup{present.name, QPageSize(QPageSize::A5), QPageLayout::Landscape});
         });
         ChooseMenu(*Form1, u"mnuPrint"_s);
         for (int job = 1; job <= 2; ++job) {
@@ -201,13 +201,13 @@ private Q_SLOTS:
         SetPrinterResponder([](const PrinterSetup&, const QList<PrinterOption>&) { return std::nullopt; });
         ChooseMenu(*Form1, u"mnuPrint"_s);
         QCOMPARE(Printer.Setup(), before);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
 private:
     void ChoosePrintPhoto(int answer)
     {
-        program_->Messages.Answer(answer);
+        program_->messages.Answer(answer);
         ChooseMenu(*Form1, u"mnuPrintPhoto"_s);
     }
 

@@ -57,7 +57,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         printed_ = std::make_unique<PrintFolder>();
     }
     void cleanup()
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QTest::newRow("too wide") << 20000 << 4000 << QByteArray();
         QTest::newRow("both") << 20000 << 30000 << QByteArray();
         QTest::newRow("many pages high") << 3000 << 31000 << QByteArray();
-        QTest::newRow("behind text") << 4000 << 20000 << Lines(1, 10);
+        QTest::newRow("after text") << 4000 << 20000 << Lines(1, 10);
         QTest::newRow("in a line with text") << 4000 << 20000 << QByteArray("beside ");
         QTest::newRow("indented") << 9000 << 9000 << QByteArray("\\li3000 ");
         QTest::newRow("as high as the page") << 4000 << 16838 - 2880 << QByteArray();
@@ -247,7 +247,7 @@ private Q_SLOTS:
 
     void a_file_that_is_no_rich_text_prints_in_readable_letters()
     {
-        program_->Disc.AddFile(u"RichText/plain.rtf"_s, "HHH without any format");
+        program_->disc.AddFile(u"RichText/plain.rtf"_s, "HHH without any format");
         PrintFile(u"plain.rtf"_s, 1440, 1440, 1440, 1440);
         const QRectF ink = InkOf(printed_->Image(1, 1));
         QVERIFY2(ink.height() >= 5 * pixel, qPrintable(QString::number(ink.height())));
@@ -327,7 +327,7 @@ private Q_SLOTS:
 private:
     void Print(const QByteArray& rtf, int left = 1440, int top = 1440, int right = 1440, int bottom = 1440)
     {
-        program_->Disc.AddFile(u"RichText/text.rtf"_s,
+        program_->disc.AddFile(u"RichText/text.rtf"_s,
                                "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\fs24 " + rtf + "}");
         PrintFile(u"text.rtf"_s, left, top, right, bottom);
     }

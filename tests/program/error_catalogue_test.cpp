@@ -76,24 +76,24 @@ private Q_SLOTS:
         QFETCH(bool, hint);
         const QString code = QString::fromLatin1(QTest::currentDataTag());
         const MessageRequest box = BoxOf(code);
-        QCOMPARE(box.Text, u"Error number: "_s + code + u"\r\n\r\n"_s + text + (hint ? discHint : QString()));
-        QCOMPARE(box.Style, retry ? 5 : 16);
-        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
+        QCOMPARE(box.text, u"Error number: "_s + code + u"\r\n\r\n"_s + text + (hint ? discHint : QString()));
+        QCOMPARE(box.style, retry ? 5 : 16);
+        QCOMPARE(box.title, u"The Torvik Vollandry"_s);
     }
 
     void a_code_outside_the_catalogue_has_an_empty_text()
     {
         for (const QString& code : {u"ER019"_s, u"ER057"_s, u"ER999"_s, QString()}) {
             const MessageRequest box = BoxOf(code);
-            QCOMPARE(box.Text, u"Error number: "_s + code + u"\r\n\r\n"_s + discHint);
-            QCOMPARE(box.Style, 16);
+            QCOMPARE(box.text, u"Error number: "_s + code + u"\r\n\r\n"_s + discHint);
+            QCOMPARE(box.style, 16);
         }
     }
 
     void the_sound_file_loses_its_first_five_characters()
     {
         state.SoundFile = u"E:\\wav\\1969.wav"_s;
-        QCOMPARE(BoxOf(u"ER032"_s).Text,
+        QCOMPARE(BoxOf(u"ER032"_s).text,
                  u"Error number: ER032\r\n\r\n Unable to load sound file: v\\1969.wav"_s + discHint);
         QCOMPARE(int(state.LoopIndex), 10);
     }
@@ -101,10 +101,10 @@ private Q_SLOTS:
 private:
     MessageRequest BoxOf(const QString& code)
     {
-        program_->Messages.Answer(msgbox::answerRetry);
+        program_->messages.Answer(msgbox::answerRetry);
         state.ErrorCode = code;
         ReportError();
-        return program_->Messages.Last();
+        return program_->messages.Last();
     }
 };
 

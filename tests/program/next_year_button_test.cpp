@@ -16,14 +16,14 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
         Form1->cmdYR(1).SetEnabled(true);
         Form1->cmdYR(20).SetFocus();
     }
     void cleanup() { program_.reset(); }
 
-    void it_is_the_one_behind_and_goes_round()
+    void it_is_the_next_one_and_goes_round()
     {
         QCOMPARE(NextYearButtonAfter(0), 1);
         QCOMPARE(NextYearButtonAfter(1), 2);

@@ -14,7 +14,7 @@ private Q_SLOTS:
     void a_panel_stands_in_the_middle_over_the_year_bar()
     {
         Program program;
-        program.Disc.AddGroup(u"67"_s, 1);
+        program.disc.AddGroup(u"67"_s, 1);
         program.StartBrowsing();
         // The bar ends at 11685 twips, that is 779 pixels.
         Form1->pnlSSaver.SetWidth(400);

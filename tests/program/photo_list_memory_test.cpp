@@ -44,9 +44,9 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, "x");
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, "x");
         for (int number = 1; number < count; ++number)
-            program_->Disc.AddFile(u"Torviks/68%1.JPG"_s.arg(number, 3, 10, QLatin1Char('0')), "x");
+            program_->disc.AddFile(u"Torviks/68%1.JPG"_s.arg(number, 3, 10, QLatin1Char('0')), "x");
         state.PhotoRoot = u"G:"_s;
     }
     void cleanup()
@@ -57,17 +57,17 @@ private Q_SLOTS:
 
     void lack_of_memory_is_asked_about_and_retry_builds_the_whole_list()
     {
-        program_->Messages.Answer(msgbox::answerRetry);
-        program_->Messages.Answer(msgbox::answerRetry);
-        program_->Messages.WhenAsked([this] { // still none at the first Retry
-            program_->Messages.WhenAsked([] { refusedFrom = 0; });
+        program_->messages.Answer(msgbox::answerRetry);
+        program_->messages.Answer(msgbox::answerRetry);
+        program_->messages.WhenAsked([this] { // still none at the first Retry
+            program_->messages.WhenAsked([] { refusedFrom = 0; });
         });
         refusedFrom = sizeof(QString) * count;
         BuildPhotoSet();
-        QCOMPARE(program_->Messages.Count(), 2);
-        QVERIFY(program_->Messages.Last().Text.startsWith(
+        QCOMPARE(program_->messages.Count(), 2);
+        QVERIFY(program_->messages.Last().text.startsWith(
             u"Error number: ER037\r\n\r\n Unable to load the photo array."_s));
-        QCOMPARE(program_->Messages.Last().Style, 5);
+        QCOMPARE(program_->messages.Last().style, 5);
         QCOMPARE(int(state.PhotoCount), count);
         QCOMPARE(state.PhotoFiles(1), u"G:\\Torviks\\67A.JPG"_s);
         QCOMPARE(state.PhotoFiles(count), u"G:\\Torviks\\68199.JPG"_s);
@@ -78,7 +78,7 @@ private Q_SLOTS:
     void cancel_ends_the_program_at_once()
     {
         refusedFrom = sizeof(QString) * count;
-        program_->Messages.WhenAsked([] { refusedFrom = 0; });
+        program_->messages.WhenAsked([] { refusedFrom = 0; });
         bool ended = false;
         try {
             BuildPhotoSet();
@@ -86,7 +86,7 @@ private Q_SLOTS:
             ended = true;
         }
         QVERIFY(ended);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
     }
 
 private:

@@ -25,8 +25,8 @@ private Q_SLOTS:
 
     void names_are_upper_cased_and_the_folder_is_spelled_its_own_way()
     {
-        program_->Disc.AddFile(u"TORVIKS/67a.jpg"_s, "x");
-        program_->Disc.AddFile(u"TORVIKS/68Bb.JpG"_s, "x");
+        program_->disc.AddFile(u"TORVIKS/67a.jpg"_s, "x");
+        program_->disc.AddFile(u"TORVIKS/68Bb.JpG"_s, "x");
         BuildPhotoSet();
         QCOMPARE(int(state.PhotoCount), 2);
         QCOMPARE(state.PhotoFiles(1), u"G:\\Torviks\\67A.JPG"_s);
@@ -35,7 +35,7 @@ private Q_SLOTS:
 
     void one_empty_element_follows_the_last_photo()
     {
-        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"67"_s, 3);
         BuildPhotoSet();
         QCOMPARE(state.PhotoFiles.Count(), 4);
         QCOMPARE(state.PhotoNumbers.Count(), 4);
@@ -46,7 +46,7 @@ private Q_SLOTS:
     void years_come_first_then_2000_and_2001_then_the_topics()
     {
         for (const char* prefix : {"ZZ", "A1", "99", "CW", "67", "VM", "A0", "M1"})
-            program_->Disc.AddGroup(QString::fromLatin1(prefix), 1);
+            program_->disc.AddGroup(QString::fromLatin1(prefix), 1);
         BuildPhotoSet();
         QStringList prefixes;
         for (int index = 1; index <= state.PhotoCount; ++index)
@@ -56,8 +56,8 @@ private Q_SLOTS:
 
     void each_group_is_numbered_from_1()
     {
-        program_->Disc.AddGroup(u"67"_s, 3);
-        program_->Disc.AddGroup(u"68"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"68"_s, 2);
         BuildPhotoSet();
         QStringList numbers;
         for (int index = 1; index <= state.PhotoCount; ++index)
@@ -67,7 +67,7 @@ private Q_SLOTS:
 
     void the_first_photo_is_number_1_even_when_the_last_run_ended_on_its_group()
     {
-        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 2);
         BuildPhotoSet();
         BuildPhotoSet();
         QCOMPARE(state.PreviousPrefix, u"67"_s);
@@ -77,10 +77,10 @@ private Q_SLOTS:
 
     void a_smaller_folder_leaves_nothing_of_the_larger_one()
     {
-        program_->Disc.AddGroup(u"67"_s, 5);
+        program_->disc.AddGroup(u"67"_s, 5);
         BuildPhotoSet();
-        program_->Disc.Remove(u"Torviks/67D.JPG"_s);
-        program_->Disc.Remove(u"Torviks/67E.JPG"_s);
+        program_->disc.Remove(u"Torviks/67D.JPG"_s);
+        program_->disc.Remove(u"Torviks/67E.JPG"_s);
         BuildPhotoSet();
         QCOMPARE(int(state.PhotoCount), 3);
         QCOMPARE(state.PhotoFiles.Count(), 4);
@@ -89,19 +89,19 @@ private Q_SLOTS:
 
     void only_photos_count()
     {
-        program_->Disc.AddGroup(u"67"_s, 1);
-        program_->Disc.AddFile(u"Torviks/67B.BMP"_s, "x");
-        program_->Disc.AddFile(u"Torviks/THUMBS.DB"_s, "x");
-        program_->Disc.AddFile(u"Torviks/folder.jpg/inside.txt"_s, "x");
+        program_->disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddFile(u"Torviks/67B.BMP"_s, "x");
+        program_->disc.AddFile(u"Torviks/THUMBS.DB"_s, "x");
+        program_->disc.AddFile(u"Torviks/folder.jpg/inside.txt"_s, "x");
         BuildPhotoSet();
         QCOMPARE(int(state.PhotoCount), 1);
     }
 
     void odd_names_are_kept()
     {
-        program_->Disc.AddFile(u"Torviks/67 long name with blanks.jpg"_s, "x");
-        program_->Disc.AddFile(u"Torviks/67ährenfeld.jpg"_s, "x");
-        program_->Disc.AddFile(u"Torviks/67снег.jpg"_s, "x");
+        program_->disc.AddFile(u"Torviks/67 long name with blanks.jpg"_s, "x");
+        program_->disc.AddFile(u"Torviks/67ährenfeld.jpg"_s, "x");
+        program_->disc.AddFile(u"Torviks/67снег.jpg"_s, "x");
         BuildPhotoSet();
         QCOMPARE(int(state.PhotoCount), 3);
         QCOMPARE(state.PhotoFiles(1), u"G:\\Torviks\\67 LONG NAME WITH BLANKS.JPG"_s);
@@ -111,8 +111,8 @@ private Q_SLOTS:
 
     void names_that_clash_by_case_are_one_photo()
     {
-        program_->Disc.AddFile(u"Torviks/67a.jpg"_s, "x");
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, "x");
+        program_->disc.AddFile(u"Torviks/67a.jpg"_s, "x");
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, "x");
         BuildPhotoSet();
         QCOMPARE(int(state.PhotoCount), 1);
     }
@@ -127,28 +127,28 @@ private Q_SLOTS:
 
     void an_empty_folder_keeps_the_count_and_says_nothing()
     {
-        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 2);
         BuildPhotoSet();
-        program_->Disc.Remove(u"Torviks"_s);
+        program_->disc.Remove(u"Torviks"_s);
         BuildPhotoSet();
         QCOMPARE(int(state.PhotoCount), 2);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void a_drive_that_is_gone_is_reported_and_retried_at_the_listing()
     {
-        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 2);
         program_->PutDiscIn({});
-        program_->Messages.Answer(msgbox::answerRetry);
-        program_->Messages.Answer(msgbox::answerRetry);
-        program_->Messages.WhenAsked(
-            [this] { program_->Messages.WhenAsked([this] { program_->PutDiscIn(u'G'); }); });
+        program_->messages.Answer(msgbox::answerRetry);
+        program_->messages.Answer(msgbox::answerRetry);
+        program_->messages.WhenAsked(
+            [this] { program_->messages.WhenAsked([this] { program_->PutDiscIn(u'G'); }); });
         BuildPhotoSet();
-        QCOMPARE(program_->Messages.Count(), 2);
-        QCOMPARE(program_->Messages.Last().Text,
+        QCOMPARE(program_->messages.Count(), 2);
+        QCOMPARE(program_->messages.Last().text,
                  u"Error number: ER037\r\n\r\n Unable to load the photo array.\r\n\r\n"
                  "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
-        QCOMPARE(program_->Messages.Last().Style, 5);
+        QCOMPARE(program_->messages.Last().style, 5);
         QCOMPARE(int(state.PhotoCount), 2);
     }
 
@@ -170,29 +170,29 @@ private Q_SLOTS:
         BuildPhotoSet();
         QCOMPARE(int(state.PhotoCount), 32766);
         QCOMPARE(int(state.PhotoIndex), 32767);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void more_photos_overflow_the_index_and_are_reported()
     {
         AddMany(32768);
         bool ended = false;
-        program_->Messages.Answer(msgbox::answerRetry); // and Cancel after it
+        program_->messages.Answer(msgbox::answerRetry); // and Cancel after it
         try {
             BuildPhotoSet();
         } catch (const ProgramEnd&) {
             ended = true;
         }
         QVERIFY(ended);
-        QCOMPARE(program_->Messages.Count(), 2);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER037"_s));
+        QCOMPARE(program_->messages.Count(), 2);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER037"_s));
     }
 
 private:
     void AddMany(int count)
     {
-        program_->Disc.AddFile(u"Torviks/99000000.JPG"_s, {});
-        const QString folder = program_->Disc.PathOf(u"Torviks/"_s);
+        program_->disc.AddFile(u"Torviks/99000000.JPG"_s, {});
+        const QString folder = program_->disc.PathOf(u"Torviks/"_s);
         for (int number = 1; number < count; ++number) {
             QFile file(folder + u"99%1.JPG"_s.arg(number, 6, 10, QLatin1Char('0')));
             QVERIFY(file.open(QIODevice::WriteOnly));

@@ -19,34 +19,34 @@ private Q_SLOTS:
     {
         state.ErrorCode = u"ER023"_s;
         ReportError();
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, u"Error number: ER023\r\n\r\n Torvik photo not found for year selected.\r\n\r\n"
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, u"Error number: ER023\r\n\r\n Torvik photo not found for year selected.\r\n\r\n"
                            "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
-        QCOMPARE(box.Style, 16);
-        QCOMPARE(box.Title, u"The Torvik Vollandry"_s);
-        QCOMPARE(state.MessageText, box.Text);
+        QCOMPARE(box.style, 16);
+        QCOMPARE(box.title, u"The Torvik Vollandry"_s);
+        QCOMPARE(state.MessageText, box.text);
     }
 
     void the_codes_of_the_booklet_say_nothing_of_the_disc()
     {
         state.ErrorCode = u"ER034"_s;
         ReportError();
-        QCOMPARE(program_->Messages.Last().Text,
+        QCOMPARE(program_->messages.Last().text,
                  u"Error number: ER034\r\n\r\n You must select both a Start Year and an End Year. "_s);
         state.ErrorCode = u"ER036"_s;
         ReportError();
-        QCOMPARE(program_->Messages.Last().Text,
+        QCOMPARE(program_->messages.Last().text,
                  u"Error number: ER036\r\n\r\n 'TO' year may not be earlier than 'FROM' year."_s);
     }
 
     void a_failure_where_no_code_was_set_is_reported_under_the_one_before()
     {
-        program_->Disc.AddFile(u"emblems/emb67.jpg"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
+        program_->disc.AddFile(u"emblems/emb67.jpg"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
         LoadEmblem();
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         OnError([] { Fail(failure::overflow); }, ReportError);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(
             u"Error number: ER022\r\n\r\n Unable to load  Emblem  for year selected."_s));
     }
 
@@ -54,7 +54,7 @@ private Q_SLOTS:
     {
         state.ErrorCode = u"ER019"_s;
         ReportError();
-        QCOMPARE(program_->Messages.Last().Text,
+        QCOMPARE(program_->messages.Last().text,
                  u"Error number: ER019\r\n\r\n\r\n\r\nMake sure that the Torvik Vollandry is in the "
                  "CDROM drive."_s);
     }
@@ -64,7 +64,7 @@ private Q_SLOTS:
         state.ErrorCode = u"ER032"_s;
         state.SoundFile = u"E:\\wav\\1969.wav"_s;
         ReportError();
-        QVERIFY(program_->Messages.Last().Text.startsWith(
+        QVERIFY(program_->messages.Last().text.startsWith(
             u"Error number: ER032\r\n\r\n Unable to load sound file: v\\1969.wav\r\n\r\nMake sure"_s));
     }
 
@@ -72,11 +72,11 @@ private Q_SLOTS:
     {
         for (const QString& code : {u"ER001"_s, u"ER037"_s, u"ER055"_s}) {
             Form1->SetEnabled(false);
-            program_->Messages.Answer(msgbox::answerRetry);
+            program_->messages.Answer(msgbox::answerRetry);
             state.ErrorCode = code;
             ReportError();
-            QCOMPARE(program_->Messages.Last().Style, 5);
-            QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry"_s);
+            QCOMPARE(program_->messages.Last().style, 5);
+            QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry"_s);
             QCOMPARE(state.MessageAnswer, u"4"_s);
             QVERIFY2(!Form1->Enabled(), "the way of Retry does not touch the form");
         }
@@ -84,7 +84,7 @@ private Q_SLOTS:
 
     void cancel_on_a_retry_box_ends_the_program_at_once()
     {
-        program_->Messages.Answer(msgbox::answerCancel);
+        program_->messages.Answer(msgbox::answerCancel);
         state.ErrorCode = u"ER037"_s;
         bool ended = false;
         try {
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QCOMPARE(state.MessageAnswer, u"2"_s);
     }
 
-    void the_focus_goes_to_the_year_behind_the_current_one_data()
+    void the_focus_goes_to_the_year_after_the_current_one_data()
     {
         QTest::addColumn<int>("current");
         QTest::addColumn<QString>("focus");
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QTest::newRow("2001") << 35 << u"cmdYR(1)"_s;
     }
 
-    void the_focus_goes_to_the_year_behind_the_current_one()
+    void the_focus_goes_to_the_year_after_the_current_one()
     {
         QFETCH(int, current);
         QFETCH(QString, focus);
@@ -143,7 +143,7 @@ private Q_SLOTS:
         state.CurrentYearButton = 1;
         state.ErrorCode = u"ER002"_s;
         QCOMPARE(ResumeNext(ReportError), 5);
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
     }
 };
 

@@ -9,8 +9,8 @@ namespace {
 /// A term as a short text: "-" excluded, "*" open, words joined by "+".
 QString Told(const SearchTerm& term)
 {
-    return (term.IsExcluded ? u"-"_s : QString()) + term.Words.join(u'+') +
-           (term.IsBeginning ? u"*"_s : QString());
+    return (term.isExcluded ? u"-"_s : QString()) + term.words.join(u'+') +
+           (term.isBeginning ? u"*"_s : QString());
 }
 
 QString TermsOf(const QString& typed)
@@ -26,7 +26,7 @@ QStringList Found(const QString& typed, const QString& text, qsizetype most = 10
 {
     QStringList pieces;
     for (const TextRange& place : PlacesOf(SearchTermsOf(typed), text, most))
-        pieces.append(text.mid(place.Begin, place.Length));
+        pieces.append(text.mid(place.begin, place.length));
     return pieces;
 }
 
@@ -55,12 +55,12 @@ private Q_SLOTS:
             QTest::newRow(name) << typed << terms;
         };
         row("the last word is open while it is typed", u"hood scoop"_s, u"hood scoop*"_s);
-        row("a blank behind it closes it", u"hood scoop "_s, u"hood scoop"_s);
+        row("a blank after it closes it", u"hood scoop "_s, u"hood scoop"_s);
         row("an asterisk leaves a word open", u"scoop* hood "_s, u"scoop* hood"_s);
         row("quotes hold words together", u"\"hood scoop\" red "_s, u"hood+scoop red"_s);
         row("a quote that is not closed yet is open", u"\"hood sco"_s, u"hood+sco*"_s);
         row("a closed quote is closed", u"\"hood scoop\""_s, u"hood+scoop"_s);
-        row("an asterisk behind a quote opens it", u"\"hood sco\"* "_s, u"hood+sco*"_s);
+        row("an asterisk after a quote opens it", u"\"hood sco\"* "_s, u"hood+sco*"_s);
         row("a minus sign excludes", u"hood -scoop"_s, u"hood -scoop"_s);
         row("also what is in quotes", u"car -\"hood scoop\" "_s, u"car -hood+scoop"_s);
         row("a minus sign inside a word parts it", u"four-speed "_s, u"four+speed"_s);
@@ -91,7 +91,7 @@ private Q_SLOTS:
             typed.append(u"w%1"_s.arg(word));
         QCOMPARE(SearchTermsOf(typed.join(u' ')).size(), 64);
         QCOMPARE(SearchTermsOf(typed.join(u'-')).size(), 1);
-        QCOMPARE(SearchTermsOf(typed.join(u'-')).first().Words.size(), 64);
+        QCOMPARE(SearchTermsOf(typed.join(u'-')).first().words.size(), 64);
     }
 
     void exclusions_alone_look_for_nothing()

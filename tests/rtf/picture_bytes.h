@@ -91,7 +91,7 @@ inline QByteArray EmfRecord(quint32 type, const QByteArray& parameters)
 inline QByteArray Emf(int width, int height, const QByteArray& records)
 {
     Bytes header;
-    header.Longs({1, 100, 0, 0, width, height, 0, 0, width * 10, height * 10, 0x464d4520, 0x10000, 0, 0});
+    header.Longs({1, 100, 0, 0, width, height, 0, 0, width * 10LL, height * 10LL, 0x464d4520, 0x10000, 0, 0});
     header.U16(16).U16(0).Longs({0, 0, 0, 1000, 1000, 100, 100, 0, 0, 0});
     QByteArray bytes = header.Data().left(100);
     return bytes + records + EmfRecord(14, Bytes().Longs({0, 16, 20}).Data());

@@ -53,10 +53,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, line);
         const SaverArguments read = Read(line);
-        QCOMPARE(read.Problem, QString());
-        QTEST(static_cast<int>(read.Task), "task");
-        QTEST(read.Window, "window");
-        QVERIFY(!read.Help && !read.Version);
+        QCOMPARE(read.problem, QString());
+        QTEST(static_cast<int>(read.task), "task");
+        QTEST(read.window, "window");
+        QVERIFY(!read.help && !read.version);
     }
 
     void the_window_of_the_environment_is_drawn_into_unless_another_task_is_named_data()
@@ -86,29 +86,29 @@ private Q_SLOTS:
         QFETCH(QString, line);
         QFETCH(QString, given);
         const SaverArguments read = Read(line, given);
-        QTEST(static_cast<int>(read.Task), "task");
-        QTEST(read.Window, "window");
+        QTEST(static_cast<int>(read.task), "task");
+        QTEST(read.window, "window");
     }
 
     void drives_and_the_program_folder_are_taken()
     {
         const SaverArguments read =
             Read(u"/s --drive E=/media/a --drive=g:=/b --program-folder /opt/torvik"_s);
-        QCOMPARE(read.Problem, QString());
-        QCOMPARE(read.Drives.size(), 2);
-        QCOMPARE(read.Drives[0].Letter, QChar(u'E'));
-        QCOMPARE(read.Drives[0].Folder, u"/media/a"_s);
-        QCOMPARE(read.Drives[1].Letter, QChar(u'G'));
-        QCOMPARE(read.Drives[1].Folder, u"/b"_s);
-        QCOMPARE(read.ProgramFolder, u"/opt/torvik"_s);
+        QCOMPARE(read.problem, QString());
+        QCOMPARE(read.drives.size(), 2);
+        QCOMPARE(read.drives[0].letter, QChar(u'E'));
+        QCOMPARE(read.drives[0].folder, u"/media/a"_s);
+        QCOMPARE(read.drives[1].letter, QChar(u'G'));
+        QCOMPARE(read.drives[1].folder, u"/b"_s);
+        QCOMPARE(read.programFolder, u"/opt/torvik"_s);
     }
 
     void help_and_version()
     {
         for (const char* word : {"--help", "-h", "/?", "-HELP"})
-            QVERIFY2(Read(QString::fromLatin1(word)).Help, word);
+            QVERIFY2(Read(QString::fromLatin1(word)).help, word);
         for (const char* word : {"--version", "-v"})
-            QVERIFY2(Read(QString::fromLatin1(word)).Version, word);
+            QVERIFY2(Read(QString::fromLatin1(word)).version, word);
         for (const char* named : {"/s", "/p WINDOW", "/c", "-root", "-window-id WINDOW",
                                   "--drive LETTER=FOLDER", "--program-folder FOLDER", "--help", "--version"})
             QVERIFY2(SaverHelpText().contains(QString::fromLatin1(named)), named);
@@ -142,7 +142,7 @@ private Q_SLOTS:
     void what_is_wrong_is_told()
     {
         QFETCH(QString, line);
-        QTEST(Read(line).Problem, "problem");
+        QTEST(Read(line).problem, "problem");
     }
 };
 

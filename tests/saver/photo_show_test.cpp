@@ -11,20 +11,21 @@ namespace {
 
 class TestStage : public Stage {
 public:
-    explicit TestStage(const QSize& size) : Size(size) {}
+    explicit TestStage(const QSize& size) : size(size) {}
 
-    QSize Pixels() const override { return Size; }
+    QSize Pixels() const override { return size; }
     Fade& Shown() override { return fade_; }
-    void Refresh() override { ++Refreshes; }
+    void Refresh() override { ++refreshes; }
 
-    QSize Size;
-    int Refreshes = 0;
+    QSize size;
+    int refreshes = 0;
 
 private:
     Fade fade_;
 };
 
 const QString drive = u"E:\\"_s;
+constexpr int hueStep = 14; ///< between the colours of photos, in degrees
 
 } // namespace
 
@@ -48,7 +49,7 @@ private Q_SLOTS:
         TestStage stage({100, 80});
         Show show({3000, drive});
         show.SetStages({&stage});
-        QCOMPARE(PhotosAt(show, {0, 1, 2999, 3000, 5999, 6000, 9000}),
+        QCOMPARE(PhotosAt(show, stage, {0, 1, 2999, 3000, 5999, 6000, 9000}),
                  (QStringList{"a.jpg", "a.jpg", "a.jpg", "b.jpg", "b.jpg", "a.jpg", "b.jpg"}));
     }
 
@@ -64,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(show.Advance(1800), 4200);
         QCOMPARE(show.Advance(5999), 1);
         QCOMPARE(show.Advance(6000), 33);
-        QCOMPARE(stage.Refreshes, 6);
+        QCOMPARE(stage.refreshes, 6);
     }
 
     void the_passage_takes_no_more_than_half_of_a_short_interval()
@@ -103,7 +104,7 @@ private Q_SLOTS:
         TestStage stage({100, 80});
         Show show({1000, drive});
         show.SetStages({&stage});
-        QCOMPARE(PhotosAt(show, {0, 1000, 2000}), (QStringList{"a.jpg", "e.jpg", "a.jpg"}));
+        QCOMPARE(PhotosAt(show, stage, {0, 1000, 2000}), (QStringList{"a.jpg", "e.jpg", "a.jpg"}));
     }
 
     void a_folder_without_a_sound_photo_shows_the_card()
@@ -114,7 +115,7 @@ private Q_SLOTS:
         Show show({1000, drive});
         show.SetStages({&stage});
         show.Advance(0);
-        QCOMPARE(show.PhotoName(), QString());
+        QCOMPARE(PhotoOn(stage), QString());
         QVERIFY(IsLit(stage.Shown().Frame()));
     }
 
@@ -139,11 +140,11 @@ private Q_SLOTS:
         TestStage stage({320, 240});
         Show show({2000, drive});
         show.SetStages({&stage});
-        QCOMPARE(PhotosAt(show, {0}), QStringList{QString()});
+        QCOMPARE(PhotosAt(show, stage, {0}), QStringList{QString()});
         Add("a.jpg");
-        QCOMPARE(PhotosAt(show, {10'000}), QStringList{"a.jpg"});
+        QCOMPARE(PhotosAt(show, stage, {10'000}), QStringList{"a.jpg"});
         QVERIFY(disc_->Remove("a.jpg"));
-        QCOMPARE(PhotosAt(show, {12'000}), QStringList{QString()});
+        QCOMPARE(PhotosAt(show, stage, {12'000}), QStringList{QString()});
     }
 
     void a_disc_that_is_pulled_out_in_the_middle_brings_the_card()
@@ -153,9 +154,9 @@ private Q_SLOTS:
         TestStage stage({320, 240});
         Show show({1000, drive});
         show.SetStages({&stage});
-        QCOMPARE(PhotosAt(show, {0, 1000}), (QStringList{"a.jpg", "b.jpg"}));
+        QCOMPARE(PhotosAt(show, stage, {0, 1000}), (QStringList{"a.jpg", "b.jpg"}));
         disc_->Vanish();
-        QCOMPARE(PhotosAt(show, {2000}), QStringList{QString()});
+        QCOMPARE(PhotosAt(show, stage, {2000}), QStringList{QString()});
     }
 
     void a_stage_that_changes_its_size_gets_its_frame_at_once()
@@ -165,7 +166,7 @@ private Q_SLOTS:
         Show show({5000, drive});
         show.SetStages({&stage});
         show.Advance(0);
-        stage.Size = {60, 200};
+        stage.size = {60, 200};
         show.StageResized(stage);
         QCOMPARE(stage.Shown().Frame().size(), QSize(60, 200));
         QVERIFY(IsRed(stage.Shown().Frame().pixelColor(30, 100)));
@@ -188,8 +189,15 @@ private Q_SLOTS:
         Add("a.jpg");
         Add("b.jpg");
         Show show({1000, drive});
-        show.SetStages({});
-        QCOMPARE(PhotosAt(show, {0, 1000, 2000}), (QStringList{"a.jpg", "b.jpg", "a.jpg"}));
+        QStringList names;
+        for (const qint64 time : {0, 1000, 2000}) {
+            show.SetStages({});
+            show.Advance(time);
+            TestStage late({100, 80});
+            show.SetStages({&late});
+            names.append(PhotoOn(late));
+        }
+        QCOMPARE(names, (QStringList{"a.jpg", "b.jpg", "a.jpg"}));
     }
 
     void a_machine_that_slept_goes_on_with_the_next_photo()
@@ -200,22 +208,38 @@ private Q_SLOTS:
         TestStage stage({100, 80});
         Show show({1000, drive});
         show.SetStages({&stage});
-        QCOMPARE(PhotosAt(show, {0, 3'600'000, 3'600'500, 3'601'000}),
+        QCOMPARE(PhotosAt(show, stage, {0, 3'600'000, 3'600'500, 3'601'000}),
                  (QStringList{"a.jpg", "b.jpg", "b.jpg", "c.jpg"}));
     }
 
 private:
-    void Add(const std::string& name, const QColor& colour = Qt::darkCyan, const QSize& size = {64, 48})
+    void Add(const std::string& name, const QColor& colour, const QSize& size = {64, 48})
     {
         QVERIFY(disc_->File(name, TestDisc::Jpeg(colour, size).toStdString()));
     }
+    /// A photo with a colour of its own, by which PhotoOn knows it.
+    void Add(const std::string& name)
+    {
+        Add(name, QColor::fromHsv((name.front() - 'a' + 1) * hueStep, 255, 200));
+    }
 
-    static QStringList PhotosAt(Show& show, const QList<qint64>& times)
+    /// The name of the photo whose colour fills the stage; empty where none does, as on the title card.
+    static QString PhotoOn(TestStage& stage)
+    {
+        const QImage& frame = stage.Shown().Frame();
+        const QColor middle = frame.pixelColor(frame.width() / 2, frame.height() / 2);
+        const QColor corner = frame.pixelColor(frame.width() / 4, frame.height() / 4);
+        if (middle.hsvSaturation() < 200 || qAbs(middle.hsvHue() - corner.hsvHue()) > hueStep / 2)
+            return {};
+        return u"%1.jpg"_s.arg(QChar(u'a' + (middle.hsvHue() - hueStep / 2) / hueStep));
+    }
+
+    static QStringList PhotosAt(Show& show, TestStage& stage, const QList<qint64>& times)
     {
         QStringList names;
         for (const qint64 time : times) {
             show.Advance(time);
-            names.append(show.PhotoName());
+            names.append(PhotoOn(stage));
         }
         return names;
     }

@@ -43,15 +43,15 @@ private Q_SLOTS:
         Store("Interval", u"15"_s);
         Store("TorviksDir", u"C:\\opt\\torvik\\ssTorviks\\"_s);
         const SaverSettings read = ReadSaverSettings();
-        QCOMPARE(read.Interval, 15000);
-        QCOMPARE(read.Folder, u"C:\\opt\\torvik\\ssTorviks\\"_s);
+        QCOMPARE(read.interval, 15000);
+        QCOMPARE(read.folder, u"C:\\opt\\torvik\\ssTorviks\\"_s);
     }
 
     void before_the_installation_there_is_no_folder_and_a_calm_interval()
     {
         const SaverSettings read = ReadSaverSettings();
-        QCOMPARE(read.Interval, 5000);
-        QCOMPARE(read.Folder, QString());
+        QCOMPARE(read.interval, 5000);
+        QCOMPARE(read.folder, QString());
     }
 
     void an_interval_is_brought_within_its_bounds_data()
@@ -81,15 +81,15 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         Store("Interval", text);
-        QTEST(ReadSaverSettings().Interval, "milliseconds");
+        QTEST(ReadSaverSettings().interval, "milliseconds");
     }
 
     void a_folder_without_a_closing_backslash_gets_one()
     {
         Store("TorviksDir", u"E:\\Torviks"_s);
-        QCOMPARE(ReadSaverSettings().Folder, u"E:\\Torviks\\"_s);
+        QCOMPARE(ReadSaverSettings().folder, u"E:\\Torviks\\"_s);
         Store("TorviksDir", u"E:\\Torviks/"_s);
-        QCOMPARE(ReadSaverSettings().Folder, u"E:\\Torviks/"_s);
+        QCOMPARE(ReadSaverSettings().folder, u"E:\\Torviks/"_s);
     }
 
     void a_file_that_is_no_settings_file_counts_as_none()
@@ -98,8 +98,8 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(5000, '\xff') + "[Settings\n=\n\n%%%=3");
         file.close();
-        QCOMPARE(ReadSaverSettings().Interval, 5000);
-        QCOMPARE(ReadSaverSettings().Folder, QString());
+        QCOMPARE(ReadSaverSettings().interval, 5000);
+        QCOMPARE(ReadSaverSettings().folder, QString());
     }
 };
 

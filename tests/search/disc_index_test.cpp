@@ -27,6 +27,28 @@ QList<IndexedText> SomeTexts()
             {u"The Super Glider"_s, {}}};
 }
 
+/// Holds up the reading of a text until it opens, at the latest at the end of the test.
+class Gate {
+public:
+    Gate() = default;
+    ~Gate() { Open(); }
+    Gate(const Gate&) = delete;
+    Gate& operator=(const Gate&) = delete;
+
+    void Open() { semaphore_->release(); }
+    std::function<QByteArray()> Behind(const QByteArray& bytes) const
+    {
+        return [semaphore = semaphore_, bytes] {
+            semaphore->acquire();
+            semaphore->release();
+            return bytes;
+        };
+    }
+
+private:
+    std::shared_ptr<QSemaphore> semaphore_ = std::make_shared<QSemaphore>();
+};
+
 } // namespace
 
 /// The texts of a disc, read and searched on a thread of their own.
@@ -39,21 +61,21 @@ private Q_SLOTS:
         DiscIndex index(SomeTexts(), [] {});
         QVERIFY(WaitForEnd(index));
         const IndexAnswer answer = AnswerTo(index, u"hood scoop"_s);
-        QCOMPARE(answer.Question, u"hood scoop"_s);
-        QCOMPARE(answer.Count, 1);
-        QCOMPARE(answer.Best.first().Entry, 0);
-        QCOMPARE(answer.Best.first().Line.Text, u"The hood scoop is painted."_s);
-        QCOMPARE(answer.Best.first().Line.Found, QList<TextRange>({{4, 4}, {9, 5}}));
+        QCOMPARE(answer.question, u"hood scoop"_s);
+        QCOMPARE(answer.count, 1);
+        QCOMPARE(answer.best.first().entry, 0);
+        QCOMPARE(answer.best.first().line.text, u"The hood scoop is painted."_s);
+        QCOMPARE(answer.best.first().line.found, QList<TextRange>({{4, 4}, {9, 5}}));
     }
 
     void what_has_a_title_only_is_found_by_it()
     {
         DiscIndex index(SomeTexts(), [] {});
-        const IndexAnswer answer = AnswerTo(index, u"glider"_s, [&] { return index.Progress().IsDone; });
-        QCOMPARE(answer.Count, 1);
-        QCOMPARE(answer.Best.first().Entry, 2);
-        QCOMPARE(answer.Best.first().Line.Text, QString());
-        QCOMPARE(index.Progress().LeftOut, 0);
+        const IndexAnswer answer = AnswerTo(index, u"glider"_s, [&] { return index.Progress().isDone; });
+        QCOMPARE(answer.count, 1);
+        QCOMPARE(answer.best.first().entry, 2);
+        QCOMPARE(answer.best.first().line.text, QString());
+        QCOMPARE(index.Progress().leftOut, 0);
     }
 
     void the_progress_counts_what_was_read_and_what_was_left_out()
@@ -66,13 +88,13 @@ private Q_SLOTS:
         DiscIndex index(texts, [] {});
         QVERIFY(WaitForEnd(index));
         const IndexProgress progress = index.Progress();
-        QCOMPARE(progress.Read, 7);
-        QCOMPARE(progress.Total, 7);
-        QCOMPARE(progress.LeftOut, 4);
-        QVERIFY(progress.IsUsable);
+        QCOMPARE(progress.read, 7);
+        QCOMPARE(progress.total, 7);
+        QCOMPARE(progress.leftOut, 4);
+        QVERIFY(progress.isUsable);
         // What could not be read is found by nothing, its title included.
-        QCOMPARE(AnswerTo(index, u"failing"_s).Count, 0);
-        QCOMPARE(AnswerTo(index, u"hood"_s).Count, 2);
+        QCOMPARE(AnswerTo(index, u"failing"_s).count, 0);
+        QCOMPARE(AnswerTo(index, u"hood"_s).count, 2);
     }
 
     void a_damaged_article_is_found_by_what_there_is_of_it()
@@ -80,34 +102,22 @@ private Q_SLOTS:
         DiscIndex index({{u"Cut"_s, [] { return QByteArray("{\\rtf1\\ansi {\\b The hood scoop is pain"); }}},
                         [] {});
         QVERIFY(WaitForEnd(index));
-        QCOMPARE(AnswerTo(index, u"scoop"_s).Count, 1);
+        QCOMPARE(AnswerTo(index, u"scoop"_s).count, 1);
     }
 
-    void questions_are_answered_while_more_is_read()
+    void questions_are_answered_while_the_disc_keeps_the_next_text_back()
     {
-        auto asked = std::make_shared<QSemaphore>();
-        auto gate = std::make_shared<QSemaphore>();
-        const auto openInAnyCase = qScopeGuard([asked, gate] {
-            asked->release();
-            gate->release();
-        });
+        Gate gate;
         QList<IndexedText> texts = SomeTexts();
-        texts.append({u"Slow"_s, [asked] {
-                          asked->acquire();
-                          return QByteArray("{\\rtf1 slow words}");
-                      }});
-        texts.append({u"Late"_s, [gate] {
-                          gate->acquire();
-                          return QByteArray("{\\rtf1 a late hood}");
-                      }});
+        texts.append({u"Late"_s, gate.Behind("{\\rtf1 a late hood}")});
         texts.append(Text(u"Last"_s, "words"));
         DiscIndex index(texts, [] {});
-        QTRY_COMPARE(index.Progress().Read, 3);
+        QTRY_COMPARE(index.Progress().read, 3);
+        QCOMPARE(AnswerTo(index, u"hood"_s).count, 2);
+        QCOMPARE(AnswerTo(index, u"glossary"_s).count, 1);
+        QVERIFY(!index.Progress().isDone);
         index.Ask(u"hood"_s);
-        asked->release();
-        QCOMPARE(NextAnswer(index).Count, 2);
-        QVERIFY(!index.Progress().IsDone);
-        gate->release();
+        gate.Open();
         QVERIFY(WaitForEnd(index));
         QTRY_COMPARE(LastCount(index), 3); // answered again, without another question
     }
@@ -119,7 +129,7 @@ private Q_SLOTS:
         index.TakeAnswer();
         for (const QString& question : {u"h"_s, u"ho"_s, u"hoo"_s, u"glossary"_s})
             index.Ask(question);
-        QCOMPARE(AnswerOf(index, u"glossary"_s).Count, 1);
+        QCOMPARE(AnswerOf(index, u"glossary"_s).count, 1);
         QVERIFY(!index.TakeAnswer().has_value());
     }
 
@@ -131,27 +141,28 @@ private Q_SLOTS:
         DiscIndex index(texts, [] {});
         QVERIFY(WaitForEnd(index));
         const IndexAnswer answer = AnswerTo(index, u"car"_s);
-        QCOMPARE(answer.Count, 150);
-        QCOMPARE(answer.Best.size(), 100);
+        QCOMPARE(answer.count, 150);
+        QCOMPARE(answer.best.size(), 100);
     }
 
-    void news_are_told_until_the_end_and_never_after_it()
+    void news_is_told_until_the_end_and_never_after_it()
     {
         auto told = std::make_shared<std::atomic<int>>(0);
-        auto gate = std::make_shared<QSemaphore>();
         auto left = std::make_shared<QSemaphore>();
+        Gate gate;
         {
-            DiscIndex index({Text(u"One"_s, "word"),
-                             {u"Two"_s,
-                              [gate, left] {
-                                  gate->acquire();
-                                  left->release();
-                                  return QByteArray("{\\rtf1 word}");
-                              }}},
-                            [told] { ++*told; });
+            const auto wait = gate.Behind("{\\rtf1 word}");
+            const DiscIndex index({Text(u"One"_s, "word"),
+                                   {u"Two"_s,
+                                    [wait, left] {
+                                        const QByteArray bytes = wait();
+                                        left->release();
+                                        return bytes;
+                                    }}},
+                                  [told] { ++*told; });
             QTRY_COMPARE(told->load(), 1);
-        } // returns at once, although the thread still reads
-        gate->release();
+        } // returns at once, although the disc still holds the second text up
+        gate.Open();
         QVERIFY(left->tryAcquire(1, 10'000));
         QCOMPARE(told->load(), 1);
     }
@@ -160,13 +171,13 @@ private Q_SLOTS:
     {
         DiscIndex index({}, [] {});
         QVERIFY(WaitForEnd(index));
-        QCOMPARE(AnswerTo(index, u"hood"_s).Count, 0);
+        QCOMPARE(AnswerTo(index, u"hood"_s).count, 0);
     }
 
 private:
     static bool WaitForEnd(const DiscIndex& index)
     {
-        return QTest::qWaitFor([&] { return index.Progress().IsDone; }, 20'000);
+        return QTest::qWaitFor([&] { return index.Progress().isDone; }, 20'000);
     }
 
     static IndexAnswer NextAnswer(DiscIndex& index)
@@ -179,7 +190,7 @@ private:
     static IndexAnswer AnswerOf(DiscIndex& index, const QString& question)
     {
         IndexAnswer answer = NextAnswer(index);
-        while (answer.Question != question && answer.Count >= 0)
+        while (answer.question != question && answer.count >= 0)
             answer = NextAnswer(index);
         return answer;
     }
@@ -202,7 +213,7 @@ private:
     {
         static qsizetype last = -1;
         if (const auto answer = index.TakeAnswer())
-            last = answer->Count;
+            last = answer->count;
         return last;
     }
 };

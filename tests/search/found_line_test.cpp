@@ -10,10 +10,12 @@ namespace {
 QString Marked(const QString& text, const QString& typed, qsizetype length = 60)
 {
     const FoundLine line = LineAroundFirstHit(text, SearchTermsOf(typed), length);
-    QString marked = line.Text;
-    for (auto place = line.Found.rbegin(); place != line.Found.rend(); ++place) {
-        marked.insert(place->End(), u']');
-        marked.insert(place->Begin, u'[');
+    QString marked = line.text;
+    qsizetype before = 0; // letters put in already
+    for (const TextRange& place : line.found) {
+        marked.insert(place.begin + before, u'[');
+        marked.insert(place.End() + before + 1, u']');
+        before += 2;
     }
     return marked;
 }
@@ -56,7 +58,7 @@ private Q_SLOTS:
     void one_endless_word_is_cut()
     {
         const FoundLine line = LineAroundFirstHit(u"x"_s.repeated(5000), SearchTermsOf(u"y"_s), 40);
-        QCOMPARE(line.Text, u"x"_s.repeated(40) + u"…"_s);
+        QCOMPARE(line.text, u"x"_s.repeated(40) + u"…"_s);
     }
 
     void half_a_character_is_never_shown()
@@ -64,12 +66,12 @@ private Q_SLOTS:
         const QString text = u"\U0001F600"_s.repeated(500) + u" needle "_s + u"\U0001F600"_s.repeated(500);
         for (qsizetype length = 30; length < 60; ++length) {
             const FoundLine line = LineAroundFirstHit(text, SearchTermsOf(u"needle"_s), length);
-            QCOMPARE(QString::fromUcs4(line.Text.toStdU32String().c_str()), line.Text);
-            for (qsizetype at = 0; at < line.Text.size(); ++at) {
-                if (line.Text[at].isHighSurrogate())
-                    QVERIFY(at + 1 < line.Text.size() && line.Text[at + 1].isLowSurrogate());
-                if (line.Text[at].isLowSurrogate())
-                    QVERIFY(at > 0 && line.Text[at - 1].isHighSurrogate());
+            QCOMPARE(QString::fromUcs4(line.text.toStdU32String().c_str()), line.text);
+            for (qsizetype at = 0; at < line.text.size(); ++at) {
+                if (line.text[at].isHighSurrogate())
+                    QVERIFY(at + 1 < line.text.size() && line.text[at + 1].isLowSurrogate());
+                if (line.text[at].isLowSurrogate())
+                    QVERIFY(at > 0 && line.text[at - 1].isHighSurrogate());
             }
         }
     }

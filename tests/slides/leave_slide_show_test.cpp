@@ -26,7 +26,7 @@ private Q_SLOTS:
         program_ = std::make_unique<Program>();
         for (const char* prefix : {"67", "68", "99", "A0", "A1", "CW", "GB", "M1", "M3", "MS",
                                    "PT", "SB", "TC", "TD", "TE", "TF", "US", "VC", "VM", "ZZ"})
-            program_->Disc.AddGroup(QString::fromLatin1(prefix), 2);
+            program_->disc.AddGroup(QString::fromLatin1(prefix), 2);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -47,7 +47,7 @@ private Q_SLOTS:
         QCOMPARE(Form1->cmdStats.Caption(), u"Engines"_s);
         QVERIFY(!state.SlideShowOpen);
         QVERIFY(!state.SlideRestorePending);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void each_caption_gives_the_main_window_its_buttons_focus_and_code_data()
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QCOMPARE(state.YearCode, code);
         QCOMPARE(int(state.PhotoIndex), state.ShownPhotoIndex - 1);
         QVERIFY(!state.SlideShowOpen);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void the_harwell_keeps_some_buttons_and_its_focus_is_the_first_year()
@@ -166,8 +166,8 @@ private Q_SLOTS:
         QFETCH(QString, title);
         QFETCH(QString, code);
         QVERIFY(LeaveAt(photo));
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, reported);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, reported);
         QCOMPARE(Form1->panYear.Caption(), title);
         QCOMPARE(Form1->Image4.Picture().FileName(), photo + u".JPG"_s);
         QCOMPARE(state.YearCode, code);
@@ -194,7 +194,7 @@ private Q_SLOTS:
             frmSlide->panYear.SetCaption(u"19A0"_s);
             ClickSlidePart(*program_, stopButton);
         }));
-        QCOMPARE(program_->Messages.Last().Text, reported);
+        QCOMPARE(program_->messages.Last().text, reported);
     }
 
     void a_prefix_of_digits_that_are_no_year_of_the_bar_is_reported()
@@ -203,7 +203,7 @@ private Q_SLOTS:
             frmSlide->panYear.SetCaption(u"1912 "_s);
             ClickSlidePart(*program_, stopButton);
         }));
-        QCOMPARE(program_->Messages.Last().Text, reported);
+        QCOMPARE(program_->messages.Last().text, reported);
         QCOMPARE(int(state.CurrentYearButton), 0);
     }
 
@@ -253,12 +253,12 @@ private Q_SLOTS:
     {
         QVERIFY(InSlideShow(*program_, [&] {
             ClickSlidePart(*program_, u"mmSlide(Next)"_s);
-            program_->Disc.Remove(u"Torviks/67B.JPG"_s);
+            program_->disc.Remove(u"Torviks/67B.JPG"_s);
             state.SlideRestorePending = true;
             ClickSlidePart(*program_, stopButton);
             QVERIFY(!state.SlideRestorePending);
-            QCOMPARE(program_->Messages.Count(), 1);
-            QCOMPARE(program_->Messages.Last().Text, reported);
+            QCOMPARE(program_->messages.Count(), 1);
+            QCOMPARE(program_->messages.Last().text, reported);
             QVERIFY(frmSlide.IsLoaded() && frmSlide->Visible());
             QCOMPARE(Form1->Image4.Picture().FileName(), u"67A.JPG"_s);
             QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
@@ -289,7 +289,7 @@ private Q_SLOTS:
         QCOMPARE(Form1->panYear.Caption(), u"1968"_s);
         QCOMPARE(int(state.ShownPhotoIndex), 3);
         QVERIFY(state.SlideShowOpen);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void the_exit_button_leaves_a_running_show_too()
@@ -300,7 +300,7 @@ private Q_SLOTS:
             Clock::Turn(60'000);
             QVERIFY(!frmSlide.IsLoaded());
         }));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_hidden_photo_comes_back_with_the_return_to_the_main_window()
@@ -325,7 +325,7 @@ private Q_SLOTS:
     {
         Form1->mnuArt(1).Click.Fire();
         QCOMPARE(state.YearCode, u"mu"_s);
-        const int reports = program_->Messages.Count();
+        const int reports = program_->messages.Count();
         QVERIFY(InSlideShow(*program_, [&] {
             QCOMPARE(state.YearCode, u"67"_s);
             program_->Click(frmSlide->cmdExit);
@@ -334,7 +334,7 @@ private Q_SLOTS:
         QCOMPARE(state.YearCode, u"mu"_s);
         program_->Press(Form1->cmdYR(1), Qt::Key_Period); // it has no photo to step to
         QVERIFY(Form1->Image4.Picture().IsEmpty());
-        QCOMPARE(program_->Messages.Count(), reports);
+        QCOMPARE(program_->messages.Count(), reports);
     }
 
     void a_picture_over_the_photo_that_is_missing_is_told_once()
@@ -344,8 +344,8 @@ private Q_SLOTS:
         Form1->picClipArt.Show();
         QVERIFY(LeaveAt(u"68A"_s));
         QStringList codes;
-        for (const MessageRequest& box : program_->Messages.Shown())
-            codes.append(box.Text.mid(14, 5));
+        for (const MessageRequest& box : program_->messages.Shown())
+            codes.append(box.text.mid(14, 5));
         QCOMPARE(codes.join(u' '), u"ER024 ER021 ER022"_s);
         QVERIFY(Form1->picClipArt.Visible());
         QVERIFY(!Form1->picEmblem.Visible());
@@ -355,11 +355,11 @@ private Q_SLOTS:
     {
         Form1->picClipArt.Show();
         QVERIFY(LeaveAt(u"68A"_s));
-        program_->Messages.Clear();
+        program_->messages.Clear();
         for (int time = 1; time <= 2; ++time) {
             program_->Click(Form1->cmdYR(2));
-            QCOMPARE(program_->Messages.Count(), time);
-            QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER024"_s));
+            QCOMPARE(program_->messages.Count(), time);
+            QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER024"_s));
         }
     }
 
@@ -369,18 +369,18 @@ private Q_SLOTS:
         Form1->picClipArt.Show();
         for (int time = 1; time <= 2; ++time) {
             QVERIFY(InSlideShow(*program_, [&] { program_->Click(frmSlide->cmdExit); }));
-            QCOMPARE(program_->Messages.Count(), time);
-            QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER024"_s));
+            QCOMPARE(program_->messages.Count(), time);
+            QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER024"_s));
         }
     }
 
     void stop_on_nothing_is_reported()
     {
         Form1->mnuArt(1).Click.Fire();
-        program_->Messages.Clear();
+        program_->messages.Clear();
         QVERIFY(InSlideShow(*program_, [&] { ClickSlidePart(*program_, stopButton); }));
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, reported);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, reported);
         QCOMPARE(Form1->panYear.Caption(), u"19 "_s);
         QVERIFY(Form1->Image4.Picture().IsEmpty());
         QVERIFY(!ProgramIsEnding());
@@ -394,7 +394,7 @@ private Q_SLOTS:
             frmSlide->Window().close();
             QVERIFY(!frmSlide.IsLoaded());
         }));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void closing_a_form_that_no_show_has_opened_asks_data()
@@ -411,13 +411,13 @@ private Q_SLOTS:
         QFETCH(bool, closes);
         state.SlideShowOpen = false;
         frmSlide.LoadForm();
-        program_->Messages.Answer(answer);
+        program_->messages.Answer(answer);
         QCOMPARE(frmSlide.Unload(), closes);
         QCOMPARE(frmSlide.IsLoaded(), !closes);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, u"Exit The Torvik Vollandry?"_s);
-        QCOMPARE(program_->Messages.Last().Style, 33);
-        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, u"Exit The Torvik Vollandry?"_s);
+        QCOMPARE(program_->messages.Last().style, 33);
+        QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry 2001"_s);
         QCOMPARE(int(state.MessageResult), answer);
         state.SlideShowOpen = true;
     }

@@ -20,10 +20,10 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 3);
-        program_->Disc.AddGroup(u"68"_s, 2);
-        program_->Disc.AddGroup(u"A0"_s, 1);
-        program_->Disc.AddGroup(u"VC"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"68"_s, 2);
+        program_->disc.AddGroup(u"A0"_s, 1);
+        program_->disc.AddGroup(u"VC"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -131,10 +131,10 @@ private Q_SLOTS:
         QVERIFY(InSlideShow(*program_, [] { QCOMPARE(ShownSlide(), u"68A.JPG, 1 of 1, 1968 "_s); }));
     }
 
-    void behind_a_title_without_photos_the_show_opens_on_nothing()
+    void after_a_title_without_photos_the_show_opens_on_nothing()
     {
         program_->Click(Form1->cmdYR(4)); // no photo of 1970 is on the disc
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(int(state.ShownPhotoIndex), 8);
         QVERIFY(InSlideShow(*program_, [&] {
             QVERIFY(frmSlide->Image1.Picture().IsEmpty());
@@ -145,7 +145,7 @@ private Q_SLOTS:
             ClickSlidePart(*program_, u"mmSlide(Prev)"_s);
             QCOMPARE(ShownSlide(), u"VCA.JPG, 7 of 7, Torvik Cookies "_s);
         }));
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(Form1->panYear.Caption(), u"1970"_s);
         QVERIFY(!ProgramIsEnding());
     }
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QFETCH(QString, press);
         QFETCH(QString, shown);
         program_->Click(Form1->cmdYR(4));
-        program_->Messages.Clear();
+        program_->messages.Clear();
         QVERIFY(InSlideShow(*program_, [&] {
             for (int time = 0; time < 3; ++time) {
                 program_->Press(Qt::Key_Period);
@@ -176,7 +176,7 @@ private Q_SLOTS:
             Clock::Turn(press.contains(u"Play"_s) ? 2000 : 0);
             QCOMPARE(ShownSlide(), shown);
         }));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_show_that_opens_on_nothing_runs_from_the_first_photo()
@@ -187,7 +187,7 @@ private Q_SLOTS:
             Clock::Turn(2000); // the first tick goes back to the start
             QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 7, 1967 "_s);
         }));
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
     }
 
     void a_code_that_is_no_number_becomes_67_data()
@@ -267,19 +267,19 @@ private Q_SLOTS:
 
     void a_photo_that_is_gone_ends_the_program_with_its_failure()
     {
-        program_->Disc.Remove(u"Torviks/67A.JPG"_s);
+        program_->disc.Remove(u"Torviks/67A.JPG"_s);
         QVERIFY(!InSlideShow(*program_, [] {}));
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '53':\r\n\r\nFile not found"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, u"Run-time error '53':\r\n\r\nFile not found"_s);
         QVERIFY(ProgramIsEnding());
     }
 
     void a_photo_that_is_cut_off_ends_the_program_with_its_failure()
     {
         const QByteArray whole = TestDisc::Jpeg(Qt::red, {64, 48});
-        program_->Disc.AddFile(u"Torviks/67A.JPG"_s, whole.left(whole.size() / 2));
+        program_->disc.AddFile(u"Torviks/67A.JPG"_s, whole.left(whole.size() / 2));
         QVERIFY(!InSlideShow(*program_, [] {}));
-        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '481':\r\n\r\nInvalid picture"_s);
+        QCOMPARE(program_->messages.Last().text, u"Run-time error '481':\r\n\r\nInvalid picture"_s);
         QVERIFY(ProgramIsEnding());
     }
 

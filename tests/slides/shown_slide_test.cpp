@@ -42,7 +42,7 @@ private Q_SLOTS:
             {u"ZZ"_s, u"Torvik Postage Stamps "_s},
         };
         for (const auto& [code, title] : titles)
-            program_->Disc.AddGroup(code, 1);
+            program_->disc.AddGroup(code, 1);
         program_->StartBrowsing();
         QVERIFY(InSlideShow(*program_, [&] {
             int number = 0;
@@ -57,7 +57,7 @@ private Q_SLOTS:
 
     void a_cursor_on_no_photo_is_failure_9()
     {
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
         state.PhotoIndex = 0;
         QCOMPARE(ResumeNext(SetSlideCaption), 9);

@@ -29,7 +29,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 4);
+        program_->disc.AddGroup(u"67"_s, 4);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -86,8 +86,8 @@ private Q_SLOTS:
             ClickSlidePart(*program_, u"mmSlide(Play)"_s);
             program_->Click(*PanelNamed(name));
         }));
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text,
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text,
                  u"Run-time error '5':\r\n\r\nInvalid procedure call or argument"_s);
         QVERIFY(ProgramIsEnding());
     }
@@ -100,7 +100,7 @@ private Q_SLOTS:
             program_->Click(frmSlide->pnlPhotoNumber);
             program_->Click(frmSlide->Image1);
         }));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QVERIFY(!ProgramIsEnding());
     }
 

@@ -13,8 +13,8 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 24); // 67A to 67X
-        program_->Disc.AddGroup(u"VC"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 24); // 67A to 67X
+        program_->disc.AddGroup(u"VC"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -61,7 +61,7 @@ private Q_SLOTS:
             QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), u"%1 of 25"_s.arg(to));
             QCOMPARE(Program::Focus(), u"SSCommand1"_s);
         }));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void the_photos_of_the_next_steps_are_read_ahead()
@@ -77,7 +77,7 @@ private Q_SLOTS:
             ClickSlidePart(*program_, u"mmSlide(Prev)"_s);
             QTRY_VERIFY(isReady(25) && isReady(24) && isReady(2)); // round the beginning
         }));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_step_shows_the_caption_of_the_photo()
@@ -188,8 +188,8 @@ private Q_SLOTS:
         Restart(u"67"_s, 1);
         QVERIFY(InSlideShow(*program_, [&] { program_->Click(frmSlide->SSCommand2); }));
         QCOMPARE(int(state.PhotoIndex), 0);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '9':\r\n\r\nSubscript out of range"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, u"Run-time error '9':\r\n\r\nSubscript out of range"_s);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -213,16 +213,16 @@ private Q_SLOTS:
         QFETCH(QString, code);
         QFETCH(QString, position);
         QVERIFY(InSlideShow(*program_, [&] {
-            program_->Disc.Remove(u"Torviks/67B.JPG"_s);
+            program_->disc.Remove(u"Torviks/67B.JPG"_s);
             state.PhotoIndex = from;
             frmSlide->cmdExit.SetFocus();
             ClickSlidePart(*program_, press);
-            QCOMPARE(program_->Messages.Count(), 1);
-            QCOMPARE(program_->Messages.Last().Text,
+            QCOMPARE(program_->messages.Count(), 1);
+            QCOMPARE(program_->messages.Last().text,
                      u"Error number: %1\r\n\r\n Unable to load Slide Show photo.\r\n\r\n"
                      "Make sure that the Torvik Vollandry is in the CDROM drive."_s.arg(code));
-            QCOMPARE(program_->Messages.Last().Style, 16);
-            QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry"_s);
+            QCOMPARE(program_->messages.Last().style, 16);
+            QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry"_s);
             QCOMPARE(int(state.PhotoIndex), 2);
             QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67A.JPG"_s);
             QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), position);
@@ -234,7 +234,7 @@ private Q_SLOTS:
     void a_cut_off_photo_is_reported_like_one_that_is_gone()
     {
         const QByteArray whole = TestDisc::Jpeg(Qt::red, {64, 48});
-        program_->Disc.AddFile(u"Torviks/67B.JPG"_s, whole.left(whole.size() - 20));
+        program_->disc.AddFile(u"Torviks/67B.JPG"_s, whole.left(whole.size() - 20));
         QVERIFY(InSlideShow(*program_, [&] {
             ClickSlidePart(*program_, u"mmSlide(Next)"_s);
             QCOMPARE(state.ErrorCode, u"ER014"_s);
@@ -242,7 +242,7 @@ private Q_SLOTS:
             ClickSlidePart(*program_, u"mmSlide(Next)"_s);
             QCOMPARE(ShownSlide(), u"67C.JPG, 3 of 25, 1967 "_s);
         }));
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
     }
 
     void a_step_that_succeeds_leaves_the_error_code_alone()
@@ -268,11 +268,11 @@ private Q_SLOTS:
         QFETCH(QString, press);
         QFETCH(QString, gone);
         QVERIFY(InSlideShow(*program_, [&] {
-            program_->Disc.Remove(gone);
+            program_->disc.Remove(gone);
             ClickSlidePart(*program_, press);
         }));
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, u"Run-time error '53':\r\n\r\nFile not found"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, u"Run-time error '53':\r\n\r\nFile not found"_s);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -282,9 +282,9 @@ private:
     {
         program_.reset();
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(prefix, count);
+        program_->disc.AddGroup(prefix, count);
         program_->StartBrowsing();
-        program_->Messages.Clear();
+        program_->messages.Clear();
         state.ShownPhotoIndex = 1;
     }
 

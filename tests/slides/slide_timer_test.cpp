@@ -48,13 +48,13 @@ bool Alike(const QColor& one, const QColor& other)
 class PaintWatch : public QObject {
 public:
     explicit PaintWatch(QLabel& label) : label_(label) { label.installEventFilter(this); }
-    QList<QColor> Painted;
+    QList<QColor> painted;
 
     bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {
         if (event->type() == QEvent::Paint) {
             const QPixmap shown = label_.pixmap(Qt::ReturnByValue);
-            Painted.append(shown.isNull() ? QColor() : MiddleOf(shown));
+            painted.append(shown.isNull() ? QColor() : MiddleOf(shown));
         }
         return false;
     }
@@ -73,7 +73,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 6);
+        program_->disc.AddGroup(u"67"_s, 6);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -259,17 +259,17 @@ private Q_SLOTS:
             ClickSlidePart(*program_, u"SpinInterval(Up)"_s);
             QCOMPARE(state.SlideDelay, 1000);
         }));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_photo_that_vanishes_in_mid_show_is_reported_and_the_show_stays_on_it()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            program_->Disc.Remove(u"Torviks/67C.JPG"_s);
+            program_->disc.Remove(u"Torviks/67C.JPG"_s);
             ClickSlidePart(*program_, playButton);
             Clock::Turn(2000);
-            QCOMPARE(program_->Messages.Count(), 1);
-            QCOMPARE(program_->Messages.Last().Text,
+            QCOMPARE(program_->messages.Count(), 1);
+            QCOMPARE(program_->messages.Last().text,
                      u"Error number: ER016\r\n\r\n Unable to load Slide Show photo.\r\n\r\n"
                      "Make sure that the Torvik Vollandry is in the CDROM drive."_s);
             QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67B.JPG"_s);
@@ -277,34 +277,34 @@ private Q_SLOTS:
             QVERIFY(!frmSlide->SSCommand1.Enabled());
             QVERIFY(!ProgramIsEnding());
             // It is tried again with each tick; back on the disc it is shown.
-            program_->Disc.AddPhoto(u"67C.JPG"_s);
+            program_->disc.AddPhoto(u"67C.JPG"_s);
             Clock::Turn(1000);
             QCOMPARE(ShownSlide(), u"67C.JPG, 3 of 6, 1967 "_s);
-            QCOMPARE(program_->Messages.Count(), 1);
+            QCOMPARE(program_->messages.Count(), 1);
         }));
     }
 
     void a_cut_off_photo_is_reported_and_never_shown_half_grey()
     {
         const QByteArray whole = TestDisc::Jpeg(Qt::red, {400, 300});
-        program_->Disc.AddFile(u"Torviks/67B.JPG"_s, whole.left(whole.size() / 2));
+        program_->disc.AddFile(u"Torviks/67B.JPG"_s, whole.left(whole.size() / 2));
         QVERIFY(InSlideShow(*program_, [&] {
             ClickSlidePart(*program_, playButton);
             Clock::Turn(1000);
             QCOMPARE(state.ErrorCode, u"ER016"_s);
             QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67A.JPG"_s);
         }));
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
     }
 
     void no_tick_interrupts_the_message_about_a_photo()
     {
         QVERIFY(InSlideShow(*program_, [&] {
-            program_->Disc.Remove(u"Torviks/67B.JPG"_s);
-            program_->Messages.WhenAsked([] { Clock::Turn(10'000); });
+            program_->disc.Remove(u"Torviks/67B.JPG"_s);
+            program_->messages.WhenAsked([] { Clock::Turn(10'000); });
             ClickSlidePart(*program_, playButton);
             Clock::Turn(1000);
-            QCOMPARE(program_->Messages.Count(), 1);
+            QCOMPARE(program_->messages.Count(), 1);
             QCOMPARE(int(state.PhotoIndex), 2);
         }));
     }
@@ -313,7 +313,7 @@ private Q_SLOTS:
     {
         const QList<QColor> colours{Qt::red, Qt::green, Qt::blue};
         for (int number = 0; number < colours.size(); ++number)
-            program_->Disc.AddPhoto(u"67%1.JPG"_s.arg(QChar(u'A' + number)), colours.at(number), {1200, 900});
+            program_->disc.AddPhoto(u"67%1.JPG"_s.arg(QChar(u'A' + number)), colours.at(number), {1200, 900});
         QVERIFY(InSlideShow(*program_, [&] {
             auto& label = static_cast<QLabel&>(frmSlide->Image1.Widget());
             ClickSlidePart(*program_, playButton);
@@ -323,11 +323,11 @@ private Q_SLOTS:
                 Clock::Turn(1000);
                 program_->Settle();
             }
-            QVERIFY(watch.Painted.size() >= 4);
-            for (const QColor& painted : watch.Painted)
+            QVERIFY(watch.painted.size() >= 4);
+            for (const QColor& painted : watch.painted)
                 QVERIFY(Alike(painted, colours.at(0)) || Alike(painted, colours.at(1)) ||
                         Alike(painted, colours.at(2)));
-            QVERIFY(Alike(watch.Painted.last(), colours.at(2)));
+            QVERIFY(Alike(watch.painted.last(), colours.at(2)));
         }));
     }
 

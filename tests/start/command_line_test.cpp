@@ -12,62 +12,62 @@ private Q_SLOTS:
     void nothing_asks_for_nothing()
     {
         const CommandLine line = ReadCommandLine({});
-        QVERIFY(line.Drives.isEmpty());
-        QVERIFY(line.ProgramFolder.isEmpty());
-        QVERIFY(line.Problem.isEmpty());
-        QVERIFY(!line.Help && !line.Version);
+        QVERIFY(line.drives.isEmpty());
+        QVERIFY(line.programFolder.isEmpty());
+        QVERIFY(line.problem.isEmpty());
+        QVERIFY(!line.help && !line.version);
     }
 
     void drives_come_with_or_without_a_letter()
     {
         const CommandLine line = ReadCommandLine(
             {u"--drive"_s, u"G=/discs/one"_s, u"--drive=h:=/discs/two words"_s, u"/discs/three"_s});
-        QVERIFY(line.Problem.isEmpty());
-        QCOMPARE(line.Drives.size(), 3);
-        QCOMPARE(line.Drives[0].Letter, QChar(u'G'));
-        QCOMPARE(line.Drives[0].Folder, u"/discs/one"_s);
-        QCOMPARE(line.Drives[1].Letter, QChar(u'H'));
-        QCOMPARE(line.Drives[1].Folder, u"/discs/two words"_s);
-        QVERIFY(line.Drives[2].Letter.isNull());
-        QCOMPARE(line.Drives[2].Folder, u"/discs/three"_s);
+        QVERIFY(line.problem.isEmpty());
+        QCOMPARE(line.drives.size(), 3);
+        QCOMPARE(line.drives[0].letter, QChar(u'G'));
+        QCOMPARE(line.drives[0].folder, u"/discs/one"_s);
+        QCOMPARE(line.drives[1].letter, QChar(u'H'));
+        QCOMPARE(line.drives[1].folder, u"/discs/two words"_s);
+        QVERIFY(line.drives[2].letter.isNull());
+        QCOMPARE(line.drives[2].folder, u"/discs/three"_s);
     }
 
     void the_program_folder_is_taken_in_both_spellings()
     {
-        QCOMPARE(ReadCommandLine({u"--program-folder"_s, u"/p"_s}).ProgramFolder, u"/p"_s);
-        QCOMPARE(ReadCommandLine({u"--program-folder=/p"_s}).ProgramFolder, u"/p"_s);
+        QCOMPARE(ReadCommandLine({u"--program-folder"_s, u"/p"_s}).programFolder, u"/p"_s);
+        QCOMPARE(ReadCommandLine({u"--program-folder=/p"_s}).programFolder, u"/p"_s);
     }
 
     void the_print_folder_is_taken_in_both_spellings()
     {
-        QCOMPARE(ReadCommandLine({u"--print-to"_s, u"/p"_s}).PrintFolder, u"/p"_s);
-        QCOMPARE(ReadCommandLine({u"--print-to=/p"_s}).PrintFolder, u"/p"_s);
-        QVERIFY(ReadCommandLine({}).PrintFolder.isEmpty());
+        QCOMPARE(ReadCommandLine({u"--print-to"_s, u"/p"_s}).printFolder, u"/p"_s);
+        QCOMPARE(ReadCommandLine({u"--print-to=/p"_s}).printFolder, u"/p"_s);
+        QVERIFY(ReadCommandLine({}).printFolder.isEmpty());
     }
 
     void help_and_version_have_short_forms()
     {
-        QVERIFY(ReadCommandLine({u"--help"_s}).Help);
-        QVERIFY(ReadCommandLine({u"-h"_s}).Help);
-        QVERIFY(ReadCommandLine({u"--version"_s}).Version);
-        QVERIFY(ReadCommandLine({u"-v"_s}).Version);
+        QVERIFY(ReadCommandLine({u"--help"_s}).help);
+        QVERIFY(ReadCommandLine({u"-h"_s}).help);
+        QVERIFY(ReadCommandLine({u"--version"_s}).version);
+        QVERIFY(ReadCommandLine({u"-v"_s}).version);
     }
 
     void the_program_is_silent_unless_it_is_asked_to_talk()
     {
-        QVERIFY(!ReadCommandLine({u"/discs/one"_s}).Verbose);
+        QVERIFY(!ReadCommandLine({u"/discs/one"_s}).verbose);
         const CommandLine line = ReadCommandLine({u"--verbose"_s, u"/discs/one"_s});
-        QVERIFY(line.Verbose);
-        QCOMPARE(line.Drives.first().Folder, u"/discs/one"_s);
-        QVERIFY(line.Problem.isEmpty());
+        QVERIFY(line.verbose);
+        QCOMPARE(line.drives.first().folder, u"/discs/one"_s);
+        QVERIFY(line.problem.isEmpty());
     }
 
     void the_scale_is_a_factor_or_a_word()
     {
-        QCOMPARE(ReadCommandLine({}).Scale, QString());
+        QCOMPARE(ReadCommandLine({}).scale, QString());
         for (const QString& scale : {u"2"_s, u"1.25"_s, u"fit"_s, u"auto"_s}) {
-            QCOMPARE(ReadCommandLine({u"--scale"_s, scale}).Scale, scale);
-            QCOMPARE(ReadCommandLine({u"--scale="_s + scale}).Problem, QString());
+            QCOMPARE(ReadCommandLine({u"--scale"_s, scale}).scale, scale);
+            QCOMPARE(ReadCommandLine({u"--scale="_s + scale}).problem, QString());
         }
     }
 
@@ -105,28 +105,28 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, arguments);
         QFETCH(QString, problem);
-        QCOMPARE(ReadCommandLine(arguments).Problem, problem);
+        QCOMPARE(ReadCommandLine(arguments).problem, problem);
     }
 
     void options_of_qt_are_not_taken_for_letters_of_our_own()
     {
         const CommandLine line =
             ReadCommandLine({u"-reverse"_s, u"-stylesheet"_s, u"x.qss"_s, u"-platform"_s, u"offscreen"_s});
-        QVERIFY(!line.Help && !line.Version);
+        QVERIFY(!line.help && !line.version);
     }
 
     void help_is_given_whatever_else_is_wrong()
     {
-        QVERIFY(ReadCommandLine({u"--frobnicate"_s, u"--help"_s}).Help);
-        QVERIFY(ReadCommandLine({u"--drive"_s, u"C=/x"_s, u"--version"_s}).Version);
+        QVERIFY(ReadCommandLine({u"--frobnicate"_s, u"--help"_s}).help);
+        QVERIFY(ReadCommandLine({u"--drive"_s, u"C=/x"_s, u"--version"_s}).version);
     }
 
-    void what_stands_behind_two_dashes_is_a_folder()
+    void what_follows_two_dashes_is_a_folder()
     {
         const CommandLine line = ReadCommandLine({u"--"_s, u"--drive"_s});
-        QVERIFY(line.Problem.isEmpty());
-        QCOMPARE(line.Drives.size(), 1);
-        QCOMPARE(line.Drives.first().Folder, u"--drive"_s);
+        QVERIFY(line.problem.isEmpty());
+        QCOMPARE(line.drives.size(), 1);
+        QCOMPARE(line.drives.first().folder, u"--drive"_s);
     }
 
     void the_help_names_every_option()

@@ -1,8 +1,8 @@
-#include "platform/system/settings_store.h"
 #include "program/program_state.h"
 #include "program/task_bar.h"
 #include "start/main_window_life.h"
 #include "support/program.h"
+#include "support/saved_settings.h"
 #include "support/test_class.h"
 #include "ui/forms/form_window.h"
 #include "ui/forms/program_end.h"
@@ -15,11 +15,6 @@ using namespace Qt::StringLiterals;
 using namespace torvik;
 
 namespace {
-
-QString Saved(const QString& key)
-{
-    return GetSetting(applicationTitle, u"Settings"_s, key, u"(none)"_s);
-}
 
 /// Lets a panel lie over the year bar before the window is loaded.
 bool barIsCovered = false;
@@ -42,8 +37,8 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         ForgetSettings();
-        program_->Disc.AddGroup(u"67"_s, 3);
-        program_->Disc.AddGroup(u"68"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"68"_s, 2);
     }
     void cleanup()
     {
@@ -183,7 +178,7 @@ private Q_SLOTS:
         program_->StartBrowsing();
         state.TrayWindow = FindWindowByClass(u"Shell_TrayWnd"_s);
         ShowWindow(state.TrayWindow, showWindow::hide);
-        program_->Disc.AddFile(u"wav/x.wav"_s, "RIFF");
+        program_->disc.AddFile(u"wav/x.wav"_s, "RIFF");
         Form1->MMControl1.SetFileName(u"G:\\wav\\x.wav"_s);
         Form1->MMControl1.Command(u"open"_s);
         Form1->mnuExit.Click.Fire();
@@ -197,11 +192,11 @@ private Q_SLOTS:
         program_->StartBrowsing();
         state.TrayWindow = FindWindowByClass(u"Shell_TrayWnd"_s);
         ShowWindow(state.TrayWindow, showWindow::hide);
-        program_->Disc.Remove(u"Torviks"_s);
+        program_->disc.Remove(u"Torviks"_s);
         program_->PutDiscIn({});
         program_->DoubleClick(Form1->panPhoto);
         QVERIFY(ProgramIsEnding());
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER037"_s));
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER037"_s));
         QVERIFY(Form1->CoversScreen());
         QCOMPARE(Saved(u"MainLeft"_s), u"(none)"_s);
     }
@@ -215,11 +210,6 @@ private Q_SLOTS:
     }
 
 private:
-    static void ForgetSettings()
-    {
-        QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/The Torvik Vollandry 2001.ini"_s);
-    }
-
     std::unique_ptr<Program> program_;
 };
 

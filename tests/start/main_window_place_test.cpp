@@ -1,6 +1,7 @@
 #include "platform/system/settings_store.h"
 #include "program/program_state.h"
 #include "support/program.h"
+#include "support/saved_settings.h"
 #include "support/test_class.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
@@ -21,11 +22,6 @@ void SavePlace(const QString& key, const QString& value)
     SaveSetting(applicationTitle, u"Settings"_s, key, value);
 }
 
-QString SavedPlace(const QString& key)
-{
-    return GetSetting(applicationTitle, u"Settings"_s, key, u"(none)"_s);
-}
-
 } // namespace
 
 /// Where the main window stands, from one run to the next.
@@ -37,7 +33,7 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         ForgetSettings();
-        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"67"_s, 3);
     }
     void cleanup()
     {
@@ -72,16 +68,16 @@ private Q_SLOTS:
     {
         SavePlace(u"MainTop"_s, u"somewhere"_s);
         program_->StartBrowsing();
-        QCOMPARE(program_->Messages.Count(), 1);
+        QCOMPARE(program_->messages.Count(), 1);
         QCOMPARE(
-            program_->Messages.Last().Text,
+            program_->messages.Last().text,
             u"Run-time error '13':\r\n\r\nType mismatch\r\n\r\n"
             "The setting \"MainTop\" holds \"somewhere\" instead of a number. Correct it or delete its line, "
             "in the section [Settings] of the file\r\n"_s +
                 SettingsPlace(applicationTitle));
         QVERIFY(QFile::exists(SettingsPlace(applicationTitle)));
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(SavedPlace(u"MainTop"_s), u"somewhere"_s);
+        QCOMPARE(Saved(u"MainTop"_s), u"somewhere"_s);
     }
 
     void closing_saves_the_placement_and_ends_data()
@@ -107,11 +103,11 @@ private Q_SLOTS:
         else
             Form1->Window().close();
         QVERIFY(ProgramIsEnding());
-        QVERIFY(program_->Messages.Shown().isEmpty());
-        QCOMPARE(SavedPlace(u"MainLeft"_s), u"450"_s);
-        QCOMPARE(SavedPlace(u"MainTop"_s), u"600"_s);
-        QCOMPARE(SavedPlace(u"MainWidth"_s), u"11250"_s);
-        QCOMPARE(SavedPlace(u"MainHeight"_s), u"8400"_s);
+        QVERIFY(program_->messages.Shown().isEmpty());
+        QCOMPARE(Saved(u"MainLeft"_s), u"450"_s);
+        QCOMPARE(Saved(u"MainTop"_s), u"600"_s);
+        QCOMPARE(Saved(u"MainWidth"_s), u"11250"_s);
+        QCOMPARE(Saved(u"MainHeight"_s), u"8400"_s);
     }
 
     void closing_while_minimized_keeps_the_settings_of_the_run_before()
@@ -124,8 +120,8 @@ private Q_SLOTS:
         QCOMPARE(Form1->WindowState(), Form::State::Minimized);
         Form1->mnuExit.Click.Fire();
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(SavedPlace(u"MainLeft"_s), u"300"_s);
-        QCOMPARE(SavedPlace(u"MainWidth"_s), u"(none)"_s);
+        QCOMPARE(Saved(u"MainLeft"_s), u"300"_s);
+        QCOMPARE(Saved(u"MainWidth"_s), u"(none)"_s);
     }
 
     void closing_while_maximized_saves_what_an_ordinary_window_takes_for_the_same_area()
@@ -137,13 +133,13 @@ private Q_SLOTS:
         QTRY_VERIFY(Form1->Left() == 0.0 && !Form1->IsSettling());
         const QRect covered = Form1->Window().windowHandle()->frameGeometry();
         Form1->mnuExit.Click.Fire();
-        QCOMPARE(SavedPlace(u"MainLeft"_s), u"0"_s);
-        QCOMPARE(SavedPlace(u"MainTop"_s), u"0"_s);
-        QVERIFY(SavedPlace(u"MainWidth"_s).toDouble() > 6000);
+        QCOMPARE(Saved(u"MainLeft"_s), u"0"_s);
+        QCOMPARE(Saved(u"MainTop"_s), u"0"_s);
+        QVERIFY(Saved(u"MainWidth"_s).toDouble() > 6000);
 
         program_.reset();
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"67"_s, 3);
         program_->StartBrowsing();
         QTRY_VERIFY(!Form1->IsSettling());
         QCOMPARE(Form1->WindowState(), Form::State::Normal);
@@ -183,11 +179,6 @@ private:
         SavePlace(u"MainTop"_s, u"600"_s);
         SavePlace(u"MainWidth"_s, u"6000"_s);
         SavePlace(u"MainHeight"_s, u"6000"_s);
-    }
-
-    static void ForgetSettings()
-    {
-        QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/The Torvik Vollandry 2001.ini"_s);
     }
 
     std::unique_ptr<Program> program_;

@@ -68,7 +68,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"67"_s, 3);
     }
     void cleanup() { program_.reset(); }
 
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QCOMPARE(state.DiscRoot, u"G:"_s);
         QCOMPARE(state.PhotoRoot, u"G:"_s);
         QCOMPARE(int(state.PhotoCount), 3);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void the_splash_hands_over_after_five_seconds_and_not_before()
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(ProgramIsEnding());
         QVERIFY(!Form2.IsLoaded());
         QVERIFY(!Form1.IsLoaded());
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void the_timer_runs_once()
@@ -135,10 +135,10 @@ private Q_SLOTS:
     {
         const OtherInstance running;
         program_->Start();
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, u"The Torvik Vollandry is already running!"_s);
-        QCOMPARE(program_->Messages.Last().Style, 4112);
-        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, u"The Torvik Vollandry is already running!"_s);
+        QCOMPARE(program_->messages.Last().style, 4112);
+        QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry 2001"_s);
         QVERIFY(ProgramIsEnding());
         QCOMPARE(state.DiscRoot, QString());
     }
@@ -151,14 +151,14 @@ private Q_SLOTS:
         QVERIFY(Form2->MMControl1.IsOpen());
         QCOMPARE(Form2->MMControl1.FileName(), state.SoundFile);
         QTRY_COMPARE(Form2->MMControl1.State(), MediaControl::Mode::Playing);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void a_damaged_sound_holds_nothing_up()
     {
         program_->AddToProgramFolder(u"passby.wav"_s, "RIFF");
         program_->StartBrowsing();
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
         QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
     }
 
@@ -167,7 +167,7 @@ private Q_SLOTS:
         program_->Start();
         QCOMPARE(state.SoundFile, ProgramFolder() + u"\\passby.wav"_s);
         QVERIFY(!Form2->MMControl1.IsOpen());
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void on_800_by_600_the_window_keeps_the_size_of_its_load()
@@ -212,13 +212,13 @@ private Q_SLOTS:
     void photos_that_cannot_be_listed_are_asked_about_and_retry_goes_on()
     {
         const DiscLostWhenFound lost(*program_);
-        program_->Messages.Answer(msgbox::answerRetry); // ER001: no disc yet
-        program_->Messages.Answer(msgbox::answerRetry); // ER037: gone again
+        program_->messages.Answer(msgbox::answerRetry); // ER001: no disc yet
+        program_->messages.Answer(msgbox::answerRetry); // ER037: gone again
         QStringList codes;
         NoteCodes(codes);
         program_->Start();
         QCOMPARE(codes.join(u' '), u"ER001 ER037"_s);
-        QCOMPARE(program_->Messages.Last().Style, 5);
+        QCOMPARE(program_->messages.Last().style, 5);
         QCOMPARE(int(state.PhotoCount), 3);
         QVERIFY(Form2->Visible());
         program_->PassSplash();
@@ -228,15 +228,15 @@ private Q_SLOTS:
     void cancel_on_photos_that_cannot_be_listed_ends_with_the_splash_up()
     {
         const DiscLostWhenFound lost(*program_);
-        program_->Messages.Answer(msgbox::answerRetry);
-        program_->Messages.Answer(msgbox::answerCancel);
+        program_->messages.Answer(msgbox::answerRetry);
+        program_->messages.Answer(msgbox::answerCancel);
         bool splash = false;
-        program_->Messages.WhenAsked([&] {
+        program_->messages.WhenAsked([&] {
             program_->PutDiscIn(u'G');
-            program_->Messages.WhenAsked([&] { splash = Form2.IsLoaded() && Form2->Visible(); });
+            program_->messages.WhenAsked([&] { splash = Form2.IsLoaded() && Form2->Visible(); });
         });
         program_->Start();
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER037"_s));
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER037"_s));
         QVERIFY(splash);
         QVERIFY(ProgramIsEnding());
         QVERIFY(!Form1.IsLoaded());
@@ -257,7 +257,7 @@ private:
     /// Puts the disc in at the first box and again at the second; keeps the code of each.
     void NoteCodes(QStringList& codes)
     {
-        program_->Messages.WhenAsked([this, &codes] {
+        program_->messages.WhenAsked([this, &codes] {
             codes.append(state.ErrorCode);
             program_->PutDiscIn(u'G');
             NoteCodes(codes);

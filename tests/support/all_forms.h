@@ -50,7 +50,7 @@ inline Form& FormNamed(Program& program, const QString& name)
     return *Form1;
 }
 
-/// A form's widgets that have a name: controls and their parts, without the toolkit's insides.
+/// A form's widgets that have a name: controls and their parts, without Qt's insides.
 inline QList<QWidget*> NamedWidgets(Form& form)
 {
     QList<QWidget*> named;

@@ -10,13 +10,13 @@ namespace torvik {
 void AddCover(TestDisc& disc)
 {
     for (const CoverArt& art : coverArt) {
-        QImage image(art.Size, QImage::Format_RGB32);
-        image.fill(art.Colour);
+        QImage image(art.size, QImage::Format_RGB32);
+        image.fill(art.colour);
         QByteArray bytes;
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, art.Format, 95);
-        disc.AddFile(QString::fromLatin1(art.File), bytes);
+        image.save(&buffer, art.format, 95);
+        disc.AddFile(QString::fromLatin1(art.file), bytes);
     }
 }
 

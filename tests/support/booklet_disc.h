@@ -13,11 +13,11 @@ namespace torvik {
 
 /// A picture of the booklet's cover: where it belongs, and what stands for it in a test.
 struct CoverArt {
-    const char* File; ///< on the disc, with forward slashes
-    const char* Format;
-    QPoint Place; ///< twips
-    QSize Size;   ///< pixels; each has a width of its own
-    QColor Colour;
+    const char* file; ///< on the disc, with forward slashes
+    const char* format;
+    QPoint place; ///< twips
+    QSize size;   ///< pixels; each has a width of its own
+    QColor colour;
 };
 
 /// In the order in which they are printed.

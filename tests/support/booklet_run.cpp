@@ -25,30 +25,30 @@ void SelectYearIn(int list, const char* year)
 
 BookletRun::BookletRun()
 {
-    User.Disc.AddGroup(u"67"_s, 1);
+    user.disc.AddGroup(u"67"_s, 1);
     for (const char* prefix : {"67", "68", "69", "98", "99", "A0", "A1"})
-        AddYear(User.Disc, QString::fromLatin1(prefix));
-    AddIntroduction(User.Disc);
-    AddCover(User.Disc);
-    User.StartBrowsing();
+        AddYear(user.disc, QString::fromLatin1(prefix));
+    AddIntroduction(user.disc);
+    AddCover(user.disc);
+    user.StartBrowsing();
     ChooseMenu(*Form1, u"mnuPrnt"_s);
-    User.Settle();
+    user.Settle();
 }
 
 void BookletRun::Print(const QList<int>& boxes, const char* from, const char* to)
 {
     for (const int box : boxes)
-        User.Click(Form1->Check1(box));
+        user.Click(Form1->Check1(box));
     SelectYearIn(0, from);
     SelectYearIn(1, to);
-    User.Click(Form1->cmdPrint);
+    user.Click(Form1->cmdPrint);
 }
 
 QStringList BookletRun::Texts() const
 {
     QStringList texts;
-    for (int job = 1; job <= Printed.Jobs(); ++job)
-        texts.append(Printed.Pages(job).join(u'|').simplified());
+    for (int job = 1; job <= printed.Jobs(); ++job)
+        texts.append(printed.Pages(job).join(u'|').simplified());
     return texts;
 }
 
@@ -69,9 +69,9 @@ void AddBoxesWithoutDocuments()
 
 void ExpectSuccess(const BookletRun& run)
 {
-    QCOMPARE(run.User.Messages.Last().Text, u"Booklet printed!\r\n"_s);
-    QCOMPARE(run.User.Messages.Last().Style, 48);
-    QCOMPARE(run.User.Messages.Last().Title, boxTitle);
+    QCOMPARE(run.user.messages.Last().text, u"Booklet printed!\r\n"_s);
+    QCOMPARE(run.user.messages.Last().style, 48);
+    QCOMPARE(run.user.messages.Last().title, boxTitle);
     QCOMPARE(Form1->cmdPrint.Caption(), u"Print Again"_s);
     QCOMPARE(Form1->cmdOK.Caption(), u"Exit"_s);
     QCOMPARE(Screen.Pointer(), MousePointer::Default);
@@ -83,10 +83,10 @@ void ExpectRefusal(const BookletRun& run, const char* code, const char* text, bo
         u"Error number: "_s + QString::fromLatin1(code) + u"\r\n\r\n"_s + QString::fromLatin1(text);
     if (discHint)
         message += u"\r\n\r\nMake sure that the Torvik Vollandry is in the CDROM drive."_s;
-    QCOMPARE(run.User.Messages.Count(), 1);
-    QCOMPARE(run.User.Messages.Last().Text, message);
-    QCOMPARE(run.User.Messages.Last().Style, 16);
-    QCOMPARE(run.User.Messages.Last().Title, boxTitle);
+    QCOMPARE(run.user.messages.Count(), 1);
+    QCOMPARE(run.user.messages.Last().text, message);
+    QCOMPARE(run.user.messages.Last().style, 16);
+    QCOMPARE(run.user.messages.Last().title, boxTitle);
     QCOMPARE(state.ErrorCode, QString::fromLatin1(code));
     QVERIFY(Form1->pnlPrint.Visible());
     QVERIFY(Form1->cmdPrint.Enabled());

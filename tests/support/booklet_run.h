@@ -23,8 +23,8 @@ inline constexpr int colors = 7;
 struct BookletRun {
     BookletRun();
 
-    Program User;
-    PrintFolder Printed;
+    Program user;
+    PrintFolder printed;
 
     /// Ticks boxes, selects the years that are given ("1967"), and presses the button.
     void Print(const QList<int>& boxes, const char* from = nullptr, const char* to = nullptr);

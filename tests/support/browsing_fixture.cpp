@@ -7,7 +7,7 @@ namespace torvik {
 void BrowsingFixture::init()
 {
     program_ = std::make_unique<Program>();
-    program_->Disc.AddGroup(u"67"_s, 2);
+    program_->disc.AddGroup(u"67"_s, 2);
     program_->StartBrowsing();
 }
 

@@ -13,10 +13,10 @@ class Desktop : public QObject {
 public:
     Desktop();
     ~Desktop() override;
-    QStringList Opened;
+    QStringList opened;
 
 public Q_SLOTS:
-    void Open(const QUrl& address) { Opened.append(address.toString()); }
+    void Open(const QUrl& address) { opened.append(address.toString()); }
 };
 
 } // namespace torvik

@@ -15,7 +15,7 @@ namespace torvik {
 
 using namespace Qt::StringLiterals;
 
-/// The drive path of something in the folder that stands as drive E:.
+/// The drive path of something in the folder or image that stands as drive E:.
 inline QString On(const char* path)
 {
     return u"E:\\"_s + QString::fromUtf8(path);

@@ -4,7 +4,7 @@
 
 namespace torvik {
 
-/// No file can grow beyond `bytes` while it lives; to the program that is a full disk. What lies behind the
+/// No file can grow beyond `bytes` while it lives; to the program that is a full disk. What lies past the
 /// limit in an existing file stays.
 class FileSizeLimit {
 public:

@@ -6,10 +6,10 @@ namespace torvik {
 
 namespace {
 
-constexpr int firstFolderBlock = 20;
-constexpr int blocksOfFolder = 4;
-constexpr int mostFolders = 40;
-constexpr int firstContentBlock = firstFolderBlock + mostFolders * blocksOfFolder;
+constexpr qsizetype firstFolderBlock = 20;
+constexpr qsizetype blocksOfFolder = 4;
+constexpr qsizetype mostFolders = 40;
+constexpr qsizetype firstContentBlock = firstFolderBlock + mostFolders * blocksOfFolder;
 
 QByteArray Both(quint32 number)
 {
@@ -73,16 +73,16 @@ void ImageMaker::AddRecord(const Record& record, int in)
 QByteArray ImageMaker::Bytes(const Record& record)
 {
     constexpr int fixedPart = 33;
-    QByteArray bytes = QByteArray(1, '\0') + static_cast<char>(record.AttributeBlocks) + Both(record.Block) +
-                       Both(record.Length);
+    QByteArray bytes = QByteArray(1, '\0') + static_cast<char>(record.attributeBlocks) + Both(record.block) +
+                       Both(record.length);
     bytes += QByteArray("\x65\x0B\x15\x0C\x1E\x0F\x04", 7); // 21 November 2001, 12:30:15, an hour east
-    bytes += static_cast<char>(record.Flags);
+    bytes += static_cast<char>(record.flags);
     bytes += QByteArray("\0\0\1\0\0\1", 6);
-    bytes += static_cast<char>(record.Name.size());
-    bytes += record.Name;
-    if ((fixedPart + record.Name.size()) % 2 != 0)
+    bytes += static_cast<char>(record.name.size());
+    bytes += record.name;
+    if ((fixedPart + record.name.size()) % 2 != 0)
         bytes += '\0';
-    bytes += record.System;
+    bytes += record.system;
     if (bytes.size() % 2 != 0)
         bytes += '\0';
     bytes[0] = static_cast<char>(bytes.size());
@@ -98,7 +98,7 @@ QByteArray ImageMaker::Iso() const
     primary += Both(0x7FFFFFFF) + Little(0x7FFFFFF0); // a table of folders that lies; nobody needs it
     primary = Padded(primary, 156) + Bytes(root);
 
-    QByteArray iso(16 * block, '\0');
+    QByteArray iso(qsizetype{16} * block, '\0');
     iso += Padded(primary, block);
     iso += Padded(QByteArray("\xFF"
                              "CD001\1",
@@ -107,7 +107,7 @@ QByteArray ImageMaker::Iso() const
     iso = Padded(iso, firstFolderBlock * block);
     for (const QList<Record>& records : folders_) {
         Record own = root;
-        own.System = ownSystem_;
+        own.system = ownSystem_;
         QByteArray folder =
             Bytes(own) + Bytes({QByteArray(1, '\1'), BlockOf(0), blocksOfFolder * block, isFolder, {}, 0});
         for (const Record& record : records) {

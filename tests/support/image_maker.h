@@ -8,16 +8,16 @@ namespace torvik {
 /// Lays out disc images byte by byte, also such as no program would write.
 class ImageMaker {
 public:
-    static constexpr int block = 2048; ///< bytes
+    static constexpr qsizetype block = 2048; ///< bytes
 
     /// A record of a folder as it shall stand there.
     struct Record {
-        QByteArray Name;
-        quint32 Block = 0;
-        quint32 Length = 0;
-        quint8 Flags = 0; ///< 2: folder, 128: goes on in the next record
-        QByteArray System;
-        quint8 AttributeBlocks = 0;
+        QByteArray name;
+        quint32 block = 0;
+        quint32 length = 0;
+        quint8 flags = 0; ///< 2: folder, 128: goes on in the next record
+        QByteArray system;
+        quint8 attributeBlocks = 0;
     };
     static constexpr quint8 isFolder = 2;
     static constexpr quint8 goesOn = 128;

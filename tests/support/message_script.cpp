@@ -19,7 +19,7 @@ int MessageScript::Reply(const MessageRequest& request)
         action();
     if (!answers_.isEmpty())
         return answers_.takeFirst();
-    const int buttons = request.Style & 7;
+    const int buttons = request.style & 7;
     if (buttons == msgbox::yesNo)
         return msgbox::answerNo;
     return buttons == msgbox::ok ? msgbox::answerOk : msgbox::answerCancel;

@@ -40,7 +40,7 @@ inline QByteArray Encoded(const QImage& image, const char* format, bool progress
     writer.setProgressiveScanWrite(progressive);
     writer.setQuality(95);
     if (!writer.write(image))
-        qFatal("the platform cannot write such a picture");
+        qFatal("Qt cannot write such a picture");
     return bytes;
 }
 

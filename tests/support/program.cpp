@@ -80,7 +80,7 @@ void Program::PutDiscIn(QChar letter)
     if (letter.isNull())
         SetDriveOptions({});
     else
-        SetDriveOptions({{letter, Disc.Folder()}});
+        SetDriveOptions({{letter, disc.Folder()}});
     RefreshDrives();
 }
 

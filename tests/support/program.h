@@ -19,8 +19,8 @@ public:
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    TestDisc Disc;
-    MessageScript Messages;
+    TestDisc disc;
+    MessageScript messages;
 
     /// A file of the program folder on the host, by its name with forward slashes.
     QString InProgramFolder(const QString& relative) const { return folder_.filePath(relative); }

@@ -35,10 +35,10 @@ private:
 /// What a class needs before the application object is made; most need nothing.
 inline void PrepareNothing() {}
 
-template <typename Application, typename Test, void (*Prepare)()>
+template <typename Application, typename Test, void (*prepare)()>
 int RunTest(int argc, char** argv)
 {
-    Prepare();
+    prepare();
     Application application(argc, argv);
     Test test;
     return QTest::qExec(&test, argc, argv);

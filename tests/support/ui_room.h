@@ -65,13 +65,13 @@ inline FormDesign DesignOf(const QString& name, Scale scale = Scale::Twips,
                            FormBorder border = FormBorder::Sizable, bool hasMenu = false)
 {
     FormDesign design;
-    design.Name = name;
-    design.Caption = name;
-    design.ClientWidth = 6000;
-    design.ClientHeight = 4500;
-    design.Border = border;
-    design.ScaleMode = scale;
-    design.HasMenu = hasMenu;
+    design.name = name;
+    design.caption = name;
+    design.clientWidth = 6000;
+    design.clientHeight = 4500;
+    design.border = border;
+    design.scaleMode = scale;
+    design.hasMenu = hasMenu;
     return design;
 }
 

@@ -8,10 +8,10 @@ namespace torvik {
 
 /// What the document viewer shows while it is open.
 struct Viewed {
-    bool Came = false;
-    QString Caption;
-    QString File;
-    QString Text;
+    bool came = false;
+    QString caption;
+    QString file;
+    QString text;
 };
 
 /// Does something that opens the document viewer, keeps what it shows and closes it with OK. `Came` stays

@@ -9,7 +9,7 @@ namespace torvik {
 /// Runs `action` once, from inside the next loop that lets events run in which `begun` says yes.
 class WhileWaiting {
 public:
-    WhileWaiting(std::function<bool()> begun, std::function<void()> action)
+    WhileWaiting(const std::function<bool()>& begun, const std::function<void()>& action)
     {
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this, begun, action] {
             if (!begun())
@@ -21,6 +21,7 @@ public:
         timer_.start(0);
     }
 
+    /// Whether it was run, or has begun to.
     bool Ran() const { return ran_; }
 
 private:

@@ -19,7 +19,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -100,7 +100,7 @@ private Q_SLOTS:
             program_->Click(frmAbout->SSCommand2);
             QVERIFY(frmAbout->Visible());
         }));
-        QCOMPARE(desktop.Opened, QStringList{address});
+        QCOMPARE(desktop.opened, QStringList{address});
     }
 
     void an_address_that_cannot_be_opened_is_passed_over_in_silence()
@@ -108,7 +108,7 @@ private Q_SLOTS:
         // Without a desktop there is nobody who takes an address.
         Form1->mnuQuillonSoftware.Click.Fire();
         QVERIFY(Visit([&] { program_->Click(frmAbout->SSCommand2); }));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
         QVERIFY(Form1->Enabled());
         QVERIFY(!ProgramIsEnding());
     }
@@ -118,8 +118,8 @@ private Q_SLOTS:
         const Desktop desktop;
         Form1->mnuQuillonSoftware.Click.Fire();
         frmAbout.LoadForm();
-        QCOMPARE(desktop.Opened, QStringList{frmAbout->SSCommand2.Caption()});
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(desktop.opened, QStringList{frmAbout->SSCommand2.Caption()});
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_hidden_task_bar_comes_back_but_the_entry_keeps_its_caption()

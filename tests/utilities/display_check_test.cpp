@@ -14,7 +14,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -22,21 +22,21 @@ private Q_SLOTS:
     void on_800_by_600_all_is_well()
     {
         Form1->mnuCheckResolution.Click.Fire();
-        QCOMPARE(program_->Messages.Count(), 1);
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text, u"Your current screen resolution is set at 800x600.\r\n\r\n"
+        QCOMPARE(program_->messages.Count(), 1);
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text, u"Your current screen resolution is set at 800x600.\r\n\r\n"
                            "This is the optimum setting for the Torvik Vollandry!"_s);
-        QCOMPARE(box.Style, 0);
-        QCOMPARE(box.Title, u"The Torvik Vollandry 2001"_s);
-        QCOMPARE(state.MessageText, box.Text);
+        QCOMPARE(box.style, 0);
+        QCOMPARE(box.title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(state.MessageText, box.text);
     }
 
     void on_any_other_size_the_message_tells_it_and_what_to_do()
     {
         program_->SetScreen({1024, 768});
         Form1->mnuCheckResolution.Click.Fire();
-        const MessageRequest box = program_->Messages.Last();
-        QCOMPARE(box.Text,
+        const MessageRequest box = program_->messages.Last();
+        QCOMPARE(box.text,
                  u"Your current screen resolution is set at  1024 by 768 pixles.\r\n"
                  "\r\n"
                  "The optimum setting for the Torvik Vollandry is 800 by 600 pixels.\r\n"
@@ -55,16 +55,16 @@ private Q_SLOTS:
                  "          Select Small Fonts from the font size drop-down list box.\r\n"
                  "\r\n"
                  "You may now have to re-start your computer for the new settings to take affect.\r\n"_s);
-        QCOMPARE(box.Style, 48);
-        QCOMPARE(box.Title, u"The Torvik Vollandry 2001"_s);
-        QCOMPARE(state.MessageText, box.Text);
+        QCOMPARE(box.style, 48);
+        QCOMPARE(box.title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(state.MessageText, box.text);
     }
 
     void the_right_width_alone_is_another_size()
     {
         program_->SetScreen({800, 601});
         Form1->mnuCheckResolution.Click.Fire();
-        QVERIFY(program_->Messages.Last().Text.startsWith(
+        QVERIFY(program_->messages.Last().text.startsWith(
             u"Your current screen resolution is set at  800 by 601 pixles.\r\n"_s));
     }
 

@@ -17,7 +17,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup()
@@ -39,15 +39,15 @@ private Q_SLOTS:
         QVERIFY(text->toPlainText().contains(u"Welcome"_s));
         QCOMPARE(Form1->dlgCommon1.HelpFile(), ProgramFolder() + u"\\Torvik2001.HLP"_s);
         QCOMPARE(Form1->dlgCommon1.HelpCommand(), 3);
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_missing_file_brings_the_help_systems_own_message()
     {
         Form1->mnuContents.Click.Fire();
         QVERIFY(HelpViewer() == nullptr);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.contains(ProgramFolder() + u"\\Torvik2001.HLP"_s));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.contains(ProgramFolder() + u"\\Torvik2001.HLP"_s));
     }
 
 private:

@@ -19,7 +19,7 @@ public:
             const QString place = key + u'|' + name;
             const bool isPath = place == u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO|PATH"_s;
             const bool isFolder = place == u"SOFTWARE\\Microsoft\\Shared Tools Location|MSINFO"_s;
-            const QString text = isPath ? Path : isFolder ? Folder : QString();
+            const QString text = isPath ? path : isFolder ? folder : QString();
             return text.isEmpty() ? std::nullopt
                                   : std::optional(RegistryValue{registry::text, text.toLocal8Bit()});
         });
@@ -28,8 +28,8 @@ public:
     ToolRegistry(const ToolRegistry&) = delete;
     ToolRegistry& operator=(const ToolRegistry&) = delete;
 
-    QString Path;   ///< of the tool itself; empty for none
-    QString Folder; ///< of the shared tools; empty for none
+    QString path;   ///< of the tool itself; empty for none
+    QString folder; ///< of the shared tools; empty for none
 };
 
 } // namespace
@@ -43,7 +43,7 @@ private Q_SLOTS:
     {
         path_ = qgetenv("PATH");
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"67"_s, 1);
         program_->StartBrowsing();
     }
     void cleanup()
@@ -55,26 +55,26 @@ private Q_SLOTS:
     void the_tool_that_the_registry_names_is_started()
     {
         ToolRegistry registry;
-        registry.Path = AddTool(u"my tools/info.exe"_s);
+        registry.path = AddTool(u"my tools/info.exe"_s);
         Choose();
         QTRY_VERIFY(HasRun(u"my tools/info.exe"_s));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void else_the_one_in_the_folder_of_the_shared_tools()
     {
         ToolRegistry registry;
         AddTool(u"shared/MSINFO32.EXE"_s);
-        registry.Folder = u"G:\\shared"_s;
+        registry.folder = u"G:\\shared"_s;
         Choose();
         QTRY_VERIFY(HasRun(u"shared/MSINFO32.EXE"_s));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void a_folder_without_the_tool_is_none()
     {
         ToolRegistry registry;
-        registry.Folder = u"G:\\shared"_s;
+        registry.folder = u"G:\\shared"_s;
         qputenv("PATH", "/nowhere");
         Choose();
         CheckUnavailable();
@@ -83,7 +83,7 @@ private Q_SLOTS:
     void a_tool_that_does_not_start_reads_like_one_that_is_not_there()
     {
         ToolRegistry registry;
-        registry.Path = u"G:\\gone.exe"_s;
+        registry.path = u"G:\\gone.exe"_s;
         Choose();
         CheckUnavailable();
     }
@@ -91,10 +91,10 @@ private Q_SLOTS:
     void without_a_registry_the_desktops_own_tool_is_started()
     {
         AddTool(u"bin/kinfocenter"_s);
-        qputenv("PATH", program_->Disc.PathOf(u"bin"_s).toLocal8Bit() + ":/bin:/usr/bin");
+        qputenv("PATH", program_->disc.PathOf(u"bin"_s).toLocal8Bit() + ":/bin:/usr/bin");
         Choose();
         QTRY_VERIFY(HasRun(u"bin/kinfocenter"_s));
-        QCOMPARE(program_->Messages.Count(), 0);
+        QCOMPARE(program_->messages.Count(), 0);
     }
 
     void without_any_tool_the_message_says_so()
@@ -110,22 +110,22 @@ private:
     /// A program on the disc that leaves a mark beside itself; returns its drive path.
     QString AddTool(const QString& relative)
     {
-        const QString mark = program_->Disc.PathOf(relative + u".mark"_s);
-        program_->Disc.AddFile(relative, "#!/bin/sh\n: > '" + mark.toLocal8Bit() + "'\n");
-        QFile::setPermissions(program_->Disc.PathOf(relative),
+        const QString mark = program_->disc.PathOf(relative + u".mark"_s);
+        program_->disc.AddFile(relative, "#!/bin/sh\n: > '" + mark.toLocal8Bit() + "'\n");
+        QFile::setPermissions(program_->disc.PathOf(relative),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return u"G:\\"_s + QString(relative).replace(u'/', u'\\');
     }
     bool HasRun(const QString& relative) const
     {
-        return QFile::exists(program_->Disc.PathOf(relative + u".mark"_s));
+        return QFile::exists(program_->disc.PathOf(relative + u".mark"_s));
     }
     void CheckUnavailable() const
     {
-        QCOMPARE(program_->Messages.Count(), 1);
-        QCOMPARE(program_->Messages.Last().Text, u"System Information Is Unavailable At This Time"_s);
-        QCOMPARE(program_->Messages.Last().Style, 0);
-        QCOMPARE(program_->Messages.Last().Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(program_->messages.Last().text, u"System Information Is Unavailable At This Time"_s);
+        QCOMPARE(program_->messages.Last().style, 0);
+        QCOMPARE(program_->messages.Last().title, u"The Torvik Vollandry 2001"_s);
     }
 
     QByteArray path_;

@@ -38,7 +38,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"67"_s, 3);
         program_->Start();
     }
     void cleanup() { program_.reset(); }
@@ -133,7 +133,7 @@ private:
     }
 
     /// Everything in `area` that does something when it is used: the controls with a handler of their own and
-    /// all that the toolkit can put the focus on. Of the options of a group the chosen one is enough: the
+    /// all that Qt can put the focus on. Of the options of a group the chosen one is enough: the
     /// arrow keys go on from there.
     static void ExpectTabReaches(Form& form, QWidget& area)
     {
@@ -154,7 +154,7 @@ private:
             QVERIFY2(walk.contains(widget->objectName()),
                      qPrintable(widget->objectName() + u" is not in "_s + walk.join(u' ')));
         }
-        QVERIFY(expected > 0 || form.Design().Name == u"Form2"_s);
+        QVERIFY(expected > 0 || form.Design().name == u"Form2"_s);
     }
 
     std::unique_ptr<Program> program_;

@@ -33,7 +33,7 @@ private Q_SLOTS:
     void the_tree_stands_in_its_order_with_its_captions()
     {
         Program program;
-        program.Disc.AddGroup(u"67"_s, 1);
+        program.disc.AddGroup(u"67"_s, 1);
         program.StartBrowsing();
         const QString expected = u"mnuFile File\n"
                                  "> mnuCopy Copy CD-ROM photos to hard drive\n"

@@ -24,7 +24,7 @@ private Q_SLOTS:
     void init()
     {
         program_ = std::make_unique<Program>();
-        program_->Disc.AddGroup(u"67"_s, 2);
+        program_->disc.AddGroup(u"67"_s, 2);
         program_->StartBrowsing();
         state.SlideShowOpen = true;
     }

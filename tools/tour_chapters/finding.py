@@ -8,7 +8,8 @@ FIND_TITLE = "Find"
 def find_form(program):
     program.start_browsing()
     program.press("ctrl+f")
-    program.wait_for_window(FIND_TITLE)
+    wait_until(lambda: any(element.focused and element.window == FIND_TITLE for element in program.elements()),
+               "the form to have the keyboard")
 
 
 def found_while_typing(program):

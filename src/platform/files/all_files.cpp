@@ -18,9 +18,16 @@ bool IsAnyName(std::string_view /*name*/)
     return true;
 }
 
+std::string Below(const std::string& folder, const std::string& name)
+{
+    std::string path = folder + '/';
+    path += name;
+    return path;
+}
+
 class Lister {
 public:
-    explicit Lister(Place root) : volume_(std::move(root.On)), root_(std::move(root.Path)) {}
+    explicit Lister(Place root) : volume_(std::move(root.on)), root_(std::move(root.path)) {}
 
     QList<ListedFile> List()
     {
@@ -35,18 +42,18 @@ private:
             return;
         ResumeNext([&] {
             for (const std::string& name : volume_->Files(folder, IsAnyName))
-                Take(folder + '/' + name, path + NameFromHost(name));
+                Take(Below(folder, name), path + NameFromHost(name));
         });
         ResumeNext([&] {
             for (const std::string& name : volume_->Folders(folder, IsAnyName))
-                Enter(folder + '/' + name, path + NameFromHost(name) + u'\\', depth + 1);
+                Enter(Below(folder, name), path + NameFromHost(name) + u'\\', depth + 1);
         });
     }
 
     void Take(const std::string& file, const QString& path)
     {
         ListedFile listed{path, {volume_, file}, -1};
-        ResumeNext([&] { listed.Length = volume_->Status(file).Length; });
+        ResumeNext([&] { listed.length = volume_->Status(file).length; });
         files_.append(std::move(listed));
     }
 

@@ -9,9 +9,9 @@ namespace torvik {
 
 /// A file of a volume, wherever it lies there.
 struct ListedFile {
-    QString Path; ///< from the root on, "Torviks\67A.JPG"
-    Place Where;
-    qint64 Length = 0; ///< bytes; -1 when it cannot be told
+    QString path; ///< from the root on, "Torviks\67A.JPG"
+    Place where;
+    qint64 length = 0; ///< bytes; -1 when it cannot be told
 };
 
 /// All files of a volume, folder by folder, also those whose names differ in letter case alone. A folder that

@@ -1,7 +1,7 @@
 #include "platform/files/binary_file.h"
 
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/drives.h"
-#include "platform/paths/path_lookup.h"
 #include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 
@@ -29,7 +29,7 @@ void TellFullFilesByError()
 BinaryInput::BinaryInput(const QString& path)
 {
     const Place place = PlaceOf(path);
-    file_ = place.On->Open(place.Path);
+    file_ = place.on->Open(place.path);
 }
 
 void BinaryInput::Read(QByteArray& buffer, qsizetype length)

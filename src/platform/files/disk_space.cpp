@@ -37,10 +37,10 @@ DiskClusters DiskClustersOf(const QString& folder)
         Fail(number == failure::fileNotFound ? failure::pathNotFound : number);
     }
     DiskClusters clusters;
-    clusters.BytesPerSector = sectorSize;
-    clusters.SectorsPerCluster = static_cast<qint64>(status.f_frsize) / sectorSize;
-    clusters.Free = static_cast<qint64>(status.f_bavail);
-    clusters.Total = static_cast<qint64>(status.f_blocks);
+    clusters.bytesPerSector = sectorSize;
+    clusters.sectorsPerCluster = static_cast<qint64>(status.f_frsize) / sectorSize;
+    clusters.free = static_cast<qint64>(status.f_bavail);
+    clusters.total = static_cast<qint64>(status.f_blocks);
     return clusters;
 }
 

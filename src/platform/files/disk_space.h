@@ -8,10 +8,10 @@ namespace torvik {
 
 /// How a file system counts its room.
 struct DiskClusters {
-    qint64 SectorsPerCluster = 0;
-    qint64 BytesPerSector = 0;
-    qint64 Free = 0;  ///< clusters that this user may still fill
-    qint64 Total = 0; ///< clusters in all
+    qint64 sectorsPerCluster = 0;
+    qint64 bytesPerSector = 0;
+    qint64 free = 0;  ///< clusters that this user may still fill
+    qint64 total = 0; ///< clusters in all
 };
 
 /// The room of the file system that holds a folder (a drive path). Failures: 76 when it is missing, 70 when

@@ -2,9 +2,9 @@
 
 #include "platform/files/binary_file.h"
 #include "platform/files/files.h"
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/matching_names.h"
-#include "platform/paths/path_lookup.h"
 #include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 
@@ -65,13 +65,13 @@ void DeleteFile(const QString& path)
 void DeleteFilesMatching(const QString& pattern)
 {
     const MatchingNames matching = NamesMatching(pattern);
-    if (matching.Names.empty())
+    if (matching.names.empty())
         Fail(failure::fileNotFound);
-    const auto folder = matching.Folder.On->HostPath(matching.Folder.Path);
+    const auto folder = matching.folder.on->HostPath(matching.folder.path);
     if (!folder)
         Fail(failure::pathFileAccess);
     int firstFailure = 0;
-    for (const std::string& name : matching.Names) {
+    for (const std::string& name : matching.names) {
         const int number = Unlink(*folder + '/' + name);
         if (firstFailure == 0)
             firstFailure = number;

@@ -4,7 +4,7 @@
 
 namespace torvik {
 
-/// Calls that change the file system. All paths are drive paths (platform/drives.h); failures are
+/// Calls that change the file system. All paths are drive paths (platform/paths/drives.h); failures are
 /// RunTimeError. A link is deleted itself, never what it leads to.
 
 /// Deletes a file. Failures: 53 File not found (also for a folder), 76 Path not found, 70 Permission denied,

@@ -14,14 +14,14 @@ namespace {
 /// What fits into the address space of the machines that the program is made for.
 constexpr qint64 largestContent = std::numeric_limits<qint32>::max();
 
-/// Of a file that claims to be longer than that the rest gets room when it comes.
+/// For a file that claims to be longer, room for the rest is made as it comes.
 constexpr qint64 firstRoom = qint64{64} * 1024 * 1024;
 
 } // namespace
 
 QByteArray ContentOf(const Place& place)
 {
-    const std::unique_ptr<OpenFile> file = place.On->Open(place.Path);
+    const std::unique_ptr<OpenFile> file = place.on->Open(place.path);
     if (file->Length() > largestContent)
         Fail(failure::outOfMemory);
     try {

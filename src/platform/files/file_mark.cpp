@@ -8,9 +8,9 @@ namespace torvik {
 FileMark FileMark::Of(const Place& place)
 {
     FileMark mark;
-    mark.on_ = place.On;
-    mark.path_ = place.Path;
-    mark.status_ = place.On->Status(place.Path);
+    mark.volume_ = place.on->Number();
+    mark.path_ = place.path;
+    mark.status_ = place.on->Status(place.path);
     return mark;
 }
 
@@ -19,17 +19,15 @@ FileMark FileMark::Of(const QString& path)
     return Of(PlaceOf(path));
 }
 
-/// A volume that is gone is none of those that are there, even if a new one lies where it lay in memory.
 bool FileMark::operator==(const FileMark& other) const
 {
-    const std::shared_ptr<const Volume> mine = on_.lock();
-    return mine && mine == other.on_.lock() && path_ == other.path_ && status_ == other.status_;
+    return volume_ != 0 && volume_ == other.volume_ && path_ == other.path_ && status_ == other.status_;
 }
 
 std::function<MarkedContent()> FileToFindAndRead(const QString& path)
 {
     return [place = UnspelledPlaceOf(path)] {
-        const Place found{place.On, place.On->Spelling(place.Path)};
+        const Place found{place.on, place.on->Spelling(place.path)};
         // The mark comes first: what changes while it is read has another one afterwards.
         const FileMark mark = FileMark::Of(found);
         return MarkedContent{ContentOf(found), mark};

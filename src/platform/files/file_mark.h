@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <functional>
-#include <memory>
 #include <string>
 
 namespace torvik {
@@ -26,15 +25,15 @@ public:
     bool operator==(const FileMark& other) const;
 
 private:
-    std::weak_ptr<const Volume> on_;
+    quint64 volume_ = 0; ///< its number; 0 for no file
     std::string path_;
     EntryStatus status_;
 };
 
 /// What a file held, and the mark that it had then.
 struct MarkedContent {
-    QByteArray Bytes;
-    FileMark Mark;
+    QByteArray bytes;
+    FileMark mark;
 };
 
 /// A file that is looked up and read when this is called, on any thread; nothing touches its medium before.

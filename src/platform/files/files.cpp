@@ -1,12 +1,12 @@
 #include "platform/files/files.h"
 
 #include "platform/files/file_content.h"
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/folder_index.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/matching_names.h"
 #include "platform/paths/name_pattern.h"
-#include "platform/paths/path_lookup.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
 
@@ -24,7 +24,7 @@ namespace {
 EntryStatus EntryAt(const QString& path)
 {
     const Place place = PlaceOf(path);
-    return place.On->Status(place.Path);
+    return place.on->Status(place.path);
 }
 
 /// A number that is the same for names that differ in letter case alone, and mostly for no others.
@@ -63,15 +63,16 @@ void DropCaseClashes(std::vector<std::string>& names)
     std::erase(names, std::string());
 }
 
-/// What tells a folder of a disc image from others: which image that is, and when the folder was written.
+/// What tells a folder of a disc image from others: which image stands in the drive, and when the folder was
+/// written.
 QString MarkInImage(const QString& path)
 {
     QString mark;
     ResumeNext([&] {
         const Place place = PlaceOf(path);
-        const EntryStatus status = place.On->Status(place.Path);
-        if (status.IsFolder)
-            mark = u"%1 %2"_s.arg(reinterpret_cast<quintptr>(place.On.get())).arg(status.Written);
+        const EntryStatus status = place.on->Status(place.path);
+        if (status.isFolder)
+            mark = u"%1 %2"_s.arg(place.on->Number()).arg(status.written);
     });
     return mark;
 }
@@ -80,7 +81,7 @@ QString MarkInImage(const QString& path)
 
 QStringList FilesMatching(const QString& pattern)
 {
-    std::vector<std::string> names = NamesMatching(pattern).Names;
+    std::vector<std::string> names = NamesMatching(pattern).names;
     DropCaseClashes(names);
     QStringList texts;
     texts.reserve(static_cast<qsizetype>(names.size()));
@@ -93,7 +94,7 @@ QString FindFile(const QString& patternOrPath)
 {
     if (NamePattern::HasWildcards(QStringView(patternOrPath).mid(BeginOfName(patternOrPath)))) {
         const QStringList names = FilesMatching(patternOrPath);
-        const QString first = names.isEmpty() ? QString() : names.first();
+        QString first = names.isEmpty() ? QString() : names.first();
         qCDebug(logFiles, "%s: %d found%s%s", qUtf8Printable(patternOrPath), int(names.size()),
                 first.isEmpty() ? "" : ", the first is ", qUtf8Printable(first));
         return first;
@@ -102,25 +103,25 @@ QString FindFile(const QString& patternOrPath)
     // A flag of its own: GCC 12 drops the initial value of a structure that a call would have filled but for
     // its failure.
     bool isFile = false;
-    ResumeNext([&] { isFile = place.On->Status(place.Path).IsFile; });
+    ResumeNext([&] { isFile = place.on->Status(place.path).isFile; });
     if (!isFile)
         return {};
-    return NameFromHost(std::string_view(place.Path).substr(place.Path.rfind('/') + 1));
+    return NameFromHost(std::string_view(place.path).substr(place.path.rfind('/') + 1));
 }
 
 bool FileExists(const QString& path)
 {
     bool isFile = false;
-    ResumeNext([&] { isFile = EntryAt(path).IsFile; });
+    ResumeNext([&] { isFile = EntryAt(path).isFile; });
     return isFile;
 }
 
 qint64 FileLength(const QString& path)
 {
     const EntryStatus status = EntryAt(path);
-    if (!status.IsFile)
+    if (!status.isFile)
         Fail(failure::fileNotFound);
-    return status.Length;
+    return status.length;
 }
 
 QByteArray ReadFile(const QString& path)

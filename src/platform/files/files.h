@@ -8,7 +8,7 @@
 
 namespace torvik {
 
-/// Calls on the file system. All paths are drive paths (platform/drives.h); failures are RunTimeError.
+/// Calls on the file system. All paths are drive paths (platform/paths/drives.h); failures are RunTimeError.
 
 /// The names of the files (not folders) that match a pattern such as "E:\Torviks\*.jpg", without their
 /// folder, in the order of the file system. `*` and `?` stand in the last component only and ignore letter
@@ -36,8 +36,9 @@ QByteArray ReadFile(const QString& path);
 /// reading fails by 53, 76, 68, 70, 75, 57, 67 and 7.
 std::function<QByteArray()> FileToRead(const QString& path);
 
-/// A text that tells one state of a folder from another: another medium, or other names in it. Empty when
-/// there is no such folder. Never fails.
+/// A text that tells one state of a folder from another: another medium, or other names in it. On an image
+/// it is another one whenever the drives were read anew, since that opens what the image file is then. Empty
+/// when there is no such folder. Never fails.
 QString FolderMark(const QString& path);
 
 /// Creates a folder. Failures: 75 when it exists already or cannot be made, 76 when its parent is missing.

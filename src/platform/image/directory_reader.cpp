@@ -85,10 +85,10 @@ quint32 NumberAt(const QByteArray& field, qsizetype place)
 
 /// What the fields behind a plain name say.
 struct DirectoryReader::Extension {
-    QByteArray Name;
-    bool IsLink = false;
-    bool IsMoved = false;   ///< stands here only because folders may not lie deeper; its place tells where
-    qint64 MovedFolder = 0; ///< where such a folder lies, in bytes
+    QByteArray name;
+    bool isLink = false;
+    bool isMoved = false;   ///< stands here only because folders may not lie deeper; its place tells where
+    qint64 movedFolder = 0; ///< where such a folder lies, in bytes
 };
 
 void DirectoryReader::FindRockRidge(const QByteArray& rootContent)
@@ -133,25 +133,25 @@ void DirectoryReader::Read(const QByteArray& record,
         return;
     const iso9660_dir_t fixed = FixedPart(record);
     const Extension extension = kind_ == NameKind::RockRidge ? ReadExtension(record) : Extension();
-    if (extension.IsLink || extension.IsMoved)
+    if (extension.isLink || extension.isMoved)
         return;
 
     DirectoryRecord read;
-    if (!extension.Name.isEmpty())
-        read.Name = extension.Name.toStdString();
+    if (!extension.name.isEmpty())
+        read.name = extension.name.toStdString();
     else
-        read.Name = WithoutVersion(kind_ == NameKind::Joliet ? FromJoliet(name) : name.toStdString());
-    if (!CanHavePath(read.Name))
+        read.name = WithoutVersion(kind_ == NameKind::Joliet ? FromJoliet(name) : name.toStdString());
+    if (!CanHavePath(read.name))
         return;
-    read.IsFolder = (fixed.file_flags & ISO_DIRECTORY) != 0;
-    read.GoesOn = (fixed.file_flags & ISO_MULTIEXTENT) != 0;
-    read.Place = (qint64{from_733(fixed.extent)} + fixed.xa_length) * blockSize_;
-    read.Length = from_733(fixed.size);
-    read.Written = TimeOf(fixed);
-    if (extension.MovedFolder != 0) {
-        read.IsFolder = true;
-        read.Place = extension.MovedFolder;
-        read.Length = FolderLength(extension.MovedFolder);
+    read.isFolder = (fixed.file_flags & ISO_DIRECTORY) != 0;
+    read.goesOn = (fixed.file_flags & ISO_MULTIEXTENT) != 0;
+    read.place = (qint64{from_733(fixed.extent)} + fixed.xa_length) * blockSize_;
+    read.length = from_733(fixed.size);
+    read.written = TimeOf(fixed);
+    if (extension.movedFolder != 0) {
+        read.isFolder = true;
+        read.place = extension.movedFolder;
+        read.length = FolderLength(extension.movedFolder);
     }
     visit(read);
 }
@@ -167,14 +167,14 @@ DirectoryReader::Extension DirectoryReader::ReadExtension(const QByteArray& reco
             if (length < 4 || place + length > fields.size())
                 break;
             const QByteArray field = fields.mid(place, length);
-            if (field.startsWith("NM") && length > 5 && extension.Name.size() < longestName)
-                extension.Name += field.mid(5);
+            if (field.startsWith("NM") && length > 5 && extension.name.size() < longestName)
+                extension.name += field.mid(5);
             else if (field.startsWith("SL"))
-                extension.IsLink = true;
+                extension.isLink = true;
             else if (field.startsWith("RE"))
-                extension.IsMoved = true;
+                extension.isMoved = true;
             else if (field.startsWith("CL") && length >= 12)
-                extension.MovedFolder = NumberAt(field, 4) * blockSize_;
+                extension.movedFolder = NumberAt(field, 4) * blockSize_;
             else if (field.startsWith("CE") && length >= 28)
                 rest = Continuation(field);
             place += length;

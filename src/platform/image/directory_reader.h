@@ -18,12 +18,12 @@ enum class NameKind {
 
 /// What a folder of an image tells about one file or folder.
 struct DirectoryRecord {
-    std::string Name; ///< as the program sees it: without a version or a lone closing point
-    bool IsFolder = false;
-    bool GoesOn = false; ///< the next record of this name is about the rest of the file
-    qint64 Place = 0;    ///< where its content begins, in bytes of the image
-    qint64 Length = 0;   ///< bytes
-    qint64 Written = 0;  ///< seconds since 1970, 0 when it is not known
+    std::string name; ///< as the program sees it: without a version or a lone closing point
+    bool isFolder = false;
+    bool goesOn = false; ///< the next record of this name is about the rest of the file
+    qint64 place = 0;    ///< where its content begins, in bytes of the image
+    qint64 length = 0;   ///< bytes
+    qint64 written = 0;  ///< seconds since 1970, 0 when it is not known
 };
 
 /// Reads the folders of an image. Whatever stands there, nothing is read outside of what was given; a record

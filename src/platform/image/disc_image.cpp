@@ -17,7 +17,7 @@ namespace {
 constexpr int mostDescriptors = 64;
 constexpr int deepest = 64;
 constexpr std::size_t mostEntries = 200'000;
-constexpr qint64 mostFolderBytes = 64 * 1024 * 1024;
+constexpr qint64 mostFolderBytes = 64LL * 1024 * 1024;
 
 using Folders = std::vector<std::vector<ImageEntry>>;
 
@@ -101,11 +101,11 @@ private:
 
     QByteArray ContentOf(const ImageEntry::Extent& extent)
     {
-        const qint64 there = std::max<qint64>(0, sectors_.Length() - extent.Place);
-        const qint64 length = std::min({extent.Length, there, mostFolderBytes - bytesRead_});
+        const qint64 there = std::max<qint64>(0, sectors_.Length() - extent.place);
+        const qint64 length = std::min({extent.length, there, mostFolderBytes - bytesRead_});
         QByteArray content(static_cast<qsizetype>(length), Qt::Uninitialized);
         qsizetype got = 0;
-        ResumeNext([&] { got = sectors_.Read(extent.Place, content.data(), content.size()); });
+        ResumeNext([&] { got = sectors_.Read(extent.place, content.data(), content.size()); });
         content.truncate(got);
         bytesRead_ += got;
         return content;
@@ -114,7 +114,7 @@ private:
     /// Gives a folder its number.
     std::size_t Enter(const ImageEntry::Extent& extent, int depth)
     {
-        seen_.insert(extent.Place);
+        seen_.insert(extent.place);
         waiting_.push_back({extent, depth});
         folders_.emplace_back();
         return folders_.size() - 1;
@@ -125,26 +125,26 @@ private:
         bool goesOn = false;
         reader_.ForEach(content, [&](const DirectoryRecord& record) {
             std::vector<ImageEntry>& entries = folders_[folder];
-            const ImageEntry::Extent extent{record.Place, record.Length};
-            if (goesOn && !record.IsFolder && entries.back().Name == record.Name) {
-                entries.back().Extents.push_back(extent);
-                entries.back().Length += record.Length;
-                goesOn = record.GoesOn;
+            const ImageEntry::Extent extent{record.place, record.length};
+            if (goesOn && !record.isFolder && entries.back().name == record.name) {
+                entries.back().extents.push_back(extent);
+                entries.back().length += record.length;
+                goesOn = record.goesOn;
                 ++count_;
                 return;
             }
             goesOn = false;
-            const bool isLoop = record.IsFolder && seen_.count(record.Place) != 0;
-            if (isLoop || (record.IsFolder && waiting_[folder].depth >= deepest) || count_ >= mostEntries)
+            const bool isLoop = record.isFolder && seen_.count(record.place) != 0;
+            if (isLoop || (record.isFolder && waiting_[folder].depth >= deepest) || count_ >= mostEntries)
                 return;
             ++count_;
-            ImageEntry entry{record.Name, record.IsFolder, 0, record.Length, record.Written, {extent}};
-            if (record.IsFolder) {
-                entry.Folder = Enter(extent, waiting_[folder].depth + 1);
-                entry.Extents.clear();
+            ImageEntry entry{record.name, record.isFolder, 0, record.length, record.written, {extent}};
+            if (record.isFolder) {
+                entry.folder = Enter(extent, waiting_[folder].depth + 1);
+                entry.extents.clear();
             }
             folders_[folder].push_back(std::move(entry)); // Enter may have moved `entries`
-            goesOn = record.GoesOn && !record.IsFolder;
+            goesOn = record.goesOn && !record.isFolder;
         });
     }
 
@@ -178,19 +178,19 @@ DiscImage::DiscImage(const std::string& imageFile) : sectors_(DiscSectors::Open(
 
 qsizetype DiscImage::Read(const ImageEntry& file, qint64 place, char* target, qsizetype room) const
 {
-    if (place < 0 || place >= file.Length)
+    if (place < 0 || place >= file.length)
         return 0;
     qint64 begin = 0;
-    for (const ImageEntry::Extent& extent : file.Extents) {
-        if (place < begin + extent.Length) {
+    for (const ImageEntry::Extent& extent : file.extents) {
+        if (place < begin + extent.length) {
             const qint64 inside = place - begin;
-            const auto wanted = static_cast<qsizetype>(std::min<qint64>(room, extent.Length - inside));
-            const qsizetype got = sectors_->Read(extent.Place + inside, target, wanted);
+            const auto wanted = static_cast<qsizetype>(std::min<qint64>(room, extent.length - inside));
+            const qsizetype got = sectors_->Read(extent.place + inside, target, wanted);
             if (got == 0 && wanted > 0)
                 Fail(failure::deviceIo);
             return got;
         }
-        begin += extent.Length;
+        begin += extent.length;
     }
     return 0;
 }

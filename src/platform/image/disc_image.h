@@ -12,16 +12,16 @@ namespace torvik {
 struct ImageEntry {
     /// A part of the image, in bytes.
     struct Extent {
-        qint64 Place = 0;
-        qint64 Length = 0;
+        qint64 place = 0;
+        qint64 length = 0;
     };
 
-    std::string Name;
-    bool IsFolder = false;
-    std::size_t Folder = 0; ///< of a folder: its number
-    qint64 Length = 0;      ///< bytes, as the image tells; there may be less
-    qint64 Written = 0;     ///< seconds since 1970
-    std::vector<Extent> Extents;
+    std::string name;
+    bool isFolder = false;
+    std::size_t folder = 0; ///< of a folder: its number
+    qint64 length = 0;      ///< bytes, as the image tells; there may be less
+    qint64 written = 0;     ///< seconds since 1970
+    std::vector<Extent> extents;
 };
 
 /// An image of a disc: its folders are read when it is opened, its files when they are asked for. It never

@@ -28,7 +28,7 @@ constexpr std::array<SectorForm, 6> forms{{
 }};
 
 /// Raw sectors are read in pieces of this many.
-constexpr int sectorsAtOnce = 16;
+constexpr std::size_t sectorsAtOnce = 16;
 
 } // namespace
 
@@ -37,7 +37,7 @@ std::unique_ptr<DiscSectors> DiscSectors::Open(const std::string& imageFile)
     for (const ImageTrack& track : TracksOf(imageFile)) {
         for (const SectorForm& form : forms) {
             std::unique_ptr<DiscSectors> sectors(
-                new DiscSectors(std::make_unique<ImageBytes>(track.File), track.FirstByte, form));
+                new DiscSectors(std::make_unique<ImageBytes>(track.file), track.firstByte, form));
             if (sectors->HasMark())
                 return sectors;
         }
@@ -49,8 +49,8 @@ DiscSectors::DiscSectors(std::unique_ptr<ImageBytes> file, qint64 firstByte, con
     : file_(std::move(file)), firstByte_(firstByte), form_(form)
 {
     const qint64 bytes = std::max<qint64>(0, file_->Length() - firstByte_);
-    const qint64 cut = bytes % form_.Size - form_.DataAt;
-    length_ = bytes / form_.Size * content + std::clamp<qint64>(cut, 0, content);
+    const qint64 cut = bytes % form_.size - form_.dataAt;
+    length_ = bytes / form_.size * content + std::clamp<qint64>(cut, 0, content);
 }
 
 bool DiscSectors::HasMark() const
@@ -66,7 +66,7 @@ qsizetype DiscSectors::Read(qint64 place, char* target, qsizetype room) const
     if (place < 0 || place >= length_)
         return 0;
     room = static_cast<qsizetype>(std::min<qint64>(room, length_ - place));
-    if (form_.Size == content)
+    if (form_.size == content)
         return file_->Read(firstByte_ + place, target, room);
     qsizetype filled = 0;
     while (filled < room) {
@@ -83,12 +83,12 @@ qsizetype DiscSectors::ReadSectors(qint64 place, char* target, qsizetype room) c
 {
     std::array<char, sectorsAtOnce*(CDIO_CD_FRAMESIZE_RAW + subchannel)> raw;
     const qint64 first = place / content;
-    const qint64 last = std::min((place + room - 1) / content, first + sectorsAtOnce - 1);
-    const auto length = static_cast<qsizetype>((last - first + 1) * form_.Size);
-    const qsizetype got = file_->Read(firstByte_ + first * form_.Size, raw.data(), length);
+    const qint64 last = std::min((place + room - 1) / content, first + qint64{sectorsAtOnce} - 1);
+    const auto length = static_cast<qsizetype>((last - first + 1) * form_.size);
+    const qsizetype got = file_->Read(firstByte_ + first * form_.size, raw.data(), length);
 
     qsizetype filled = 0;
-    for (qsizetype sector = form_.DataAt; sector < got && filled < room; sector += form_.Size) {
+    for (qsizetype sector = form_.dataAt; sector < got && filled < room; sector += form_.size) {
         const qsizetype skipped = filled == 0 ? static_cast<qsizetype>(place % content) : 0;
         const qsizetype there = std::min<qsizetype>(content, got - sector) - skipped;
         if (there <= 0)

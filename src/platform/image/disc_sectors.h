@@ -10,8 +10,8 @@ namespace torvik {
 /// How the sectors of a track lie in a file: bytes from one to the next, and where in each the 2,048 bytes of
 /// content begin.
 struct SectorForm {
-    int Size = 2048;
-    int DataAt = 0;
+    int size = 2048;
+    int dataAt = 0;
 };
 
 /// The content of a disc image as one row of bytes, whatever the sectors of its file look like. Several

@@ -12,7 +12,7 @@ namespace torvik {
 namespace {
 
 /// A sheet is a page of text; what is longer is none.
-constexpr qint64 longestSheet = 256 * 1024;
+constexpr qint64 longestSheet = 256LL * 1024;
 
 bool IsNamedAsSheet(const std::string& file)
 {

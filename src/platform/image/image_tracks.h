@@ -9,8 +9,8 @@ namespace torvik {
 
 /// Where a track that may hold the disc's data begins in a file of the host.
 struct ImageTrack {
-    std::string File;
-    qint64 FirstByte = 0;
+    std::string file;
+    qint64 firstByte = 0;
 };
 
 /// The tracks of an image file, in the order in which they are worth a look. The name of the file tells a CUE

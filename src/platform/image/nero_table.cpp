@@ -7,7 +7,7 @@ namespace torvik {
 
 namespace {
 
-constexpr qint64 longestTable = 64 * 1024;
+constexpr qint64 longestTable = 64LL * 1024;
 constexpr qsizetype chunkHead = 8; ///< name and length
 constexpr std::size_t mostEntriesRead = 99;
 

@@ -6,7 +6,7 @@
 
 namespace torvik {
 
-/// Reads what stands behind --drive: a letter from D to Z and a folder or a disc image of the host,
+/// Reads the value of --drive: a letter from D to Z and a folder or a disc image of the host,
 /// "E=/media/disc" or "e:=/media/disc". Nothing when the text is no such thing.
 std::optional<DriveOption> ReadDriveOption(const QString& text);
 

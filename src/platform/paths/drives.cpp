@@ -1,10 +1,10 @@
 #include "platform/paths/drives.h"
 
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/folder_volume.h"
 #include "platform/paths/host_name.h"
 #include "platform/paths/image_volume.h"
 #include "platform/paths/mounted_media.h"
-#include "platform/paths/path_lookup.h"
 #include "platform/paths/program_folder.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
@@ -122,10 +122,10 @@ void AppendComponents(std::string& path, QStringView components)
 
 void LogLookUp(const QString& drivePath, const Place& place)
 {
-    const auto host = place.On->HostPath(place.Path);
+    const auto host = place.on->HostPath(place.path);
     const QString found =
-        host ? HostText(host->empty() ? "/" : *host) : DriveFolder(drivePath[0]) + HostText(place.Path);
-    const bool isThere = ResumeNext([&] { place.On->Status(place.Path); }) == 0;
+        host ? HostText(host->empty() ? "/" : *host) : DriveFolder(drivePath[0]) + HostText(place.path);
+    const bool isThere = ResumeNext([&] { place.on->Status(place.path); }) == 0;
     qCDebug(logFiles, "%s is %s%s", qUtf8Printable(drivePath), qUtf8Printable(found),
             isThere ? "" : ", which is not there");
 }
@@ -135,10 +135,10 @@ void LogLookUp(const QString& drivePath, const Place& place)
 std::string EmbeddedDisc()
 {
     for (const QString& folder : {ProgramFolder(), DrivePath(QCoreApplication::applicationDirPath())}) {
-        const std::string disc = HostPathBytes(folder + u"\\disc"_s);
+        std::string disc = HostPathBytes(folder + u"\\disc"_s);
         if (QFileInfo(HostText(disc)).isDir())
             return disc;
-        const std::string image = HostPathBytes(folder + u"\\disc.iso"_s);
+        std::string image = HostPathBytes(folder + u"\\disc.iso"_s);
         if (QFileInfo(HostText(image)).isFile())
             return image;
     }
@@ -151,15 +151,15 @@ void SetDriveOptions(const QList<DriveOption>& options)
 {
     HostTable table;
     for (const DriveOption& option : options) {
-        if (option.Letter.isNull())
+        if (option.letter.isNull())
             continue;
-        if (!IsDriveLetter(option.Letter.toUpper()))
+        if (!IsDriveLetter(option.letter.toUpper()))
             Fail(failure::invalidCall);
-        table[IndexOf(option.Letter.toUpper())] = AbsoluteFolder(option.Folder);
+        table[IndexOf(option.letter.toUpper())] = AbsoluteFolder(option.folder);
     }
     for (const DriveOption& option : options) {
-        if (option.Letter.isNull())
-            PutAtFirstFree(table, AbsoluteFolder(option.Folder));
+        if (option.letter.isNull())
+            PutAtFirstFree(table, AbsoluteFolder(option.folder));
     }
     ofOptions = table;
     drives = DrivesOf(table);
@@ -196,15 +196,15 @@ Place UnspelledPlaceOf(const QString& drivePath)
     if (!IsDrivePath(drivePath))
         Fail(failure::badFileName);
     Place place{VolumeOf(drivePath[0]), {}};
-    place.Path.reserve(static_cast<std::size_t>(drivePath.size()));
-    AppendComponents(place.Path, QStringView(drivePath).mid(3));
+    place.path.reserve(static_cast<std::size_t>(drivePath.size()));
+    AppendComponents(place.path, QStringView(drivePath).mid(3));
     return place;
 }
 
 Place PlaceOf(const QString& drivePath)
 {
     Place place = UnspelledPlaceOf(drivePath);
-    place.Path = place.On->Spelling(place.Path);
+    place.path = place.on->Spelling(place.path);
     if (logFiles().isDebugEnabled())
         LogLookUp(drivePath, place);
     return place;
@@ -213,7 +213,7 @@ Place PlaceOf(const QString& drivePath)
 std::string HostPathBytes(const QString& drivePath)
 {
     const Place place = PlaceOf(drivePath);
-    const auto found = place.On->HostPath(place.Path);
+    const auto found = place.on->HostPath(place.path);
     if (!found)
         Fail(failure::pathFileAccess);
     return found->empty() ? std::string("/") : *found;

@@ -16,8 +16,8 @@ namespace torvik {
 
 /// One letter given on the command line.
 struct DriveOption {
-    QChar Letter;   ///< 'D' to 'Z', or a null QChar for "the first free letter from D"
-    QString Folder; ///< a folder or a disc image of the host
+    QChar letter;   ///< 'D' to 'Z', or a null QChar for "the first free letter from D"
+    QString folder; ///< a folder or a disc image of the host
 };
 
 /// Sets the drives of the command line; they hold at once. A later option for the same letter wins; options

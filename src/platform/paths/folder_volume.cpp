@@ -1,8 +1,8 @@
 #include "platform/paths/folder_volume.h"
 
+#include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/folder_reader.h"
 #include "platform/paths/host_file.h"
-#include "platform/paths/path_lookup.h"
 #include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 

@@ -16,19 +16,19 @@ class IndexedImage {
 public:
     explicit IndexedImage(const std::string& imageFile) : image_(imageFile)
     {
-        root_.IsFolder = true;
+        root_.isFolder = true;
         for (const std::vector<ImageEntry>& entries : image_.Folders()) {
             Names& names = names_.emplace_back();
             names.reserve(entries.size());
             for (const ImageEntry& entry : entries)
-                names.emplace(FoldedName(entry.Name), &entry);
+                names.emplace(FoldedName(entry.name), &entry);
         }
     }
 
     const DiscImage& Image() const { return image_; }
     const std::vector<ImageEntry>& EntriesOf(const ImageEntry& folder) const
     {
-        return image_.Folders()[folder.Folder];
+        return image_.Folders()[folder.folder];
     }
 
     /// What a path leads to; null when there is no such file or folder. The names are put into `spelling`
@@ -40,9 +40,9 @@ public:
             const std::size_t end = std::min(path.find('/', 1), path.size());
             const std::string_view name = path.substr(1, end - 1);
             if (entry != nullptr)
-                entry = entry->IsFolder ? FindIn(*entry, name) : nullptr;
+                entry = entry->isFolder ? FindIn(*entry, name) : nullptr;
             if (spelling != nullptr)
-                spelling->append("/").append(entry != nullptr ? std::string_view(entry->Name) : name);
+                spelling->append("/").append(entry != nullptr ? std::string_view(entry->name) : name);
             if (entry == nullptr && spelling == nullptr)
                 return nullptr;
             path.remove_prefix(end);
@@ -57,12 +57,12 @@ private:
     /// first.
     const ImageEntry* FindIn(const ImageEntry& folder, std::string_view name) const
     {
-        const auto [first, last] = names_[folder.Folder].equal_range(FoldedName(name));
+        const auto [first, last] = names_[folder.folder].equal_range(FoldedName(name));
         const ImageEntry* best = nullptr;
         for (auto found = first; found != last; ++found) {
             const ImageEntry* const entry = found->second;
             const auto rank = [name](const ImageEntry* one) {
-                return std::tuple(one->Name != name, std::string_view(one->Name), one);
+                return std::tuple(one->name != name, std::string_view(one->name), one);
             };
             if (best == nullptr || rank(entry) < rank(best))
                 best = entry;
@@ -84,7 +84,7 @@ public:
         : image_(std::move(image)), entry_(entry)
     {}
 
-    qint64 Length() const override { return entry_.Length; }
+    qint64 Length() const override { return entry_.length; }
     qsizetype Read(char* target, qsizetype room) override
     {
         const qsizetype got = image_->Image().Read(entry_, place_, target, room);
@@ -108,7 +108,7 @@ private:
 {
     const std::size_t slash = path.rfind('/');
     const ImageEntry* const folder = image.Find(path.substr(0, slash == std::string::npos ? 0 : slash));
-    Fail(folder != nullptr && folder->IsFolder ? failure::fileNotFound : failure::pathNotFound);
+    Fail(folder != nullptr && folder->isFolder ? failure::fileNotFound : failure::pathNotFound);
 }
 
 std::vector<std::string> NamesIn(const IndexedImage& image, const std::string& folder, bool folders,
@@ -116,11 +116,11 @@ std::vector<std::string> NamesIn(const IndexedImage& image, const std::string& f
 {
     std::vector<std::string> names;
     const ImageEntry* const found = image.Find(folder);
-    if (found == nullptr || !found->IsFolder)
+    if (found == nullptr || !found->isFolder)
         return names;
     for (const ImageEntry& entry : image.EntriesOf(*found)) {
-        if (entry.IsFolder == folders && isWanted(entry.Name))
-            names.push_back(entry.Name);
+        if (entry.isFolder == folders && isWanted(entry.name))
+            names.push_back(entry.name);
     }
     return names;
 }
@@ -153,7 +153,7 @@ EntryStatus ImageVolume::Status(const std::string& path) const
     const ImageEntry* const entry = image->Find(path);
     if (entry == nullptr)
         FailAsMissing(*image, path);
-    return {!entry->IsFolder, entry->IsFolder, entry->Length, entry->Written, 0, 0};
+    return {!entry->isFolder, entry->isFolder, entry->length, entry->written, 0, 0};
 }
 
 std::vector<std::string> ImageVolume::Files(const std::string& folder, const NameTest& isWanted) const
@@ -172,7 +172,7 @@ std::unique_ptr<OpenFile> ImageVolume::Open(const std::string& path) const
     const ImageEntry* const entry = image->Find(path);
     if (entry == nullptr)
         FailAsMissing(*image, path);
-    if (entry->IsFolder)
+    if (entry->isFolder)
         Fail(failure::pathFileAccess);
     return std::make_unique<ImageFile>(std::move(image), *entry);
 }

@@ -19,7 +19,7 @@ MatchingNames NamesMatching(const QString& pattern)
     const QStringView namePattern = QStringView(pattern).mid(begin);
     const NamePattern wanted(namePattern);
     const bool hiddenToo = namePattern.startsWith(u'.');
-    std::vector<std::string> names = folder.On->Files(folder.Path, [&](std::string_view name) {
+    std::vector<std::string> names = folder.on->Files(folder.path, [&](std::string_view name) {
         return (name.front() != '.' || hiddenToo) && wanted.Matches(name);
     });
     return {std::move(folder), std::move(names)};

@@ -11,8 +11,8 @@ namespace torvik {
 
 /// The files of a folder whose names match a pattern.
 struct MatchingNames {
-    Place Folder;
-    std::vector<std::string> Names;
+    Place folder;
+    std::vector<std::string> names;
 };
 
 /// Where the last component of a path begins.

@@ -23,15 +23,15 @@ std::string_view View(const QByteArray& bytes)
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-template <std::size_t N>
-bool IsOneOf(const std::array<std::string_view, N>& known, const QByteArray& word)
+template <std::size_t n>
+bool IsOneOf(const std::array<std::string_view, n>& known, const QByteArray& word)
 {
     return std::find(known.begin(), known.end(), View(word)) != known.end();
 }
 
 /// Whether `path` is one of the folders or lies inside it.
-template <std::size_t N>
-bool LiesIn(const std::array<std::string_view, N>& folders, std::string_view path)
+template <std::size_t n>
+bool LiesIn(const std::array<std::string_view, n>& folders, std::string_view path)
 {
     return std::any_of(folders.begin(), folders.end(), [path](std::string_view folder) {
         return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
@@ -49,19 +49,19 @@ const char* WhyNoMedium(const MountedVolume& volume, RemovableTest isRemovable)
     constexpr std::array<std::string_view, 8> ofTheSystem{"/boot", "/efi",  "/usr",  "/var",
                                                           "/etc",  "/home", "/snap", "/root"};
     constexpr std::array<std::string_view, 3> ofDesktops{"/media", "/run/media", "/mnt"};
-    const QByteArray point = QFile::encodeName(volume.MountPoint);
+    const QByteArray point = QFile::encodeName(volume.mountPoint);
     if (!point.startsWith('/'))
         return "its folder cannot be reached";
     if (point == "/")
         return "it is the root of the system";
-    if (IsOneOf(optical, volume.FileSystem))
+    if (IsOneOf(optical, volume.fileSystem))
         return nullptr;
-    if (!IsOneOf(ofDisks, volume.FileSystem))
+    if (!IsOneOf(ofDisks, volume.fileSystem))
         return "its file system is not that of a disk or disc";
     if (LiesIn(ofTheSystem, View(point)))
         return "the system itself lives there";
-    if (LiesIn(ofDesktops, View(point)) || volume.Device.startsWith("/dev/loop") ||
-        isRemovable(volume.Device))
+    if (LiesIn(ofDesktops, View(point)) || volume.device.startsWith("/dev/loop") ||
+        isRemovable(volume.device))
         return nullptr;
     return "its device stays in the machine";
 }
@@ -89,11 +89,11 @@ QList<QString> MediaAmong(const QList<MountedVolume>& volumes, RemovableTest isR
     std::set<std::string> points;
     for (const MountedVolume& volume : volumes) {
         const char* reason = WhyNoMedium(volume, isRemovable);
-        qCDebug(logDisc, "volume %s (%s, %s): %s", qUtf8Printable(volume.MountPoint),
-                volume.FileSystem.constData(), volume.Device.constData(),
+        qCDebug(logDisc, "volume %s (%s, %s): %s", qUtf8Printable(volume.mountPoint),
+                volume.fileSystem.constData(), volume.device.constData(),
                 reason == nullptr ? "looks like a medium" : reason);
         if (reason == nullptr)
-            points.insert(QFile::encodeName(volume.MountPoint).toStdString());
+            points.insert(QFile::encodeName(volume.mountPoint).toStdString());
     }
     QList<QString> media;
     for (const std::string& point : points)

@@ -11,9 +11,9 @@ namespace torvik {
 
 /// A mounted volume, as far as it tells what kind of medium it is.
 struct MountedVolume {
-    QString MountPoint;    ///< a folder of the host
-    QByteArray FileSystem; ///< "iso9660", "vfat"
-    QByteArray Device;     ///< "/dev/sr0"
+    QString mountPoint;    ///< a folder of the host
+    QByteArray fileSystem; ///< "iso9660", "vfat"
+    QByteArray device;     ///< "/dev/sr0"
 };
 
 using VolumeReader = QList<MountedVolume> (*)();

@@ -23,18 +23,18 @@ public:
     virtual qint64 Length() const = 0;
     /// Reads up to `room` bytes; returns how many came, 0 at the end. Failure 57, Device I/O error.
     virtual qsizetype Read(char* target, qsizetype room) = 0;
-    /// Reads on from a byte, counted from 0; one behind the end is followed by nothing.
+    /// Reads on from a byte, counted from 0; at or past the end nothing comes.
     virtual void SeekTo(qint64 place) = 0;
 };
 
 /// What is known of a file or folder that is not open.
 struct EntryStatus {
-    bool IsFile = false; ///< neither a folder nor a device, a pipe or the like
-    bool IsFolder = false;
-    qint64 Length = 0;  ///< bytes
-    qint64 Written = 0; ///< seconds since 1970
-    qint64 Altered = 0; ///< nanoseconds since 1970, of the last change of anything; 0 where nothing changes
-    quint64 Number = 0; ///< by which the host knows it under any name; 0 where it has none
+    bool isFile = false; ///< neither a folder nor a device, a pipe or the like
+    bool isFolder = false;
+    qint64 length = 0;  ///< bytes
+    qint64 written = 0; ///< seconds since 1970
+    qint64 altered = 0; ///< nanoseconds since 1970, of the last change of anything; 0 where nothing changes
+    quint64 number = 0; ///< by which the host knows it under any name; 0 where it has none
 
     bool operator==(const EntryStatus&) const = default;
 };
@@ -47,10 +47,14 @@ class Volume {
 public:
     using NameTest = std::function<bool(std::string_view name)>;
 
-    Volume() = default;
+    Volume();
     virtual ~Volume() = default;
     Volume(const Volume&) = delete;
     Volume& operator=(const Volume&) = delete;
+
+    /// A number that no other volume of this run has had, so that an image is told from the next one in the
+    /// same drive.
+    quint64 Number() const { return number_; }
 
     /// How a path is spelled: as it stands when it exists, otherwise with the names that differ in letter
     /// case alone, the first in binary order of several. What exists in no spelling stays as it is written.
@@ -70,12 +74,15 @@ public:
     virtual std::unique_ptr<OpenFile> Open(const std::string& path) const = 0;
     /// The host's name for a path, by which it can be written. Nothing where the host has none.
     virtual std::optional<std::string> HostPath(const std::string& path) const = 0;
+
+private:
+    quint64 number_;
 };
 
 /// A file or folder, or where one is yet to be made.
 struct Place {
-    std::shared_ptr<const Volume> On;
-    std::string Path; ///< as it is spelled there
+    std::shared_ptr<const Volume> on;
+    std::string path; ///< as it is spelled there
 };
 
 } // namespace torvik

@@ -5,7 +5,7 @@
 
 namespace torvik {
 
-/// The arguments behind the program's name.
+/// The arguments after the program's name.
 inline QStringList ArgumentsOf(int argc, char** argv)
 {
     QStringList arguments;

@@ -7,8 +7,8 @@ namespace torvik {
 /// The folder of the host for this user's documents.
 QString DocumentsFolder();
 
-/// The host path for the next print job of a folder of the host: "job-1.pdf", or the first number behind it
-/// that is not taken. The folder is made when it is missing. Failure 76, Path not found, when it cannot be
+/// The host path for the next print job of a folder of the host: "job-1.pdf", or the next number that is
+/// not taken. The folder is made when it is missing. Failure 76, Path not found, when it cannot be
 /// made.
 QString NextJobFile(const QString& hostFolder);
 

@@ -14,7 +14,7 @@ namespace torvik {
 
 namespace {
 
-/// Lets the started program go on when its object ends; the toolkit's own class would kill it.
+/// Lets the started program go on when its object ends; Qt's own class would kill it.
 class Started : public QProcess {
 public:
     ~Started() override { setProcessState(QProcess::NotRunning); }

@@ -29,16 +29,16 @@ void SetRegistry(RegistryQuery query)
 bool ReadRegistryValue(std::uint32_t root, const QString& key, const QString& name, QString& result)
 {
     const auto value = machinesRegistry ? machinesRegistry(root, key, name) : std::nullopt;
-    if (!value || value->Data.size() > registry::longestValue) {
+    if (!value || value->data.size() > registry::longestValue) {
         result.clear();
         return false;
     }
-    QByteArray data = value->Data;
+    QByteArray data = value->data;
     if (data.endsWith('\0'))
         data.chop(1);
-    if (value->Type == registry::text)
+    if (value->type == registry::text)
         result = QString::fromLocal8Bit(data);
-    else if (value->Type == registry::number)
+    else if (value->type == registry::number)
         result = NumberOfBytes(data);
     return true;
 }

@@ -20,8 +20,8 @@ inline constexpr int longestValue = 1024;                 ///< bytes that a quer
 /// A value as the registry delivers it: a text may come with a closing zero, a number from its lowest byte
 /// on.
 struct RegistryValue {
-    int Type = 0;
-    QByteArray Data;
+    int type = 0;
+    QByteArray data;
 };
 
 /// Reads a value of a key. The key is opened for reading and writing (0x2003F), so one that may only be read

@@ -4,15 +4,18 @@
 
 namespace torvik {
 
-// In front of what a window title tells. Which of the two it is has always been different from one document
-// to the next.
+struct Topic;
+
+// In front of what a window title tells. Which of the first two it is has always been different from one
+// document to the next; the third leads the title of an advertisement.
 inline constexpr const char* wideTitle = "The Torvik Vollandry       ";
 inline constexpr const char* narrowTitle = "The Torvik Vollandry     ";
+inline constexpr const char* pageTitle = "The Torvik Vollandry    ";
 
 /// A document and the window title that belongs to it.
 struct Article {
-    QString File; ///< under the disc's root, "\richtext\67desc.rtf"
-    QString WindowTitle;
+    QString file; ///< under the disc's root, "\richtext\67desc.rtf"
+    QString windowTitle;
 };
 
 /// The buttons that look an article up before they open it.
@@ -29,7 +32,11 @@ QString ArticleFolder(ArticleButton button);
 /// The code under which a button reports an article that is missing.
 QString ArticleErrorCode(ArticleButton button);
 
-/// What cmdNostalgia asks for; it goes by the two characters of a topic too.
+/// Whether the button works while the topic is the chosen one, so that its article is asked for. Notes come
+/// before an article of cmdStats.
+bool AsksForArticle(ArticleButton button, const Topic& topic);
+
+/// What cmdNostalgia asks for; for a topic it uses the same two characters, which name no file.
 Article NostalgiaOf(const QString& title);
 
 /// What cmdStats shows of the photo with this number in place of an article; empty for a title without notes.

@@ -5,7 +5,7 @@
 
 namespace torvik {
 
-// What the printed booklet asks the disc for behind its cover (catalogue/pictures), under its root.
+// What the printed booklet asks the disc for after its cover (catalogue/pictures), under its root.
 
 QString BookletIntroduction();
 

@@ -24,13 +24,13 @@ constexpr LibraryDocument documents[] = {
      "ER008", late, true},
     {"mnuMag(5)", "Literature > Torvik Magazines > 5.0 Torvik", "\\richtext\\mag5.rtf", "Magazines", "ER008",
      late, true},
-    {.Entry = "mnuAdsList",
-     .Screen = "Miscellaneous > Torvik Advertising Checklist",
-     .File = "\\RichText\\TorvikAdsList.rtf",
-     .Title = "Torvik Advertising Checklist ",
-     .ErrorCode = "ER004",
-     .Way = before,
-     .HasNarrowTitle = true},
+    {.entry = "mnuAdsList",
+     .screen = "Miscellaneous > Torvik Advertising Checklist",
+     .file = "\\RichText\\TorvikAdsList.rtf",
+     .title = "Torvik Advertising Checklist ",
+     .errorCode = "ER004",
+     .way = before,
+     .hasNarrowTitle = true},
     {"mnuPR(1)", "Miscellaneous > Torvik 1964 Press Releases > Introduction", "\\richtext\\PRIntro.rtf",
      "1964 Press Release", "ER030", late, true},
     {"mnuPR(2)", "Miscellaneous > Torvik 1964 Press Releases > Market", "\\richtext\\PRMarket.rtf",
@@ -47,13 +47,13 @@ constexpr LibraryDocument documents[] = {
     {"mnuMisc(4)", "Miscellaneous > Torvik Timelime", "\\richtext\\timeline.rtf", "Timeline", "ER009", stored,
      true},
     {"mnuWhatsNew", "Help > What's New", "\\richtext\\whatsnew.rtf", "What's New", "ER056", late},
-    {.Entry = "mnuIntro",
-     .Screen = "Help > Introduction",
-     .File = "\\RichText\\introduction.rtf",
-     .Title = "Introduction",
-     .ErrorCode = "ER007",
-     .Way = after,
-     .SettlesButtons = false},
+    {.entry = "mnuIntro",
+     .screen = "Help > Introduction",
+     .file = "\\RichText\\introduction.rtf",
+     .title = "Introduction",
+     .errorCode = "ER007",
+     .way = after,
+     .settlesButtons = false},
     {"mnuNotice", "Help > Notice", "\\richtext\\notice.rtf", "Notice", "ER025", after},
     {"mnuCredits", "Help > Credits", "\\richtext\\credits.rtf", "Credits", "ER010", before},
     {"mnuContrib", "Help > Contributions", "\\richtext\\contrib.rtf", "Contributions", "ER053", before},
@@ -72,7 +72,7 @@ std::span<const LibraryDocument> LibraryDocuments()
 const LibraryDocument* LibraryDocumentOf(const QString& entry)
 {
     for (const LibraryDocument& document : documents) {
-        if (entry == QLatin1String(document.Entry))
+        if (entry == QLatin1String(document.entry))
             return &document;
     }
     return nullptr;
@@ -80,7 +80,7 @@ const LibraryDocument* LibraryDocumentOf(const QString& entry)
 
 QString WindowTitleOf(const LibraryDocument& document)
 {
-    return QLatin1String(document.HasNarrowTitle ? narrowTitle : wideTitle) + QLatin1String(document.Title);
+    return QLatin1String(document.hasNarrowTitle ? narrowTitle : wideTitle) + QLatin1String(document.title);
 }
 
 } // namespace torvik

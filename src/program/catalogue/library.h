@@ -16,15 +16,15 @@ enum class TitleWay {
 
 /// A document that is the same whatever year is on show.
 struct LibraryDocument {
-    const char* Entry;  ///< name of its menu entry, "mnuMag(2)"
-    const char* Screen; ///< where a person finds that: "Literature > Torvik Books"; empty without a way
-    const char* File;   ///< under the disc's root; none keeps what DocumentFile names
-    const char* Title;  ///< of the window, after the product's name
-    const char* ErrorCode;
-    TitleWay Way;
-    bool ComesToFront = false;
-    bool SettlesButtons = true; ///< repeats what the viewer's Load did to its buttons
-    bool HasNarrowTitle = false;
+    const char* entry;  ///< name of its menu entry, "mnuMag(2)"
+    const char* screen; ///< where a person finds that: "Literature > Torvik Books"; empty without a way
+    const char* file;   ///< under the disc's root; none keeps what DocumentFile names
+    const char* title;  ///< of the window, after the product's name
+    const char* errorCode;
+    TitleWay way;
+    bool comesToFront = false;
+    bool settlesButtons = true; ///< repeats what the viewer's Load did to its buttons
+    bool hasNarrowTitle = false;
 };
 
 std::span<const LibraryDocument> LibraryDocuments();

@@ -9,8 +9,8 @@ namespace torvik {
 namespace {
 
 struct MovieRow {
-    const char* File;
-    const char* Title;
+    const char* file;
+    const char* title;
 };
 
 /// The sixth option has no movie, and there are no options for the last two.
@@ -37,7 +37,7 @@ constexpr const char* sounds[soundCount] = {
 
 Movie MovieOf(int option)
 {
-    return {QString::fromLatin1(movies[option].File), QString::fromLatin1(movies[option].Title)};
+    return {QString::fromLatin1(movies[option].file), QString::fromLatin1(movies[option].title)};
 }
 
 QString SoundOf(int button)

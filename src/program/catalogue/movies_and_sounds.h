@@ -8,8 +8,8 @@ using namespace Qt::StringLiterals;
 
 /// A movie of the player.
 struct Movie {
-    QString File; ///< its name in the folder of the movies; empty for an option without one
-    QString WindowTitle;
+    QString file; ///< its name in the folder of the movies; empty for an option without one
+    QString windowTitle;
 };
 
 /// How many movies the player knows; it has options for the first six only.

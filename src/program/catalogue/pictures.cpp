@@ -28,12 +28,12 @@ QString PictureOf(const QString& title, const char* Topic::*own, const QString& 
 
 QString EmblemOf(const QString& title)
 {
-    return PictureOf(title, &Topic::Emblem, u"\\emblems\\emb"_s);
+    return PictureOf(title, &Topic::emblem, u"\\emblems\\emb"_s);
 }
 
 QString ScriptOf(const QString& title)
 {
-    return PictureOf(title, &Topic::Script, u"\\scripts\\scri"_s);
+    return PictureOf(title, &Topic::script, u"\\scripts\\scri"_s);
 }
 
 QString ClipArtOf(const QString& code)

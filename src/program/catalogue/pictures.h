@@ -21,9 +21,9 @@ QString AdvertisementOf(const QString& title);
 
 /// A picture on the cover of the printed booklet.
 struct CoverPicture {
-    const char* File;
-    double X; ///< twips, like Y
-    double Y;
+    const char* file;
+    double x; ///< twips, like Y
+    double y;
 };
 
 std::span<const CoverPicture> CoverPictures();

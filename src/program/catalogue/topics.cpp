@@ -1,6 +1,7 @@
 #include "program/catalogue/topics.h"
 
 #include "runtime/text.h"
+#include "windows/main_window.h"
 
 #include <algorithm>
 
@@ -12,120 +13,120 @@ namespace {
 
 // Every title is spelled here and nowhere else.
 constexpr Topic topics[] = {
-    {.Title = "Early Torvik Prototypes ",
-     .Code = "PT",
-     .Entry = {TopicMenu::Specialty, 1},
-     .Description = "\\richtext\\ptdesc.rtf",
-     .DescriptionEnding = "Description ",
-     .Notes = {"pt00", "pt0"},
-     .Emblem = "\\emblems\\EMBpt.jpg",
-     .Script = "\\SCRIPTS\\SCRIpt.jpg",
-     .HasStatistics = true,
-     .RenamesStatistics = true,
+    {.title = "Early Torvik Prototypes ",
+     .code = "PT",
+     .entry = {TopicMenu::Specialty, 1},
+     .description = "\\richtext\\ptdesc.rtf",
+     .descriptionEnding = "Description ",
+     .notes = {"pt00", "pt0"},
+     .emblem = "\\emblems\\EMBpt.jpg",
+     .script = "\\SCRIPTS\\SCRIpt.jpg",
+     .hasStatistics = true,
+     .renamesStatistics = true,
      // The list of titles that drop the overlays has always named this one without its first word.
-     .KeepsOverlays = true},
-    {.Title = "The Classic Harwell ",
-     .Code = "SB",
-     .Entry = {TopicMenu::Specialty, 0},
-     .Statistics = "\\richtext\\sbstats.rtf",
-     .Colors = "\\RichText\\sbcolors.rtf",
-     .Options = "\\RichText\\sbopts.rtf",
-     .Emblem = "\\emblems\\embsb.jpg",
-     .Script = "\\SCRIPTS\\SCRISB.jpg",
-     .RenamesStatistics = true,
-     .KeepsYearButtons = true,
-     .KeepsOverlays = true},
-    {.Title = "Torvik Kestra I ",
-     .Code = "M1",
-     .Entry = {TopicMenu::Specialty, 2},
-     .Statistics = "\\richtext\\m1stats.rtf", // never reached, since there are notes
-     .Notes = {"m100", "m10"},
-     .HasStatistics = true,
-     .RenamesStatistics = true},
-    {.Title = "Torvik Kestra III ",
-     .Code = "M3",
-     .Entry = {TopicMenu::Specialty, 3},
-     .Statistics = "\\richtext\\m3stats.rtf",
-     .HasDescription = true,
-     .HasStatistics = true,
-     .RenamesStatistics = true},
-    {.Title = "Torvik Super Stallion ",
-     .Code = "MS",
-     .Entry = {TopicMenu::Specialty, 4},
-     .Statistics = "\\richtext\\msstats.rtf",
-     .HasDescription = true,
-     .HasStatistics = true,
-     .RenamesStatistics = true},
-    {.Title = "Torvik Postage Stamps ",
-     .Code = "ZZ",
-     .Entry = {TopicMenu::Stuff, 7},
-     .Description = "\\richtext\\stamps.rtf",
-     .Notes = {"zz00", "zz0"},
-     .HasDescription = true,
-     .RenamesStatistics = true},
-    {.Title = "Torvik Metal Signs ",
-     .Code = "VM",
-     .Entry = {TopicMenu::Stuff, 5},
-     .Description = "\\richtext\\desperat.rtf",
-     .Notes = {"vms0", "vms0"},
-     .HasDescription = true,
-     .HasStatistics = true},
-    {.Title = "Danbury Mint Die Cast Models ",
-     .Code = "TD",
-     .Entry = {TopicMenu::Stuff, 1},
-     .Description = "\\richtext\\danbury.rtf",
-     .Notes = {"tdm00", "tdm0"},
-     .HasDescription = true,
-     .HasStatistics = true,
-     .RenamesStatistics = true},
-    {.Title = "Franklin Mint Collector Knives ",
-     .Code = "TE",
-     .Description = "\\richtext\\knives.rtf",
-     .Notes = {"tek00", "tek0"},
-     .HasDescription = true},
-    {.Title = "Franklin Mint Die Cast Models ",
-     .Code = "TF",
-     .Entry = {TopicMenu::Stuff, 3},
-     .Description = "\\richtext\\franklin.rtf",
-     .Notes = {"tfm00", "tfm0"},
-     .HasDescription = true,
-     .HasStatistics = true},
+     .keepsOverlays = true},
+    {.title = "The Classic Harwell ",
+     .code = "SB",
+     .entry = {TopicMenu::Specialty, 0},
+     .statistics = "\\richtext\\sbstats.rtf",
+     .colors = "\\RichText\\sbcolors.rtf",
+     .options = "\\RichText\\sbopts.rtf",
+     .emblem = "\\emblems\\embsb.jpg",
+     .script = "\\SCRIPTS\\SCRISB.jpg",
+     .renamesStatistics = true,
+     .keepsYearButtons = true,
+     .keepsOverlays = true},
+    {.title = "Torvik Kestra I ",
+     .code = "M1",
+     .entry = {TopicMenu::Specialty, 2},
+     .statistics = "\\richtext\\m1stats.rtf", // never reached, since there are notes
+     .notes = {"m100", "m10"},
+     .hasStatistics = true,
+     .renamesStatistics = true},
+    {.title = "Torvik Kestra III ",
+     .code = "M3",
+     .entry = {TopicMenu::Specialty, 3},
+     .statistics = "\\richtext\\m3stats.rtf",
+     .hasDescription = true,
+     .hasStatistics = true,
+     .renamesStatistics = true},
+    {.title = "Torvik Super Stallion ",
+     .code = "MS",
+     .entry = {TopicMenu::Specialty, 4},
+     .statistics = "\\richtext\\msstats.rtf",
+     .hasDescription = true,
+     .hasStatistics = true,
+     .renamesStatistics = true},
+    {.title = "Torvik Postage Stamps ",
+     .code = "ZZ",
+     .entry = {TopicMenu::Stuff, 7},
+     .description = "\\richtext\\stamps.rtf",
+     .notes = {"zz00", "zz0"},
+     .hasDescription = true,
+     .renamesStatistics = true},
+    {.title = "Torvik Metal Signs ",
+     .code = "VM",
+     .entry = {TopicMenu::Stuff, 5},
+     .description = "\\richtext\\desperat.rtf",
+     .notes = {"vms0", "vms0"},
+     .hasDescription = true,
+     .hasStatistics = true},
+    {.title = "Danbury Mint Die Cast Models ",
+     .code = "TD",
+     .entry = {TopicMenu::Stuff, 1},
+     .description = "\\richtext\\danbury.rtf",
+     .notes = {"tdm00", "tdm0"},
+     .hasDescription = true,
+     .hasStatistics = true,
+     .renamesStatistics = true},
+    {.title = "Franklin Mint Collector Knives ",
+     .code = "TE",
+     .description = "\\richtext\\knives.rtf",
+     .notes = {"tek00", "tek0"},
+     .hasDescription = true},
+    {.title = "Franklin Mint Die Cast Models ",
+     .code = "TF",
+     .entry = {TopicMenu::Stuff, 3},
+     .description = "\\richtext\\franklin.rtf",
+     .notes = {"tfm00", "tfm0"},
+     .hasDescription = true,
+     .hasStatistics = true},
     // The notes of these two have each other's letters.
-    {.Title = "Torvik Cookies ", .Code = "VC", .Notes = {"usa00", "usa00"}},
-    {.Title = "The Torvik Monopoly Game ",
-     .Code = "US",
-     .Description = "\\richtext\\monopoly.rtf",
-     .Notes = {"vck00", "vck00"},
-     .HasDescription = true,
-     .IsNamedInSlideShow = false},
-    {.Title = "Torvik Calendars ",
-     .Code = "TC",
-     .Description = "\\richtext\\carstuff.rtf",
-     .IsBrowsed = false,
-     .IsNamedInSlideShow = false},
-    {.Title = "Franklin Mint Collector Plates ",
-     .Code = "TP",
-     .Description = "\\richtext\\plates.rtf",
-     .IsBrowsed = false,
-     .IsNamedInSlideShow = false},
-    {.Title = "Lemuel Ostrand Art Print ",
-     .Code = "GB",
-     .Entry = {TopicMenu::Artwork, 1},
-     .IsBrowsed = false,
-     .IsNamedInSlideShow = false},
-    {.Title = "National Torvik Museum Print ",
-     .Code = "GH",
-     .Entry = {TopicMenu::Artwork, 2},
-     .IsBrowsed = false,
-     .IsNamedInSlideShow = false},
-    {.Title = "Arlen Mercer Art Print ",
-     .Code = "GL",
-     .Entry = {TopicMenu::Artwork, 3},
-     .Notes = {"glsj0", "glsj0"},
-     .IsBrowsed = false,
-     .IsNamedInSlideShow = false},
+    {.title = "Torvik Cookies ", .code = "VC", .notes = {"usa00", "usa00"}},
+    {.title = "The Torvik Monopoly Game ",
+     .code = "US",
+     .description = "\\richtext\\monopoly.rtf",
+     .notes = {"vck00", "vck00"},
+     .hasDescription = true,
+     .isNamedInSlideShow = false},
+    {.title = "Torvik Calendars ",
+     .code = "TC",
+     .description = "\\richtext\\carstuff.rtf",
+     .isBrowsed = false,
+     .isNamedInSlideShow = false},
+    {.title = "Franklin Mint Collector Plates ",
+     .code = "TP",
+     .description = "\\richtext\\plates.rtf",
+     .isBrowsed = false,
+     .isNamedInSlideShow = false},
+    {.title = "Lemuel Ostrand Art Print ",
+     .code = "GB",
+     .entry = {TopicMenu::Artwork, 1},
+     .isBrowsed = false,
+     .isNamedInSlideShow = false},
+    {.title = "National Torvik Museum Print ",
+     .code = "GH",
+     .entry = {TopicMenu::Artwork, 2},
+     .isBrowsed = false,
+     .isNamedInSlideShow = false},
+    {.title = "Arlen Mercer Art Print ",
+     .code = "GL",
+     .entry = {TopicMenu::Artwork, 3},
+     .notes = {"glsj0", "glsj0"},
+     .isBrowsed = false,
+     .isNamedInSlideShow = false},
     // Reached by the slide show alone.
-    {.Title = "The Tarrant Torvik ", .Code = "CW", .IsBrowsed = false},
+    {.title = "The Tarrant Torvik ", .code = "CW", .isBrowsed = false},
 };
 
 template <typename Test>
@@ -144,34 +145,34 @@ std::span<const Topic> Topics()
 
 const Topic* TopicOf(const QString& title)
 {
-    return FirstTopic([&](const Topic& topic) { return title == QLatin1String(topic.Title); });
+    return FirstTopic([&](const Topic& topic) { return title == QLatin1String(topic.title); });
 }
 
 const Topic* BrowsedTopicOf(const QString& title)
 {
     const Topic* topic = TopicOf(title);
-    return topic != nullptr && topic->IsBrowsed ? topic : nullptr;
+    return topic != nullptr && topic->isBrowsed ? topic : nullptr;
 }
 
 const Topic* TopicOfCode(const QString& code)
 {
-    return FirstTopic([&](const Topic& topic) { return code == QLatin1String(topic.Code); });
+    return FirstTopic([&](const Topic& topic) { return code == QLatin1String(topic.code); });
 }
 
 const Topic* TopicOfEntry(TopicMenu menu, int index)
 {
     return FirstTopic(
-        [&](const Topic& topic) { return topic.Entry.Menu == menu && topic.Entry.Index == index; });
+        [&](const Topic& topic) { return topic.entry.menu == menu && topic.entry.index == index; });
 }
 
 QString TitleOfCode(const QString& code)
 {
     const Topic* topic = TopicOfCode(code);
-    if (topic != nullptr && topic->IsNamedInSlideShow)
-        return QString::fromLatin1(topic->Title);
-    if (code == u"A0"_s)
+    if (topic != nullptr && topic->isNamedInSlideShow)
+        return QString::fromLatin1(topic->title);
+    if (code == code2000)
         return u"2000"_s;
-    if (code == u"A1"_s)
+    if (code == code2001)
         return u"2001"_s;
     return u"19"_s + code + u" "_s;
 }
@@ -179,18 +180,18 @@ QString TitleOfCode(const QString& code)
 QString CodeOfTitle(const QString& title)
 {
     if (const Topic* topic = BrowsedTopicOf(title))
-        return QString::fromLatin1(topic->Code);
-    const QString digits = Mid(title, 3, 2);
+        return QString::fromLatin1(topic->code);
+    QString digits = Mid(title, 3, 2);
     if (digits == u"00"_s)
-        return u"A0"_s;
+        return code2000;
     if (digits == u"01"_s)
-        return u"A1"_s;
+        return code2001;
     return digits;
 }
 
 QString YearOfButton(int index)
 {
-    return index < 34 ? u"19%1"_s.arg(index + 66) : u"200%1"_s.arg(index - 34);
+    return QString::number(1900 + yearBeforeFirst + index);
 }
 
 } // namespace torvik

@@ -11,43 +11,47 @@ enum class TopicMenu { None, Artwork, Stuff, Specialty };
 
 /// Where a topic stands in its menu.
 struct TopicEntry {
-    TopicMenu Menu = TopicMenu::None;
-    int Index = 0; ///< of the menu array; some have no entry
+    TopicMenu menu = TopicMenu::None;
+    int index = 0; ///< of the menu array; some have no entry
 };
 
 /// How the files of a topic's notes begin, by the number of the photo on show. In most of them the longer
 /// number of the fifth photo takes the place of a zero.
 struct NotePrefixes {
-    const char* Below5 = "";
-    const char* From5 = "";
+    const char* below5 = "";
+    const char* from5 = "";
 };
 
 /// A special topic: what a title in panYear stands for that is no year. Files are named as they stand under
 /// the disc's root; an empty name means that there is none of its own.
 struct Topic {
-    const char* Title; ///< with its trailing blank, which counts
-    const char* Code;  ///< the prefix of its photos
-    TopicEntry Entry = {};
+    const char* title; ///< with its trailing blank, which counts
+    const char* code;  ///< the prefix of its photos
+    TopicEntry entry = {};
 
-    const char* Description = "";
-    const char* DescriptionEnding = ""; ///< what the window title adds to the topic's own
-    const char* Statistics = "";
-    const char* Colors = "";
-    const char* Options = "";
-    NotePrefixes Notes = {}; ///< one note for each photo in place of statistics
-    const char* Emblem = "";
-    const char* Script = "";
+    const char* description = "";
+    const char* descriptionEnding = ""; ///< what the window title adds to the topic's own
+    const char* statistics = "";
+    const char* colors = "";
+    const char* options = "";
+    NotePrefixes notes = {}; ///< one note for each photo in place of statistics
+    const char* emblem = "";
+    const char* script = "";
 
-    bool HasDescription = false; ///< cmdDesc is enabled
-    bool HasStatistics = false;  ///< cmdStats is enabled
+    bool hasDescription = false; ///< cmdDesc is enabled
+    bool hasStatistics = false;  ///< cmdStats is enabled
 
     // What has always been different from topic to topic.
-    bool IsBrowsed = true;          ///< its photos are found by the code, else by two letters of the title
-    bool IsNamedInSlideShow = true; ///< else the slide show writes "19" and the code
-    bool RenamesStatistics = false; ///< cmdStats reads "Details"
-    bool KeepsYearButtons = false;  ///< a car with colours, options and pictures, as a year has them
-    bool KeepsOverlays = false;     ///< open emblem, script and clip art stay, and are loaded anew
+    bool isBrowsed = true;          ///< its photos are found by the code, else by two letters of the title
+    bool isNamedInSlideShow = true; ///< else the slide show writes "19" and the code
+    bool renamesStatistics = false; ///< cmdStats reads "Details"
+    bool keepsYearButtons = false;  ///< a car with colours, options and pictures, as a year has them
+    bool keepsOverlays = false;     ///< open emblem, script and clip art stay, and are loaded anew
 };
+
+// The codes of 2000 and 2001, which sort after those of the other years.
+inline constexpr QLatin1String code2000("A0");
+inline constexpr QLatin1String code2001("A1");
 
 /// All topics.
 std::span<const Topic> Topics();

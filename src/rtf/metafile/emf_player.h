@@ -1,7 +1,7 @@
 #pragma once
 
 #include "rtf/bitmap/byte_reader.h"
-#include "rtf/metafile/emf_records.h"
+#include "rtf/metafile/emf_record_numbers.h"
 #include "rtf/metafile/gdi_canvas.h"
 #include "rtf/metafile/gdi_numbers.h"
 #include "rtf/metafile/gdi_objects.h"

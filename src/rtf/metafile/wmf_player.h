@@ -3,7 +3,7 @@
 #include "rtf/bitmap/byte_reader.h"
 #include "rtf/metafile/gdi_canvas.h"
 #include "rtf/metafile/gdi_objects.h"
-#include "rtf/metafile/wmf_records.h"
+#include "rtf/metafile/wmf_record_numbers.h"
 
 #include <string_view>
 

@@ -9,7 +9,7 @@ namespace torvik {
 Button::Button(Container& container, const QString& name, const Twips& design, const QString& caption)
     : Control(container, name, new ButtonWidget, design), button_(static_cast<ButtonWidget*>(&Widget()))
 {
-    connect(button_, &QAbstractButton::clicked, this, [this] { Click.Fire(); });
+    connect(button_, &QAbstractButton::clicked, this, [this] { Pressed(Click); });
     SetCaption(caption);
 }
 

@@ -21,7 +21,7 @@ ChoiceButton::ChoiceButton(Container& container, const QString& name, QAbstractB
     : Control(container, name, button, design), button_(button)
 {
     SetCaption(caption);
-    connect(button_, &QAbstractButton::clicked, this, [this] { Click.Fire(); });
+    connect(button_, &QAbstractButton::clicked, this, [this] { Pressed(Click); });
 }
 
 QString ChoiceButton::Caption() const
@@ -44,8 +44,7 @@ void ChoiceButton::SetValue(bool value)
 {
     if (value == Value())
         return;
-    const bool exclusive =
-        button_->autoExclusive(); // the platform keeps the last choice of a group otherwise
+    const bool exclusive = button_->autoExclusive(); // Qt keeps the last choice of a group otherwise
     button_->setAutoExclusive(exclusive && value);
     button_->setChecked(value);
     button_->setAutoExclusive(exclusive);

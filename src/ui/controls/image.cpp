@@ -22,8 +22,8 @@ Image::Image(Container& container, const QString& name, const Twips& design, Fit
 void Image::Load(const QString& path)
 {
     if (const auto ready = readsAhead_ ? PictureReadAhead(path, Area()) : std::nullopt) {
-        Put(ready->Drawn);
-        Take(ready->File);
+        Put(ready->drawn);
+        Take(ready->file);
     } else {
         Show(path.isEmpty() ? torvik::Picture() : Picture::Load(path));
     }

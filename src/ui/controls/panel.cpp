@@ -13,7 +13,7 @@ namespace torvik {
 Panel::Panel(Container& container, const QString& name, const Twips& design, const QString& caption,
              Bevel bevel)
     : Control(container, name, new PanelWidget(bevel), design), panel_(static_cast<PanelWidget*>(&Widget())),
-      designWidth_(design.Width)
+      designWidth_(design.width)
 {
     SetCaption(caption);
 }

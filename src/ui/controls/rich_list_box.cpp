@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace torvik {
 
-/// The rows as the toolkit's list asks for them.
+/// The rows as Qt's list asks for them.
 class RichListModel : public QAbstractListModel {
 public:
     using QAbstractListModel::QAbstractListModel;
@@ -52,10 +52,10 @@ public:
     {
         const RichListRow& row = rows_[at.row()];
         if (role == Qt::DisplayRole)
-            return row.Title;
+            return row.title;
         if (role != Qt::AccessibleTextRole)
             return {};
-        QStringList spoken{row.Title, row.Place, row.Line};
+        QStringList spoken{row.title, row.place, row.line};
         spoken.removeAll(QString());
         return spoken.join(u". "_s);
     }
@@ -91,8 +91,8 @@ public:
             painter->fillRect(area.adjusted(margin, area.height() - 1, -margin, 0), look::halfLight);
         const double half = (area.height() - 1) / 2;
         const QRectF first(area.left() + margin, area.top() + 2, area.width() - 2 * margin, half - 2);
-        DrawRowTitle(*painter, first, row.Title, row.Place, isSelected);
-        DrawRowLine(*painter, first.translated(0, half - 1), row.Line, row.Bold, isSelected);
+        DrawRowTitle(*painter, first, row.title, row.place, isSelected);
+        DrawRowLine(*painter, first.translated(0, half - 1), row.line, row.bold, isSelected);
         if (option.state.testFlag(QStyle::State_HasFocus))
             DrawFocus(*painter, area.adjusted(1, 1, -1, -2), isSelected ? look::accentText : look::text);
         painter->restore();

@@ -14,10 +14,10 @@ class RichListModel;
 
 /// A row of two lines.
 struct RichListRow {
-    QString Title;
-    QString Place;         ///< at the right end of the first line, faded
-    QString Line;          ///< the second line
-    QList<TextRange> Bold; ///< pieces of Line
+    QString title;
+    QString place;         ///< at the right end of the first line, faded
+    QString line;          ///< the second line
+    QList<TextRange> bold; ///< pieces of Line
 };
 
 /// A list of rows of two lines, of which one can be selected. Rows count from 0; -1 stands for no selection.

@@ -71,7 +71,7 @@ void RichTextBox::SetMarks(const QList<TextRange>& pieces, qsizetype present)
     marks.reserve(pieces.size());
     for (qsizetype index = 0; index < pieces.size(); ++index) {
         QTextEdit::ExtraSelection mark;
-        mark.cursor = CursorAt(pieces[index].Begin);
+        mark.cursor = CursorAt(pieces[index].begin);
         mark.cursor.setPosition(static_cast<int>(pieces[index].End()), QTextCursor::KeepAnchor);
         mark.format.setBackground(index == present ? look::presentMark : look::mark);
         mark.format.setForeground(look::text);
@@ -100,7 +100,7 @@ void RichTextBox::BringIntoView(const TextRange& piece)
     // The layout of a long document is made in steps; asked for its pages it is made to the end, and only
     // then do the bars reach every line.
     pane_->document()->pageCount();
-    const QRect begin = pane_->cursorRect(CursorAt(piece.Begin));
+    const QRect begin = pane_->cursorRect(CursorAt(piece.begin));
     const QRect place = begin.united(pane_->cursorRect(CursorAt(piece.End())));
     const QRect view = pane_->viewport()->rect();
     QScrollBar& down = *pane_->verticalScrollBar();

@@ -12,7 +12,7 @@ namespace torvik {
 
 namespace {
 
-/// The platform's bar turns the left and right keys round when it lies flat.
+/// Qt's bar turns the left and right keys round when it lies flat.
 class ScrollBarWidget : public QScrollBar {
 public:
     using QScrollBar::QScrollBar;
@@ -33,7 +33,7 @@ protected:
 
 ScrollBar::ScrollBar(Container& container, const QString& name, const Twips& design)
     : Control(container, name,
-              new ScrollBarWidget(design.Width >= design.Height ? Qt::Horizontal : Qt::Vertical), design),
+              new ScrollBarWidget(design.width >= design.height ? Qt::Horizontal : Qt::Vertical), design),
       bar_(static_cast<QScrollBar*>(&Widget()))
 {
     bar_->setRange(0, max_);

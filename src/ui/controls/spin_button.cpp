@@ -10,8 +10,8 @@ namespace torvik {
 SpinButton::SpinButton(Container& container, const QString& name, const Twips& design)
     : Control(container, name, new GroupWidget, design), up_(MakeArrow(u"Up"_s)), down_(MakeArrow(u"Down"_s))
 {
-    connect(up_, &QAbstractButton::clicked, this, [this] { SpinUp.Fire(); });
-    connect(down_, &QAbstractButton::clicked, this, [this] { SpinDown.Fire(); });
+    connect(up_, &QAbstractButton::clicked, this, [this] { Pressed(SpinUp); });
+    connect(down_, &QAbstractButton::clicked, this, [this] { Pressed(SpinDown); });
     SpinButton::SizeChanged();
 }
 

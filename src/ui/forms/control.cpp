@@ -1,6 +1,7 @@
 #include "ui/forms/control.h"
 
 #include "runtime/failure.h"
+#include "ui/forms/disabled_input.h"
 #include "ui/forms/form.h"
 #include "ui/forms/keys.h"
 #include "ui/forms/program_end.h"
@@ -91,33 +92,33 @@ QString Control::Name() const
 
 double Control::Left() const
 {
-    return place_.Left / Unit();
+    return place_.left / Unit();
 }
 
 double Control::Top() const
 {
-    return place_.Top / Unit();
+    return place_.top / Unit();
 }
 
 double Control::Width() const
 {
-    return place_.Width / Unit();
+    return place_.width / Unit();
 }
 
 double Control::Height() const
 {
-    return place_.Height / Unit();
+    return place_.height / Unit();
 }
 
 void Control::SetLeft(double left)
 {
-    place_.Left = left * Unit();
+    place_.left = left * Unit();
     ApplyGeometry();
 }
 
 void Control::SetTop(double top)
 {
-    place_.Top = top * Unit();
+    place_.top = top * Unit();
     ApplyGeometry();
 }
 
@@ -125,7 +126,7 @@ void Control::SetWidth(double width)
 {
     if (width < 0)
         Fail(failure::invalidProperty);
-    place_.Width = width * Unit();
+    place_.width = width * Unit();
     ApplyGeometry();
 }
 
@@ -133,14 +134,14 @@ void Control::SetHeight(double height)
 {
     if (height < 0)
         Fail(failure::invalidProperty);
-    place_.Height = height * Unit();
+    place_.height = height * Unit();
     ApplyGeometry();
 }
 
 void Control::Move(double left, double top)
 {
-    place_.Left = left * Unit();
-    place_.Top = top * Unit();
+    place_.left = left * Unit();
+    place_.top = top * Unit();
     ApplyGeometry();
 }
 
@@ -154,15 +155,15 @@ void Control::Move(double left, double top, double width, double height)
 
 void Control::TakePixelSize(double width, double height)
 {
-    place_.Width = width * twipsPerPixel;
-    place_.Height = height * twipsPerPixel;
+    place_.width = width * twipsPerPixel;
+    place_.height = height * twipsPerPixel;
     ApplyGeometry();
 }
 
 void Control::ApplyGeometry()
 {
-    widget_->setGeometry(ToPixels(place_.Left), ToPixels(place_.Top), ToPixels(place_.Width),
-                         ToPixels(place_.Height));
+    widget_->setGeometry(ToPixels(place_.left), ToPixels(place_.top), ToPixels(place_.width),
+                         ToPixels(place_.height));
 }
 
 bool Control::Visible() const
@@ -308,6 +309,12 @@ bool Control::PressedByKey(const QKeyEvent& event)
     if (self != nullptr)
         MouseReleased(isLeft ? mouse::left : mouse::right, true);
     return true;
+}
+
+void Control::Pressed(const Event<>& event) const
+{
+    if (TakesInput(*widget_))
+        event.Fire();
 }
 
 void Control::PressKey(int code, int shift)

@@ -119,6 +119,9 @@ protected:
     /// Whether a press of a mouse button makes this the screen's active control although it takes no focus.
     virtual bool IsPicture() const { return false; }
 
+    /// Runs the handler of a press that the widget took, by whatever way it came.
+    void Pressed(const Event<>& event) const;
+
     /// Mouse events are looked for on `inner` too, where a part of the widget takes them.
     void WatchInput(QWidget* inner);
     /// Takes a new size in pixels from the content that it shows.

@@ -25,7 +25,7 @@ public:
         Add(index, parent, std::forward<Args>(args)...);
     }
 
-    /// Makes the member `index` on a container; the other arguments are those of the control behind its name.
+    /// Makes the member `index` on a container; the other arguments are those of the control after its name.
     template <typename Parent, typename... Args>
     T& Add(int index, Parent& parent, Args&&... args)
     {

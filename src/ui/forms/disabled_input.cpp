@@ -51,6 +51,16 @@ const Form* FormOf(const QObject* object)
     return nullptr;
 }
 
+/// A modal window blocks all but itself and what was opened from it.
+bool IsBlocked(const QWidget& widget)
+{
+    const QWidget* modal = QApplication::activeModalWidget();
+    const QWidget* within = &widget;
+    while (within != nullptr && within != modal)
+        within = within->parentWidget();
+    return modal != nullptr && within == nullptr;
+}
+
 class InputGuard : public QObject {
 public:
     using QObject::QObject;
@@ -73,6 +83,12 @@ void WatchDisabledForms()
         return;
     guard = new InputGuard(qApp);
     qApp->installEventFilter(guard);
+}
+
+bool TakesInput(const QWidget& widget)
+{
+    const Form* form = FormOf(&widget);
+    return !IsBlocked(widget) && (form == nullptr || form->Enabled());
 }
 
 } // namespace torvik

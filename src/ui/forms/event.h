@@ -19,7 +19,7 @@ public:
     static void WhenAllAreDone(std::function<void()> work);
 };
 
-/// Runs a handler at the edge between the toolkit and the program. A failure that no trap of the handler met
+/// Runs a handler at the edge between Qt and the program. A failure that no trap of the handler met
 /// is shown with its number and ends the program; while the program is ending no handler runs any more.
 void RunHandler(const std::function<void()>& handler);
 

@@ -21,9 +21,9 @@ Form::Form(FormDesign design)
     WatchDisabledForms();
     settling_->setSingleShot(true);
     connect(settling_, &QTimer::timeout, this, &Form::Settle);
-    SetCaption(design_.Caption);
-    place_.Width = design_.ClientWidth;
-    place_.Height = design_.ClientHeight + FrameTwips();
+    SetCaption(design_.caption);
+    place_.width = design_.clientWidth;
+    place_.height = design_.clientHeight + FrameTwips();
     ApplySize();
 }
 
@@ -53,7 +53,7 @@ void Form::SetCaption(const QString& caption)
 {
     caption_ = caption;
     window_->setWindowTitle(caption.isEmpty() ? u" "_s : caption);
-    window_->setAccessibleName(caption.isEmpty() ? design_.Name : caption);
+    window_->setAccessibleName(caption.isEmpty() ? design_.name : caption);
 }
 
 std::int32_t Form::WindowNumber() const

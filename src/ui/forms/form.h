@@ -35,13 +35,13 @@ enum class FormBorder {
 
 /// What a form is at design.
 struct FormDesign {
-    QString Name;
-    QString Caption;
-    double ClientWidth = 0;  ///< twips
-    double ClientHeight = 0; ///< twips
-    FormBorder Border = FormBorder::Fixed;
-    Scale ScaleMode = Scale::Twips;
-    bool HasMenu = false;
+    QString name;
+    QString caption;
+    double clientWidth = 0;  ///< twips
+    double clientHeight = 0; ///< twips
+    FormBorder border = FormBorder::Fixed;
+    Scale scaleMode = Scale::Twips;
+    bool hasMenu = false;
 };
 
 /// A top-level window with its controls. A form derives from it as a struct of named controls.
@@ -110,7 +110,7 @@ public:
     void SetMousePointer(MousePointer pointer);
 
     /// A disabled form takes no input; it does not turn grey. While an InputHold stands the form is disabled,
-    /// and what is set takes effect behind it.
+    /// and what is set takes effect when it has gone.
     bool Enabled() const { return enabled_ && holds_ == 0; }
     void SetEnabled(bool enabled);
 
@@ -130,12 +130,12 @@ public:
     void Adopt(QObject& unseen);
 
     QWidget& Host() override;
-    Scale ScaleMode() const override { return design_.ScaleMode; }
+    Scale ScaleMode() const override { return design_.scaleMode; }
     Form& OwnerForm() override { return *this; }
     FormWindow& Window() { return *window_; }
     const FormDesign& Design() const { return design_; }
-    /// True while the program's placing of the window is still on its way through the desktop; its steps
-    /// become no measures of the form.
+    /// For the tests: true while the program's placing of the window is still on its way through the desktop;
+    /// its steps become no measures of the form.
     bool IsSettling() const { return changing_ || !settled_; }
     /// True once the form was unloaded, although it lives on until the handlers that were running then are
     /// done.
@@ -161,7 +161,7 @@ private:
     void ApplyPlace();
     void Change();
     void MakeChange();
-    void ShowWindow();
+    void PutWindowOnScreen();
     void ChangeWindow();
     void Unsettle();
     void Watch();
@@ -240,7 +240,7 @@ private:
 /// moment. While the Load runs, a touch gives the form as it is; if the Load itself unloaded the form, the
 /// next touch in it makes the form anew without a second Load.
 template <typename T>
-class FormHandle : public FormHandleBase {
+class FormHandle final : public FormHandleBase {
 public:
     using Binder = std::function<void(T&)>;
 

@@ -21,8 +21,8 @@ constexpr Qt::WindowStates shapes = Qt::WindowFullScreen | Qt::WindowMaximized |
 
 bool AreEqual(const Twips& one, const Twips& other)
 {
-    return one.Left == other.Left && one.Top == other.Top && one.Width == other.Width &&
-           one.Height == other.Height;
+    return one.left == other.left && one.top == other.top && one.width == other.width &&
+           one.height == other.height;
 }
 
 } // namespace
@@ -85,11 +85,11 @@ void Form::MakeChange()
     if (window_->isVisible())
         ChangeWindow();
     else
-        ShowWindow();
+        PutWindowOnScreen();
     Unsettle();
 }
 
-void Form::ShowWindow()
+void Form::PutWindowOnScreen()
 {
     ApplySize();
     ApplyPlace();

@@ -13,14 +13,18 @@
 #include <QPointer>
 #include <QShortcut>
 
+#include <algorithm>
+#include <vector>
+
 namespace torvik {
 
 namespace {
 
-QPointer<FormWindow>& LastActiveWindow()
+/// The windows that were active, the last one at the end.
+std::vector<QPointer<FormWindow>>& Activated()
 {
-    static QPointer<FormWindow> window;
-    return window;
+    static std::vector<QPointer<FormWindow>> windows;
+    return windows;
 }
 
 } // namespace
@@ -29,8 +33,8 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
 {
     InstallSpokenRoles();
     const FormDesign& design = form.Design();
-    setObjectName(design.Name);
-    switch (design.Border) {
+    setObjectName(design.name);
+    switch (design.border) {
     case FormBorder::None:
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
         break;
@@ -42,7 +46,7 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
         setWindowFlags(Qt::Window);
         break;
     }
-    if (design.HasMenu) {
+    if (design.hasMenu) {
         menuBar_ = new QMenuBar(this);
         menuBar_->setNativeMenuBar(false);
         menuBar_->setFixedHeight(menuHeight);
@@ -65,15 +69,17 @@ void FormWindow::WatchWithShift(Qt::Key key, int code)
 
 FormWindow* FormWindow::LastActive()
 {
-    return LastActiveWindow();
+    return Activated().empty() ? nullptr : Activated().back().data();
 }
 
 FormWindow* FormWindow::ToStandOver()
 {
     if (auto* active = dynamic_cast<FormWindow*>(QApplication::activeWindow()))
         return active;
-    FormWindow* last = LastActive();
-    return last != nullptr && last->isVisible() ? last : nullptr;
+    const auto last = std::find_if(Activated().rbegin(), Activated().rend(), [](const auto& window) {
+        return window != nullptr && window->isVisible();
+    });
+    return last != Activated().rend() ? last->data() : nullptr;
 }
 
 void FormWindow::ReleaseButtons()
@@ -83,7 +89,7 @@ void FormWindow::ReleaseButtons()
         button->setDown(false);
 }
 
-/// A box that comes up while a button is held takes the release: an arrow would go on stepping behind it.
+/// A box that comes up while a button is held takes the release: an arrow would go on stepping under it.
 bool FormWindow::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowBlocked)
@@ -125,7 +131,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Escape)
         QWidget::keyPressEvent(event);
     if (form_ != nullptr)
-        form_->KeyPressed(KeyCodeOf(*event), ShiftStateOf(*event)); // the window may be over behind it
+        form_->KeyPressed(KeyCodeOf(*event), ShiftStateOf(*event)); // the window may be gone after it
 }
 
 void FormWindow::changeEvent(QEvent* event)
@@ -135,7 +141,8 @@ void FormWindow::changeEvent(QEvent* event)
         form_->WindowStateChanged();
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || form_ == nullptr)
         return;
-    LastActiveWindow() = this;
+    std::erase_if(Activated(), [this](const auto& window) { return window == nullptr || window == this; });
+    Activated().emplace_back(this);
     form_->WindowActivated();
 }
 

@@ -27,8 +27,8 @@ public:
     Form* Owner() const { return form_; }
     /// The form's window that was active last; null when it is gone.
     static FormWindow* LastActive();
-    /// The form's window that a box or a modal form comes up over: the active one, else the one that was
-    /// active last; null when neither is on the screen.
+    /// The form's window that a box or a modal form comes up over: the active one, else the one on the screen
+    /// that was active last; null when none is on the screen.
     static FormWindow* ToStandOver();
     void LetGo() { form_ = nullptr; }
     /// Lets go of every button that is held down, because its release will not come here.

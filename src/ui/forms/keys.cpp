@@ -47,9 +47,10 @@ int KeyCodeOf(const QKeyEvent& event)
 
 int ShiftStateOf(const QKeyEvent& event)
 {
-    const Qt::KeyboardModifiers held = event.modifiers();
-    return (held.testFlag(Qt::ShiftModifier) ? 1 : 0) + (held.testFlag(Qt::ControlModifier) ? 2 : 0) +
-           (held.testFlag(Qt::AltModifier) ? 4 : 0);
+    const Qt::KeyboardModifiers keys = event.modifiers();
+    return (keys.testFlag(Qt::ShiftModifier) ? held::shift : 0) +
+           (keys.testFlag(Qt::ControlModifier) ? held::ctrl : 0) +
+           (keys.testFlag(Qt::AltModifier) ? held::alt : 0);
 }
 
 } // namespace torvik

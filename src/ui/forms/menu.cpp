@@ -1,6 +1,7 @@
 #include "ui/forms/menu.h"
 
 #include "runtime/failure.h"
+#include "ui/forms/disabled_input.h"
 #include "ui/forms/form.h"
 #include "ui/forms/form_window.h"
 
@@ -40,7 +41,7 @@ Menu::Menu(Form& form, const QString& name, const QString& caption)
         Fail(failure::invalidCall);
     action_ = MakeAction(name, caption, bar);
     bar->addAction(action_);
-    connect(action_, &QAction::triggered, this, [this] { Click.Fire(); });
+    connect(action_, &QAction::triggered, this, &Menu::Triggered);
 }
 
 Menu::Menu(Menu& parent, const QString& name, const QString& caption)
@@ -48,7 +49,13 @@ Menu::Menu(Menu& parent, const QString& name, const QString& caption)
     QMenu* menu = MenuOf(parent.action_);
     action_ = MakeAction(name, caption, menu);
     menu->addAction(action_);
-    connect(action_, &QAction::triggered, this, [this] { Click.Fire(); });
+    connect(action_, &QAction::triggered, this, &Menu::Triggered);
+}
+
+void Menu::Triggered()
+{
+    if (TakesInput(*qobject_cast<QWidget*>(action_->parent())))
+        Click.Fire();
 }
 
 QString Menu::Name() const

@@ -29,6 +29,8 @@ public:
     Event<> Click;
 
 private:
+    void Triggered();
+
     QAction* action_;
 };
 

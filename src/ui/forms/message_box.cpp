@@ -48,9 +48,9 @@ MessageResponder& Responder()
 }
 
 struct ButtonChoice {
-    const char* Name;
-    QMessageBox::ButtonRole Role;
-    int Answer;
+    const char* name;
+    QMessageBox::ButtonRole role;
+    int answer;
 };
 
 QList<ButtonChoice> ButtonsOf(int style)
@@ -165,21 +165,21 @@ int Ask(const MessageRequest& request)
     QWidget* active = QApplication::activeWindow();
     Box box(active != nullptr ? active : FormWindow::ToStandOver());
     box.setObjectName(u"MsgBox"_s);
-    box.setAccessibleName(request.Title);
-    box.setWindowTitle(request.Title);
+    box.setAccessibleName(request.title);
+    box.setWindowTitle(request.title);
     box.setTextFormat(Qt::PlainText);
-    box.setText(request.Text);
-    box.setIcon(IconOf(request.Style));
-    if ((request.Style & msgbox::systemModal) != 0 || IsAnyWindowTopmost())
+    box.setText(request.text);
+    box.setIcon(IconOf(request.style));
+    if ((request.style & msgbox::systemModal) != 0 || IsAnyWindowTopmost())
         box.setWindowFlag(Qt::WindowStaysOnTopHint);
 
     QHash<QAbstractButton*, int> answers;
-    for (const ButtonChoice& choice : ButtonsOf(request.Style)) {
-        QPushButton* button = box.addButton(QString::fromLatin1(choice.Name), choice.Role);
-        button->setObjectName(QString::fromLatin1(choice.Name));
+    for (const ButtonChoice& choice : ButtonsOf(request.style)) {
+        QPushButton* button = box.addButton(QString::fromLatin1(choice.name), choice.role);
+        button->setObjectName(QString::fromLatin1(choice.name));
         if (answers.isEmpty())
             box.setDefaultButton(button);
-        answers.insert(button, choice.Answer);
+        answers.insert(button, choice.answer);
     }
     MakeRoomForLines(box);
     MakeRoomForTitle(box);

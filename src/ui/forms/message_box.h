@@ -8,7 +8,7 @@ namespace torvik {
 
 class Form;
 
-/// The toolkit's numeric styles and answers of a message box.
+/// The numeric styles and answers of a message box, as Windows has them.
 namespace msgbox {
 inline constexpr int ok = 0;
 inline constexpr int okCancel = 1;
@@ -39,9 +39,9 @@ bool MessageBoxStandsOver(const Form& form);
 
 /// A box that was asked for.
 struct MessageRequest {
-    QString Text;
-    int Style = 0;
-    QString Title; ///< as shown, so never empty
+    QString text;
+    int style = 0;
+    QString title; ///< as shown, so never empty
 };
 
 /// Answers boxes in place of the user, for the tests: no box is shown while a responder is set.

@@ -29,7 +29,7 @@ void LeaveIfEnding()
 void ForgetProgramEnd()
 {
     if (ending && QCoreApplication::instance() != nullptr) {
-        // The toolkit starts no event loop any more until the program's outermost one has ended.
+        // Qt starts no event loop any more until the program's outermost one has ended.
         QMetaObject::invokeMethod(
             qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
         QCoreApplication::exec();

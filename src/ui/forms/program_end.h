@@ -5,7 +5,7 @@ namespace torvik {
 /// Thrown through the handlers when the program ends at once; nothing but the edge of a handler catches it.
 class ProgramEnd {};
 
-/// Ends the program at once: no form is asked, nothing is saved, no statement behind the call runs.
+/// Ends the program at once: no form is asked, nothing is saved, no statement after the call runs.
 [[noreturn]] void EndProgram();
 
 /// True from EndProgram on.

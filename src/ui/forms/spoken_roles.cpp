@@ -47,7 +47,7 @@ private:
     PanelWidget& panel_;
 };
 
-/// Null where the toolkit's own answer is right.
+/// Null where Qt's own answer is right.
 QAccessibleInterface* Speaking(const QString& /*className*/, QObject* object)
 {
     if (auto* panel = dynamic_cast<PanelWidget*>(object))

@@ -7,10 +7,10 @@ inline constexpr double twipsPerPixel = 15;
 
 /// A design place and size in twips.
 struct Twips {
-    double Left = 0;
-    double Top = 0;
-    double Width = 0;
-    double Height = 0;
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
 };
 
 /// The unit in which a container measures the controls that lie on it.

@@ -50,8 +50,8 @@ int RoundPixels(double twips)
 /// Twips that the form's height holds beside the client area.
 double Form::FrameTwips() const
 {
-    const double caption = design_.Border == FormBorder::None ? 0 : captionHeight;
-    const double menu = design_.HasMenu ? FormWindow::menuHeight : 0;
+    const double caption = design_.border == FormBorder::None ? 0 : captionHeight;
+    const double menu = design_.hasMenu ? FormWindow::menuHeight : 0;
     return (caption + menu) * twipsPerPixel;
 }
 
@@ -60,45 +60,45 @@ double Form::FrameTwips() const
 bool Form::FillsScreen() const
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return design_.Border == FormBorder::None && screen != nullptr && WantedSize() == screen->size();
+    return design_.border == FormBorder::None && screen != nullptr && WantedSize() == screen->size();
 }
 
 double Form::Left() const
 {
-    return place_.Left;
+    return place_.left;
 }
 
 double Form::Top() const
 {
-    return place_.Top;
+    return place_.top;
 }
 
 double Form::Width() const
 {
-    return place_.Width;
+    return place_.width;
 }
 
 double Form::Height() const
 {
-    return place_.Height;
+    return place_.height;
 }
 
 void Form::SetLeft(double left)
 {
-    place_.Left = left;
+    place_.left = left;
     Place();
 }
 
 void Form::SetTop(double top)
 {
-    place_.Top = top;
+    place_.top = top;
     Place();
 }
 
 void Form::SetWidth(double width)
 {
-    const bool changes = RoundPixels(width) != RoundPixels(place_.Width);
-    place_.Width = width;
+    const bool changes = RoundPixels(width) != RoundPixels(place_.width);
+    place_.width = width;
     Place();
     if (changes)
         Resize.Call();
@@ -106,8 +106,8 @@ void Form::SetWidth(double width)
 
 void Form::SetHeight(double height)
 {
-    const bool changes = RoundPixels(height) != RoundPixels(place_.Height);
-    place_.Height = height;
+    const bool changes = RoundPixels(height) != RoundPixels(place_.height);
+    place_.height = height;
     Place();
     if (changes)
         Resize.Call();
@@ -115,27 +115,27 @@ void Form::SetHeight(double height)
 
 double Form::ScaleWidth() const
 {
-    return place_.Width / TwipsPerUnit();
+    return place_.width / TwipsPerUnit();
 }
 
 double Form::ScaleHeight() const
 {
-    return (place_.Height - FrameTwips()) / TwipsPerUnit();
+    return (place_.height - FrameTwips()) / TwipsPerUnit();
 }
 
 /// The size of the window without the desktop's frame that stands for the form's measures.
 QSize Form::WantedSize() const
 {
-    const int menu = design_.HasMenu ? FormWindow::menuHeight : 0;
-    const int width = std::max(1, RoundPixels(place_.Width));
-    const int height = std::max(1, RoundPixels(place_.Height - FrameTwips())) + menu;
+    const int menu = design_.hasMenu ? FormWindow::menuHeight : 0;
+    const int width = std::max(1, RoundPixels(place_.width));
+    const int height = std::max(1, RoundPixels(place_.height - FrameTwips())) + menu;
     return {std::min(width, QWIDGETSIZE_MAX), std::min(height, QWIDGETSIZE_MAX)};
 }
 
 /// Where the corner of the window's frame stands for the form's place.
 QPoint Form::WantedPlace() const
 {
-    return KeptInReach({RoundPixels(place_.Left), RoundPixels(place_.Top)}, window_->size());
+    return KeptInReach({RoundPixels(place_.left), RoundPixels(place_.top)}, window_->size());
 }
 
 /// A window that is on the screen is told all its changes in one, other windows have them at once.
@@ -151,7 +151,7 @@ void Form::Place()
 
 void Form::ApplySize()
 {
-    if (design_.Border == FormBorder::Sizable) {
+    if (design_.border == FormBorder::Sizable) {
         window_->resize(WantedSize());
     } else if (FillsScreen() || state_ == State::Maximized) {
         window_->setMinimumSize(0, 0); // that state may need another size
@@ -244,24 +244,24 @@ void Form::TakeMeasures()
         taken = CoveredMeasures();
     } else {
         if (window_->size() != WantedSize()) {
-            const int menu = design_.HasMenu ? FormWindow::menuHeight : 0;
-            taken.Width = window_->width() * twipsPerPixel;
-            taken.Height = (window_->height() - menu) * twipsPerPixel + FrameTwips();
+            const int menu = design_.hasMenu ? FormWindow::menuHeight : 0;
+            taken.width = window_->width() * twipsPerPixel;
+            taken.height = (window_->height() - menu) * twipsPerPixel + FrameTwips();
         }
         if (now != restsAt_) {
-            taken.Left = now.x() * twipsPerPixel;
-            taken.Top = now.y() * twipsPerPixel;
+            taken.left = now.x() * twipsPerPixel;
+            taken.top = now.y() * twipsPerPixel;
         }
     }
     restsAt_ = now;
-    const bool resized = RoundPixels(taken.Width) != RoundPixels(place_.Width) ||
-                         RoundPixels(taken.Height) != RoundPixels(place_.Height);
+    const bool resized = RoundPixels(taken.width) != RoundPixels(place_.width) ||
+                         RoundPixels(taken.height) != RoundPixels(place_.height);
     place_ = taken;
     if (resized && !uncovering_)
         Resize.Fire();
 }
 
-/// The measures of an ordinary window that covers, with the frame that the desktop draws around such a one,
+/// The measures of an ordinary window that covers, with the frame that the desktop draws around it,
 /// what the maximized window covers now. A form that takes them over stands exactly on it, and when they are
 /// taken up again at the next start nothing runs off the screen.
 Twips Form::CoveredMeasures() const
@@ -269,7 +269,7 @@ Twips Form::CoveredMeasures() const
     const QWindow& window = *window_->windowHandle();
     const QRect covered = window.frameGeometry();
     const QSize inside = covered.marginsRemoved(plainFrame_.value_or(window.frameMargins())).size();
-    const int menu = design_.HasMenu ? FormWindow::menuHeight : 0;
+    const int menu = design_.hasMenu ? FormWindow::menuHeight : 0;
     return {covered.x() * twipsPerPixel, covered.y() * twipsPerPixel, inside.width() * twipsPerPixel,
             (inside.height() - menu) * twipsPerPixel + FrameTwips()};
 }

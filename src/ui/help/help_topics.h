@@ -10,9 +10,9 @@ namespace torvik {
 
 /// A topic of a help file: a heading that carries a bookmark.
 struct HelpTopic {
-    QString Anchor; ///< the bookmark's name
-    QString Title;  ///< the words of the heading
-    int Level =
+    QString anchor; ///< the bookmark's name
+    QString title;  ///< the words of the heading
+    int level =
         1; ///< 1 for a chapter, 2 for what a bookmark with a hyphen in its name ("printing-booklet") heads
 };
 

@@ -49,7 +49,7 @@ HelpViewer::HelpViewer(QTextDocument* document)
 
     connect(home_, &QPushButton::clicked, this, [this] {
         if (!topics_.empty())
-            GoTo(topics_.front().Anchor);
+            GoTo(topics_.front().anchor);
     });
     connect(back_, &QPushButton::clicked, this, [this] { StepHistory(-1); });
     connect(forward_, &QPushButton::clicked, this, [this] { StepHistory(1); });
@@ -64,7 +64,7 @@ HelpViewer::HelpViewer(QTextDocument* document)
             [this](const QTreeWidgetItem* item) { GoTo(item->data(0, anchorRole).toString()); });
 
     if (!topics_.empty())
-        GoTo(topics_.front().Anchor);
+        GoTo(topics_.front().anchor);
     contents_->setFocus();
 }
 
@@ -114,10 +114,10 @@ void HelpViewer::FillContents()
 {
     QTreeWidgetItem* chapter = nullptr;
     for (const HelpTopic& topic : topics_) {
-        const bool isInside = topic.Level > 1 && chapter != nullptr;
+        const bool isInside = topic.level > 1 && chapter != nullptr;
         auto* item = isInside ? new QTreeWidgetItem(chapter) : new QTreeWidgetItem(contents_);
-        item->setText(0, topic.Title);
-        item->setData(0, anchorRole, topic.Anchor);
+        item->setText(0, topic.title);
+        item->setData(0, anchorRole, topic.anchor);
         if (!isInside)
             chapter = item;
     }
@@ -127,7 +127,7 @@ void HelpViewer::FillContents()
 const HelpTopic* HelpViewer::TopicOf(const QString& anchor) const
 {
     const auto found = std::find_if(topics_.begin(), topics_.end(),
-                                    [&](const HelpTopic& topic) { return topic.Anchor == anchor; });
+                                    [&](const HelpTopic& topic) { return topic.anchor == anchor; });
     return found == topics_.end() ? nullptr : &*found;
 }
 
@@ -137,13 +137,13 @@ void HelpViewer::GoTo(const QString& anchor)
     if (TopicOf(anchor) == nullptr)
         return;
     if (here_ >= 0) {
-        history_[static_cast<std::size_t>(here_)].Scroll = text_->verticalScrollBar()->value();
+        history_[static_cast<std::size_t>(here_)].scroll = text_->verticalScrollBar()->value();
         history_.resize(static_cast<std::size_t>(here_) + 1);
     }
     history_.push_back({anchor});
     here_ = static_cast<int>(history_.size()) - 1;
     ShowPlace(anchor);
-    history_.back().Scroll = text_->verticalScrollBar()->value();
+    history_.back().scroll = text_->verticalScrollBar()->value();
 }
 
 void HelpViewer::StepHistory(int by)
@@ -151,11 +151,11 @@ void HelpViewer::StepHistory(int by)
     const int next = here_ + by;
     if (next < 0 || next >= static_cast<int>(history_.size()))
         return;
-    history_[static_cast<std::size_t>(here_)].Scroll = text_->verticalScrollBar()->value();
+    history_[static_cast<std::size_t>(here_)].scroll = text_->verticalScrollBar()->value();
     here_ = next;
     const Visit visit = history_[static_cast<std::size_t>(here_)];
-    ShowPlace(visit.Anchor);
-    text_->verticalScrollBar()->setValue(visit.Scroll);
+    ShowPlace(visit.anchor);
+    text_->verticalScrollBar()->setValue(visit.scroll);
 }
 
 void HelpViewer::ShowPlace(const QString& anchor)

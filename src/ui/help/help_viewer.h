@@ -35,8 +35,8 @@ protected:
 private:
     /// A place that was visited, and how far down the text was when it was left.
     struct Visit {
-        QString Anchor;
-        int Scroll = 0;
+        QString anchor;
+        int scroll = 0;
     };
 
     QPushButton* MakeButton(const QString& name, const QString& caption);

@@ -53,7 +53,7 @@ void DrawCheckBox(QPainter& painter, const QStyleOption* option)
 
 void DrawOption(QPainter& painter, const QStyleOption* option)
 {
-    constexpr int quarter = 90 * 16; // the platform's arcs count sixteenths of a degree
+    constexpr int quarter = 90 * 16; // Qt's arcs count sixteenths of a degree
     const QRectF outer = QRectF(option->rect).adjusted(1, 1, -1, -1);
     const QRectF inner = outer.adjusted(1, 1, -1, -1);
     const bool enabled = Is(option, QStyle::State_Enabled);

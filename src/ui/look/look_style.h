@@ -4,7 +4,7 @@
 
 namespace torvik {
 
-/// Draws the platform's own widgets (text boxes, lists, scroll bars, choices, menus, boxes) with the
+/// Draws Qt's own widgets (text boxes, lists, scroll bars, choices, menus, boxes) with the
 /// program's bevels, so that they stand beside its 3-D buttons and panels as one family.
 class LookStyle : public QProxyStyle {
 public:

@@ -24,8 +24,8 @@ public:
         QList<QTextLayout::FormatRange> formats;
         for (const TextRange& piece : bold) {
             QTextLayout::FormatRange range;
-            range.start = static_cast<int>(piece.Begin);
-            range.length = static_cast<int>(piece.Length);
+            range.start = static_cast<int>(piece.begin);
+            range.length = static_cast<int>(piece.length);
             range.format.setFontWeight(QFont::Bold);
             formats.append(range);
         }
@@ -88,8 +88,8 @@ void DrawRowLine(QPainter& painter, const QRectF& area, const QString& text, con
     const QString cut = text.left(whole.Fitting(std::max(room, 0.0)));
     QList<TextRange> kept;
     for (const TextRange& piece : bold) {
-        if (piece.Begin < cut.size())
-            kept.append({piece.Begin, std::min(piece.Length, cut.size() - piece.Begin)});
+        if (piece.begin < cut.size())
+            kept.append({piece.begin, std::min(piece.length, cut.size() - piece.begin)});
     }
     BoldLine(cut + ellipsis, kept, painter.font()).Draw(painter, area.topLeft());
 }

@@ -6,10 +6,10 @@ namespace torvik {
 
 std::unique_ptr<ByteSource> FileSource::Open(const Place& place)
 {
-    if (!place.On)
+    if (!place.on)
         return nullptr;
     try {
-        return std::make_unique<FileSource>(place.On->Open(place.Path));
+        return std::make_unique<FileSource>(place.on->Open(place.path));
     } catch (const RunTimeError&) {
         return nullptr;
     }

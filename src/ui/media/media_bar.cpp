@@ -26,7 +26,7 @@ class MediaBarButton : public ButtonWidget {
 public:
     MediaBarButton(QWidget* parent, MediaButton button) : ButtonWidget(parent), button_(button) {}
 
-    std::function<void(int)> Arrow; ///< an arrow key: 1 onwards, -1 back
+    std::function<void(int)> arrow; ///< an arrow key: 1 onwards, -1 back
 
 protected:
     void PaintContent(QPainter& painter, const QRectF& area) const override
@@ -39,10 +39,10 @@ protected:
         switch (event->key()) {
         case Qt::Key_Right:
         case Qt::Key_Down:
-            return Arrow(1);
+            return arrow(1);
         case Qt::Key_Left:
         case Qt::Key_Up:
-            return Arrow(-1);
+            return arrow(-1);
         default:
             ButtonWidget::keyPressEvent(event);
         }
@@ -67,9 +67,9 @@ MediaBarButton* MediaBar::MakeButton(MediaButton button)
     part->setObjectName(u"%1(%2)"_s.arg(Name(), plainName));
     part->setAccessibleName(plainName);
     part->setFocusPolicy(Qt::TabFocus);
-    part->Arrow = [this, button](int step) { MoveFocus(button, step); };
+    part->arrow = [this, button](int step) { MoveFocus(button, step); };
     part->show();
-    connect(part, &QAbstractButton::clicked, this, [this, button] { ButtonClick(button).Fire(); });
+    connect(part, &QAbstractButton::clicked, this, [this, button] { Pressed(ButtonClick(button)); });
     return part;
 }
 

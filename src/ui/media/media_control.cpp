@@ -85,7 +85,7 @@ void MediaControl::Open()
     stream_ = std::make_unique<MediaStream>([place] { return FileSource::Open(place); }, format_);
     mode_ = Mode::Stopped;
     ticks_->start();
-    Changed.Fire();
+    changed.Fire();
 }
 
 void MediaControl::Close()
@@ -99,7 +99,7 @@ void MediaControl::Close()
     position_ = length_ = shownTime_ = 0;
     if (pane_ != nullptr)
         pane_->hide();
-    Changed.Fire();
+    changed.Fire();
 }
 
 /// At the end it begins again.
@@ -112,7 +112,7 @@ void MediaControl::Play()
     mode_ = Mode::Playing;
     wantsPicture_ = false;
     ticks_->start();
-    Changed.Fire();
+    changed.Fire();
 }
 
 void MediaControl::Pause()
@@ -135,7 +135,7 @@ void MediaControl::Halt(Mode mode)
         wantsPicture_ = true;
     }
     mode_ = mode;
-    Changed.Fire();
+    changed.Fire();
 }
 
 void MediaControl::WhenReady(std::function<void()> action)
@@ -158,7 +158,7 @@ void MediaControl::GoTo(qint64 time)
     stream_->Seek(std::min(position_, std::max<qint64>(0, length_ - frameDuration_)));
     wantsPicture_ = true;
     ticks_->start();
-    Changed.Fire();
+    changed.Fire();
 }
 
 void MediaControl::Step(int pictures)
@@ -186,15 +186,15 @@ void MediaControl::Tick()
             qCDebug(logMedia, "%s can play nothing of it", qUtf8Printable(objectName()));
             ticks_->stop();
             mode_ = Mode::NotOpen;
-            Changed.Fire();
+            changed.Fire();
             return;
         }
         ready_ = true;
-        length_ = stream_->Info().Duration;
-        frameDuration_ = stream_->Info().FrameDuration;
+        length_ = stream_->Info().duration;
+        frameDuration_ = stream_->Info().frameDuration;
         if (whenReady_)
             std::exchange(whenReady_, nullptr)();
-        Changed.Fire();
+        changed.Fire();
     }
     if (mode_ == Mode::Playing)
         Advance();
@@ -202,7 +202,7 @@ void MediaControl::Tick()
         const auto picture = stream_->TakeNextPicture();
         if (picture)
             ShowPicture(*picture);
-        if (picture || stream_->AtEnd() || !stream_->Info().HasPictures)
+        if (picture || stream_->AtEnd() || !stream_->Info().hasPictures)
             wantsPicture_ = false;
     } else
         ticks_->stop();
@@ -211,7 +211,7 @@ void MediaControl::Tick()
 void MediaControl::Advance()
 {
     if (!running_) {
-        const bool waits = stream_->Info().HasPictures && !stream_->HasPicture() && !stream_->AtEnd();
+        const bool waits = stream_->Info().hasPictures && !stream_->HasPicture() && !stream_->AtEnd();
         if (waits)
             return;
         running_ = true;
@@ -225,7 +225,7 @@ void MediaControl::Advance()
         ShowPicture(*picture);
     if (stream_->AtEnd() && position_ >= stream_->EndOfRead())
         End();
-    Changed.Fire();
+    changed.Fire();
 }
 
 /// The device plays what it still holds by itself.
@@ -240,12 +240,12 @@ void MediaControl::End()
 
 void MediaControl::ShowPicture(const MediaPicture& picture)
 {
-    shownTime_ = picture.Time;
+    shownTime_ = picture.time;
     if (display_ == nullptr || deviceType_.compare(u"AVIVideo"_s, Qt::CaseInsensitive) != 0)
         return;
     if (pane_ == nullptr)
         pane_ = new VideoPane(display_->Widget());
-    pane_->ShowPicture(picture.Image);
+    pane_->ShowPicture(picture.image);
 }
 
 void MediaControl::SetDisplay(Control* where)

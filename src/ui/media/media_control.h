@@ -34,11 +34,11 @@ public:
     const QString& FileName() const { return fileName_; }
 
     /// Kept as they are set: nothing notifies, and no command waits or shares.
-    bool Notify = false;
-    bool Wait = false;
-    bool Shareable = false;
+    bool notify = false;
+    bool wait = false;
+    bool shareable = false;
 
-    /// hWndDisplay: the control that pictures are shown on, from now on also those of a movie that is open
+    /// The control that pictures are shown on, from now on also those of a movie that is open
     /// already; null for none. Pictures fill it as far as their proportions allow.
     void SetDisplay(Control* where);
 
@@ -51,7 +51,7 @@ public:
     enum class Mode { NotOpen, Stopped, Playing, Paused };
     /// A file that turned out to be nothing that can be played is NotOpen.
     Mode State() const { return mode_; }
-    /// True between "open" and "close", whatever the file holds.
+    /// For the tests: true between "open" and "close", whatever the file holds.
     bool IsOpen() const { return stream_ != nullptr; }
 
     /// Where it stands and how long the file is, in milliseconds.
@@ -61,7 +61,7 @@ public:
     void Seek(qint64 place);
 
     /// The mode, the position or the length has changed.
-    Event<> Changed;
+    Event<> changed;
 
 private:
     void Open();

@@ -16,13 +16,13 @@ enum class Shape { Box, Left, Right, Up, Disc };
 
 /// A part of a symbol; lengths are in units of the symbol's height.
 struct Mark {
-    Shape Kind;
-    double Left, Top, Width, Height;
+    Shape kind;
+    double left, top, width, height;
 };
 
 struct Symbol {
-    double Width;
-    std::span<const Mark> Marks;
+    double width;
+    std::span<const Mark> marks;
 };
 
 constexpr Mark prevMarks[] = {{Shape::Box, 0, 0, 0.2, 1}, {Shape::Left, 0.25, 0, 0.75, 1}};
@@ -73,10 +73,10 @@ QPainterPath PathOf(Shape shape, const QRectF& box)
 void DrawMarks(QPainter& painter, const QPointF& corner, double height, const Symbol& symbol,
                const QColor& colour)
 {
-    for (const Mark& mark : symbol.Marks) {
-        const QRectF box(corner.x() + mark.Left * height, corner.y() + mark.Top * height, mark.Width * height,
-                         mark.Height * height);
-        painter.fillPath(PathOf(mark.Kind, Snapped(painter, box)), colour);
+    for (const Mark& mark : symbol.marks) {
+        const QRectF box(corner.x() + mark.left * height, corner.y() + mark.top * height, mark.width * height,
+                         mark.height * height);
+        painter.fillPath(PathOf(mark.kind, Snapped(painter, box)), colour);
     }
 }
 
@@ -89,8 +89,8 @@ void DrawMediaSymbol(QPainter& painter, const QRectF& area, MediaButton button, 
     constexpr double ofWidth = 0.7;
     const Symbol& symbol = symbols[static_cast<int>(button)];
     const double height =
-        std::min({largest, area.height() * ofHeight, area.width() * ofWidth / symbol.Width});
-    const QPointF corner = area.center() - QPointF(symbol.Width * height, height) / 2;
+        std::min({largest, area.height() * ofHeight, area.width() * ofWidth / symbol.width});
+    const QPointF corner = area.center() - QPointF(symbol.width * height, height) / 2;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     if (enabled) {

@@ -35,8 +35,8 @@ MediaTrack::MediaTrack(QWidget* parent) : QSlider(Qt::Horizontal, parent)
     setPageStep(2 * second);
     setRange(0, 0);
     connect(this, &QSlider::valueChanged, this, [this](int value) {
-        if (Sought)
-            Sought(value);
+        if (sought)
+            sought(value);
     });
 }
 

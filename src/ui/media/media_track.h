@@ -12,7 +12,7 @@ class MediaTrack : public QSlider {
 public:
     explicit MediaTrack(QWidget* parent);
 
-    std::function<void(int)> Sought; ///< the user went to a place
+    std::function<void(int)> sought; ///< the user went to a place
 
     /// Shows a place of a length; does not call Sought.
     void ShowPlace(int place, int length);

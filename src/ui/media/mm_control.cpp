@@ -13,8 +13,8 @@ namespace {
 constexpr int trackHeight = 22; // pixels
 
 struct ButtonCommand {
-    MediaButton Button;
-    const char* Word;
+    MediaButton button;
+    const char* word;
 };
 
 constexpr ButtonCommand commands[] = {
@@ -26,19 +26,19 @@ constexpr ButtonCommand commands[] = {
 } // namespace
 
 MMControl::MMControl(Container& container, const QString& name, const Twips& design)
-    : MediaBar(container, name, design), Device(name), track_(new MediaTrack(&Widget()))
+    : MediaBar(container, name, design), device(name), track_(new MediaTrack(&Widget()))
 {
     SetButtonVisible(MediaButton::Record, false);
     SetButtonVisible(MediaButton::Eject, false);
     for (const ButtonCommand& command : commands) {
-        const QString word = QString::fromLatin1(command.Word);
-        ButtonClick(command.Button) = [this, word] { Device.Command(word); };
+        const QString word = QString::fromLatin1(command.word);
+        ButtonClick(command.button) = [this, word] { device.Command(word); };
     }
     track_->setObjectName(name + u"(Position)"_s);
     track_->setAccessibleName(u"Position"_s);
-    track_->Sought = [this](int place) { Device.Seek(place); };
+    track_->sought = [this](int place) { device.Seek(place); };
     track_->show();
-    Device.Changed = [this] { FollowDevice(); };
+    device.changed = [this] { FollowDevice(); };
     SetFoot(trackHeight);
     MMControl::SizeChanged();
     FollowDevice();
@@ -54,7 +54,7 @@ void MMControl::SizeChanged()
 void MMControl::FollowDevice()
 {
     using Mode = MediaControl::Mode;
-    const Mode mode = Device.State();
+    const Mode mode = device.State();
     const bool open = mode != Mode::NotOpen;
     const bool playing = mode == Mode::Playing;
     const bool paused = mode == Mode::Paused;
@@ -67,7 +67,7 @@ void MMControl::FollowDevice()
     SetButtonEnabled(MediaButton::Back, open && !playing);
     SetButtonEnabled(MediaButton::Step, open && !playing);
     track_->setEnabled(open);
-    track_->ShowPlace(static_cast<int>(Device.Position()), static_cast<int>(Device.Length()));
+    track_->ShowPlace(static_cast<int>(device.Position()), static_cast<int>(device.Length()));
 }
 
 } // namespace torvik

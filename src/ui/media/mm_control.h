@@ -15,7 +15,7 @@ public:
     MMControl(Container& container, const QString& name, const Twips& design);
 
     /// The device behind the bar.
-    MediaControl Device;
+    MediaControl device;
 
 protected:
     void SizeChanged() override;

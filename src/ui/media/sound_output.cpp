@@ -15,9 +15,9 @@ namespace {
 QAudioFormat ToQt(const SoundFormat& format)
 {
     QAudioFormat wanted;
-    wanted.setSampleRate(format.Rate);
-    wanted.setChannelCount(format.Channels);
-    wanted.setSampleFormat(format.Kind == SoundFormat::Sample::Int16 ? QAudioFormat::Int16
+    wanted.setSampleRate(format.rate);
+    wanted.setChannelCount(format.channels);
+    wanted.setSampleFormat(format.kind == SoundFormat::Sample::Int16 ? QAudioFormat::Int16
                                                                      : QAudioFormat::Float);
     return wanted;
 }
@@ -39,10 +39,10 @@ SoundFormat SoundOutput::PreferredFormat()
         return format;
     const QAudioFormat own = device.preferredFormat();
     if (own.sampleRate() > 0)
-        format.Rate = own.sampleRate();
-    format.Channels = std::clamp(own.channelCount(), 1, 2);
+        format.rate = own.sampleRate();
+    format.channels = std::clamp(own.channelCount(), 1, 2);
     if (!device.isFormatSupported(ToQt(format)))
-        format.Kind = SoundFormat::Sample::Float;
+        format.kind = SoundFormat::Sample::Float;
     return format;
 }
 

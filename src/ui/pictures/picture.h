@@ -46,7 +46,7 @@ private:
     bool sideways_ = false; // stored with width and height exchanged
 };
 
-/// Lets the platform's loader take pictures as large as Picture allows.
+/// Lets Qt's loader take pictures as large as Picture allows.
 void RaisePictureLimit();
 
 } // namespace torvik

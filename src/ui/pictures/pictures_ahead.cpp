@@ -33,25 +33,25 @@ enum class Stage {
 };
 
 struct Entry {
-    QString Path;
-    std::function<MarkedContent()> Read; ///< until it is read; it keeps an image of a disc open
-    Stage At = Stage::Waiting;
-    FileMark Mark;
-    ReadyPicture Result;
+    QString path;
+    std::function<MarkedContent()> read; ///< until it is read; it keeps an image of a disc open
+    Stage at = Stage::Waiting;
+    FileMark mark;
+    ReadyPicture result;
 
-    qint64 Bytes() const { return Result.File.Bytes() + Result.Drawn.sizeInBytes(); }
+    qint64 Bytes() const { return result.file.Bytes() + result.drawn.sizeInBytes(); }
 };
 using EntryPointer = std::shared_ptr<Entry>;
 
 /// What the user interface and the readers share; each keeps it alive. A reader that waits for a disc may
 /// outlive all else.
 struct Shared {
-    std::mutex Mutex;
-    std::condition_variable Changed;
-    bool Over = false;
-    int Decoding = 0; ///< readers that use the picture loader at this moment
-    QSize Area;
-    std::vector<EntryPointer> Entries; ///< the most urgent first
+    std::mutex mutex;
+    std::condition_variable changed;
+    bool over = false;
+    int decodingNow = 0; ///< readers that use the picture loader at this moment
+    QSize paneArea;
+    std::vector<EntryPointer> entryList; ///< the most urgent first
 
     void Work();
     EntryPointer Find(const QString& path, const QSize& area) const;
@@ -68,31 +68,31 @@ std::shared_ptr<Shared> shared; // of the application that runs; for the user-in
 /// The most urgent one is read in any case; the others where there is room for a picture of the whole area.
 EntryPointer Shared::Next() const
 {
-    const auto next = std::find_if(Entries.begin(), Entries.end(),
-                                   [](const EntryPointer& entry) { return entry->At == Stage::Waiting; });
-    if (next == Entries.end())
+    const auto next = std::find_if(entryList.begin(), entryList.end(),
+                                   [](const EntryPointer& entry) { return entry->at == Stage::Waiting; });
+    if (next == entryList.end())
         return nullptr;
     constexpr qint64 bytesPerPixel = 4;
-    const qint64 picture = qint64{Area.width()} * Area.height() * bytesPerPixel;
-    return next == Entries.begin() || Bytes() + picture <= mostBytesAhead ? *next : nullptr;
+    const qint64 picture = qint64{paneArea.width()} * paneArea.height() * bytesPerPixel;
+    return next == entryList.begin() || Bytes() + picture <= mostBytesAhead ? *next : nullptr;
 }
 
 bool Shared::IsWanted(const EntryPointer& entry) const
 {
-    return !Over && std::find(Entries.begin(), Entries.end(), entry) != Entries.end();
+    return !over && std::find(entryList.begin(), entryList.end(), entry) != entryList.end();
 }
 
 EntryPointer Shared::Find(const QString& path, const QSize& area) const
 {
-    const auto found = std::find_if(Entries.begin(), Entries.end(),
-                                    [&](const EntryPointer& entry) { return entry->Path == path; });
-    return found == Entries.end() || Area != area ? nullptr : *found;
+    const auto found = std::find_if(entryList.begin(), entryList.end(),
+                                    [&](const EntryPointer& entry) { return entry->path == path; });
+    return found == entryList.end() || paneArea != area ? nullptr : *found;
 }
 
 qint64 Shared::Bytes() const
 {
     qint64 bytes = 0;
-    for (const EntryPointer& entry : Entries)
+    for (const EntryPointer& entry : entryList)
         bytes += entry->Bytes();
     return bytes;
 }
@@ -100,13 +100,13 @@ qint64 Shared::Bytes() const
 /// The less urgent ones give way to the more urgent ones.
 void Shared::Keep(const EntryPointer& entry, ReadyPicture result)
 {
-    entry->Result = std::move(result);
-    entry->At = Stage::Ready;
-    for (auto last = Entries.rbegin(); last != Entries.rend() && Bytes() > mostBytesAhead; ++last) {
-        if ((*last)->At != Stage::Ready)
+    entry->result = std::move(result);
+    entry->at = Stage::Ready;
+    for (auto last = entryList.rbegin(); last != entryList.rend() && Bytes() > mostBytesAhead; ++last) {
+        if ((*last)->at != Stage::Ready)
             continue;
-        (*last)->At = Stage::Left;
-        (*last)->Result = {};
+        (*last)->at = Stage::Left;
+        (*last)->result = {};
     }
 }
 
@@ -126,10 +126,10 @@ std::optional<ReadyPicture> PictureIn(QByteArray bytes, const QString& path, con
 {
     try {
         ReadyPicture picture{Picture::FromFile(std::move(bytes), path), {}};
-        const QSize size = picture.File.NaturalSize();
+        const QSize size = picture.file.NaturalSize();
         if (qint64{size.width()} * size.height() > mostPixelsAhead)
             return std::nullopt;
-        picture.Drawn = picture.File.Fitted(area);
+        picture.drawn = picture.file.Fitted(area);
         return picture;
     } catch (const RunTimeError&) {
         return std::nullopt;
@@ -141,15 +141,15 @@ std::optional<ReadyPicture> PictureIn(QByteArray bytes, const QString& path, con
 /// The whole life of a reader.
 void Shared::Work()
 {
-    std::unique_lock lock(Mutex);
+    std::unique_lock lock(mutex);
     for (;;) {
-        Changed.wait(lock, [this] { return Over || Next() != nullptr; });
-        if (Over)
+        changed.wait(lock, [this] { return over || Next() != nullptr; });
+        if (over)
             return;
         const EntryPointer entry = Next();
-        entry->At = Stage::Reading;
-        const QSize area = Area;
-        auto read = std::exchange(entry->Read, nullptr);
+        entry->at = Stage::Reading;
+        const QSize area = paneArea;
+        auto read = std::exchange(entry->read, nullptr);
         lock.unlock();
         std::optional<MarkedContent> content = WhatIsRead(read);
         read = nullptr;
@@ -157,19 +157,19 @@ void Shared::Work()
         if (!IsWanted(entry))
             continue;
         std::optional<ReadyPicture> picture;
-        if (content && content->Bytes.size() < mostBytesAhead) {
-            entry->Mark = content->Mark;
-            entry->At = Stage::Decoding;
-            ++Decoding;
+        if (content && content->bytes.size() < mostBytesAhead) {
+            entry->mark = content->mark;
+            entry->at = Stage::Decoding;
+            ++decodingNow;
             lock.unlock();
-            picture = PictureIn(std::move(content->Bytes), entry->Path, area);
+            picture = PictureIn(std::move(content->bytes), entry->path, area);
             lock.lock();
-            --Decoding;
+            --decodingNow;
         }
-        entry->At = Stage::Bad;
+        entry->at = Stage::Bad;
         if (picture && IsWanted(entry))
             Keep(entry, *std::exchange(picture, std::nullopt));
-        Changed.notify_all();
+        changed.notify_all();
     }
 }
 
@@ -178,11 +178,11 @@ void Shared::Work()
 void EndReaders()
 {
     const std::shared_ptr<Shared> last = std::exchange(shared, nullptr);
-    std::unique_lock lock(last->Mutex);
-    last->Over = true;
-    last->Entries.clear();
-    last->Changed.notify_all();
-    last->Changed.wait(lock, [&] { return last->Decoding == 0; });
+    std::unique_lock lock(last->mutex);
+    last->over = true;
+    last->entryList.clear();
+    last->changed.notify_all();
+    last->changed.wait(lock, [&] { return last->decodingNow == 0; });
 }
 
 void StartReaders()
@@ -197,8 +197,8 @@ void StartReaders()
 EntryPointer Waiting(const QString& path)
 {
     auto entry = std::make_shared<Entry>();
-    entry->Path = path;
-    const int error = ResumeNext([&] { entry->Read = FileToFindAndRead(path); });
+    entry->path = path;
+    const int error = ResumeNext([&] { entry->read = FileToFindAndRead(path); });
     return error == 0 ? entry : nullptr;
 }
 
@@ -208,7 +208,7 @@ void ReadPicturesAhead(const QStringList& paths, const QString& kept, const QSiz
 {
     if (!shared)
         StartReaders();
-    const std::lock_guard lock(shared->Mutex);
+    const std::lock_guard lock(shared->mutex);
     std::vector<EntryPointer> entries;
     const auto add = [&](const EntryPointer& entry) {
         if (entry != nullptr)
@@ -216,28 +216,28 @@ void ReadPicturesAhead(const QStringList& paths, const QString& kept, const QSiz
     };
     for (const QString& path : paths) {
         const EntryPointer known = shared->Find(path, area);
-        add(known != nullptr && known->At != Stage::Left ? known : Waiting(path));
+        add(known != nullptr && known->at != Stage::Left ? known : Waiting(path));
     }
     if (!paths.contains(kept))
         add(shared->Find(kept, area));
-    shared->Entries = std::move(entries);
-    shared->Area = area;
-    shared->Changed.notify_all();
+    shared->entryList = std::move(entries);
+    shared->paneArea = area;
+    shared->changed.notify_all();
 }
 
 std::optional<ReadyPicture> PictureReadAhead(const QString& path, const QSize& area)
 {
     if (!shared)
         return std::nullopt;
-    std::unique_lock lock(shared->Mutex);
+    std::unique_lock lock(shared->mutex);
     const EntryPointer entry = shared->Find(path, area);
     if (entry == nullptr)
         return std::nullopt;
-    shared->Changed.wait(lock, [&] { return entry->At != Stage::Decoding; });
-    if (entry->At != Stage::Ready)
+    shared->changed.wait(lock, [&] { return entry->at != Stage::Decoding; });
+    if (entry->at != Stage::Ready)
         return std::nullopt;
-    const ReadyPicture result = entry->Result;
-    const FileMark mark = entry->Mark;
+    const ReadyPicture result = entry->result;
+    const FileMark mark = entry->mark;
     lock.unlock();
 
     bool isSame = false;
@@ -245,7 +245,7 @@ std::optional<ReadyPicture> PictureReadAhead(const QString& path, const QSize& a
     if (isSame)
         return result;
     lock.lock();
-    std::erase(shared->Entries, entry);
+    std::erase(shared->entryList, entry);
     return std::nullopt;
 }
 
@@ -253,16 +253,16 @@ bool IsReadAhead(const QString& path, const QSize& area)
 {
     if (!shared)
         return false;
-    const std::lock_guard lock(shared->Mutex);
+    const std::lock_guard lock(shared->mutex);
     const EntryPointer entry = shared->Find(path, area);
-    return entry != nullptr && entry->At == Stage::Ready;
+    return entry != nullptr && entry->at == Stage::Ready;
 }
 
 qint64 BytesReadAhead()
 {
     if (!shared)
         return 0;
-    const std::lock_guard lock(shared->Mutex);
+    const std::lock_guard lock(shared->mutex);
     return shared->Bytes();
 }
 
@@ -270,8 +270,8 @@ void ForgetPicturesAhead()
 {
     if (!shared)
         return;
-    const std::lock_guard lock(shared->Mutex);
-    shared->Entries.clear();
+    const std::lock_guard lock(shared->mutex);
+    shared->entryList.clear();
 }
 
 } // namespace torvik

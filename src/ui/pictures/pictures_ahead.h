@@ -17,8 +17,8 @@ namespace torvik {
 
 /// A picture and how it looks, as large as fits into the area that was told.
 struct ReadyPicture {
-    Picture File;
-    QImage Drawn;
+    Picture file;
+    QImage drawn;
 };
 
 /// Has files of the disc read ahead, the first first, each to fit into `area` pixels. All that was read ahead

@@ -13,9 +13,9 @@ inline constexpr int showPrinter = 5; ///< as the action: the printer dialog
 
 /// What a common dialog is at design.
 struct CommonDialogDesign {
-    QString DefaultExt;
-    QString DialogTitle;
-    QString Filter;
+    QString defaultExt;
+    QString dialogTitle;
+    QString filter;
 };
 
 /// A control that nobody sees and that shows the dialogs of the system.
@@ -23,9 +23,9 @@ class CommonDialog : public QObject {
 public:
     explicit CommonDialog(const QString& name, CommonDialogDesign design = {});
 
-    const QString& DefaultExt() const { return design_.DefaultExt; }
-    const QString& DialogTitle() const { return design_.DialogTitle; }
-    const QString& Filter() const { return design_.Filter; }
+    const QString& DefaultExt() const { return design_.defaultExt; }
+    const QString& DialogTitle() const { return design_.dialogTitle; }
+    const QString& Filter() const { return design_.filter; }
 
     int Flags() const { return flags_; }
     void SetFlags(int flags) { flags_ = flags; }
@@ -38,7 +38,7 @@ public:
     void SetHelpFile(const QString& path) { helpFile_ = path; }
     int HelpCommand() const { return helpCommand_; }
     void SetHelpCommand(int command) { helpCommand_ = command; }
-    /// Gives the help system its command (ui/win_help.h) with the help file.
+    /// Gives the help system its command (ui/help/help_system.h) with the help file.
     void ShowHelp() const;
 
 private:

@@ -29,7 +29,7 @@ QFont LineFont()
 } // namespace
 
 PrintJob::PrintJob(const PrinterSetup& setup)
-    : device_(QPrinterInfo::printerInfo(setup.Name), QPrinter::HighResolution)
+    : device_(QPrinterInfo::printerInfo(setup.name), QPrinter::HighResolution)
 {
     TakePaper(setup);
 }
@@ -55,8 +55,8 @@ PrintJob::~PrintJob()
 
 void PrintJob::TakePaper(const PrinterSetup& setup)
 {
-    device_.setPageSize(setup.Paper);
-    device_.setPageOrientation(setup.Orientation);
+    device_.setPageSize(setup.paper);
+    device_.setPageOrientation(setup.orientation);
 }
 
 bool PrintJob::Begin()

@@ -64,13 +64,13 @@ PrinterSetup PrinterObject::Setup() const
 {
     PrinterSetup setup = chosen_.value_or(PrinterSetup());
     if (!folder_.isEmpty())
-        setup.Name.clear();
+        setup.name.clear();
     else if (!chosen_)
-        setup.Name = QPrinterInfo::defaultPrinterName();
-    if (!setup.Paper.isValid() && !setup.Name.isEmpty())
-        setup.Paper = QPrinterInfo::printerInfo(setup.Name).defaultPageSize();
-    if (!setup.Paper.isValid())
-        setup.Paper = UsualPaper();
+        setup.name = QPrinterInfo::defaultPrinterName();
+    if (!setup.paper.isValid() && !setup.name.isEmpty())
+        setup.paper = QPrinterInfo::printerInfo(setup.name).defaultPageSize();
+    if (!setup.paper.isValid())
+        setup.paper = UsualPaper();
     return setup;
 }
 
@@ -87,15 +87,15 @@ QList<PrinterOption> PrinterObject::Choices() const
 std::unique_ptr<PrintJob> PrinterObject::MakeJob() const
 {
     const PrinterSetup setup = Setup();
-    if (setup.Name.isEmpty()) {
+    if (setup.name.isEmpty()) {
         const QString file = NextJobFile(FileFolder());
         qCDebug(logPrint, "a job goes to the file %s", qUtf8Printable(file));
         return std::make_unique<PrintJob>(setup, file);
     }
-    const bool isThere = !QPrinterInfo::printerInfo(setup.Name).isNull();
-    qCDebug(logPrint, "a job is for the printer %s%s", qUtf8Printable(setup.Name),
+    const bool isThere = !QPrinterInfo::printerInfo(setup.name).isNull();
+    qCDebug(logPrint, "a job is for the printer %s%s", qUtf8Printable(setup.name),
             isThere ? "" : ", which is not there");
-    if (!isThere || !TakesJobs(setup.Name))
+    if (!isThere || !TakesJobs(setup.name))
         Fail(failure::printerError);
     return std::make_unique<PrintJob>(setup);
 }

@@ -49,6 +49,7 @@ public:
     void NewPage();
     /// Sends the job off. Nothing happens when there is none.
     void EndDoc();
+    /// For the tests: whether a job was begun that EndDoc has not sent off.
     bool HasJob() const { return job_ != nullptr; }
 
     /// The paper in twips.

@@ -60,7 +60,7 @@ public:
 
     PrinterSetup Chosen() const
     {
-        return {Option().Name, Paper(),
+        return {Option().name, Paper(),
                 landscape_.isChecked() ? QPageLayout::Landscape : QPageLayout::Portrait};
     }
 
@@ -83,19 +83,19 @@ private:
     void Present(const PrinterSetup& present)
     {
         for (const PrinterOption& option : choices_)
-            printer_.addItem(option.Title);
+            printer_.addItem(option.title);
         for (qsizetype index = 0; index < choices_.size(); ++index) {
-            if (choices_.at(index).Name == present.Name)
+            if (choices_.at(index).name == present.name)
                 printer_.setCurrentIndex(static_cast<int>(index));
         }
-        ListPapers(present.Paper);
-        (present.Orientation == QPageLayout::Landscape ? landscape_ : portrait_).setChecked(true);
+        ListPapers(present.paper);
+        (present.orientation == QPageLayout::Landscape ? landscape_ : portrait_).setChecked(true);
     }
 
     /// A paper that another printer has as well stays chosen.
     void ListPapers(const QPageSize& wanted)
     {
-        papers_ = Option().Papers;
+        papers_ = Option().papers;
         paper_.clear();
         for (const QPageSize& paper : papers_)
             paper_.addItem(paper.name());

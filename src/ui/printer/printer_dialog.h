@@ -11,9 +11,9 @@ namespace torvik {
 
 /// Something that jobs can go to.
 struct PrinterOption {
-    QString Name;            ///< as in PrinterSetup
-    QString Title;           ///< what the user reads
-    QList<QPageSize> Papers; ///< never empty
+    QString name;            ///< as in PrinterSetup
+    QString title;           ///< what the user reads
+    QList<QPageSize> papers; ///< never empty
 };
 
 /// Shows the modal dialog that chooses printer, paper and orientation, with `present` chosen at first.

@@ -8,9 +8,9 @@ namespace torvik {
 
 /// Where print jobs go, and on what paper.
 struct PrinterSetup {
-    QString Name;    ///< of one of the system's printers; empty where jobs become files
-    QPageSize Paper; ///< not valid for the printer's own
-    QPageLayout::Orientation Orientation = QPageLayout::Portrait;
+    QString name;    ///< of one of the system's printers; empty where jobs become files
+    QPageSize paper; ///< not valid for the printer's own
+    QPageLayout::Orientation orientation = QPageLayout::Portrait;
 
     friend bool operator==(const PrinterSetup&, const PrinterSetup&) = default;
 };

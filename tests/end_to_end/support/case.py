@@ -27,10 +27,10 @@ class ProgramTest(unittest.TestCase):
         self.addCleanup(screen.__exit__)
         return screen
 
-    def start(self, screen, *arguments, scale=1, folder=None):
+    def start(self, screen, *arguments, scale=1, folder=None, complaints=None):
         """The program on a screen, for the one user of the test."""
         program = Program(screen, self.folder / "home", "--program-folder", self.program_folder, *arguments,
-                          scale=scale, folder=folder)
+                          scale=scale, folder=folder, complaints=complaints)
         self.addCleanup(program.__exit__)
         return program
 

@@ -35,6 +35,8 @@ class DesktopCase(ProgramTest):
             self.check_slide_show_over_maximized_window()
         if (width, height) == (800, 600) and manager.covers_screen:
             self.check_hidden_task_bar()
+            self.check_full_screen_ended_by_desktop()
+            self.check_full_screen_ended_by_desktop("add,maximized_vert,maximized_horz")
         self.check_saved_place()
 
     def write_article(self):
@@ -47,7 +49,7 @@ class DesktopCase(ProgramTest):
         folder = os.environ.get("TORVIK_DESKTOP_PICTURES")
         if folder:
             Path(folder).mkdir(parents=True, exist_ok=True)
-            self.screen.save_picture(Path(folder) / f"{name}.png")
+            self.screen.save_still_picture(Path(folder) / f"{name}.png")
 
     def window(self, title):
         return wait_until(lambda: self.screen.find_window(f"^{title}$"), f"a window {title!r}")
@@ -69,7 +71,7 @@ class DesktopCase(ProgramTest):
             self.assertLessEqual(abs(a - b), tolerance, f"{what}: {one}, not {other}")
 
     def assert_above(self, upper, lower):
-        if self.screen.stack():
+        if self.manager.command:
             wait_until(lambda: self.screen.stack().index(upper) > self.screen.stack().index(lower),
                        "the window to be in front")
 
@@ -134,6 +136,7 @@ class DesktopCase(ProgramTest):
     def assert_show_on_main_window(self):
         """Some managers draw a narrower frame around a window that the user cannot size."""
         show = self.open_show()
+        self.assertTrue(self.screen.has_icon(show))
         places = lambda: [(area.left, area.top, *self.screen.size_of(window)) for window in (show, self.main)
                           for area in [self.frame(window)]]
         wait_until(lambda: places()[0] == places()[1], lambda: f"the show on the main window: {places()}")
@@ -150,21 +153,45 @@ class DesktopCase(ProgramTest):
         at_once = MAXIMIZED <= self.screen.states_of(self.main)  # because it fills the screen
         self.screen.change_state(self.main, "add,maximized_vert,maximized_horz")
         wait_until(lambda: MAXIMIZED <= self.screen.states_of(self.main), "the maximized window")
-        wait_until(lambda: self.frame(self.main) == self.screen.work_area(),
-                   lambda: f"{self.screen.work_area()}; it is {self.frame(self.main)}")
+        area = self.screen.work_area() if self.manager.divides_screen else self.screen.whole
+        wait_until(lambda: self.frame(self.main) == area, lambda: f"{area}; it is {self.frame(self.main)}")
         self.assert_show_on_main_window()
         if at_once:
             return
         self.screen.change_state(self.main, "remove,maximized_vert,maximized_horz")
         wait_until(lambda: not MAXIMIZED & self.screen.states_of(self.main), "the ordinary window")
 
-    def check_hidden_task_bar(self):
+    def hide_task_bar(self):
         self.program.click("HideStatusBar", role="menu item")
         wait_until(lambda: "FULLSCREEN" in self.screen.states_of(self.main), "the window on the whole screen")
         wait_until(lambda: self.frame(self.main) == self.screen.monitor, "the whole screen")
+
+    def check_hidden_task_bar(self):
+        self.hide_task_bar()
         self.program.click("ShowStatusBar", role="menu item")
         wait_until(lambda: "FULLSCREEN" not in self.screen.states_of(self.main), "the window in its frame")
         self.program.wait_for("HideStatusBar", role="menu item")
+
+    def check_full_screen_ended_by_desktop(self, *changes_before):
+        """The entry keeps its caption until the window gets another size."""
+        for change in changes_before:
+            self.screen.change_state(self.main, change)
+            wait_until(lambda: MAXIMIZED <= self.screen.states_of(self.main), "the maximized window")
+        self.hide_task_bar()
+        self.program.wait_for("ShowStatusBar", role="menu item")
+        self.screen.change_state(self.main, "remove,fullscreen")
+        wait_until(lambda: "FULLSCREEN" not in self.screen.states_of(self.main), "the window in its frame")
+        self.assertIsNotNone(self.program.find("ShowStatusBar", role="menu item"))
+        self.screen.change_state(self.main, "remove,maximized_vert,maximized_horz")
+        wait_until(lambda: not MAXIMIZED & self.screen.states_of(self.main), "the ordinary window")
+        before = self.screen.size_of(self.main)
+        self.size_main_window((before[0] - 16, 500))
+        self.program.wait_for("HideStatusBar", role="menu item")
+        self.size_main_window(before)
+
+    def size_main_window(self, size):
+        self.screen.size_window(self.main, *size)
+        wait_until(lambda: self.screen.size_of(self.main) == size, lambda: f"{size}; it is {self.screen.size_of(self.main)}")
 
     def check_saved_place(self):
         if self.fits:

@@ -1,6 +1,7 @@
 """The real program on a virtual screen, used as a person uses it."""
 
 import os
+import re
 import signal
 import subprocess
 from contextlib import contextmanager
@@ -39,8 +40,9 @@ class View:
 class Program:
     """One run of the program. A home is a folder of the caller's: runs that share it are runs of one user."""
 
-    def __init__(self, screen, home, *arguments, scale=1, folder=None):
-        """`folder` is the program's current directory, that of the caller unless given."""
+    def __init__(self, screen, home, *arguments, scale=1, folder=None, complaints=None):
+        """`folder` is the program's current directory, that of the caller unless given; `complaints` an open file for
+        what it says on standard error."""
         self.screen = screen
         self.home = home
         self._scale = scale
@@ -51,7 +53,7 @@ class Program:
             surroundings["QT_SCALE_FACTOR"] = str(scale)
         self._process = subprocess.Popen(
             ["setpriv", "--pdeathsig", "KILL", str(executable()), *map(str, arguments)],
-            env=surroundings, stdin=subprocess.DEVNULL, cwd=folder)
+            env=surroundings, stdin=subprocess.DEVNULL, stderr=complaints, cwd=folder)
 
     def __enter__(self):
         return self
@@ -63,6 +65,15 @@ class Program:
     @property
     def process(self):
         return self._process.pid
+
+    def exit_code(self):
+        """None while it runs."""
+        return self._process.poll()
+
+    def memory(self):
+        """What it has of the machine's memory, in MiB."""
+        status = Path(f"/proc/{self.process}/status").read_text("ascii")
+        return int(re.search(r"VmRSS:\s+(\d+) kB", status)[1]) / 1024
 
     # What is on show
 

@@ -3,6 +3,7 @@
 import os
 import re
 import subprocess
+import time
 from dataclasses import dataclass
 
 from support.managers import NONE, OPENBOX
@@ -43,6 +44,7 @@ class Screen:
         """A window manager runs on it, openbox unless told otherwise, or none. The monitors stand side by side
         and are equally wide."""
         self.width, self.height = width, height
+        self.whole = Area(0, 0, width, height)
         self.monitor = Area(0, 0, width // monitors, height)
         self.manager = manager or (OPENBOX if managed else NONE)
         reading, writing = os.pipe()
@@ -90,6 +92,11 @@ class Screen:
     def _run(self, *command):
         return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, text=True,
                               capture_output=True, check=True).stdout
+
+    def _try(self, *command):
+        """A command whose window may be gone by now; what it says."""
+        return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, text=True,
+                              capture_output=True, check=False).stdout
 
     def press_mouse(self, x, y, button=1):
         self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", str(button))
@@ -172,12 +179,38 @@ class Screen:
 
     def stack(self):
         """The windows from the lowest to the highest, as far as there is a manager to tell."""
-        return [str(int(window, 16)) for window in
-                re.findall(r"0x[0-9a-f]+", self._property(None, "_NET_CLIENT_LIST_STACKING"))]
+        answer = self._run("xprop", "-notype", "-root", "_NET_CLIENT_LIST_STACKING")
+        return [str(int(window, 16)) for window in re.findall(r"0x[0-9a-f]+", answer)]
 
     def change_state(self, window, change):
         """Has the manager change the state of a window: "add,maximized_vert,maximized_horz"."""
         self._run("wmctrl", "-i", "-r", hex(int(window)), "-b", change)
+
+    def active_title(self):
+        """The title of the window that has the keyboard; empty when none has it."""
+        return self._try("xdotool", "getactivewindow", "getwindowname").rstrip("\n")
+
+    def change_active_window(self, change, area):
+        """Does what a person does to the window that has the keyboard: "maximize" (or back), "minimize", "move", "size"."""
+        commands = {"maximize": ("wmctrl", "-r", ":ACTIVE:", "-b", "toggle,maximized_vert,maximized_horz"),
+                    "minimize": ("xdotool", "getactivewindow", "windowminimize"),
+                    "move": ("xdotool", "getactivewindow", "windowmove", "--", str(area.left), str(area.top)),
+                    "size": ("xdotool", "getactivewindow", "windowsize", str(area.width), str(area.height))}
+        self._try(*commands[change])
+
+    def raise_window(self, title):
+        """Brings a window to the front, a minimized one as well, and gives it the keyboard."""
+        self._try("wmctrl", "-F", "-a", title)
+
+    def put_window_back(self, title, width, height):
+        """An ordinary window in the corner of the screen again, whatever was done to it."""
+        self._try("wmctrl", "-F", "-r", title, "-b", "remove,maximized_vert,maximized_horz")
+        self._try("wmctrl", "-F", "-r", title, "-e", f"0,0,0,{width},{height}")
+        self.raise_window(title)
+
+    def close_window(self, title):
+        """Asks a window to close, as the button in its frame does."""
+        self._try("wmctrl", "-F", "-c", title)
 
     def title_of(self, window):
         return self._run("xdotool", "getwindowname", window).rstrip("\n")
@@ -208,3 +241,12 @@ class Screen:
 
     def save_picture(self, file):
         self._run("import", "-silent", "-window", "root", str(file))
+
+    def save_still_picture(self, file):
+        """When nothing moves any more: some managers let a window come in slowly."""
+        def is_still():
+            before = self.pixels(0, 0, self.width, self.height)
+            time.sleep(0.5)
+            self.save_picture(file)
+            return self.pixels(0, 0, self.width, self.height) == before
+        wait_until(is_still, "a picture in which nothing moves")

@@ -18,12 +18,12 @@ private Q_SLOTS:
         const DiscFolder disc;
         const DiskClusters clusters = DiskClustersOf(u"E:\\"_s);
         const QStorageInfo expected(disc.Path());
-        const qint64 clusterSize = clusters.SectorsPerCluster * clusters.BytesPerSector;
-        QCOMPARE(clusters.BytesPerSector, 512);
+        const qint64 clusterSize = clusters.sectorsPerCluster * clusters.bytesPerSector;
+        QCOMPARE(clusters.bytesPerSector, 512);
         QVERIFY(clusterSize >= 512);
-        QCOMPARE(clusters.Total * clusterSize, expected.bytesTotal());
-        QVERIFY(clusters.Free > 0);
-        QVERIFY(clusters.Free < clusters.Total);
+        QCOMPARE(clusters.total * clusterSize, expected.bytesTotal());
+        QVERIFY(clusters.free > 0);
+        QVERIFY(clusters.free < clusters.total);
     }
 
     void a_folder_that_is_missing_is_told()
@@ -36,9 +36,9 @@ private Q_SLOTS:
     void a_test_measures_in_place_of_the_machine()
     {
         SetDiskMeter([](const QString& folder) { return DiskClusters{8, 512, folder.size(), 100}; });
-        QCOMPARE(DiskClustersOf(u"C:\\abc"_s).Free, 6);
+        QCOMPARE(DiskClustersOf(u"C:\\abc"_s).free, 6);
         SetDiskMeter({});
-        QVERIFY(DiskClustersOf(u"C:\\"_s).Total > 100);
+        QVERIFY(DiskClustersOf(u"C:\\"_s).total > 100);
     }
 
     void the_current_folder_is_a_path_of_drive_c()

@@ -38,7 +38,7 @@ QList<qint64> BeginningsOf(const ImageDrive& drive, const QString& name)
 {
     QList<qint64> beginnings;
     for (const ImageTrack& track : TracksOf(drive.PathOf(name).toStdString()))
-        beginnings.append(track.FirstByte);
+        beginnings.append(track.firstByte);
     return beginnings;
 }
 
@@ -79,10 +79,10 @@ private Q_SLOTS:
         QVERIFY(IsRead(drive, u"bare.cue"_s));
     }
 
-    void the_data_track_is_found_behind_others()
+    void the_data_track_is_found_after_others()
     {
         const ImageDrive drive;
-        const QByteArray audio(2352 * 150, 'a');
+        const QByteArray audio(2352LL * 150, 'a');
         QVERIFY(drive.Write(u"disc.bin"_s, audio + DiscWithFile()));
         QVERIFY(drive.Write(u"disc.cue"_s, "REM a remark\n"
                                            "CATALOG 0000000000000\n"
@@ -92,7 +92,7 @@ private Q_SLOTS:
                                            "  TRACK 02 MODE1/2048\n"
                                            "    INDEX 00 00:01:00\n"
                                            "    INDEX 01 00:02:00\n"));
-        QCOMPARE(BeginningsOf(drive, u"disc.cue"_s), QList<qint64>{2352 * 150});
+        QCOMPARE(BeginningsOf(drive, u"disc.cue"_s), QList<qint64>{2352LL * 150});
         QVERIFY(IsRead(drive, u"disc.cue"_s));
     }
 
@@ -114,7 +114,7 @@ private Q_SLOTS:
 
     void an_nrg_of_each_kind_is_read()
     {
-        const QByteArray pause(150 * 2048, '\0');
+        const QByteArray pause(150LL * 2048, '\0');
         const QByteArray iso = DiscWithFile();
         const QByteArray entry32 = ImageMaker::Big(0, 4) + ImageMaker::Big(1, 4) + QByteArray(12, '\0');
         const QByteArray entry64 = ImageMaker::Big(0, 8) + ImageMaker::Big(1, 8) + QByteArray(16, '\0');

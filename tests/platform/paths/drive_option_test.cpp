@@ -4,7 +4,7 @@
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
-/// What stands behind --drive.
+/// The value of --drive.
 class DriveOptionTest : public QObject {
     Q_OBJECT
 
@@ -24,8 +24,8 @@ private Q_SLOTS:
         QFETCH(QString, text);
         const auto drive = ReadDriveOption(text);
         QVERIFY(drive.has_value());
-        QTEST(drive->Letter, "letter");
-        QTEST(drive->Folder, "folder");
+        QTEST(drive->letter, "letter");
+        QTEST(drive->folder, "folder");
     }
 
     void anything_else_is_refused_with_the_text_in_the_complaint()

@@ -106,10 +106,8 @@ private Q_SLOTS:
 
     void a_name_that_was_turned_to_capitals_folds_to_the_same()
     {
-        for (const char* name : {"straße.jpg", "ÿ.jpg", "ŉ.jpg", "ﬁn.jpg", "ıi.jpg",
-                                 "a\xFF"
-                                 "b.jpg",
-                                 "a\\b.jpg"}) {
+        for (const char* name :
+             {"straße.jpg", "ÿ.jpg", "ŉ.jpg", "ﬁn.jpg", "ıi.jpg", "a\xFFz.jpg", "a\\b.jpg"}) {
             const QString capitals = NameFromHost(name).toUpper();
             QVERIFY2(FoldedName(NameToHost(capitals)) == FoldedName(name), name);
         }

@@ -18,18 +18,18 @@ private Q_SLOTS:
         for (const char* name : {"a.jpg", "A.JPG", "b.jpg", "c.rtf"})
             QVERIFY(disc.File(std::string("Torviks/") + name));
         MatchingNames matching = NamesMatching(u"E:\\TORVIKS\\*.Jpg"_s);
-        QCOMPARE(matching.Folder.Path, std::string("/Torviks"));
-        std::sort(matching.Names.begin(), matching.Names.end());
-        QCOMPARE(matching.Names, (std::vector<std::string>{"A.JPG", "a.jpg", "b.jpg"}));
+        QCOMPARE(matching.folder.path, std::string("/Torviks"));
+        std::sort(matching.names.begin(), matching.names.end());
+        QCOMPARE(matching.names, (std::vector<std::string>{"A.JPG", "a.jpg", "b.jpg"}));
     }
 
     void a_missing_folder_has_none()
     {
         const DiscFolder disc;
-        QVERIFY(NamesMatching(u"E:\\none\\*.jpg"_s).Names.empty());
+        QVERIFY(NamesMatching(u"E:\\none\\*.jpg"_s).names.empty());
     }
 
-    void the_name_begins_behind_the_last_backslash_or_slash()
+    void the_name_begins_after_the_last_backslash_or_slash()
     {
         QCOMPARE(BeginOfName(u"E:\\a\\b.jpg"_s), 5);
         QCOMPARE(BeginOfName(u"E:\\a/b.jpg"_s), 5);

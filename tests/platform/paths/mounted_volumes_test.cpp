@@ -39,11 +39,11 @@ private Q_SLOTS:
     {
         const QList<MountedVolume> volumes = MountedVolumes();
         const auto root = std::find_if(volumes.begin(), volumes.end(), [](const MountedVolume& volume) {
-            return volume.MountPoint == u"/"_s;
+            return volume.mountPoint == u"/"_s;
         });
         QVERIFY(root != volumes.end());
-        QCOMPARE(root->FileSystem, QStorageInfo::root().fileSystemType());
-        QCOMPARE(root->Device, QStorageInfo::root().device());
+        QCOMPARE(root->fileSystem, QStorageInfo::root().fileSystemType());
+        QCOMPARE(root->device, QStorageInfo::root().device());
     }
 
     void a_list_that_comes_in_time_is_given()
@@ -51,8 +51,8 @@ private Q_SLOTS:
         const auto volumes = ReadInTime(ReadAtOnce, 30s);
         QVERIFY(volumes.has_value());
         QCOMPARE(volumes->size(), 2);
-        QCOMPARE(volumes->first().MountPoint, u"/media/disc"_s);
-        QCOMPARE(volumes->last().Device, QByteArray("/dev/sdb1"));
+        QCOMPARE(volumes->first().mountPoint, u"/media/disc"_s);
+        QCOMPARE(volumes->last().device, QByteArray("/dev/sdb1"));
     }
 
     void a_volume_that_does_not_answer_is_not_waited_for_and_not_asked_twice()
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QVERIFY(answered.tryAcquire(1, 30'000));
         const auto volumes = ReadInTime(ReadAtOnce, 30s);
         QVERIFY(volumes.has_value());
-        QCOMPARE(volumes->first().MountPoint, u"/media/disc"_s); // not what came too late
+        QCOMPARE(volumes->first().mountPoint, u"/media/disc"_s); // not what came too late
     }
 };
 

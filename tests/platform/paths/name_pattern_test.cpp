@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(NamePattern(pattern).Matches(name.toStdString()), matches);
     }
 
-    void many_stars_take_no_time_beyond_measure()
+    void many_stars_do_not_slow_a_match()
     {
         const QString pattern = u"*a"_s.repeated(120) + u"*b"_s;
         QVERIFY(!NamePattern(pattern).Matches(std::string(255, 'a')));

@@ -19,7 +19,7 @@ private Q_SLOTS:
         QCOMPARE(qgetenv("TORVIK_TEST_VARIABLE"), QByteArray("two"));
     }
 
-    void a_held_variable_is_as_before_behind_the_scope()
+    void a_held_variable_is_as_before_after_the_scope()
     {
         {
             const HeldVariable held("TORVIK_TEST_VARIABLE", "held");

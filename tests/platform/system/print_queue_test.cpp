@@ -43,9 +43,9 @@ public:
         thread_.join();
         ::close(socket_);
         for (Visit& visit : visits_) {
-            ::shutdown(visit.Socket, SHUT_RDWR);
-            visit.Thread.join();
-            ::close(visit.Socket);
+            ::shutdown(visit.socket, SHUT_RDWR);
+            visit.thread.join();
+            ::close(visit.socket);
         }
         cupsSetServer(nullptr);
     }
@@ -54,8 +54,8 @@ public:
 
 private:
     struct Visit {
-        int Socket;
-        std::thread Thread;
+        int socket;
+        std::thread thread;
     };
 
     /// Visitors come side by side: the library opens a second connection before it closes the first.

@@ -14,9 +14,9 @@ public:
     DataRegistry()
     {
         SetRegistry([this](std::uint32_t root, const QString& key, const QString& name) {
-            Roots.append(root);
-            const auto found = Keys.constFind(key);
-            return found != Keys.constEnd() && found->contains(name) ? std::optional(found->value(name))
+            roots.append(root);
+            const auto found = keys.constFind(key);
+            return found != keys.constEnd() && found->contains(name) ? std::optional(found->value(name))
                                                                      : std::nullopt;
         });
     }
@@ -24,8 +24,8 @@ public:
     DataRegistry(const DataRegistry&) = delete;
     DataRegistry& operator=(const DataRegistry&) = delete;
 
-    QMap<QString, QMap<QString, RegistryValue>> Keys;
-    QList<std::uint32_t> Roots;
+    QMap<QString, QMap<QString, RegistryValue>> keys;
+    QList<std::uint32_t> roots;
 };
 
 const QString folder = u"SOFTWARE\\Torvik"_s;
@@ -43,7 +43,7 @@ private Q_SLOTS:
         DataRegistry data;
         for (const QByteArray& stored :
              {QByteArray("C:\\Tools\\info.exe"), QByteArray("C:\\Tools\\info.exe\0", 18)}) {
-            data.Keys[folder][name] = {registry::text, stored};
+            data.keys[folder][name] = {registry::text, stored};
             QString result = u"before"_s;
             QVERIFY(ReadRegistryValue(registry::localMachine, folder, name, result));
             QCOMPARE(result, u"C:\\Tools\\info.exe"_s);
@@ -53,17 +53,17 @@ private Q_SLOTS:
     void the_value_is_asked_for_under_its_root()
     {
         DataRegistry data;
-        data.Keys[folder][name] = {registry::text, "x"};
+        data.keys[folder][name] = {registry::text, "x"};
         QString result;
         QVERIFY(ReadRegistryValue(registry::localMachine, folder, name, result));
         QVERIFY(!ReadRegistryValue(registry::localMachine, folder, u"none"_s, result));
-        QCOMPARE(data.Roots, (QList<std::uint32_t>{0x80000002, 0x80000002}));
+        QCOMPARE(data.roots, (QList<std::uint32_t>{0x80000002, 0x80000002}));
     }
 
     void a_missing_key_gives_an_empty_result_and_false()
     {
         DataRegistry data;
-        data.Keys[u"SOFTWARE\\Other"_s][name] = {registry::text, "x"};
+        data.keys[u"SOFTWARE\\Other"_s][name] = {registry::text, "x"};
         QString result = u"before"_s;
         QVERIFY(!ReadRegistryValue(registry::localMachine, folder, name, result));
         QCOMPARE(result, QString());
@@ -72,7 +72,7 @@ private Q_SLOTS:
     void a_missing_value_gives_an_empty_result_and_false()
     {
         DataRegistry data;
-        data.Keys[folder];
+        data.keys[folder];
         QString result = u"before"_s;
         QVERIFY(!ReadRegistryValue(registry::localMachine, folder, name, result));
         QCOMPARE(result, QString());
@@ -81,11 +81,11 @@ private Q_SLOTS:
     void a_value_longer_than_the_buffer_cannot_be_read()
     {
         DataRegistry data;
-        data.Keys[folder][name] = {registry::text, QByteArray(1024, 'a')};
+        data.keys[folder][name] = {registry::text, QByteArray(1024, 'a')};
         QString result;
         QVERIFY(ReadRegistryValue(registry::localMachine, folder, name, result));
         QCOMPARE(result.size(), 1024);
-        data.Keys[folder][name].Data += 'a';
+        data.keys[folder][name].data += 'a';
         QVERIFY(!ReadRegistryValue(registry::localMachine, folder, name, result));
         QCOMPARE(result, QString());
     }
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, bytes);
         QFETCH(QString, text);
         DataRegistry data;
-        data.Keys[folder][name] = {registry::number, bytes};
+        data.keys[folder][name] = {registry::number, bytes};
         QString result;
         QVERIFY(ReadRegistryValue(registry::localMachine, folder, name, result));
         QCOMPARE(result, text);
@@ -115,7 +115,7 @@ private Q_SLOTS:
     void a_value_of_another_type_leaves_the_result_as_it_was()
     {
         DataRegistry data;
-        data.Keys[folder][name] = {3, "abc"};
+        data.keys[folder][name] = {3, "abc"};
         QString result = u"before"_s;
         QVERIFY(ReadRegistryValue(registry::localMachine, folder, name, result));
         QCOMPARE(result, u"before"_s);

@@ -28,9 +28,8 @@ public:
         if (process_ == 0) {
             // The claim of a parent is no claim of its child.
             const char answer = PreviousInstance() ? 'y' : 'n';
-            const bool isTold = write(ends[1], &answer, 1) == 1;
-            while (isTold)
-                pause();
+            if (write(ends[1], &answer, 1) == 1)
+                pause(); // until it is killed
             _exit(1);
         }
         close(ends[1]);

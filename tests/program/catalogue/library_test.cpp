@@ -37,8 +37,8 @@ private Q_SLOTS:
         CollectWays(Form1->Window().findChild<QMenuBar*>()->actions(), {}, ways);
         int reachable = 0;
         for (const LibraryDocument& document : LibraryDocuments()) {
-            QCOMPARE(QString::fromLatin1(document.Screen), ways.value(QString::fromLatin1(document.Entry)));
-            reachable += *document.Screen != '\0' ? 1 : 0;
+            QCOMPARE(QString::fromLatin1(document.screen), ways.value(QString::fromLatin1(document.entry)));
+            reachable += *document.screen != '\0' ? 1 : 0;
         }
         QCOMPARE(reachable, 20);
     }

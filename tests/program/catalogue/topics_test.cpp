@@ -18,7 +18,7 @@ private Q_SLOTS:
         program_ = std::make_unique<Program>();
         for (const char* prefix :
              {"67", "99", "A0", "A1", "PT", "SB", "M1", "M3", "MS", "ZZ", "VM", "TD", "TE", "TF", "VC", "US"})
-            program_->Disc.AddGroup(QString::fromLatin1(prefix), 2);
+            program_->disc.AddGroup(QString::fromLatin1(prefix), 2);
         program_->StartBrowsing();
     }
     void cleanupTestCase() { program_.reset(); }
@@ -71,7 +71,7 @@ private Q_SLOTS:
               &Form1->cmdNostalgia, &Form1->cmdClipArt})
             QVERIFY2(button->Enabled() == rest, qPrintable(button->Name()));
         QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\"_s + code + u"A.JPG"_s);
-        QVERIFY(program_->Messages.Shown().isEmpty());
+        QVERIFY(program_->messages.Shown().isEmpty());
     }
 
     void the_classic_harwell_keeps_some_buttons_of_a_year()
@@ -91,8 +91,8 @@ private Q_SLOTS:
     {
         Select(u"Lemuel Ostrand Art Print "_s);
         QCOMPARE(state.YearCode, u"mu"_s);
-        QCOMPARE(program_->Messages.Count(), 1);
-        QVERIFY(program_->Messages.Last().Text.startsWith(u"Error number: ER023"_s));
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER023"_s));
         QVERIFY(!Form1->Image4.Visible());
         QVERIFY(Form1->cmdDesc.Enabled());
         QVERIFY(Form1->cmdAd.Enabled());
@@ -104,23 +104,23 @@ private Q_SLOTS:
             Select(QString::fromLatin1(title));
             QCOMPARE(state.YearCode, u"rv"_s);
             QVERIFY2(Form1->cmdAd.Enabled(), "the buttons are those of a year");
-            QCOMPARE(program_->Messages.Count(), 1);
+            QCOMPARE(program_->messages.Count(), 1);
         }
     }
 
     void each_topic_has_a_title_and_a_code_of_its_own()
     {
         for (const Topic& topic : Topics()) {
-            QCOMPARE(TopicOf(QString::fromLatin1(topic.Title)), &topic);
-            QCOMPARE(TopicOfCode(QString::fromLatin1(topic.Code)), &topic);
-            QVERIFY2(QString::fromLatin1(topic.Title).endsWith(u' '), topic.Title);
+            QCOMPARE(TopicOf(QString::fromLatin1(topic.title)), &topic);
+            QCOMPARE(TopicOfCode(QString::fromLatin1(topic.code)), &topic);
+            QVERIFY2(QString::fromLatin1(topic.title).endsWith(u' '), topic.title);
         }
     }
 
 private:
     void Select(const QString& title)
     {
-        program_->Messages.Clear();
+        program_->messages.Clear();
         Form1->cmdStats.SetCaption(u"Kept"_s);
         Form1->cmdYR(1).SetEnabled(true);
         Form1->panYear.SetCaption(title);

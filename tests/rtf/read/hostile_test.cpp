@@ -174,7 +174,11 @@ private Q_SLOTS:
         }
         const qint64 before = MemoryInUse();
         const Reading read = ReadBytes("{\\rtf1 " + body + "}");
-        const qint64 grown = MemoryInUse() - before;
+        const qint64 after = MemoryInUse();
+        QVERIFY(!read.Text().isEmpty() || read.result.wasCut || read.result.wasDamaged);
+        if (before == 0)
+            QSKIP("nothing tells how much memory the process holds");
+        const qint64 grown = after - before;
         QVERIFY2(grown < 64LL * 1024 * 1024 + 20 * body.size(), QByteArray::number(grown).constData());
     }
 
@@ -216,14 +220,17 @@ private Q_SLOTS:
     void numbers_at_their_limits_in_every_word_data()
     {
         QTest::addColumn<QByteArray>("number");
-        QTest::newRow("largest") << QByteArray("2147483647");
-        QTest::newRow("smallest") << QByteArray("-2147483648");
-        QTest::newRow("beyond") << QByteArray("99999999999");
-        QTest::newRow("minus one") << QByteArray("-1");
+        QTest::addColumn<int>("shown"); // of the letters after the 39 words
+        // A large number of substitutes for a character (uc) lets the character (u) swallow all that follows.
+        QTest::newRow("largest") << QByteArray("2147483647") << 23;
+        QTest::newRow("smallest") << QByteArray("-2147483648") << 39;
+        QTest::newRow("beyond") << QByteArray("99999999999") << 23;
+        QTest::newRow("minus one") << QByteArray("-1") << 39;
     }
     void numbers_at_their_limits_in_every_word()
     {
         QFETCH(QByteArray, number);
+        QFETCH(int, shown);
         QByteArray body;
         for (const char* word : {"li",
                                  "ri",
@@ -269,7 +276,7 @@ private Q_SLOTS:
             ReadBody(body + "\\par{\\pict\\picw" + number + "\\pich" + number + "\\picwgoal" + number +
                      "\\picscalex" + number + "\\piccropl" + number + "\\wbmwidthbytes" + number +
                      "\\dibitmap " + FourColors().toHex() + "}\\par");
-        QVERIFY(read.Text().contains(u'x'));
+        QCOMPARE(read.Text().count(u'x'), shown);
         read.document->setTextWidth(400);
     }
 };

@@ -282,10 +282,10 @@ void DocumentsTest::TheSetStaysSmall()
 {
     qsizetype all = 0;
     for (const PlannedDocument& document : Plan()) {
-        QVERIFY2(document.text.size() <= 64 * 1024, qPrintable(document.file));
+        QVERIFY2(document.text.size() <= 64LL * 1024, qPrintable(document.file));
         all += document.text.size();
     }
-    QVERIFY(all <= 8 * 1024 * 1024);
+    QVERIFY(all <= 8LL * 1024 * 1024);
 }
 
 void DocumentsTest::TheDocumentsAreWrittenIntoTheirFolder()

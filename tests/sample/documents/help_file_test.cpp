@@ -47,12 +47,12 @@ private Q_SLOTS:
     {
         const std::vector<HelpTopic> topics = TopicsOf(help_);
         QVERIFY(topics.size() > 20);
-        QCOMPARE(topics.front().Anchor, u"welcome"_s);
+        QCOMPARE(topics.front().anchor, u"welcome"_s);
         QSet<QString> anchors;
         for (const HelpTopic& topic : topics) {
-            QVERIFY2(!topic.Title.isEmpty() && !topic.Title.contains(u'{'), qPrintable(topic.Anchor));
-            QVERIFY2(!anchors.contains(topic.Anchor), qPrintable(topic.Anchor));
-            anchors.insert(topic.Anchor);
+            QVERIFY2(!topic.title.isEmpty() && !topic.title.contains(u'{'), qPrintable(topic.anchor));
+            QVERIFY2(!anchors.contains(topic.anchor), qPrintable(topic.anchor));
+            anchors.insert(topic.anchor);
         }
     }
 
@@ -60,7 +60,7 @@ private Q_SLOTS:
     {
         QStringList anchors;
         for (const HelpTopic& topic : TopicsOf(help_))
-            anchors.append(topic.Anchor);
+            anchors.append(topic.anchor);
         const QStringList links = LinksOf(help_);
         QVERIFY(links.size() > 5);
         for (const QString& link : links)

@@ -2,6 +2,7 @@
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/look/button_widget.h"
+#include "ui/pixels.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -15,20 +16,6 @@ struct MainForm : Form {
 };
 
 FormHandle<MainForm> Main;
-
-QImage Grab(const Control& control)
-{
-    return control.Widget().grab().toImage();
-}
-
-int PixelsOf(const QImage& image, const QColor& colour)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            count += image.pixelColor(x, y) == colour ? 1 : 0;
-    return count;
-}
 
 } // namespace
 

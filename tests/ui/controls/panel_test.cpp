@@ -3,6 +3,7 @@
 #include "ui/controls/button.h"
 #include "ui/controls/panel.h"
 #include "ui/form_fixture.h"
+#include "ui/pixels.h"
 
 #include <limits>
 
@@ -20,11 +21,6 @@ struct MainForm : Form {
 };
 
 FormHandle<MainForm> Main;
-
-QImage Grab(const Control& control)
-{
-    return control.Widget().grab().toImage();
-}
 
 /// How many pixels of the middle row, from the left edge on, are of a colour.
 int FilledPixels(const Control& control, const QColor& colour)

@@ -65,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(Main->lstFound.ListCount(), 0);
         Main->lstFound.SetRows(Rows(3));
         QCOMPARE(Main->lstFound.ListCount(), 3);
-        QCOMPARE(Main->lstFound.List(2).Title, u"Title 2"_s);
+        QCOMPARE(Main->lstFound.List(2).title, u"Title 2"_s);
         QCOMPARE(Main->lstFound.ListIndex(), -1);
     }
 
@@ -97,11 +97,11 @@ private Q_SLOTS:
                 [&] { fewest = std::min(fewest, View().model()->rowCount()); });
         const QSignalSpy resets(View().model(), &QAbstractItemModel::modelReset);
         Main->lstFound.SetRows(Rows(2, u"other"_s));
-        QCOMPARE(Main->lstFound.List(1).Line, u"other"_s);
+        QCOMPARE(Main->lstFound.List(1).line, u"other"_s);
         Main->lstFound.SetRows(Rows(7, u"third"_s));
         QCOMPARE(Main->lstFound.ListCount(), 7);
-        QCOMPARE(Main->lstFound.List(0).Line, u"third"_s);
-        QCOMPARE(Main->lstFound.List(6).Line, u"third"_s);
+        QCOMPARE(Main->lstFound.List(0).line, u"third"_s);
+        QCOMPARE(Main->lstFound.List(6).line, u"third"_s);
         QCOMPARE(fewest, 2);
         QCOMPARE(resets.count(), 0);
         Main->lstFound.SetRows({});

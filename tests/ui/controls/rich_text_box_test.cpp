@@ -92,7 +92,7 @@ private Q_SLOTS:
         for (const char* address : {"http://example.com/a", "https://example.com/b", "mailto:a@example.com",
                                     "file:///etc/passwd", "other.rtf"})
             Q_EMIT Pane().anchorClicked(QUrl(QString::fromLatin1(address)));
-        QCOMPARE(desktop.Opened, (QStringList{u"http://example.com/a"_s, u"https://example.com/b"_s,
+        QCOMPARE(desktop.opened, (QStringList{u"http://example.com/a"_s, u"https://example.com/b"_s,
                                               u"mailto:a@example.com"_s}));
         QVERIFY(!Pane().source().isValid());
     }
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QVERIFY(bar.maximum() > 0);
         QTest::mouseClick(Pane().viewport(), Qt::LeftButton, {}, Pane().cursorRect().center() + QPoint(4, 0));
         QCOMPARE(bar.value(), bar.maximum());
-        QVERIFY(desktop.Opened.isEmpty());
+        QVERIFY(desktop.opened.isEmpty());
     }
 
     void marks_lie_under_pieces_of_the_text_and_change_nothing_of_it()

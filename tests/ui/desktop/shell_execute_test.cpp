@@ -15,7 +15,7 @@ private Q_SLOTS:
         const Desktop desktop;
         for (const char* address : {"http://example.com/a", "https://example.com/b", "mailto:a@example.com"})
             QVERIFY(ShellExecute(QString::fromLatin1(address)) > 32);
-        QCOMPARE(desktop.Opened, (QStringList{u"http://example.com/a"_s, u"https://example.com/b"_s,
+        QCOMPARE(desktop.opened, (QStringList{u"http://example.com/a"_s, u"https://example.com/b"_s,
                                               u"mailto:a@example.com"_s}));
     }
 
@@ -24,7 +24,7 @@ private Q_SLOTS:
         const Desktop desktop;
         for (const char* address : {"file:///etc/passwd", "/bin/true", "calc.exe", ""})
             QVERIFY(ShellExecute(QString::fromLatin1(address)) <= 32);
-        QVERIFY(desktop.Opened.isEmpty());
+        QVERIFY(desktop.opened.isEmpty());
     }
 };
 

@@ -8,6 +8,7 @@
 #include "ui/forms/menu.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -45,7 +46,7 @@ struct SideForm : Form {
 };
 
 FormHandle<MainForm> Main;
-FormHandle<SideForm> Side;
+FormHandle<SideForm> side;
 
 void Wheel(QWidget& widget)
 {
@@ -53,6 +54,19 @@ void Wheel(QWidget& widget)
     QWheelEvent event(place, widget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&widget, &event);
+}
+
+/// Presses what has a press to offer, past mouse and keyboard: a button, an arrow and a menu entry.
+void PressAsScreenReader()
+{
+    auto* go = qobject_cast<QAbstractButton*>(&Main->Go.Widget());
+    auto* up = Main->Spin.Widget().findChild<QAbstractButton*>(u"Spin(Up)"_s);
+    for (QAbstractButton* button : {go, up}) {
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(button);
+        spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+    Main->Window().MenuBar()->actions().at(1)->trigger();
+    QTRY_VERIFY(!go->isDown() && !up->isDown()); // they stay down for a moment
 }
 
 } // namespace
@@ -121,6 +135,26 @@ private Q_SLOTS:
         QCOMPARE(Main->events, 1);
     }
 
+    void a_screen_reader_presses_nothing()
+    {
+        PressAsScreenReader();
+        QCOMPARE(Main->events, 0);
+    }
+
+    void a_screen_reader_presses_nothing_behind_a_message_box()
+    {
+        Main->SetEnabled(true);
+        UiRoom::Soon([this] {
+            PressAsScreenReader();
+            QTest::mouseClick(QApplication::activeModalWidget()->findChild<QAbstractButton*>(u"OK"_s),
+                              Qt::LeftButton);
+        });
+        MsgBox(u"?"_s);
+        QCOMPARE(Main->events, 0);
+        PressAsScreenReader();
+        QCOMPARE(Main->events, 3);
+    }
+
     void it_does_not_turn_grey()
     {
         QVERIFY(!Main->Enabled());
@@ -143,10 +177,10 @@ private Q_SLOTS:
 
     void other_forms_take_input()
     {
-        QVERIFY(UiRoom::Open(*Side));
+        QVERIFY(UiRoom::Open(*side));
         int clicks = 0;
-        Side->Go.Click = [&] { ++clicks; };
-        QTest::mouseClick(&Side->Go.Widget(), Qt::LeftButton);
+        side->Go.Click = [&] { ++clicks; };
+        QTest::mouseClick(&side->Go.Widget(), Qt::LeftButton);
         QCOMPARE(clicks, 1);
     }
 

@@ -70,9 +70,9 @@ private Q_SLOTS:
         event.Fire();
         QVERIFY(!ran);
         QCOMPARE(messages.Count(), 1);
-        QCOMPARE(messages.Last().Text, u"Run-time error '53':\r\n\r\nFile not found"_s);
-        QCOMPARE(messages.Last().Style, msgbox::critical);
-        QCOMPARE(messages.Last().Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(messages.Last().text, u"Run-time error '53':\r\n\r\nFile not found"_s);
+        QCOMPARE(messages.Last().style, msgbox::critical);
+        QCOMPARE(messages.Last().title, u"The Torvik Vollandry 2001"_s);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -80,7 +80,7 @@ private Q_SLOTS:
     {
         MessageScript messages;
         RunHandler([] { throw std::bad_alloc(); });
-        QCOMPARE(messages.Last().Text, u"Run-time error '7':\r\n\r\nOut of memory"_s);
+        QCOMPARE(messages.Last().text, u"Run-time error '7':\r\n\r\nOut of memory"_s);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -88,7 +88,7 @@ private Q_SLOTS:
     {
         MessageScript messages;
         RunHandler([] { throw std::out_of_range("index"); });
-        QCOMPARE(messages.Last().Text, u"Run-time error '51':\r\n\r\nInternal error"_s);
+        QCOMPARE(messages.Last().text, u"Run-time error '51':\r\n\r\nInternal error"_s);
         QVERIFY(ProgramIsEnding());
     }
 

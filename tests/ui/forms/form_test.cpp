@@ -24,8 +24,8 @@ struct SplashForm : Form {
 };
 
 FormHandle<MainForm> Main;
-FormHandle<SideForm> Side;
-FormHandle<SplashForm> Splash;
+FormHandle<SideForm> side;
+FormHandle<SplashForm> splash;
 
 } // namespace
 
@@ -41,9 +41,9 @@ private Q_SLOTS:
     {
         QCOMPARE(Main->Width(), 6000.0);
         QCOMPARE(Main->Height(), 4500.0 + 2 * 19 * 15);
-        QCOMPARE(Side->Height(), 4500.0 + 19 * 15);
-        QCOMPARE(Splash->Height(), 4500.0);
-        for (Form* form : std::initializer_list<Form*>{&*Main, &*Side, &*Splash}) {
+        QCOMPARE(side->Height(), 4500.0 + 19 * 15);
+        QCOMPARE(splash->Height(), 4500.0);
+        for (Form* form : std::initializer_list<Form*>{&*Main, &*side, &*splash}) {
             QVERIFY(UiRoom::Open(*form));
             QCOMPARE(form->Host().size(), QSize(400, 300));
         }
@@ -55,7 +55,7 @@ private Q_SLOTS:
         Main->SetMousePointer(MousePointer::Hourglass);
         QCOMPARE(Main->Pointer(), MousePointer::Hourglass);
         QCOMPARE(Main->Window().cursor().shape(), Qt::WaitCursor);
-        QCOMPARE(Side->Pointer(), MousePointer::Default);
+        QCOMPARE(side->Pointer(), MousePointer::Default);
         Main->SetMousePointer(MousePointer::Default);
         QCOMPARE(Main->Pointer(), MousePointer::Default);
     }
@@ -64,11 +64,11 @@ private Q_SLOTS:
     {
         QCOMPARE(Main->ScaleWidth(), 400.0);
         QCOMPARE(Main->ScaleHeight(), 300.0);
-        QCOMPARE(Side->ScaleWidth(), 6000.0);
-        QCOMPARE(Side->ScaleHeight(), 4500.0);
+        QCOMPARE(side->ScaleWidth(), 6000.0);
+        QCOMPARE(side->ScaleHeight(), 4500.0);
         QCOMPARE(Main->ScaleMode(), Scale::Pixels);
         QCOMPARE(Main->TwipsPerUnit(), 15.0);
-        QCOMPARE(Side->TwipsPerUnit(), 1.0);
+        QCOMPARE(side->TwipsPerUnit(), 1.0);
     }
 
     void width_and_height_are_always_twips()
@@ -84,25 +84,25 @@ private Q_SLOTS:
 
     void a_size_of_nothing_leaves_a_window_of_one_pixel()
     {
-        Side->SetWidth(0);
-        Side->SetHeight(-100);
-        QCOMPARE(Side->Window().size(), QSize(1, 1));
-        QCOMPARE(Side->Width(), 0.0);
+        side->SetWidth(0);
+        side->SetHeight(-100);
+        QCOMPARE(side->Window().size(), QSize(1, 1));
+        QCOMPARE(side->Width(), 0.0);
     }
 
     void each_form_has_a_window_number_of_its_own()
     {
         QVERIFY(Main->WindowNumber() != 0);
         QCOMPARE(Main->WindowNumber(), Main->WindowNumber());
-        QVERIFY(Main->WindowNumber() != Side->WindowNumber());
+        QVERIFY(Main->WindowNumber() != side->WindowNumber());
         QVERIFY(!Main->Visible());
     }
 
     void a_fixed_form_cannot_be_sized_by_the_user_but_by_the_program()
     {
-        QCOMPARE(Side->Window().minimumSize(), Side->Window().maximumSize());
-        Side->SetWidth(3000);
-        QCOMPARE(Side->Window().minimumWidth(), 200);
+        QCOMPARE(side->Window().minimumSize(), side->Window().maximumSize());
+        side->SetWidth(3000);
+        QCOMPARE(side->Window().minimumWidth(), 200);
         QVERIFY(Main->Window().minimumWidth() < Main->Window().maximumWidth());
     }
 
@@ -177,14 +177,14 @@ private Q_SLOTS:
         QVERIFY(UiRoom::Open(*Main));
         QStringList order;
         UiRoom::Soon([&] {
-            QCOMPARE(QApplication::activeModalWidget(), &Side->Window());
+            QCOMPARE(QApplication::activeModalWidget(), &side->Window());
             order.append(u"unload"_s);
-            Side.Unload();
+            side.Unload();
         });
-        Side->ShowModal();
-        order.append(u"behind"_s);
-        QCOMPARE(order, (QStringList{u"unload"_s, u"behind"_s}));
-        QVERIFY(!Side.IsLoaded());
+        side->ShowModal();
+        order.append(u"after"_s);
+        QCOMPARE(order, (QStringList{u"unload"_s, u"after"_s}));
+        QVERIFY(!side.IsLoaded());
     }
 
     void a_modal_show_returns_on_hide_and_can_be_shown_again()
@@ -192,15 +192,15 @@ private Q_SLOTS:
         for (int time = 0; time < 2; ++time) {
             bool shown = false;
             UiRoom::Soon([&] {
-                shown = Side->Visible();
-                Side->Hide();
+                shown = side->Visible();
+                side->Hide();
             });
-            Side->ShowModal();
+            side->ShowModal();
             QVERIFY(shown);
-            QVERIFY(Side.IsLoaded());
+            QVERIFY(side.IsLoaded());
         }
-        Side->Show();
-        QVERIFY(!Side->Window().isModal());
+        side->Show();
+        QVERIFY(!side->Window().isModal());
     }
 
     void modal_shows_nest()
@@ -209,15 +209,15 @@ private Q_SLOTS:
         UiRoom::Soon([&] {
             UiRoom::Soon([&] {
                 order.append(u"hide splash"_s);
-                Splash->Hide();
+                splash->Hide();
             });
-            Splash->ShowModal();
-            order.append(u"behind splash"_s);
-            Side->Hide();
+            splash->ShowModal();
+            order.append(u"after splash"_s);
+            side->Hide();
         });
-        Side->ShowModal();
-        order.append(u"behind side"_s);
-        QCOMPARE(order, (QStringList{u"hide splash"_s, u"behind splash"_s, u"behind side"_s}));
+        side->ShowModal();
+        order.append(u"after side"_s);
+        QCOMPARE(order, (QStringList{u"hide splash"_s, u"after splash"_s, u"after side"_s}));
     }
 
     void an_outer_modal_form_that_goes_first_returns_when_the_inner_one_has_gone()
@@ -225,16 +225,16 @@ private Q_SLOTS:
         QStringList order;
         UiRoom::Soon([&] {
             UiRoom::Soon([&] {
-                Side.Unload();
+                side.Unload();
                 order.append(u"outer gone"_s);
-                UiRoom::Soon([&] { Splash->Hide(); });
+                UiRoom::Soon([&] { splash->Hide(); });
             });
-            Splash->ShowModal();
-            order.append(u"behind inner"_s);
+            splash->ShowModal();
+            order.append(u"after inner"_s);
         });
-        Side->ShowModal();
-        order.append(u"behind outer"_s);
-        QCOMPARE(order, (QStringList{u"outer gone"_s, u"behind inner"_s, u"behind outer"_s}));
+        side->ShowModal();
+        order.append(u"after outer"_s);
+        QCOMPARE(order, (QStringList{u"outer gone"_s, u"after inner"_s, u"after outer"_s}));
     }
 
     void a_modal_form_alone_takes_input()
@@ -245,24 +245,24 @@ private Q_SLOTS:
         UiRoom::Soon([&] {
             QTest::mouseClick(Main->Window().windowHandle(), Qt::LeftButton, {}, {10, 19 + 10});
             QCOMPARE(clicks, 0);
-            Side->Hide();
+            side->Hide();
         });
-        Side->ShowModal();
+        side->ShowModal();
         QTest::mouseClick(Main->Window().windowHandle(), Qt::LeftButton, {}, {10, 19 + 10});
         QCOMPARE(clicks, 1);
     }
 
     void a_form_that_is_shown_cannot_be_shown_modally()
     {
-        Side->Show();
-        QCOMPARE(ResumeNext([] { Side->ShowModal(); }), 400);
-        Side->Hide();
+        side->Show();
+        QCOMPARE(ResumeNext([] { side->ShowModal(); }), 400);
+        side->Hide();
         int failed = 0;
         UiRoom::Soon([&] {
-            failed = ResumeNext([] { Side->ShowModal(); });
-            Side->Hide();
+            failed = ResumeNext([] { side->ShowModal(); });
+            side->Hide();
         });
-        Side->ShowModal();
+        side->ShowModal();
         QCOMPARE(failed, 400);
     }
 
@@ -272,9 +272,9 @@ private Q_SLOTS:
         int activations = 0;
         UiRoom::Soon([&] {
             Main->Activate = [&] { ++activations; };
-            Side.Unload();
+            side.Unload();
         });
-        Side->ShowModal();
+        side->ShowModal();
         QTRY_VERIFY(activations > 0);
     }
 
@@ -287,9 +287,9 @@ private Q_SLOTS:
             Main->Show();
             QCoreApplication::processEvents();
             QCOMPARE(activations, 0);
-            Side->Hide();
+            side->Hide();
         });
-        Side->ShowModal();
+        side->ShowModal();
         QTRY_VERIFY(activations > 0);
     }
 
@@ -343,10 +343,10 @@ private Q_SLOTS:
 
     void unloading_is_safe_while_nothing_is_shown()
     {
-        Side->SetCaption(u"changed"_s);
-        QVERIFY(Side.Unload());
+        side->SetCaption(u"changed"_s);
+        QVERIFY(side.Unload());
         UiRoom::Settle();
-        QCOMPARE(Side->Caption(), u"Side"_s);
+        QCOMPARE(side->Caption(), u"Side"_s);
     }
 
 private:

@@ -33,7 +33,12 @@ struct MainForm : Form {
     SpinButton Spin{*this, u"Spin"_s, {3000, 1200, 600, 300}};
 };
 
+struct SideForm : Form {
+    SideForm() : Form(DesignOf(u"Side"_s)) {}
+};
+
 FormHandle<MainForm> Main;
+FormHandle<SideForm> Side;
 
 } // namespace
 
@@ -158,10 +163,23 @@ private Q_SLOTS:
         QCOMPARE(FormWindow::LastActive(), nullptr);
     }
 
+    void a_box_comes_up_over_the_window_before_when_the_last_one_is_gone()
+    {
+        QVERIFY(UiRoom::Open(*Side));
+        QCOMPARE(FormWindow::ToStandOver(), &Side->Window());
+        Side->Hide();
+        UiRoom::Settle();
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QCOMPARE(FormWindow::ToStandOver(), &Main->Window());
+    }
+
     void a_form_without_a_caption_is_called_by_its_name()
     {
         FormDesign design = DesignOf(u"Plain"_s);
-        design.Caption.clear();
+        design.caption.clear();
         struct PlainForm : Form {
             explicit PlainForm(const FormDesign& plain) : Form(plain) {}
         };

@@ -52,7 +52,7 @@ private Q_SLOTS:
         QCOMPARE(Main->clicks, 1);
     }
 
-    void a_form_that_was_disabled_stays_so_behind_the_hold()
+    void a_form_that_was_disabled_stays_so_after_the_hold()
     {
         Main->SetEnabled(false);
         {

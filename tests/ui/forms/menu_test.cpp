@@ -27,7 +27,7 @@ struct BareForm : Form {
 };
 
 FormHandle<MainForm> Main;
-FormHandle<BareForm> Bare;
+FormHandle<BareForm> bare;
 
 QAction* ActionNamed(const QString& name)
 {
@@ -176,7 +176,7 @@ private Q_SLOTS:
 
     void a_menu_on_a_form_without_a_menu_bar_is_failure_5()
     {
-        QCOMPARE(ResumeNext([] { const Menu menu(*Bare, u"mnu"_s, u"File"_s); }), 5);
+        QCOMPARE(ResumeNext([] { const Menu menu(*bare, u"mnu"_s, u"File"_s); }), 5);
     }
 
     void a_menu_handler_may_unload_the_form()

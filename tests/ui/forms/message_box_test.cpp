@@ -226,14 +226,18 @@ private Q_SLOTS:
 
     void no_line_is_broken_as_long_as_the_screen_is_wide_enough()
     {
+        QCOMPARE(QApplication::primaryScreen()->availableSize().width(), 800);
         const QString quoted =
             u"    5)  You may also want to set the Colors to the highest level allowed by your"_s;
-        for (const QString& line : {quoted, QString(60, u'W'), QString(u"a "_s).repeated(60)}) {
+        const QString longest =
+            u"Also, The Torvik Vollandry requires that the Small Fonts display setting is selected."_s;
+        for (const QString& line : {quoted, longest, QString(60, u'W'), QString(u"a "_s).repeated(60)}) {
             int lines = 0;
             int width = 0;
             int wanted = 0;
             Answer(line + u"\r\n\r\n"_s + line, msgbox::exclamation, u"OK"_s, [&] {
                 const auto* label = Box().findChild<QLabel*>(u"qt_msgbox_label"_s);
+                QCOMPARE(label->font().pixelSize(), 12);
                 const QFontMetrics metrics(label->font());
                 wanted = metrics.horizontalAdvance(line);
                 width = label->width();
@@ -291,15 +295,15 @@ private Q_SLOTS:
         QCOMPARE(outer, msgbox::answerNo);
     }
 
-    void the_end_of_the_program_takes_the_box_away_and_runs_nothing_behind_it()
+    void the_end_of_the_program_takes_the_box_away_and_runs_nothing_after_it()
     {
-        bool behind = false;
+        bool after = false;
         RunHandler([&] {
             UiRoom::Soon([] { RunHandler([] { EndProgram(); }); });
             MsgBox(u"?"_s);
-            behind = true;
+            after = true;
         });
-        QVERIFY(!behind);
+        QVERIFY(!after);
         QVERIFY(ProgramIsEnding());
         QCOMPARE(QApplication::activeModalWidget(), nullptr);
     }
@@ -349,9 +353,9 @@ private Q_SLOTS:
             return msgbox::answerRetry;
         });
         QCOMPARE(MsgBox(u" text "_s, 5), msgbox::answerRetry);
-        QCOMPARE(asked.Text, u" text "_s);
-        QCOMPARE(asked.Style, 5);
-        QCOMPARE(asked.Title, u"The Torvik Vollandry 2001"_s);
+        QCOMPARE(asked.text, u" text "_s);
+        QCOMPARE(asked.style, 5);
+        QCOMPARE(asked.title, u"The Torvik Vollandry 2001"_s);
     }
 
 private:

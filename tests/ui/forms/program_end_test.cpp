@@ -21,9 +21,9 @@ struct ThirdForm : Form {
     ThirdForm() : Form(DesignOf(u"Third"_s)) {}
 };
 
-FormHandle<FirstForm> First;
-FormHandle<SecondForm> Second;
-FormHandle<ThirdForm> Third;
+FormHandle<FirstForm> first;
+FormHandle<SecondForm> second;
+FormHandle<ThirdForm> third;
 
 bool Ends(const std::function<void()>& statement)
 {
@@ -45,15 +45,15 @@ private Q_SLOTS:
     void init() { room_ = std::make_unique<UiRoom>(); }
     void cleanup() { room_.reset(); }
 
-    void no_statement_behind_the_end_runs()
+    void no_statement_after_the_end_runs()
     {
-        bool behind = false;
+        bool after = false;
         QVERIFY(!ProgramIsEnding());
         QVERIFY(Ends([&] {
             EndProgram();
-            behind = true;
+            after = true;
         }));
-        QVERIFY(!behind);
+        QVERIFY(!after);
         QVERIFY(ProgramIsEnding());
     }
 
@@ -72,38 +72,38 @@ private Q_SLOTS:
     void a_form_is_not_asked_and_not_unloaded()
     {
         bool asked = false;
-        First->QueryUnload = [&](bool&) { asked = true; };
-        First->Unload = [&] { asked = true; };
+        first->QueryUnload = [&](bool&) { asked = true; };
+        first->Unload = [&] { asked = true; };
         RunHandler([] { EndProgram(); });
         FormHandleBase::DiscardAll();
         QVERIFY(!asked);
-        QVERIFY(!First.IsLoaded());
+        QVERIFY(!first.IsLoaded());
     }
 
     void the_end_inside_nested_modal_forms_leaves_all_of_them()
     {
-        QStringList behind;
-        QVERIFY(UiRoom::Open(*First));
-        First->Go.Click = [&] {
+        QStringList after;
+        QVERIFY(UiRoom::Open(*first));
+        first->Go.Click = [&] {
             UiRoom::Soon([&] {
                 RunHandler([&] {
                     UiRoom::Soon([&] {
                         RunHandler([&] {
                             EndProgram();
-                            behind.append(u"end"_s);
+                            after.append(u"end"_s);
                         });
                     });
-                    Third->ShowModal();
-                    behind.append(u"third"_s);
+                    third->ShowModal();
+                    after.append(u"third"_s);
                 });
             });
-            Second->ShowModal();
-            behind.append(u"second"_s);
+            second->ShowModal();
+            after.append(u"second"_s);
         };
-        QTest::mouseClick(&First->Go.Widget(), Qt::LeftButton);
+        QTest::mouseClick(&first->Go.Widget(), Qt::LeftButton);
         QVERIFY(ProgramIsEnding());
-        QCOMPARE(behind, QStringList());
-        QVERIFY(First.IsLoaded() && Second.IsLoaded() && Third.IsLoaded());
+        QCOMPARE(after, QStringList());
+        QVERIFY(first.IsLoaded() && second.IsLoaded() && third.IsLoaded());
     }
 
     void the_event_loop_of_the_program_ends()
@@ -119,9 +119,9 @@ private Q_SLOTS:
         bool waited = false;
         UiRoom::Soon([&] {
             waited = true;
-            Second->Hide();
+            second->Hide();
         });
-        Second->ShowModal();
+        second->ShowModal();
         QVERIFY(waited);
     }
 

@@ -24,7 +24,7 @@ struct OtherForm : Form {
     Timer Timer1{*this, u"Timer1"_s};
 };
 
-FormHandle<OtherForm> Other;
+FormHandle<OtherForm> other;
 
 const QDateTime start(QDate(2001, 6, 17), QTime(14, 5, 9));
 
@@ -156,9 +156,9 @@ private Q_SLOTS:
     void no_tick_interrupts_a_handler_of_its_form_that_asks()
     {
         QVERIFY(UiRoom::Open(*Main));
-        Other->Timer1.SetInterval(100);
+        other->Timer1.SetInterval(100);
         int others = 0;
-        Other->Timer1.Tick = [&] { ++others; };
+        other->Timer1.Tick = [&] { ++others; };
         MessageScript messages;
         messages.WhenAsked([] { Clock::Turn(1000); });
         Main->Timer1.SetInterval(100);
@@ -196,7 +196,7 @@ private Q_SLOTS:
         QTRY_VERIFY(ticks_ >= 3);
         Main->Timer1.SetInterval(0);
         const int seen = ticks_;
-        Main->Timer3.Tick = [this] { Main->Timer3.SetInterval(0); };
+        Main->Timer3.Tick = [] { Main->Timer3.SetInterval(0); };
         QTRY_COMPARE(Main->Timer3.Interval(), 0);
         QCOMPARE(ticks_, seen);
     }

@@ -22,8 +22,8 @@ struct SideForm : Form {
 };
 
 FormHandle<MainForm> Main;
-FormHandle<SideForm> Side;
-FormHandle<PageForm> Page;
+FormHandle<SideForm> side;
+FormHandle<PageForm> page;
 
 QPoint FrameCorner()
 {
@@ -119,10 +119,10 @@ private Q_SLOTS:
         bool below = false;
         UiRoom::Soon([&] {
             below = Main->Window().isVisible();
-            Page.Unload();
+            page.Unload();
         });
         Main->Show();
-        Page->ShowModal();
+        page->ShowModal();
         QVERIFY(below);
     }
 
@@ -158,13 +158,13 @@ private Q_SLOTS:
         QTRY_VERIFY(!Main->IsSettling());
         Main->Window().setWindowState(Qt::WindowMaximized);
         QTRY_VERIFY(Main->Width() > 6000.0 && !Main->IsSettling());
-        Side->SetLeft(Main->Left());
-        Side->SetTop(Main->Top());
-        Side->SetWidth(Main->Width());
-        Side->SetHeight(Main->Height());
-        Side->Show();
-        QTRY_VERIFY(!Side->IsSettling());
-        QCOMPARE(Side->Window().windowHandle()->frameGeometry(),
+        side->SetLeft(Main->Left());
+        side->SetTop(Main->Top());
+        side->SetWidth(Main->Width());
+        side->SetHeight(Main->Height());
+        side->Show();
+        QTRY_VERIFY(!side->IsSettling());
+        QCOMPARE(side->Window().windowHandle()->frameGeometry(),
                  Main->Window().windowHandle()->frameGeometry());
     }
 
@@ -351,24 +351,24 @@ private Q_SLOTS:
 
     void a_form_without_a_frame_that_has_the_screens_size_is_shown_in_the_full_screen_state()
     {
-        Page->SetWidth(Screen.Width());
-        Page->SetHeight(Screen.Height());
-        Page->SetTop(0);
-        Page->SetLeft(0);
-        Page->Show();
-        QTRY_VERIFY(!Page->IsSettling());
-        QVERIFY(Page->Window().isFullScreen());
-        QCOMPARE(Page->ScaleHeight(), Screen.Height() / 15);
-        QCOMPARE(Page->Window().geometry(), QApplication::primaryScreen()->geometry());
+        page->SetWidth(Screen.Width());
+        page->SetHeight(Screen.Height());
+        page->SetTop(0);
+        page->SetLeft(0);
+        page->Show();
+        QTRY_VERIFY(!page->IsSettling());
+        QVERIFY(page->Window().isFullScreen());
+        QCOMPARE(page->ScaleHeight(), Screen.Height() / 15);
+        QCOMPARE(page->Window().geometry(), QApplication::primaryScreen()->geometry());
     }
 
     void a_smaller_form_without_a_frame_is_an_ordinary_window()
     {
-        Page->Show();
-        QTRY_VERIFY(!Page->IsSettling());
-        QVERIFY(!Page->Window().isFullScreen());
-        QCOMPARE(Page->Window().size(), QSize(400, 300));
-        QCOMPARE(Page->Window().minimumSize(), QSize(400, 300));
+        page->Show();
+        QTRY_VERIFY(!page->IsSettling());
+        QVERIFY(!page->Window().isFullScreen());
+        QCOMPARE(page->Window().size(), QSize(400, 300));
+        QCOMPARE(page->Window().minimumSize(), QSize(400, 300));
     }
 
     void the_first_showing_runs_resize_and_the_next_does_not()

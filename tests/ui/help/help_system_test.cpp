@@ -60,7 +60,7 @@ private Q_SLOTS:
         const MessageScript messages;
         for (const char* name : {"E:\\none.hlp", "E:\\empty.hlp", "F:\\none.hlp"}) {
             QVERIFY(!WinHelp(0, QLatin1String(name), winHelp::contents, {}));
-            QVERIFY(messages.Last().Text.endsWith(QLatin1String(name)));
+            QVERIFY(messages.Last().text.endsWith(QLatin1String(name)));
         }
         QCOMPARE(messages.Count(), 3);
         QVERIFY(QApplication::topLevelWidgets().isEmpty());

@@ -22,14 +22,14 @@ private Q_SLOTS:
             document);
         const std::vector<HelpTopic> topics = TopicsOf(document);
         QCOMPARE(topics.size(), std::size_t{3});
-        QCOMPARE(topics[0].Anchor, u"start"_s);
-        QCOMPARE(topics[0].Title, u"The start"_s);
-        QCOMPARE(topics[0].Level, 1);
-        QCOMPARE(topics[1].Anchor, u"start-keys"_s);
-        QCOMPARE(topics[1].Title, u"Its keys"_s);
-        QCOMPARE(topics[1].Level, 2);
-        QCOMPARE(topics[2].Title, u"Printing"_s);
-        QCOMPARE(topics[2].Level, 1);
+        QCOMPARE(topics[0].anchor, u"start"_s);
+        QCOMPARE(topics[0].title, u"The start"_s);
+        QCOMPARE(topics[0].level, 1);
+        QCOMPARE(topics[1].anchor, u"start-keys"_s);
+        QCOMPARE(topics[1].title, u"Its keys"_s);
+        QCOMPARE(topics[1].level, 2);
+        QCOMPARE(topics[2].title, u"Printing"_s);
+        QCOMPARE(topics[2].level, 1);
     }
 
     void a_text_without_bookmarks_has_none()

@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(Scroll(), before);
         Q_EMIT Text().anchorClicked(QUrl(u"http://www.quillon.example"_s));
         Q_EMIT Text().anchorClicked(QUrl(u"file:///etc/passwd"_s));
-        QCOMPARE(desktop.Opened, QStringList{u"http://www.quillon.example"_s});
+        QCOMPARE(desktop.opened, QStringList{u"http://www.quillon.example"_s});
     }
 
     void escape_closes_it_for_good()

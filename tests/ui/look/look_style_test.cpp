@@ -1,6 +1,7 @@
 #include "support/test_class.h"
 #include "ui/look/look.h"
 #include "ui/look/look_style.h"
+#include "ui/pixels.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -15,16 +16,7 @@
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
-namespace {
-
-QImage Grab(QWidget& widget)
-{
-    return widget.grab().toImage();
-}
-
-} // namespace
-
-/// The platform's widgets in the program's look.
+/// Qt's widgets in the program's look.
 class LookStyleTest : public QObject {
     Q_OBJECT
 

@@ -78,6 +78,8 @@ private Q_SLOTS:
         QVERIFY(Contrast(look::faded, look::face) >= 4.5);
         QVERIFY(Contrast(look::accentText, look::accent) >= 4.5);
         QVERIFY(Contrast(look::accent, look::face) >= 4.5);
+        QVERIFY(Contrast(look::text, look::mark) >= 4.5);
+        QVERIFY(Contrast(look::text, look::presentMark) >= 4.5);
     }
 
     void a_bevel_has_whole_lines_at_every_scale_factor_data()

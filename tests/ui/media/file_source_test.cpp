@@ -28,7 +28,7 @@ QList<qint64> PictureTimes(const Place& place)
             if (std::holds_alternative<MediaReader::End>(piece))
                 break;
             if (const auto* const picture = std::get_if<MediaPicture>(&piece))
-                times.append(picture->Time);
+                times.append(picture->time);
         }
     }
     return times;

@@ -26,7 +26,7 @@ struct ScreenForm : Form {
     MediaControl Device{u"MMControl1"_s};
 };
 
-FormHandle<ScreenForm> Cinema;
+FormHandle<ScreenForm> cinema;
 
 /// The pane with the movie's pictures on a control; null while there is none on show.
 VideoPane* PaneOn(const Control& control)
@@ -38,14 +38,14 @@ VideoPane* PaneOn(const Control& control)
 
 QImage Shown()
 {
-    const VideoPane* pane = PaneOn(Cinema->PicMovie);
+    const VideoPane* pane = PaneOn(cinema->PicMovie);
     return pane == nullptr ? QImage() : pane->Picture();
 }
 
 void Do(std::initializer_list<const char*> words)
 {
     for (const char* word : words)
-        Cinema->Device.Command(QString::fromLatin1(word));
+        cinema->Device.Command(QString::fromLatin1(word));
 }
 
 QByteArray Wave()
@@ -64,7 +64,7 @@ private Q_SLOTS:
     {
         room_ = std::make_unique<UiRoom>();
         Clock::StopAt(QDateTime(QDate(2001, 6, 17), QTime(14, 5, 9)));
-        QVERIFY(UiRoom::Open(*Cinema));
+        QVERIFY(UiRoom::Open(*cinema));
     }
     void cleanup() { room_.reset(); }
 
@@ -73,11 +73,11 @@ private Q_SLOTS:
     void an_open_movie_stands_at_its_beginning_and_shows_nothing_yet()
     {
         OpenMovie();
-        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
-        QCOMPARE(Cinema->Device.Position(), 0);
-        QVERIFY(std::abs(Cinema->Device.Length() - 2000) < 100);
+        QCOMPARE(cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(cinema->Device.Position(), 0);
+        QVERIFY(std::abs(cinema->Device.Length() - 2000) < 100);
         Turn(500);
-        QCOMPARE(Cinema->Device.Position(), 0);
+        QCOMPARE(cinema->Device.Position(), 0);
         QVERIFY(Shown().isNull());
     }
 
@@ -85,18 +85,18 @@ private Q_SLOTS:
     {
         OpenMovie();
         Do({"play"});
-        QCOMPARE(Cinema->Device.State(), Mode::Playing);
+        QCOMPARE(cinema->Device.State(), Mode::Playing);
         QTRY_VERIFY(!Shown().isNull());
         const QImage first = Shown();
         QCOMPARE(first.size(), QSize(TestMovie::width, TestMovie::height));
         Turn(1000);
-        QTRY_COMPARE(Cinema->Device.Position(), 1000);
+        QTRY_COMPARE(cinema->Device.Position(), 1000);
         QTRY_VERIFY(Shown() != first);
         Turn(1500);
-        QTRY_COMPARE(Cinema->Device.State(), Mode::Stopped);
-        QCOMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+        QTRY_COMPARE(cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(cinema->Device.Position(), cinema->Device.Length());
         Turn(1500);
-        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(cinema->Device.State(), Mode::Stopped);
     }
 
     void every_picture_of_a_movie_comes_on_the_screen()
@@ -110,7 +110,7 @@ private Q_SLOTS:
             seen.append(Shown());
             Clock::Turn(67);
         }
-        QTRY_COMPARE((Clock::Turn(20), Cinema->Device.State()), Mode::Stopped);
+        QTRY_COMPARE((Clock::Turn(20), cinema->Device.State()), Mode::Stopped);
         QCOMPARE(seen.size(), TestMovie::pictures);
     }
 
@@ -121,15 +121,15 @@ private Q_SLOTS:
         QTRY_VERIFY(!Shown().isNull());
         const QImage first = Shown();
         Turn(1000);
-        QTRY_VERIFY(Cinema->Device.Position() == 1000 && Shown() != first);
+        QTRY_VERIFY(cinema->Device.Position() == 1000 && Shown() != first);
         Do({"stop"});
-        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(cinema->Device.State(), Mode::Stopped);
         Turn(700);
-        QCOMPARE(Cinema->Device.Position(), 1000);
+        QCOMPARE(cinema->Device.Position(), 1000);
         Do({"prev"});
-        QCOMPARE(Cinema->Device.Position(), 0);
+        QCOMPARE(cinema->Device.Position(), 0);
         QTRY_COMPARE(Shown(), first);
-        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(cinema->Device.State(), Mode::Stopped);
     }
 
     void prev_while_it_plays_stops_it_at_the_beginning()
@@ -138,31 +138,31 @@ private Q_SLOTS:
         Do({"play"});
         QTRY_VERIFY(!Shown().isNull());
         Turn(500);
-        QTRY_COMPARE(Cinema->Device.Position(), 500);
+        QTRY_COMPARE(cinema->Device.Position(), 500);
         Do({"prev"});
-        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
-        QCOMPARE(Cinema->Device.Position(), 0);
+        QCOMPARE(cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(cinema->Device.Position(), 0);
     }
 
     void pause_holds_the_movie_and_goes_on_with_it()
     {
         OpenMovie();
         Do({"pause"});
-        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(cinema->Device.State(), Mode::Stopped);
         Do({"play"});
         QTRY_VERIFY(!Shown().isNull());
         Turn(600);
-        QTRY_COMPARE(Cinema->Device.Position(), 600);
+        QTRY_COMPARE(cinema->Device.Position(), 600);
         Do({"pause"});
-        QCOMPARE(Cinema->Device.State(), Mode::Paused);
+        QCOMPARE(cinema->Device.State(), Mode::Paused);
         Turn(400);
         UiRoom::Settle();
-        QCOMPARE(Cinema->Device.Position(), 600);
+        QCOMPARE(cinema->Device.Position(), 600);
         Do({"pause"});
-        QCOMPARE(Cinema->Device.State(), Mode::Playing);
-        QTRY_VERIFY((Clock::Turn(10), Cinema->Device.Position() > 600));
+        QCOMPARE(cinema->Device.State(), Mode::Playing);
+        QTRY_VERIFY((Clock::Turn(10), cinema->Device.Position() > 600));
         Do({"pause", "play"});
-        QCOMPARE(Cinema->Device.State(), Mode::Playing);
+        QCOMPARE(cinema->Device.State(), Mode::Playing);
     }
 
     void step_and_back_go_one_picture()
@@ -171,11 +171,11 @@ private Q_SLOTS:
         Do({"step"});
         QTRY_VERIFY(!Shown().isNull());
         const QImage second = Shown();
-        QVERIFY(std::abs(Cinema->Device.Position() - 67) <= 1);
+        QVERIFY(std::abs(cinema->Device.Position() - 67) <= 1);
         Do({"step"});
         QTRY_VERIFY(Shown() != second);
         const QImage third = Shown();
-        QVERIFY(std::abs(Cinema->Device.Position() - 133) <= 1);
+        QVERIFY(std::abs(cinema->Device.Position() - 133) <= 1);
         Do({"back"});
         QTRY_COMPARE(Shown(), second);
         Do({"step"});
@@ -184,17 +184,17 @@ private Q_SLOTS:
         QTRY_COMPARE(Shown(), second);
         Do({"back"});
         QTRY_VERIFY(Shown() != second);
-        QCOMPARE(Cinema->Device.Position(), 0);
+        QCOMPARE(cinema->Device.Position(), 0);
         Do({"back"});
         UiRoom::Settle();
-        QCOMPARE(Cinema->Device.Position(), 0);
+        QCOMPARE(cinema->Device.Position(), 0);
     }
 
     void next_goes_to_the_last_picture_and_play_begins_again_from_there()
     {
         OpenMovie();
         Do({"next"});
-        QCOMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+        QCOMPARE(cinema->Device.Position(), cinema->Device.Length());
         QTRY_VERIFY(!Shown().isNull());
         const QImage last = Shown();
         Do({"step"});
@@ -202,48 +202,48 @@ private Q_SLOTS:
         QCOMPARE(Shown(), last);
         Do({"next", "play"});
         QTRY_VERIFY(Shown() != last);
-        QCOMPARE(Cinema->Device.State(), Mode::Playing);
-        QVERIFY(Cinema->Device.Position() < 1000);
+        QCOMPARE(cinema->Device.State(), Mode::Playing);
+        QVERIFY(cinema->Device.Position() < 1000);
     }
 
     void a_command_given_before_the_file_is_known_is_carried_out_then()
     {
         SetMovie();
         Do({"open", "next"});
-        QTRY_VERIFY(Cinema->Device.Length() > 0);
-        QTRY_COMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+        QTRY_VERIFY(cinema->Device.Length() > 0);
+        QTRY_COMPARE(cinema->Device.Position(), cinema->Device.Length());
         Do({"open", "play"});
         QTRY_VERIFY(!Shown().isNull());
-        QCOMPARE(Cinema->Device.State(), Mode::Playing);
+        QCOMPARE(cinema->Device.State(), Mode::Playing);
     }
 
     void a_place_is_sought_while_it_stands_and_while_it_plays()
     {
         OpenMovie();
-        Cinema->Device.Seek(1500);
-        QCOMPARE(Cinema->Device.Position(), 1500);
+        cinema->Device.Seek(1500);
+        QCOMPARE(cinema->Device.Position(), 1500);
         QTRY_VERIFY(!Shown().isNull());
-        QCOMPARE(Cinema->Device.State(), Mode::Stopped);
+        QCOMPARE(cinema->Device.State(), Mode::Stopped);
         Do({"play"});
-        Cinema->Device.Seek(200);
-        QCOMPARE(Cinema->Device.State(), Mode::Playing);
-        QTRY_VERIFY((Clock::Turn(10), Cinema->Device.Position() > 200));
-        QVERIFY(Cinema->Device.Position() < 1500);
-        Cinema->Device.Seek(-50);
-        QCOMPARE(Cinema->Device.Position(), 0);
-        Cinema->Device.Seek(1'000'000);
-        QCOMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+        cinema->Device.Seek(200);
+        QCOMPARE(cinema->Device.State(), Mode::Playing);
+        QTRY_VERIFY((Clock::Turn(10), cinema->Device.Position() > 200));
+        QVERIFY(cinema->Device.Position() < 1500);
+        cinema->Device.Seek(-50);
+        QCOMPARE(cinema->Device.Position(), 0);
+        cinema->Device.Seek(1'000'000);
+        QCOMPARE(cinema->Device.Position(), cinema->Device.Length());
     }
 
     void the_display_may_be_given_before_or_after_the_movie_was_opened()
     {
         SetMovie();
-        Cinema->Device.SetDisplay(nullptr);
+        cinema->Device.SetDisplay(nullptr);
         Do({"open", "play"});
-        QTRY_VERIFY(Cinema->Device.Length() > 0);
+        QTRY_VERIFY(cinema->Device.Length() > 0);
         Turn(100);
         QVERIFY(Shown().isNull());
-        Cinema->Device.SetDisplay(&Cinema->PicMovie);
+        cinema->Device.SetDisplay(&cinema->PicMovie);
         QTRY_VERIFY((Clock::Turn(20), !Shown().isNull()));
     }
 
@@ -253,13 +253,13 @@ private Q_SLOTS:
         Do({"step"});
         QTRY_VERIFY(!Shown().isNull());
         const QImage picture = Shown();
-        Cinema->Device.SetDisplay(&Cinema->Other);
-        QVERIFY(PaneOn(Cinema->PicMovie) == nullptr);
-        QVERIFY(PaneOn(Cinema->Other) != nullptr);
-        QCOMPARE(PaneOn(Cinema->Other)->Picture(), picture);
-        QCOMPARE(PaneOn(Cinema->Other)->PlaceOfPicture(), QRect(40, 0, 80, 60));
-        Cinema->Device.SetDisplay(nullptr);
-        QVERIFY(PaneOn(Cinema->Other) == nullptr);
+        cinema->Device.SetDisplay(&cinema->Other);
+        QVERIFY(PaneOn(cinema->PicMovie) == nullptr);
+        QVERIFY(PaneOn(cinema->Other) != nullptr);
+        QCOMPARE(PaneOn(cinema->Other)->Picture(), picture);
+        QCOMPARE(PaneOn(cinema->Other)->PlaceOfPicture(), QRect(40, 0, 80, 60));
+        cinema->Device.SetDisplay(nullptr);
+        QVERIFY(PaneOn(cinema->Other) == nullptr);
         Do({"step"});
         UiRoom::Settle();
     }
@@ -271,23 +271,23 @@ private Q_SLOTS:
         QTRY_VERIFY(!Shown().isNull());
         Do({"close"});
         QVERIFY(Shown().isNull());
-        QCOMPARE(Cinema->Device.State(), Mode::NotOpen);
-        QCOMPARE(Cinema->Device.Position(), 0);
-        QCOMPARE(Cinema->Device.Length(), 0);
+        QCOMPARE(cinema->Device.State(), Mode::NotOpen);
+        QCOMPARE(cinema->Device.Position(), 0);
+        QCOMPARE(cinema->Device.Length(), 0);
     }
 
     void a_sound_device_shows_no_pictures()
     {
         OpenMovie();
-        Cinema->Device.SetDeviceType(u"WaveAudio"_s);
+        cinema->Device.SetDeviceType(u"WaveAudio"_s);
         Do({"play"});
-        QTRY_VERIFY((Clock::Turn(50), Cinema->Device.Position() > 500));
+        QTRY_VERIFY((Clock::Turn(50), cinema->Device.Position() > 500));
         QVERIFY(Shown().isNull());
     }
 
     void a_sound_ends_without_an_audio_device()
     {
-        MediaControl& device = Cinema->Device;
+        MediaControl& device = cinema->Device;
         device.SetDeviceType(u"WaveAudio"_s);
         device.SetFileName(folder_.Add(u"horns.wav"_s, Wave()));
         Do({"open", "play"});
@@ -301,7 +301,7 @@ private Q_SLOTS:
 
     void a_sound_that_stands_lets_the_machine_rest()
     {
-        MediaControl& device = Cinema->Device;
+        MediaControl& device = cinema->Device;
         device.SetFileName(folder_.Add(u"horns.wav"_s, Wave()));
         Do({"open", "play"});
         QTRY_VERIFY((Clock::Turn(50), device.Position() > 200));
@@ -318,10 +318,10 @@ private Q_SLOTS:
         Do({"play"});
         QTRY_VERIFY(!Shown().isNull());
         folder_.Remove(u"movie.avi"_s);
-        QTRY_COMPARE((Clock::Turn(100), Cinema->Device.State()), Mode::Stopped);
+        QTRY_COMPARE((Clock::Turn(100), cinema->Device.State()), Mode::Stopped);
         Do({"prev", "play", "stop", "close", "open", "play"});
-        QTRY_COMPARE(Cinema->Device.State(), Mode::NotOpen);
-        QVERIFY(Cinema->Device.IsOpen());
+        QTRY_COMPARE(cinema->Device.State(), Mode::NotOpen);
+        QVERIFY(cinema->Device.IsOpen());
     }
 
     void a_movie_that_ends_early_stops_where_it_ends()
@@ -329,10 +329,10 @@ private Q_SLOTS:
         const QByteArray whole = TestMovie::Avi();
         OpenMovie(whole.left(whole.size() / 2));
         Do({"play"});
-        QTRY_COMPARE((Clock::Turn(100), Cinema->Device.State()), Mode::Stopped);
-        QVERIFY(Cinema->Device.Position() < 1700);
-        QVERIFY(Cinema->Device.Position() > 300);
-        QCOMPARE(Cinema->Device.Position(), Cinema->Device.Length());
+        QTRY_COMPARE((Clock::Turn(100), cinema->Device.State()), Mode::Stopped);
+        QVERIFY(cinema->Device.Position() < 1700);
+        QVERIFY(cinema->Device.Position() > 300);
+        QCOMPARE(cinema->Device.Position(), cinema->Device.Length());
     }
 
     void a_file_of_another_kind_is_not_open_soon_after_data()
@@ -342,7 +342,7 @@ private Q_SLOTS:
     void a_file_of_another_kind_is_not_open_soon_after()
     {
         QFETCH(const QByteArray, bytes);
-        MediaControl& device = Cinema->Device;
+        MediaControl& device = cinema->Device;
         device.SetFileName(bytes.isEmpty() ? folder_.PathOf(u"none.avi"_s)
                                            : folder_.Add(u"damaged.avi"_s, bytes.left(60)));
         Do({"open", "play"});
@@ -354,23 +354,23 @@ private Q_SLOTS:
     void what_changes_is_told()
     {
         int told = 0;
-        Cinema->Device.Changed = [&told] { ++told; };
+        cinema->Device.changed = [&told] { ++told; };
         OpenMovie();
         QVERIFY(told >= 2);
         const int before = told;
         Do({"play"});
         QVERIFY(told > before);
-        QTRY_VERIFY((Clock::Turn(100), Cinema->Device.State() == Mode::Stopped));
+        QTRY_VERIFY((Clock::Turn(100), cinema->Device.State() == Mode::Stopped));
         QVERIFY(told > before + 2);
     }
 
     void the_flags_are_kept_as_they_are_set()
     {
-        MediaControl& device = Cinema->Device;
-        device.Notify = device.Shareable = false;
-        device.Wait = true;
+        MediaControl& device = cinema->Device;
+        device.notify = device.shareable = false;
+        device.wait = true;
         Do({"open"});
-        QVERIFY(device.Wait && !device.Notify && !device.Shareable);
+        QVERIFY(device.wait && !device.notify && !device.shareable);
     }
 
     void opening_does_not_keep_the_window_waiting()
@@ -494,15 +494,15 @@ private Q_SLOTS:
 private:
     void SetMovie(const QByteArray& bytes = TestMovie::Avi())
     {
-        Cinema->Device.SetDeviceType(u"AVIVideo"_s);
-        Cinema->Device.SetFileName(folder_.Add(u"movie.avi"_s, bytes));
-        Cinema->Device.SetDisplay(&Cinema->PicMovie);
+        cinema->Device.SetDeviceType(u"AVIVideo"_s);
+        cinema->Device.SetFileName(folder_.Add(u"movie.avi"_s, bytes));
+        cinema->Device.SetDisplay(&cinema->PicMovie);
     }
     void OpenMovie(const QByteArray& bytes = TestMovie::Avi())
     {
         SetMovie(bytes);
         Do({"open"});
-        QTRY_VERIFY(Cinema->Device.Length() > 0);
+        QTRY_VERIFY(cinema->Device.Length() > 0);
     }
     /// Lets the movie begin, then time pass.
     static void Turn(int milliseconds)

@@ -1,6 +1,7 @@
 #include "support/test_class.h"
 #include "ui/look/look.h"
 #include "ui/media/media_symbol.h"
+#include "ui/pixels.h"
 
 #include <QImage>
 #include <QPainter>
@@ -23,7 +24,7 @@ QImage Drawn(MediaButton button, bool enabled = true, double factor = 1)
     return image;
 }
 
-/// The columns of the middle row that are dark, as pairs of the first and the one behind the last.
+/// The columns of the middle row that are dark, as pairs of the first and the one after the last.
 QList<std::pair<int, int>> DarkRuns(const QImage& image, int y)
 {
     QList<std::pair<int, int>> runs;
@@ -35,15 +36,6 @@ QList<std::pair<int, int>> DarkRuns(const QImage& image, int y)
         runs.last().second = x + 1;
     }
     return runs;
-}
-
-int PixelsOf(const QImage& image, const QColor& colour)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            count += image.pixelColor(x, y) == colour ? 1 : 0;
-    return count;
 }
 
 } // namespace

@@ -19,17 +19,17 @@ struct PlayerForm : Form {
     MMControl MMControl1{*this, u"MMControl1"_s, {0, 0, 4500, 780}}; // 300 by 52 pixels
 };
 
-FormHandle<PlayerForm> Player;
+FormHandle<PlayerForm> player;
 
 MMControl& Bar()
 {
-    return Player->MMControl1;
+    return player->MMControl1;
 }
 
 template <typename T>
 T& Part(const char* name)
 {
-    auto* part = Player->Window().findChild<T*>(u"MMControl1(%1)"_s.arg(QString::fromLatin1(name)));
+    auto* part = player->Window().findChild<T*>(u"MMControl1(%1)"_s.arg(QString::fromLatin1(name)));
     if (part == nullptr)
         qFatal("there is no such part");
     return *part;
@@ -63,7 +63,7 @@ private Q_SLOTS:
     {
         room_ = std::make_unique<UiRoom>();
         Clock::StopAt(QDateTime(QDate(2001, 6, 17), QTime(14, 5, 9)));
-        QVERIFY(UiRoom::Open(*Player));
+        QVERIFY(UiRoom::Open(*player));
     }
     void cleanup() { room_.reset(); }
 
@@ -81,24 +81,24 @@ private Q_SLOTS:
         Open();
         QCOMPARE(Enabled(), standing);
         Press("Play");
-        QCOMPARE(Bar().Device.State(), Mode::Playing);
+        QCOMPARE(Bar().device.State(), Mode::Playing);
         QCOMPARE(Enabled(), (QStringList{"Prev", "Next", "Pause", "Stop"}));
         Press("Pause");
-        QCOMPARE(Bar().Device.State(), Mode::Paused);
+        QCOMPARE(Bar().device.State(), Mode::Paused);
         QCOMPARE(Enabled(), (QStringList{"Prev", "Next", "Play", "Pause", "Back", "Step", "Stop"}));
         Press("Stop");
         QCOMPARE(Enabled(), standing);
         Press("Play");
-        QTRY_VERIFY((Clock::Turn(200), Bar().Device.State() == Mode::Stopped));
+        QTRY_VERIFY((Clock::Turn(200), Bar().device.State() == Mode::Stopped));
         QCOMPARE(Enabled(), standing);
-        Bar().Device.Command(u"close"_s);
+        Bar().device.Command(u"close"_s);
         QCOMPARE(Enabled(), QStringList());
     }
 
     void a_file_that_is_no_movie_leaves_no_button_to_press()
     {
-        Bar().Device.SetFileName(folder_.Add(u"text.avi"_s, "no movie"));
-        Bar().Device.Command(u"open"_s);
+        Bar().device.SetFileName(folder_.Add(u"text.avi"_s, "no movie"));
+        Bar().device.Command(u"open"_s);
         QTRY_COMPARE(Enabled(), QStringList());
     }
 
@@ -106,15 +106,15 @@ private Q_SLOTS:
     {
         Open();
         Press("Step");
-        QVERIFY(std::abs(Bar().Device.Position() - 67) <= 1);
+        QVERIFY(std::abs(Bar().device.Position() - 67) <= 1);
         Press("Next");
-        QCOMPARE(Bar().Device.Position(), Bar().Device.Length());
+        QCOMPARE(Bar().device.Position(), Bar().device.Length());
         Press("Prev");
-        QCOMPARE(Bar().Device.Position(), 0);
+        QCOMPARE(Bar().device.Position(), 0);
         Press("Play");
         Press("Pause");
         Press("Pause");
-        QCOMPARE(Bar().Device.State(), Mode::Playing);
+        QCOMPARE(Bar().device.State(), Mode::Playing);
     }
 
     void a_bound_handler_takes_the_place_of_the_command()
@@ -124,7 +124,7 @@ private Q_SLOTS:
         Open();
         Press("Play");
         QCOMPARE(pressed, 1);
-        QCOMPARE(Bar().Device.State(), Mode::Stopped);
+        QCOMPARE(Bar().device.State(), Mode::Stopped);
     }
 
     void the_position_is_shown_in_minutes_and_seconds()
@@ -133,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(track.TimeText(), u"0:00 / 0:00"_s);
         Open();
         QCOMPARE(track.TimeText(), u"0:00 / 0:02"_s);
-        Bar().Device.Seek(1400);
+        Bar().device.Seek(1400);
         QCOMPARE(track.value(), 1400);
         QCOMPARE(track.TimeText(), u"0:01 / 0:02"_s);
         track.ShowPlace(83'000, 600'000);
@@ -152,14 +152,14 @@ private Q_SLOTS:
         Open();
         auto& track = Part<MediaTrack>("Position");
         QTest::mouseClick(&track, Qt::LeftButton, {}, QPoint(0, track.height() / 2));
-        QCOMPARE(Bar().Device.Position(), 0);
+        QCOMPARE(Bar().device.Position(), 0);
         const int end = track.width() - 84; // the time stands behind the groove
         QTest::mouseClick(&track, Qt::LeftButton, {}, QPoint(end / 2, track.height() / 2));
-        QVERIFY(std::abs(Bar().Device.Position() - Bar().Device.Length() / 2) < 50);
+        QVERIFY(std::abs(Bar().device.Position() - Bar().device.Length() / 2) < 50);
         QTest::mouseClick(&track, Qt::LeftButton, {}, QPoint(end, track.height() / 2));
-        QCOMPARE(Bar().Device.Position(), Bar().Device.Length());
+        QCOMPARE(Bar().device.Position(), Bar().device.Length());
         QTest::mouseClick(&track, Qt::RightButton, {}, QPoint(0, track.height() / 2));
-        QCOMPARE(Bar().Device.Position(), Bar().Device.Length());
+        QCOMPARE(Bar().device.Position(), Bar().device.Length());
     }
 
     void the_arrow_keys_move_the_position()
@@ -168,9 +168,9 @@ private Q_SLOTS:
         auto& track = Part<MediaTrack>("Position");
         track.setFocus();
         QTest::keyClick(&track, Qt::Key_Right);
-        QCOMPARE(Bar().Device.Position(), 250);
+        QCOMPARE(Bar().device.Position(), 250);
         QTest::keyClick(&track, Qt::Key_Left);
-        QCOMPARE(Bar().Device.Position(), 0);
+        QCOMPARE(Bar().device.Position(), 0);
     }
 
     void the_buttons_leave_the_foot_to_the_position()
@@ -200,10 +200,10 @@ private Q_SLOTS:
 private:
     void Open()
     {
-        Bar().Device.SetDeviceType(u"AVIVideo"_s);
-        Bar().Device.SetFileName(folder_.Add(u"movie.avi"_s, TestMovie::Avi()));
-        Bar().Device.Command(u"open"_s);
-        QTRY_VERIFY(Bar().Device.Length() > 0);
+        Bar().device.SetDeviceType(u"AVIVideo"_s);
+        Bar().device.SetFileName(folder_.Add(u"movie.avi"_s, TestMovie::Avi()));
+        Bar().device.Command(u"open"_s);
+        QTRY_VERIFY(Bar().device.Length() > 0);
     }
 
     PictureFolder folder_;

@@ -86,7 +86,7 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, bytes);
         for (qsizetype length = 0; length < bytes.size() - 12;
-             length += 7) { // behind that a PNG holds but its end
+             length += 7) { // after that a PNG holds but its end
             const QString path = folder_.Add(u"cut.jpg"_s, bytes.left(length));
             const int failed = ResumeNext([&] { Picture::Load(path).Natural(); });
             QVERIFY2(failed == 481, qPrintable(QString::number(length)));
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(ResumeNext([&] { Picture::Load(over); }), 481);
     }
 
-    void a_picture_larger_than_the_platforms_own_limit_loads()
+    void a_picture_larger_than_qts_own_limit_loads()
     {
         const Picture large =
             Picture::Load(folder_.Add(u"large.jpg"_s, Encoded(FourCorners({7000, 6000}), "jpg")));

@@ -27,9 +27,9 @@ private Q_SLOTS:
         QTRY_VERIFY(IsReadAhead(path, area));
         const auto ready = PictureReadAhead(path, area);
         QVERIFY(ready);
-        QCOMPARE(ready->File.FileName(), u"67A.JPG"_s);
-        QCOMPARE(ready->File.NaturalSize(), QSize(64, 48));
-        QCOMPARE(ready->Drawn, Picture::Load(path).Fitted(area));
+        QCOMPARE(ready->file.FileName(), u"67A.JPG"_s);
+        QCOMPARE(ready->file.NaturalSize(), QSize(64, 48));
+        QCOMPARE(ready->drawn, Picture::Load(path).Fitted(area));
     }
 
     void what_was_not_asked_for_is_not_there()
@@ -58,7 +58,7 @@ private Q_SLOTS:
         ReadPicturesAhead({path}, {}, area * 2);
         QVERIFY(!PictureReadAhead(path, area));
         QTRY_VERIFY(IsReadAhead(path, area * 2));
-        QCOMPARE(PictureReadAhead(path, area * 2)->Drawn.height(), 200);
+        QCOMPARE(PictureReadAhead(path, area * 2)->drawn.height(), 200);
     }
 
     void the_next_wishes_drop_all_but_what_is_to_be_kept()

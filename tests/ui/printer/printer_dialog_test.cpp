@@ -110,14 +110,14 @@ private Q_SLOTS:
             Press("OK");
         });
         QVERIFY(chosen.has_value());
-        QCOMPARE(chosen->Paper, a4);
+        QCOMPARE(chosen->paper, a4);
     }
 
     void a_printer_that_is_gone_gives_way_to_the_first()
     {
         const auto chosen = Answer({u"Gone"_s, a4}, [] { Press("OK"); });
         QVERIFY(chosen.has_value());
-        QCOMPARE(chosen->Name, u"Laser"_s);
+        QCOMPARE(chosen->name, u"Laser"_s);
     }
 
     void cancel_and_escape_bring_nothing_back()
@@ -145,7 +145,7 @@ private Q_SLOTS:
     void a_responder_answers_in_place_of_the_dialog()
     {
         SetPrinterResponder([](const PrinterSetup& present, const QList<PrinterOption>& offered) {
-            return std::optional(PrinterSetup{offered.last().Name, present.Paper});
+            return std::optional(PrinterSetup{offered.last().name, present.paper});
         });
         const auto chosen = AskForPrinter({u"Laser"_s, letter}, choices);
         QVERIFY(chosen.has_value());
@@ -153,13 +153,13 @@ private Q_SLOTS:
     }
 
 private:
-    std::optional<PrinterSetup> Answer(const PrinterSetup& present, std::function<void()> action)
+    std::optional<PrinterSetup> Answer(const PrinterSetup& present, const std::function<void()>& action)
     {
-        const ModalVisit visit(std::move(action), [] {
+        const ModalVisit visit(action, [] {
             if (Shown() != nullptr)
                 Shown()->reject();
         });
-        const auto chosen = AskForPrinter(present, choices);
+        auto chosen = AskForPrinter(present, choices);
         if (!visit.Ran())
             qFatal("no dialog came up");
         return chosen;

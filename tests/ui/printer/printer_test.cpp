@@ -307,13 +307,13 @@ private Q_SLOTS:
     {
         const QList<PrinterOption> choices = Printer.Choices();
         QCOMPARE(choices.size(), 1); // the folder that the program was told takes every job
-        QCOMPARE(choices.first().Name, QString());
-        QCOMPARE(choices.first().Title, u"PDF files in "_s + printed_->Path());
-        QVERIFY(choices.first().Papers.contains(QPageSize(QPageSize::A4)));
-        QVERIFY(choices.first().Papers.contains(QPageSize(QPageSize::Letter)));
+        QCOMPARE(choices.first().name, QString());
+        QCOMPARE(choices.first().title, u"PDF files in "_s + printed_->Path());
+        QVERIFY(choices.first().papers.contains(QPageSize(QPageSize::A4)));
+        QVERIFY(choices.first().papers.contains(QPageSize(QPageSize::Letter)));
         Printer.PrintTo({});
         QCOMPARE(Printer.Choices().size(), QPrinterInfo::availablePrinterNames().size() + 1);
-        QCOMPARE(Printer.Choices().last().Title, u"PDF files in "_s + DocumentsFolder());
+        QCOMPARE(Printer.Choices().last().title, u"PDF files in "_s + DocumentsFolder());
     }
 
     void a_folder_that_was_told_goes_before_a_printer_that_was_chosen()

@@ -9,7 +9,7 @@ from support.program import BOX_TITLE, SPLASH_TITLE
 MOVIES = {"drive.avi": bytes(range(256)) * 300, "Race.AVI": b"short"}
 
 
-class LocalCopies(ProgramTest):
+class HardDriveCopies(ProgramTest):
     def setUp(self):
         super().setUp()
         self.disc = self.make_disc()

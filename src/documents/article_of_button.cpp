@@ -1,4 +1,4 @@
-#include "documents/find_article.h"
+#include "documents/article_of_button.h"
 
 #include "platform/files/files.h"
 #include "program/program_state.h"
@@ -9,10 +9,10 @@ namespace torvik {
 QString FindArticle(ArticleButton button)
 {
     const Article article = ArticleOf(button, Form1->panYear.Caption());
-    state.DocumentFile = FindFile(state.DiscRoot + article.File);
+    state.DocumentFile = FindFile(state.DiscRoot + article.file);
     if (!state.DocumentFile.isEmpty())
         state.DocumentFile = state.DiscRoot + ArticleFolder(button) + state.DocumentFile;
-    return article.WindowTitle;
+    return article.windowTitle;
 }
 
 } // namespace torvik

@@ -1,4 +1,4 @@
-#include "platform/paths/path_lookup.h"
+#include "platform/paths/case_insensitive_lookup.h"
 #include "support/disc_folder.h"
 #include "support/failure_of.h"
 #include "support/test_class.h"
@@ -169,4 +169,4 @@ private Q_SLOTS:
 };
 
 TORVIK_TEST(PathLookupTest)
-#include "path_lookup_test.moc"
+#include "case_insensitive_lookup_test.moc"

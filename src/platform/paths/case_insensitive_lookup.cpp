@@ -1,4 +1,4 @@
-#include "platform/paths/path_lookup.h"
+#include "platform/paths/case_insensitive_lookup.h"
 
 #include "platform/paths/folder_index.h"
 #include "runtime/failure.h"
