@@ -42,6 +42,15 @@ double ProcessorSeconds(int whose)
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
+double MebibytesIn(const QString& folder)
+{
+    qint64 bytes = 0;
+    const QFileInfoList files = QDir(folder).entryInfoList({u"*.pdf"_s});
+    for (const QFileInfo& file : files)
+        bytes += file.size();
+    return static_cast<double>(bytes) / (1024 * 1024);
+}
+
 double PeakMebibytes()
 {
     rusage usage{};
@@ -96,8 +105,8 @@ void ConvertWithOfficeSuite(const QString& disc, double ours)
     process.waitForFinished(-1);
     const double taken = ProcessorSeconds(RUSAGE_CHILDREN) - before;
     const auto made = QDir(folder.path()).entryList({u"*.pdf"_s}).size();
-    std::printf("an office suite on the same documents: %.1f s for %d files, ratio %.2f\n", taken,
-                static_cast<int>(made), ours / taken);
+    std::printf("an office suite on the same documents: %.1f s for %d files of %.1f MiB, ratio %.2f\n", taken,
+                static_cast<int>(made), MebibytesIn(folder.path()), ours / taken);
 }
 
 } // namespace
@@ -138,6 +147,7 @@ int main(int argc, char** argv)
     }
     const bool isQuick = Report("the booklet of all years, processor time", "s", taken, mostSeconds);
     const bool isSmall = Report("the booklet of all years, memory", "MiB", PeakMebibytes(), mostMebibytes);
+    std::printf("the booklet of all years, its files: %.1f MiB\n", MebibytesIn(printed.path()));
     ConvertWithOfficeSuite(disc, taken);
     return isQuick && isSmall ? 0 : 1;
 }

@@ -1,11 +1,13 @@
 // A photo step, from the key press to the painted photo, against a bare decode at a reduced size and one
-// smooth scale to the same rectangle.
+// smooth scale to the same rectangle: onto a photo that was not read ahead, onto one that is ready, and with
+// the key held down at 30 presses a second.
 
 #include "bind_handlers.h"
 #include "browsing.h"
 #include "measure.h"
 #include "scene.h"
 #include "ui/forms/form_window.h"
+#include "ui/pictures/pictures_ahead.h"
 
 #include <QApplication>
 #include <QDir>
@@ -14,6 +16,10 @@
 #include <QKeyEvent>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <thread>
 #include <turbojpeg.h>
 #include <vector>
 
@@ -24,6 +30,11 @@ namespace {
 constexpr int photoCount = 6;
 constexpr int rounds = 12;
 constexpr double limit = 1.3;
+constexpr double readyLimit = 5; // processor milliseconds of the window's thread
+constexpr int heldSteps = 90;
+constexpr std::chrono::duration<double, std::milli> heldPeriod{1000.0 / 30};
+constexpr double mostLag = 2; // photos
+constexpr qint64 mostHeld = 64LL * 1024 * 1024;
 
 QStringList MakePhotos(const QString& folder, const QSize& size)
 {
@@ -85,6 +96,66 @@ void PressPeriod()
     torvik::Form1->Window().repaint();
 }
 
+double ThreadMilliseconds()
+{
+    std::timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+QString PathOfPhoto(int number)
+{
+    return u"E:\\Torviks\\67TOR00%1.JPG"_s.arg(number % photoCount);
+}
+
+int ShownPhoto()
+{
+    return torvik::Form1->Image4.Picture().FileName().mid(5, 3).toInt();
+}
+
+/// Processor milliseconds of the window's thread for a step onto a photo that is ready.
+bool MeasureReady(double bare)
+{
+    using namespace torvik;
+    std::vector<double> figures;
+    qint64 held = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const QString next = PathOfPhoto(ShownPhoto() + 1);
+        while (!Form1->Image4.HasReadAhead(next))
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        held = std::max(held, BytesReadAhead());
+        const double before = ThreadMilliseconds();
+        PressPeriod();
+        figures.push_back(ThreadMilliseconds() - before);
+    }
+    std::printf("held for it: %.1f MiB at most\n", static_cast<double>(held) / (1024 * 1024));
+    return bench::Report("photo step onto a ready photo", "ms", bench::Median(figures), bare,
+                         readyLimit / bare) &&
+           held <= mostHeld;
+}
+
+/// The key held down: what is shown is late by how many photos, and is any left out?
+bool MeasureHeld()
+{
+    using Clock = std::chrono::steady_clock;
+    const auto begin = Clock::now();
+    double worst = 0;
+    int skipped = 0;
+    for (int step = 1; step <= heldSteps; ++step) {
+        const auto due = begin + std::chrono::duration_cast<Clock::duration>(heldPeriod * step);
+        std::this_thread::sleep_until(due);
+        const int before = ShownPhoto();
+        PressPeriod();
+        skipped += ShownPhoto() == (before + 1) % photoCount ? 0 : 1;
+        worst = std::max(worst, (Clock::now() - due) / heldPeriod);
+    }
+    const bool isOk = skipped == 0 && worst < mostLag;
+    std::printf("the key held down for %d photos at 30 a second: %.2f photos late at most, %d skipped, "
+                "limit %.0f, %s\n",
+                heldSteps, worst, skipped, mostLag, isOk ? "ok" : "over");
+    return isOk;
+}
+
 bool Measure(const char* name, const QSize& size)
 {
     using namespace torvik;
@@ -105,11 +176,16 @@ bool Measure(const char* name, const QSize& size)
         const QString& photo = photos[round % photoCount];
         baselines.push_back(
             bench::Milliseconds([&] { whole = !BareDecode(decoder, photo, area).isNull() && whole; }));
+        ForgetPicturesAhead();
         figures.push_back(bench::Milliseconds(PressPeriod));
     }
     tjDestroy(decoder);
+    const double bare = bench::Median(baselines);
+    bool isOk = bench::Report(name, "ms", bench::Median(figures), bare, limit) && whole;
+    isOk = MeasureReady(bare) && isOk;
+    isOk = MeasureHeld() && isOk;
     FormHandleBase::DiscardAll();
-    return bench::Report(name, "ms", bench::Median(figures), bench::Median(baselines), limit) && whole;
+    return isOk;
 }
 
 } // namespace

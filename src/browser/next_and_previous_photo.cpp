@@ -1,6 +1,7 @@
 #include "browser/next_and_previous_photo.h"
 
 #include "browser/bind_browser.h"
+#include "browser/neighbours.h"
 #include "browser/photo_caption.h"
 #include "program/catalogue/topics.h"
 #include "program/photo_list.h"
@@ -77,7 +78,7 @@ bool ScanBackward()
 }
 
 /// A photo before it that could not be loaded may have hidden the pane.
-void ShowPhoto(int index)
+void ShowPhoto(int index, Walk walk)
 {
     Form1->Image4.Load(state.PhotoFiles(index));
     Form1->Image4.Show();
@@ -85,6 +86,7 @@ void ShowPhoto(int index)
     if (state.ShowFileNames)
         Form1->txtFile.SetText(ShortNameOfPhoto(state.PhotoFiles(index)));
     state.CurrentPhotoFile = state.PhotoFiles(index);
+    ReadNeighboursAhead(index, walk);
 }
 
 /// The focus stays on the button after the year on show, so that a key pressed again walks on.
@@ -148,7 +150,7 @@ void StepPhotoForward()
                 return;
             }
             state.PhotoIndex += 1;
-            ShowPhoto(state.PhotoIndex);
+            ShowPhoto(state.PhotoIndex, Walk::Forward);
             state.ShownPhotoIndex = state.PhotoIndex;
             FocusAfterStep();
             if (Form1->rtbDetails.Visible())
@@ -190,7 +192,7 @@ void StepPhotoBackward()
                 before.PutBack();
                 return;
             }
-            ShowPhoto(state.PhotoIndex);
+            ShowPhoto(state.PhotoIndex, Walk::Backward);
             state.PhotoIndex -= 1;
         },
         ReportError);

@@ -1,6 +1,7 @@
 #include "browser/select_year.h"
 
 #include "browser/browse_from_start.h"
+#include "browser/neighbours.h"
 #include "browser/restore_main_window.h"
 #include "program/catalogue/topics.h"
 #include "program/photo_name.h"
@@ -67,6 +68,7 @@ void ShowFirstPhoto()
         [] {
             Form1->Image4.Load(state.CurrentPhotoFile);
             Form1->Image4.Show();
+            ReadNeighboursAhead(state.PhotoIndex, Walk::Forward);
         },
         ReportMissingPhoto);
 }

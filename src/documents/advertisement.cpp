@@ -26,7 +26,9 @@ void FillScreen()
     frmScroll->SetLeft(0);
 }
 
-/// There is no list of advertisements: a year without one is found out by trying to load it.
+/// There is no list of advertisements: a year without one is found out by trying to load it. The page is read
+/// and decoded once; the view of the whole page, which lies behind the other, is drawn when it comes to
+/// light.
 void LoadPage()
 {
     frmScrollControls& form = *frmScroll;
@@ -37,7 +39,7 @@ void LoadPage()
     form.HScroll1.Hide();
     form.VScroll1.Hide();
     form.picChild.Load(state.DocumentFile);
-    form.Image1.Load(state.DocumentFile);
+    form.Image1.ShowWhenSeen(form.picChild.Picture());
     form.Image1.Move(form.picChild.Left(), form.picChild.Top(), 620, form.picParent.Height());
     form.Image1.ZOrder();
 }

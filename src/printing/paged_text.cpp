@@ -20,10 +20,12 @@ namespace torvik {
 
 namespace {
 
-/// A font in pixels is measured for the screen; on paper it would shrink to a speck.
+/// A font in pixels is measured for the screen; on paper it would shrink to a speck. Nobody sees hinting
+/// there, and it takes time for every letter.
 QFont FontForPaper(QFont font)
 {
     constexpr double pointsPerPixel = 72.0 / 96.0;
+    font.setHintingPreference(QFont::PreferNoHinting);
     if (font.pixelSize() > 0)
         font.setPointSizeF(font.pixelSize() * pointsPerPixel);
     return font;
@@ -94,6 +96,7 @@ double ScreenResolution()
 PagedText::PagedText(const QTextDocument& text, QPaintDevice& device, const QSizeF& page)
     : text_(text.clone()), page_(page), scale_(device.logicalDpiY() / ScreenResolution())
 {
+    text_->setLayoutEnabled(false); // until device and page are known: it would be laid out for each of them
     text_->setUndoRedoEnabled(false);
     text_->setDefaultFont(FontForPaper(text.defaultFont()));
     text_->setDocumentMargin(0);
@@ -101,6 +104,7 @@ PagedText::PagedText(const QTextDocument& text, QPaintDevice& device, const QSiz
     ScaleLetterSpacing(*text_, scale_);
     text_->documentLayout()->setPaintDevice(&device);
     text_->setPageSize(page_);
+    text_->setLayoutEnabled(true);
     FitPicturesToPages(*text_, scale_);
     KeepParagraphsTogether(*text_);
     FitPicturesToPages(*text_, scale_); // what moved may have brought a picture to a page's end

@@ -5,6 +5,7 @@
 #include "program/report_error.h"
 #include "runtime/failure.h"
 #include "runtime/text.h"
+#include "ui/pictures/pictures_ahead.h"
 
 #include <algorithm>
 #include <new>
@@ -92,6 +93,7 @@ void NumberPhotos(const QString& folder)
 void BuildPhotoSet()
 {
     state.ErrorCode = u"ER037"_s;
+    ForgetPicturesAhead();
     const QString folder = state.PhotoRoot + torviksFolder;
     if (!ListNames(folder))
         return;

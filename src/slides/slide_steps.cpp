@@ -27,9 +27,9 @@ int IndexAfter(int index)
     return std::min(index + 1, state.PhotoCount + 1);
 }
 
-void ShowSlideWithCaption()
+void ShowSlideWithCaption(SlideWalk walk = SlideWalk::Forward)
 {
-    LoadSlide();
+    LoadSlide(walk);
     SetSlideCaption();
     frmSlide->panYear.Show();
 }
@@ -127,7 +127,7 @@ void SlideStepBack()
     OnError(
         [] {
             state.PhotoIndex = state.PhotoIndex >= 2 ? state.PhotoIndex - 1 : int{state.PhotoCount};
-            ShowSlideWithCaption();
+            ShowSlideWithCaption(SlideWalk::Backward);
         },
         [] { ReportSlideFailure(u"ER015"_s); });
     frmSlide->SSCommand1.SetFocus();

@@ -8,6 +8,7 @@
 #include "runtime/failure.h"
 #include "runtime/logging.h"
 #include "runtime/text.h"
+#include "ui/pictures/pictures_ahead.h"
 #include "windows/splash.h"
 
 using namespace Qt::StringLiterals;
@@ -60,6 +61,7 @@ void FindDisc()
     QString letter;
     for (;;) {
         state.ErrorCode = u"ER001"_s;
+        ForgetPicturesAhead();
         ResumeNext(RefreshDrives);
         if (HoldsPhotos(ProgramFolder()))
             state.PhotoRoot = ProgramFolder();

@@ -7,6 +7,8 @@
 #include "windows/main_window.h"
 #include "windows/page_window.h"
 
+#include <QLabel>
+
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
@@ -308,6 +310,29 @@ private Q_SLOTS:
         QVERIFY(Form1->Enabled());
     }
 
+    void the_page_is_decoded_once_however_far_it_is_scrolled()
+    {
+        OpenPage({1240, 1610});
+        const qint64 page = Drawn(frmScroll->picChild).cacheKey();
+        for (const int value : {1, 40, 300, 0})
+            frmScroll->VScroll1.SetValue(value);
+        frmScroll->HScroll1.SetValue(100);
+        program_->Settle();
+        QCOMPARE(Drawn(frmScroll->picChild).cacheKey(), page);
+    }
+
+    void the_whole_page_is_drawn_when_it_comes_to_light()
+    {
+        OpenPage({1240, 1610});
+        QVERIFY(Drawn(frmScroll->Image1).isNull());
+        program_->Click(frmScroll->picChild);
+        QCOMPARE(Drawn(frmScroll->Image1).height(), 600);
+        const qint64 page = Drawn(frmScroll->Image1).cacheKey();
+        program_->Click(frmScroll->Image1);
+        program_->Click(frmScroll->picChild);
+        QCOMPARE(Drawn(frmScroll->Image1).cacheKey(), page);
+    }
+
 private:
     static void Screens()
     {
@@ -318,6 +343,10 @@ private:
     static QRectF RectOf(const Control& control)
     {
         return {control.Left(), control.Top(), control.Width(), control.Height()};
+    }
+    static QPixmap Drawn(const Control& control)
+    {
+        return static_cast<const QLabel&>(control.Widget()).pixmap(Qt::ReturnByValue);
     }
     static bool ZoomedIn(bool zoomedIn)
     {
@@ -331,7 +360,7 @@ private:
         frmScroll->SetWidth(800 * 15);
         frmScroll->SetHeight(600 * 15);
         frmScroll->picChild.Load(u"G:\\ads\\67brto00.jpg"_s);
-        frmScroll->Image1.Load(u"G:\\ads\\67brto00.jpg"_s);
+        frmScroll->Image1.ShowWhenSeen(frmScroll->picChild.Picture());
         frmScroll->Show();
         program_->Settle();
         frmScroll->Window().activateWindow();

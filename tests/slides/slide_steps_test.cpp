@@ -64,6 +64,22 @@ private Q_SLOTS:
         QCOMPARE(program_->messages.Count(), 0);
     }
 
+    void the_photos_of_the_next_steps_are_read_ahead()
+    {
+        const auto isReady = [](int index) { return frmSlide->Image1.HasReadAhead(state.PhotoFiles(index)); };
+        QVERIFY(InSlideShow(*program_, [&] {
+            state.PhotoIndex = 5;
+            ClickSlidePart(*program_, u"mmSlide(Next)"_s);
+            QTRY_VERIFY(isReady(7) && isReady(8) && isReady(5));
+            ClickSlidePart(*program_, u"mmSlide(Next)"_s);
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67G.JPG"_s);
+            state.PhotoIndex = 2;
+            ClickSlidePart(*program_, u"mmSlide(Prev)"_s);
+            QTRY_VERIFY(isReady(25) && isReady(24) && isReady(2)); // round the beginning
+        }));
+        QCOMPARE(program_->messages.Count(), 0);
+    }
+
     void a_step_shows_the_caption_of_the_photo()
     {
         QVERIFY(InSlideShow(*program_, [&] {

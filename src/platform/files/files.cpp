@@ -1,5 +1,6 @@
 #include "platform/files/files.h"
 
+#include "platform/files/file_content.h"
 #include "platform/paths/case_insensitive_lookup.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/folder_index.h"
@@ -11,8 +12,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <limits>
-#include <new>
 #include <sys/stat.h>
 #include <vector>
 
@@ -21,12 +20,6 @@ using namespace Qt::StringLiterals;
 namespace torvik {
 
 namespace {
-
-/// What fits into the address space of the machines that the program is made for.
-constexpr qint64 largestContent = std::numeric_limits<qint32>::max();
-
-/// For a file that claims to be longer, room for the rest is made as it comes.
-constexpr qint64 firstRoom = qint64{64} * 1024 * 1024;
 
 EntryStatus EntryAt(const QString& path)
 {
@@ -68,34 +61,6 @@ void DropCaseClashes(std::vector<std::string>& names)
         }
     }
     std::erase(names, std::string());
-}
-
-/// The whole content of a file; on any thread.
-QByteArray ContentOf(const Place& place)
-{
-    const std::unique_ptr<OpenFile> file = place.on->Open(place.path);
-    if (file->Length() > largestContent)
-        Fail(failure::outOfMemory);
-    try {
-        QByteArray content;
-        qsizetype filled = 0;
-        content.resize(static_cast<qsizetype>(std::min(file->Length(), firstRoom)) +
-                       1); // shows the end at once
-        for (;;) {
-            const qsizetype got = file->Read(content.data() + filled, content.size() - filled);
-            filled += got;
-            if (got == 0)
-                break;
-            if (filled == content.size())
-                content.resize(content.size() * 2); // longer than it said
-            if (filled > largestContent)
-                Fail(failure::outOfMemory);
-        }
-        content.truncate(filled);
-        return content;
-    } catch (const std::bad_alloc&) {
-        Fail(failure::outOfMemory);
-    }
 }
 
 /// What tells a folder of a disc image from others: which image stands in the drive, and when the folder was

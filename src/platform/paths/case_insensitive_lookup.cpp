@@ -24,8 +24,9 @@ struct Spelling {
     Clock::time_point found;
 };
 
-std::unordered_map<std::string, FolderIndex> indices;
-std::unordered_map<std::string, Spelling> spellings;
+// Each thread has its own: one that waits for a disc holds up no other.
+thread_local std::unordered_map<std::string, FolderIndex> indices;
+thread_local std::unordered_map<std::string, Spelling> spellings;
 
 /// A folder as it is spelled on the host, and its present stamp where it exists.
 struct Folder {

@@ -6,7 +6,7 @@ namespace torvik {
 
 /// Look-up of host paths without regard to letter case. Paths are bytes, begin with a slash, and have neither
 /// empty components nor "." or ".."; the root of the host is the empty text. What has been learned about
-/// folders is kept and checked against the folder's time stamps. For the user-interface thread only.
+/// folders is kept, for each thread by itself, and checked against the folder's time stamps.
 
 /// How `path`, which lies in the folder `root` or is it, is spelled on the host. The path as it stands wins
 /// when it exists; otherwise each component that does not exist as written gives way to the name that differs
@@ -22,7 +22,7 @@ void NameAdded(const std::string& path);
 /// time stamp, and what was learned about it does not hold any more.
 void NameRemoved(const std::string& path);
 
-/// Forgets all that was learned, as when other media come under the same folders.
+/// Forgets all that the thread has learned, as when other media come under the same folders.
 void ForgetFolders();
 
 } // namespace torvik

@@ -191,16 +191,20 @@ void SetVolumeLister(VolumeLister lister)
     volumeLister = lister;
 }
 
-Place PlaceOf(const QString& drivePath)
+Place UnspelledPlaceOf(const QString& drivePath)
 {
     if (!IsDrivePath(drivePath))
         Fail(failure::badFileName);
-    std::shared_ptr<const Volume> volume = VolumeOf(drivePath[0]);
-    std::string path;
-    path.reserve(static_cast<std::size_t>(drivePath.size()));
-    AppendComponents(path, QStringView(drivePath).mid(3));
-    std::string spelling = volume->Spelling(path);
-    Place place{std::move(volume), std::move(spelling)};
+    Place place{VolumeOf(drivePath[0]), {}};
+    place.path.reserve(static_cast<std::size_t>(drivePath.size()));
+    AppendComponents(place.path, QStringView(drivePath).mid(3));
+    return place;
+}
+
+Place PlaceOf(const QString& drivePath)
+{
+    Place place = UnspelledPlaceOf(drivePath);
+    place.path = place.on->Spelling(place.path);
     if (logFiles().isDebugEnabled())
         LogLookUp(drivePath, place);
     return place;

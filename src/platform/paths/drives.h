@@ -46,6 +46,10 @@ void SetVolumeLister(VolumeLister lister);
 /// name or number.
 Place PlaceOf(const QString& drivePath);
 
+/// The same before anything is looked up: the path stands as it is written. Touches no medium, so that a
+/// thread of its own can look up what is on a slow one.
+Place UnspelledPlaceOf(const QString& drivePath);
+
 /// The host path for a drive path; the same rules and failures. On an image there is none: failure 75,
 /// Path/File access error, as for all that would write to a disc.
 QString HostPath(const QString& drivePath);

@@ -45,7 +45,13 @@ EntryStatus FolderVolume::Status(const std::string& path) const
     struct stat status {};
     if (stat(hostPath.empty() ? "/" : hostPath.c_str(), &status) != 0)
         Fail(FailureOfSystem(errno, hostPath));
-    return {S_ISREG(status.st_mode), S_ISDIR(status.st_mode), status.st_size, status.st_mtim.tv_sec};
+    const qint64 altered = qint64{status.st_ctim.tv_sec} * 1'000'000'000 + status.st_ctim.tv_nsec;
+    return {S_ISREG(status.st_mode),
+            S_ISDIR(status.st_mode),
+            status.st_size,
+            status.st_mtim.tv_sec,
+            altered,
+            status.st_ino};
 }
 
 std::vector<std::string> FolderVolume::Files(const std::string& folder, const NameTest& isWanted) const

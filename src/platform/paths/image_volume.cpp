@@ -153,7 +153,7 @@ EntryStatus ImageVolume::Status(const std::string& path) const
     const ImageEntry* const entry = image->Find(path);
     if (entry == nullptr)
         FailAsMissing(*image, path);
-    return {!entry->isFolder, entry->isFolder, entry->length, entry->written};
+    return {!entry->isFolder, entry->isFolder, entry->length, entry->written, 0, 0};
 }
 
 std::vector<std::string> ImageVolume::Files(const std::string& folder, const NameTest& isWanted) const

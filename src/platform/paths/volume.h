@@ -33,11 +33,16 @@ struct EntryStatus {
     bool isFolder = false;
     qint64 length = 0;  ///< bytes
     qint64 written = 0; ///< seconds since 1970
+    qint64 altered = 0; ///< nanoseconds since 1970, of the last change of anything; 0 where nothing changes
+    quint64 number = 0; ///< by which the host knows it under any name; 0 where it has none
+
+    bool operator==(const EntryStatus&) const = default;
 };
 
 /// What a drive letter stands for: a folder of the host, or the image of a disc. A path inside is bytes,
 /// begins with a slash, and has neither empty components nor "." or ".."; the volume's root is the empty
-/// text. Failures are RunTimeError. Only Open may be called by other threads than the user interface's.
+/// text. Failures are RunTimeError. Only Spelling, Status and Open may be called by other threads than the
+/// user interface's.
 class Volume {
 public:
     using NameTest = std::function<bool(std::string_view name)>;

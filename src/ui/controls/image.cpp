@@ -3,10 +3,13 @@
 #include "runtime/failure.h"
 #include "ui/controls/label.h"
 #include "ui/pictures/picture_widget.h"
+#include "ui/pictures/pictures_ahead.h"
 
 #include <QEvent>
 #include <QLabel>
 #include <QPixmap>
+
+#include <utility>
 
 namespace torvik {
 
@@ -18,30 +21,70 @@ Image::Image(Container& container, const QString& name, const Twips& design, Fit
 
 void Image::Load(const QString& path)
 {
-    Show(path.isEmpty() ? torvik::Picture() : Picture::Load(path));
+    if (const auto ready = readsAhead_ ? PictureReadAhead(path, Area()) : std::nullopt) {
+        Put(ready->drawn);
+        Take(ready->file);
+    } else {
+        Show(path.isEmpty() ? torvik::Picture() : Picture::Load(path));
+    }
+    path_ = path;
+}
+
+void Image::ReadAhead(const QStringList& paths)
+{
+    readsAhead_ = fit_ == Fit::Proportions;
+    if (readsAhead_)
+        ReadPicturesAhead(paths, path_, Area());
+}
+
+bool Image::HasReadAhead(const QString& path) const
+{
+    return readsAhead_ && IsReadAhead(path, Area());
 }
 
 void Image::Show(const class Picture& picture)
 {
     Draw(picture);
+    Take(picture);
+}
+
+void Image::ShowWhenSeen(const class Picture& picture)
+{
+    label_->clear();
+    outgrown_ = !picture.IsEmpty();
+    Take(picture);
+}
+
+void Image::Take(const class Picture& picture)
+{
     picture_ = picture;
+    path_.clear();
     UpdateAccessibleText();
 }
 
 void Image::Clear()
 {
+    path_.clear();
     picture_ = {};
     label_->clear();
     UpdateAccessibleText();
 }
 
+/// The rectangle in the screen's own pixels.
+QSize Image::Area() const
+{
+    return (QSizeF(label_->size()) * label_->devicePixelRatioF()).toSize();
+}
+
 void Image::Draw(const class Picture& picture)
 {
-    const double factor = label_->devicePixelRatioF();
-    const QSize area = (QSizeF(label_->size()) * factor).toSize();
-    QPixmap pixmap =
-        QPixmap::fromImage(fit_ == Fit::Stretch ? picture.Stretched(area) : picture.Fitted(area));
-    pixmap.setDevicePixelRatio(factor);
+    Put(fit_ == Fit::Stretch ? picture.Stretched(Area()) : picture.Fitted(Area()));
+}
+
+void Image::Put(const QImage& drawn)
+{
+    QPixmap pixmap = QPixmap::fromImage(drawn);
+    pixmap.setDevicePixelRatio(label_->devicePixelRatioF());
     label_->setPixmap(pixmap);
     outgrown_ = false;
 }
@@ -49,6 +92,8 @@ void Image::Draw(const class Picture& picture)
 void Image::SizeChanged()
 {
     outgrown_ = !picture_.IsEmpty();
+    if (std::exchange(readsAhead_, false))
+        ForgetPicturesAhead(); // they were drawn for the size before
 }
 
 /// However often the size changes, the picture is drawn anew once, when it is seen. It was whole when it was

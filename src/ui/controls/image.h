@@ -18,7 +18,16 @@ public:
     /// Shows a file, or nothing for an empty path. On a failure (see Picture::Load) the earlier picture
     /// stays.
     void Load(const QString& path);
+    /// Has files read ahead that will probably be loaded next, the first first
+    /// (ui/pictures/pictures_ahead.h); what is on show stays ready where it was read ahead. For images that
+    /// keep proportions.
+    void ReadAhead(const QStringList& paths);
+    /// Whether Load would show a file at once.
+    bool HasReadAhead(const QString& path) const;
     void Show(const Picture& picture);
+    /// Shows a picture of which the whole data is known to be sound: it is drawn when it is first seen, and
+    /// not at all while something covers it. Never fails.
+    void ShowWhenSeen(const Picture& picture);
     using Control::Show;
     void Clear();
     const class Picture& Picture() const { return picture_; }
@@ -34,11 +43,16 @@ protected:
     bool IsPicture() const override { return true; }
 
 private:
+    QSize Area() const;
     void Draw(const class Picture& picture);
+    void Put(const QImage& drawn);
+    void Take(const class Picture& picture);
 
     QLabel* label_;
     Fit fit_;
     class Picture picture_;
+    QString path_; // of the file on show, where it is one of the disc
+    bool readsAhead_ = false;
     bool outgrown_ = false; // what the label holds was drawn for another size
 };
 

@@ -62,6 +62,7 @@ void RichTextBox::SetFileName(const QString& path)
 {
     const QByteArray bytes = ReadFile(path);
     auto document = std::make_unique<QTextDocument>();
+    document->setLayoutEnabled(pane_->isVisible());
     document->setDefaultFont(pane_->font());
     if (bytes.isEmpty())
         Fail(failure::invalidFileFormat);
@@ -107,8 +108,23 @@ void RichTextBox::SetMarks(const QList<TextRange>& pieces, qsizetype present)
     pane_->setExtraSelections(marks);
 }
 
+/// A text that comes into a hidden pane is laid out when the pane is shown: its width is known only then. A
+/// text that may need the bar for scrolling gets it in advance, else it would be laid out for both widths.
+void RichTextBox::LayOut()
+{
+    QTextDocument& text = *pane_->document();
+    if (text.isLayoutEnabled())
+        return;
+    constexpr int aPaneFull = 2000; // characters
+    if (text.characterCount() > aPaneFull)
+        pane_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    text.setLayoutEnabled(true);
+    pane_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
 void RichTextBox::BringIntoView(const TextRange& piece)
 {
+    LayOut();
     // The layout of a long document is made in steps; asked for its pages it is made to the end, and only
     // then do the bars reach every line.
     pane_->document()->pageCount();
@@ -132,6 +148,8 @@ QTextCursor RichTextBox::CursorAt(qsizetype place) const
 
 bool RichTextBox::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Show && watched == pane_)
+        LayOut();
     if (event->type() == QEvent::MouseButtonRelease)
         onLink_ = !pane_->anchorAt(static_cast<QMouseEvent*>(event)->pos()).isEmpty();
     return Control::eventFilter(watched, event);

@@ -41,6 +41,7 @@ protected:
 private:
     class Pane;
 
+    void LayOut();
     QTextCursor CursorAt(qsizetype place) const;
 
     Pane* pane_;

@@ -31,7 +31,12 @@ void RaisePictureLimit()
 
 Picture Picture::Load(const QString& path)
 {
-    return {ReadFile(path), NameWithoutFolder(path)};
+    return FromFile(ReadFile(path), path);
+}
+
+Picture Picture::FromFile(QByteArray bytes, const QString& path)
+{
+    return {std::move(bytes), NameWithoutFolder(path)};
 }
 
 Picture Picture::FromResource(const QString& resource)

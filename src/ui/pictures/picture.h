@@ -16,10 +16,14 @@ public:
     /// Reads a file of the disc. Failures: those of reading a file (53, 76, 68, 70, 75, 57), and 481, Invalid
     /// picture, for a file that is no picture, ends early, or has more than 300 million pixels.
     static Picture Load(const QString& path);
+    /// The same from the bytes of a file, on any thread. Failure 481 as above.
+    static Picture FromFile(QByteArray bytes, const QString& path);
     /// A picture of the program's own artwork, by its resource path. Failure 53 when there is none.
     static Picture FromResource(const QString& resource);
 
     bool IsEmpty() const { return bytes_.isEmpty(); }
+    /// The length of its file.
+    qint64 Bytes() const { return bytes_.size(); }
     /// The name of its file without the folder.
     const QString& FileName() const { return fileName_; }
     /// Width and height in pixels, as its orientation tag turns it.

@@ -22,6 +22,7 @@ QFont LineFont()
     QFont font;
     font.setFamilies({u"Liberation Sans"_s, u"Arial"_s, u"Helvetica"_s, u"DejaVu Sans"_s});
     font.setPointSizeF(lineFontSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
 
@@ -94,7 +95,8 @@ bool PrintJob::NewPage()
 void PrintJob::Print(const QString& text)
 {
     const QFontMetricsF metrics(painter_.font(), &device_);
-    painter_.drawText(QPointF(0, lineTop_ + metrics.ascent()), text);
+    if (!text.trimmed().isEmpty()) // blanks leave no mark, but a file would carry their font
+        painter_.drawText(QPointF(0, lineTop_ + metrics.ascent()), text);
     lineTop_ += metrics.lineSpacing();
 }
 

@@ -130,6 +130,43 @@ private Q_SLOTS:
         QVERIFY(Pane().extraSelections().isEmpty());
     }
 
+    void a_text_in_a_hidden_pane_is_laid_out_when_the_pane_is_shown()
+    {
+        Main->rtbText.Hide();
+        Main->rtbText.SetFileName(
+            folder_.Add(u"a.rtf"_s, "{\\rtf1 " + QByteArray("some words\\par ").repeated(300) + "}"));
+        QVERIFY(!Pane().document()->isLayoutEnabled());
+        QVERIFY(Main->rtbText.Text().startsWith(u"some words\nsome words\n"_s));
+        Main->rtbText.Show();
+        QVERIFY(Pane().document()->isLayoutEnabled());
+        QVERIFY(Pane().verticalScrollBar()->isVisible());
+        QCOMPARE(Pane().document()->textWidth(), double(Pane().viewport()->width()));
+        QVERIFY(Pane().document()->pageCount() > 0);
+        QVERIFY(Pane().verticalScrollBar()->maximum() > 100);
+        QCOMPARE(Pane().verticalScrollBar()->value(), 0);
+    }
+
+    void a_short_text_in_many_characters_has_no_bar()
+    {
+        Main->rtbText.Hide();
+        Main->rtbText.SetFileName(
+            folder_.Add(u"a.rtf"_s, "{\\rtf1\\fs2 " + QByteArray("i").repeated(2500) + "}"));
+        Main->rtbText.Show();
+        QVERIFY(!Pane().verticalScrollBar()->isVisible());
+        QCOMPARE(Pane().document()->textWidth(), double(Pane().viewport()->width()));
+    }
+
+    void a_piece_of_a_text_in_a_hidden_pane_is_in_view_when_the_pane_is_shown()
+    {
+        Main->rtbText.Hide();
+        Main->rtbText.SetFileName(folder_.Add(
+            u"a.rtf"_s, "{\\rtf1 " + QByteArray("some words\\par ").repeated(300) + "needle\\par }"));
+        const qsizetype at = Main->rtbText.Text().indexOf(u"needle"_s);
+        Main->rtbText.BringIntoView({at, 6});
+        Main->rtbText.Show();
+        QVERIFY(Pane().verticalScrollBar()->value() > 100);
+    }
+
     void marks_go_with_the_next_file()
     {
         Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1 a red car}"));

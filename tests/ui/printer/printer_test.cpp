@@ -48,6 +48,15 @@ private Q_SLOTS:
         QCOMPARE(printed_->Pages(1).first().simplified(), u"A line"_s);
     }
 
+    void a_blank_line_takes_room_and_no_font()
+    {
+        Printer.Print(u" "_s);
+        Printer.EndDoc();
+        QFile job(printed_->FileOf(1));
+        QVERIFY(job.open(QIODevice::ReadOnly));
+        QVERIFY(!job.readAll().contains("/FontFile"));
+    }
+
     void an_end_without_a_job_does_nothing()
     {
         Printer.EndDoc();
