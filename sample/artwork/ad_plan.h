@@ -36,11 +36,10 @@ struct PlannedAd {
 
     /// "ads/67brto00.jpg".
     QString File() const;
+    /// The pages of a spread lie on their side; the viewer shows them so.
     QSize Size() const;
 };
 
-/// The years whose pages lie on their side; the viewer shows them so.
-bool IsLandscapeAd(int year);
 /// One for each year but 2001, whose advertisement has not been released.
 const std::vector<PlannedAd>& PlanAds();
 

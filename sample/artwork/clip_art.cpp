@@ -1,4 +1,4 @@
-#include "sample/artwork/art_plan.h"
+#include "sample/artwork/art_maker.h"
 #include "sample/artwork/flat_drawing.h"
 #include "sample/car/paints.h"
 #include "sample/files/text_store.h"

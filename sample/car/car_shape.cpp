@@ -7,57 +7,35 @@
 
 namespace torvik::sample {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr CarCurve curves[] = {
-    {"halfWidth", &CarLines::halfWidth},     {"bottom", &CarLines::bottom},
-    {"widest", &CarLines::widest},           {"shoulder", &CarLines::shoulder},
-    {"centre", &CarLines::centre},           {"roof", &CarLines::roof},
-    {"noseSetBack", &CarLines::noseSetBack}, {"tailSetBack", &CarLines::tailSetBack}};
+/// What a body has by a name.
+#define TORVIK_FIELD(name) std::pair(#name, &CarShape::name)
+constexpr std::pair<const char*, Curve CarShape::*> curves[] = {
+    TORVIK_FIELD(halfWidth), TORVIK_FIELD(bottom), TORVIK_FIELD(widest),      TORVIK_FIELD(shoulder),
+    TORVIK_FIELD(centre),    TORVIK_FIELD(roof),   TORVIK_FIELD(noseSetBack), TORVIK_FIELD(tailSetBack)};
+constexpr std::pair<const char*, double CarShape::*> figures[] = {
+    TORVIK_FIELD(length),         TORVIK_FIELD(frontAxle),  TORVIK_FIELD(rearAxle),
+    TORVIK_FIELD(wheelRadius),    TORVIK_FIELD(rimRadius),  TORVIK_FIELD(archRadius),
+    TORVIK_FIELD(cowl),           TORVIK_FIELD(header),     TORVIK_FIELD(rearHeader),
+    TORVIK_FIELD(cabinEnd),       TORVIK_FIELD(tumble),     TORVIK_FIELD(shoulderInset),
+    TORVIK_FIELD(shoulderRadius), TORVIK_FIELD(edgeRadius), TORVIK_FIELD(noseBow),
+    TORVIK_FIELD(tailBow),        TORVIK_FIELD(flare),      TORVIK_FIELD(bonnetBulge),
+    TORVIK_FIELD(windowFront),    TORVIK_FIELD(windowRear), TORVIK_FIELD(windowLean),
+    TORVIK_FIELD(doorFront),      TORVIK_FIELD(doorRear),   TORVIK_FIELD(grilleHalf),
+    TORVIK_FIELD(grilleLow),      TORVIK_FIELD(grilleHigh), TORVIK_FIELD(lampRadius),
+    TORVIK_FIELD(bumperHeight)};
+constexpr std::pair<const char*, bool CarShape::*> switches[] = {
+    TORVIK_FIELD(sideScoop), TORVIK_FIELD(chromeTrim), TORVIK_FIELD(ductTail), TORVIK_FIELD(bonnetScoop),
+    TORVIK_FIELD(wing)};
+#undef TORVIK_FIELD
 
-constexpr CarFigure figures[] = {{"length", &CarShape::length},
-                                 {"frontAxle", &CarShape::frontAxle},
-                                 {"rearAxle", &CarShape::rearAxle},
-                                 {"wheelRadius", &CarShape::wheelRadius},
-                                 {"rimRadius", &CarShape::rimRadius},
-                                 {"archRadius", &CarShape::archRadius},
-                                 {"cowl", &CarShape::cowl},
-                                 {"header", &CarShape::header},
-                                 {"rearHeader", &CarShape::rearHeader},
-                                 {"cabinEnd", &CarShape::cabinEnd},
-                                 {"tumble", &CarShape::tumble},
-                                 {"shoulderInset", &CarShape::shoulderInset},
-                                 {"shoulderRadius", &CarShape::shoulderRadius},
-                                 {"edgeRadius", &CarShape::edgeRadius},
-                                 {"noseBow", &CarShape::noseBow},
-                                 {"tailBow", &CarShape::tailBow},
-                                 {"flare", &CarShape::flare},
-                                 {"bonnetBulge", &CarShape::bonnetBulge},
-                                 {"windowFront", &CarShape::windowFront},
-                                 {"windowRear", &CarShape::windowRear},
-                                 {"windowLean", &CarShape::windowLean},
-                                 {"doorFront", &CarShape::doorFront},
-                                 {"doorRear", &CarShape::doorRear},
-                                 {"grilleHalf", &CarShape::grilleHalf},
-                                 {"grilleLow", &CarShape::grilleLow},
-                                 {"grilleHigh", &CarShape::grilleHigh},
-                                 {"lampRadius", &CarShape::lampRadius},
-                                 {"bumperHeight", &CarShape::bumperHeight}};
+// In the order of the models.
+constexpr const char* modelNames[] = {"Vollandry",   "Harwell",       "KestraOne",
+                                      "KestraThree", "SuperStallion", "Tarrant"};
 
-constexpr std::array<CarLooks, 6> looks = {{
-    {Lamps::RoundInGrille, TailLamps::ThreeBars, Bumper::ChromeBlade, WheelFace::ChromeCap, true, true, false,
-     false},
-    {Lamps::RoundInGrille, TailLamps::FullWidth, Bumper::ChromeBlade, WheelFace::FiveSpoke, true, true, false,
-     true},
-    {Lamps::RoundInWings, TailLamps::ThreeBars, Bumper::RubberStrip, WheelFace::Slotted, true, true, false,
-     false},
-    {Lamps::RectangularPair, TailLamps::Square, Bumper::RubberStrip, WheelFace::Turbine, false, false, true,
-     false},
-    {Lamps::Slim, TailLamps::Wrap, Bumper::Hidden, WheelFace::FiveStar, true, false, true, false},
-    {Lamps::Tall, TailLamps::ThreeTall, Bumper::Hidden, WheelFace::TenSpoke, true, false, true, true},
-}};
-
-/// The list of numbers of a body's curve.
 Curve CurveOf(const Value& list)
 {
     std::vector<double> numbers;
@@ -66,61 +44,21 @@ Curve CurveOf(const Value& list)
     return Curve(numbers);
 }
 
-const std::vector<CarShape>& Generations()
-{
-    static const std::vector<CarShape> bodies = [] {
-        Script table("bodies");
-        table.Run();
-        std::vector<CarShape> shapes;
-        for (std::size_t i = 0; i < looks.size(); ++i) {
-            CarShape shape{CarLines(), looks[i]};
-            for (const CarCurve& curve : curves)
-                shape.*curve.field = CurveOf(table.Get(curve.name).At(i));
-            for (const CarFigure& figure : figures)
-                shape.*figure.field = table.Get(figure.name).At(i).Number();
-            shapes.push_back(shape);
-        }
-        return shapes;
-    }();
-    return bodies;
-}
-
-CarShape HarwellShape()
-{
-    CarShape c = Generations().front();
-    // An upright hardtop with a long boot, so that nobody takes it for one of the family.
-    c.roof = {1.52,  0.90, 1.6,  0.945, 2.0,  1.31, 2.2,  1.382, 2.6,
-              1.395, 2.95, 1.37, 3.12,  1.25, 3.4,  0.99, 3.5,   0.92};
-    c.halfWidth = {0, 0.85, 0.3, 0.885, 1.2, 0.895, 3.4, 0.895, 4.65, 0.85};
-    c.shoulder = {0, 0.80, 0.3, 0.835, 1.4, 0.865, 3.2, 0.885, 4.65, 0.90};
-    c.centre = {0, 0.83, 0.3, 0.885, 1.5, 0.935, 3.4, 0.95, 4.65, 0.915};
-    c.header = 2.06;
-    c.rearHeader = 2.98;
-    c.cabinEnd = 3.5;
-    c.cowl = 1.52;
-    c.windowFront = 1.76;
-    c.windowRear = 2.98;
-    c.windowLean = 0.1;
-    c.grilleHalf = 0.34;
-    c.lamps = Lamps::RoundInWings;
-    c.lampRadius = 0.1;
-    c.tailLamps = TailLamps::Wrap;
-    c.sideScoop = false;
-    c.bonnetScoop = false;
-    c.shoulderRadius = 0.045;
-    return c;
-}
-
 } // namespace
 
-std::span<const CarCurve> CarCurves()
+CarFields<Curve> CarCurves()
 {
     return curves;
 }
 
-std::span<const CarFigure> CarFigures()
+CarFields<double> CarFigures()
 {
     return figures;
+}
+
+CarFields<bool> CarSwitches()
+{
+    return switches;
 }
 
 int GenerationOfYear(int year)
@@ -130,77 +68,32 @@ int GenerationOfYear(int year)
                                 firstYears.begin());
 }
 
-CarShape ShapeOfYear(int year)
-{
-    const int generation = GenerationOfYear(year);
-    CarShape c = Generations()[static_cast<std::size_t>(generation - 1)];
-    switch (generation) {
-    case 1:
-        c.wheel = year % 2 == 1 ? WheelFace::ChromeCap : WheelFace::FiveSpoke;
-        c.lamps = year >= 1969 ? Lamps::RoundInWings : Lamps::RoundInGrille;
-        c.grilleHalf = year >= 1969 ? 0.5 : 0.62;
-        c.bonnetScoop = year >= 1969;
-        c.ductTail = year == 1970;
-        break;
-    case 2:
-        c.wheel = year == 1972 ? WheelFace::ChromeCap : WheelFace::FiveSpoke;
-        c.bumper = year == 1973 ? Bumper::BodyColour : Bumper::ChromeBlade;
-        break;
-    case 3:
-        c.wheel = year % 2 == 0 ? WheelFace::Slotted : WheelFace::ChromeCap;
-        c.ductTail = year >= 1976;
-        c.bonnetScoop = year >= 1977;
-        break;
-    case 4:
-        c.wheel = year >= 1985 ? WheelFace::TenSpoke : WheelFace::Turbine;
-        c.bonnetScoop = year >= 1982 && year <= 1986;
-        c.wing = year >= 1985;
-        if (year >= 1987) {
-            c.lamps = Lamps::Slim;
-            c.grilleHalf = 0.26;
-            c.grilleHigh = 0.62;
-            c.bumper = Bumper::BodyColour;
-        }
-        break;
-    case 5:
-        c.wheel = year % 3 == 0 ? WheelFace::Turbine : WheelFace::FiveStar;
-        c.wing = year >= 1994;
-        break;
-    default:
-        c.wheel = year == 2000 ? WheelFace::FiveSpoke : WheelFace::TenSpoke;
-        c.wing = year >= 2001;
-        break;
-    }
-    return c;
-}
-
 CarShape ShapeOf(Model model, int year)
 {
-    CarShape c = ShapeOfYear(year);
-    switch (model) {
-    case Model::Vollandry:
-        return c;
-    case Model::Harwell:
-        return HarwellShape();
-    case Model::KestraOne:
-    case Model::Tarrant:
-        c.wheel = model == Model::Tarrant ? WheelFace::TenSpoke : WheelFace::FiveSpoke;
-        c.bonnetScoop = c.ductTail = true;
-        c.flare = model == Model::Tarrant ? c.flare : 0.035;
-        return c;
-    case Model::KestraThree:
-        c.wheel = WheelFace::TenSpoke;
-        c.flare = 0.03;
-        break;
-    case Model::SuperStallion:
-        c.wheel = WheelFace::FiveStar;
-        c.flare = 0.045;
-        c.wheelRadius = 0.345;
-        c.rimRadius = 0.25;
-        break;
-    }
-    c.wing = true;
-    return c;
+    const int generation = GenerationOfYear(year);
+    Script body("bodies");
+    body.Set(u"model"_s, QString::fromLatin1(modelNames[static_cast<std::size_t>(model)]));
+    body.Set(u"year"_s, year);
+    body.Set(u"generation"_s, generation);
+    body.Run();
+    // A table has one for each generation; what the year or the model changes stands alone.
+    const auto chosen = [&](const char* name, bool isCurve) {
+        const Value& value = body.Get(name);
+        const bool isTable = value.IsList() && (!isCurve || value.At(0).IsList());
+        return isTable ? value.At(static_cast<std::size_t>(generation - 1)) : value;
+    };
+    CarShape shape;
+    for (const auto& [name, field] : curves)
+        shape.*field = CurveOf(chosen(name, true));
+    for (const auto& [name, field] : figures)
+        shape.*field = chosen(name, false).Number();
+    for (const auto& [name, field] : switches)
+        shape.*field = chosen(name, false).Number() != 0;
+    shape.lamps = chosen("lamps", false).OneOf<Lamps>(lampNames);
+    shape.tailLamps = chosen("tailLamps", false).OneOf<TailLamps>(tailLampNames);
+    shape.bumper = chosen("bumper", false).OneOf<Bumper>(bumperNames);
+    shape.wheel = chosen("wheel", false).OneOf<WheelFace>(wheelNames);
+    return shape;
 }
 
 } // namespace torvik::sample

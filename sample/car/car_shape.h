@@ -3,6 +3,7 @@
 #include "sample/geometry/curve.h"
 
 #include <span>
+#include <utility>
 
 namespace torvik::sample {
 
@@ -71,24 +72,29 @@ struct CarShape : CarLines, CarLooks {
     bool wing = false;
 };
 
-/// A curve and a number of a body, each by its name.
-struct CarCurve {
-    const char* name;
-    Curve CarLines::*field;
-};
-struct CarFigure {
-    const char* name;
-    double CarShape::*field;
-};
-std::span<const CarCurve> CarCurves();
-std::span<const CarFigure> CarFigures();
+/// The curves, numbers and switches of a body by their names; each is called so in drawings/bodies.txt.
+template <typename Field>
+using CarFields = std::span<const std::pair<const char*, Field CarShape::*>>;
+CarFields<Curve> CarCurves();
+CarFields<double> CarFigures();
+CarFields<bool> CarSwitches();
 
-/// The body of the model year (1967 to 2001); six generations, and small changes from year to year.
-CarShape ShapeOfYear(int year);
+/// The names of the kinds, in their order.
+inline constexpr const char* lampNames[] = {"RoundInGrille", "RoundInWings", "RectangularPair", "Slim",
+                                            "Tall"};
+inline constexpr const char* tailLampNames[] = {"ThreeBars", "FullWidth", "Square", "Wrap", "ThreeTall"};
+inline constexpr const char* bumperNames[] = {"ChromeBlade", "BodyColour", "RubberStrip", "Hidden"};
+inline constexpr const char* wheelNames[] = {"ChromeCap", "FiveSpoke", "Slotted",
+                                             "Turbine",   "FiveStar",  "TenSpoke"};
+
 /// Number 1 to 6 of the model generation of the year.
 int GenerationOfYear(int year);
-
 /// The body of one of the special cars, which stands on that of its year.
 CarShape ShapeOf(Model model, int year);
+/// The body of the model year (1967 to 2001); six generations, and small changes from year to year.
+inline CarShape ShapeOfYear(int year)
+{
+    return ShapeOf(Model::Vollandry, year);
+}
 
 } // namespace torvik::sample

@@ -30,8 +30,6 @@ std::vector<ModelYear> ReadModelYears()
     return read;
 }
 
-using enum OptionGroup;
-
 std::vector<Option> ReadOptions()
 {
     std::vector<Option> read;
@@ -132,17 +130,10 @@ std::vector<Option> OptionsOf(int year, OptionGroup group)
 
 QString GroupName(OptionGroup group)
 {
-    switch (group) {
-    case Drive:
-        return u"Drive, brakes and springs"_s;
-    case Comfort:
-        return u"Comfort"_s;
-    case Looks:
-        return u"Appearance"_s;
-    case Sound:
-        break;
-    }
-    return u"Sound"_s;
+    // In the order of the groups.
+    static const QString names[] = {u"Drive, brakes and springs"_s, u"Comfort"_s, u"Appearance"_s,
+                                    u"Sound"_s};
+    return names[static_cast<std::size_t>(group)];
 }
 
 int PriceIn(int year, int priceOf1967)

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QString>
 
+#include <algorithm>
 #include <variant>
 #include <vector>
 
@@ -40,6 +41,15 @@ public:
     QPointF Point() const { return {At(0).Number(), At(1).Number()}; }
     QRectF Box() const { return {At(0).Number(), At(1).Number(), At(2).Number(), At(3).Number()}; }
     const Value& At(std::size_t i) const;
+    /// The kind of this name; `names` has them in their order.
+    template <typename Kind, std::size_t count>
+    Kind OneOf(const char* const (&names)[count]) const
+    {
+        const auto* found = std::find(std::begin(names), std::end(names), Text());
+        if (found == std::end(names))
+            Refuse("the name of a kind");
+        return static_cast<Kind>(found - std::begin(names));
+    }
     bool IsList() const { return std::holds_alternative<List>(held_); }
     bool IsText() const { return std::holds_alternative<QString>(held_); }
     bool IsBrush() const { return std::holds_alternative<QBrush>(held_); }

@@ -1,22 +1,21 @@
 #pragma once
 
-#include "sample/sounds/motion.h"
 #include "sample/sounds/wave_file.h"
 
 #include <QByteArray>
+#include <QString>
 
-#include <functional>
 #include <vector>
 
 namespace torvik::sample {
 
 /// One of the sound effects of the disc.
 struct Effect {
-    const char* file;
+    QByteArray file;
     double seconds;
     int channels;
     SoundForm form;
-    std::function<std::vector<Sound>()> make;
+    QString score; ///< its name in drawings/effects.txt
 };
 
 /// All of them, in the order of their buttons.
@@ -26,10 +25,11 @@ QByteArray MakeEffect(const Effect& effect);
 /// The bytes of the effect of this name; throws std::runtime_error for a name that is not planned.
 QByteArray EffectNamed(const char* file);
 
-/// The effects that are not scores of drawings/effects.txt, as they follow formulas from sample to sample.
+/// The channels of a sound effect that drawings/effects.txt describes.
+std::vector<Sound> PlayScore(const QString& name);
+
+/// Those that follow formulas from sample to sample.
 Sound Backfiring();
-TwoEars EighteenWheeler();
-Sound StuckOnIce();
 Sound OldColumnShift();
 Sound TurbineCar();
 

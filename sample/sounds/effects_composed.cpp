@@ -1,22 +1,12 @@
 #include "sample/sounds/effects.h"
 #include "sample/sounds/engine.h"
 #include "sample/sounds/filters.h"
+#include "sample/sounds/motion.h"
 #include "sample/sounds/road.h"
 
 #include <cmath>
-#include <utility>
 
 namespace torvik::sample {
-
-namespace {
-
-/// A drive past the listener at a steady speed in metres a second, nearest at second `passing`.
-Drive Steady(double speed, double passing, double aside)
-{
-    return {[=](double t) { return speed * (t - passing); }, aside};
-}
-
-} // namespace
 
 Sound Backfiring()
 {
@@ -34,44 +24,6 @@ Sound Backfiring()
         seed += 7;
         Add(sound, Backfire(seed), at, 0.75 + 0.05 * (seed % 5));
     }
-    return sound;
-}
-
-TwoEars EighteenWheeler()
-{
-    constexpr double lasting = 7.4;
-    const Curve revs{{0, 1350}, {1.6, 1620}, {1.75, 1180}, {7.4, 1700}};
-    Sound source = Running(diesel, {lasting, revs, Always(0.85), 18});
-    Sound tyres = TyreRoll(lasting, Always(24.0), 0.05, 181);
-    // Each axle slaps over the joints of the road.
-    for (int i = 0; i < 18; ++i)
-        Add(tyres, Shaped(WhiteNoise(0.06, 400), [](double t) { return std::exp(-t / 0.012); }), 0.4 * i,
-            0.6);
-    Add(source, Levelled(Filtered(std::move(tyres), Filter::LowPass(2600)), 0.75));
-    Add(source, TruckHorn(1.25), 1.3, 1.1);
-    Add(source, TruckHorn(0.4), 2.75, 1.0);
-    TwoEars road = PassingBothEars(Lasting(std::move(source), lasting), Steady(20, 3.9, 7));
-    Add(road, PassingBothEars(Levelled(AirBrake(1.2, 19), 0.4), Steady(20, -0.3, 7)), 5.2, 1.0);
-    return road;
-}
-
-Sound StuckOnIce()
-{
-    constexpr double lasting = 6.8;
-    // Rocking to and fro: each try spins up and lets go; the last one nearly does it.
-    const Curve spin{{0, 0},      {0.35, 0.0}, {0.6, 0.7}, {1.25, 0.8}, {1.5, 0.1}, {1.7, 0.1},
-                     {1.95, 0.8}, {2.45, 0.8}, {2.7, 0.1}, {2.9, 0.1},  {3.1, 0.9}, {3.6, 0.9},
-                     {3.8, 0.15}, {4.0, 0.2},  {4.4, 1.0}, {5.6, 1.0},  {5.9, 0.2}, {6.4, 0}};
-    const Course revs = [=](double t) { return 750 + 3600 * spin(t); };
-    const Course throttle = [=](double t) { return 0.1 + 0.7 * spin(t); };
-    Sound sound = Running(straightSix, {lasting, revs, throttle, 62}, 0.65);
-    Add(sound, Levelled(WheelOnIce(lasting, spin, 63), 0.75));
-    // It falls back into its hole.
-    for (const double at : {1.55, 2.78, 3.88, 6.0})
-        Add(sound,
-            Shaped(PureTone(0.25, [](double t) { return 46 + 30 * std::exp(-t / 0.03); }),
-                   [](double t) { return std::exp(-t / 0.07); }),
-            at, 0.5);
     return sound;
 }
 

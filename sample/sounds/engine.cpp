@@ -58,6 +58,7 @@ private:
 std::vector<Firing> Evenly(int cylinders, int pipes)
 {
     std::vector<Firing> firings;
+    firings.reserve(static_cast<std::size_t>(cylinders));
     for (int i = 0; i < cylinders; ++i)
         firings.push_back({static_cast<double>(i) / cylinders, 1.0 - 0.12 * ((i * 5) % 3), i % pipes});
     return firings;
@@ -66,6 +67,7 @@ std::vector<Firing> Evenly(int cylinders, int pipes)
 const std::vector<Firing> burble = {{0.0 / 8, 1.0, 0},  {1.0 / 8, 0.78, 1}, {2.0 / 8, 0.95, 1},
                                     {3.0 / 8, 0.7, 0},  {4.0 / 8, 1.0, 1},  {5.0 / 8, 0.84, 0},
                                     {6.0 / 8, 0.74, 0}, {7.0 / 8, 0.92, 1}};
+const std::vector<Firing> twin = {{0.0, 1.0, 0}, {315.0 / 720.0, 0.86, 1}};
 
 } // namespace
 
@@ -78,17 +80,7 @@ const EngineKind straightSix{Evenly(6, 1), 0.0022, {2.6, 2.6}, 0.5, 620, 0.08, 0
 const EngineKind airCooledSix{Evenly(6, 2), 0.0010, {0.9, 1.05}, 0.66, 1900, 0.12, 0,
                               0.45,         0.10,   0.2,         4200, 0.05, 19};
 const EngineKind straightFour{Evenly(4, 1), 0.0007, {0.85, 0.85}, 0.6, 3600, 0.12, 0, 0.35, 0.10, 0.08};
-const EngineKind bigTwin{{{0.0, 1.0, 0}, {315.0 / 720.0, 0.86, 1}},
-                         0.0026,
-                         {0.95, 1.15},
-                         0.5,
-                         1700,
-                         0.2,
-                         0.45,
-                         0.25,
-                         0.10,
-                         0.1,
-                         2600};
+const EngineKind bigTwin{twin, 0.0026, {0.95, 1.15}, 0.5, 1700, 0.2, 0.45, 0.25, 0.10, 0.1, 2600};
 const EngineKind diesel{Evenly(6, 2), 0.0030, {3.4, 3.4}, 0.45, 700,  0.12, 0,
                         0.25,         0.10,   0.55,       1250, 0.06, 41};
 const EngineKind turbocharged{Evenly(8, 2), 0.0006, {0.75, 0.8}, 0.7,  3000, 0.2, 0,

@@ -121,14 +121,6 @@ Sound Backfire(std::uint32_t seed)
     return InRoom(Faded(Driven(std::move(bang), 1.2), 0.0005, 0.2), 0.7, 0.25);
 }
 
-Sound DoorLatch()
-{
-    Sound latch = Struck(0.12, {760, 1730, 2950, 4400}, 0.018);
-    Add(latch, Struck(0.10, {520, 1240, 3300}, 0.02), 0.055, 0.8);
-    Add(latch, Shaped(WhiteNoise(0.08, 41), [](double t) { return 0.5 * std::exp(-t / 0.006); }));
-    return Faded(std::move(latch), 0.0005, 0.03);
-}
-
 Sound DoorCreak(double seconds, std::uint32_t seed)
 {
     const Sound drift = SlowNoise(seconds, 7, seed);
@@ -142,62 +134,6 @@ Sound DoorCreak(double seconds, std::uint32_t seed)
         t += 1.0 / std::max(12.0, pace);
     }
     return Faded(Lasting(std::move(creak), seconds), 0.05, 0.08);
-}
-
-Sound DoorSlam(double heavy, std::uint32_t seed)
-{
-    constexpr double seconds = 0.6;
-    Sound slam = Shaped(WhiteNoise(seconds, seed), [](double t) { return 1.3 * std::exp(-t / 0.008); });
-    Sound sheet = Filtered(WhiteNoise(seconds, seed + 1), Filter::BandPass(420 - 190 * heavy, 1.1));
-    Add(slam, Shaped(std::move(sheet), [](double t) { return 6 * std::exp(-t / 0.05); }));
-    Sound thump = PureTone(seconds, [=](double t) { return 72 - 14 * heavy + 60 * std::exp(-t / 0.02); });
-    Add(slam, Shaped(std::move(thump), [=](double t) { return (0.9 + heavy) * std::exp(-t / 0.085); }));
-    // The lock catches just after, and the window rattles in its frame.
-    Add(slam, Struck(0.1, {690, 1610, 2800}, 0.02), 0.022, 0.6);
-    for (int i = 0; i < 4; ++i)
-        Add(slam, Struck(0.04, {2350, 3620, 5100}, 0.008), 0.06 + 0.024 * i, 0.22 - 0.05 * i);
-    return Faded(Driven(std::move(slam), 0.9), 0.0005, 0.15);
-}
-
-Sound AirBrake(double seconds, std::uint32_t seed)
-{
-    Sound air = Filtered(WhiteNoise(seconds, seed), Filter::HighPass(1700));
-    Add(air, Filtered(WhiteNoise(seconds, seed + 1), Filter::BandPass(3100, 2.2)), 0, 1.2);
-    air = Shaped(std::move(air), [=](double t) { return std::exp(-t / (seconds * 0.28)); });
-    return Faded(std::move(air), 0.006, seconds * 0.3);
-}
-
-Sound IndicatorTick(bool tock)
-{
-    const double pitch = tock ? 0.82 : 1.0;
-    Sound tick = Struck(0.05, {1850 * pitch, 3100 * pitch, 5200 * pitch}, 0.007);
-    return Faded(std::move(tick), 0.0003, 0.02);
-}
-
-Sound Crowd(double seconds, std::uint32_t seed)
-{
-    Sound crowd = Silence(seconds);
-    std::uint32_t voice = seed;
-    for (const double hertz : {340.0, 560.0, 880.0, 1350.0, 2100.0}) {
-        voice += 10;
-        const Sound swell = SlowNoise(seconds, 3.5, voice);
-        Sound band = Filtered(WhiteNoise(seconds, voice + 1), Filter::BandPass(hertz, 3));
-        for (std::size_t i = 0; i < band.size(); ++i)
-            band[i] *= 0.5 + 0.5 * swell[i];
-        Add(crowd, band, 0, 1.0 - hertz / 4000);
-    }
-    return crowd;
-}
-
-Sound CityHum(double seconds, std::uint32_t seed)
-{
-    Sound hum = Filtered(WhiteNoise(seconds, seed), Filter::LowPass(180));
-    const Sound swell = SlowNoise(seconds, 0.9, seed + 1);
-    for (std::size_t i = 0; i < hum.size(); ++i)
-        hum[i] *= 2.2 + swell[i];
-    Sound air = Filtered(WhiteNoise(seconds, seed + 2), Filter::BandPass(750, 0.4));
-    Add(hum, air, 0, 0.16);
-    return hum;
 }
 
 } // namespace torvik::sample

@@ -23,19 +23,7 @@ Sound Rolling(double seconds, double speed, double wet, std::uint32_t seed, doub
 Sound WheelOnIce(double seconds, const Course& spin, std::uint32_t seed);
 /// A mixture that burns in the pipe: one bang.
 Sound Backfire(std::uint32_t seed);
-/// The latch of a door opens.
-Sound DoorLatch();
 /// A hinge that wants oil.
 Sound DoorCreak(double seconds, std::uint32_t seed);
-/// The door falls shut; `heavy` 0 (tinny) to 1.
-Sound DoorSlam(double heavy, std::uint32_t seed);
-/// Compressed air let go.
-Sound AirBrake(double seconds, std::uint32_t seed);
-/// A relay for the flashing lights: tick, tock.
-Sound IndicatorTick(bool tock);
-/// A crowd on a stand, far away.
-Sound Crowd(double seconds, std::uint32_t seed);
-/// A street from some way off.
-Sound CityHum(double seconds, std::uint32_t seed);
 
 } // namespace torvik::sample

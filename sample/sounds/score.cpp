@@ -1,7 +1,6 @@
-#include "sample/sounds/score.h"
-
 #include "sample/drawings/script.h"
 #include "sample/geometry/curve.h"
+#include "sample/sounds/effects.h"
 #include "sample/sounds/engine.h"
 #include "sample/sounds/filters.h"
 #include "sample/sounds/motion.h"
@@ -14,15 +13,24 @@ namespace torvik::sample {
 using namespace Qt::StringLiterals;
 
 namespace {
-/// A number, a list of seconds and values, or a drive at one speed.
+/// A number, a list of seconds and values, or a rule: a drive at one speed, what falls from a height, or a
+/// part of another course on top of a number.
 Course CourseOf(const Value& value)
 {
     if (!value.IsList())
         return Always(value.Number());
-    if (value.At(0).IsText())
-        return [speed = value.At(1).Number(), passing = value.At(2).Number()](double t) {
-            return speed * (t - passing);
-        };
+    if (value.At(0).IsText()) {
+        const QString& rule = value.At(0).Text();
+        const double first = value.At(1).Number();
+        const double second = value.At(2).Number();
+        if (rule == "steady"_L1)
+            return [=](double t) { return first * (t - second); };
+        if (rule == "falling"_L1)
+            return [=, seconds = value.At(3).Number()](double t) {
+                return first + second * std::exp(-t / seconds);
+            };
+        return [=, course = CourseOf(value.At(3))](double t) { return first + second * course(t); };
+    }
     std::vector<double> points;
     for (const Value& point : value.Items())
         points.insert(points.end(), {point.At(0).Number(), point.At(1).Number()});
@@ -134,14 +142,16 @@ constexpr std::pair<const char*, Source> sources[] = {
     {"rich",
      [](const Arguments& a) { return RichTone(a.Number(0), CourseOf(a.at(1)), a.Whole(2), a.Number(3)); }},
     {"white", [](const Arguments& a) { return WhiteNoise(a.Number(0), Seed(a.at(1))); }},
-    {"crowd", [](const Arguments& a) { return Crowd(a.Number(0), Seed(a.at(1))); }},
-    {"hum", [](const Arguments& a) { return CityHum(a.Number(0), Seed(a.at(1))); }},
+    {"slow", [](const Arguments& a) { return SlowNoise(a.Number(0), a.Number(1), Seed(a.at(2))); }},
+    {"pure", [](const Arguments& a) { return PureTone(a.Number(0), CourseOf(a.at(1))); }},
+    {"truckHorn", [](const Arguments& a) { return TruckHorn(a.Number(0)); }},
+    {"onIce", [](const Arguments& a) { return WheelOnIce(a.Number(0), CourseOf(a.at(1)), Seed(a.at(2))); }},
     {"siren", [](const Arguments& a) { return Siren(a.Number(0), a.Number(1)); }},
     {"backfire", [](const Arguments& a) { return Backfire(Seed(a.at(0))); }},
-    {"tick", [](const Arguments& a) { return IndicatorTick(a.Number(0) != 0); }},
-    {"doorLatch", [](const Arguments&) { return DoorLatch(); }},
     {"doorCreak", [](const Arguments& a) { return DoorCreak(a.Number(0), Seed(a.at(1))); }},
-    {"doorSlam", [](const Arguments& a) { return DoorSlam(a.Number(0), Seed(a.at(1))); }},
+    {"backfiring", [](const Arguments&) { return Backfiring(); }},
+    {"oldColumnShift", [](const Arguments&) { return OldColumnShift(); }},
+    {"turbineCar", [](const Arguments&) { return TurbineCar(); }},
 };
 
 /// What is done to each channel by itself.
@@ -189,6 +199,14 @@ void Sounds::TeachChanges(Script& script)
             return Keep(std::move(sound));
         });
     }
+    // As loud as another sound says, on top of a number.
+    script.Teach("swelling", [this](const Arguments& a) {
+        Channels sound = Of(a.at(0));
+        const Sound& swell = Of(a.at(3)).front();
+        for (std::size_t i = 0; i < swell.size(); ++i)
+            sound.front()[i] *= a.Number(1) + a.Number(2) * swell[i];
+        return Keep(std::move(sound));
+    });
     script.Teach("loudest", [this](const Arguments& a) { return Loudest(Of(a.at(0)).front()); });
     script.Teach("add", [this](const Arguments& a) {
         Channels& onto = Of(a.at(0));
@@ -201,14 +219,14 @@ void Sounds::TeachChanges(Script& script)
 
 } // namespace
 
-std::vector<Sound> PlayScore(const char* name)
+std::vector<Sound> PlayScore(const QString& name)
 {
     Sounds sounds;
     Script script("effects");
     TeachShapes(script);
     sounds.TeachSources(script);
     sounds.TeachChanges(script);
-    script.Set(u"effect"_s, QString::fromLatin1(name));
+    script.Set(u"effect"_s, name);
     script.Run();
     return sounds.Of(script.Get("sound"));
 }

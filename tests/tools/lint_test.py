@@ -24,10 +24,14 @@ def floors_page(floors):
 FLOORS_OF_THE_LINT = [tuple(folder or "src" for folder in floor) for floor in reversed(lint.FLOORS)]
 
 
+SAMPLE_PAGE = "# Sample\n\n## Floors\n\n| Folder | Holds |\n|---|---|\n" + "".join(
+    f"| `{folder or 'sample'}/` | what it holds |\n" for folder in lint.SAMPLE_FLOORS)
+
+
 class LintTest(unittest.TestCase):
     def offences(self, files):
         """What the lint says of a tree of these files; the page of the floors is right unless it is one of them."""
-        files = {lint.FLOORS_PAGE: floors_page(FLOORS_OF_THE_LINT)} | files
+        files = {lint.FLOORS_PAGE: floors_page(FLOORS_OF_THE_LINT), lint.SAMPLE_FLOORS_PAGE: SAMPLE_PAGE} | files
         with tempfile.TemporaryDirectory() as root:
             for name, text in files.items():
                 path = Path(root, name)
@@ -116,7 +120,8 @@ class LintTest(unittest.TestCase):
             "sample/render/c.cpp": '#include "../titles/d.h"\n',
             "sample/titles/d.h": "#pragma once\n",
             "sample/titles/e.cpp": '#include "sample/titles/d.h"\n#include "sample/car/a.h"\n'})
-        self.assertEqual(offences, ["sample/titles/e.cpp:2: closes a ring of folders: sample/car -> sample/render -> "
+        self.assertEqual(offences, ["sample/car/a.h:2: sample/car may not include sample/render",
+                                    "sample/titles/e.cpp:2: closes a ring of folders: sample/car -> sample/render -> "
                                     "sample/titles -> sample/car"])
 
     def test_a_folder_and_its_own_sub_folder_can_make_a_ring(self):
@@ -139,7 +144,7 @@ class LintTest(unittest.TestCase):
         self.assert_clean({
             "sample/geometry/a.h": "#pragma once\n",
             "sample/car/b.h": '#pragma once\n#include "sample/geometry/a.h"\n',
-            "sample/render/c.cpp": '#include "sample/geometry/a.h"\n#include "sample/car/b.h"\n#include "sample/none.h"\n'})
+            "sample/render/c.cpp": '#include "sample/geometry/a.h"\n#include "sample/car/b.h"\n#include "sample/car/none.h"\n'})
 
     def test_sources_of_one_folder_that_use_each_other_through_headers_make_no_ring(self):
         self.assert_clean({
@@ -159,6 +164,19 @@ class LintTest(unittest.TestCase):
                           f"{', '.join(FLOORS_OF_THE_LINT[-1])}"])
         self.assert_caught(lint.FLOORS_PAGE, floors_page([*FLOORS_OF_THE_LINT, ("cellar",)]),
                            "shows cellar where tools/lint has no floor")
+
+    def test_the_folders_of_the_sample_disc_have_floors_and_a_page_of_their_own(self):
+        right = {"sample/main.cpp": '#include "sample/artwork/a.h"\n',
+                 "sample/artwork/a.h": '#pragma once\n#include "sample/car/a.h"\n', "sample/car/a.h": "#pragma once\n"}
+        self.assert_clean(right)
+        for name, included, message in (
+                ("sample/car/b.cpp", "sample/artwork/a.h", "sample/car may not include sample/artwork"),
+                ("sample/car/b.cpp", "sample/disc_maker.h", "sample/car may not include sample/"),
+                ("sample/car/b.cpp", "sample/attic/a.h", "sample/car may not include sample/attic"),
+                ("sample/attic/b.cpp", "sample/car/a.h", "the folder sample/attic has no floor")):
+            self.assert_caught(name, f'#include "{included}"\n', message)
+        self.assertEqual(self.offences(right | {lint.SAMPLE_FLOORS_PAGE: SAMPLE_PAGE.replace("`car/`", "`cart/`")}),
+                         [f"{lint.SAMPLE_FLOORS_PAGE}:10: shows cart where tools/lint has car"])
 
     def test_a_page_without_a_table_of_floors_is_caught(self):
         self.assert_caught(lint.FLOORS_PAGE, "# Architecture\n", "shows no floor where")

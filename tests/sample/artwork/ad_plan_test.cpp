@@ -1,4 +1,4 @@
-#include "sample/artwork/ad_layouts.h"
+#include "sample/artwork/ad_page.h"
 #include "sample/artwork/ad_plan.h"
 #include "sample/documents/colour_cards.h"
 #include "sample/documents/figures.h"

@@ -1,4 +1,4 @@
-#include "sample/artwork/art_plan.h"
+#include "sample/artwork/art_maker.h"
 #include "sample/files/jpeg_file.h"
 #include "support/test_class.h"
 

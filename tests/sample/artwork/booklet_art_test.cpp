@@ -1,5 +1,4 @@
 #include "sample/artwork/art_maker.h"
-#include "sample/artwork/art_plan.h"
 #include "support/test_class.h"
 
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sample/artwork/ad_parts.h"
+#include "sample/artwork/ad_plan.h"
 
 #include <QImage>
 

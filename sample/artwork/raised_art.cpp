@@ -1,4 +1,4 @@
-#include "sample/artwork/art_plan.h"
+#include "sample/artwork/art_maker.h"
 #include "sample/artwork/pen_script.h"
 #include "sample/car/paints.h"
 #include "sample/geometry/noise.h"
@@ -30,7 +30,45 @@ QImage Lacquer(const QColor& paint)
     return ground;
 }
 
+QImage Paper(QSize size)
+{
+    QImage paper(size, QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    return paper;
+}
+
+QImage Printed(const char* drawing, QSize size)
+{
+    QImage picture = Paper(size);
+    SmoothPainter painter(&picture);
+    Script script(drawing);
+    TeachPainting(script, painter);
+    script.Run();
+    return picture;
+}
+
 } // namespace
+
+QImage PaintEmblem(const SmallPicture& emblem)
+{
+    struct Look {
+        const char* name;
+        QColor middle, rim;
+    };
+    // In the order of the marques.
+    static const Look looks[] = {{"Vollandry", QColor(196, 200, 206), QColor(120, 126, 136)},
+                                 {"Harwell", QColor(214, 206, 190), QColor(150, 140, 124)},
+                                 {"Prototype", QColor(196, 200, 204), QColor(128, 134, 140)}};
+    const Look& look = looks[static_cast<std::size_t>(emblem.marque)];
+    const QSize size(200, 124);
+    Relief relief(size);
+    Script script("emblems");
+    TeachRelief(script, relief);
+    script.Set(u"marque"_s, QString::fromLatin1(look.name));
+    script.Set(u"year"_s, emblem.year);
+    script.Run();
+    return relief.Over(SoftGround(size, look.middle, look.rim));
+}
 
 QImage PaintScript(const SmallPicture& script)
 {
@@ -48,6 +86,27 @@ QImage PaintScript(const SmallPicture& script)
     drawing.Set(u"year"_s, script.year);
     drawing.Run();
     return relief.Over(Lacquer(ground));
+}
+
+QImage PaintBookletLogo()
+{
+    const QSize size(560, 160);
+    Relief relief(size);
+    Script script("booklet_logo");
+    TeachRelief(script, relief);
+    TeachPen(script);
+    script.Run();
+    return relief.Over(Paper(size));
+}
+
+QImage PaintBookletTitle()
+{
+    return Printed("booklet_title", {700, 190});
+}
+
+QImage PaintPublisherMark()
+{
+    return Printed("publisher_mark", {420, 130});
 }
 
 } // namespace torvik::sample

@@ -1,12 +1,14 @@
-#include "sample/artwork/ad_parts.h"
+#include "sample/artwork/ad_page.h"
 
 #include "sample/artwork/ad_type.h"
 #include "sample/artwork/flat_drawing.h"
 #include "sample/car/paints.h"
 #include "sample/documents/colour_cards.h"
 #include "sample/documents/figures.h"
+#include "sample/geometry/shapes.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/film.h"
+#include "sample/render/painting_words.h"
 #include "sample/render/tabletop.h"
 
 #include <algorithm>
@@ -17,6 +19,13 @@ namespace torvik::sample {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// A page under the printer's hands.
+struct AdPage {
+    QPainter& painter;
+    const PlannedAd& plan;
+    const AdCopy& copy;
+};
 
 Paint PaintNamed(int year, const QString& name)
 {
@@ -53,8 +62,7 @@ void DrawText(QPainter& p, const QRectF& box, const QString& text, const Type& t
     p.drawText(box, static_cast<int>(alignment | Qt::TextWordWrap), text);
 }
 
-} // namespace
-
+/// The photograph of the car for a place of the page.
 QImage AdPhoto(const PlannedAd& plan, QSize size)
 {
     const CarShape shape = ShapeOfYear(plan.year);
@@ -69,10 +77,13 @@ QImage AdPhoto(const PlannedAd& plan, QSize size)
     return picture;
 }
 
-void DrawPriceBox(const AdPage& page, const QRectF& box, const QColor& ground, const QColor& ink)
+/// The box with the price of the car and what it is for.
+void DrawPriceBox(const AdPage& page, const Arguments& a)
 {
+    const QRectF box = a.Box(0);
+    const QColor ink = a.Colour(2);
     QPainter& p = page.painter;
-    p.fillRect(box, ground);
+    p.fillRect(box, a.Colour(1));
     p.setPen(QPen(ink, 2));
     p.setBrush(Qt::NoBrush);
     p.drawRect(box.adjusted(6, 6, -6, -6));
@@ -91,8 +102,11 @@ void DrawPriceBox(const AdPage& page, const QRectF& box, const QColor& ground, c
     SetColumns(p, {words}, {rest}, {page.plan.body, ink, 22, Qt::AlignLeft});
 }
 
-void DrawEngines(const AdPage& page, const QRectF& box, const QColor& ink)
+/// The engines of the year with their power, one to a line.
+void DrawEngines(const AdPage& page, const Arguments& a)
 {
+    const QRectF box = a.Box(0);
+    const QColor ink = a.Colour(1);
     QPainter& p = page.painter;
     const std::vector<Engine> engines = EnginesOf(page.plan.year);
     const double line = std::min(34.0, box.height() / static_cast<double>(engines.size()));
@@ -111,8 +125,11 @@ void DrawEngines(const AdPage& page, const QRectF& box, const QColor& ink)
     p.drawLine(QPointF(box.left(), y), QPointF(box.right(), y));
 }
 
-void DrawColourRow(const AdPage& page, const QRectF& box, const QColor& ink)
+/// The car in the first colours of the card, as flat drawings side by side.
+void DrawColourRow(const AdPage& page, const Arguments& a)
 {
+    const QRectF box = a.Box(0);
+    const QColor ink = a.Colour(1);
     const CarShape shape = ShapeOfYear(page.plan.year);
     const std::vector<CardColour> card = ColourCard(page.plan.year);
     const int count = std::max(1, std::min({7, static_cast<int>(card.size()), Floor(box.width() / 125)}));
@@ -128,8 +145,11 @@ void DrawColourRow(const AdPage& page, const QRectF& box, const QColor& ink)
     }
 }
 
-void DrawSignature(const AdPage& page, const QRectF& box, const QColor& ink)
+/// Shield, name and works; small print below.
+void DrawSignature(const AdPage& page, const Arguments& a)
 {
+    const QRectF box = a.Box(0);
+    const QColor ink = a.Colour(1);
     QPainter& p = page.painter;
     const double size = std::min(30.0, box.height() * 0.36);
     const QPointF shield(box.left() + size, box.top() + size * 1.05);
@@ -147,6 +167,107 @@ void DrawSignature(const AdPage& page, const QRectF& box, const QColor& ink)
     DrawText(p, QRectF(box.left(), box.bottom() - 18, box.width(), 20),
              u"Cars, works and prices on this page are invented. Please do not send money."_s, page.plan.body,
              13, faint, Qt::AlignLeft | Qt::AlignTop);
+}
+
+/// The page's colour where it can be read on the paper, else that of the text.
+QColor LeadInk(const PlannedAd& plan)
+{
+    const int contrast = std::abs(qGray(plan.accent.rgb()) - qGray(plan.paper.rgb()));
+    return contrast > 105 ? plan.accent : plan.ink;
+}
+
+/// Argument `at`, where there is one, as an alignment.
+Qt::Alignment AlignmentOf(const Arguments& a, std::size_t at)
+{
+    const QString side = a.size() > at ? a[at].Text() : QString();
+    return side == "centre"_L1 ? Qt::AlignHCenter : side == "justified"_L1 ? Qt::AlignJustify : Qt::AlignLeft;
+}
+
+Value SetHeadline(const AdPage& page, const Arguments& a)
+{
+    const QPainterPath headline = FittedHeadline(page.copy.headline, a.Box(0), page.plan.headline, a.Whole(1),
+                                                 a.Number(2), AlignmentOf(a, 3));
+    page.painter.fillPath(headline, page.plan.ink);
+    return headline.boundingRect().bottom();
+}
+
+void SetLead(const AdPage& page, const Arguments& a)
+{
+    Type type = page.plan.body;
+    type.italic = page.plan.year < 1979;
+    type.bold = page.plan.year >= 1979;
+    SetColumns(page.painter, {page.copy.lead}, {a.Box(0)},
+               {type, a.Colour(1), a.Number(2), AlignmentOf(a, 3)});
+}
+
+void SetBody(const AdPage& page, const Arguments& a)
+{
+    std::vector<QRectF> columns;
+    for (const Value& column : a.Items(0))
+        columns.push_back(column.Box());
+    SetColumns(page.painter, page.copy.paragraphs, columns,
+               {page.plan.body, page.plan.ink, a.Number(1), AlignmentOf(a, 2)});
+}
+
+Value Columns(const Arguments& a)
+{
+    Value::List columns;
+    for (const QRectF& column : ColumnsIn(a.Box(0), a.Whole(1), a.Number(2)))
+        columns.emplace_back(column);
+    return columns;
+}
+
+void TeachPage(Script& script, const AdPage& page)
+{
+    using Action = void (*)(const AdPage&, const Arguments&);
+    constexpr std::pair<const char*, Action> actions[] = {
+        {"setLead", SetLead},
+        {"setColumns", SetBody},
+        {"setPhoto",
+         [](const AdPage& p, const Arguments& a) {
+             const QRectF box = a.Box(0);
+             p.painter.drawImage(box, AdPhoto(p.plan, box.size().toSize()));
+         }},
+        {"drawPriceBox", DrawPriceBox},
+        {"drawEngines", DrawEngines},
+        {"drawColourRow", DrawColourRow},
+        {"drawSignature", DrawSignature},
+    };
+    for (const auto& [name, action] : actions) {
+        script.Teach(name, [&page, action](const Arguments& a) {
+            action(page, a);
+            return Value();
+        });
+    }
+    script.Teach("setHeadline", [&page](const Arguments& a) { return SetHeadline(page, a); });
+    script.Teach("columnsIn", Columns);
+}
+
+} // namespace
+
+QImage PaintAd(const PlannedAd& plan)
+{
+    QImage sheet(plan.Size(), QImage::Format_RGB32);
+    sheet.fill(plan.paper);
+    SmoothPainter painter(&sheet);
+    const AdCopy copy = AdCopyOf(plan.year);
+    const AdPage page{painter, plan, copy};
+    Script script("ad_pages");
+    TeachPainting(script, painter);
+    TeachPage(script, page);
+    const std::pair<const char*, Value> words[] = {
+        {"layout", static_cast<int>(plan.layout)},
+        {"year", plan.year},
+        {"paper", plan.paper},
+        {"ink", plan.ink},
+        {"accent", plan.accent},
+        {"leadInk", LeadInk(plan)},
+        // Fashion: columns with two straight edges to the end of the seventies, with one since.
+        {"edge", plan.year < 1979 ? u"justified"_s : u"left"_s}};
+    for (const auto& [word, value] : words)
+        script.Set(QString::fromLatin1(word), value);
+    script.Run();
+    return sheet;
 }
 
 } // namespace torvik::sample
