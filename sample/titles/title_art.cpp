@@ -8,6 +8,7 @@
 #include "sample/render/film.h"
 #include "sample/render/renderer.h"
 #include "sample/render/tabletop.h"
+#include "sample/scenery/place_script.h"
 
 namespace torvik::sample {
 
@@ -17,20 +18,7 @@ namespace {
 
 Scenery Evening(std::uint32_t seed)
 {
-    Scenery s = CoastScenery(seed);
-    s.light = Daylight{.toSun = Unit({-0.75, 0.75, 0.20}),
-                       .sun = {2.6, 1.35, 0.55},
-                       .zenith = {0.07, 0.09, 0.22},
-                       .horizon = {1.0, 0.50, 0.22},
-                       .ground = {0.12, 0.09, 0.08},
-                       .band = {0.035, 0.03, 0.045},
-                       .bandHeight = 0.12,
-                       .clouds = 0.55,
-                       .seed = seed};
-    s.haze = {0.75, 0.38, 0.20};
-    s.shadowStrength = 0.5;
-    s.floorShine = 0.18;
-    return s;
+    return PlaceFrom("evening_light", seed, CoastScenery(seed));
 }
 
 /// Adds a further car to a picture: its shadow on the ground, then itself.
