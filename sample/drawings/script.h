@@ -48,6 +48,8 @@ public:
     const Value& Get(const char* name) const;
     /// Draws the whole. Throws std::runtime_error with the line that cannot be obeyed.
     void Run();
+    /// What a word or a procedure of the script gives; procedures are known once it has run.
+    Value Call(const QString& word, const Arguments& arguments);
 
 private:
     struct Token {
@@ -69,7 +71,6 @@ private:
     /// Obeys the lines from `first` up to `end`; whether a value was given.
     bool Obey(std::size_t first, std::size_t end);
     std::size_t ObeyBlock(std::size_t at, bool& given);
-    Value Call(const QString& word, const Arguments& arguments);
     const Value& Known(const QString& name) const;
 
     QString name_;

@@ -1,5 +1,7 @@
 #include "sample/movies/movie_plan.h"
 
+#include "sample/scenery/place_script.h"
+
 namespace torvik::sample {
 
 namespace {
@@ -23,24 +25,6 @@ std::function<std::unique_ptr<Stage>()> CarIn(int year, std::size_t paint, Trim:
         const std::vector<Paint>& card = PaintsOfYear(year);
         return std::make_unique<Stage>(ShapeOfYear(year), card[paint % card.size()], trim, scenery);
     };
-}
-
-/// The coast when the sun has nearly gone.
-Scenery LongShadows()
-{
-    Scenery s = CoastScenery(11);
-    s.light = Daylight{.toSun = Unit({-0.8, 0.45, 0.24}),
-                       .sun = {2.5, 1.2, 0.5},
-                       .zenith = {0.06, 0.08, 0.20},
-                       .horizon = {1.0, 0.46, 0.20},
-                       .ground = {0.10, 0.08, 0.07},
-                       .band = {0.03, 0.03, 0.04},
-                       .bandHeight = 0.10,
-                       .clouds = 0.5,
-                       .seed = 11};
-    s.haze = {0.72, 0.36, 0.20};
-    s.shadowStrength = 0.7;
-    return s;
 }
 
 /// A camera that runs along, beginning at `from` and ending at `to` after `seconds`, while the car drives at
@@ -110,7 +94,7 @@ const std::vector<MoviePlan>& Movies()
          {Text("The Q44 package"), Text("\"Shadows\""), Text("When the sun goes, it comes"),
           QColor(54, 34, 70)},
          EndCard("Good night, and dip your lamps", QColor(54, 34, 70)),
-         CarIn(1970, 6, Trim::Stripe::Rocker, LongShadows(), true),
+         CarIn(1970, 6, Trim::Stripe::Rocker, PlaceFrom("long_shadows", 11, CoastScenery(11)), true),
          {Tracking(3.75, {-6.8, -2.2, 0.55}, {-5.2, -4.2, 0.9}, 44, -20, 8),
           Tracking(3.25, {-2.6, -4.6, 0.5}, {2.6, -4.8, 0.7}, 34, -10, 10),
           Roadside(3.25, 1.6, 5.0, 1.0, 38, 13)},

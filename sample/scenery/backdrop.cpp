@@ -120,6 +120,26 @@ void PaintBar(QPainter& painter, const Camera& camera, const Vec& from, const Ve
                      colour);
 }
 
+std::vector<Trunk> Grove(std::uint32_t seed, int count, double free, const Camera& camera)
+{
+    Random random(seed);
+    std::vector<Trunk> trunks;
+    for (int i = 0; i < count; ++i) {
+        const double side = random.Unit() < 0.75 ? 1.0 : -1.0;
+        const double x = random.Between(-75, 75);
+        const double y = side * (free + std::pow(random.Unit(), 1.6) * 42);
+        trunks.push_back({x, y, random.Between(6, 13), random.Below(5)});
+    }
+    // Nothing stands between the camera and the car.
+    std::erase_if(trunks,
+                  [&](const Trunk& t) { return std::hypot(t.x - camera.eye.x, t.y - camera.eye.y) < 9.0; });
+    std::sort(trunks.begin(), trunks.end(), [&](const Trunk& a, const Trunk& b) {
+        return std::hypot(a.x - camera.eye.x, a.y - camera.eye.y) >
+               std::hypot(b.x - camera.eye.x, b.y - camera.eye.y);
+    });
+    return trunks;
+}
+
 QColor Hazed(const QColor& colour, const QColor& haze, double share)
 {
     const double t = Clamp01(share);

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <vector>
 
 namespace torvik::sample {
 
@@ -34,6 +35,15 @@ void PaintFir(QPainter& painter, const Standing& at, double tall, const QColor& 
 /// A straight line between two places in the world, `thick` metres wide.
 void PaintBar(QPainter& painter, const Camera& camera, const Vec& from, const Vec& to, double thick,
               const QColor& colour);
+/// A tree of a wood: where it stands, how tall it is and of which of five kinds.
+struct Trunk {
+    double x;
+    double y;
+    double tall;
+    int kind;
+};
+/// Trees on both sides of a lane along x that is free so far to each side, the farthest first.
+std::vector<Trunk> Grove(std::uint32_t seed, int count, double free, const Camera& camera);
 /// The colour as it looks through `share` (0 to 1) of haze.
 QColor Hazed(const QColor& colour, const QColor& haze, double share);
 

@@ -3,11 +3,11 @@
 #include "sample/car/car_mesh.h"
 #include "sample/car/paints.h"
 #include "sample/geometry/noise.h"
-#include "sample/geometry/shapes.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/film.h"
 #include "sample/render/renderer.h"
-#include "sample/render/tabletop.h"
+#include "sample/scenery/place_script.h"
+#include "sample/titles/title_script.h"
 
 namespace torvik::sample {
 
@@ -17,20 +17,7 @@ namespace {
 
 Scenery Evening(std::uint32_t seed)
 {
-    Scenery s = CoastScenery(seed);
-    s.light = Daylight{.toSun = Unit({-0.75, 0.75, 0.20}),
-                       .sun = {2.6, 1.35, 0.55},
-                       .zenith = {0.07, 0.09, 0.22},
-                       .horizon = {1.0, 0.50, 0.22},
-                       .ground = {0.12, 0.09, 0.08},
-                       .band = {0.035, 0.03, 0.045},
-                       .bandHeight = 0.12,
-                       .clouds = 0.55,
-                       .seed = seed};
-    s.haze = {0.75, 0.38, 0.20};
-    s.shadowStrength = 0.5;
-    s.floorShine = 0.18;
-    return s;
+    return PlaceFrom("evening_light", seed, CoastScenery(seed));
 }
 
 /// Adds a further car to a picture: its shadow on the ground, then itself.
@@ -74,32 +61,6 @@ void AddCar(QImage& picture, const CarShape& shape, const Paint& paint, const Tr
 
 } // namespace
 
-void TitleText(QPainter& p, const QString& text, const QPointF& middle, double height, const QString& family,
-               bool italic, double spacing)
-{
-    QFont font(family);
-    font.setBold(true);
-    font.setItalic(italic);
-    font.setPixelSize(200);
-    font.setLetterSpacing(QFont::PercentageSpacing, spacing);
-    QPainterPath path;
-    path.addText(0, 0, font, text);
-    const QRectF box = path.boundingRect();
-    QTransform place;
-    place.translate(middle.x(), middle.y());
-    place.scale(height / 200.0, height / 200.0);
-    place.translate(-box.center().x(), -box.center().y());
-    path = place.map(path);
-    DropShadow(p, path, height * 0.10, 0.85);
-    const QRectF b = path.boundingRect();
-    p.fillPath(path, Linear(b.topLeft(), b.bottomLeft(),
-                            {{0, QColor(255, 250, 236)},
-                             {0.48, QColor(240, 220, 176)},
-                             {0.52, QColor(176, 140, 88)},
-                             {1, QColor(255, 236, 190)}}));
-    p.strokePath(path, QPen(QColor(60, 34, 14, 150), height * 0.012));
-}
-
 QImage PaintOpening(QSize size)
 {
     const Camera camera = LookAt({-7.6, -9.6, 1.9}, {1.2, 0.6, 1.30}, 40, size);
@@ -124,11 +85,7 @@ QImage PaintOpening(QSize size)
     }
     picture = picture.convertToFormat(QImage::Format_RGB32);
     Develop(picture, 2001, 4711);
-    SmoothPainter p(&picture);
-    const double w = size.width();
-    const double h = size.height();
-    TitleText(p, u"The Torvik Vollandry"_s, {w * 0.5, h * 0.13}, h * 0.155, u"Liberation Serif"_s, true, 100);
-    TitleText(p, u"1967 - 2001"_s, {w * 0.5, h * 0.245}, h * 0.06, u"Liberation Sans"_s, false, 130);
+    PaintTitle(picture, "titles", "opening");
     return picture;
 }
 
@@ -140,18 +97,7 @@ QImage PaintSplash(int factor)
     const Trim trim{.plate = u"2001"_s, .script = u"Vollandry"_s, .lampsLit = true};
     QImage picture =
         PhotographCar(shape, PaintsOfYear(1967)[0], trim, Evening(11), camera, size, CarSide::Left);
-    SmoothPainter p(&picture);
-    const double w = size.width();
-    const double h = size.height();
-    p.fillRect(QRectF(0, 0, w, h * 0.5),
-               Linear({0, 0}, {0, h * 0.5}, Veil(QColor(14, 8, 24), {{0, 170}, {1, 0}})));
-    TitleText(p, u"The Torvik"_s, {w * 0.5, h * 0.105}, h * 0.115, u"Liberation Serif"_s, true, 100);
-    TitleText(p, u"Vollandry 2001"_s, {w * 0.5, h * 0.235}, h * 0.165, u"Liberation Serif"_s, true, 100);
-    p.setPen(QPen(QColor(240, 214, 160), 2.0 * factor));
-    p.setBrush(Qt::NoBrush);
-    p.drawRect(QRectF(5.0 * factor, 5.0 * factor, w - 10.0 * factor, h - 10.0 * factor));
-    p.setPen(QPen(QColor(60, 34, 14), 1.0 * factor));
-    p.drawRect(QRectF(7.0 * factor, 7.0 * factor, w - 14.0 * factor, h - 14.0 * factor));
+    PaintTitle(picture, "titles", "splash");
     return picture;
 }
 
@@ -159,24 +105,11 @@ QImage PaintIcon(int size)
 {
     QImage picture(size, size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
-    SmoothPainter p(&picture);
-    const double s = size;
-    LayMetal(p, ShieldPath({s * 0.5, s * 0.47}, s * 0.42), s * 0.02, 0.6, QColor(202, 204, 210), 0.9);
-    const QPainterPath field = ShieldPath({s * 0.5, s * 0.47}, s * 0.37);
-    p.fillPath(field, Linear({0, s * 0.1}, {0, s * 0.9},
-                             {{0, QColor(120, 10, 22)}, {0.5, QColor(206, 40, 40)}, {1, QColor(92, 6, 16)}}));
-    p.strokePath(field, QPen(QColor(60, 4, 10), s * 0.012));
-    const QPainterPath tee = WingedT({s * 0.5, s * 0.42}, s * 0.27);
-    QTransform raise = QTransform::fromTranslate(0, -s * 0.03);
-    p.save();
-    p.setOpacity(0.9);
-    p.fillPath(raise.map(tee), QColor(250, 226, 180, 90));
-    p.restore();
     const Trim trim{.plate = u"2001"_s};
     const Paint silver{QString(), QColor(206, 210, 216), 0.9};
     const QImage car =
         CutOutCar(ShapeOfYear(1967), silver, trim, View::FrontLeft, QSize(size * 2, size * 6 / 5));
-    p.drawImage(QRectF(s * 0.0, s * 0.34, s, s * 0.6), car);
+    PaintTitle(picture, "titles", "icon", [&](Script& script) { script.Set(u"car"_s, car); });
     return picture;
 }
 

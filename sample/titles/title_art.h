@@ -1,16 +1,8 @@
 #pragma once
 
 #include <QImage>
-#include <QPointF>
-#include <QString>
-
-class QPainter;
 
 namespace torvik::sample {
-
-/// Golden lettering of `height` pixels around `middle`, with a shadow; `spacing` of the letters in percent.
-void TitleText(QPainter& p, const QString& text, const QPointF& middle, double height, const QString& family,
-               bool italic, double spacing);
 
 /// The opening picture: several generations before the evening sea, with the title.
 QImage PaintOpening(QSize size);
