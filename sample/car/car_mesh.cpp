@@ -1,5 +1,7 @@
 #include "sample/car/car_mesh.h"
 
+#include <ranges>
+
 namespace torvik::sample {
 
 namespace {
@@ -109,8 +111,8 @@ std::vector<double> Stations(const CarShape& c)
     std::vector<double> stations(ends.begin(), ends.end());
     for (double s = 0.105; s < c.length - 0.1; s += 0.04)
         stations.push_back(s);
-    for (auto end = ends.rbegin(); end != ends.rend(); ++end)
-        stations.push_back(c.length - *end);
+    for (const double end : ends | std::views::reverse)
+        stations.push_back(c.length - end);
     return stations;
 }
 
@@ -356,7 +358,7 @@ void AddWheel(std::vector<Mesh>& parts, const Vec& hub, double radius, double ri
     wheel.centre = hub;
     wheel.turn = turn;
     // The dished part of the face points toward the hub's outside, not away from the hub itself.
-    for (std::size_t i = 0; i < 9U * 57U; ++i) {
+    for (std::size_t i = 0; i < std::size_t{9} * 57; ++i) {
         if (wheel.vertices[i].normal.y * side < 0)
             wheel.vertices[i].normal = wheel.vertices[i].normal * -1.0;
     }

@@ -26,8 +26,8 @@ Rgb LinearOf(const QColor& colour)
             table[static_cast<std::size_t>(colour.blue())]};
 }
 
-SkinMap::SkinMap(QImage colour, QImage material, QImage relief, double left, double bottom,
-                 double pixelsPerMetre)
+SkinMap::SkinMap(const QImage& colour, const QImage& material, const QImage& relief, double left,
+                 double bottom, double pixelsPerMetre)
     : width_(colour.width()), height_(colour.height()), left_(left), bottom_(bottom), scale_(pixelsPerMetre)
 {
     points_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));

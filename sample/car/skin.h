@@ -33,7 +33,8 @@ struct Material {
 class SkinMap {
 public:
     SkinMap() = default;
-    SkinMap(QImage colour, QImage material, QImage relief, double left, double bottom, double pixelsPerMetre);
+    SkinMap(const QImage& colour, const QImage& material, const QImage& relief, double left, double bottom,
+            double pixelsPerMetre);
 
     bool IsEmpty() const { return points_.empty(); }
     /// The material at u metres to the right and v metres up.

@@ -44,10 +44,9 @@ QImage Reduced(const QImage& picture, const QColor& body)
 
 Drawing Placed(const QImage& picture, const QColor& body, int width)
 {
-    const Drawing drawing{.image = Reduced(picture, body),
-                          .width = width,
-                          .height = width * picture.height() / picture.width()};
-    return drawing;
+    return {.image = Reduced(picture, body),
+            .width = width,
+            .height = width * picture.height() / picture.width()};
 }
 
 Drawing SideOf(const CarShape& shape, const QColor& body, int width)

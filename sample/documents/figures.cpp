@@ -140,7 +140,7 @@ int PriceIn(int year, int priceOf1967)
 {
     // Half as fast as the car itself: what had been a luxury became cheaper to make.
     const double level = 0.5 + 0.5 * ModelYearOf(year).price / ModelYearOf(1967).price;
-    const int exact = static_cast<int>(priceOf1967 * level + 0.5);
+    const int exact = static_cast<int>(std::floor(priceOf1967 * level + 0.5));
     return year < 1975 || exact < 20 ? exact : (exact + 2) / 5 * 5;
 }
 

@@ -4,6 +4,7 @@
 #include "sample/documents/year_articles.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace torvik::sample {
 
@@ -48,7 +49,7 @@ QString MeasuresText(const ModelYear& year)
     };
     const auto weight = [](const QString& name, int kilograms) {
         return RowOf({u"Weight, "_s + name, Grouped(kilograms) + u" kg"_s,
-                      Grouped(static_cast<int>(kilograms * 2.20462 + 0.5)) + u" lb"_s});
+                      Grouped(static_cast<int>(std::floor(kilograms * 2.20462 + 0.5))) + u" lb"_s});
     };
     QString text =
         u"== Measures and weights\n@table grid 3700 1800r 1700r\n|= Measure | Metric | Inches, pounds"_s +

@@ -35,8 +35,8 @@ QByteArray PictureStream(const AviMovie& movie)
     header += Longs({0, 0, 0, 1, movie.framesPerSecond, 0, static_cast<int>(movie.frames.size()),
                      LongestOf(movie.frames), -1, 0});
     header += Longs({0}) + Words({width, height});
-    const QByteArray bitmap =
-        Longs({40, width, height}) + Words({1, 24}) + "MJPG" + Longs({width * height * 3, 0, 0, 0, 0});
+    const QByteArray bitmap = Longs({40, width, height}) + Words({1, 24}) + "MJPG" +
+                              Longs({qint64{width} * height * 3, 0, 0, 0, 0});
     return RiffList("LIST", "strl", RiffChunk("strh", header) + RiffChunk("strf", bitmap));
 }
 

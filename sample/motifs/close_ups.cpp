@@ -54,6 +54,19 @@ QImage BrickWall(QSize size, std::uint32_t seed)
     return wall;
 }
 
+CarShape StudyShape(const PlannedPhoto& photo)
+{
+    CarShape shape = ShapeOfYear(photo.year);
+    shape.flare += 0.02;
+    shape.sideScoop = photo.variant % 2 == 0;
+    shape.bonnetScoop = true;
+    shape.ductTail = true;
+    shape.bumper = Bumper::Hidden;
+    shape.roof = shape.roof.Raised(-0.05);
+    shape.wheel = WheelFace::FiveStar;
+    return shape;
+}
+
 QImage ThroughWindscreen(const PlannedPhoto& photo)
 {
     Scenery outside = MakeScenery(photo.place == Place::Showroom ? Place::Coast : photo.place, SeedOf(photo));

@@ -9,7 +9,4 @@ namespace torvik::sample {
 /// The picture as it is looked at, before it is stored: a car in its place, or another motif.
 QImage TakePhoto(const PlannedPhoto& photo);
 
-/// A model of clay in the studio.
-QImage PaintClay(const PlannedPhoto& photo);
-
 } // namespace torvik::sample

@@ -56,7 +56,8 @@ GroundShadow::GroundShadow(const std::vector<Mesh>& parts, const Vec& toLight, d
                 const int y1 = std::min(cellsAcross - 1, Floor(std::max({py[0], py[1], py[2]})));
                 for (int y = y0; y <= y1; ++y) {
                     for (int x = x0; x <= x1; ++x)
-                        target[static_cast<std::size_t>(y * cellsAcross + x)] = value;
+                        target[static_cast<std::size_t>(y) * cellsAcross + static_cast<std::size_t>(x)] =
+                            value;
                 }
             }
         };
@@ -87,7 +88,8 @@ double GroundShadow::At(double x, double y) const
     if (ix < 0 || iy < 0 || ix + 1 >= cellsAcross || iy + 1 >= cellsAcross)
         return 0.0;
     const auto cell = [this](int px, int py) {
-        return static_cast<double>(cells_[static_cast<std::size_t>(py * cellsAcross + px)]);
+        return static_cast<double>(
+            cells_[static_cast<std::size_t>(py) * cellsAcross + static_cast<std::size_t>(px)]);
     };
     return Mix(Mix(cell(ix, iy), cell(ix + 1, iy), cx - ix),
                Mix(cell(ix, iy + 1), cell(ix + 1, iy + 1), cx - ix), cy - iy);
@@ -144,8 +146,8 @@ Rgb Environment::PreparedSky(const Vec& way) const
     const int iu = Floor(u);
     const int iv = Floor(v);
     const auto tone = [this](int column, int row) {
-        const Tone& t =
-            prepared_[static_cast<std::size_t>(row * azimuthSteps + (column + azimuthSteps) % azimuthSteps)];
+        const Tone& t = prepared_[static_cast<std::size_t>(row) * azimuthSteps +
+                                  static_cast<std::size_t>((column + azimuthSteps) % azimuthSteps)];
         return Rgb{static_cast<double>(t.red), static_cast<double>(t.green), static_cast<double>(t.blue)};
     };
     return Mix(Mix(tone(iu, iv), tone(iu + 1, iv), u - iu),

@@ -31,12 +31,12 @@ int ToByte(double light)
         for (std::size_t i = 0; i < values.size(); ++i) {
             // The table runs over the square root of the light, so that the darks have enough steps.
             const double root = static_cast<double>(i) / toneSteps;
-            values[i] = static_cast<unsigned char>(std::pow(root * root, 1.0 / 2.2) * 255.0 + 0.5);
+            values[i] = static_cast<unsigned char>(Floor(std::pow(root * root, 1.0 / 2.2) * 255.0 + 0.5));
         }
         return values;
     }();
     const double root = std::sqrt(Clamp01(light));
-    return table[static_cast<std::size_t>(root * toneSteps + 0.5)];
+    return table[static_cast<std::size_t>(Floor(root * toneSteps + 0.5))];
 }
 
 /// The mean over 2 * radius + 1 pixels along lines of `count` pixels that lie `step` apart.
@@ -121,7 +121,7 @@ Rgb Shoulder(const Rgb& light)
 
 QRgb PixelOf(const Rgb& light, double cover)
 {
-    const int alpha = static_cast<int>(Clamp01(cover) * 255.0 + 0.5);
+    const int alpha = Floor(Clamp01(cover) * 255.0 + 0.5);
     return qRgba(std::min(ToByte(light.x), alpha), std::min(ToByte(light.y), alpha),
                  std::min(ToByte(light.z), alpha), alpha);
 }
@@ -134,7 +134,7 @@ QRgb PixelOf(const Rgb& light)
 QImage Blurred(const QImage& picture, double radius)
 {
     QImage soft = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    const int reach = static_cast<int>(radius * 0.75 + 0.5);
+    const int reach = Floor(radius * 0.75 + 0.5);
     if (reach < 1)
         return soft;
     const std::ptrdiff_t stride = soft.bytesPerLine() / 4;

@@ -19,17 +19,15 @@ Scenery TurnedRound(Scenery scenery)
 {
     scenery.light.toSun.x = -scenery.light.toSun.x;
     scenery.light.toSun.y = -scenery.light.toSun.y;
-    if (scenery.backdrop) {
-        scenery.backdrop = [backdrop = scenery.backdrop](QPainter& painter, const Camera& camera) {
-            const auto turned = [](const Vec& v) { return Vec{-v.x, -v.y, v.z}; };
-            Camera other = camera;
-            other.eye = turned(camera.eye);
-            other.right = turned(camera.right);
-            other.up = turned(camera.up);
-            other.forward = turned(camera.forward);
-            backdrop(painter, other);
-        };
-    }
+    scenery.backdrop = [backdrop = scenery.backdrop](QPainter& painter, const Camera& camera) {
+        const auto turned = [](const Vec& v) { return Vec{-v.x, -v.y, v.z}; };
+        Camera other = camera;
+        other.eye = turned(camera.eye);
+        other.right = turned(camera.right);
+        other.up = turned(camera.up);
+        other.forward = turned(camera.forward);
+        backdrop(painter, other);
+    };
     scenery.ground = [ground = scenery.ground](double x, double y, double distance) {
         return ground(-x, -y, distance);
     };
@@ -77,8 +75,6 @@ QImage PaintScenery(const Scenery& scenery, const Camera& camera, QSize size)
             line[x] = PixelOf(Shoulder(Mix(colour, scenery.haze, fade * fade)));
         }
     }
-    if (!scenery.backdrop)
-        return picture;
     // The backdrop is out of focus, so half the size is fine enough for it.
     QImage far(size / 2, QImage::Format_ARGB32_Premultiplied);
     far.fill(Qt::transparent);

@@ -13,7 +13,7 @@ enum class Place { Coast, Desert, City, Strip, Showroom, Snow, Autumn, Studio };
 /// A place: its light, what stands far off and what lies on the ground.
 struct Scenery {
     Environment light;
-    /// Draws what stands above the ground; may be empty.
+    /// Draws what stands above the ground.
     std::function<void(QPainter& painter, const Camera& camera)> backdrop;
     /// The colour of the ground at a place; `distance` metres from the camera.
     std::function<Rgb(double x, double y, double distance)> ground;

@@ -3,6 +3,7 @@
 #include "sample/car/car_mesh.h"
 #include "sample/car/paints.h"
 #include "sample/geometry/noise.h"
+#include "sample/motifs/motifs.h"
 #include "sample/photos/photographer.h"
 #include "sample/render/film.h"
 #include "sample/render/renderer.h"
@@ -59,6 +60,18 @@ void AddCar(QImage& picture, const CarShape& shape, const Paint& paint, const Tr
     Render(picture, subject, own, around);
 }
 
+/// A photo of the disc by its prefix and number, taken in another size.
+Value PhotoOf(const Arguments& a)
+{
+    const std::vector<PlannedPhoto> photos = PlanPhotos();
+    auto found = std::find_if(photos.begin(), photos.end(), [&](const PlannedPhoto& photo) {
+        return photo.prefix == a.Text(0) && photo.number == a.Whole(1);
+    });
+    PlannedPhoto photo = *found;
+    photo.size = QSizeF(a.Point(2).x(), a.Point(2).y()).toSize();
+    return TakePhoto(photo);
+}
+
 } // namespace
 
 QImage PaintOpening(QSize size)
@@ -111,6 +124,13 @@ QImage PaintIcon(int size)
         CutOutCar(ShapeOfYear(1967), silver, trim, View::FrontLeft, QSize(size * 2, size * 6 / 5));
     PaintTitle(picture, "titles", "icon", [&](Script& script) { script.Set(u"car"_s, car); });
     return picture;
+}
+
+QImage PaintSlideShow(QSize size)
+{
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    PaintTitle(picture, "titles", "slideShow", [](Script& script) { script.Teach("photo", PhotoOf); });
+    return picture.convertToFormat(QImage::Format_RGB32);
 }
 
 } // namespace torvik::sample
