@@ -2,6 +2,8 @@
 
 #include "rtf/bounds/limits.h"
 
+#include <ranges>
+
 namespace torvik::rtf {
 
 namespace {
@@ -70,8 +72,8 @@ const StyleWords* StyleSheet::Find(Styles& styles, int number)
     for (auto base = styles.find(style.base); base != styles.end() && chain.size() < mostBases;
          base = styles.find(base->second.base))
         chain.push_back(&base->second.words);
-    for (auto words = chain.rbegin(); words != chain.rend(); ++words)
-        style.whole.insert(style.whole.end(), (*words)->begin(), (*words)->end());
+    for (const StyleWords* words : chain | std::views::reverse)
+        style.whole.insert(style.whole.end(), words->begin(), words->end());
     style.isWhole = true;
     return &style.whole;
 }

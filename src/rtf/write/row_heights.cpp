@@ -7,6 +7,7 @@
 #include <QTextTable>
 
 #include <algorithm>
+#include <ranges>
 #include <vector>
 
 namespace torvik::rtf {
@@ -90,9 +91,9 @@ void SetRowHeights(QTextDocument& document)
 {
     std::vector<std::vector<QTextTable*>> levels;
     Collect(*document.rootFrame(), 0, levels);
-    for (auto level = levels.rbegin(); level != levels.rend(); ++level) {
+    for (const std::vector<QTextTable*>& level : levels | std::views::reverse) {
         std::vector<Missing> missing;
-        for (const QTextTable* table : *level)
+        for (const QTextTable* table : level)
             Measure(*table, missing);
         if (missing.empty())
             continue;
