@@ -18,6 +18,7 @@
 #include "ui/forms/event.h"
 #include "ui/forms/form_window.h"
 #include "ui/media/file_source.h"
+#include "ui/pictures/pictures_ahead.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
 
@@ -156,6 +157,7 @@ double LookUps(QChar letter)
 double PhotoStep(QChar letter)
 {
     state.PhotoRoot = letter + u":"_s;
+    ForgetPicturesAhead(); // a photo that is ready would say nothing of the disc
     return bench::Milliseconds([] {
         QWidget* focused = QApplication::focusWidget();
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, u"."_s);
