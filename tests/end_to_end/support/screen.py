@@ -113,6 +113,10 @@ class Screen:
         at_start, at_end = ([str(round(value)) for value in place] for place in (start, end))
         self._run("xdotool", "mousemove", *at_start, "mousedown", "1", "mousemove", *at_end, "mouseup", "1")
 
+    def use_layout(self, layout):
+        """The keyboard of another country: "us", "de"."""
+        self._run("setxkbmap", layout)
+
     def press_key(self, *keys):
         """Keys by their X names: "period", "Escape", "alt+F4"."""
         self._run("xdotool", "key", "--clearmodifiers", *keys)
@@ -120,13 +124,13 @@ class Screen:
     def type_text(self, text):
         self._run("xdotool", "type", "--clearmodifiers", "--delay", "20", text)
 
+    def windows_of(self, process):
+        """The numbers of a process's visible windows."""
+        return self._try("xdotool", "search", "--onlyvisible", "--pid", str(process)).split()
+
     def window_of(self, process):
         """The number of a process's one visible window."""
-        def search():
-            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(process)], text=True,
-                                   env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, check=False)
-            return found.stdout.split()
-        windows = wait_until(search, "a visible window")
+        windows = wait_until(lambda: self.windows_of(process), "a visible window")
         if len(windows) > 1:
             raise RuntimeError(f"the process has the windows {windows}")
         return windows[0]
@@ -168,6 +172,11 @@ class Screen:
 
     def has_icon(self, window):
         return "Icon (" in self._property(window, "_NET_WM_ICON")
+
+    def owner_of(self, window):
+        """The number of the window that it stands over, as the manager is told; empty for none."""
+        found = re.search(r"0x[0-9a-f]+", self._run("xprop", "-id", window, "WM_TRANSIENT_FOR"))
+        return str(int(found[0], 16)) if found else ""
 
     def work_area(self):
         """The first monitor without the manager's panels."""
@@ -214,6 +223,10 @@ class Screen:
 
     def title_of(self, window):
         return self._run("xdotool", "getwindowname", window).rstrip("\n")
+
+    def titles_of(self, window):
+        """All that a manager may take for the title: the property of today's desktops and the older one."""
+        return {self._property(window, name).removeprefix('"').removesuffix('"') for name in ("_NET_WM_NAME", "WM_NAME")}
 
     def move_window(self, window, left, top):
         """Moves the frame that the window manager has put around the window."""

@@ -345,6 +345,28 @@ private Q_SLOTS:
         QVERIFY(stoodWithoutBox);
     }
 
+    void a_box_whose_form_has_just_gone_comes_up_over_the_form_before()
+    {
+        struct OtherForm : Form {
+            explicit OtherForm(const QString& name) : Form(DesignOf(name)) {}
+        };
+        QVERIFY(UiRoom::Open(*Main));
+        OtherForm below(u"Below"_s);
+        QVERIFY(UiRoom::Open(below));
+        OtherForm gone(u"Gone"_s);
+        QVERIFY(UiRoom::Open(gone));
+        const QWidget* window = nullptr;
+        const auto look = [&] { window = Box().parentWidget(); };
+        Answer(u"?"_s, msgbox::ok, u"OK"_s, look);
+        QCOMPARE(window, &gone.Window());
+        gone.Hide();
+        UiRoom::Settle(); // the activation that the box left behind comes late
+        QCOMPARE(QApplication::activeWindow(), &gone.Window());
+        Answer(u"?"_s, msgbox::ok, u"OK"_s, look);
+        QCOMPARE(window, &below.Window());
+        QTRY_COMPARE(QApplication::activeWindow(), &below.Window());
+    }
+
     void a_responder_answers_in_place_of_the_box()
     {
         MessageRequest asked;
