@@ -18,7 +18,7 @@ Card EndCard(const char* below, const QColor& colour)
 }
 
 std::function<std::unique_ptr<Stage>()> CarIn(int year, std::size_t paint, Trim::Stripe stripe,
-                                              Scenery scenery, bool lamps = false)
+                                              const Scenery& scenery, bool lamps = false)
 {
     return [=] {
         const Trim trim{

@@ -168,30 +168,27 @@ constexpr std::pair<const char*, Source> sources[] = {
 };
 
 /// What is done to each channel by itself.
-using Change = Sound (*)(Sound sound, const Arguments& a);
+using Change = Sound (*)(const Sound& sound, const Arguments& a);
 
 constexpr std::pair<const char*, Change> changes[] = {
-    {"levelled", [](Sound s, const Arguments& a) { return Levelled(std::move(s), a.Number(1)); }},
-    {"faded", [](Sound s, const Arguments& a) { return Faded(std::move(s), a.Number(1), a.Number(2)); }},
-    {"lasting", [](Sound s, const Arguments& a) { return Lasting(std::move(s), a.Number(1)); }},
-    {"lowpass",
-     [](Sound s, const Arguments& a) { return Filtered(std::move(s), Filter::LowPass(a.Number(1))); }},
+    {"levelled", [](const Sound& s, const Arguments& a) { return Levelled(s, a.Number(1)); }},
+    {"faded", [](const Sound& s, const Arguments& a) { return Faded(s, a.Number(1), a.Number(2)); }},
+    {"lasting", [](const Sound& s, const Arguments& a) { return Lasting(s, a.Number(1)); }},
+    {"lowpass", [](const Sound& s, const Arguments& a) { return Filtered(s, Filter::LowPass(a.Number(1))); }},
     {"highpass",
-     [](Sound s, const Arguments& a) { return Filtered(std::move(s), Filter::HighPass(a.Number(1))); }},
-    {"bandpass",
-     [](Sound s, const Arguments& a) {
-         return Filtered(std::move(s), Filter::BandPass(a.Number(1), a.Number(2)));
-     }},
-    {"driven", [](Sound s, const Arguments& a) { return Driven(std::move(s), a.Number(1)); }},
-    {"inRoom", [](Sound s, const Arguments& a) { return InRoom(s, a.Number(1), a.Number(2)); }},
-    {"shaped", [](Sound s, const Arguments& a) { return Shaped(std::move(s), CourseOf(a.at(1))); }},
-    {"passing", [](Sound s, const Arguments& a) { return Passing(s, DriveOf(a.at(1))); }},
+     [](const Sound& s, const Arguments& a) { return Filtered(s, Filter::HighPass(a.Number(1))); }},
+    {"bandpass", [](const Sound& s,
+                    const Arguments& a) { return Filtered(s, Filter::BandPass(a.Number(1), a.Number(2))); }},
+    {"driven", [](const Sound& s, const Arguments& a) { return Driven(s, a.Number(1)); }},
+    {"inRoom", [](const Sound& s, const Arguments& a) { return InRoom(s, a.Number(1), a.Number(2)); }},
+    {"shaped", [](const Sound& s, const Arguments& a) { return Shaped(s, CourseOf(a.at(1))); }},
+    {"passing", [](const Sound& s, const Arguments& a) { return Passing(s, DriveOf(a.at(1))); }},
 };
 
 void Sounds::TeachSources(Script& script)
 {
     for (const auto& [name, source] : sources)
-        script.Teach(name, [this, source](const Arguments& a) { return Keep({source(a)}); });
+        script.Teach(name, [this, source = source](const Arguments& a) { return Keep({source(a)}); });
     script.Teach("bothEars", [this](const Arguments& a) {
         TwoEars both = PassingBothEars(Of(a.at(0)).front(), DriveOf(a.at(1)));
         return Keep({std::move(both.left), std::move(both.right)});
@@ -205,11 +202,11 @@ void Sounds::TeachSources(Script& script)
 void Sounds::TeachChanges(Script& script)
 {
     for (const auto& [name, change] : changes) {
-        script.Teach(name, [this, change](const Arguments& a) {
-            Channels sound = Of(a.at(0));
-            for (Sound& channel : sound)
-                channel = change(std::move(channel), a);
-            return Keep(std::move(sound));
+        script.Teach(name, [this, change = change](const Arguments& a) {
+            Channels changed;
+            for (const Sound& channel : Of(a.at(0)))
+                changed.push_back(change(channel, a));
+            return Keep(std::move(changed));
         });
     }
     // As loud as another sound says, on top of a number.
