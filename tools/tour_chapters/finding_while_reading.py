@@ -24,7 +24,7 @@ def disc_made_of(disc, folder):
 
 def found_while_reading(program):
     find_form(program)
-    program.screen.type_text("engine oil")
+    program.screen.type_text("engine")
     wait_until(lambda: "found" in told(program) and "Reading" in told(program), "hits in what is read already")
 
 
