@@ -234,7 +234,7 @@ void TeachPage(Script& script, const AdPage& page)
         {"drawSignature", DrawSignature},
     };
     for (const auto& [name, action] : actions) {
-        script.Teach(name, [&page, action](const Arguments& a) {
+        script.Teach(name, [&page, action = action](const Arguments& a) {
             action(page, a);
             return Value();
         });

@@ -1,6 +1,7 @@
 #include "sample/car/car_mesh.h"
 
-#include <ranges>
+#include <algorithm>
+#include <iterator>
 
 namespace torvik::sample {
 
@@ -111,8 +112,8 @@ std::vector<double> Stations(const CarShape& c)
     std::vector<double> stations(ends.begin(), ends.end());
     for (double s = 0.105; s < c.length - 0.1; s += 0.04)
         stations.push_back(s);
-    for (const double end : ends | std::views::reverse)
-        stations.push_back(c.length - end);
+    std::transform(ends.rbegin(), ends.rend(), std::back_inserter(stations),
+                   [&c](double end) { return c.length - end; });
     return stations;
 }
 

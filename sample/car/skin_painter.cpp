@@ -158,7 +158,7 @@ void TeachSkin(Script& script, SkinPainter& painter)
          }},
     };
     for (const auto& [name, action] : actions) {
-        script.Teach(name, [&painter, action](const Arguments& a) {
+        script.Teach(name, [&painter, action = action](const Arguments& a) {
             action(painter, a);
             return Value();
         });

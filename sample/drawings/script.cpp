@@ -371,12 +371,11 @@ Value Script::Call(const QString& word, const Arguments& arguments)
 
 const Value& Script::Known(const QString& name) const
 {
-    for (auto scope = scopes_.rbegin(); scope != scopes_.rend(); ++scope) {
-        const auto found = scope->find(name);
-        if (found != scope->end())
-            return found->second;
-    }
-    throw std::runtime_error("An unknown word: " + name.toStdString());
+    const auto scope = std::find_if(scopes_.rbegin(), scopes_.rend(),
+                                    [&name](const auto& known) { return known.contains(name); });
+    if (scope == scopes_.rend())
+        throw std::runtime_error("An unknown word: " + name.toStdString());
+    return scope->at(name);
 }
 
 const Value& Script::Get(const char* name) const

@@ -147,7 +147,7 @@ void TeachNumbers(Script& script)
         {"sqrt", [](double v) { return std::sqrt(v); }},   {"abs", [](double v) { return std::abs(v); }},
         {"floor", [](double v) { return std::floor(v); }}, {"int", [](double v) { return std::trunc(v); }}};
     for (const auto& [name, function] : functions)
-        script.Teach(name, [function](const Arguments& a) { return function(a.Number(0)); });
+        script.Teach(name, [function = function](const Arguments& a) { return function(a.Number(0)); });
     script.Teach("pow", [](const Arguments& a) { return std::pow(a.Number(0), a.Number(1)); });
     script.Teach("mix", [](const Arguments& a) { return Mix(a.Number(0), a.Number(1), a.Number(2)); });
     script.Teach("max", [](const Arguments& a) { return Extreme(a, true); });
@@ -172,7 +172,7 @@ void TeachBoxes(Script& script)
                                                                        {"wide", [](const QRectF& b) { return b.width(); }},
                                                                        {"high", [](const QRectF& b) { return b.height(); }}};
     for (const auto& [name, side] : sides)
-        script.Teach(name, [side](const Arguments& a) { return side(a.Box(0)); });
+        script.Teach(name, [side = side](const Arguments& a) { return side(a.Box(0)); });
     script.Teach("middle", [](const Arguments& a) { return a.Box(0).center(); });
     script.Teach("adjusted", [](const Arguments& a) {
         return a.Box(0).adjusted(a.Number(1), a.Number(2), a.Number(3), a.Number(4));

@@ -14,7 +14,7 @@ namespace torvik::sample {
 /// What a word of a drawing script stands for: a number, words, a colour or gradient, a shape, a picture, or
 /// a list of such. Points are lists of two numbers, boxes of four (left, top, width, height). Asked for what
 /// it is not, it throws std::runtime_error.
-class Value {
+class Value { // NOLINT(bugprone-exception-escape): the moves of Qt's classes do not throw
 public:
     using List = std::vector<Value>;
 

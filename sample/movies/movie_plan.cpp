@@ -1,6 +1,7 @@
 #include "sample/movies/movie_plan.h"
 
 #include "sample/scenery/place_script.h"
+#include "sample/sounds/score.h"
 
 namespace torvik::sample {
 
@@ -17,7 +18,7 @@ Card EndCard(const char* below, const QColor& colour)
 }
 
 std::function<std::unique_ptr<Stage>()> CarIn(int year, std::size_t paint, Trim::Stripe stripe,
-                                              Scenery scenery, bool lamps = false)
+                                              const Scenery& scenery, bool lamps = false)
 {
     return [=] {
         const Trim trim{
@@ -46,6 +47,14 @@ Shot Roadside(double seconds, double passing, double aside, double high, double 
             }};
 }
 
+/// The sound track of this name, which also knows when the title goes and when the end card comes.
+std::function<Sound(double)> Track(const char* name)
+{
+    return [name](double seconds) {
+        return PlayScore("movie_sounds", Text(name), {seconds, titleSeconds, seconds - endSeconds}).front();
+    };
+}
+
 } // namespace
 
 double MoviePlan::Seconds() const
@@ -67,7 +76,7 @@ const std::vector<MoviePlan>& Movies()
          {Roadside(3.25, 2.1, 4.6, 1.1, 38, 13),
           Tracking(3.5, {-4.6, -4.4, 0.8}, {-0.5, -6.4, 1.1}, 40, -20, 12),
           Tracking(3.0, {1.0, -6.2, 1.3}, {5.2, -3.6, 1.6}, 40, 0, 12)},
-         VolcanoSound},
+         Track("volcano")},
         {"Torvik69.avi",
          {Text("Torvik presents"), Text("1969"), Text("A long road and a full tank"), QColor(150, 92, 22)},
          EndCard("See you at the next filling station", QColor(150, 92, 22)),
@@ -75,7 +84,7 @@ const std::vector<MoviePlan>& Movies()
          {Tracking(3.25, {-9.0, -9.0, 3.4}, {-4.6, -5.0, 0.9}, 40, -40, 11),
           Roadside(3.25, 1.8, 4.4, 0.6, 30, 15),
           Tracking(3.25, {5.0, -3.6, 1.0}, {9.5, -5.8, 2.8}, 40, 0, 11)},
-         OpenRoadSound},
+         Track("openRoad")},
         {"TheSuperGlider.avi",
          {Text("Winter trial"), Text("The Super Glider"), Text("No runners. No skis. No worries."),
           QColor(40, 84, 132)},
@@ -89,7 +98,7 @@ const std::vector<MoviePlan>& Movies()
                return Moment{{-5.8 * std::sin(swing), -6.2 * std::cos(swing), 1.2}, {0, 0, 0.62}, 42, 9 * t};
            }},
           Roadside(3.25, 1.7, 5.2, 1.5, 36, 9)},
-         GliderSound},
+         Track("glider")},
         {"Q44.avi",
          {Text("The Q44 package"), Text("\"Shadows\""), Text("When the sun goes, it comes"),
           QColor(54, 34, 70)},
@@ -98,7 +107,7 @@ const std::vector<MoviePlan>& Movies()
          {Tracking(3.75, {-6.8, -2.2, 0.55}, {-5.2, -4.2, 0.9}, 44, -20, 8),
           Tracking(3.25, {-2.6, -4.6, 0.5}, {2.6, -4.8, 0.7}, 34, -10, 10),
           Roadside(3.25, 1.6, 5.0, 1.0, 38, 13)},
-         ShadowsSound},
+         Track("shadows")},
         {"RocknRoll.avi",
          {Text("Saturday at the strip"), Text("Rock and Roll"), Text("Four beats, eight cylinders"),
           QColor(110, 20, 90)},
@@ -121,7 +130,7 @@ const std::vector<MoviePlan>& Movies()
                return Moment{{-6.4 * std::cos(angle), -6.4 * std::sin(angle), 1.3}, {0, 0, 0.66}, 40, 14 * t};
            }},
           Roadside(2.625, 1.1, 4.6, 0.7, 32, 18)},
-         RockSound},
+         Track("rock")},
     };
     return movies;
 }

@@ -39,11 +39,4 @@ const std::vector<MoviePlan>& Movies();
 /// The whole file.
 QByteArray MakeMovie(const MoviePlan& plan);
 
-/// The sound tracks; time counts from the beginning of the title.
-Sound VolcanoSound(double seconds);
-Sound OpenRoadSound(double seconds);
-Sound GliderSound(double seconds);
-Sound ShadowsSound(double seconds);
-Sound RockSound(double seconds);
-
 } // namespace torvik::sample

@@ -130,7 +130,7 @@ void TeachPainting(Script& script, QPainter& painter)
 {
     TeachShapes(script);
     for (const auto& [name, action] : actions) {
-        script.Teach(name, [&painter, action](const Arguments& a) {
+        script.Teach(name, [&painter, action = action](const Arguments& a) {
             action(painter, a);
             return Value();
         });

@@ -1,6 +1,7 @@
 #include "sample/sounds/effects.h"
 
 #include "sample/drawings/script.h"
+#include "sample/sounds/score.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,7 +30,7 @@ QByteArray MakeEffect(const Effect& effect)
 {
     constexpr double peak = 0.9;
     constexpr double rounding = 1.6;
-    std::vector<Sound> channels = PlayScore(effect.score);
+    std::vector<Sound> channels = PlayScore("effects", effect.score);
     double loudest = 1e-9;
     for (Sound& channel : channels) {
         channel = AtRate(Faded(Lasting(std::move(channel), effect.seconds), 0.004, 0.09), effect.form.rate);

@@ -25,12 +25,4 @@ QByteArray MakeEffect(const Effect& effect);
 /// The bytes of the effect of this name; throws std::runtime_error for a name that is not planned.
 QByteArray EffectNamed(const char* file);
 
-/// The channels of a sound effect that drawings/effects.txt describes.
-std::vector<Sound> PlayScore(const QString& name);
-
-/// Those that follow formulas from sample to sample.
-Sound Backfiring();
-Sound OldColumnShift();
-Sound TurbineCar();
-
 } // namespace torvik::sample

@@ -1,6 +1,8 @@
+#include "sample/sounds/score.h"
+
 #include "sample/drawings/script.h"
 #include "sample/geometry/curve.h"
-#include "sample/sounds/effects.h"
+#include "sample/geometry/vec.h"
 #include "sample/sounds/engine.h"
 #include "sample/sounds/filters.h"
 #include "sample/sounds/motion.h"
@@ -13,23 +15,37 @@ namespace torvik::sample {
 using namespace Qt::StringLiterals;
 
 namespace {
-/// A number, a list of seconds and values, or a rule: a drive at one speed, what falls from a height, or a
-/// part of another course on top of a number.
+
+/// What a rule makes of the second and of the values that its up to three courses have then.
+using Rule = double (*)(double t, double a, double b, double c);
+
+constexpr std::pair<const char*, Rule> rules[] = {
+    {"steady", [](double t, double speed, double passing, double) { return speed * (t - passing); }},
+    {"falling",
+     [](double t, double low, double high, double fall) { return low + high * std::exp(-t / fall); }},
+    {"swaying",
+     [](double t, double mid, double by, double turn) { return mid + by * std::sin(2 * pi * t / turn); }},
+    {"share", [](double, double least, double part, double course) { return least + part * course; }},
+    {"smaller", [](double, double one, double other, double) { return std::min(one, other); }},
+    {"until",
+     [](double t, double change, double before, double after) { return t < change ? before : after; }},
+};
+
+/// A number, a list of seconds and values, or a rule with its courses.
 Course CourseOf(const Value& value)
 {
     if (!value.IsList())
         return Always(value.Number());
     if (value.At(0).IsText()) {
-        const QString& rule = value.At(0).Text();
-        const double first = value.At(1).Number();
-        const double second = value.At(2).Number();
-        if (rule == "steady"_L1)
-            return [=](double t) { return first * (t - second); };
-        if (rule == "falling"_L1)
-            return [=, seconds = value.At(3).Number()](double t) {
-                return first + second * std::exp(-t / seconds);
-            };
-        return [=, course = CourseOf(value.At(3))](double t) { return first + second * course(t); };
+        const auto* known = std::find_if(std::begin(rules), std::end(rules), [&](const auto& rule) {
+            return value.At(0).Text() == QLatin1String(rule.first);
+        });
+        if (known == std::end(rules))
+            throw std::runtime_error("There is no such rule.");
+        return [rule = known->second, a = CourseOf(value.At(1)), b = CourseOf(value.At(2)),
+                c = value.Items().size() > 3 ? CourseOf(value.At(3)) : Always(0)](double t) {
+            return rule(t, a(t), b(t), c(t));
+        };
     }
     std::vector<double> points;
     for (const Value& point : value.Items())
@@ -149,36 +165,30 @@ constexpr std::pair<const char*, Source> sources[] = {
     {"siren", [](const Arguments& a) { return Siren(a.Number(0), a.Number(1)); }},
     {"backfire", [](const Arguments& a) { return Backfire(Seed(a.at(0))); }},
     {"doorCreak", [](const Arguments& a) { return DoorCreak(a.Number(0), Seed(a.at(1))); }},
-    {"backfiring", [](const Arguments&) { return Backfiring(); }},
-    {"oldColumnShift", [](const Arguments&) { return OldColumnShift(); }},
-    {"turbineCar", [](const Arguments&) { return TurbineCar(); }},
 };
 
 /// What is done to each channel by itself.
-using Change = Sound (*)(Sound sound, const Arguments& a);
+using Change = Sound (*)(const Sound& sound, const Arguments& a);
 
 constexpr std::pair<const char*, Change> changes[] = {
-    {"levelled", [](Sound s, const Arguments& a) { return Levelled(std::move(s), a.Number(1)); }},
-    {"faded", [](Sound s, const Arguments& a) { return Faded(std::move(s), a.Number(1), a.Number(2)); }},
-    {"lasting", [](Sound s, const Arguments& a) { return Lasting(std::move(s), a.Number(1)); }},
-    {"lowpass",
-     [](Sound s, const Arguments& a) { return Filtered(std::move(s), Filter::LowPass(a.Number(1))); }},
+    {"levelled", [](const Sound& s, const Arguments& a) { return Levelled(s, a.Number(1)); }},
+    {"faded", [](const Sound& s, const Arguments& a) { return Faded(s, a.Number(1), a.Number(2)); }},
+    {"lasting", [](const Sound& s, const Arguments& a) { return Lasting(s, a.Number(1)); }},
+    {"lowpass", [](const Sound& s, const Arguments& a) { return Filtered(s, Filter::LowPass(a.Number(1))); }},
     {"highpass",
-     [](Sound s, const Arguments& a) { return Filtered(std::move(s), Filter::HighPass(a.Number(1))); }},
-    {"bandpass",
-     [](Sound s, const Arguments& a) {
-         return Filtered(std::move(s), Filter::BandPass(a.Number(1), a.Number(2)));
-     }},
-    {"driven", [](Sound s, const Arguments& a) { return Driven(std::move(s), a.Number(1)); }},
-    {"inRoom", [](Sound s, const Arguments& a) { return InRoom(s, a.Number(1), a.Number(2)); }},
-    {"shaped", [](Sound s, const Arguments& a) { return Shaped(std::move(s), CourseOf(a.at(1))); }},
-    {"passing", [](Sound s, const Arguments& a) { return Passing(s, DriveOf(a.at(1))); }},
+     [](const Sound& s, const Arguments& a) { return Filtered(s, Filter::HighPass(a.Number(1))); }},
+    {"bandpass", [](const Sound& s,
+                    const Arguments& a) { return Filtered(s, Filter::BandPass(a.Number(1), a.Number(2))); }},
+    {"driven", [](const Sound& s, const Arguments& a) { return Driven(s, a.Number(1)); }},
+    {"inRoom", [](const Sound& s, const Arguments& a) { return InRoom(s, a.Number(1), a.Number(2)); }},
+    {"shaped", [](const Sound& s, const Arguments& a) { return Shaped(s, CourseOf(a.at(1))); }},
+    {"passing", [](const Sound& s, const Arguments& a) { return Passing(s, DriveOf(a.at(1))); }},
 };
 
 void Sounds::TeachSources(Script& script)
 {
     for (const auto& [name, source] : sources)
-        script.Teach(name, [this, source](const Arguments& a) { return Keep({source(a)}); });
+        script.Teach(name, [this, source = source](const Arguments& a) { return Keep({source(a)}); });
     script.Teach("bothEars", [this](const Arguments& a) {
         TwoEars both = PassingBothEars(Of(a.at(0)).front(), DriveOf(a.at(1)));
         return Keep({std::move(both.left), std::move(both.right)});
@@ -192,11 +202,11 @@ void Sounds::TeachSources(Script& script)
 void Sounds::TeachChanges(Script& script)
 {
     for (const auto& [name, change] : changes) {
-        script.Teach(name, [this, change](const Arguments& a) {
-            Channels sound = Of(a.at(0));
-            for (Sound& channel : sound)
-                channel = change(std::move(channel), a);
-            return Keep(std::move(sound));
+        script.Teach(name, [this, change = change](const Arguments& a) {
+            Channels changed;
+            for (const Sound& channel : Of(a.at(0)))
+                changed.push_back(change(channel, a));
+            return Keep(std::move(changed));
         });
     }
     // As loud as another sound says, on top of a number.
@@ -219,16 +229,15 @@ void Sounds::TeachChanges(Script& script)
 
 } // namespace
 
-std::vector<Sound> PlayScore(const QString& name)
+std::vector<Sound> PlayScore(const char* file, const QString& name, const std::vector<double>& numbers)
 {
     Sounds sounds;
-    Script script("effects");
+    Script script(file);
     TeachShapes(script);
     sounds.TeachSources(script);
     sounds.TeachChanges(script);
-    script.Set(u"effect"_s, name);
     script.Run();
-    return sounds.Of(script.Get("sound"));
+    return sounds.Of(script.Call(name, Arguments(numbers.begin(), numbers.end())));
 }
 
 } // namespace torvik::sample

@@ -6,6 +6,8 @@
 
 #include <QStringBuilder>
 
+#include <numeric>
+
 namespace torvik::sample {
 
 Sound AtRate(const Sound& sound, int rate)
@@ -28,9 +30,10 @@ Sound AtRate(const Sound& sound, int rate)
     Sound thin;
     thin.reserve(sound.size() / static_cast<std::size_t>(step) + 1);
     for (int at = 0; at < count; at += step) {
-        double value = 0;
-        for (int k = std::max(-reach, -at); k <= std::min(reach, count - 1 - at); ++k)
-            value += sound[static_cast<std::size_t>(at + k)] * weights[static_cast<std::size_t>(k + reach)];
+        const int from = std::max(0, at - reach);
+        const int to = std::min(count, at + reach + 1);
+        const double value = std::inner_product(sound.begin() + from, sound.begin() + to,
+                                                weights.begin() + (from - at + reach), 0.0);
         thin.push_back(value / sum);
     }
     return thin;
@@ -59,7 +62,7 @@ QByteArray PcmSamples(const std::vector<Sound>& channels, const SoundForm& form)
 QByteArray PcmFormat(int channels, const SoundForm& form)
 {
     const int frame = channels * form.bits / 8;
-    return Words({1, channels}) + Longs({form.rate, form.rate * frame}) + Words({frame, form.bits});
+    return Words({1, channels}) + Longs({form.rate, qint64{form.rate} * frame}) + Words({frame, form.bits});
 }
 
 QByteArray WaveFile(const std::vector<Sound>& channels, const SoundForm& form)

@@ -14,9 +14,9 @@ namespace torvik {
 
 namespace {
 
-constexpr double lowerEdge = 6255; // twips, of the text while the bar is closed
-constexpr double gap = 105;        // between text and bar
-constexpr qsizetype mostPlaces = 5000;
+constexpr double lowerEdge = 6255;    // twips, of the text while the bar is closed
+constexpr double gap = 105;           // between text and bar
+constexpr qsizetype mostMarks = 5000; // each line is painted with a look at every mark
 
 /// What the bar has found in the text on show.
 struct FoundPlaces {
@@ -42,10 +42,17 @@ void CloseBar()
     found = {};
 }
 
+/// Of very many places those around the present one.
+void MarkPlaces()
+{
+    const qsizetype first = std::max<qsizetype>(0, found.present - mostMarks / 2);
+    txtForm->rtbText.SetMarks(found.places.mid(first, mostMarks), found.present - first);
+}
+
 void ShowPresent(const QString& note = {})
 {
     txtFormControls& form = *txtForm;
-    form.rtbText.SetMarks(found.places, found.present);
+    MarkPlaces();
     if (found.present >= 0)
         form.rtbText.BringIntoView(found.places[found.present]);
     if (found.places.isEmpty())
@@ -63,7 +70,8 @@ void ShowPresent(const QString& note = {})
 void FindTyped()
 {
     const qsizetype from = found.present >= 0 ? found.places[found.present].begin : 0;
-    found.places = PlacesOf(SearchTermsOf(txtForm->txtFindText.Text()), txtForm->rtbText.Text(), mostPlaces);
+    const QString text = txtForm->rtbText.Text();
+    found.places = PlacesOf(SearchTermsOf(txtForm->txtFindText.Text()), text, text.size());
     const auto next = std::find_if(found.places.begin(), found.places.end(),
                                    [from](const TextRange& place) { return place.begin >= from; });
     found.present = next != found.places.end() ? next - found.places.begin() : found.places.size() - 1;

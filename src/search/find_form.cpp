@@ -46,13 +46,14 @@ QString TextOfProgress(const IndexProgress& progress)
     return lacking > 0 ? u"%1 are missing or cannot be read"_s.arg(lacking) : QString();
 }
 
-/// The last count stands until the next answer comes, as the list does.
-QString TextOfCount()
+/// The last count stands until the next answer comes, as the list does. Nothing in what was read so far says
+/// nothing about the rest.
+QString TextOfCount(const IndexProgress& progress)
 {
     if (!LooksForSomething(found.question) || !LooksForSomething(frmFind->txtFind.Text()))
         return {};
     if (found.count == 0)
-        return u"Nothing found"_s;
+        return progress.isDone ? u"Nothing found"_s : QString();
     QString text = u"%1 found"_s.arg(found.count);
     if (found.count > found.hits.size())
         text += u", the best %1 are shown"_s.arg(found.hits.size());
@@ -68,7 +69,7 @@ void ShowState()
         form.ProgressGuage.Hide();
         return;
     }
-    QStringList lines{TextOfCount(), TextOfProgress(progress)};
+    QStringList lines{TextOfCount(progress), TextOfProgress(progress)};
     lines.removeAll(QString());
     form.lblFound.SetCaption(lines.join(u'\n'));
     form.ProgressGuage.SetVisible(!progress.isDone);

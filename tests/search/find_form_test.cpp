@@ -433,6 +433,25 @@ private Q_SLOTS:
         QVERIFY(!frmFind->lblFound.Caption().contains(u"Reading"_s));
     }
 
+    void nothing_found_is_told_only_when_all_is_read()
+    {
+        for (int year = 70; year < 100; ++year)
+            program_->disc.AddDocument(u"%1desc.rtf"_s.arg(year), u"much to be read\\par "_s.repeated(4000));
+        Form1->KeyDown.Fire(key::letterF, held::ctrl);
+        frmFind->txtFind.SetText(u"submarine"_s);
+        Form1->KeyDown.Fire(key::letterF, held::ctrl);
+        QStringList told;
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                told.append(FirstLine());
+                return !frmFind->ProgressGuage.Visible();
+            },
+            20'000));
+        QVERIFY(told.size() > 1);
+        QCOMPARE(told.takeLast(), u"Nothing found"_s);
+        QVERIFY2(!told.contains(u"Nothing found"_s), qPrintable(told.join(u'|')));
+    }
+
     void damaged_and_missing_articles_are_counted()
     {
         OpenForm();

@@ -2,7 +2,7 @@
 
 #include "rtf/bounds/limits.h"
 
-#include <ranges>
+#include <algorithm>
 
 namespace torvik::rtf {
 
@@ -72,8 +72,9 @@ const StyleWords* StyleSheet::Find(Styles& styles, int number)
     for (auto base = styles.find(style.base); base != styles.end() && chain.size() < mostBases;
          base = styles.find(base->second.base))
         chain.push_back(&base->second.words);
-    for (const StyleWords* words : chain | std::views::reverse)
+    std::for_each(chain.rbegin(), chain.rend(), [&style](const StyleWords* words) {
         style.whole.insert(style.whole.end(), words->begin(), words->end());
+    });
     style.isWhole = true;
     return &style.whole;
 }

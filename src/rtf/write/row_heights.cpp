@@ -7,7 +7,6 @@
 #include <QTextTable>
 
 #include <algorithm>
-#include <ranges>
 #include <vector>
 
 namespace torvik::rtf {
@@ -85,24 +84,28 @@ void Raise(Missing& row)
     row.cell.setFormat(format);
 }
 
+void RaiseRows(const std::vector<QTextTable*>& tables, QTextDocument& document)
+{
+    std::vector<Missing> missing;
+    for (const QTextTable* table : tables)
+        Measure(*table, missing);
+    if (missing.empty())
+        return;
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    for (Missing& row : missing)
+        Raise(row);
+    cursor.endEditBlock();
+}
+
 } // namespace
 
 void SetRowHeights(QTextDocument& document)
 {
     std::vector<std::vector<QTextTable*>> levels;
     Collect(*document.rootFrame(), 0, levels);
-    for (const std::vector<QTextTable*>& level : levels | std::views::reverse) {
-        std::vector<Missing> missing;
-        for (const QTextTable* table : level)
-            Measure(*table, missing);
-        if (missing.empty())
-            continue;
-        QTextCursor cursor(&document);
-        cursor.beginEditBlock();
-        for (Missing& row : missing)
-            Raise(row);
-        cursor.endEditBlock();
-    }
+    std::for_each(levels.rbegin(), levels.rend(),
+                  [&document](const std::vector<QTextTable*>& level) { RaiseRows(level, document); });
 }
 
 } // namespace torvik::rtf

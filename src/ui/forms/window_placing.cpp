@@ -163,13 +163,18 @@ void Form::ApplySize()
 }
 
 /// The place is that of the frame, which the desktop may not have drawn yet: Qt's own reckoning of it would
-/// put the caption above the place.
+/// put the caption above the place. A window that is about to be shown has to know its size as well, else
+/// Qt tells both anew and takes the place for that of the client area.
 void Form::ApplyPlace()
 {
     const QPoint wanted = WantedPlace();
     window_->move(wanted);
-    if (window_->windowHandle() != nullptr)
-        window_->windowHandle()->setFramePosition(wanted);
+    QWindow* const handle = window_->windowHandle();
+    if (handle == nullptr)
+        return;
+    if (handle->size() != window_->size())
+        handle->resize(window_->size());
+    handle->setFramePosition(wanted);
 }
 
 /// Right after the program placed a window, the desktop frames and moves it in steps of its own. None of them
@@ -218,14 +223,16 @@ void Form::Settle()
 /// that the desktop insists on, and with it its place. False while the window is on its way again.
 bool Form::SettleOrdinary()
 {
-    const QPoint now = window_->pos();
-    plainFrame_ = window_->windowHandle()->frameMargins();
+    QWindow& handle = *window_->windowHandle();
+    const QPoint now = handle.framePosition();
+    const QMargins frame = handle.frameMargins();
+    plainFrame_ = frame;
     if (!placing_)
         return true;
     const bool sized = window_->size() != WantedSize();
     if (!sized && now != WantedPlace() && corrections_ > 0 && !unsettledUntil_.hasExpired()) {
         --corrections_;
-        window_->move(WantedPlace());
+        handle.setPosition(WantedPlace() + QPoint(frame.left(), frame.top()));
         settling_->start(calm);
         return false;
     }
@@ -238,7 +245,7 @@ void Form::TakeMeasures()
 {
     if (covering_ || FillsScreen())
         return;
-    const QPoint now = window_->pos();
+    const QPoint now = window_->windowHandle()->framePosition();
     Twips taken = place_;
     if (!IsOrdinary()) {
         taken = CoveredMeasures();
@@ -282,7 +289,7 @@ void Form::WindowMoved()
         return;
     else if (!IsOrdinary())
         Watch();
-    else if (window_->pos() != restsAt_)
+    else if (window_->windowHandle()->framePosition() != restsAt_)
         TakeMeasures();
 }
 

@@ -5,6 +5,7 @@ import os
 from pathlib import Path
 
 from support.case import ProgramTest
+from support.managers import OPENBOX, XFWM4
 from support.program import BOX_TITLE, MAIN_TITLE, SPLASH_TITLE
 from support.waiting import wait_until
 
@@ -141,14 +142,18 @@ class DesktopCase(ProgramTest):
         places = lambda: [(area.left, area.top, *self.screen.size_of(window)) for window in (show, self.main)
                           for area in [self.frame(window)]]
         wait_until(lambda: places()[0] == places()[1], lambda: f"the show on the main window: {places()}")
+        placed_by_frame = self.screen.is_placed_by_frame(show)
         self.press("Exit", SHOW_TITLE)
         self.program.wait_for_no_window(SHOW_TITLE)
+        return placed_by_frame
 
     def check_slide_show(self):
         if self.fits:
             self.screen.move_window(self.main, 12, 31)
             wait_until(lambda: self.frame(self.main).left > 0, "the new place")
-        self.assert_show_on_main_window()
+        placed_by_frame = self.assert_show_on_main_window()
+        if self.fits and self.manager in (OPENBOX, XFWM4):
+            self.assertTrue(placed_by_frame, "the show stood beside its place first and was put right")
 
     def check_slide_show_over_maximized_window(self):
         at_once = MAXIMIZED <= self.screen.states_of(self.main)  # because it fills the screen

@@ -170,6 +170,10 @@ class Screen:
         """Such as MAXIMIZED_VERT, FULLSCREEN, ABOVE."""
         return set(re.findall(r"_NET_WM_STATE_(\w+)", self._property(window, "_NET_WM_STATE")))
 
+    def is_placed_by_frame(self, window):
+        """Whether the place that the program asked for last is that of the frame, not of the area inside."""
+        return "gravity: NorthWest" in self._run("xprop", "-id", window, "WM_NORMAL_HINTS")
+
     def has_icon(self, window):
         return "Icon (" in self._property(window, "_NET_WM_ICON")
 
