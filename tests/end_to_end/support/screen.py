@@ -98,20 +98,23 @@ class Screen:
         return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, text=True,
                               capture_output=True, check=False).stdout
 
+    def _mouse_at(self, x, y):
+        """Words for xdotool. The mouse stays on the screen, as it does in a hand; windows may lie partly outside."""
+        return "mousemove", *(str(min(max(round(at), 0), size - 1)) for at, size in ((x, self.width), (y, self.height)))
+
     def press_mouse(self, x, y, button=1):
-        self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", str(button))
+        self._run("xdotool", *self._mouse_at(x, y), "click", str(button))
 
     def nudge_mouse(self, right, down):
         """Moves the mouse by so many pixels from where it is."""
         self._run("xdotool", "mousemove_relative", "--sync", "--", str(right), str(down))
 
     def double_click(self, x, y):
-        self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", "--repeat", "2", "--delay", "40", "1")
+        self._run("xdotool", *self._mouse_at(x, y), "click", "--repeat", "2", "--delay", "40", "1")
 
     def drag_mouse(self, start, end):
         """Presses the left button at a place and lets go at another."""
-        at_start, at_end = ([str(round(value)) for value in place] for place in (start, end))
-        self._run("xdotool", "mousemove", *at_start, "mousedown", "1", "mousemove", *at_end, "mouseup", "1")
+        self._run("xdotool", *self._mouse_at(*start), "mousedown", "1", *self._mouse_at(*end), "mouseup", "1")
 
     def use_layout(self, layout):
         """The keyboard of another country: "us", "de"."""
