@@ -13,6 +13,8 @@ EMPTY = " "  # in the place of no character at all the toolkit would put the pro
 class TitleBars(ProgramTest):
     def setUp(self):
         super().setUp()
+        self.program_folder.mkdir()
+        (self.program_folder / "Torvik2001.HLP").write_text(r"{\rtf1\ansi How it works.}", "ascii")
         self.disc = self.make_disc()
         texts = self.disc.folder / "RichText"
         texts.mkdir()
@@ -57,6 +59,24 @@ class TitleBars(ProgramTest):
         self.close_text("books.rtf")
         titles, _ = self.open_text("magmi.rtf", *MAGAZINES, "Torvik Illustrated")
         self.assertEqual(titles, {"The Torvik Vollandry       Books"})
+
+    def check_window(self, title):
+        self.program.wait_for_window(title)
+        window = self.new_window()
+        self.assertEqual(self.screen.titles_of(window), {title})
+        self.assertTrue(self.screen.has_icon(window), title)
+        self.program.press("Escape")
+        self.program.wait_for_no_window(title)
+
+    def test_every_window_that_a_menu_or_key_opens_has_its_title_and_the_icon(self):
+        self.program.choose("Help", "About")
+        self.check_window("About The Torvik Vollandry 2001")
+        self.program.choose("Help", "Contents")
+        self.check_window("Help - The Torvik Vollandry 2001")
+        self.program.choose("File", "Check Screen Resolution")
+        self.check_window("The Torvik Vollandry 2001")
+        self.program.press("ctrl+f")
+        self.check_window("Find")
 
 
 if __name__ == "__main__":
