@@ -362,6 +362,7 @@ private Q_SLOTS:
         gone.Hide();
         UiRoom::Settle(); // the activation that the box left behind comes late
         QCOMPARE(QApplication::activeWindow(), &gone.Window());
+        QCOMPARE(FormWindow::ToStandOver(), &below.Window());
         Answer(u"?"_s, msgbox::ok, u"OK"_s, look);
         QCOMPARE(window, &below.Window());
         QTRY_COMPARE(QApplication::activeWindow(), &below.Window());
