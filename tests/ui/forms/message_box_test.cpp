@@ -3,6 +3,7 @@
 #include "ui/controls/button.h"
 #include "ui/controls/spin_button.h"
 #include "ui/forms/message_box.h"
+#include "ui/look/message_icons.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -156,6 +157,17 @@ private Q_SLOTS:
             auto shown = QMessageBox::NoIcon;
             Answer(u"!"_s, style, u"OK"_s, [&] { shown = Box().icon(); });
             QCOMPARE(shown, icon);
+        }
+    }
+
+    void the_icon_is_drawn_at_the_screens_own_pixels()
+    {
+        for (const auto& [style, kind] :
+             {std::pair{16, QStyle::SP_MessageBoxCritical}, std::pair{32, QStyle::SP_MessageBoxQuestion},
+              std::pair{48, QStyle::SP_MessageBoxWarning}, std::pair{64, QStyle::SP_MessageBoxInformation}}) {
+            QImage shown;
+            Answer(u"!"_s, style, u"OK"_s, [&] { shown = Box().iconPixmap().toImage(); });
+            QCOMPARE(shown, MessageIcon(kind).pixmap(QSize(32, 32), qApp->devicePixelRatio()).toImage());
         }
     }
 
