@@ -165,6 +165,11 @@ QString NumberFromNumerals(int value, int format)
     return {};
 }
 
+bool HasOwnSigns(int format)
+{
+    return !NumberFromSigns(1, format).isEmpty() || !NumberFromNumerals(1, format).isEmpty();
+}
+
 QString NumberInEnglish(int value, int format)
 {
     constexpr int largestWritten = 999999;

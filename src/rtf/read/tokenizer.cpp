@@ -101,6 +101,9 @@ Token Tokenizer::ReadEscape()
         ++digits;
     }
     hex.hasValue = digits == 2;
+    // What stands for the second digit belongs to the damaged escape, unless it has a meaning of its own.
+    if (digits == 1 && at_ < bytes_.size() && !stops[static_cast<unsigned char>(bytes_[at_])])
+        ++at_;
     return hex;
 }
 
@@ -129,6 +132,18 @@ Token Tokenizer::ReadWord()
         return binary;
     }
     return word;
+}
+
+char Tokenizer::StopAhead() const
+{
+    if (at_ >= bytes_.size())
+        return 0;
+    const char c = bytes_[at_];
+    if (c == '\\') {
+        const char escaped = at_ + 1 < bytes_.size() ? bytes_[at_ + 1] : '\'';
+        return escaped == '\'' || escaped == '\\' || escaped == '{' || escaped == '}' ? '\0' : c;
+    }
+    return c == '{' || c == '}' ? c : '\0';
 }
 
 bool Tokenizer::SkipGroup()
