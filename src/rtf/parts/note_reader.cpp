@@ -32,33 +32,50 @@ int NoteReader::RaisedFormat()
 void NoteReader::Begin()
 {
     isNumbered_ = !HasMark() && !document_.group.character.hidden;
-    const QString number = isNumbered_ ? QString::number(++count_) : QString();
-    if (isNumbered_)
-        document_.flow.Draft().Append(number, RaisedFormat());
+    hasReference_ = false;
     document_.flow.BeginNote();
     if (isNumbered_)
-        document_.flow.Draft().Append(number + QChar(u' '), RaisedFormat());
-    hasReference_ = false;
+        document_.flow.Draft().Append(QString::number(++count_) + QChar(u' '), RaisedFormat());
+    ownLength_ = document_.flow.Draft().text.size();
+    ownParagraphs_ = document_.endedParagraphs;
 }
 
 void NoteReader::End(const GroupState& ended)
 {
-    if (!document_.flow.Draft().IsEmpty()) {
-        const GroupState around = std::exchange(document_.group, ended);
-        document_.group.paragraph.frame.initialLines = 0;
-        paragraphs_.EndParagraph();
-        document_.group = around;
-    }
-    document_.flow.EndNote();
+    const GroupState around = std::exchange(document_.group, ended);
+    document_.group.paragraph.frame.initialLines = 0;
+    EndText();
+    document_.group = around;
+    CloseNote();
 }
 
 void NoteReader::EndUnfinished()
 {
     if (!document_.flow.InNote())
         return;
-    if (!document_.flow.Draft().IsEmpty())
+    EndText();
+    CloseNote();
+}
+
+/// A note without words takes its number back.
+void NoteReader::EndText()
+{
+    Paragraph& draft = document_.flow.Draft();
+    if (isNumbered_ && draft.text.size() == ownLength_ && document_.endedParagraphs == ownParagraphs_) {
+        draft.ClearText();
+        isNumbered_ = false;
+        --count_;
+    }
+    if (!draft.IsEmpty())
         paragraphs_.EndParagraph();
+}
+
+void NoteReader::CloseNote()
+{
     document_.flow.EndNote();
+    if (isNumbered_)
+        document_.flow.Draft().Append(QString::number(count_), RaisedFormat());
+    isNumbered_ = false;
 }
 
 QString NoteReader::Reference()

@@ -27,6 +27,8 @@ public:
 private:
     bool HasMark() const;
     int RaisedFormat();
+    void EndText();
+    void CloseNote();
 
     DocumentState& document_;
     ParagraphReader& paragraphs_;
@@ -35,6 +37,9 @@ private:
     bool hasReference_ = false;
     /// The note that is being read begins with its number already.
     bool isNumbered_ = false;
+    /// The length of that, and how many paragraphs had ended before.
+    qsizetype ownLength_ = 0;
+    int ownParagraphs_ = 0;
 };
 
 } // namespace torvik::rtf

@@ -63,7 +63,7 @@ private Q_SLOTS:
         QVERIFY(good.kind == TokenKind::Hex && good.hasValue);
         QCOMPARE(good.value, 0xe9);
         QVERIFY(!tokens.Next().hasValue);
-        QVERIFY(tokens.Next().text == "zx");
+        QVERIFY(tokens.Next().text == "x");
         QVERIFY(!tokens.Next().hasValue);
     }
 
