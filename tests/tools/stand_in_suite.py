@@ -9,7 +9,10 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 
-# Writes the document itself as its text, and a picture's bytes as its pages; what it cannot read, and what brings it down.
+# The mark of a rich text, which the stand-ins leave out of the text.
+MARK = "{\\rtf1}"
+
+# Writes a document's own text; one that it cannot read and one that brings it down say so.
 SUITE = """
 import os, pathlib, sys
 words = sys.argv[1:]
@@ -18,7 +21,7 @@ into = pathlib.Path(words[words.index("--outdir") + 1])
 with open({runs!r}, "a") as runs:
     print("run", file=runs)
 for document in map(pathlib.Path, words[words.index("--outdir") + 2:]):
-    text = document.read_text()
+    text = document.read_text().removeprefix({mark!r}).partition("|")[0]
     if "unreadable" in text:
         continue
     if "poison" in text:
@@ -29,7 +32,7 @@ for document in map(pathlib.Path, words[words.index("--outdir") + 2:]):
 # Has not the words that begin with an x.
 READER = """
 import os, pathlib, sys
-text = pathlib.Path(sys.argv[2]).read_text()
+text = pathlib.Path(sys.argv[2]).read_text().removeprefix({mark!r}).partition("|")[2]
 if "stumble" in text:
     os.kill(os.getpid(), 9)
 if sys.argv[1] == "--text":
@@ -55,9 +58,9 @@ class StandIns:
         for name in ("bin", "bench", "documents"):
             (self.folder / name).mkdir()
         self.runs = self.folder / "runs"
-        self._program("bin/soffice", SUITE.format(runs=str(self.runs)))
+        self._program("bin/soffice", SUITE.format(runs=str(self.runs), mark=MARK))
         self._program("bin/pdftoppm", PRINTER)
-        self._program("bench/article_pages", READER)
+        self._program("bench/article_pages", READER.format(mark=MARK))
 
     def _program(self, name, text):
         path = self.folder / name
@@ -67,7 +70,11 @@ class StandIns:
     def remove(self):
         shutil.rmtree(self.folder)
 
-    def write(self, name, text):
+    def write(self, name, of_suite, ours=None):
+        """A rich text in which the suite reads `of_suite`, and our reader the same or `ours`."""
+        self.write_plain(name, f"{MARK}{of_suite}|{of_suite if ours is None else ours}")
+
+    def write_plain(self, name, text):
         path = self.documents / name
         path.parent.mkdir(exist_ok=True)
         path.write_text(text)

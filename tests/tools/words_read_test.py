@@ -61,6 +61,24 @@ class WordsReadTest(unittest.TestCase):
         self.assertEqual(self.first_line(said), "100.00% of 2 words; 98% and more of them in 100.0% of 1 documents; "
                                                 "2 that the suite does not read or that have no words")
 
+    def test_a_document_whose_markup_the_suite_shows_is_not_counted(self):
+        self.stand_ins.write("one.rtf", "A car")
+        self.stand_ins.write("two.rtf", "}{\\rtf1 xxx}")
+        said = self.stand_ins.run("words_read")
+        self.assertEqual(self.first_line(said), "100.00% of 2 words; 98% and more of them in 100.0% of 1 documents; "
+                                                "1 that the suite does not read or that have no words")
+
+    def test_what_is_no_rich_text_at_all_is_not_counted(self):
+        self.stand_ins.write("one.rtf", "A car")
+        self.stand_ins.write_plain("two.rtf", "bytes xxx")
+        said = self.stand_ins.run("words_read")
+        self.assertTrue(self.first_line(said).startswith("100.00% of 2 words;"), said.stdout)
+
+    def test_raised_characters_and_pictures_make_no_other_words(self):
+        self.stand_ins.write("one.rtf", of_suite="H2O before \u30ab", ours="H\u2082O be\ufffcfore \uff76")
+        said = self.stand_ins.run("words_read")
+        self.assertTrue(self.first_line(said).startswith("100.00% of 3 words;"), said.stdout)
+
     def test_documents_of_one_name_in_two_folders_are_two(self):
         self.stand_ins.write("a/one.rtf", "A car")
         self.stand_ins.write("b/one.rtf", "xthis and xthat")
