@@ -1,5 +1,9 @@
 #include "rtf/model/number_signs.h"
 
+#include <QList>
+#include <QPair>
+#include <QStringList>
+
 // Formats that write a number out with the numerals of China, Japan and Korea, and the English ones.
 
 namespace torvik::rtf {

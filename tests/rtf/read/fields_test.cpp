@@ -177,6 +177,15 @@ private Q_SLOTS:
         QCOMPARE(read.Format(" two").verticalAlignment(), QTextCharFormat::AlignNormal);
     }
 
+    void raised_numbers_of_footnotes_are_small()
+    {
+        const Reading read = ReadBody("one{\\up6\\chftn{\\footnote note}}{\\up6 raised}\\par");
+        QCOMPARE(read.Format("1").verticalAlignment(), QTextCharFormat::AlignSuperScript);
+        QCOMPARE(read.Format("1").baselineOffset(), 0.0);
+        QCOMPARE(read.Format("raised").verticalAlignment(), QTextCharFormat::AlignNormal);
+        QCOMPARE(read.Format("raised").baselineOffset(), 25.0);
+    }
+
     void footnotes_keep_a_mark_of_their_own()
     {
         QCOMPARE(ReadBody("one*{\\footnote * first} two{\\super a}{\\footnote a second}\\par").Text(),
