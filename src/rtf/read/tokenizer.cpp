@@ -11,6 +11,8 @@ namespace {
 
 constexpr int longestWord = 32;
 constexpr int largestValue = 0x7fffffff;
+/// Bytes below this one are line ends, the end mark of an old system, or damage.
+constexpr unsigned char firstPrinted = 0x20;
 
 bool IsLetter(char c)
 {
@@ -25,8 +27,9 @@ bool IsDigit(char c)
 constexpr std::array<bool, 256> MakeStops()
 {
     std::array<bool, 256> stops{};
-    for (const char c : {'\\', '{', '}', '\r', '\n', '\t', '\0'})
+    for (const char c : {'\\', '{', '}'})
         stops[static_cast<unsigned char>(c)] = true;
+    std::fill_n(stops.begin(), firstPrinted, true);
     return stops;
 }
 
@@ -57,13 +60,11 @@ Token Tokenizer::Next()
         case '\t':
             ++at_;
             return Token::Of(TokenKind::Word, "tab");
-        case '\r':
-        case '\n':
-        case '\0':
+        default:
+            if (static_cast<unsigned char>(bytes_[at_]) >= firstPrinted)
+                return ReadText();
             ++at_;
             break;
-        default:
-            return ReadText();
         }
     }
     return {};
