@@ -8,7 +8,7 @@
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
-#include "support/test_movie.h"
+#include "support/discs/test_movie.h"
 #include "ui/media/file_source.h"
 #include "windows/main_window.h"
 #include "windows/movie_window.h"

@@ -1,6 +1,6 @@
 #include "hard_drive/windows_folder_name.h"
 
-#include "platform/paths/host_name.h"
+#include "platform/folders/host_name.h"
 #include "platform/paths/program_folder.h"
 #include "runtime/text.h"
 

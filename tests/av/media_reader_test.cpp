@@ -1,8 +1,8 @@
 #include "av/media_reader.h"
 #include "bytes_in_memory.h"
+#include "support/discs/test_movie.h"
 #include "support/logged_messages.h"
 #include "support/test_class.h"
-#include "support/test_movie.h"
 
 #include <QRandomGenerator>
 

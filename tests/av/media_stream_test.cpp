@@ -1,7 +1,7 @@
 #include "av/media_stream.h"
 #include "bytes_in_memory.h"
+#include "support/discs/test_movie.h"
 #include "support/test_class.h"
-#include "support/test_movie.h"
 
 #include <QElapsedTimer>
 

@@ -3,11 +3,11 @@
 #include "check/oddities.h"
 #include "check/whole_disc.h"
 #include "platform/files/files.h"
-#include "support/image_drive.h"
-#include "support/image_maker.h"
+#include "support/discs/image_drive.h"
+#include "support/discs/image_maker.h"
+#include "support/discs/test_disc.h"
+#include "support/discs/test_movie.h"
 #include "support/test_class.h"
-#include "support/test_disc.h"
-#include "support/test_movie.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "check/run_check.h"
 #include "check/whole_disc.h"
 #include "platform/system/environment.h"
-#include "support/image_drive.h"
-#include "support/image_maker.h"
+#include "support/discs/image_drive.h"
+#include "support/discs/image_maker.h"
 #include "support/test_class.h"
 
 #include <QJsonDocument>

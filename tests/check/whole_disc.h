@@ -2,8 +2,8 @@
 
 #include "check/asked_files.h"
 #include "platform/paths/drives.h"
-#include "support/test_disc.h"
-#include "support/test_movie.h"
+#include "support/discs/test_disc.h"
+#include "support/discs/test_movie.h"
 
 #include <QHash>
 

@@ -1,7 +1,7 @@
 #include "platform/files/disk_space.h"
 #include "support/browsing_fixture.h"
+#include "support/discs/file_bytes.h"
 #include "support/each_round.h"
-#include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "windows/main_window.h"
 

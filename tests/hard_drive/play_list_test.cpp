@@ -1,7 +1,7 @@
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
+#include "support/discs/file_bytes.h"
 #include "support/each_round.h"
-#include "support/file_bytes.h"
 #include "support/ordinary_user.h"
 #include "support/program.h"
 #include "support/test_class.h"

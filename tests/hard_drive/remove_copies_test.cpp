@@ -2,7 +2,7 @@
 #include "platform/system/saver_agreement.h"
 #include "platform/system/settings_store.h"
 #include "program/program_state.h"
-#include "support/file_bytes.h"
+#include "support/discs/file_bytes.h"
 #include "support/ordinary_user.h"
 #include "support/program.h"
 #include "support/test_class.h"

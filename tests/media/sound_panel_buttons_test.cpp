@@ -1,7 +1,7 @@
 #include "program/program_state.h"
+#include "support/discs/test_movie.h"
 #include "support/program.h"
 #include "support/test_class.h"
-#include "support/test_movie.h"
 #include "ui/forms/form_window.h"
 #include "windows/main_window.h"
 

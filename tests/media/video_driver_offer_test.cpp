@@ -1,7 +1,7 @@
 #include "program/program_state.h"
+#include "support/discs/test_movie.h"
 #include "support/movie_visit.h"
 #include "support/test_class.h"
-#include "support/test_movie.h"
 #include "ui/forms/program_end.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "program/program_state.h"
 #include "runtime/failure.h"
 #include "support/booklet_run.h"
-#include "support/full_disk.h"
+#include "support/discs/full_disk.h"
 #include "support/test_class.h"
 #include "ui/forms/screen.h"
 #include "ui/printer/printer.h"

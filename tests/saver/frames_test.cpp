@@ -1,6 +1,6 @@
 #include "saver/frames.h"
+#include "support/discs/picture_bytes.h"
 #include "support/failure_of.h"
-#include "support/picture_bytes.h"
 #include "support/test_class.h"
 #include "ui/pictures/picture.h"
 

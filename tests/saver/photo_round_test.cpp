@@ -1,5 +1,5 @@
 #include "saver/photo_round.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
 #include "support/test_class.h"
 
 using namespace Qt::StringLiterals;

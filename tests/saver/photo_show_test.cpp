@@ -1,8 +1,8 @@
 #include "saver/fade.h"
 #include "saver/photo_show.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
+#include "support/discs/test_disc.h"
 #include "support/test_class.h"
-#include "support/test_disc.h"
 
 using namespace Qt::StringLiterals;
 using namespace torvik;

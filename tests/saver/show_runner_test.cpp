@@ -1,8 +1,8 @@
 #include "saver/covered_screens.h"
 #include "saver/show_runner.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
+#include "support/discs/test_disc.h"
 #include "support/test_class.h"
-#include "support/test_disc.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 #include "platform/paths/drives.h"
 #include "program/program_state.h"
 #include "program/search_words.h"
-#include "support/image_maker.h"
+#include "support/discs/image_maker.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
 #include "support/test_class.h"

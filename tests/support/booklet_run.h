@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/booklet_disc.h"
+#include "support/discs/booklet_disc.h"
 #include "support/print_folder.h"
 #include "support/program.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "support/discs/test_disc.h"
 #include "support/message_script.h"
-#include "support/test_disc.h"
 #include "ui/forms/control.h"
 
 #include <QSize>

@@ -1,7 +1,7 @@
 #include "platform/files/all_files.h"
 
+#include "platform/folders/host_name.h"
 #include "platform/paths/drives.h"
-#include "platform/paths/host_name.h"
 #include "runtime/failure.h"
 
 using namespace Qt::StringLiterals;

@@ -1,8 +1,8 @@
 #include "platform/files/binary_file.h"
 
-#include "platform/paths/case_insensitive_lookup.h"
+#include "platform/folders/case_insensitive_lookup.h"
+#include "platform/folders/system_failure.h"
 #include "platform/paths/drives.h"
-#include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 
 #include <cerrno>

@@ -1,8 +1,8 @@
 #include "platform/files/disk_space.h"
 
+#include "platform/folders/host_name.h"
+#include "platform/folders/system_failure.h"
 #include "platform/paths/drives.h"
-#include "platform/paths/host_name.h"
-#include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 
 #include <cerrno>

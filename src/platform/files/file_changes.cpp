@@ -2,10 +2,10 @@
 
 #include "platform/files/binary_file.h"
 #include "platform/files/files.h"
-#include "platform/paths/case_insensitive_lookup.h"
+#include "platform/folders/case_insensitive_lookup.h"
+#include "platform/folders/system_failure.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/matching_names.h"
-#include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 
 #include <algorithm>

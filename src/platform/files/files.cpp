@@ -1,12 +1,12 @@
 #include "platform/files/files.h"
 
 #include "platform/files/file_content.h"
-#include "platform/paths/case_insensitive_lookup.h"
+#include "platform/folders/case_insensitive_lookup.h"
+#include "platform/folders/folder_index.h"
+#include "platform/folders/host_name.h"
+#include "platform/folders/name_pattern.h"
 #include "platform/paths/drives.h"
-#include "platform/paths/folder_index.h"
-#include "platform/paths/host_name.h"
 #include "platform/paths/matching_names.h"
-#include "platform/paths/name_pattern.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
 

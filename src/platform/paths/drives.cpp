@@ -1,8 +1,8 @@
 #include "platform/paths/drives.h"
 
-#include "platform/paths/case_insensitive_lookup.h"
+#include "platform/folders/case_insensitive_lookup.h"
+#include "platform/folders/host_name.h"
 #include "platform/paths/folder_volume.h"
-#include "platform/paths/host_name.h"
 #include "platform/paths/image_volume.h"
 #include "platform/paths/mounted_media.h"
 #include "platform/paths/program_folder.h"

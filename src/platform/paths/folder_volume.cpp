@@ -1,9 +1,9 @@
 #include "platform/paths/folder_volume.h"
 
-#include "platform/paths/case_insensitive_lookup.h"
-#include "platform/paths/folder_reader.h"
+#include "platform/folders/case_insensitive_lookup.h"
+#include "platform/folders/folder_reader.h"
+#include "platform/folders/system_failure.h"
 #include "platform/paths/host_file.h"
-#include "platform/paths/system_failure.h"
 #include "runtime/failure.h"
 
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "platform/paths/host_file.h"
 
-#include "platform/paths/system_failure.h"
+#include "platform/folders/system_failure.h"
 #include "runtime/failure.h"
 
 #include <cerrno>

@@ -1,7 +1,7 @@
 #include "platform/paths/image_volume.h"
 
+#include "platform/folders/host_name.h"
 #include "platform/image/disc_image.h"
-#include "platform/paths/host_name.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
 

@@ -1,7 +1,7 @@
 #include "platform/paths/matching_names.h"
 
+#include "platform/folders/name_pattern.h"
 #include "platform/paths/drives.h"
-#include "platform/paths/name_pattern.h"
 
 #include <algorithm>
 

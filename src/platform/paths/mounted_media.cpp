@@ -1,6 +1,6 @@
 #include "platform/paths/mounted_media.h"
 
-#include "platform/paths/host_name.h"
+#include "platform/folders/host_name.h"
 #include "runtime/logging.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "platform/paths/program_folder.h"
 
+#include "platform/folders/writable_folder.h"
 #include "platform/paths/drives.h"
-#include "platform/paths/writable_folder.h"
 #include "runtime/failure.h"
 
 #include <QCoreApplication>

@@ -178,6 +178,15 @@ int CodePage::NumberForCharset(int charset)
     return 0;
 }
 
+bool CodePage::IsLead(char byte) const
+{
+    const auto value = static_cast<unsigned char>(byte);
+    if (kind_ != Kind::MultiByte || value < 0x81 || value == 0xff || std::string_view(name_) == "UTF-8")
+        return false;
+    const bool isHalfWidth = value >= 0xa0 && value < 0xe0;
+    return std::string_view(name_) != "CP932" || (!isHalfWidth && value < 0xfd);
+}
+
 void CodePage::Decode(std::string_view bytes, QString& text) const
 {
     const auto length = static_cast<qsizetype>(bytes.size());

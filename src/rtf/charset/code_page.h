@@ -24,6 +24,8 @@ public:
     static const CodePage& OfSymbols();
 
     Kind PageKind() const { return kind_; }
+    /// Whether a byte is the first half of a pair.
+    bool IsLead(char byte) const;
     /// Appends the characters of `bytes` to `text`; bytes without a meaning become U+FFFD.
     void Decode(std::string_view bytes, QString& text) const;
 

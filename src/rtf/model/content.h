@@ -32,6 +32,8 @@ struct Paragraph {
     int endFormat = 0;
     ListMark mark;
     bool breakBefore = false;
+    /// The first of the footnotes.
+    bool beginsNotes = false;
 
     void Append(const QString& piece, int characterFormat);
     void AppendPicture(int picture, int characterFormat);
@@ -67,6 +69,8 @@ struct Block {
 struct BoxStyle {
     /// 0 for as wide as the text around it.
     int width = 0;
+    /// At least; 0 for as high as its text.
+    int height = 0;
     /// From the left margin of the text.
     int left = 0;
     int lineWidth = 0;

@@ -6,11 +6,44 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr const char* charsetSuffixes[] = {" CE",       " CYR",          " Cyr",    " Greek",
-                                           " TUR",      " Tur",          " Baltic", " (Hebrew)",
-                                           " (Arabic)", " (Vietnamese)", " (Thai)", " (Cyrillic)"};
+struct CharsetSuffix {
+    const char* tail;
+    int charset;
+};
+
+constexpr CharsetSuffix charsetSuffixes[] = {{" CE", 238},     {" CYR", 204},          {" Cyr", 204},
+                                             {" Greek", 161},  {" TUR", 162},          {" Tur", 162},
+                                             {" Baltic", 186}, {" (Hebrew)", 177},     {" (Arabic)", 178},
+                                             {" (Thai)", 222}, {" (Vietnamese)", 163}, {" (Cyrillic)", 204}};
+
+/// The name without what ends its entry.
+QString BareName(const QString& written)
+{
+    return written.left(written.indexOf(u';')).trimmed();
+}
+
+const CharsetSuffix* SuffixOf(const QString& name)
+{
+    for (const CharsetSuffix& suffix : charsetSuffixes) {
+        const QLatin1StringView tail(suffix.tail);
+        if (name.endsWith(tail) && name.size() > tail.size())
+            return &suffix;
+    }
+    return nullptr;
+}
 
 } // namespace
+
+void FontEntry::SetName(const QString& written)
+{
+    family = CleanFontName(written);
+    const CharsetSuffix* suffix = SuffixOf(BareName(written));
+    if (suffix == nullptr)
+        return;
+    hasCharset = true;
+    charset = suffix->charset;
+    codePage = 0;
+}
 
 bool FontEntry::IsSymbolFont() const
 {
@@ -61,17 +94,9 @@ const CodePage& FontTable::PageOf(int number, int documentPage) const
 
 QString CleanFontName(const QString& written)
 {
-    QString name = written;
-    const qsizetype end = name.indexOf(u';');
-    if (end >= 0)
-        name.truncate(end);
-    name = name.trimmed();
-    for (const char* suffix : charsetSuffixes) {
-        const QLatin1StringView tail(suffix);
-        if (name.endsWith(tail) && name.size() > tail.size())
-            return name.chopped(tail.size());
-    }
-    return name;
+    const QString name = BareName(written);
+    const CharsetSuffix* suffix = SuffixOf(name);
+    return suffix != nullptr ? name.chopped(QLatin1StringView(suffix->tail).size()) : name;
 }
 
 } // namespace torvik::rtf

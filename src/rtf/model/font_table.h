@@ -19,6 +19,9 @@ struct FontEntry {
     int charset = 0;
     int codePage = 0;
 
+    /// Takes the family from a name as the table of fonts gives it. A suffix of it that names a character set
+    /// ("Arial CE") holds against what else the table says: a font of that name has these letters only.
+    void SetName(const QString& written);
     bool IsSymbolFont() const;
     /// The names to look for, best first; empty for symbol fonts, whose text is translated to Unicode
     /// instead.

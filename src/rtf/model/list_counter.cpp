@@ -1,5 +1,7 @@
 #include "rtf/model/list_counter.h"
 
+#include "rtf/model/number_signs.h"
+
 #include <algorithm>
 
 namespace torvik::rtf {
@@ -35,7 +37,9 @@ ListMark ListCounter::MarkOf(const ParagraphState& paragraph, const QString& wri
         numbering_.fill(0);
     const int number = isNumbered ? NextNumber(paragraph.numbering) : 0;
     ListMark mark;
-    if (!written.trimmed().isEmpty()) {
+    // Writers for readers that know no lists often put plain numbers where the list has signs of its own.
+    const bool isCounted = written.trimmed().isEmpty() || (level != nullptr && HasOwnSigns(level->format));
+    if (!isCounted) {
         mark = MarkFromText(written, NumberFormatOf(paragraph, level));
         if (level != nullptr)
             Count(paragraph, values_[lists_.KeyOf(paragraph.list)]);

@@ -1,5 +1,9 @@
 #include "rtf/model/number_signs.h"
 
+#include <QList>
+#include <QPair>
+#include <QStringList>
+
 // Formats that write a number out with the numerals of China, Japan and Korea, and the English ones.
 
 namespace torvik::rtf {
@@ -163,6 +167,11 @@ QString NumberFromNumerals(int value, int format)
                                                                        : WrittenOut(value, family);
     }
     return {};
+}
+
+bool HasOwnSigns(int format)
+{
+    return !NumberFromSigns(1, format).isEmpty() || !NumberFromNumerals(1, format).isEmpty();
 }
 
 QString NumberInEnglish(int value, int format)

@@ -12,6 +12,9 @@ QString NumberFromSigns(int value, int format);
 /// these.
 QString NumberFromNumerals(int value, int format);
 
+/// Whether a format is one of these.
+bool HasOwnSigns(int format);
+
 /// `value` with the words of English: 5 "1st", 6 "One", 7 "First"; empty for any other format.
 QString NumberInEnglish(int value, int format);
 

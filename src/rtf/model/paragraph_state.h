@@ -26,10 +26,12 @@ enum class BorderLine : quint8 {
     Outset
 };
 
-/// One edge of a paragraph or a cell; the width is in twips.
+/// One edge of a paragraph or a cell; lengths are twips.
 struct Border {
     BorderLine line = BorderLine::None;
     int width = 15;
+    /// Between the edge and the text of a paragraph.
+    int space = 0;
     int color = 0;
 
     bool operator==(const Border&) const = default;

@@ -100,6 +100,8 @@ public:
     void Paint()
     {
         PaintLeaders();
+        if (block_.blockFormat().hasProperty(ruleAboveProperty))
+            PaintRuleAbove();
         for (auto part = block_.begin(); !part.atEnd(); ++part) {
             const QTextFragment fragment = part.fragment();
             const int kind = fragment.charFormat().intProperty(underlineProperty);
@@ -137,6 +139,14 @@ private:
             else
                 DrawRule(painter_, stretch, metrics.underlinePos() + thin / 2, 2 * thin, color);
         }
+    }
+
+    void PaintRuleAbove()
+    {
+        constexpr double part = 1.0 / 3;
+        const QRectF room = block_.document()->documentLayout()->blockBoundingRect(block_);
+        const double middle = room.top() - block_.blockFormat().topMargin() * scale_ / 2;
+        DrawRule(painter_, {room.left(), room.left() + room.width() * part, middle}, 0, scale_, textColor_);
     }
 
     void PaintLeaders()
@@ -177,7 +187,8 @@ private:
 
 bool WantsLines(const QTextBlock& block)
 {
-    if (block.blockFormat().hasProperty(tabLeadersProperty))
+    if (block.blockFormat().hasProperty(tabLeadersProperty) ||
+        block.blockFormat().hasProperty(ruleAboveProperty))
         return true;
     for (auto part = block.begin(); !part.atEnd(); ++part) {
         if (part.fragment().charFormat().hasProperty(underlineProperty))
@@ -193,7 +204,8 @@ ExtraLines::ExtraLines(const QTextDocument& document)
     // Most documents have no such format, and need not be gone through.
     const QList<QTextFormat> formats = document.allFormats();
     const bool isNeeded = std::any_of(formats.begin(), formats.end(), [](const QTextFormat& format) {
-        return format.hasProperty(tabLeadersProperty) || format.hasProperty(underlineProperty);
+        return format.hasProperty(tabLeadersProperty) || format.hasProperty(underlineProperty) ||
+               format.hasProperty(ruleAboveProperty);
     });
     if (!isNeeded)
         return;
@@ -207,7 +219,8 @@ void ExtraLines::Paint(QPainter& painter, const QRectF& clip, const QColor& text
 {
     painter.save();
     for (const QTextBlock& block : blocks_) {
-        const QRectF room = block.document()->documentLayout()->blockBoundingRect(block);
+        QRectF room = block.document()->documentLayout()->blockBoundingRect(block);
+        room.setTop(room.top() - block.blockFormat().topMargin() * scale);
         if (room.intersects(clip))
             BlockPainter(painter, block, textColor, scale).Paint();
     }

@@ -10,6 +10,10 @@ inline constexpr int tabLeadersProperty = QTextFormat::UserProperty + 3;
 /// In the format of characters that Qt underlines once: the other line that they are to have.
 inline constexpr int underlineProperty = QTextFormat::UserProperty + 4;
 
+/// In the format of a paragraph: a short rule stands in the room above it, which parts the notes from the
+/// text.
+inline constexpr int ruleAboveProperty = QTextFormat::UserProperty + 6;
+
 enum class TabLeader : char16_t {
     None = u' ',
     Dots = u'.',

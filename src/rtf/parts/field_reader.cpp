@@ -3,6 +3,8 @@
 #include "rtf/bounds/limits.h"
 #include "rtf/charset/symbol_font.h"
 
+#include <QRegularExpression>
+
 #include <utility>
 
 namespace torvik::rtf {
@@ -45,6 +47,7 @@ void FieldReader::BeginResult()
 {
     if (fields_.empty() || !document_.IsBody())
         return;
+    fields_.back().hasResult = true;
     if (fields_.back().link != 0)
         document_.group.character.link = fields_.back().link;
 }
@@ -65,6 +68,11 @@ void FieldReader::HandOut(const QString& value)
     const bool needsQuotes = !isQuoted && (value.isEmpty() || value.contains(u' '));
     QString plain = value;
     plain.remove(u'"');
+    // The word that names the target of a button ends where the field begins that is the button's text.
+    static const QRegularExpression bareButton(QStringLiteral("^\\s*(GOTO|MACRO)BUTTON\\s+\\S+$"),
+                                               QRegularExpression::CaseInsensitiveOption);
+    if (around.contains(bareButton))
+        around += u' ';
     around += needsQuotes ? QString(u'"' + plain + u'"') : plain;
 }
 
@@ -96,6 +104,9 @@ QString FieldReader::End()
         return {};
     }
     if (!document_.IsBody() || HasResult(field))
+        return {};
+    // An empty link is a place that nobody sees, not one that shows its address.
+    if (field.hasResult && field.read.keyword == QLatin1StringView("HYPERLINK"))
         return {};
     if (field.read.symbol != 0)
         return CharacterOf(field.read);

@@ -37,6 +37,8 @@ private:
         FormField form;
         QString value;
         bool isInside = false;
+        /// A result is stored, if only an empty one.
+        bool hasResult = false;
         int link = 0;
         /// Length of the paragraph's text where the field began.
         qsizetype start = 0;

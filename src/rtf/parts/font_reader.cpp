@@ -23,7 +23,7 @@ void FontReader::BeginAlternative()
 void FontReader::EndEntry()
 {
     if (entry_ != nullptr) {
-        entry_->family = CleanFontName(document_.aside);
+        entry_->SetName(document_.aside);
         entry_->alternative = CleanFontName(entry_->alternative);
     }
     entry_ = nullptr;

@@ -14,7 +14,8 @@ public:
 
     /// Notes belong to the text, and never to each other.
     bool MayBegin() const;
-    void Begin() { document_.flow.BeginNote(); }
+    /// A note to which nothing in the text points gets a number there and in front of its own text.
+    void Begin();
     /// Ends the note whose group had the state `ended`.
     void End(const GroupState& ended);
     /// Ends the note in which the document ended, if there is one.
@@ -24,9 +25,21 @@ public:
     QString Reference();
 
 private:
+    bool HasMark() const;
+    int RaisedFormat();
+    void EndText();
+    void CloseNote();
+
     DocumentState& document_;
     ParagraphReader& paragraphs_;
     int count_ = 0;
+    /// A number was put since the last note, which is that of the next one.
+    bool hasReference_ = false;
+    /// The note that is being read begins with its number already.
+    bool isNumbered_ = false;
+    /// The length of that, and how many paragraphs had ended before.
+    qsizetype ownLength_ = 0;
+    int ownParagraphs_ = 0;
 };
 
 } // namespace torvik::rtf

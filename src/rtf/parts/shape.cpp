@@ -18,6 +18,7 @@ constexpr int emuPerTwip = 635;
 constexpr double usualCornerSpace = 21600;
 /// Narrower than this a box would break words into letters, twips.
 constexpr int leastBoxWidth = 300;
+constexpr int highestBox = 14400;
 
 /// Colours are written with red in the lowest byte.
 QColor ColorOf(qint64 value)
@@ -203,6 +204,9 @@ BoxStyle BoxStyleOf(const Shape& shape, int textWidth, int leftMargin)
     BoxStyle style;
     if (shape.width > 0)
         style.width = std::clamp(shape.width, leastBoxWidth, maxTwips);
+    // Letters that are a picture of themselves have no room around them.
+    if (shape.artText.isEmpty())
+        style.height = std::clamp(shape.height, 0, highestBox);
     const int left = shape.fromPage ? shape.left - leftMargin : shape.left;
     style.left = std::clamp(left, 0, std::max(textWidth - style.width, 0));
     if (shape.hasLine) {

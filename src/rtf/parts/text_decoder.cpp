@@ -12,6 +12,7 @@ void TextDecoder::PutBytes(std::string_view bytes)
     const CodePage& page = *document_.group.page;
     if (page.PageKind() == CodePage::Kind::MultiByte) {
         pendingBytes_.append(bytes);
+        CountPairs(bytes);
         return;
     }
     if (router_.PutPlainBytes(bytes))
@@ -19,6 +20,25 @@ void TextDecoder::PutBytes(std::string_view bytes)
     scratch_.resize(0);
     page.Decode(bytes, scratch_);
     Put(scratch_);
+}
+
+void TextDecoder::CountPairs(std::string_view bytes)
+{
+    for (const char byte : bytes) {
+        pendingPairs_ += endsInHalf_ ? 1 : 0;
+        endsInHalf_ = !endsInHalf_ && document_.group.page->IsLead(byte);
+    }
+}
+
+/// A lone byte above 127 is more often a letter in a font of the wrong kind, so a pair must have come before.
+bool TextDecoder::IsCompletedBy(char byte) const
+{
+    if (!endsInHalf_ || pendingPairs_ == 0)
+        return false;
+    QString character;
+    const char pair[] = {pendingBytes_.back(), byte};
+    document_.group.page->Decode({pair, sizeof pair}, character);
+    return character.size() == 1 && character.at(0) != QChar(QChar::ReplacementCharacter);
 }
 
 std::string_view TextDecoder::WithoutStandIn(std::string_view bytes)
@@ -50,6 +70,8 @@ void TextDecoder::FlushBytes()
     QString text;
     document_.group.page->Decode(pendingBytes_, text);
     pendingBytes_.clear();
+    pendingPairs_ = 0;
+    endsInHalf_ = false;
     Put(text);
 }
 

@@ -28,6 +28,9 @@ public:
     void FlushHalfCharacter();
     void Flush();
 
+    /// Whether the bytes so far, whole pairs among them, end in half a pair that `byte` completes.
+    bool IsCompletedBy(char byte) const;
+
     /// Whether the stand-in of a Unicode character is being passed over.
     bool InStandIn() const { return standInLeft_ > 0; }
     void PassOneOfStandIn() { --standInLeft_; }
@@ -37,12 +40,15 @@ public:
 
 private:
     void PutUnknown();
+    void CountPairs(std::string_view bytes);
 
     DocumentState& document_;
     TextRouter& router_;
     int standInLeft_ = 0;
     char16_t highSurrogate_ = 0;
     std::string pendingBytes_;
+    int pendingPairs_ = 0;
+    bool endsInHalf_ = false;
     QString scratch_;
 };
 

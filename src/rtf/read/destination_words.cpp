@@ -154,6 +154,8 @@ constexpr WordEntry destinationEntries[] = {
     {"atnid", SkipGroup},
     {"atnauthor", SkipGroup},
     {"bkmkend", SkipGroup},
+    {"sn", SkipGroup},
+    {"sv", SkipGroup},
     {"objdata", SkipGroup},
     {"objclass", SkipGroup},
     {"objname", SkipGroup},

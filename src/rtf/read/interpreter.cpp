@@ -2,11 +2,13 @@
 
 #include "rtf/bounds/limits.h"
 #include "rtf/parts/shape_drawings.h"
+#include "rtf/read/lost_braces.h"
 #include "rtf/read/word_scope.h"
 #include "rtf/read/word_table.h"
 
 #include <QTextDocument>
 
+#include <algorithm>
 #include <utility>
 
 namespace torvik::rtf {
@@ -84,6 +86,9 @@ void Interpreter::Handle(const Token& token)
     case TokenKind::Text:
         starPending_ = false;
         HandleBytes(token.text);
+        // Some writers put both halves of a character as they are, even where one looks like a brace.
+        if (const char stop = tokens_.StopAhead(); stop != 0 && text_.IsCompletedBy(stop))
+            HandleBytes(tokens_.TakeByte());
         break;
     case TokenKind::Hex: {
         const char byte = static_cast<char>(token.value);
@@ -148,6 +153,7 @@ void Interpreter::HandleStyleWord(const Token& token)
 
 void Interpreter::HandleWord(const Token& token)
 {
+    FindLostText(token.text);
     if (document_.group.destination == Destination::Styles)
         return HandleStyleWord(token);
     // The two halves of a character beyond the first plane come as two words.
@@ -161,6 +167,32 @@ void Interpreter::HandleWord(const Token& token)
         word->apply(*this, {token.hasValue, token.value});
     else if (isOptional)
         Skip();
+}
+
+/// Where a brace or a word was lost that parts text from a table of the document's head or from what a drawn
+/// object looks like, the text begins with the first word that can only be its own.
+void Interpreter::FindLostText(std::string_view word)
+{
+    const Destination destination = document_.group.destination;
+    if (destination == Destination::Shape && BeginsText(word, false) && shapes_.BeginText())
+        Enter(Destination::ShapeText);
+    else if (IsHeaderTable(destination) && BeginsText(word, document_.group.opensDestination))
+        LeaveTables();
+}
+
+void Interpreter::LeaveTables()
+{
+    isBroken_ = true;
+    if (document_.group.destination == Destination::Fonts)
+        fonts_.End();
+    const auto leave = [](GroupState& group) {
+        if (IsHeaderTable(group.destination)) {
+            group.destination = Destination::Body;
+            group.opensDestination = false;
+        }
+    };
+    std::for_each(groups_.begin(), groups_.end(), leave);
+    leave(document_.group);
 }
 
 void Interpreter::HandleSymbol(char symbol)
@@ -271,24 +303,14 @@ void Interpreter::CloseGroup()
     }
 }
 
-/// Whether a brace closed the document by mistake: paragraphs follow it that belong to no other document.
+/// Whether the document goes on after a brace too many.
 bool Interpreter::GoesOn()
 {
-    constexpr int mostWords = 2000;
     constexpr int mostMistakes = 100;
-    if (++mistakenEnds_ > mostMistakes)
+    if (++mistakenEnds_ > mostMistakes || groups_.empty() || !ParagraphsFollow(tokens_))
         return false;
-    Tokenizer ahead = tokens_;
-    for (int i = 0; i < mostWords && groups_.size() == 1; ++i) {
-        const Token token = ahead.Next();
-        if (token.kind == TokenKind::End || token.text == "rtf")
-            return false;
-        if (token.kind == TokenKind::Word && (token.text == "par" || token.text == "pard")) {
-            isBroken_ = true;
-            return true;
-        }
-    }
-    return false;
+    isBroken_ = true;
+    return true;
 }
 
 void Interpreter::EndDestination(const GroupState& ended)

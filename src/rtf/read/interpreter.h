@@ -59,6 +59,8 @@ private:
     void HandleSymbol(char symbol);
     void HandleBytes(std::string_view bytes);
     bool IsStandIn(const Token& token);
+    void FindLostText(std::string_view word);
+    void LeaveTables();
     void OpenGroup();
     void CloseGroup();
     bool GoesOn();
@@ -86,7 +88,7 @@ private:
     int overflowDepth_ = 0;
     int unendingGroups_ = 0;
     bool ended_ = false;
-    /// More braces were closed than were open.
+    /// Braces were lost, or there are too many.
     bool isBroken_ = false;
     int mistakenEnds_ = 0;
     /// The next word may be passed over with its group by readers that do not know it.

@@ -59,9 +59,10 @@ constexpr WordEntry listEntries[] = {
     {"leveltext",
      [](Interpreter& r, const Argument&) {
          if (IsOverride(r))
-             r.Skip();
-         else
-             r.Enter(Destination::LevelText);
+             return r.Skip();
+         r.Enter(Destination::LevelText);
+         // The pattern has no font yet: the level names one after it.
+         r.Document().group.page = &CodePage::Of(r.Document().codePage);
      }},
     {"levelnumbers", [](Interpreter& r, const Argument&) { r.Skip(); }},
     {"listname", [](Interpreter& r, const Argument&) { r.Skip(); }},

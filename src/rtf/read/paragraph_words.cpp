@@ -88,6 +88,13 @@ void SetBorderWidth(Interpreter& interpreter, const Argument& argument)
     interpreter.Borders().Change([&](Border& border) { border.width = width; });
 }
 
+void SetBorderSpace(Interpreter& interpreter, const Argument& argument)
+{
+    constexpr int widest = 31 * 20; // points
+    const int space = argument.Within(0, widest);
+    interpreter.Borders().Change([&](Border& border) { border.space = space; });
+}
+
 void SetBorderColor(Interpreter& interpreter, const Argument& argument)
 {
     interpreter.Borders().Change([&](Border& border) { border.color = argument.value; });
@@ -190,6 +197,7 @@ constexpr WordEntry paragraphEntries[] = {
     {"brdrnil", SetLine<BorderLine::None>},
     {"brdrw", SetBorderWidth},
     {"brdrcf", SetBorderColor},
+    {"brsp", SetBorderSpace},
 };
 
 } // namespace

@@ -13,6 +13,19 @@ void Put(Interpreter& interpreter, const Argument&)
     interpreter.Text().PutCharacter(unit);
 }
 
+/// Older writers raise the number of a note and leave it as large as the text, which has no room for it.
+void PutNoteNumber(Interpreter& interpreter, const Argument&)
+{
+    CharacterState& looks = interpreter.Character();
+    const CharacterState told = looks;
+    if (looks.raised > 0) {
+        looks.raised = 0;
+        looks.script = Script::Super;
+    }
+    interpreter.Text().Put(interpreter.Notes().Reference());
+    looks = told;
+}
+
 /// Words that stand for a field.
 template <const char16_t* instruction>
 void PutField(Interpreter& interpreter, const Argument&)
@@ -35,7 +48,7 @@ constexpr WordEntry specialEntries[] = {
     {"sect", [](Interpreter& r, const Argument&) { r.Paragraphs().BreakPage(); }},
     {"sbknone", [](Interpreter& r, const Argument&) { r.Paragraphs().CancelBreak(); }},
     {"sbkcol", [](Interpreter& r, const Argument&) { r.Paragraphs().CancelBreak(); }},
-    {"chftn", [](Interpreter& r, const Argument&) { r.Text().Put(r.Notes().Reference()); }},
+    {"chftn", PutNoteNumber},
     {"chpgn", PutField<page>},
     {"chdate", PutField<date>},
     {"chdpl", PutField<longDate>},

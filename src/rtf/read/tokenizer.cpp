@@ -11,6 +11,8 @@ namespace {
 
 constexpr int longestWord = 32;
 constexpr int largestValue = 0x7fffffff;
+/// Bytes below this one are line ends, the end mark of an old system, or damage.
+constexpr unsigned char firstPrinted = 0x20;
 
 bool IsLetter(char c)
 {
@@ -25,8 +27,9 @@ bool IsDigit(char c)
 constexpr std::array<bool, 256> MakeStops()
 {
     std::array<bool, 256> stops{};
-    for (const char c : {'\\', '{', '}', '\r', '\n', '\t', '\0'})
+    for (const char c : {'\\', '{', '}'})
         stops[static_cast<unsigned char>(c)] = true;
+    std::fill_n(stops.begin(), firstPrinted, true);
     return stops;
 }
 
@@ -57,13 +60,11 @@ Token Tokenizer::Next()
         case '\t':
             ++at_;
             return Token::Of(TokenKind::Word, "tab");
-        case '\r':
-        case '\n':
-        case '\0':
+        default:
+            if (static_cast<unsigned char>(bytes_[at_]) >= firstPrinted)
+                return ReadText();
             ++at_;
             break;
-        default:
-            return ReadText();
         }
     }
     return {};
@@ -101,6 +102,9 @@ Token Tokenizer::ReadEscape()
         ++digits;
     }
     hex.hasValue = digits == 2;
+    // What stands for the second digit belongs to the damaged escape, unless it has a meaning of its own.
+    if (digits == 1 && at_ < bytes_.size() && !stops[static_cast<unsigned char>(bytes_[at_])])
+        ++at_;
     return hex;
 }
 
@@ -129,6 +133,18 @@ Token Tokenizer::ReadWord()
         return binary;
     }
     return word;
+}
+
+char Tokenizer::StopAhead() const
+{
+    if (at_ >= bytes_.size())
+        return 0;
+    const char c = bytes_[at_];
+    if (c == '\\') {
+        const char escaped = at_ + 1 < bytes_.size() ? bytes_[at_ + 1] : '\'';
+        return escaped == '\'' || escaped == '\\' || escaped == '{' || escaped == '}' ? '\0' : c;
+    }
+    return c == '{' || c == '}' ? c : '\0';
 }
 
 bool Tokenizer::SkipGroup()

@@ -33,6 +33,11 @@ public:
     explicit Tokenizer(std::string_view bytes) : bytes_(bytes) {}
 
     Token Next();
+    /// The brace or backslash that comes next, 0 for anything else and for a backslash that escapes a
+    /// character.
+    char StopAhead() const;
+    /// The next byte as it stands; only where there is one.
+    std::string_view TakeByte() { return bytes_.substr(at_++, 1); }
     /// Passes over everything up to and including the brace that closes the group that the tokenizer is in.
     /// Returns false when the bytes end first.
     bool SkipGroup();

@@ -206,6 +206,8 @@ void FlowCollector::Finish()
     SetDepth(0);
     Deliver(std::exchange(place_.anchored, {}));
     Deliver(std::exchange(place_.anchoredAfter, {}));
+    if (!notes_.empty())
+        notes_.front().beginsNotes = true;
     for (const Paragraph& note : notes_) {
         context_.budget.GiveBack(WaitingCostOf(note));
         body_.Write(note);

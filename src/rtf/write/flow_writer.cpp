@@ -1,11 +1,14 @@
 #include "rtf/write/flow_writer.h"
 
+#include "rtf/paint/line_properties.h"
 #include "rtf/write/edge_spaces.h"
 #include "rtf/write/paragraph_box.h"
 #include "rtf/write/shape_box.h"
 #include "rtf/write/table_writer.h"
 
 #include <QTextTable>
+
+#include <algorithm>
 
 namespace torvik::rtf {
 
@@ -17,6 +20,9 @@ constexpr qint64 runCost = 70;
 constexpr qint64 characterCost = 4;
 constexpr qint64 listCost = 900;
 constexpr qint64 boxCost = 4000;
+
+/// For the rule between text and notes, pixels.
+constexpr double roomAboveNotes = 16;
 
 } // namespace
 
@@ -77,6 +83,7 @@ void FlowWriter::Write(const Box& box)
         return Write(box.blocks);
     const int before = cursor_.position();
     QTextTable* frame = InsertShapeBox(cursor_, WithSpaces(box));
+    context_.hasRowHeights = context_.hasRowHeights || box.style.height > 0;
     spacing_.TableCame(*frame, before);
     FlowWriter inside(context_, frame->cellAt(0, 0).firstCursorPosition(), Room::Cell);
     inside.Write(box.blocks);
@@ -159,6 +166,10 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
     QTextBlockFormat format = context_.formats.BlockFormat(isItem ? paragraph.itemFormat : paragraph.format);
     if (paragraph.breakBefore)
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    if (paragraph.beginsNotes) {
+        format.setTopMargin(std::max(format.topMargin(), roomAboveNotes));
+        format.setProperty(ruleAboveProperty, true);
+    }
     if (place == ListWriter::Place::Continues)
         format.setObjectIndex(lists_.IndexOf(paragraph.mark));
     const bool isRule =

@@ -12,7 +12,7 @@ namespace torvik::rtf {
 
 namespace {
 
-/// Between border and text, pixels.
+/// Between border and text of a box, at least, pixels.
 constexpr double boxPadding = 4;
 
 /// A frame keeps its width, and stays within the text that it stands in.
@@ -25,6 +25,19 @@ void SetPlace(QTextTableFormat& format, const FramePlace& frame, const PageMeasu
     format.setColumnWidthConstraints({QTextLength(QTextLength::FixedLength, PixelsFromTwips(frame.width))});
     const int left = frame.fromPage ? frame.left - page.leftMargin : frame.left;
     format.setLeftMargin(PixelsFromTwips(std::clamp(left, 0, std::max(page.TextWidth() - frame.width, 0))));
+}
+
+void SetPaddings(QTextTableCellFormat& format, const ParagraphState& state)
+{
+    const double least = state.HasBox() ? boxPadding : 0;
+    const auto paddingAt = [&](Side side) {
+        const Border& border = state.borders[side];
+        return std::max(least, border.IsSet() ? PixelsFromTwips(border.space) : 0);
+    };
+    format.setTopPadding(paddingAt(SideTop));
+    format.setLeftPadding(paddingAt(SideLeft));
+    format.setBottomPadding(paddingAt(SideBottom));
+    format.setRightPadding(paddingAt(SideRight));
 }
 
 } // namespace
@@ -54,8 +67,7 @@ QTextTable* InsertBox(QTextCursor& cursor, const ParagraphState& state, const Co
         borders, [&](int side) -> const Border& { return state.borders[side]; }, colors);
     if (back.isValid())
         borders.setBackground(back);
-    if (state.HasBox())
-        borders.setPadding(boxPadding);
+    SetPaddings(borders, state);
     looks.merge(borders);
     cell.setFormat(looks);
     cursor = cell.firstCursorPosition();

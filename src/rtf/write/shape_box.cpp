@@ -3,6 +3,7 @@
 #include "rtf/bounds/limits.h"
 #include "rtf/model/content.h"
 #include "rtf/write/border_style.h"
+#include "rtf/write/row_heights.h"
 
 #include <QTextTable>
 
@@ -42,6 +43,8 @@ QTextTable* InsertShapeBox(QTextCursor& cursor, const BoxStyle& style)
     QTextCharFormat looks = cell.format();
     QTextTableCellFormat inside;
     SetEdges(inside, style);
+    if (style.height > 0)
+        inside.setProperty(rowHeightProperty, PixelsFromTwips(style.height));
     if (style.fill.isValid())
         inside.setBackground(style.fill);
     inside.setTopPadding(PixelsFromTwips(style.padding[SideTop]));

@@ -1,6 +1,6 @@
 #include "platform/files/file_changes.h"
 #include "platform/files/files.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
 #include "support/failure_of.h"
 #include "support/ordinary_user.h"
 #include "support/test_class.h"

@@ -1,5 +1,5 @@
 #include "platform/files/files.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
 #include "support/failure_of.h"
 #include "support/logged_messages.h"
 #include "support/ordinary_user.h"

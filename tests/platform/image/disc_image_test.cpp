@@ -1,8 +1,8 @@
 #include "platform/image/disc_image.h"
+#include "support/discs/file_bytes.h"
+#include "support/discs/image_drive.h"
+#include "support/discs/image_maker.h"
 #include "support/failure_of.h"
-#include "support/file_bytes.h"
-#include "support/image_drive.h"
-#include "support/image_maker.h"
 #include "support/test_class.h"
 
 #include <algorithm>

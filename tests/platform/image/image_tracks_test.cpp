@@ -1,8 +1,8 @@
 #include "platform/image/disc_image.h"
 #include "platform/image/image_tracks.h"
+#include "support/discs/image_drive.h"
+#include "support/discs/image_maker.h"
 #include "support/failure_of.h"
-#include "support/image_drive.h"
-#include "support/image_maker.h"
 #include "support/test_class.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
 #include "support/failure_of.h"
 #include "support/test_class.h"
 

@@ -3,11 +3,11 @@
 #include "platform/files/file_changes.h"
 #include "platform/files/files.h"
 #include "platform/paths/program_folder.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
+#include "support/discs/file_bytes.h"
+#include "support/discs/image_drive.h"
+#include "support/discs/image_maker.h"
 #include "support/failure_of.h"
-#include "support/file_bytes.h"
-#include "support/image_drive.h"
-#include "support/image_maker.h"
 #include "support/test_class.h"
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,5 @@
 #include "platform/paths/matching_names.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
 #include "support/test_class.h"
 
 #include <algorithm>

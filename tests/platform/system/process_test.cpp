@@ -1,5 +1,5 @@
 #include "platform/system/process.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
 #include "support/failure_of.h"
 #include "support/test_class.h"
 

@@ -121,9 +121,30 @@ private Q_SLOTS:
         QVERIFY(isBlue);
     }
 
+    void a_short_rule_stands_above_the_footnotes()
+    {
+        const Reading read = ReadBody("one{\\super\\chftn{\\footnote a note\\par in two paragraphs}}\\par");
+        const QImage image = Painted(read);
+        const double text =
+            read.document->documentLayout()->blockBoundingRect(read.Block(u"one1"_s)).bottom();
+        const double notes =
+            read.document->documentLayout()->blockBoundingRect(read.Block(u"a note"_s)).top();
+        QCOMPARE(notes - text, 16.0);
+        int rules = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            if (!IsInked(image, 10, y))
+                continue;
+            ++rules;
+            QVERIFY(y > text && y < notes);
+        }
+        QCOMPARE(rules, 1);
+        QCOMPARE(InkedColumns(image, 0, page.width()), page.width() / 3);
+    }
+
     void a_document_without_them_costs_nothing()
     {
         QVERIFY(ExtraLines(*ReadBody("\\tx720 a\\tab{\\ul b}\\par").document).IsEmpty());
+        QVERIFY(!ExtraLines(*ReadBody("a{\\chftn{\\footnote b}}\\par").document).IsEmpty());
         QVERIFY(!ExtraLines(*ReadBody("a{\\uldb b}\\par").document).IsEmpty());
         QVERIFY(ExtraLines().IsEmpty());
     }

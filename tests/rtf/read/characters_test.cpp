@@ -161,6 +161,39 @@ private Q_SLOTS:
         QCOMPARE(ReadBody("{\\f4\\'82\\'a0A}\\par").Text(), u"あA"_s);
     }
 
+    void the_letters_of_a_font_follow_from_its_name_data()
+    {
+        QTest::addColumn<QByteArray>("font");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("Baltic") << QByteArray("\\f1 Arial Baltic;") << u"ĄĮ"_s;
+        QTest::newRow("Central European") << QByteArray("\\f1\\fcharset0 Arial CE;") << u"ŔÁ"_s;
+        QTest::newRow("Cyrillic") << QByteArray("\\f1 Arial CYR;") << u"АБ"_s;
+        QTest::newRow("Greek") << QByteArray("\\f1\\cpg1252 Arial Greek;") << u"ΐΑ"_s;
+        QTest::newRow("any other name") << QByteArray("\\f1 Arial Gothic;") << u"ÀÁ"_s;
+        QTest::newRow("a character set") << QByteArray("\\f1\\fcharset161 Arial;") << u"ΐΑ"_s;
+    }
+    void the_letters_of_a_font_follow_from_its_name()
+    {
+        QFETCH(QByteArray, font);
+        QFETCH(QString, shown);
+        QCOMPARE(ReadBytes("{\\rtf1\\ansi{\\fonttbl{" + font + "}}\\f1\\'c0\\'c1\\par}").Text(), shown);
+    }
+
+    void the_second_half_of_a_character_may_look_like_a_brace()
+    {
+        // Both halves as they are; of the third and fifth character the second half is 7B, 7D.
+        QCOMPARE(ReadBody("{\\f4 \x83\x57\x83\x41\x83\x7b\x83\x41\x83\x7d}\\par").Text(), u"ジアボアマ"_s);
+        QCOMPARE(ReadBody("{\\f4 \x83\x41\x95\x5c\x83\x41}x\\par").Text(), u"ア表アx"_s);
+    }
+
+    void a_brace_behind_a_letter_of_another_kind_is_a_brace()
+    {
+        QCOMPARE(ReadBody("{\\f4 caf\xe9}{\\b x}\\par").Text().right(1), u"x"_s);
+        QCOMPARE(ReadBody("{\\f4 \x83\x41\x95\\\\\x83\x41}x\\par").Text(), u"ア表アx"_s);
+    }
+
+    void a_damaged_stand_in_is_passed_over() { QCOMPARE(ReadBody("x\\u345\\'3?x\\par").Text(), u"xřx"_s); }
+
     void unicode_takes_the_place_of_its_stand_in()
     {
         QCOMPARE(ReadBody("a\\u8364?b\\par").Text(), u"a€b"_s);

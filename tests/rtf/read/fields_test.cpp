@@ -90,8 +90,10 @@ private Q_SLOTS:
                    "?\\u12435 ?),\\u28450 ?)")
             << u"漢(かん)"_s;
         QTest::newRow("a field of a mail merge") << QByteArray("MERGEFIELD Name") << u"«Name»"_s;
-        QTest::newRow("an address") << QByteArray("HYPERLINK \"http://www.torvik.example/\"")
-                                    << u"http://www.torvik.example/"_s;
+        QTest::newRow("a button whose text is a field")
+            << QByteArray("GOTOBUTTON _Toc1{\\field{\\*\\fldinst PAGEREF _Toc1}{\\fldrslt 3}}") << u"3"_s;
+        QTest::newRow("a link that is empty")
+            << QByteArray("HYPERLINK \"http://www.torvik.example/\"") << QString();
         QTest::newRow("the title") << QByteArray("TITLE") << u"The Car"_s;
         QTest::newRow("pages") << QByteArray("NUMPAGES") << u"12"_s;
         QTest::newRow("a page in roman numbers") << QByteArray("PAGE \\\\* roman") << u"i"_s;
@@ -117,6 +119,12 @@ private Q_SLOTS:
                      instruction + "}{\\fldrslt }}b\\par")
                 .Text();
         QCOMPARE(text, u'a' + shown + u'b');
+    }
+
+    void a_link_without_a_text_shows_its_address()
+    {
+        const QByteArray link = "a{\\field{\\*\\fldinst HYPERLINK \"http://www.torvik.example/\"}}b\\par";
+        QCOMPARE(ReadBody(link).Text(), u"ahttp://www.torvik.example/b"_s);
     }
 
     void a_stored_result_comes_first()
@@ -158,6 +166,36 @@ private Q_SLOTS:
                                       "two{\\chftn{\\footnote second {\\b\\chftn}\\par}}\\par three\\par");
         QCOMPARE(read.Text(), u"one1 two2\nthree\n1 first note\nsecond 2"_s);
         QCOMPARE(read.Format("one").fontWeight(), int(QFont::Normal));
+    }
+
+    void footnotes_without_a_mark_are_numbered()
+    {
+        const Reading read = ReadBody("one{\\footnote first\\par and more} two{\\footnote second} "
+                                      "three{\\super\\chftn{\\footnote{\\super\\chftn} third}}\\par");
+        QCOMPARE(read.Text(), u"one1 two2 three3\n1 first\nand more\n2 second\n3 third"_s);
+        QCOMPARE(read.Format("1").verticalAlignment(), QTextCharFormat::AlignSuperScript);
+        QCOMPARE(read.Format(" two").verticalAlignment(), QTextCharFormat::AlignNormal);
+    }
+
+    void raised_numbers_of_footnotes_are_small()
+    {
+        const Reading read = ReadBody("one{\\up6\\chftn{\\footnote note}}{\\up6 raised}\\par");
+        QCOMPARE(read.Format("1").verticalAlignment(), QTextCharFormat::AlignSuperScript);
+        QCOMPARE(read.Format("1").baselineOffset(), 0.0);
+        QCOMPARE(read.Format("raised").verticalAlignment(), QTextCharFormat::AlignNormal);
+        QCOMPARE(read.Format("raised").baselineOffset(), 25.0);
+    }
+
+    void footnotes_keep_a_mark_of_their_own()
+    {
+        QCOMPARE(ReadBody("one*{\\footnote * first} two{\\super a}{\\footnote a second}\\par").Text(),
+                 u"one* twoa\n* first\na second"_s);
+    }
+
+    void footnotes_without_words_are_no_notes()
+    {
+        QCOMPARE(ReadBody("one{\\footnote } two{\\footnote second}\\par").Text(), u"one two1\n1 second"_s);
+        QCOMPARE(ReadBody("one{\\v{\\footnote hidden}}\\par").Text(), u"one"_s);
     }
 
     void headers_footers_and_information_are_left_out()

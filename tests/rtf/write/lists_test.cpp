@@ -111,6 +111,25 @@ private Q_SLOTS:
         QCOMPARE(read.Text(), u"第十章\tone\n第十一章\ttwo"_s);
     }
 
+    void signs_of_a_list_hold_against_numbers_that_are_written_out()
+    {
+        const Reading read =
+            ReadBody(ListTable("\\levelnfc20{\\leveltext\\'02\\'00.;}{\\levelnumbers\\'01;}") +
+                     "{\\listtext 1.\\tab}\\pard\\ls1 one\\par{\\listtext 2.\\tab}\\pard\\ls1 two\\par");
+        QCOMPARE(read.Text(), u"ア.\tone\nイ.\ttwo"_s);
+    }
+
+    void the_pattern_of_a_level_is_in_the_letters_of_the_document()
+    {
+        // The font of the list's own text is western, the document's letters are those of Taiwan.
+        const QByteArray level =
+            "\\levelnfc30{\\leveltext\\'03\\'ab\\'65\\'00\\'a1\\'42;}{\\levelnumbers\\'02;}";
+        QCOMPARE(ReadBytes("{\\rtf1\\ansi\\ansicpg950\\deff0{\\fonttbl{\\f0\\fcharset0 Arial;}}" +
+                           ListTable(level) + "\\pard\\ls1 one\\par}")
+                     .Text(),
+                 u"前甲、\tone"_s);
+    }
+
     void what_follows_a_number_is_as_told()
     {
         const QByteArray level = "\\levelnfc18\\levelfollow1{\\leveltext\\'01\\'00;}{\\levelnumbers\\'01;}";

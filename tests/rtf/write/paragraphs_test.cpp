@@ -163,6 +163,23 @@ private Q_SLOTS:
         QCOMPARE(read.Text(), u"before\none\ntwo\nafter"_s);
     }
 
+    void the_room_between_border_and_text_is_as_told()
+    {
+        const auto paddings = [](const QByteArray& looks) {
+            const Reading read = ReadBody("\\pard" + looks + " boxed\\par");
+            auto* box = qobject_cast<QTextTable*>(read.document->rootFrame()->childFrames().first());
+            const QTextTableCellFormat format = box->cellAt(0, 0).format().toTableCellFormat();
+            return QList<double>{format.topPadding(), format.leftPadding(), format.bottomPadding(),
+                                 format.rightPadding()};
+        };
+        QCOMPARE(paddings("\\brdrt\\brdrs\\brsp120\\brdrb\\brdrs\\brsp60"), (QList<double>{8, 0, 4, 0}));
+        QCOMPARE(paddings("\\brdrb\\brdrs"), (QList<double>{0, 0, 0, 0}));
+        QCOMPARE(paddings("\\box\\brdrs\\brsp90"), (QList<double>{6, 6, 6, 6}));
+        // A box leaves some room whatever is told.
+        QCOMPARE(paddings("\\box\\brdrs\\brsp15"), (QList<double>{4, 4, 4, 4}));
+        QCOMPARE(paddings("\\box\\brdrs\\brsp999999").first(), 620.0 / 15);
+    }
+
     void four_single_borders_are_a_box_too()
     {
         const Reading read =

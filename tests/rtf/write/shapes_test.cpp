@@ -1,9 +1,12 @@
 #include "rtf/documents.h"
 #include "support/test_class.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QImage>
 #include <QTextTable>
 #include <QUrl>
+
+#include <cmath>
 
 using namespace torvik::rtf;
 using namespace Qt::StringLiterals;
@@ -70,6 +73,23 @@ private Q_SLOTS:
     {
         const Reading read = ReadBody("one " + Shape({}, "\\pard box\\par") + "goes on\\par two\\par");
         QCOMPARE(read.Text(), u"one goes on\nbox\ntwo"_s);
+    }
+
+    void a_box_is_at_least_as_high_as_told()
+    {
+        // 1500 twips; the text of the second one needs more.
+        const Reading read = ReadBody(Shape({}, "\\pard one line\\par") + "\\par " +
+                                      Shape({}, "\\pard " + QByteArray("line\\par ").repeated(20)) + "\\par");
+        const auto paddingBelow = [&](qsizetype number) {
+            return BoxesOf(read).at(number)->cellAt(0, 0).format().toTableCellFormat().bottomPadding();
+        };
+        const QTextBlock line = read.Block(u"one line"_s);
+        const QTextTableCellFormat format = BoxesOf(read).first()->cellAt(0, 0).format().toTableCellFormat();
+        const double height = format.topPadding() + format.topBorder() +
+                              read.document->documentLayout()->blockBoundingRect(line).height() +
+                              paddingBelow(0);
+        QVERIFY2(std::abs(height - 100) < 1, qPrintable(QString::number(height)));
+        QVERIFY(paddingBelow(1) < 10);
     }
 
     void line_and_fill_of_a_box_are_as_told()

@@ -2,7 +2,7 @@
 #include "sample/movies/movie_plan.h"
 #include "sample/sounds/sound.h"
 #include "sample/sounds/wave_file.h"
-#include "support/number_at.h"
+#include "support/discs/number_at.h"
 #include "support/test_class.h"
 
 #include <QtTest>

@@ -1,6 +1,6 @@
 #include "sample/files/in_parallel.h"
 #include "sample/sounds/effects.h"
-#include "support/number_at.h"
+#include "support/discs/number_at.h"
 #include "support/test_class.h"
 
 #include <QHash>

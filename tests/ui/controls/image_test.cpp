@@ -1,4 +1,4 @@
-#include "support/picture_bytes.h"
+#include "support/discs/picture_bytes.h"
 #include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/image.h"

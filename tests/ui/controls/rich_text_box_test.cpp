@@ -1,5 +1,5 @@
 #include "support/desktop.h"
-#include "support/picture_bytes.h"
+#include "support/discs/picture_bytes.h"
 #include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/rich_text_box.h"

@@ -1,10 +1,10 @@
 #include "av/media_reader.h"
 #include "platform/paths/drives.h"
-#include "support/file_bytes.h"
-#include "support/image_drive.h"
-#include "support/image_maker.h"
+#include "support/discs/file_bytes.h"
+#include "support/discs/image_drive.h"
+#include "support/discs/image_maker.h"
+#include "support/discs/test_movie.h"
 #include "support/test_class.h"
-#include "support/test_movie.h"
 #include "ui/media/file_source.h"
 
 #include <variant>

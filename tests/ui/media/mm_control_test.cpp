@@ -1,6 +1,6 @@
-#include "support/picture_bytes.h"
+#include "support/discs/picture_bytes.h"
+#include "support/discs/test_movie.h"
 #include "support/test_class.h"
-#include "support/test_movie.h"
 #include "support/ui_room.h"
 #include "ui/forms/clock.h"
 #include "ui/look/button_widget.h"

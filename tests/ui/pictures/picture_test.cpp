@@ -1,5 +1,5 @@
 #include "runtime/failure.h"
-#include "support/picture_bytes.h"
+#include "support/discs/picture_bytes.h"
 #include "support/test_class.h"
 #include "ui/pictures/picture.h"
 

@@ -1,5 +1,5 @@
 #include "platform/paths/drives.h"
-#include "support/picture_bytes.h"
+#include "support/discs/picture_bytes.h"
 #include "support/test_class.h"
 #include "ui/pictures/pictures_ahead.h"
 

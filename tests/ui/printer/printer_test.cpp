@@ -1,6 +1,6 @@
 #include "platform/system/print_jobs.h"
 #include "runtime/failure.h"
-#include "support/full_disk.h"
+#include "support/discs/full_disk.h"
 #include "support/logged_messages.h"
 #include "support/ordinary_user.h"
 #include "support/print_folder.h"

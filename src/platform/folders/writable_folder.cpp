@@ -1,4 +1,4 @@
-#include "platform/paths/writable_folder.h"
+#include "platform/folders/writable_folder.h"
 
 #include <QDir>
 #include <QTemporaryFile>

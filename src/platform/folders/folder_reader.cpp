@@ -1,4 +1,4 @@
-#include "platform/paths/folder_reader.h"
+#include "platform/folders/folder_reader.h"
 
 #include <cerrno>
 #include <dirent.h>

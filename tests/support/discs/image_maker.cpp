@@ -1,4 +1,4 @@
-#include "support/image_maker.h"
+#include "support/discs/image_maker.h"
 
 #include <QtEndian>
 

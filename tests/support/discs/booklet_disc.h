@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/test_disc.h"
+#include "support/discs/test_disc.h"
 
 #include <QColor>
 #include <QPoint>

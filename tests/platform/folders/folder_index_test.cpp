@@ -1,5 +1,5 @@
-#include "platform/paths/folder_index.h"
-#include "support/disc_folder.h"
+#include "platform/folders/folder_index.h"
+#include "support/discs/disc_folder.h"
 #include "support/test_class.h"
 
 using namespace torvik;

@@ -1,4 +1,4 @@
-#include "support/test_movie.h"
+#include "support/discs/test_movie.h"
 
 #include <QFile>
 #include <QHash>

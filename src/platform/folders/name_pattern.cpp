@@ -1,6 +1,6 @@
-#include "platform/paths/name_pattern.h"
+#include "platform/folders/name_pattern.h"
 
-#include "platform/paths/host_name.h"
+#include "platform/folders/host_name.h"
 
 namespace torvik {
 

@@ -1,4 +1,4 @@
-#include "support/test_disc.h"
+#include "support/discs/test_disc.h"
 
 #include <QBuffer>
 #include <QDir>

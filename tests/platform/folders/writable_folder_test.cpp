@@ -1,5 +1,5 @@
-#include "platform/paths/writable_folder.h"
-#include "support/disc_folder.h"
+#include "platform/folders/writable_folder.h"
+#include "support/discs/disc_folder.h"
 #include "support/ordinary_user.h"
 #include "support/test_class.h"
 

@@ -1,4 +1,4 @@
-#include "platform/paths/name_pattern.h"
+#include "platform/folders/name_pattern.h"
 #include "support/test_class.h"
 
 using namespace Qt::StringLiterals;

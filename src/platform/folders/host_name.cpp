@@ -1,4 +1,4 @@
-#include "platform/paths/host_name.h"
+#include "platform/folders/host_name.h"
 
 #include <algorithm>
 

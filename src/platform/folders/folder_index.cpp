@@ -1,7 +1,7 @@
-#include "platform/paths/folder_index.h"
+#include "platform/folders/folder_index.h"
 
-#include "platform/paths/folder_reader.h"
-#include "platform/paths/host_name.h"
+#include "platform/folders/folder_reader.h"
+#include "platform/folders/host_name.h"
 
 #include <algorithm>
 #include <sys/stat.h>

@@ -1,6 +1,6 @@
-#include "platform/paths/system_failure.h"
+#include "platform/folders/system_failure.h"
 #include "runtime/failure.h"
-#include "support/disc_folder.h"
+#include "support/discs/disc_folder.h"
 #include "support/test_class.h"
 
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "support/booklet_disc.h"
+#include "support/discs/booklet_disc.h"
 
 #include <QBuffer>
 #include <QImage>

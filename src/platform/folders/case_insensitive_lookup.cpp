@@ -1,6 +1,6 @@
-#include "platform/paths/case_insensitive_lookup.h"
+#include "platform/folders/case_insensitive_lookup.h"
 
-#include "platform/paths/folder_index.h"
+#include "platform/folders/folder_index.h"
 #include "runtime/failure.h"
 
 #include <chrono>

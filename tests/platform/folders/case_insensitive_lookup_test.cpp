@@ -1,5 +1,5 @@
-#include "platform/paths/case_insensitive_lookup.h"
-#include "support/disc_folder.h"
+#include "platform/folders/case_insensitive_lookup.h"
+#include "support/discs/disc_folder.h"
 #include "support/failure_of.h"
 #include "support/test_class.h"
 

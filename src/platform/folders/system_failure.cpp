@@ -1,4 +1,4 @@
-#include "platform/paths/system_failure.h"
+#include "platform/folders/system_failure.h"
 
 #include "runtime/failure.h"
 
