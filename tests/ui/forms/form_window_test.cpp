@@ -42,8 +42,8 @@ struct TopForm : Form {
 };
 
 FormHandle<MainForm> Main;
-FormHandle<SideForm> Side;
-FormHandle<TopForm> Top;
+FormHandle<SideForm> side;
+FormHandle<TopForm> top;
 
 } // namespace
 
@@ -170,17 +170,17 @@ private Q_SLOTS:
 
     void a_box_comes_up_over_the_window_before_when_the_last_one_is_gone()
     {
-        QVERIFY(UiRoom::Open(*Side));
-        QVERIFY(UiRoom::Open(*Top));
-        QCOMPARE(FormWindow::ToStandOver(), &Top->Window());
-        Top->Hide();
+        QVERIFY(UiRoom::Open(*side));
+        QVERIFY(UiRoom::Open(*top));
+        QCOMPARE(FormWindow::ToStandOver(), &top->Window());
+        top->Hide();
         UiRoom::Settle();
         QWidget other;
         other.show();
         other.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&other));
-        QCOMPARE(FormWindow::ToStandOver(), &Side->Window());
-        Side.Unload();
+        QCOMPARE(FormWindow::ToStandOver(), &side->Window());
+        side.Unload();
         UiRoom::Settle();
         QCOMPARE(FormWindow::ToStandOver(), &Main->Window());
     }
