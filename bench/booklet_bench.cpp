@@ -4,6 +4,7 @@
 // Usage: booklet_bench [DISC [FOLDER]]    DISC is build/disc unless given; what is printed stays in FOLDER
 
 #include "bind_handlers.h"
+#include "browsing.h"
 #include "measure.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
@@ -73,8 +74,9 @@ void WaitForPhotosAhead()
 {
     using namespace torvik;
     constexpr int neighbours = 3;
+    constexpr int patience = 3000; // milliseconds: a small disc has fewer
     int ready = 0;
-    while (ready < neighbours) {
+    for (int waited = 0; waited < patience && ready < neighbours; ++waited) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
         ready = 0;
         for (int index = 1; index <= state.PhotoCount; ++index)
@@ -145,10 +147,7 @@ std::optional<double> SecondsOfOfficeSuite(const QString& disc)
 int main(int argc, char** argv)
 {
     using namespace torvik;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const bench::Home home;
     Application application(argc, argv);
     const QString disc = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"build/disc"_s;
 
@@ -157,7 +156,7 @@ int main(int argc, char** argv)
         messages.append(request.text);
         return msgbox::answerCancel;
     });
-    SetProgramFolder(home.path());
+    SetProgramFolder(home.Folder());
     SetDriveOptions({{u'G', disc}});
     const QTemporaryDir passing;
     const QString printed = argc > 2 ? QString::fromLocal8Bit(argv[2]) : passing.path();
