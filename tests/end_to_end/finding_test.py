@@ -3,6 +3,7 @@
 
 from support.case import ProgramTest, run
 from support.program import MAIN_TITLE
+from support.spoken import Heard
 from support.waiting import wait_until
 
 FIND_TITLE = "Find"
@@ -60,6 +61,22 @@ class Finding(ProgramTest):
         self.program.press("Escape")
         self.program.wait_for_no_window(FIND_TITLE)
         self.assertEqual(self.program.view().number, "3")
+
+    def test_a_screen_reader_is_told_of_each_row_that_is_chosen(self):
+        self.start_on({f"{year}desc.rtf": SHORT for year in (69, 70)})
+        first, second = (f"The Torvik Vollandry 19{year} Description. 19{year} > Description. "
+                         "The hood scoop of 1969 is painted." for year in (69, 70))
+        heard = Heard(self.program.process)
+        self.find("scoop", [first, second])
+        wait_until(lambda: first in heard.take(), "the best hit")
+        self.program.press("Down")
+        names = []
+        wait_until(lambda: names.extend(heard.take()) or second in names, "the row below")
+        self.program.press("Up")
+        wait_until(lambda: names.extend(heard.take()) or first in names, "the row above")
+        self.assertEqual(names, [second, first])
+        self.find("1970", [second])
+        wait_until(lambda: second in heard.take(), "the best hit of other words")
 
     def test_return_right_after_the_words_opens_the_hit_when_it_is_read(self):
         self.start_on_long_disc()
