@@ -1,11 +1,16 @@
-// The booklet of all 35 years with its cover, printed to files: processor time and memory against fixed
-// limits, and beside it an office suite that turns the same documents into PDF files, where one is installed.
+// The booklet of all 35 years with its cover, printed to files: processor time against an office suite that
+// turns the same documents into PDF files, where one is installed, and memory.
 //
-// Usage: booklet_bench [DISC]    DISC is build/disc unless given
+// Usage: booklet_bench [DISC [FOLDER]]    DISC is build/disc unless given; what is printed stays in FOLDER
 
 #include "bind_handlers.h"
+#include "browsing.h"
+#include "measure.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
+#include "processor_time.h"
+#include "program/catalogue/booklet.h"
+#include "program/program_state.h"
 #include "ui/application.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/event.h"
@@ -21,21 +26,27 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <chrono>
 #include <cstdio>
+#include <optional>
 #include <sys/resource.h>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double mostSeconds = 30;
-constexpr double mostMebibytes = 300;
-constexpr qsizetype expectedJobs = 1 + 35 * 4;
+// About half of the time goes into the fonts, which Qt takes apart and embeds for each job anew.
+constexpr double mostOfTheSuite = 1.0 / 3;
+constexpr double mostMebibytesMore = 5;
+constexpr int firstNumber = 67;
+constexpr qsizetype expectedJobs = 1 + qsizetype{torvik::yearCount} * 4;
 
-double ProcessorSeconds(int whose)
+/// Of the processes that have ended.
+double ChildrenSeconds()
 {
     rusage usage{};
-    getrusage(whose, &usage);
+    getrusage(RUSAGE_CHILDREN, &usage);
     const auto seconds = [](const timeval& time) {
         return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
     };
@@ -58,11 +69,19 @@ double PeakMebibytes()
     return static_cast<double>(usage.ru_maxrss) / 1024;
 }
 
-bool Report(const char* name, const char* unit, double figure, double limit)
+/// The photos that the start has read ahead are no part of the booklet.
+void WaitForPhotosAhead()
 {
-    std::printf("%s: %.1f %s, limit %.0f %s, %s\n", name, figure, unit, limit, unit,
-                figure <= limit ? "ok" : "over");
-    return figure <= limit;
+    using namespace torvik;
+    constexpr int neighbours = 3;
+    constexpr int patience = 3000; // milliseconds: a small disc has fewer
+    int ready = 0;
+    for (int waited = 0; waited < patience && ready < neighbours; ++waited) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        ready = 0;
+        for (int index = 1; index <= state.PhotoCount; ++index)
+            ready += Form1->Image4.HasReadAhead(state.PhotoFiles(index)) ? 1 : 0;
+    }
 }
 
 /// Ticks cover, introduction, description and details, selects all years, and prints.
@@ -76,37 +95,51 @@ void PrintWholeBooklet()
     Form1->cmdPrint.Click.Call();
 }
 
-/// The documents of the disc that the booklet is made of.
+/// The documents that the booklet is made of.
 QStringList Documents(const QString& disc)
 {
-    const QDir texts(QDir(disc).filePath(u"RichText"_s));
+    using namespace torvik;
+    QStringList files{BookletIntroduction()};
+    for (int number = firstNumber; number < firstNumber + yearCount; ++number) {
+        const QString prefix = BookletPrefix(number);
+        files += BookletDescription(prefix);
+        files += BookletDetails(prefix);
+    }
     QStringList paths;
-    for (const char* ending : {"desc", "opts", "stats", "colors"}) {
-        const QStringList names = texts.entryList({u"??%1.rtf"_s.arg(QLatin1String(ending))});
-        for (const QString& name : names)
+    const QDir texts(QDir(disc).filePath(u"RichText"_s));
+    const QStringList names = texts.entryList(QDir::Files);
+    for (const QString& name : names) {
+        if (files.contains(u"\\RichText\\"_s + name, Qt::CaseInsensitive))
             paths.append(texts.filePath(name));
     }
     return paths;
 }
 
-void ConvertWithOfficeSuite(const QString& disc, double ours)
+/// Processor seconds that an office suite takes for the same documents; nothing where none is installed.
+std::optional<double> SecondsOfOfficeSuite(const QString& disc)
 {
     const QString suite = QStandardPaths::findExecutable(u"soffice"_s);
     if (suite.isEmpty()) {
         std::printf("an office suite on the same documents: not measured, none is installed\n");
-        return;
+        return std::nullopt;
     }
     const QTemporaryDir folder;
-    const double before = ProcessorSeconds(RUSAGE_CHILDREN);
+    const double before = ChildrenSeconds();
     QProcess process;
     process.start(suite, QStringList{u"-env:UserInstallation=file://"_s + folder.path(), u"--headless"_s,
                                      u"--convert-to"_s, u"pdf"_s, u"--outdir"_s, folder.path()} +
                              Documents(disc));
     process.waitForFinished(-1);
-    const double taken = ProcessorSeconds(RUSAGE_CHILDREN) - before;
+    const double taken = ChildrenSeconds() - before;
     const auto made = QDir(folder.path()).entryList({u"*.pdf"_s}).size();
-    std::printf("an office suite on the same documents: %.1f s for %d files of %.1f MiB, ratio %.2f\n", taken,
-                static_cast<int>(made), MebibytesIn(folder.path()), ours / taken);
+    if (made != expectedJobs) {
+        std::printf("an office suite made %d files of %d\n", static_cast<int>(made),
+                    static_cast<int>(expectedJobs));
+        return std::nullopt;
+    }
+    std::printf("an office suite on the same documents: %.1f s for %d files of %.1f MiB\n", taken,
+                static_cast<int>(made), MebibytesIn(folder.path()));
+    return taken;
 }
 
 } // namespace
@@ -114,10 +147,7 @@ void ConvertWithOfficeSuite(const QString& disc, double ours)
 int main(int argc, char** argv)
 {
     using namespace torvik;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    const bench::Home home;
     Application application(argc, argv);
     const QString disc = argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"build/disc"_s;
 
@@ -126,28 +156,34 @@ int main(int argc, char** argv)
         messages.append(request.text);
         return msgbox::answerCancel;
     });
-    SetProgramFolder(home.path());
+    SetProgramFolder(home.Folder());
     SetDriveOptions({{u'G', disc}});
-    const QTemporaryDir printed;
-    Printer.PrintTo(printed.path());
+    const QTemporaryDir passing;
+    const QString printed = argc > 2 ? QString::fromLocal8Bit(argv[2]) : passing.path();
+    Printer.PrintTo(printed);
     Clock::StopAt(QDateTime(QDate(2001, 6, 17), QTime(14, 5)));
     BindHandlers();
     RunHandler([] { Form2.LoadForm(); });
     Clock::Turn(5000);
     QCoreApplication::processEvents();
 
-    const double before = ProcessorSeconds(RUSAGE_SELF);
+    WaitForPhotosAhead();
+    const double held = PeakMebibytes();
+    const double before = bench::ProcessMilliseconds();
     RunHandler(PrintWholeBooklet);
-    const double taken = ProcessorSeconds(RUSAGE_SELF) - before;
-    const auto jobs = QDir(printed.path()).entryList({u"job-*.pdf"_s}).size();
+    const double taken = (bench::ProcessMilliseconds() - before) / 1000;
+    const auto jobs = QDir(printed).entryList({u"job-*.pdf"_s}).size();
     if (jobs != expectedJobs) {
         std::printf("%d jobs of %d went out: %s\n", static_cast<int>(jobs), static_cast<int>(expectedJobs),
                     qPrintable(messages.join(u' ')));
         return 1;
     }
-    const bool isQuick = Report("the booklet of all years, processor time", "s", taken, mostSeconds);
-    const bool isSmall = Report("the booklet of all years, memory", "MiB", PeakMebibytes(), mostMebibytes);
-    std::printf("the booklet of all years, its files: %.1f MiB\n", MebibytesIn(printed.path()));
-    ConvertWithOfficeSuite(disc, taken);
-    return isQuick && isSmall ? 0 : 1;
+    std::printf("the booklet of all years: %.2f s, files of %.1f MiB\n", taken, MebibytesIn(printed));
+    bool isOk = bench::Report("memory, the program that prints it against the one before", "MiB",
+                              PeakMebibytes(), held, (held + mostMebibytesMore) / held);
+    if (const auto suite = SecondsOfOfficeSuite(disc))
+        isOk =
+            bench::Report("the booklet of all years, processor time", "s", taken, *suite, mostOfTheSuite) &&
+            isOk;
+    return isOk ? 0 : 1;
 }

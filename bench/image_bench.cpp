@@ -3,7 +3,6 @@
 // place in it; each from an ISO and from a BIN with its CUE sheet.
 
 #include "av/media_reader.h"
-#include "bind_handlers.h"
 #include "browsing.h"
 #include "hard_drive/copy_all_files.h"
 #include "measure.h"
@@ -11,6 +10,7 @@
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
+#include "run_bench.h"
 #include "scene.h"
 #include "support/discs/image_maker.h"
 #include "support/discs/test_movie.h"
@@ -232,11 +232,5 @@ bool Measure()
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
-    const QApplication application(argc, argv);
-    BindHandlers();
-    return Measure() ? 0 : 1;
+    return torvik::bench::RunBench(argc, argv, Measure);
 }

@@ -2,12 +2,12 @@
 // else, against a bare reader that opens the same file and decodes its first piece.
 
 #include "av/media_reader.h"
-#include "bind_handlers.h"
 #include "browsing.h"
 #include "measure.h"
 #include "platform/paths/drives.h"
 #include "platform/paths/program_folder.h"
 #include "program/program_state.h"
+#include "run_bench.h"
 #include "support/discs/test_movie.h"
 #include "ui/media/file_source.h"
 #include "windows/main_window.h"
@@ -104,11 +104,5 @@ bool Measure()
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
-    const QApplication application(argc, argv);
-    BindHandlers();
-    return Measure() ? 0 : 1;
+    return torvik::bench::RunBench(argc, argv, Measure);
 }

@@ -2,25 +2,23 @@
 // smooth scale to the same rectangle: onto a photo that was not read ahead, onto one that is ready, and with
 // the key held down at 30 presses a second.
 
-#include "bind_handlers.h"
+#include "bare_decode.h"
 #include "browsing.h"
 #include "measure.h"
+#include "processor_time.h"
+#include "run_bench.h"
 #include "scene.h"
 #include "ui/forms/form_window.h"
 #include "ui/pictures/pictures_ahead.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
-#include <QImage>
 #include <QKeyEvent>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <chrono>
-#include <ctime>
 #include <thread>
-#include <turbojpeg.h>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -48,44 +46,6 @@ QStringList MakePhotos(const QString& folder, const QSize& size)
     return paths;
 }
 
-/// The smallest eighth at which the picture still covers the target.
-tjscalingfactor Reduction(const QSize& whole, const QSize& target)
-{
-    tjscalingfactor best{1, 1};
-    int count = 0;
-    const tjscalingfactor* factors = tjGetScalingFactors(&count);
-    for (int index = 0; index < count; ++index) {
-        const bool covers = TJSCALED(whole.width(), factors[index]) >= target.width() &&
-                            TJSCALED(whole.height(), factors[index]) >= target.height();
-        if (covers && factors[index].num * best.denom < best.num * factors[index].denom)
-            best = factors[index];
-    }
-    return best;
-}
-
-QImage BareDecode(tjhandle decoder, const QString& path, const QSize& area)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray bytes = file.readAll();
-    auto* data = reinterpret_cast<unsigned char*>(bytes.data());
-    const auto size = static_cast<unsigned long>(bytes.size());
-    int width = 0;
-    int height = 0;
-    int sampling = 0;
-    int space = 0;
-    if (tjDecompressHeader3(decoder, data, size, &width, &height, &sampling, &space) != 0)
-        return {};
-    const QSize target = QSize(width, height).scaled(area, Qt::KeepAspectRatio);
-    const tjscalingfactor factor = Reduction({width, height}, target);
-    QImage reduced(TJSCALED(width, factor), TJSCALED(height, factor), QImage::Format_RGB32);
-    if (tjDecompress2(decoder, data, size, reduced.bits(), reduced.width(),
-                      static_cast<int>(reduced.bytesPerLine()), reduced.height(), TJPF_BGRX, 0) != 0)
-        return {};
-    return reduced.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
 void PressPeriod()
 {
     QWidget* focused = QApplication::focusWidget();
@@ -94,13 +54,6 @@ void PressPeriod()
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, u"."_s);
     QApplication::sendEvent(focused, &press);
     torvik::Form1->Window().repaint();
-}
-
-double ThreadMilliseconds()
-{
-    std::timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
 QString PathOfPhoto(int number)
@@ -124,9 +77,9 @@ bool MeasureReady(double bare)
         while (!Form1->Image4.HasReadAhead(next))
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         held = std::max(held, BytesReadAhead());
-        const double before = ThreadMilliseconds();
+        const double before = bench::ThreadMilliseconds();
         PressPeriod();
-        figures.push_back(ThreadMilliseconds() - before);
+        figures.push_back(bench::ThreadMilliseconds() - before);
     }
     std::printf("held for it: %.1f MiB at most\n", static_cast<double>(held) / (1024 * 1024));
     return bench::Report("photo step onto a ready photo", "ms", bench::Median(figures), bare,
@@ -167,7 +120,7 @@ bool Measure(const char* name, const QSize& size)
     bench::StartBrowsing(disc.path(), program.path());
     const QSize area = Form1->Image4.Widget().size();
 
-    tjhandle decoder = tjInitDecompress();
+    const bench::BareDecoder decoder;
     std::vector<double> figures;
     std::vector<double> baselines;
     PressPeriod(); // the first time is not counted
@@ -175,11 +128,10 @@ bool Measure(const char* name, const QSize& size)
     for (int round = 0; round < rounds; ++round) {
         const QString& photo = photos[round % photoCount];
         baselines.push_back(
-            bench::Milliseconds([&] { whole = !BareDecode(decoder, photo, area).isNull() && whole; }));
+            bench::Milliseconds([&] { whole = !decoder.Decode(photo, area).isNull() && whole; }));
         ForgetPicturesAhead();
         figures.push_back(bench::Milliseconds(PressPeriod));
     }
-    tjDestroy(decoder);
     const double bare = bench::Median(baselines);
     bool isOk = bench::Report(name, "ms", bench::Median(figures), bare, limit) && whole;
     isOk = MeasureReady(bare) && isOk;
@@ -192,10 +144,9 @@ bool Measure(const char* name, const QSize& size)
 
 int main(int argc, char** argv)
 {
-    const torvik::bench::Home home;
-    const QApplication application(argc, argv);
-    torvik::BindHandlers();
-    const bool small = Measure("photo step, 1280 x 776", {1280, 776});
-    const bool large = Measure("photo step, 4000 x 3000", {4000, 3000});
-    return small && large ? 0 : 1;
+    return torvik::bench::RunBench(argc, argv, [] {
+        const bool small = Measure("photo step, 1280 x 776", {1280, 776});
+        const bool large = Measure("photo step, 4000 x 3000", {4000, 3000});
+        return small && large;
+    });
 }

@@ -59,6 +59,7 @@ void PrintCover()
     for (const CoverPicture& picture : CoverPictures()) {
         Form1->Picture3.Load(state.DiscRoot + QString::fromLatin1(picture.file));
         Printer.PaintPicture(Form1->Picture3.Picture(), picture.x, picture.y);
+        Form1->Picture3.Clear(); // nobody sees it, and a cover may be many megapixels
     }
     Printer.NewPage();
 }

@@ -38,12 +38,12 @@ QSizeF SizeOf(const QTextImageFormat& format, const QTextDocument& document)
 void AddPictures(const QTextBlock& block, double scale, std::vector<PlacedPicture>& pictures)
 {
     const QTextDocument& document = *block.document();
-    const QPointF corner = document.documentLayout()->blockBoundingRect(block).topLeft();
     for (auto part = block.begin(); !part.atEnd(); ++part) {
         const QTextFragment fragment = part.fragment();
         const QTextImageFormat format = fragment.charFormat().toImageFormat();
         if (!format.isValid())
             continue;
+        const QPointF corner = document.documentLayout()->blockBoundingRect(block).topLeft();
         // Equal pictures in a row are one fragment of several characters.
         for (int position = fragment.position(); position < fragment.position() + fragment.length();
              ++position) {

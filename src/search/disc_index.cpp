@@ -27,8 +27,15 @@ constexpr qsizetype mostHits = 100;                ///< that are given with thei
 constexpr qsizetype lineLength = 110;              ///< as much as the form has room for
 constexpr std::chrono::milliseconds freshFor{120}; ///< an answer, while more is read
 
+/// Held while an article is taken apart: that needs tables of the program and of Qt, which go at the
+/// program's end.
+std::timed_mutex takingApart;
+constexpr std::chrono::seconds patience{3}; ///< of the program's end, many times what a real article needs
+
 /// The threads that use a database. None of them ever waits for a disc, so the program's end can wait for
-/// them while there is still an application and Qt's list of databases, which they leave.
+/// them while there is still an application and Qt's list of databases, which they leave. A thread that reads
+/// may wait for a disc, so the end waits only for the article that it has in hand, and keeps the lock: the
+/// next one is never begun.
 QThreadPool& IndexThreads()
 {
     static QThreadPool pool;
@@ -36,7 +43,10 @@ QThreadPool& IndexThreads()
         constexpr int many = 16;
         pool.setMaxThreadCount(many);
         QSqlDatabase::drivers(); // the list's own end is set by this, and what was set last is called first
-        qAddPostRoutine([] { pool.waitForDone(); });
+        qAddPostRoutine([] {
+            (void)takingApart.try_lock_for(patience);
+            pool.waitForDone();
+        });
         return true;
     }();
     Q_UNUSED(isAwaited)
@@ -47,7 +57,9 @@ QThreadPool& IndexThreads()
 QString TextOf(const IndexedText& entry)
 {
     try {
-        return rtf::PlainText(entry.read());
+        const QByteArray bytes = entry.read();
+        const std::lock_guard lock(takingApart);
+        return rtf::PlainText(bytes);
     } catch (const RunTimeError&) {
         return {};
     } catch (const std::bad_alloc&) {

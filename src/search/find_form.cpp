@@ -2,6 +2,7 @@
 #include "search/bind_search.h"
 #include "search/finder.h"
 #include "ui/forms/event.h"
+#include "ui/forms/screen.h"
 #include "ui/forms/units.h"
 #include "windows/find_window.h"
 #include "windows/main_window.h"
@@ -27,7 +28,7 @@ struct FoundList {
     QString question;
     qsizetype count = 0;
     QList<Findable> hits;
-    bool opensFirst = false; ///< Return was pressed before the answer came
+    bool opensFirst = false; ///< Return was pressed before there was a hit
 };
 FoundList found;
 
@@ -43,7 +44,10 @@ QString TextOfProgress(const IndexProgress& progress)
     if (!progress.isDone)
         return u"Reading %1 of %2"_s.arg(progress.read).arg(progress.total);
     const qsizetype lacking = progress.leftOut + finder->Missing();
-    return lacking > 0 ? u"%1 are missing or cannot be read"_s.arg(lacking) : QString();
+    if (lacking == 0)
+        return {};
+    return lacking == 1 ? u"1 is missing or cannot be read"_s
+                        : u"%1 are missing or cannot be read"_s.arg(lacking);
 }
 
 /// The last count stands until the next answer comes, as the list does. Nothing in what was read so far says
@@ -60,10 +64,9 @@ QString TextOfCount(const IndexProgress& progress)
     return text;
 }
 
-void ShowState()
+void ShowState(const IndexProgress& progress)
 {
     frmFindControls& form = *frmFind;
-    const IndexProgress progress = finder->Progress();
     if (!progress.isUsable) {
         form.lblFound.SetCaption(u"Finding needs SQLite, which is not installed"_s);
         form.ProgressGuage.Hide();
@@ -105,28 +108,48 @@ void ShowAnswer(const IndexAnswer& answer)
         hits.append(finder->Entry(hit.entry));
         rows.append({hits.last().title, hits.last().place, hit.line.text, hit.line.found});
     }
-    const int choice = RowToChoose(hits, answer.question == found.question);
+    const bool isSameQuestion = answer.question == found.question;
+    const int choice = RowToChoose(hits, isSameQuestion);
     found.question = answer.question;
     found.count = answer.count;
     found.hits = std::move(hits);
     list.SetRows(rows);
-    if (!rows.isEmpty() && list.ListIndex() != choice)
+    // The best hit of other words comes into view, and is told to a screen reader, although its row was the
+    // chosen one already.
+    if (!rows.isEmpty() && (!isSameQuestion || list.ListIndex() != choice))
         list.SetListIndex(choice);
 }
 
+bool IsAnswered()
+{
+    return found.question == frmFind->txtFind.Text();
+}
+
 void OpenChosen();
+
+/// What is still to be read may hold the first hit, so Return waits for that as well; but nothing comes up
+/// before a person who went on to another window meanwhile.
+void OpenFirst(const IndexProgress& progress)
+{
+    if (!found.opensFirst || !IsAnswered() || (found.hits.isEmpty() && !progress.isDone))
+        return;
+    found.opensFirst = false;
+    const Control* active = Screen.ActiveControl();
+    if (active != nullptr && &active->OwnerForm() == &*frmFind)
+        OpenChosen();
+}
 
 void TakeNews()
 {
     if (!frmFind.IsLoaded())
         return;
+    // In this order: when all was read, the answer is that to all.
+    const IndexProgress progress = finder->Progress();
     const std::optional<IndexAnswer> answer = finder->TakeAnswer();
-    const bool isAnswered = answer && answer->question == frmFind->txtFind.Text();
-    if (isAnswered)
+    if (answer && answer->question == frmFind->txtFind.Text())
         ShowAnswer(*answer);
-    ShowState();
-    if (isAnswered && std::exchange(found.opensFirst, false))
-        OpenChosen();
+    ShowState(progress);
+    OpenFirst(progress);
 }
 
 void RefreshFinder()
@@ -144,7 +167,7 @@ void AskNow()
     frmFind->TypingRest.SetInterval(0);
     RefreshFinder();
     finder->Ask(frmFind->txtFind.Text());
-    ShowState();
+    ShowState(finder->Progress());
 }
 
 void txtFind_Change()
@@ -171,12 +194,15 @@ void OpenChosen()
 /// Letters that were not asked for yet are asked for now, and what is found first is opened.
 void OpenWhatIsTyped()
 {
-    if (found.question == frmFind->txtFind.Text()) {
+    if (!LooksForSomething(frmFind->txtFind.Text()))
+        return;
+    if (IsAnswered() && !found.hits.isEmpty()) {
         OpenChosen();
         return;
     }
-    AskNow();
-    found.opensFirst = true;
+    if (!IsAnswered())
+        AskNow();
+    found.opensFirst = !IsAnswered() || !finder->Progress().isDone;
 }
 
 void Walk(int rows)

@@ -55,7 +55,7 @@ PrintPanel::PrintPanel(Form& form)
     List1(0).SetSpokenAs(Label4.Caption());
     List1(1).SetSpokenAs(Label6.Caption());
     Label3.SetCaptionFont(look::panelTitleSize, true, look::accent);
-    Image3.Show(Picture::FromResource(u":/assets/icon.png"_s));
+    Image3.ShowWhenSeen(Picture::FromResource(u":/assets/icon.png"_s));
     Picture3.Hide();
     rtbText.Hide();
     pnlPrint.Hide();

@@ -18,7 +18,7 @@ ProgressPanel::ProgressPanel(Form& form)
       cmdCancel(pnlProgress, u"cmdCancel"_s, {3270, 2790, 1950, 390}, u"Cancel"_s)
 {
     pnlProgress.Hide();
-    Image1.Show(Picture::FromResource(u":/assets/icon.png"_s));
+    Image1.ShowWhenSeen(Picture::FromResource(u":/assets/icon.png"_s));
     Label2.SetCaptionFont(15, true, look::accent);
     ProgressGuage.SetToolTip(u"This file"_s);
     ProgressGuage2.SetToolTip(u"All files"_s);

@@ -14,7 +14,7 @@ frmSSPhotoControls::frmSSPhotoControls()
 {
     SetLeft((Screen.Width() - Width()) / 2);
     SetTop((Screen.Height() - Height()) / 2);
-    Picture1.Show(Picture::FromResource(u":/assets/icon.png"_s));
+    Picture1.ShowWhenSeen(Picture::FromResource(u":/assets/icon.png"_s));
     ProgressGuage.SetFloodPercent(0);
 }
 

@@ -38,7 +38,7 @@ SaverPanel::SaverPanel(Form& form)
     Label8.SetCaptionFont(headingSize, true);
     SpinInterval.SetToolTip(u"Set Slide Show Delay"_s);
     SpinInterval.SetSpokenAs(u"Longer delay"_s, u"Shorter delay"_s);
-    Image2.Show(Picture::FromResource(u":/assets/splash@2x.png"_s));
+    Image2.ShowWhenSeen(Picture::FromResource(u":/assets/splash@2x.png"_s));
     pnlSSaver.Hide();
 }
 

@@ -94,7 +94,7 @@ SoundPanel::SoundPanel(Form& form)
       SSCommand1(pnlSound, u"SSCommand1"_s, {5520, 4830, 2100, 420}, u"Close"_s)
 {
     Label10.SetCaptionFont(look::panelTitleSize, true, look::accent);
-    Picture5.Show(Picture::FromResource(u":/assets/sound_wave.png"_s));
+    Picture5.ShowWhenSeen(Picture::FromResource(u":/assets/sound_wave.png"_s));
     pnlSound.Hide();
 }
 

@@ -5,6 +5,8 @@
 #include "ui/printer/printer.h"
 #include "windows/main_window.h"
 
+#include <QLabel>
+
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
@@ -151,6 +153,14 @@ private Q_SLOTS:
         for (const CoverArt& art : coverArt)
             expected.append(art.size);
         QCOMPARE(run_->printed.PictureSizes(1), expected);
+    }
+
+    void no_cover_picture_is_held_after_it_was_printed()
+    {
+        run_->Print({box::cover, box::introduction});
+        QCOMPARE(run_->printed.PictureSizes(1).size(), 4);
+        QVERIFY(Form1->Picture3.Picture().IsEmpty());
+        QVERIFY(static_cast<QLabel&>(Form1->Picture3.Widget()).pixmap().isNull());
     }
 
     void the_cover_rides_in_the_job_of_the_first_document()

@@ -126,6 +126,19 @@ private Q_SLOTS:
             QVERIFY(qAbs(InkOf(printed_->Image(1, page)).top() - top) <= pixel);
     }
 
+    void a_leader_of_dots_fills_the_room_up_to_its_stop()
+    {
+        Print("\\pard\\tldot\\tx6000\\fs24\\tab\\par", 2000, 3000, 1000, 1500);
+        const QRectF ink = InkOf(printed_->Image(1, 1));
+        constexpr double twoDots = 200; // twips
+        QVERIFY2(ink.left() >= 2000 - pixel && ink.left() < 2000 + twoDots,
+                 qPrintable(QString::number(ink.left())));
+        QVERIFY2(ink.right() <= 8000 + pixel && ink.right() > 8000 - twoDots,
+                 qPrintable(QString::number(ink.right())));
+        const qsizetype dots = printed_->Pages(1).first().count(u'.');
+        QVERIFY2(dots > 50 && dots < 80, qPrintable(QString::number(dots)));
+    }
+
     void a_text_without_a_character_is_one_empty_page()
     {
         Print("");

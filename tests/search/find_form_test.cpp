@@ -1,4 +1,8 @@
 #include "platform/paths/drives.h"
+#include "program/catalogue/articles.h"
+#include "program/catalogue/library.h"
+#include "program/catalogue/topics.h"
+#include "program/photo_name.h"
 #include "program/program_state.h"
 #include "program/search_words.h"
 #include "support/discs/image_maker.h"
@@ -225,6 +229,59 @@ private Q_SLOTS:
         });
         QCOMPARE(seen.title, u"The Torvik Vollandry     2001 Colors"_s);
         QCOMPARE(seen.marked, QStringList{u"Velvet"_s});
+    }
+
+    void return_waits_for_the_first_hit_of_what_is_still_to_be_read()
+    {
+        OpenFormOnLongDisc();
+        frmFind->txtFind.SetText(u"silver"_s); // a caption, and these are read last
+        program_->Press(frmFind->txtFind, Qt::Key_Return);
+        QTRY_COMPARE_WITH_TIMEOUT(Form1->panYear.Caption(), u"1969"_s, 20'000);
+        QCOMPARE(Form1->panPhoto.Caption(), u"3"_s);
+        QCOMPARE(MarkedIn(Form1->rtbDetails), QStringList{u"silver"_s});
+    }
+
+    void return_for_what_is_not_on_the_disc_opens_nothing_later()
+    {
+        OpenFormOnLongDisc();
+        frmFind->txtFind.SetText(u"bronze"_s);
+        program_->Press(frmFind->txtFind, Qt::Key_Return);
+        WaitForEnd();
+        QTRY_COMPARE(FirstLine(), u"Nothing found"_s);
+        program_->disc.AddDocument(u"69d.rtf"_s, u"A bronze roof."_s); // another disc, as it were
+        Form1->KeyDown.Fire(key::letterF, held::ctrl);
+        QTRY_COMPARE_WITH_TIMEOUT(frmFind->lstFound.ListCount(), 1, 20'000);
+        program_->Settle();
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
+    }
+
+    void nothing_comes_up_before_a_person_who_went_on_to_the_main_window()
+    {
+        OpenFormOnLongDisc();
+        frmFind->txtFind.SetText(u"silver"_s);
+        program_->Press(frmFind->txtFind, Qt::Key_Return);
+        Form1->Window().activateWindow();
+        Form1->cmdYR(3).SetFocus();
+        QTRY_COMPARE_WITH_TIMEOUT(frmFind->lstFound.ListCount(), 1, 20'000);
+        WaitForEnd();
+        program_->Settle();
+        QCOMPARE(Program::Focus(), u"cmdYR(3)"_s);
+        QCOMPARE(Form1->panYear.Caption(), u"1967"_s);
+    }
+
+    void other_words_bring_the_best_hit_into_view()
+    {
+        for (int year = 70; year < 100; ++year)
+            program_->disc.AddDocument(u"%1desc.rtf"_s.arg(year), u"A spare wheel in the boot."_s);
+        Find(u"spare"_s);
+        QCOMPARE(frmFind->lstFound.ListCount(), 30);
+        auto& view = static_cast<QAbstractItemView&>(frmFind->lstFound.Widget());
+        view.scrollToBottom(); // by the wheel, which leaves the choice where it is
+        QCOMPARE(frmFind->lstFound.ListIndex(), 0);
+        Ask(u"spare wheel"_s);
+        QTRY_COMPARE(Rows().first(),
+                     u"The Torvik Vollandry 1970 Description | A [spare] [wheel] in the boot."_s);
+        QVERIFY(view.viewport()->rect().contains(view.visualRect(view.model()->index(0, 0))));
     }
 
     void nostalgia_opens_with_its_year()
@@ -463,6 +520,15 @@ private Q_SLOTS:
         QCOMPARE(frmFind->lblFound.Caption(), u"2 found\n%1 are missing or cannot be read"_s.arg(missing));
     }
 
+    void one_missing_article_is_told_as_one()
+    {
+        AddAllArticles();
+        program_->disc.Remove(u"RichText/68desc.rtf"_s);
+        OpenForm();
+        WaitForEnd();
+        QCOMPARE(frmFind->lblFound.Caption(), u"1 is missing or cannot be read"_s);
+    }
+
     void the_form_takes_the_users_size()
     {
         OpenForm();
@@ -505,6 +571,46 @@ private:
         program_->Settle();
         frmFind->Window().activateWindow();
         program_->Settle();
+    }
+
+    /// Opens the form on a disc that takes a while to be read.
+    void OpenFormOnLongDisc()
+    {
+        for (int year = 70; year < 100; ++year) {
+            for (const char* ending : {"desc.rtf", "opts.rtf"})
+                program_->disc.AddDocument(QString::number(year) + QLatin1String(ending),
+                                           u"much to be read\\par "_s.repeated(4000));
+        }
+        Form1->KeyDown.Fire(key::letterF, held::ctrl);
+        program_->Settle();
+        frmFind->Window().activateWindow();
+        QVERIFY(frmFind->ProgressGuage.Visible());
+    }
+
+    /// Everything that a button or menu entry asks for, as far as the disc lacks it.
+    void AddAllArticles()
+    {
+        const auto add = [this](const QString& file) {
+            const QString relative = QString(file).remove(0, 1).replace(u'\\', u'/');
+            if (!QFile::exists(program_->disc.PathOf(relative)))
+                program_->disc.AddDocument(relative.section(u'/', -1), u"A word."_s);
+        };
+        for (int button = 1; button <= yearCount; ++button) {
+            const QString year = YearOfButton(button);
+            for (const ArticleButton each : {ArticleButton::Description, ArticleButton::Options,
+                                             ArticleButton::Statistics, ArticleButton::Colors})
+                add(ArticleOf(each, year).file);
+            add(NostalgiaOf(year).file);
+        }
+        for (const Topic& topic : Topics()) {
+            for (const ArticleButton each : {ArticleButton::Description, ArticleButton::Options,
+                                             ArticleButton::Statistics, ArticleButton::Colors}) {
+                if (AsksForArticle(each, topic))
+                    add(ArticleOf(each, QString::fromLatin1(topic.title)).file);
+            }
+        }
+        for (const LibraryDocument& document : LibraryDocuments())
+            add(QLatin1String(document.file));
     }
 
     void WaitForEnd()

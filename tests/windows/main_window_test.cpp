@@ -4,6 +4,8 @@
 #include "windows/article_window.h"
 #include "windows/main_window.h"
 
+#include <QLabel>
+
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
@@ -175,6 +177,29 @@ private Q_SLOTS:
         QVERIFY(Form1->panYear.Width() > needed);
         Form1->panYear.SetCaption(u"1967"_s);
         QCOMPARE(Form1->panYear.Width(), 54.0);
+    }
+
+    /// Few people open all of the panels, and drawing for nobody would delay the start.
+    void the_artwork_of_a_panel_is_drawn_when_the_panel_is_first_seen_data()
+    {
+        QTest::addColumn<QString>("picture");
+        QTest::newRow("pnlPrint") << u"Image3"_s;
+        QTest::newRow("pnlSSaver") << u"Image2"_s;
+        QTest::newRow("pnlProgress") << u"Image1"_s;
+        QTest::newRow("pnlSound") << u"Picture5"_s;
+    }
+    void the_artwork_of_a_panel_is_drawn_when_the_panel_is_first_seen()
+    {
+        QFETCH(QString, picture);
+        Control* panel = Find(QString::fromLatin1(QTest::currentDataTag()));
+        QVERIFY(panel != nullptr);
+        const auto* shown = panel->Widget().findChild<QLabel*>(picture);
+        QVERIFY(shown != nullptr);
+        QVERIFY(shown->pixmap().isNull());
+        panel->Show();
+        panel->ZOrder();
+        program_->Settle();
+        QVERIFY(!shown->pixmap().isNull());
     }
 
     void the_common_dialogs_are_there_with_their_stored_properties()

@@ -46,17 +46,27 @@ void DrawRule(QPainter& painter, const Stretch& stretch, double below, double wi
         color);
 }
 
-/// Signs at places that are the same for all lines, so that they stand below each other.
+/// Signs at places that are the same for all lines, so that they stand below each other. They are one text:
+/// each text is shaped for itself, and a page of contents has thousands of signs.
 void DrawSigns(QPainter& painter, const Stretch& stretch, QChar sign, const QColor& color)
 {
     const QFontMetricsF metrics(painter.font(), painter.device());
-    const double step = metrics.horizontalAdvance(sign) * (sign == u'-' ? 1.2 : 1.6);
+    const double width = metrics.horizontalAdvance(sign);
+    QFont spaced = painter.font();
+    spaced.setKerning(false);
+    spaced.setLetterSpacing(QFont::PercentageSpacing, sign == u'-' ? 120 : 160);
+    const QFontMetricsF wide(spaced, painter.device());
+    const double step = wide.horizontalAdvance(QString(2, sign)) - wide.horizontalAdvance(QString(sign));
     if (step < 0.5)
         return;
+    const double first = std::ceil(stretch.left / step) * step;
+    const double room = stretch.right - width - first;
+    if (room < 0)
+        return;
+    painter.setFont(spaced);
     painter.setPen(color);
-    const double room = metrics.horizontalAdvance(sign);
-    for (double x = std::ceil(stretch.left / step) * step; x + room <= stretch.right; x += step)
-        painter.drawText(QPointF(x, stretch.baseline), QString(sign));
+    painter.drawText(QPointF(first, stretch.baseline),
+                     QString(static_cast<qsizetype>(room / step) + 1, sign));
 }
 
 void DrawLeader(QPainter& painter, Stretch stretch, TabLeader leader, const QColor& color)
@@ -92,8 +102,7 @@ class BlockPainter {
 public:
     BlockPainter(QPainter& painter, const QTextBlock& block, const QColor& textColor, double scale)
         : painter_(painter), block_(block), layout_(*block.layout()),
-          corner_(block.document()->documentLayout()->blockBoundingRect(block).topLeft() -
-                  layout_.boundingRect().topLeft()),
+          corner_(block.document()->documentLayout()->blockBoundingRect(block).topLeft()),
           textColor_(textColor), scale_(scale)
     {}
 

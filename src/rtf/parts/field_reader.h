@@ -1,8 +1,8 @@
 #pragma once
 
+#include "rtf/fields/field_instruction.h"
+#include "rtf/fields/field_result.h"
 #include "rtf/parts/document_state.h"
-#include "rtf/parts/field_instruction.h"
-#include "rtf/parts/field_result.h"
 
 #include <vector>
 

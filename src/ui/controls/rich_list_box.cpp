@@ -102,20 +102,32 @@ private:
     const RichListModel& model_;
 };
 
-/// A screen reader follows the focus alone, and that stays in the box with the letters.
+/// A screen reader follows the focus alone, and that may stay in a box with letters while rows are chosen.
 void Announce(QListView& view, int row)
 {
-    if (!QAccessible::isActive() || view.hasFocus())
+    if (!QAccessible::isActive())
         return;
     QAccessibleEvent event(&view, QAccessible::Focus);
     event.setChild(row);
     QAccessible::updateAccessibility(&event);
 }
 
+/// Tells of each chosen row once. Whether Qt's list does so itself while it has not the focus depends on the
+/// version.
+class RowView : public QListView {
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override
+    {
+        QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
+        if (current.isValid())
+            Announce(*this, current.row());
+    }
+};
+
 } // namespace
 
 RichListBox::RichListBox(Container& container, const QString& name, const Twips& design)
-    : Control(container, name, new QListView, design), view_(static_cast<QListView*>(&Widget())),
+    : Control(container, name, new RowView, design), view_(static_cast<QListView*>(&Widget())),
       model_(new RichListModel(view_))
 {
     view_->setModel(model_);
@@ -158,9 +170,11 @@ void RichListBox::SetListIndex(int index)
         view_->clearSelection();
         return;
     }
+    const bool isOther = view_->currentIndex().row() != index;
     view_->setCurrentIndex(model_->index(index));
     view_->scrollTo(model_->index(index));
-    Announce(*view_, index);
+    if (!isOther)
+        Announce(*view_, index); // another text may stand there now
 }
 
 int RichListBox::RowsInView() const

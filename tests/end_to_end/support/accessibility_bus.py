@@ -39,6 +39,21 @@ class AccessibilityBus:
             GLib.MainContext.default().iteration(True)
         return answers
 
+    def listen(self, interface, hear):
+        """Calls `hear` with the object and the arguments of each event of an interface, while something is asked."""
+        registry, bus = "org.a11y.atspi.Registry", "org.freedesktop.DBus"
+        self._tell(registry, "/org/a11y/atspi/registry", registry, "RegisterEvent",
+                   GLib.Variant("(sass)", ("object:state-changed", [], "")))
+        self._tell(bus, "/org/freedesktop/DBus", bus, "AddMatch",
+                   GLib.Variant("(s)", (f"type='signal',interface='{interface}'",)))
+        self._connection.signal_subscribe(
+            None, interface, None, None, None, Gio.DBusSignalFlags.NO_MATCH_RULE,
+            lambda _connection, name, path, _interface, _signal, arguments: hear((name, path), arguments.unpack()))
+
+    def _tell(self, name, path, interface, method, arguments):
+        self._connection.call_sync(name, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE, _ANSWER_TIME,
+                                   None)
+
     def application_of(self, process):
         """The root object of a process, or None as long as it has not made itself known."""
         registry = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")

@@ -55,6 +55,25 @@ def read_elements(process, scale=1.0):
     return elements
 
 
+class Heard:
+    """The names of the elements of which a screen reader is told that the keyboard went to them."""
+
+    def __init__(self, process):
+        self._program = _bus().application_of(process)[0]
+        self._elements = []
+        _bus().listen("org.a11y.atspi.Event.Object", self._hear)
+
+    def _hear(self, accessible, arguments):
+        if accessible[0] == self._program and arguments[:2] == ("focused", 1):
+            self._elements.append(accessible)
+
+    def take(self):
+        """What came since it was asked last. What came before this question is on the bus in front of its answer."""
+        _bus().application_of(0)
+        elements, self._elements = self._elements, []
+        return _bus().ask([name_question(element) for element in elements])
+
+
 def activate_element(element):
     """Has the element do what a press does."""
     _bus().ask([(element.accessible, ACTION, "DoAction", GLib.Variant("(i)", (0,)))])

@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
+#include <QTextBlock>
+#include <QTextLayout>
 
 #include <algorithm>
 
@@ -76,11 +78,58 @@ private Q_SLOTS:
         QCOMPARE(InkedColumns(image, 402, page.width()), 0);
     }
 
+    void signs_of_all_lines_stand_below_each_other_data()
+    {
+        QTest::addColumn<QByteArray>("leader");
+        QTest::newRow("dots") << QByteArray("\\tldot");
+        QTest::newRow("dots in the middle") << QByteArray("\\tlmdot");
+        QTest::newRow("hyphens") << QByteArray("\\tlhyph");
+    }
+    void signs_of_all_lines_stand_below_each_other()
+    {
+        QFETCH(QByteArray, leader);
+        const auto columns = [&](const QByteArray& before) {
+            const QImage image =
+                Painted(ReadBody("\\pard" + leader + "\\tx6000\\fs24 " + before + "\\tab x\\par"));
+            QList<int> inked;
+            for (int x = 200; x < 380; ++x) {
+                if (InkedColumns(image, x, x + 1) > 0)
+                    inked.append(x);
+            }
+            return inked;
+        };
+        const QList<int> expected = columns("");
+        QVERIFY(expected.size() > 10);
+        QCOMPARE(columns("word"), expected);
+        QCOMPARE(columns("some more words"), expected);
+    }
+
     void a_leader_ends_where_text_at_the_right_begins()
     {
         const QImage image = Painted(ReadBody("\\pard\\tqr\\tlul\\tx6000\\fs24\\tab wide words\\par"));
         QVERIFY(InkedColumns(image, 0, 200) > 190);
         QCOMPARE(InkedColumns(image, 380, page.width()), 0);
+    }
+
+    void a_leader_of_an_indented_paragraph_begins_behind_its_text_data()
+    {
+        QTest::addColumn<QByteArray>("indent");
+        QTest::newRow("none") << QByteArray();
+        QTest::newRow("at the left") << QByteArray("\\li1500");
+        QTest::newRow("of the first line") << QByteArray("\\fi1500");
+        QTest::newRow("hanging") << QByteArray("\\li1500\\fi-600");
+    }
+    void a_leader_of_an_indented_paragraph_begins_behind_its_text()
+    {
+        QFETCH(QByteArray, indent);
+        const Reading read = ReadBody("\\pard" + indent + "\\tlul\\tx6000\\fs24 wide words\\tab x\\par");
+        const QImage image = Painted(read);
+        const QTextBlock block = read.document->begin();
+        const double corner = read.document->documentLayout()->blockBoundingRect(block).left();
+        const double end = corner + block.layout()->lineAt(0).cursorToX(10);
+        QCOMPARE(InkedColumns(image, 0, int(end) - 1), 0);
+        QVERIFY(InkedColumns(image, int(end) + 1, 399) > 395 - end);
+        QCOMPARE(InkedColumns(image, 402, page.width()), 0);
     }
 
     void thick_and_double_leaders_are_thicker_than_a_line()

@@ -74,6 +74,19 @@ private Q_SLOTS:
         QVERIFY(Alike(Shown(196, 96), Qt::white));
     }
 
+    void a_picture_shown_when_seen_is_drawn_only_when_it_comes_to_light()
+    {
+        Main->Image4.Hide();
+        Main->Image4.ShowWhenSeen(
+            Picture::Load(folder_.Add(u"67A.JPG"_s, Encoded(FourCorners({400, 200}), "jpg"))));
+        QCOMPARE(Main->Image4.Picture().FileName(), u"67A.JPG"_s);
+        QVERIFY(static_cast<QLabel&>(Main->Image4.Widget()).pixmap().isNull());
+        Main->Image4.Show();
+        QVERIFY(Alike(Shown(3, 3), Qt::red));
+        QVERIFY(Alike(Shown(196, 96), Qt::white));
+        QCOMPARE(static_cast<QLabel&>(Main->Image4.Widget()).pixmap().size(), QSize(200, 100));
+    }
+
     void a_new_size_of_the_pane_fits_the_picture_anew()
     {
         Main->Image4.Load(folder_.Add(u"67A.JPG"_s, Encoded(FourCorners({400, 200}), "jpg")));

@@ -1,4 +1,4 @@
-#include "rtf/parts/equation.h"
+#include "rtf/fields/equation.h"
 
 #include <QList>
 #include <QStringList>

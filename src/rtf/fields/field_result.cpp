@@ -1,8 +1,8 @@
-#include "rtf/parts/field_result.h"
+#include "rtf/fields/field_result.h"
 
+#include "rtf/fields/date_picture.h"
+#include "rtf/fields/equation.h"
 #include "rtf/model/number_words.h"
-#include "rtf/parts/date_picture.h"
-#include "rtf/parts/equation.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "rtf/parts/field_instruction.h"
+#include "rtf/fields/field_instruction.h"
 
 #include <QStringList>
 #include <QUrl>

@@ -1,4 +1,4 @@
-#include "rtf/parts/date_picture.h"
+#include "rtf/fields/date_picture.h"
 
 #include <QLocale>
 

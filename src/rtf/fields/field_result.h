@@ -1,7 +1,7 @@
 #pragma once
 
-#include "rtf/parts/field_instruction.h"
-#include "rtf/parts/form_field.h"
+#include "rtf/fields/field_instruction.h"
+#include "rtf/fields/form_field.h"
 
 #include <QDateTime>
 #include <QHash>

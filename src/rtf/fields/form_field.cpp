@@ -1,4 +1,4 @@
-#include "rtf/parts/form_field.h"
+#include "rtf/fields/form_field.h"
 
 namespace torvik::rtf {
 

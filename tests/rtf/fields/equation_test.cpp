@@ -1,4 +1,4 @@
-#include "rtf/parts/equation.h"
+#include "rtf/fields/equation.h"
 #include "support/test_class.h"
 
 #include <QObject>

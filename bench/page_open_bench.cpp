@@ -1,0 +1,155 @@
+// The advertisement on a page of 12 megapixels, as processor time: from the press of its button until the
+// page is painted, against a bare decode of the same file to the same size; and the way down and back over
+// the opened page, of which no step may come near that decode.
+
+#include "bare_decode.h"
+#include "browsing.h"
+#include "measure.h"
+#include "processor_time.h"
+#include "run_bench.h"
+#include "scene.h"
+#include "support/while_waiting.h"
+#include "ui/forms/event.h"
+#include "ui/forms/form_window.h"
+#include "windows/page_window.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using namespace torvik;
+
+constexpr QSize pageSize{3000, 4000};
+constexpr int rounds = 9;
+constexpr double openingLimit = 1.2;
+constexpr double stepLimit = 0.25; // the longest of a way over the page: no step decodes
+constexpr int scrollSteps = 50;    // down, and as many back
+
+struct Figures {
+    std::vector<double> bare;
+    std::vector<double> onThread; ///< of the window
+    std::vector<double> inAll;
+    std::vector<double> longestStep;
+    int painted = 0; ///< rounds in which the whole page was there and moved
+};
+
+/// Whether the page has been painted since this was made. The page's pane is not there yet then.
+class PageWatch : public QObject {
+public:
+    PageWatch() { QCoreApplication::instance()->installEventFilter(this); }
+    bool Painted() const { return painted_; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        painted_ = painted_ || (event->type() == QEvent::Paint && watched->objectName() == u"picChild"_s);
+        return false;
+    }
+
+private:
+    bool painted_ = false;
+};
+
+QByteArray Jpeg(const QSize& size)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!bench::Scene(size, 1).save(&buffer, "JPG", 85))
+        qFatal("cannot write a page");
+    return bytes;
+}
+
+/// To the foot of the page and back to its head, each step painted. Gives the milliseconds of the longest
+/// step, or nothing when the page did not move as its bar did.
+std::optional<double> ScrollOver()
+{
+    frmScrollControls& form = *frmScroll;
+    const int foot = form.VScroll1.Max();
+    double longest = 0;
+    for (int step = 1; step <= 2 * scrollSteps; ++step) {
+        const int down = step <= scrollSteps ? step : 2 * scrollSteps - step;
+        const double before = bench::ProcessMilliseconds();
+        form.VScroll1.SetValue(foot * down / scrollSteps);
+        form.Window().repaint();
+        longest = std::max(longest, bench::ProcessMilliseconds() - before);
+        if (form.picChild.Top() != -foot * down / scrollSteps)
+            return std::nullopt;
+    }
+    return foot > 0 ? std::optional(longest) : std::nullopt;
+}
+
+/// What the user does: the button, a look, the way over the page, and the right button.
+void VisitPage(Figures& figures)
+{
+    const double thread = bench::ThreadMilliseconds();
+    const double all = bench::ProcessMilliseconds();
+    const PageWatch watch;
+    const auto isPainted = [&] { return watch.Painted(); };
+    const WhileWaiting visit(isPainted, [&] {
+        figures.onThread.push_back(bench::ThreadMilliseconds() - thread);
+        figures.inAll.push_back(bench::ProcessMilliseconds() - all);
+        const bool isWhole = frmScroll->picChild.Picture().NaturalSize() == pageSize;
+        const auto longestStep = ScrollOver();
+        figures.longestStep.push_back(longestStep.value_or(0));
+        figures.painted += isWhole && longestStep ? 1 : 0;
+        frmScroll->picChild.MouseDown.Fire(mouse::right);
+    });
+    Form1->cmdAd.Click.Fire();
+    QCoreApplication::processEvents();
+}
+
+bool Measure()
+{
+    const QTemporaryDir disc;
+    const QTemporaryDir program;
+    const QString page = disc.filePath(u"ads/67brto00.jpg"_s);
+    bench::Write(page, Jpeg(pageSize));
+    bench::Write(disc.filePath(u"Torviks/67TOR001.JPG"_s), Jpeg({1280, 776}));
+    bench::AnswerOk();
+    bench::StartBrowsing(disc.path(), program.path());
+    Form1->cmdYR(1).Click.Fire();
+
+    Figures warm;
+    VisitPage(warm); // the first time is not counted
+    Figures figures;
+    const bench::BareDecoder decoder;
+    for (int round = 0; round < rounds; ++round) {
+        const double before = bench::ProcessMilliseconds();
+        if (decoder.Decode(page, pageSize).size() != pageSize)
+            qFatal("the page is not to be decoded");
+        figures.bare.push_back(bench::ProcessMilliseconds() - before);
+        VisitPage(figures);
+    }
+    if (figures.painted != rounds) {
+        std::printf("the page was painted and scrolled in %d of %d rounds\n", figures.painted, rounds);
+        FormHandleBase::DiscardAll();
+        return false;
+    }
+    const double bare = bench::Median(figures.bare);
+    bool isOk = bench::Report("opening a page of 12 megapixels, the window's thread", "ms",
+                              bench::Median(figures.onThread), bare, openingLimit);
+    isOk = bench::Report("opening a page of 12 megapixels, all threads", "ms", bench::Median(figures.inAll),
+                         bare, openingLimit) &&
+           isOk;
+    isOk = bench::Report("scrolling over it, the longest of 100 steps", "ms",
+                         bench::Median(figures.longestStep), bare, stepLimit) &&
+           isOk;
+    FormHandleBase::DiscardAll();
+    return isOk;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return torvik::bench::RunBench(argc, argv, Measure);
+}
