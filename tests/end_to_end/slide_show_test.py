@@ -133,8 +133,12 @@ class SlideShow(ProgramTest):
         for _ in range(len(self.order) - number + 1):
             self.program.press("comma")
         self.wait_for_slide(number, "19TC ")
+        main = self.screen.find_window(f"^{MAIN_TITLE}$")
         self.press("Exit with this photo")
         self.program.wait_for(REPORT, window=BOX_TITLE)
+        # The show has gone, but the desktop may not have said so yet: below a gone window nobody would reach the box.
+        self.assertEqual(self.screen.owner_of(self.screen.find_window(f"^{BOX_TITLE}$")), main)
+        wait_until(lambda: self.screen.active_title() == BOX_TITLE, "the keyboard in the box")
         self.program.answer("OK")
         self.program.wait_for_view(title="19TC ", number="1", photo="TCA.JPG")
         self.program.click("68")

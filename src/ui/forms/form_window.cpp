@@ -74,7 +74,8 @@ FormWindow* FormWindow::LastActive()
 
 FormWindow* FormWindow::ToStandOver()
 {
-    if (auto* active = dynamic_cast<FormWindow*>(QApplication::activeWindow()))
+    auto* active = dynamic_cast<FormWindow*>(QApplication::activeWindow());
+    if (active != nullptr && active->isVisible())
         return active;
     const auto last = std::find_if(Activated().rbegin(), Activated().rend(), [](const auto& window) {
         return window != nullptr && window->isVisible();
@@ -94,6 +95,10 @@ bool FormWindow::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowBlocked)
         ReleaseButtons();
+    // For shortcuts the keypad's decimal key is the period key of its character.
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent*>(event)->modifiers().testFlag(Qt::KeypadModifier))
+        event->accept();
     if (event->type() == changeWaits && form_ != nullptr)
         form_->MakeChange();
     return QWidget::event(event);

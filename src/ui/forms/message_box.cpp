@@ -98,7 +98,7 @@ bool IsAnyWindowTopmost()
 /// On a display without a window manager nobody else hands the keyboard to a box and back.
 class KeyboardLoan {
 public:
-    explicit KeyboardLoan(QWidget& box) : lender_(QApplication::activeWindow())
+    explicit KeyboardLoan(QWidget& box) : lender_(box.parentWidget())
     {
         QMetaObject::invokeMethod(
             &box, [&box] { box.activateWindow(); }, Qt::QueuedConnection);
@@ -159,11 +159,17 @@ void MakeRoomForTitle(QMessageBox& box)
     rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), 0, 1, rows->columnCount());
 }
 
+/// A window that has just gone is the active one until the desktop says otherwise.
+QWidget* WindowBelow()
+{
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr && active->isVisible() ? active : FormWindow::ToStandOver();
+}
+
 int Ask(const MessageRequest& request)
 {
     Form::PutAllOnScreen();
-    QWidget* active = QApplication::activeWindow();
-    Box box(active != nullptr ? active : FormWindow::ToStandOver());
+    Box box(WindowBelow());
     box.setObjectName(u"MsgBox"_s);
     box.setAccessibleName(request.title);
     box.setWindowTitle(request.title);

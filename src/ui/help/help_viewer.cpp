@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTextBrowser>
@@ -26,6 +27,8 @@ namespace {
 
 constexpr int anchorRole = Qt::UserRole;
 constexpr QSize usualSize{860, 600}; // pixels
+constexpr QSize frame{20, 48};       // as much as desktops draw around a window
+constexpr int contentsWidth = 230;
 
 } // namespace
 
@@ -38,8 +41,8 @@ HelpViewer::HelpViewer(QTextDocument* document)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(u"Help - The Torvik Vollandry 2001"_s);
     setAccessibleName(windowTitle());
+    resize(usualSize.boundedTo(screen()->availableSize() - frame));
     LayOut();
-    resize(usualSize);
 
     document->setParent(text_);
     text_->setDocument(document);
@@ -102,7 +105,7 @@ void HelpViewer::LayOut()
     panes->addWidget(contents_);
     panes->addWidget(text_);
     panes->setStretchFactor(1, 1);
-    panes->setSizes({230, usualSize.width() - 230});
+    panes->setSizes({contentsWidth, width() - contentsWidth});
     panes->setChildrenCollapsible(false);
 
     auto* whole = new QVBoxLayout(this);

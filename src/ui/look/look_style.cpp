@@ -1,6 +1,7 @@
 #include "ui/look/look_style.h"
 
 #include "ui/look/look.h"
+#include "ui/look/message_icons.h"
 
 #include <QDialogButtonBox>
 #include <QPainter>
@@ -241,6 +242,13 @@ int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     default:
         return QProxyStyle::styleHint(hint, option, widget, returned);
     }
+}
+
+/// Qt's own pictures of message boxes are small bitmaps, which a scale factor makes coarse.
+QIcon LookStyle::standardIcon(StandardPixmap kind, const QStyleOption* option, const QWidget* widget) const
+{
+    const QIcon icon = MessageIcon(kind);
+    return icon.isNull() ? QProxyStyle::standardIcon(kind, option, widget) : icon;
 }
 
 } // namespace torvik

@@ -5,7 +5,7 @@
 namespace torvik {
 
 /// Draws Qt's own widgets (text boxes, lists, scroll bars, choices, menus, boxes) with the
-/// program's bevels, so that they stand beside its 3-D buttons and panels as one family.
+/// program's bevels and pictures, so that they stand beside its 3-D buttons and panels as one family.
 class LookStyle : public QProxyStyle {
 public:
     LookStyle();
@@ -17,6 +17,7 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override;
+    QIcon standardIcon(StandardPixmap kind, const QStyleOption* option, const QWidget* widget) const override;
 };
 
 } // namespace torvik

@@ -98,20 +98,27 @@ class Screen:
         return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, text=True,
                               capture_output=True, check=False).stdout
 
+    def _mouse_at(self, x, y):
+        """Words for xdotool. The mouse stays on the screen, as it does in a hand; windows may lie partly outside."""
+        return "mousemove", *(str(min(max(round(at), 0), size - 1)) for at, size in ((x, self.width), (y, self.height)))
+
     def press_mouse(self, x, y, button=1):
-        self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", str(button))
+        self._run("xdotool", *self._mouse_at(x, y), "click", str(button))
 
     def nudge_mouse(self, right, down):
         """Moves the mouse by so many pixels from where it is."""
         self._run("xdotool", "mousemove_relative", "--sync", "--", str(right), str(down))
 
     def double_click(self, x, y):
-        self._run("xdotool", "mousemove", str(round(x)), str(round(y)), "click", "--repeat", "2", "--delay", "40", "1")
+        self._run("xdotool", *self._mouse_at(x, y), "click", "--repeat", "2", "--delay", "40", "1")
 
     def drag_mouse(self, start, end):
         """Presses the left button at a place and lets go at another."""
-        at_start, at_end = ([str(round(value)) for value in place] for place in (start, end))
-        self._run("xdotool", "mousemove", *at_start, "mousedown", "1", "mousemove", *at_end, "mouseup", "1")
+        self._run("xdotool", *self._mouse_at(*start), "mousedown", "1", *self._mouse_at(*end), "mouseup", "1")
+
+    def use_layout(self, layout):
+        """The keyboard of another country: "us", "de"."""
+        self._run("setxkbmap", layout)
 
     def press_key(self, *keys):
         """Keys by their X names: "period", "Escape", "alt+F4"."""
@@ -120,13 +127,13 @@ class Screen:
     def type_text(self, text):
         self._run("xdotool", "type", "--clearmodifiers", "--delay", "20", text)
 
+    def windows_of(self, process):
+        """The numbers of a process's visible windows."""
+        return self._try("xdotool", "search", "--onlyvisible", "--pid", str(process)).split()
+
     def window_of(self, process):
         """The number of a process's one visible window."""
-        def search():
-            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(process)], text=True,
-                                   env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, check=False)
-            return found.stdout.split()
-        windows = wait_until(search, "a visible window")
+        windows = wait_until(lambda: self.windows_of(process), "a visible window")
         if len(windows) > 1:
             raise RuntimeError(f"the process has the windows {windows}")
         return windows[0]
@@ -173,6 +180,11 @@ class Screen:
     def has_icon(self, window):
         return "Icon (" in self._property(window, "_NET_WM_ICON")
 
+    def owner_of(self, window):
+        """The number of the window that it stands over, as the manager is told; empty for none."""
+        found = re.search(r"0x[0-9a-f]+", self._run("xprop", "-id", window, "WM_TRANSIENT_FOR"))
+        return str(int(found[0], 16)) if found else ""
+
     def work_area(self):
         """The first monitor without the manager's panels."""
         answer = self._property(None, "_NET_WORKAREA")
@@ -218,6 +230,10 @@ class Screen:
 
     def title_of(self, window):
         return self._run("xdotool", "getwindowname", window).rstrip("\n")
+
+    def titles_of(self, window):
+        """All that a manager may take for the title: the property of today's desktops and the older one."""
+        return {self._property(window, name).removeprefix('"').removesuffix('"') for name in ("_NET_WM_NAME", "WM_NAME")}
 
     def move_window(self, window, left, top):
         """Moves the frame that the window manager has put around the window."""

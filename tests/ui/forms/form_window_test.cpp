@@ -37,8 +37,13 @@ struct SideForm : Form {
     SideForm() : Form(DesignOf(u"Side"_s)) {}
 };
 
+struct TopForm : Form {
+    TopForm() : Form(DesignOf(u"Top"_s)) {}
+};
+
 FormHandle<MainForm> Main;
-FormHandle<SideForm> Side;
+FormHandle<SideForm> side;
+FormHandle<TopForm> top;
 
 } // namespace
 
@@ -165,14 +170,18 @@ private Q_SLOTS:
 
     void a_box_comes_up_over_the_window_before_when_the_last_one_is_gone()
     {
-        QVERIFY(UiRoom::Open(*Side));
-        QCOMPARE(FormWindow::ToStandOver(), &Side->Window());
-        Side->Hide();
+        QVERIFY(UiRoom::Open(*side));
+        QVERIFY(UiRoom::Open(*top));
+        QCOMPARE(FormWindow::ToStandOver(), &top->Window());
+        top->Hide();
         UiRoom::Settle();
         QWidget other;
         other.show();
         other.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&other));
+        QCOMPARE(FormWindow::ToStandOver(), &side->Window());
+        side.Unload();
+        UiRoom::Settle();
         QCOMPARE(FormWindow::ToStandOver(), &Main->Window());
     }
 

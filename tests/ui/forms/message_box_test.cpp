@@ -3,6 +3,7 @@
 #include "ui/controls/button.h"
 #include "ui/controls/spin_button.h"
 #include "ui/forms/message_box.h"
+#include "ui/look/message_icons.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -156,6 +157,17 @@ private Q_SLOTS:
             auto shown = QMessageBox::NoIcon;
             Answer(u"!"_s, style, u"OK"_s, [&] { shown = Box().icon(); });
             QCOMPARE(shown, icon);
+        }
+    }
+
+    void the_icon_is_drawn_at_the_screens_own_pixels()
+    {
+        for (const auto& [style, kind] :
+             {std::pair{16, QStyle::SP_MessageBoxCritical}, std::pair{32, QStyle::SP_MessageBoxQuestion},
+              std::pair{48, QStyle::SP_MessageBoxWarning}, std::pair{64, QStyle::SP_MessageBoxInformation}}) {
+            QImage shown;
+            Answer(u"!"_s, style, u"OK"_s, [&] { shown = Box().iconPixmap().toImage(); });
+            QCOMPARE(shown, MessageIcon(kind).pixmap(QSize(32, 32), qApp->devicePixelRatio()).toImage());
         }
     }
 
@@ -343,6 +355,29 @@ private Q_SLOTS:
         });
         MsgBox(u"?"_s);
         QVERIFY(stoodWithoutBox);
+    }
+
+    void a_box_whose_form_has_just_gone_comes_up_over_the_form_before()
+    {
+        struct OtherForm : Form {
+            explicit OtherForm(const QString& name) : Form(DesignOf(name)) {}
+        };
+        QVERIFY(UiRoom::Open(*Main));
+        OtherForm below(u"Below"_s);
+        QVERIFY(UiRoom::Open(below));
+        OtherForm gone(u"Gone"_s);
+        QVERIFY(UiRoom::Open(gone));
+        const QWidget* window = nullptr;
+        const auto look = [&] { window = Box().parentWidget(); };
+        Answer(u"?"_s, msgbox::ok, u"OK"_s, look);
+        QCOMPARE(window, &gone.Window());
+        gone.Hide();
+        UiRoom::Settle(); // the activation that the box left behind comes late
+        QCOMPARE(QApplication::activeWindow(), &gone.Window());
+        QCOMPARE(FormWindow::ToStandOver(), &below.Window());
+        Answer(u"?"_s, msgbox::ok, u"OK"_s, look);
+        QCOMPARE(window, &below.Window());
+        QTRY_COMPARE(QApplication::activeWindow(), &below.Window());
     }
 
     void a_responder_answers_in_place_of_the_box()

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTextBrowser>
 #include <QTreeWidget>
@@ -58,6 +59,16 @@ private Q_SLOTS:
         QCOMPARE(Contents().topLevelItem(0)->child(0)->text(0), u"Heading of start-keys"_s);
         QCOMPARE(Contents().topLevelItem(1)->text(0), u"Heading of print"_s);
         QCOMPARE(Contents().currentItem(), Contents().topLevelItem(0));
+    }
+
+    void on_a_small_screen_all_of_it_can_be_seen()
+    {
+        const QSize room = window_->screen()->availableSize();
+        QVERIFY(room.width() < 860); // else there is room for its usual size
+        QVERIFY(window_->frameGeometry().width() <= room.width());
+        QVERIFY(window_->frameGeometry().height() <= room.height());
+        QVERIFY(window_->rect().contains(Button("HelpFind").geometry()));
+        QVERIFY(Contents().width() >= 220);
     }
 
     void a_click_on_a_topic_goes_there()
