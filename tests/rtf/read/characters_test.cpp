@@ -188,7 +188,9 @@ private Q_SLOTS:
 
     void a_brace_behind_a_letter_of_another_kind_is_a_brace()
     {
-        QCOMPARE(ReadBody("{\\f4 caf\xe9}{\\b x}\\par").Text().right(1), u"x"_s);
+        const Reading read = ReadBody("{\\f4\\b caf\xe9} and\\par");
+        QVERIFY(read.Text().endsWith(u" and"_s));
+        QCOMPARE(read.Format(" and").fontWeight(), int(QFont::Normal));
         QCOMPARE(ReadBody("{\\f4 \x83\x41\x95\\\\\x83\x41}x\\par").Text(), u"ア表アx"_s);
     }
 

@@ -144,7 +144,7 @@ private Q_SLOTS:
     void a_screen_reader_presses_nothing_behind_a_message_box()
     {
         Main->SetEnabled(true);
-        UiRoom::Soon([this] {
+        UiRoom::Soon([] {
             PressAsScreenReader();
             QTest::mouseClick(QApplication::activeModalWidget()->findChild<QAbstractButton*>(u"OK"_s),
                               Qt::LeftButton);

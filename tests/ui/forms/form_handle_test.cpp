@@ -62,7 +62,7 @@ private Q_SLOTS:
     void handlers_are_bound_to_each_new_instance_before_its_load()
     {
         FormHandle<SideForm>& side = *side_;
-        side.Bind([this](SideForm& form) { form.Load = [&form] { form.Go.Click.Call(); }; });
+        side.Bind([](SideForm& form) { form.Load = [&form] { form.Go.Click.Call(); }; });
         side.Bind([this](SideForm& form) { form.Go.Click = [this] { calls_.append(u"click"_s); }; });
         side.LoadForm();
         QVERIFY(side.Unload());

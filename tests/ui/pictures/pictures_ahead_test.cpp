@@ -160,7 +160,7 @@ private Q_SLOTS:
         QTRY_VERIFY(IsReadAhead(paths[0], screen));
         ReadPicturesAhead({paths[2], paths[1]}, paths[0], screen);
         QTRY_VERIFY(IsReadAhead(paths[2], screen)); // the most urgent one always has its turn
-        QVERIFY(BytesReadAhead() <= 64 * 1024 * 1024);
+        QVERIFY(BytesReadAhead() <= 64LL * 1024 * 1024);
         QVERIFY(BytesReadAhead() > 0);
     }
 
