@@ -78,10 +78,11 @@ std::optional<double> ScrollOver()
     for (int step = 1; step <= 2 * scrollSteps; ++step) {
         const int down = step <= scrollSteps ? step : 2 * scrollSteps - step;
         const double before = bench::ProcessMilliseconds();
-        form.VScroll1.SetValue(foot * down / scrollSteps);
+        const int place = foot * down / scrollSteps;
+        form.VScroll1.SetValue(place);
         form.Window().repaint();
         longest = std::max(longest, bench::ProcessMilliseconds() - before);
-        if (form.picChild.Top() != -foot * down / scrollSteps)
+        if (form.picChild.Top() != -place)
             return std::nullopt;
     }
     return foot > 0 ? std::optional(longest) : std::nullopt;

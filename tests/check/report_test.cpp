@@ -51,7 +51,7 @@ QString FaultIn(const QJsonValue& value, const QJsonObject& schema, const QStrin
     if (schema.contains(u"minimum"_s) && value.toDouble() < schema[u"minimum"_s].toDouble())
         return place + u" is too small"_s;
     const QJsonObject object = value.toObject();
-    for (const QJsonValue& name : schema[u"required"_s].toArray()) {
+    for (const QJsonValue name : schema[u"required"_s].toArray()) {
         if (!object.contains(name.toString()))
             return place + u" lacks "_s + name.toString();
     }
@@ -59,12 +59,11 @@ QString FaultIn(const QJsonValue& value, const QJsonObject& schema, const QStrin
     for (auto field = object.begin(); field != object.end(); ++field) {
         const QJsonValue own =
             known.contains(field.key()) ? known[field.key()] : schema[u"additionalProperties"_s];
-        if (const QString fault = FaultIn(*field, own.toObject(), place + u'.' + field.key());
-            !fault.isEmpty())
+        if (QString fault = FaultIn(*field, own.toObject(), place + u'.' + field.key()); !fault.isEmpty())
             return fault;
     }
-    for (const QJsonValue& item : value.toArray()) {
-        if (const QString fault = FaultIn(item, schema[u"items"_s].toObject(), place + u" item"_s);
+    for (const QJsonValue item : value.toArray()) {
+        if (QString fault = FaultIn(item, schema[u"items"_s].toObject(), place + u" item"_s);
             !fault.isEmpty())
             return fault;
     }

@@ -155,7 +155,7 @@ private Q_SLOTS:
             const DiscIndex index({Text(u"One"_s, "word"),
                                    {u"Two"_s,
                                     [wait, left] {
-                                        const QByteArray bytes = wait();
+                                        QByteArray bytes = wait();
                                         left->release();
                                         return bytes;
                                     }}},

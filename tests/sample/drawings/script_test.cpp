@@ -67,12 +67,12 @@ private Q_SLOTS:
 
     void what_is_not_there_is_refused()
     {
-        QVERIFY_EXCEPTION_THROWN(Script("no_such_drawing"), std::runtime_error);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, Script("no_such_drawing"));
         Script figures("figures");
         figures.Run();
-        QVERIFY_EXCEPTION_THROWN(figures.Get("prices"), std::runtime_error);
-        QVERIFY_EXCEPTION_THROWN(figures.Get("years").Number(), std::runtime_error);
-        QVERIFY_EXCEPTION_THROWN(figures.Get("years").At(35), std::runtime_error);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, figures.Get("prices"));
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, figures.Get("years").Number());
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, figures.Get("years").At(35));
     }
 };
 
