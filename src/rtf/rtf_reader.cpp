@@ -60,18 +60,18 @@ QByteArray FromUnicode(const QByteArray& bytes)
     return plain;
 }
 
-ReadResult ReadContent(const QByteArray& stored, QTextDocument& into)
+ReadResult ReadContent(const QByteArray& stored, QTextDocument& into, const std::stop_token& stop)
 {
     into.clear();
     into.setUndoRedoEnabled(false);
     const QByteArray bytes = FromUnicode(stored);
     const qsizetype start = StartOf(bytes);
     if (start < 0)
-        return ReadPlainText(stored, into);
+        return ReadPlainText(stored, into, stop);
     if (bytes.at(start) == '{')
         return Interpreter(QByteArray::fromRawData(bytes.constData() + start, bytes.size() - start), into)
-            .Read();
-    return Interpreter('{' + bytes.mid(start), into).Read();
+            .Read(stop);
+    return Interpreter('{' + bytes.mid(start), into).Read(stop);
 }
 
 } // namespace
@@ -83,16 +83,16 @@ bool LooksLikeRtf(const QByteArray& bytes)
 
 ReadResult ReadRichText(const QByteArray& bytes, QTextDocument& into)
 {
-    const ReadResult result = ReadContent(bytes, into);
+    const ReadResult result = ReadContent(bytes, into, {});
     if (result.hasRowHeights)
         SetRowHeights(into);
     return result;
 }
 
-QString PlainText(const QByteArray& bytes)
+QString PlainText(const QByteArray& bytes, const std::stop_token& stop)
 {
     QTextDocument document;
-    ReadContent(bytes, document);
+    ReadContent(bytes, document, stop);
     return document.toPlainText();
 }
 

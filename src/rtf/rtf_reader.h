@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <stop_token>
+
 class QTextDocument;
 
 namespace torvik::rtf {
@@ -21,7 +23,8 @@ bool LooksLikeRtf(const QByteArray& bytes);
 /// "rtf-picture:1" and so on.
 ReadResult ReadRichText(const QByteArray& bytes, QTextDocument& into);
 
-/// The text of a document alone, paragraphs ended by '\n'.
-QString PlainText(const QByteArray& bytes);
+/// The text of a document alone, paragraphs ended by '\n'. Once `stop` is asked for, from any thread, it
+/// soon returns what it has so far.
+QString PlainText(const QByteArray& bytes, const std::stop_token& stop = {});
 
 } // namespace torvik::rtf

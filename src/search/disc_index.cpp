@@ -13,6 +13,7 @@
 #include <deque>
 #include <mutex>
 #include <new>
+#include <stop_token>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -28,14 +29,14 @@ constexpr qsizetype lineLength = 110;              ///< as much as the form has 
 constexpr std::chrono::milliseconds freshFor{120}; ///< an answer, while more is read
 
 /// Held while an article is taken apart: that needs tables of the program and of Qt, which go at the
-/// program's end.
-std::timed_mutex takingApart;
-constexpr std::chrono::seconds patience{3}; ///< of the program's end, many times what a real article needs
+/// program's end. The end breaks it off, however long the article is.
+std::mutex takingApart;
+std::stop_source endOfProgram;
 
 /// The threads that use a database. None of them ever waits for a disc, so the program's end can wait for
 /// them while there is still an application and Qt's list of databases, which they leave. A thread that reads
-/// may wait for a disc, so the end waits only for the article that it has in hand, and keeps the lock: the
-/// next one is never begun.
+/// may wait for a disc, so the end waits only until it lets go of the article in hand, and keeps the lock:
+/// the next one is never begun.
 QThreadPool& IndexThreads()
 {
     static QThreadPool pool;
@@ -44,7 +45,8 @@ QThreadPool& IndexThreads()
         pool.setMaxThreadCount(many);
         QSqlDatabase::drivers(); // the list's own end is set by this, and what was set last is called first
         qAddPostRoutine([] {
-            (void)takingApart.try_lock_for(patience);
+            endOfProgram.request_stop();
+            takingApart.lock();
             pool.waitForDone();
         });
         return true;
@@ -59,7 +61,7 @@ QString TextOf(const IndexedText& entry)
     try {
         const QByteArray bytes = entry.read();
         const std::lock_guard lock(takingApart);
-        return rtf::PlainText(bytes);
+        return rtf::PlainText(bytes, endOfProgram.get_token());
     } catch (const RunTimeError&) {
         return {};
     } catch (const std::bad_alloc&) {

@@ -1,7 +1,10 @@
 #include "documents.h"
 #include "support/test_class.h"
 
+#include <QSemaphore>
 #include <QUrl>
+
+#include <thread>
 
 using namespace torvik::rtf;
 using namespace Qt::StringLiterals;
@@ -26,6 +29,12 @@ private Q_SLOTS:
         QVERIFY(!read.result.wasRtf);
         QCOMPARE(read.Text(), u"Café\nsecond\tline <b>&amp;"_s);
         QCOMPARE(read.result.paragraphs, 2);
+    }
+
+    void every_kind_of_line_end_is_one()
+    {
+        const QByteArray bytes = QByteArray("a\rb\r\nc\nd\n\re\r\r\nf\x01g\x00h", 19) + "\xe2\x80\xa9i";
+        QCOMPARE(ReadBytes(bytes).Text(), u"a\nb\nc\nd\n\ne\n\nfgh\ni"_s);
     }
 
     void text_that_is_not_unicode_is_western() { QCOMPARE(ReadBytes("Caf\xe9 \x80").Text(), u"Café €"_s); }
@@ -58,6 +67,32 @@ private Q_SLOTS:
     void plain_text_of_a_document()
     {
         QCOMPARE(PlainText(Wrapped("one \\b two\\par three\\par")), u"one two\nthree"_s);
+    }
+
+    void text_that_is_asked_to_stop_ends_where_it_was()
+    {
+        constexpr qsizetype longerThanAnybodyWaits = 20'000'000;
+        for (const QByteArray& filling : {QByteArray("{\\b }"), QByteArray("\r\n")}) {
+            const bool isRichText = filling.startsWith('{');
+            QByteArray bytes =
+                (isRichText ? "{\\rtf1 first" : "first") + filling.repeated(longerThanAnybodyWaits);
+            bytes += isRichText ? " last}" : "last";
+            std::stop_source stop;
+            QSemaphore begun;
+            QString text;
+            std::thread reader([&] {
+                begun.release();
+                text = PlainText(bytes, stop.get_token());
+            });
+            begun.acquire();
+            stop.request_stop();
+            reader.join();
+            QVERIFY(!text.contains(u"last"));
+        }
+        std::stop_source stop;
+        QCOMPARE(PlainText(Wrapped("all"), stop.get_token()), u"all"_s);
+        stop.request_stop();
+        QCOMPARE(PlainText(Wrapped("all"), stop.get_token()), QString());
     }
 
     void the_result_tells_what_was_read()

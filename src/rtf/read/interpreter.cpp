@@ -38,11 +38,11 @@ Interpreter::Interpreter(const QByteArray& bytes, QTextDocument& into)
     paragraphs_.SetDefaultTab(defaultTab);
 }
 
-ReadResult Interpreter::Read()
+ReadResult Interpreter::Read(const std::stop_token& stop)
 {
     ReadResult result;
     document_.cursor.beginEditBlock();
-    while (!ended_) {
+    while (!ended_ && !stop.stop_requested()) {
         const Token token = tokens_.Next();
         if (token.kind == TokenKind::End) {
             result.wasDamaged = true;
@@ -55,7 +55,7 @@ ReadResult Interpreter::Read()
     document_.pictures.GiveTo(document_.document);
     result.wasRtf = true;
     result.wasDamaged = result.wasDamaged || isBroken_;
-    result.wasCut = document_.budget.Exhausted();
+    result.wasCut = stop.stop_requested() || document_.budget.Exhausted();
     result.paragraphs = document_.context.paragraphs;
     result.hasRowHeights = document_.context.hasRowHeights;
     result.tables = document_.context.tables;

@@ -16,6 +16,7 @@
 #include "rtf/read/style_reader.h"
 #include "rtf/read/tokenizer.h"
 
+#include <stop_token>
 #include <vector>
 
 namespace torvik::rtf {
@@ -25,7 +26,8 @@ namespace torvik::rtf {
 class Interpreter {
 public:
     Interpreter(const QByteArray& bytes, QTextDocument& into);
-    ReadResult Read();
+    /// Leaves out what comes after `stop` was asked for.
+    ReadResult Read(const std::stop_token& stop);
 
     DocumentState& Document() { return document_; }
     CharacterState& Character() { return document_.group.character; }

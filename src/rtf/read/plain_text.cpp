@@ -32,17 +32,32 @@ bool IsUnprintable(QChar c)
            c.unicode() == 0xfdd0 || c.unicode() == 0xfdd1;
 }
 
+/// With one kind of line end and without what cannot be shown.
+QString ShownText(const QString& text)
+{
+    QString shown;
+    shown.reserve(text.size());
+    QChar previous;
+    for (const QChar c : text) {
+        const bool isSecondHalfOfLineEnd = previous == u'\r' && c == u'\n';
+        previous = c;
+        if (isSecondHalfOfLineEnd)
+            continue;
+        if (c == u'\r' || c == QChar::ParagraphSeparator)
+            shown += u'\n';
+        else if (!IsUnprintable(c))
+            shown += c;
+    }
+    return shown;
+}
+
 } // namespace
 
-ReadResult ReadPlainText(const QByteArray& bytes, QTextDocument& into)
+ReadResult ReadPlainText(const QByteArray& bytes, QTextDocument& into, const std::stop_token& stop)
 {
     ReadResult result;
     result.wasEmpty = bytes.isEmpty();
-    QString text = DecodedText(bytes);
-    text.replace(QLatin1StringView("\r\n"), QLatin1StringView("\n"));
-    text.replace(u'\r', u'\n');
-    text.replace(QChar(QChar::ParagraphSeparator), u'\n');
-    text.removeIf(IsUnprintable);
+    const QString text = ShownText(DecodedText(bytes));
     Budget budget(bytes.size());
     QTextCursor cursor(&into);
     cursor.beginEditBlock();
@@ -50,7 +65,7 @@ ReadResult ReadPlainText(const QByteArray& bytes, QTextDocument& into)
     while (at < text.size() || result.paragraphs == 0) {
         const qsizetype found = text.indexOf(u'\n', at);
         const qsizetype end = found < 0 ? text.size() : found;
-        if (!budget.Take(FlowWriter::CostOf(end - at, 1))) {
+        if (stop.stop_requested() || !budget.Take(FlowWriter::CostOf(end - at, 1))) {
             result.wasCut = true;
             break;
         }
