@@ -64,12 +64,22 @@ QString TextOfCount(const IndexProgress& progress)
     return text;
 }
 
+/// Beside the middle of the buttons, or above the bar.
+void PlaceCount()
+{
+    frmFindControls& form = *frmFind;
+    const double aboveBar = form.ProgressGuage.Top() - form.lblFound.Height() - 30;
+    const double beside = form.cmdOpen.Top() + (form.cmdOpen.Height() - form.lblFound.Height()) / 2;
+    form.lblFound.SetTop(form.ProgressGuage.Visible() ? aboveBar : beside);
+}
+
 void ShowState(const IndexProgress& progress)
 {
     frmFindControls& form = *frmFind;
     if (!progress.isUsable) {
         form.lblFound.SetCaption(u"Finding needs SQLite, which is not installed"_s);
         form.ProgressGuage.Hide();
+        PlaceCount();
         return;
     }
     QStringList lines{TextOfCount(progress), TextOfProgress(progress)};
@@ -80,6 +90,7 @@ void ShowState(const IndexProgress& progress)
         form.ProgressGuage.SetFloodPercent(100.0 * static_cast<double>(progress.read) /
                                            static_cast<double>(progress.total));
     form.cmdOpen.SetEnabled(!found.hits.isEmpty());
+    PlaceCount();
 }
 
 bool IsSame(const Findable& one, const Findable& other)
@@ -258,14 +269,15 @@ void frmFind_Resize()
     form.cmdClose.Move(edge + width - form.cmdClose.Width(), bottom - 630);
     form.cmdOpen.Move(form.cmdClose.Left() - edge - form.cmdOpen.Width(), bottom - 630);
     const double rest = std::max(0.0, form.cmdOpen.Left() - 2 * edge);
-    form.lblFound.Move(edge, bottom - 780, rest, form.lblFound.Height());
     form.ProgressGuage.Move(edge, bottom - 300, rest, form.ProgressGuage.Height());
+    form.lblFound.SetWidth(rest);
+    PlaceCount();
 }
 
 void ShowFind()
 {
     frmFindControls& form = *frmFind;
-    form.Show();
+    form.ShowOver(*Form1);
     form.SetFocus();
     form.txtFind.SetFocus();
     form.txtFind.SelectAll();

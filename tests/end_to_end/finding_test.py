@@ -62,6 +62,15 @@ class Finding(ProgramTest):
         self.program.wait_for_no_window(FIND_TITLE)
         self.assertEqual(self.program.view().number, "3")
 
+    def test_it_stays_in_front_of_the_main_window(self):
+        self.start_on({"69desc.rtf": SHORT})
+        main, find = (self.screen.find_window(title) for title in (MAIN_TITLE, FIND_TITLE))
+        self.assertEqual(self.screen.owner_of(find), main)
+        self.program.click("89", window=MAIN_TITLE)
+        self.program.wait_for_view(title="1989")
+        wait_until(lambda: self.screen.active_title() == MAIN_TITLE, "the main window to have the keys")
+        wait_until(lambda: self.screen.stack()[-2:] == [main, find], "Find to be in front")
+
     def test_a_screen_reader_is_told_of_each_row_that_is_chosen(self):
         self.start_on({f"{year}desc.rtf": SHORT for year in (69, 70)})
         first, second = (f"The Torvik Vollandry 19{year} Description. 19{year} > Description. "

@@ -88,6 +88,9 @@ public:
     bool Visible() const { return shown_; }
     /// Shows the form beside the others; one that is on the screen already only comes up again.
     void Show();
+    /// The same for a form that belongs to another one: where the desktop allows, it stays in front of that
+    /// one, also when that one has the keys.
+    void ShowOver(const Form& owner);
     /// Shows the form, lets it alone take input, and returns when it was unloaded or hidden. Failure 400 when
     /// it is on the screen already.
     void ShowModal();
@@ -155,6 +158,7 @@ private:
     QSize WantedSize() const;
     QPoint WantedPlace() const;
     Qt::WindowStates WantedState() const;
+    void PutOver(const FormWindow* below);
     void ComeUp();
     void Place();
     void ApplySize();

@@ -141,6 +141,23 @@ void Form::Show()
     LeaveIfEnding();
 }
 
+void Form::ShowOver(const Form& owner)
+{
+    if (!window_->isVisible()) {
+        window_->setWindowFlag(Qt::Dialog); // of other windows desktops do not ask over which they stand
+        PutOver(owner.window_);
+    }
+    Show();
+}
+
+/// Tells the desktop of it; that has to be done before the window is on the screen.
+void Form::PutOver(const FormWindow* below)
+{
+    window_->winId();
+    if (below != nullptr && below != window_ && below->windowHandle() != nullptr)
+        window_->windowHandle()->setTransientParent(below->windowHandle());
+}
+
 void Form::ShowModal()
 {
     if (shown_ || leaveModal_)
@@ -151,9 +168,7 @@ void Form::ShowModal()
     QEventLoop loop;
     leaveModal_ = [&loop] { loop.quit(); };
     window_->setWindowModality(Qt::ApplicationModal);
-    window_->winId();
-    if (below != nullptr && below != window_ && below->windowHandle() != nullptr)
-        window_->windowHandle()->setTransientParent(below->windowHandle());
+    PutOver(below);
     // A form that takes the measures of a maximized one is shown as that one is: the desktop draws another
     // frame around a maximized window, and may want none around an ordinary window that is as large.
     const Form* owner = below != nullptr ? below->Owner() : nullptr;

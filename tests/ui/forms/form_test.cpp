@@ -172,6 +172,17 @@ private Q_SLOTS:
         QCOMPARE(activations, 0);
     }
 
+    void a_form_that_is_shown_over_another_one_belongs_to_it()
+    {
+        QVERIFY(UiRoom::Open(*splash));
+        side->ShowOver(*splash);
+        QVERIFY(QTest::qWaitForWindowExposed(&side->Window()));
+        const QWindow* window = side->Window().windowHandle();
+        QCOMPARE(window->type(), Qt::Dialog);
+        QCOMPARE(window->transientParent(), splash->Window().windowHandle());
+        QVERIFY(!side->Window().isModal());
+    }
+
     void a_modal_show_returns_on_unload()
     {
         QVERIFY(UiRoom::Open(*Main));
