@@ -113,9 +113,18 @@ void Announce(QListView& view, int row)
 }
 
 /// Tells of each chosen row once. Whether Qt's list does so itself while it has not the focus depends on the
-/// version.
+/// version. A press with Ctrl chooses a row as any other does; Qt's list would take the choice off a row.
 class RowView : public QListView {
 protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override
+    {
+        const auto usual = QListView::selectionCommand(index, event);
+        const bool choosesOrNot =
+            usual.testAnyFlags(QItemSelectionModel::Toggle | QItemSelectionModel::Deselect);
+        return choosesOrNot ? QItemSelectionModel::ClearAndSelect : usual;
+    }
+
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override
     {
         QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)

@@ -134,6 +134,18 @@ private Q_SLOTS:
         QCOMPARE(told, 1);
     }
 
+    void a_press_with_ctrl_chooses_a_row_and_never_takes_the_choice_off_it()
+    {
+        Main->lstFound.SetRows(Rows(3));
+        const QPoint second = View().visualRect(View().model()->index(1, 0)).center();
+        for (int press = 0; press < 2; ++press) {
+            QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::ControlModifier, second);
+            QCOMPARE(Main->lstFound.ListIndex(), 1);
+        }
+        QTest::keyClick(&View(), Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(Main->lstFound.ListIndex(), 1);
+    }
+
     void a_screen_reader_hears_title_place_and_line()
     {
         Main->lstFound.SetSpokenAs(u"What was found"_s);
