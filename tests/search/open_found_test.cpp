@@ -1,4 +1,3 @@
-#include "program/photo_name.h"
 #include "program/program_state.h"
 #include "search/find_fixture.h"
 #include "support/test_class.h"
