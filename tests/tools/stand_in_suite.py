@@ -31,10 +31,12 @@ for document in map(pathlib.Path, words[words.index("--outdir") + 2:]):
 
 # Has not the words that begin with an x.
 READER = """
-import os, pathlib, sys
+import os, pathlib, signal, sys
 text = pathlib.Path(sys.argv[2]).read_text().removeprefix({mark!r}).partition("|")[2]
 if "stumble" in text:
     os.kill(os.getpid(), 9)
+if "endless" in text:
+    signal.pause()
 if sys.argv[1] == "--text":
     print(" ".join(word for word in text.split() if not word.startswith("x")))
 else:

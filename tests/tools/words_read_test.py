@@ -79,6 +79,35 @@ class WordsReadTest(unittest.TestCase):
         said = self.stand_ins.run("words_read")
         self.assertTrue(self.first_line(said).startswith("100.00% of 3 words;"), said.stdout)
 
+    def test_a_page_number_is_no_word_because_the_suite_lays_out_no_pages(self):
+        self.stand_ins.write("field.rtf", of_suite="Page 0", ours="Page 1 {PAGE}")
+        self.stand_ins.write("word.rtf", of_suite="Page 0 of 2", ours="Page 1 of 2 \\chpgn")
+        self.stand_ins.write("alone.rtf", of_suite="0", ours="1 \\chpgn")
+        said = self.stand_ins.run("words_read")
+        self.assertEqual(self.first_line(said), "100.00% of 4 words; 98% and more of them in 100.0% of 2 documents; "
+                                                "1 that the suite does not read or that have no words")
+
+    def test_only_so_many_noughts_are_page_numbers_as_the_document_has(self):
+        self.stand_ins.write("one.rtf", of_suite="0 0 0 sides", ours="sides \\chpgn")
+        self.stand_ins.write("other.rtf", of_suite="0 to 100", ours="to 100 \\page PAGES")
+        said = self.stand_ins.run("words_read")
+        self.assertTrue(self.first_line(said).startswith("50.00% of 6 words;"), said.stdout)
+
+    def test_a_nought_that_our_reader_has_is_a_word(self):
+        self.stand_ins.write("one.rtf", of_suite="0 0 xother", ours="0 0 \\chpgn")
+        said = self.stand_ins.run("words_read")
+        self.assertTrue(self.first_line(said).startswith("66.67% of 3 words;"), said.stdout)
+
+    def test_entries_of_an_index_are_no_words_of_the_text(self):
+        self.stand_ins.write("one.rtf", of_suite='A car XE "cars, old" and XE "wheels"XE "roads" a wheel', ours="A car and a wheel")
+        said = self.stand_ins.run("words_read")
+        self.assertTrue(self.first_line(said).startswith("100.00% of 5 words;"), said.stdout)
+
+    def test_page_numbers_and_entries_of_an_index_count_when_wanted(self):
+        self.stand_ins.write("one.rtf", of_suite='Page 0 XE "cars"', ours="Page 1 \\chpgn")
+        said = self.stand_ins.run("words_read", "--everything")
+        self.assertTrue(self.first_line(said).startswith("25.00% of 4 words;"), said.stdout)
+
     def test_documents_of_one_name_in_two_folders_are_two(self):
         self.stand_ins.write("a/one.rtf", "A car")
         self.stand_ins.write("b/one.rtf", "xthis and xthat")
@@ -106,6 +135,16 @@ class WordsReadTest(unittest.TestCase):
         self.assertEqual(said.returncode, 1)
         self.assertEqual(self.first_line(said), f"Our reader crashed or did not end: {self.stand_ins.documents / 'two.rtf'}")
         self.assertIn("Our reader: 1 crashes and hangs", said.stdout)
+
+    def test_a_document_that_our_reader_does_not_end_is_told_and_the_others_are_read(self):
+        self.stand_ins.write("one.rtf", "endless")
+        self.stand_ins.write("two.rtf", "A car")
+        said = self.stand_ins.run("words_read", "--patience", "2")
+        self.assertEqual(said.returncode, 1)
+        lines = said.stdout.splitlines()
+        self.assertEqual(lines[0], f"Our reader crashed or did not end: {self.stand_ins.documents / 'one.rtf'}")
+        self.assertTrue(lines[1].startswith("100.00% of 2 words; 98% and more of them in 100.0% of 1 documents;"), lines)
+        self.assertTrue(lines[2].startswith("Our reader: 1 crashes and hangs"), lines)
 
     def test_without_the_suite_it_tells_what_is_missing(self):
         self.stand_ins.take_away("bin/soffice")
