@@ -11,6 +11,9 @@ namespace {
 // Lists of the older kind have no number of their own.
 constexpr int keyOfNumbering = -1;
 
+/// Instead of the last number of a level; 0 is a number that lists may begin with.
+constexpr int noneYet = -1;
+
 int NumberFormatOf(const ParagraphState& paragraph, const ListLevel* level)
 {
     if (level != nullptr)
@@ -29,12 +32,24 @@ int NumberFormatOf(const ParagraphState& paragraph, const ListLevel* level)
 
 } // namespace
 
+ListCounter::ListCounter(const ListTable& lists) : lists_(lists)
+{
+    numbering_.fill(noneYet);
+}
+
+ListCounter::Values& ListCounter::ValuesOf(int list)
+{
+    Values none;
+    none.fill(noneYet);
+    return values_.try_emplace(lists_.KeyOf(list), none).first->second;
+}
+
 ListMark ListCounter::MarkOf(const ParagraphState& paragraph, const QString& written)
 {
     const ListLevel* level = lists_.Find(paragraph.list, paragraph.listLevel);
     const bool isNumbered = paragraph.numbering.HasMark();
     if (paragraph.numbering.kind == ParagraphNumbering::Kind::None)
-        numbering_.fill(0);
+        numbering_.fill(noneYet);
     const int number = isNumbered ? NextNumber(paragraph.numbering) : 0;
     ListMark mark;
     // Writers for readers that know no lists often put plain numbers where the list has signs of its own.
@@ -42,7 +57,7 @@ ListMark ListCounter::MarkOf(const ParagraphState& paragraph, const QString& wri
     if (!isCounted) {
         mark = MarkFromText(written, NumberFormatOf(paragraph, level));
         if (level != nullptr)
-            Count(paragraph, values_[lists_.KeyOf(paragraph.list)]);
+            Count(paragraph, ValuesOf(paragraph.list));
     } else if (level != nullptr) {
         mark = CountedMark(paragraph);
     } else if (isNumbered) {
@@ -63,8 +78,8 @@ int ListCounter::NextNumber(const ParagraphNumbering& numbering)
         return 0;
     const std::size_t level = std::min<std::size_t>(numbering.level, numbering_.size() - 1);
     int& last = numbering_[level];
-    last = last == 0 ? numbering.start : last + 1;
-    std::fill(numbering_.begin() + static_cast<std::ptrdiff_t>(level) + 1, numbering_.end(), 0);
+    last = last == noneYet ? numbering.start : last + 1;
+    std::fill(numbering_.begin() + static_cast<std::ptrdiff_t>(level) + 1, numbering_.end(), noneYet);
     return last;
 }
 
@@ -74,17 +89,17 @@ void ListCounter::Count(const ParagraphState& paragraph, Values& values) const
     for (std::size_t i = 0; i < values.size(); ++i) {
         const int start = std::clamp(lists_.StartOf(paragraph.list, static_cast<int>(i)), 0, 30000);
         if (i == place)
-            values[i] = values[i] == 0 ? start : values[i] + 1;
+            values[i] = values[i] == noneYet ? start : values[i] + 1;
         else if (i < place)
-            values[i] = values[i] == 0 ? start : values[i];
+            values[i] = values[i] == noneYet ? start : values[i];
         else
-            values[i] = 0;
+            values[i] = noneYet;
     }
 }
 
 ListMark ListCounter::CountedMark(const ParagraphState& paragraph)
 {
-    Values& values = values_[lists_.KeyOf(paragraph.list)];
+    Values& values = ValuesOf(paragraph.list);
     Count(paragraph, values);
     std::array<LevelNumber, ListTable::maxLevels> numbers;
     for (int i = 0; i <= paragraph.listLevel; ++i) {

@@ -12,7 +12,7 @@ namespace torvik::rtf {
 /// Finds the mark of every paragraph, and counts the paragraphs of lists whose numbers are not written out.
 class ListCounter {
 public:
-    explicit ListCounter(const ListTable& lists) : lists_(lists) {}
+    explicit ListCounter(const ListTable& lists);
 
     /// The mark of a paragraph. `written` is the text of the mark as the document gives it, empty when it
     /// does not.
@@ -21,14 +21,16 @@ public:
 private:
     using Values = std::array<int, ListTable::maxLevels>;
 
+    Values& ValuesOf(int list);
     ListMark CountedMark(const ParagraphState& paragraph);
     int NextNumber(const ParagraphNumbering& numbering);
     void Count(const ParagraphState& paragraph, Values& values) const;
 
     const ListTable& lists_;
+    /// The last numbers of each list, level by level; -1 for none yet.
     std::map<int, Values> values_;
-    /// The last numbers of the older kind, level by level; 0 for none yet.
-    std::array<int, ListTable::maxLevels + 3> numbering_{};
+    /// Those of the older kind.
+    std::array<int, ListTable::maxLevels + 3> numbering_;
 };
 
 } // namespace torvik::rtf

@@ -171,6 +171,8 @@ QString NumberInStyle(int value, QTextListFormat::Style style)
         break;
     case QTextListFormat::ListLowerAlpha:
     case QTextListFormat::ListUpperAlpha:
+        if (value <= 0)
+            return QString::number(value);
         for (int rest = value; rest > 0; rest = (rest - 1) / 26)
             text.prepend(QChar(u'a' + (rest - 1) % 26));
         break;

@@ -43,7 +43,7 @@ struct LevelNumber {
 ListMark MarkFromLevel(const ListLevel& level, const LevelNumber* numbers, int count);
 ListMark MarkFromNumbering(const ParagraphNumbering& numbering, int value);
 
-/// `value` (1 or more) as a list writes it: decimal, letters or roman.
+/// `value` as a list writes it: decimal, letters or roman; the latter two have no sign for 0.
 QString NumberInStyle(int value, QTextListFormat::Style style);
 
 } // namespace torvik::rtf

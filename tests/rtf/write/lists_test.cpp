@@ -167,6 +167,37 @@ private Q_SLOTS:
         QCOMPARE(read.Block(u"first"_s).textList()->itemText(read.Block(u"first"_s)), u"1."_s);
     }
 
+    void a_list_may_begin_with_nought()
+    {
+        const QByteArray levels = "\\levelnfc0\\levelstartat0{\\leveltext\\'02\\'00.;}}"
+                                  "{\\listlevel\\levelnfc0\\levelstartat0{\\leveltext\\'03\\'00.\\'01;}";
+        const Reading read =
+            ReadBody(ListTable(levels) + "\\pard\\ls1 a\\par b\\par\\ilvl1 c\\par d\\par\\ilvl0 e\\par");
+        QCOMPARE(read.Text(), u"0.\ta\nb\n1.0\tc\n1.1\td\ne"_s);
+        QCOMPARE(read.Block(u"b"_s).textList()->itemText(read.Block(u"b"_s)), u"1."_s);
+        QCOMPARE(read.Block(u"e"_s).textList()->itemText(read.Block(u"e"_s)), u"2."_s);
+    }
+
+    void a_list_of_the_older_kind_may_begin_with_nought()
+    {
+        const QByteArray item = "\\pard{\\*\\pn\\pnlvlbody\\pndec\\pnstart0{\\pntxta .}}";
+        const Reading read = ReadBody(item + "a\\par" + item + "b\\par" + item + "c\\par");
+        QCOMPARE(read.Text(), u"0.\ta\nb\nc"_s);
+        QCOMPARE(read.Block(u"c"_s).textList()->itemText(read.Block(u"c"_s)), u"2."_s);
+    }
+
+    void nought_stays_a_figure_where_letters_count()
+    {
+        const QByteArray item = "\\pard{\\*\\pn\\pnlvlbody\\pnlcltr\\pnstart0{\\pntxta .}}";
+        QCOMPARE(ReadBody(item + "a\\par" + item + "b\\par").Text(), u"0.\ta\nb"_s);
+    }
+
+    void a_list_of_the_older_kind_without_a_start_begins_with_one()
+    {
+        const QByteArray item = "\\pard{\\*\\pn\\pnlvlbody{\\pntxtb x}}";
+        QCOMPARE(ReadBody(item + "a\\par" + item + "b\\par").Text(), u"x1\ta\nx2\tb"_s);
+    }
+
     void levels_of_the_older_kind_count_each_for_itself()
     {
         const QByteArray outer = "\\pard{\\*\\pn\\pnlvl1\\pnucrm{\\pntxta .}}";
