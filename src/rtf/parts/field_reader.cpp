@@ -5,6 +5,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <utility>
 
 namespace torvik::rtf {
@@ -65,7 +66,8 @@ void FieldReader::HandOut(const QString& value)
     if (around.size() + value.size() > maxAsideText)
         return;
     const bool isQuoted = around.count(u'"') % 2 != 0;
-    const bool needsQuotes = !isQuoted && (value.isEmpty() || value.contains(u' '));
+    const bool hasSpaces = std::any_of(value.begin(), value.end(), [](QChar c) { return c.isSpace(); });
+    const bool needsQuotes = !isQuoted && (value.isEmpty() || hasSpaces);
     QString plain = value;
     plain.remove(u'"');
     // The word that names the target of a button ends where the field begins that is the button's text.

@@ -13,6 +13,18 @@ void Put(Interpreter& interpreter, const Argument&)
     interpreter.Text().PutCharacter(unit);
 }
 
+constexpr char16_t lineSeparator = 0x2028;
+
+/// A text that an instruction quotes may have several paragraphs, which are lines of its result.
+void EndParagraph(Interpreter& interpreter, const Argument&)
+{
+    const Destination destination = interpreter.Document().group.destination;
+    if (destination == Destination::FieldInstruction || destination == Destination::FieldValue)
+        interpreter.Text().PutCharacter(lineSeparator);
+    else
+        interpreter.Paragraphs().EndParagraph();
+}
+
 /// Older writers raise the number of a note and leave it as large as the text, which has no room for it.
 void PutNoteNumber(Interpreter& interpreter, const Argument&)
 {
@@ -40,10 +52,8 @@ constexpr char16_t longDate[] = u"DATE \\@ \"dddd, MMMM d, yyyy\"";
 constexpr char16_t shortDate[] = u"DATE \\@ \"ddd, MMM d, yyyy\"";
 constexpr char16_t time[] = u"TIME";
 
-constexpr char16_t lineSeparator = 0x2028;
-
 constexpr WordEntry specialEntries[] = {
-    {"par", [](Interpreter& r, const Argument&) { r.Paragraphs().EndParagraph(); }},
+    {"par", EndParagraph},
     {"page", [](Interpreter& r, const Argument&) { r.Paragraphs().BreakPage(); }},
     {"sect", [](Interpreter& r, const Argument&) { r.Paragraphs().BreakPage(); }},
     {"sbknone", [](Interpreter& r, const Argument&) { r.Paragraphs().CancelBreak(); }},

@@ -76,6 +76,14 @@ private Q_SLOTS:
         QTest::newRow("a choice between texts")
             << QByteArray("IF Red = \"red\" \"the same\" other") << u"the same"_s;
         QTest::newRow("a quoted text") << QByteArray("QUOTE \"as it stands\"") << u"as it stands"_s;
+        QTest::newRow("a quoted text of two paragraphs")
+            << QByteArray("QUOTE \"first\\par second\"") << u"first\nsecond"_s;
+        QTest::newRow("a field of two paragraphs in a quoted text")
+            << QByteArray("QUOTE \"a {\\field{\\*\\fldinst QUOTE \"b\\par c\"}{\\fldrslt b\\par c}} d\"")
+            << u"a b\nc d"_s;
+        QTest::newRow("a field of two paragraphs as a piece of its own")
+            << QByteArray("IF {\\field{\\*\\fldinst X}{\\fldrslt b\\par c}} = \"b\\par c\" \"yes\" \"no\"")
+            << u"yes"_s;
         QTest::newRow("a quoted text in a choice")
             << QByteArray("IF 1 = 1 \"{\\field{\\*\\fldinst QUOTE inner words}}\" \"no\"")
             << u"inner words"_s;
