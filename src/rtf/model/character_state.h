@@ -1,14 +1,39 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QChar>
 
 #include <cstddef>
 
 namespace torvik::rtf {
 
-enum class Underline : quint8 { None, Single, Double, Thick, Dotted, Dashed, DashDot, DashDotDot, Wave };
+enum class Underline : quint8 {
+    None,
+    Single,
+    Words,
+    Double,
+    Thick,
+    Dotted,
+    Dashed,
+    DashDot,
+    DashDotDot,
+    Wave
+};
 enum class Script : quint8 { Normal, Super, Sub };
 enum class Capitals : quint8 { AsWritten, All, Small };
+
+/// What letters of the scripts look like that are not written one beside the other from left to right: Hebrew
+/// and Arabic above all. Documents tell it beside the looks of all other letters.
+struct ComplexLooks {
+    /// Otherwise these letters look like the others.
+    bool isTold = false;
+    bool bold = false;
+    bool italic = false;
+    /// -1 and 0 for those of the others.
+    int font = -1;
+    int size = 0;
+
+    bool operator==(const ComplexLooks&) const = default;
+};
 
 /// What the text at one place of a document looks like. Numbers refer to the document's tables.
 struct CharacterState {
@@ -34,14 +59,23 @@ struct CharacterState {
     bool bold = false;
     bool italic = false;
     bool strike = false;
+    bool outlined = false;
     bool hidden = false;
     bool rightToLeft = false;
     Underline underline = Underline::None;
     Script script = Script::Normal;
     Capitals capitals = Capitals::AsWritten;
+    ComplexLooks complex;
 
     bool operator==(const CharacterState&) const = default;
+    /// Whether not all letters that follow each other look alike.
+    bool VariesByLetter() const;
+    /// The looks of one kind of letters, the same for all of them.
+    CharacterState OfLetters(bool areSpaces, bool areComplex) const;
 };
+
+/// Whether a letter is of a script that `ComplexLooks` are for.
+bool IsComplexLetter(QChar letter);
 
 struct CharacterStateHash {
     std::size_t operator()(const CharacterState& state) const;

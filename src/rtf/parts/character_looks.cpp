@@ -26,6 +26,7 @@ void CharacterLooks::Reset()
     const int link = character.link;
     character = CharacterState();
     character.link = link;
+    document_.group.describesComplex = true;
     SetFont(document_.defaultFont);
     KeepForAfterStyle();
 }
@@ -41,15 +42,24 @@ void CharacterLooks::ReturnFromStyle()
 
 int CharacterLooks::Format()
 {
-    const CharacterState& character = document_.group.character;
+    return VariesByLetter() ? FormatOf(false, false) : NumberOf(document_.group.character);
+}
+
+int CharacterLooks::FormatOf(bool areSpaces, bool areComplex)
+{
+    return NumberOf(document_.group.character.OfLetters(areSpaces, areComplex));
+}
+
+int CharacterLooks::NumberOf(const CharacterState& looks)
+{
     if (bookmark_ != 0) {
-        CharacterState marked = character;
+        CharacterState marked = looks;
         marked.bookmark = bookmark_;
         return document_.formats.Character(marked);
     }
-    if (lastFormat_ < 0 || !(lastState_ == character)) {
-        lastState_ = character;
-        lastFormat_ = document_.formats.Character(character);
+    if (lastFormat_ < 0 || !(lastState_ == looks)) {
+        lastState_ = looks;
+        lastFormat_ = document_.formats.Character(looks);
     }
     return lastFormat_;
 }

@@ -26,8 +26,14 @@ public:
 
     /// The number of the format that the looks have now.
     int Format();
+    /// Whether the letters of a text do not all get that format.
+    bool VariesByLetter() const { return document_.group.character.VariesByLetter(); }
+    /// The number of the format for one kind of letters.
+    int FormatOf(bool areSpaces, bool areComplex);
 
 private:
+    int NumberOf(const CharacterState& looks);
+
     DocumentState& document_;
     CharacterState withoutStyle_;
     /// Text mostly looks like the text before it, so the last answer is kept.

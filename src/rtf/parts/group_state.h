@@ -55,6 +55,8 @@ struct GroupState {
     bool opensBox = false;
     bool isNestedTableProperties = false;
     bool isShapePicture = false;
+    /// The words that name looks of letters beside the usual ones mean those of the complex scripts.
+    bool describesComplex = true;
     /// Characters that stand in for one Unicode character.
     int fallbackLength = 1;
 };

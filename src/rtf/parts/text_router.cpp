@@ -32,7 +32,8 @@ char16_t Harmless(char16_t unit)
 bool TextRouter::PutPlainBytes(std::string_view bytes)
 {
     const CodePage& page = *document_.group.page;
-    if (page.PageKind() != CodePage::Kind::SingleByte || !document_.IsBody() || looks_.HasBookmark())
+    if (page.PageKind() != CodePage::Kind::SingleByte || !document_.IsBody() || looks_.HasBookmark() ||
+        looks_.VariesByLetter())
         return false;
     if (document_.group.character.hidden)
         return true;
@@ -56,8 +57,34 @@ void TextRouter::Put(const QString& text)
     QString shown = text;
     for (QChar& c : shown)
         c = Harmless(c.unicode());
-    document_.flow.Draft().Append(shown, looks_.Format());
+    if (looks_.VariesByLetter())
+        PutLetterByLetter(shown);
+    else
+        document_.flow.Draft().Append(shown, looks_.Format());
     looks_.SetBookmark(0);
+}
+
+/// Signs between letters, and figures, look like the letters before them.
+void TextRouter::PutLetterByLetter(const QString& text)
+{
+    Paragraph& draft = document_.flow.Draft();
+    bool isComplex = document_.group.character.rightToLeft;
+    for (qsizetype begin = 0; begin < text.size();) {
+        const bool isSpace = text.at(begin).isSpace();
+        qsizetype end = begin;
+        bool endsComplex = isComplex;
+        while (end < text.size() && text.at(end).isSpace() == isSpace) {
+            const QChar c = text.at(end);
+            if (c.isLetter() || IsComplexLetter(c))
+                endsComplex = IsComplexLetter(c);
+            if (endsComplex != isComplex && end > begin)
+                break;
+            isComplex = endsComplex;
+            ++end;
+        }
+        draft.Append(text.mid(begin, end - begin), looks_.FormatOf(isSpace, isComplex));
+        begin = end;
+    }
 }
 
 QString* TextRouter::AsideText()

@@ -27,6 +27,7 @@ public:
 
 private:
     QString* AsideText();
+    void PutLetterByLetter(const QString& text);
 
     DocumentState& document_;
     CharacterLooks& looks_;

@@ -40,6 +40,30 @@ void SetCapitals(Interpreter& interpreter, const Argument& argument)
     interpreter.Character().capitals = argument.IsOn() ? capitals : Capitals::AsWritten;
 }
 
+template <bool isRightToLeft>
+void SetDirection(Interpreter& interpreter, const Argument&)
+{
+    interpreter.Character().rightToLeft = isRightToLeft;
+    interpreter.Document().group.describesComplex = isRightToLeft;
+}
+
+/// The words of the looks beside the usual ones also name fonts for the signs of East Asia and others.
+void DescribeOthers(Interpreter& interpreter, const Argument&)
+{
+    interpreter.Document().group.describesComplex = false;
+}
+
+/// Changes the looks of letters of complex scripts, where the words are about those.
+template <typename Change>
+void ChangeComplex(Interpreter& interpreter, Change change)
+{
+    if (!interpreter.Document().group.describesComplex)
+        return;
+    ComplexLooks& looks = interpreter.Character().complex;
+    looks.isTold = true;
+    change(looks);
+}
+
 constexpr WordEntry characterEntries[] = {
     {"plain", [](Interpreter& r, const Argument&) { r.Looks().Reset(); }},
     {"cs", [](Interpreter& r, const Argument& a) { r.Styles().ApplyToCharacters(a.value); }},
@@ -47,13 +71,30 @@ constexpr WordEntry characterEntries[] = {
     {"fs", [](Interpreter& r, const Argument& a) { r.Character().size = a.Within(2, largestSize, 24); }},
     {"b", SetCharacterFlag<&CharacterState::bold>},
     {"i", SetCharacterFlag<&CharacterState::italic>},
+    {"af", [](Interpreter& r,
+              const Argument& a) { ChangeComplex(r, [&](ComplexLooks& looks) { looks.font = a.value; }); }},
+    {"afs",
+     [](Interpreter& r, const Argument& a) {
+         ChangeComplex(r, [&](ComplexLooks& looks) { looks.size = a.Within(2, largestSize, 24); });
+     }},
+    {"ab", [](Interpreter& r,
+              const Argument& a) { ChangeComplex(r, [&](ComplexLooks& looks) { looks.bold = a.IsOn(); }); }},
+    {"ai",
+     [](Interpreter& r, const Argument& a) {
+         ChangeComplex(r, [&](ComplexLooks& looks) { looks.italic = a.IsOn(); });
+     }},
     {"strike", SetCharacterFlag<&CharacterState::strike>},
     {"striked", SetCharacterFlag<&CharacterState::strike>},
+    {"outl", SetCharacterFlag<&CharacterState::outlined>},
     {"v", SetCharacterFlag<&CharacterState::hidden>},
-    {"rtlch", [](Interpreter& r, const Argument&) { r.Character().rightToLeft = true; }},
-    {"ltrch", [](Interpreter& r, const Argument&) { r.Character().rightToLeft = false; }},
+    {"rtlch", SetDirection<true>},
+    {"ltrch", SetDirection<false>},
+    {"fcs", [](Interpreter& r, const Argument& a) { r.Document().group.describesComplex = a.IsOn(); }},
+    {"loch", DescribeOthers},
+    {"hich", DescribeOthers},
+    {"dbch", DescribeOthers},
     {"ul", SetUnderline<Underline::Single>},
-    {"ulw", SetUnderline<Underline::Single>},
+    {"ulw", SetUnderline<Underline::Words>},
     {"uldb", SetUnderline<Underline::Double>},
     {"ulth", SetUnderline<Underline::Thick>},
     {"uld", SetUnderline<Underline::Dotted>},

@@ -2,6 +2,8 @@
 #include "rtf/paint/line_properties.h"
 #include "rtf/write/formats.h"
 
+#include <QPen>
+
 #include <algorithm>
 
 namespace torvik::rtf {
@@ -12,6 +14,7 @@ QTextCharFormat::UnderlineStyle UnderlineStyleOf(Underline kind)
 {
     switch (kind) {
     case Underline::Single:
+    case Underline::Words:
     case Underline::Double:
     case Underline::Thick:
         return QTextCharFormat::SingleUnderline;
@@ -94,6 +97,12 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
     const QColor front = colors_.At(state.foreground);
     if (front.isValid())
         format.setForeground(front);
+    if (state.outlined) {
+        // The thinnest line there is, in the colour of the text, around letters without a filling.
+        constexpr double hairline = 0;
+        format.setTextOutline(QPen(front.isValid() ? front : QColor(Qt::black), hairline));
+        format.setForeground(QColor(Qt::transparent));
+    }
     const QColor back =
         ShadedColor(colors_.ChosenAt(state.patternColor), colors_.ChosenAt(state.background), state.shading);
     if (back.isValid())

@@ -68,6 +68,67 @@ private Q_SLOTS:
         QCOMPARE(read.Format("plain").underlineStyle(), QTextCharFormat::NoUnderline);
     }
 
+    void an_underline_of_words_leaves_out_the_spaces()
+    {
+        const Reading read = ReadBody("\\ulw two words,\\tab three\\ulnone  four five\\par");
+        QCOMPARE(read.Text(), u"two words,\tthree four five"_s);
+        for (const char* underlined : {"two", "words", "words,", "three"})
+            QVERIFY2(read.Format(underlined).fontUnderline(), underlined);
+        for (const char* plain : {"two ", "words,\t", "three ", "four"})
+            QVERIFY2(!read.Format(plain).fontUnderline(), plain);
+    }
+
+    void outlined_letters_have_their_colour_around_them_alone()
+    {
+        const Reading read = ReadBody("\\outl black \\cf1 red\\outl0  plain\\par");
+        QCOMPARE(read.Format("black").textOutline().color(), QColor(Qt::black));
+        QCOMPARE(read.Format("red").textOutline().color(), QColor(255, 0, 0));
+        QCOMPARE(read.Format("red").foreground().color().alpha(), 0);
+        QVERIFY(!read.Format("plain").hasProperty(QTextFormat::TextOutline));
+        QCOMPARE(read.Format("plain").foreground().color(), QColor(255, 0, 0));
+    }
+
+    void letters_of_complex_scripts_have_looks_of_their_own()
+    {
+        const QByteArray hebrew = "\\u1513 ?\\u1500 ? \\u1493 ?";
+        const Reading read =
+            ReadBody("\\rtlch\\fcs1\\af1\\afs40\\ai\\ltrch\\fcs0\\f0\\fs20\\b car " + hebrew + " wheel\\par");
+        const QTextCharFormat theirs = read.Format("של ו");
+        QCOMPARE(theirs.fontFamilies().toStringList(), QStringList{"Arial"});
+        QCOMPARE(theirs.fontPointSize(), 20.0);
+        QVERIFY(theirs.fontItalic());
+        QVERIFY(theirs.fontWeight() != int(QFont::Bold));
+        for (const char* usual : {"car", "wheel"}) {
+            QCOMPARE(read.Format(usual).fontPointSize(), 10.0);
+            QCOMPARE(read.Format(usual).fontWeight(), int(QFont::Bold));
+            QVERIFY(!read.Format(usual).fontItalic());
+        }
+    }
+
+    void letters_of_complex_scripts_look_like_the_others_unless_told_data()
+    {
+        QTest::addColumn<QByteArray>("words");
+        QTest::newRow("nothing told") << QByteArray("\\rtlch");
+        QTest::newRow("told of the signs of East Asia") << QByteArray("\\dbch\\af4\\afs40");
+        QTest::newRow("told of the other direction") << QByteArray("\\ltrch\\af4\\afs40\\rtlch");
+        QTest::newRow("taken back") << QByteArray("\\rtlch\\af4\\afs40\\plain");
+    }
+    void letters_of_complex_scripts_look_like_the_others_unless_told()
+    {
+        QFETCH(QByteArray, words);
+        const Reading read = ReadBody(words + "\\f1\\fs30 \\u1513 ?\\par");
+        QCOMPARE(read.Format("ש").fontFamilies().toStringList(), QStringList{"Arial"});
+        QCOMPARE(read.Format("ש").fontPointSize(), 15.0);
+    }
+
+    void what_is_not_told_of_complex_scripts_is_as_for_the_others()
+    {
+        const Reading read = ReadBody("\\f1\\fs30\\rtlch\\ab \\u1513 ?\\par");
+        QCOMPARE(read.Format("ש").fontFamilies().toStringList(), QStringList{"Arial"});
+        QCOMPARE(read.Format("ש").fontPointSize(), 15.0);
+        QCOMPARE(read.Format("ש").fontWeight(), int(QFont::Bold));
+    }
+
     void an_underline_may_have_a_colour()
     {
         QCOMPARE(ReadBody("\\ul\\ulc3 x\\par").Format("x").underlineColor(), QColor(0, 0, 255));
