@@ -1,6 +1,7 @@
 #include "rtf/bounds/limits.h"
 #include "rtf/write/formats.h"
 #include "rtf/write/keep_together.h"
+#include "rtf/write/mark_room.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -8,9 +9,6 @@
 namespace torvik::rtf {
 
 namespace {
-
-/// Room for a bullet where the document leaves none, twips.
-constexpr int leastMarkRoom = 300;
 
 Qt::Alignment AlignmentOf(const ParagraphState& state)
 {

@@ -2,6 +2,7 @@
 
 #include "rtf/paint/line_properties.h"
 #include "rtf/write/edge_spaces.h"
+#include "rtf/write/mark_room.h"
 #include "rtf/write/paragraph_box.h"
 #include "rtf/write/shape_box.h"
 #include "rtf/write/table_writer.h"
@@ -146,9 +147,11 @@ void FlowWriter::TakeFreshBlock(const QTextBlockFormat& format, const QTextCharF
 {
     cursor_.setBlockFormat(format);
     if (atCellStart_) {
-        QTextCharFormat height;
-        height.setFontPointSize(endFormat.fontPointSize());
-        cursor_.mergeBlockCharFormat(height);
+        QTextCharFormat measures;
+        measures.setFontPointSize(endFormat.fontPointSize());
+        if (endFormat.hasProperty(QTextFormat::FontStretch))
+            measures.setFontStretch(endFormat.fontStretch());
+        cursor_.mergeBlockCharFormat(measures);
     } else {
         cursor_.setBlockCharFormat(endFormat);
     }
@@ -158,11 +161,18 @@ void FlowWriter::TakeFreshBlock(const QTextBlockFormat& format, const QTextCharF
 
 void FlowWriter::OpenBlock(const Paragraph& paragraph)
 {
-    const QTextCharFormat& endFormat = context_.formats.CharacterFormat(paragraph.endFormat);
+    QTextCharFormat endFormat = context_.formats.CharacterFormat(paragraph.endFormat);
     ListWriter::Place place = lists_.Join(paragraph.mark);
     if (place == ListWriter::Place::Starts && !context_.budget.Take(listCost))
         place = ListWriter::Place::Outside;
     const bool isItem = place != ListWriter::Place::Outside;
+    const double markRoom = isItem
+                                ? RoomOfMark(paragraph.mark, context_.formats.StateOf(paragraph.itemFormat),
+                                             endFormat.fontPointSize())
+                                : 0;
+    // The format of a block is that of its mark; the letters have formats of their own.
+    if (isItem && paragraph.mark.kind == ListMark::Kind::Bullet)
+        endFormat.setFontStretch(SpaceAfterBullet(markRoom));
     QTextBlockFormat format = context_.formats.BlockFormat(isItem ? paragraph.itemFormat : paragraph.format);
     if (paragraph.breakBefore)
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
@@ -171,7 +181,7 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
         format.setProperty(ruleAboveProperty, true);
     }
     if (place == ListWriter::Place::Continues)
-        format.setObjectIndex(lists_.IndexOf(paragraph.mark));
+        format.setObjectIndex(lists_.Continue(paragraph.mark, markRoom));
     const bool isRule =
         paragraph.IsEmpty() && context_.formats.StateOf(paragraph.format).HasBorder() && box_ == nullptr;
     if (isRule)
@@ -182,7 +192,7 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
     else
         cursor_.insertBlock(format, endFormat);
     if (place == ListWriter::Place::Starts)
-        lists_.Start(paragraph.mark, cursor_);
+        lists_.Start(paragraph.mark, markRoom, cursor_);
     else if (!isItem && !paragraph.mark.literal.isEmpty())
         cursor_.insertText(paragraph.mark.literal + paragraph.mark.gap, endFormat);
 }

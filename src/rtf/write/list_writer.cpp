@@ -1,6 +1,22 @@
 #include "rtf/write/list_writer.h"
 
+#include "rtf/write/mark_room.h"
+
 namespace torvik::rtf {
+
+namespace {
+
+QString SuffixOf(const ListMark& mark, int spaces)
+{
+    return mark.after + QString(spaces, QChar(QChar::Nbsp));
+}
+
+int SpacesAfter(const ListMark& mark, double room)
+{
+    return mark.kind == ListMark::Kind::Number ? SpacesAfterNumber(mark.literal, room) : 0;
+}
+
+} // namespace
 
 ListWriter::Place ListWriter::Join(const ListMark& mark)
 {
@@ -23,22 +39,31 @@ ListWriter::Place ListWriter::Join(const ListMark& mark)
     return Place::Continues;
 }
 
-int ListWriter::IndexOf(const ListMark& mark) const
+int ListWriter::Continue(const ListMark& mark, double room)
 {
-    return open_.at(KeyOf(mark)).list->objectIndex();
+    Open& open = open_.at(KeyOf(mark));
+    const int spaces = SpacesAfter(mark, room);
+    if (spaces < open.spaces) {
+        open.spaces = spaces;
+        QTextListFormat format = open.list->format();
+        format.setNumberSuffix(SuffixOf(mark, spaces));
+        open.list->setFormat(format);
+    }
+    return open.list->objectIndex();
 }
 
-void ListWriter::Start(const ListMark& mark, QTextCursor& cursor)
+void ListWriter::Start(const ListMark& mark, double room, QTextCursor& cursor)
 {
     QTextListFormat format;
     format.setStyle(mark.style);
     // The paragraph's own indent places the item.
     format.setIndent(0);
+    const int spaces = SpacesAfter(mark, room);
     if (mark.kind == ListMark::Kind::Number) {
         format.setNumberPrefix(mark.before);
-        format.setNumberSuffix(mark.after);
+        format.setNumberSuffix(SuffixOf(mark, spaces));
     }
-    open_[KeyOf(mark)] = {cursor.createList(format), mark.value};
+    open_[KeyOf(mark)] = {cursor.createList(format), mark.value, spaces};
 }
 
 } // namespace torvik::rtf

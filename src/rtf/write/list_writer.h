@@ -18,10 +18,11 @@ public:
 
     /// Where the next paragraph stands, given its mark.
     Place Join(const ListMark& mark);
-    /// The object index of the list that the mark continues; valid after Join said so.
-    int IndexOf(const ListMark& mark) const;
+    /// The object index of the list that the mark continues; valid after Join said so. `room` is that of the
+    /// mark (see mark_room.h).
+    int Continue(const ListMark& mark, double room);
     /// Starts a list with the cursor's block.
-    void Start(const ListMark& mark, QTextCursor& cursor);
+    void Start(const ListMark& mark, double room, QTextCursor& cursor);
     /// Something comes between the list so far and what follows.
     void Interrupt() { previousWasItem_ = false; }
 
@@ -30,6 +31,8 @@ private:
     struct Open {
         QTextList* list = nullptr;
         int value = 0;
+        /// Between the numbers and the text: as many as the widest number leaves room for.
+        int spaces = 0;
     };
     static Key KeyOf(const ListMark& mark) { return {mark.listKey, mark.level, mark.style}; }
     std::map<Key, Open> open_;

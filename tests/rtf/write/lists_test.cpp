@@ -1,7 +1,12 @@
 #include "rtf/documents.h"
 #include "support/test_class.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QImage>
+#include <QPainter>
 #include <QTextList>
+
+#include <cmath>
 
 using namespace torvik::rtf;
 using namespace Qt::StringLiterals;
@@ -165,6 +170,78 @@ private Q_SLOTS:
         QCOMPARE(read.Block(u"two"_s).textList()->itemText(read.Block(u"two"_s)), u"2."_s);
         QVERIFY(read.Block(u"skipped"_s).textList() == nullptr);
         QCOMPARE(read.Block(u"first"_s).textList()->itemText(read.Block(u"first"_s)), u"1."_s);
+    }
+
+    /// How far left of its text the mark of an item is painted, pixels.
+    static double GapOf(const Reading& read, const QString& item)
+    {
+        constexpr QSize size(600, 200);
+        QImage page(size, QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QFont font(u"Times New Roman"_s);
+        font.setPointSize(12);
+        read.document->setDefaultFont(font);
+        read.document->setDocumentMargin(0);
+        read.document->setTextWidth(size.width());
+        const QTextBlock block = read.Block(item);
+        const QRectF line = read.document->documentLayout()->blockBoundingRect(block);
+        QPainter painter(&page);
+        read.document->drawContents(&painter);
+        painter.end();
+        const int text = int(std::lround(block.blockFormat().leftMargin()));
+        for (int x = 0; x < text; ++x) {
+            for (int y = int(line.top()); y < int(line.bottom()); ++y) {
+                if (qGray(page.pixel(x, y)) < 128)
+                    return text - x;
+            }
+        }
+        return 0;
+    }
+
+    void a_mark_stands_where_the_document_hangs_it_data()
+    {
+        QTest::addColumn<QByteArray>("item");
+        QTest::addColumn<double>("least");
+        QTest::addColumn<double>("most");
+        const QByteArray bullet = "{\\pntext\\f2\\'B7\\tab}";
+        QTest::newRow("a bullet") << QByteArray(bullet + "\\fi-360\\li720 ") << 20.0 << 24.0;
+        QTest::newRow("a bullet far left") << QByteArray(bullet + "\\fi-720\\li1440 ") << 40.0 << 48.0;
+        QTest::newRow("a bullet without room") << QByteArray(bullet) << 16.0 << 20.0;
+        QTest::newRow("a number") << QByteArray("{\\pntext 1.\\tab}\\fi-720\\li720 ") << 38.0 << 48.0;
+        QTest::newRow("a number in little room")
+            << QByteArray("{\\pntext 1.\\tab}\\fi-200\\li720 ") << 12.0 << 18.0;
+    }
+    void a_mark_stands_where_the_document_hangs_it()
+    {
+        QFETCH(QByteArray, item);
+        QFETCH(double, least);
+        QFETCH(double, most);
+        const double gap = GapOf(ReadBody(item + "text of the item\\par"), u"text"_s);
+        QVERIFY2(gap >= least && gap <= most, QByteArray::number(gap).constData());
+    }
+
+    void numbers_leave_no_more_room_than_the_longest_of_them_does()
+    {
+        QByteArray items;
+        for (int i = 1; i <= 10; ++i)
+            items += "{\\pntext " + QByteArray::number(i) + ".\\tab}\\fi-480\\li480 item" +
+                     QByteArray::number(i) + "\\par";
+        const QByteArray tenth = "{\\pntext 10.";
+        const Reading nine = ReadBody(items.left(items.indexOf(tenth)));
+        const Reading ten = ReadBody(items);
+        const QString few = nine.Block(u"item1"_s).textList()->format().numberSuffix();
+        const QString many = ten.Block(u"item1"_s).textList()->format().numberSuffix();
+        QVERIFY2(many.size() < few.size(), qPrintable(few + u'|' + many));
+        QVERIFY(GapOf(ten, u"item10"_s) <= 32);
+        QCOMPARE(ten.Block(u"item10"_s).textList(), ten.Block(u"item1"_s).textList());
+    }
+
+    void a_mark_that_no_tab_follows_stands_right_before_its_text()
+    {
+        const Reading read =
+            ReadBody(ListTable("\\levelnfc0\\levelfollow1\\levelstartat1{\\leveltext\\'02\\'00.;}") +
+                     "\\pard\\ls1\\fi-720\\li720 a\\par");
+        QCOMPARE(read.Block(u"a"_s).textList()->format().numberSuffix(), u"."_s);
     }
 
     void a_list_may_begin_with_nought()
