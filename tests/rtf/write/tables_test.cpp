@@ -144,6 +144,42 @@ private Q_SLOTS:
         QCOMPARE(TableOf(read, 1)->format().leftMargin(), 50.0);
     }
 
+    void a_table_that_stands_out_has_its_text_in_line_with_the_text_around_data()
+    {
+        QTest::addColumn<QByteArray>("row");
+        QTest::addColumn<double>("left");
+        QTest::addColumn<double>("width");
+        const QByteArray line = "\\clbrdrl\\brdrs\\brdrw15";
+        QTest::newRow("without lines") << QByteArray("\\trgaph150\\trleft-150") << 0.0 << 100.0;
+        QTest::newRow("far out") << QByteArray("\\trgaph150\\trleft-600") << 0.0 << 130.0;
+        QTest::newRow("a little out") << QByteArray("\\trgaph150\\trleft-60") << 6.0 << 100.0;
+        QTest::newRow("with a line") << QByteArray("\\trgaph150\\trleft-150" + line) << 2.0 << 102.0;
+        QTest::newRow("with a ground") << QByteArray("\\trgaph150\\trleft-150\\clcbpat4") << 2.0 << 102.0;
+        QTest::newRow("inside") << QByteArray("\\trgaph150\\trleft150") << 10.0 << 90.0;
+        QTest::newRow("in the middle") << QByteArray("\\trqc\\trgaph150\\trleft-150") << 10.0 << 110.0;
+        QTest::newRow("from right to left") << QByteArray("\\rtlrow\\trgaph150\\trleft-150") << 10.0 << 100.0;
+    }
+    void a_table_that_stands_out_has_its_text_in_line_with_the_text_around()
+    {
+        QFETCH(QByteArray, row);
+        QFETCH(double, left);
+        QFETCH(double, width);
+        const Reading read =
+            ReadBody("\\trowd" + row + "\\cellx1500\\cellx3000\\intbl a\\cell b\\cell\\row\\pard x\\par");
+        const QTextTable* table = TableOf(read);
+        QCOMPARE(table->cellAt(0, 0).format().toTableCellFormat().leftPadding(), left);
+        QCOMPARE(table->format().columnWidthConstraints().at(0).rawValue(), width);
+        QCOMPARE(table->cellAt(0, 1).format().toTableCellFormat().leftPadding(), 10.0);
+    }
+
+    void a_column_that_is_narrow_is_not_cut()
+    {
+        const Reading read = ReadBody("\\trowd\\trgaph150\\trleft-150\\cellx150\\cellx3000\\intbl "
+                                      "a\\cell b\\cell\\row\\pard x\\par");
+        QCOMPARE(TableOf(read)->cellAt(0, 0).format().toTableCellFormat().leftPadding(), 10.0);
+        QCOMPARE(TableOf(read)->format().columnWidthConstraints().at(0).rawValue(), 20.0);
+    }
+
     void tables_within_tables()
     {
         const Reading read = ReadBody(
