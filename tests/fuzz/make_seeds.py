@@ -130,16 +130,18 @@ def documents():
         rb"\pard\intbl\tldot\tx300\tab\uldb u\cell\row\pard\keepn\par}",
     )
     write("rtf", "characters.rtf", HEAD + rb"""\b bold\b0\i x\i0\ul u\ulnone\super s\nosupersub\cf1 c\highlight1 h\caps C
-\u8364?\u-10179?\u-8704?{\f2\'93\'fa}{\v hid}\par}""")
+\u8364?\u-10179?\u-8704?{\f2\'93\'fa}{\v hid}\ulw a b\outl o\rtlch\fcs1\af1\afs40\ab\ltrch\fcs0 x\u1513?\u1500? \par}""")
     write("rtf", "paragraphs.rtf", HEAD + rb"""\pard\qc\li720\fi-360\sb120\sl360\slmult1\tqr\tx2000 a\tab b\par
 \pard\box\brdrs\brdrw15 box\par\pard\brdrb\brdrs rule\par\page x\par}""")
     write("rtf", "lists.rtf", HEAD + rb"""{\*\listtable{\list{\listlevel\levelnfc0{\leveltext\'02\'00.;}{\levelnumbers
 \'01;}}\listid7}}{\*\listoverridetable{\listoverride\listid7\ls1}}{\pntext\f1\'b7\tab}{\*\pn\pnlvlblt{\pntxtb\'b7}}one\par
-\pard\ls1{\listtext 1.\tab}two\par\pard\ls1 three\par}""")
-    write("rtf", "table.rtf", HEAD + rb"""\trowd\trgaph100\clmgf\clbrdrt\brdrs\cellx1000\clmrg\cellx2000\clvmgf\cellx3000
+\pard\ls1{\listtext 1.\tab}two\par\pard\ls1 three\par
+\pard\fi-400\li400{\*\pn\pnlvlbody\pnlcltr\pnstart0{\pntxta )}}four\par}""")
+    write("rtf", "table.rtf", HEAD + rb"""\trowd\trgaph100\trleft-100\clmgf\clbrdrt\brdrs\cellx1000\clmrg\cellx2000\clvmgf\cellx3000
 \intbl a\cell b\cell c\cell\row\trowd\cellx1000\cellx2000\clvmrg\cellx3000\intbl d\cell\intbl\itap2 n\nestcell
 {\*\nesttableprops\trowd\cellx900\nestrow}\itap1\cell e\cell\row\pard x\par}""")
     write("rtf", "fields.rtf", HEAD + rb"""{\field{\*\fldinst{HYPERLINK "http://a.example/"}}{\fldrslt l}}
+{\field{\*\fldinst QUOTE "a\par {\field{\*\fldinst QUOTE b}{\fldrslt b\par}}"}}
 {\field{\*\fldinst SYMBOL 183 \\f "Symbol"}{\fldrslt}}{\*\bkmkstart b}x{\*\bkmkend b}\chftn{\footnote\chftn n}
 {\upr{a}{\*\ud{\uc0 b}}}\par}""")
     write("rtf", "pictures.rtf", HEAD
