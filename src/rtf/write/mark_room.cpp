@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace torvik::rtf {
 
@@ -15,16 +16,19 @@ constexpr double capital = 0.72;
 /// A third of a line's height.
 constexpr double bullet = 0.38;
 
+double WidthOf(QChar sign)
+{
+    const bool isNarrow =
+        sign == u'I' || sign == u'i' || sign == u'j' || sign == u'l' || !sign.isLetterOrNumber();
+    if (isNarrow)
+        return wideSpace;
+    return sign.isUpper() ? capital : figure;
+}
+
 double WidthOf(const QString& number)
 {
-    double width = 0;
-    for (const QChar c : number) {
-        if (c.isUpper())
-            width += capital;
-        else
-            width += c.isDigit() || c.isLetter() ? figure : wideSpace;
-    }
-    return width;
+    return std::accumulate(number.begin(), number.end(), 0.0,
+                           [](double width, QChar sign) { return width + WidthOf(sign); });
 }
 
 } // namespace

@@ -208,6 +208,7 @@ private Q_SLOTS:
         QTest::newRow("a bullet far left") << QByteArray(bullet + "\\fi-720\\li1440 ") << 40.0 << 48.0;
         QTest::newRow("a bullet without room") << QByteArray(bullet) << 16.0 << 20.0;
         QTest::newRow("a number") << QByteArray("{\\pntext 1.\\tab}\\fi-720\\li720 ") << 38.0 << 48.0;
+        QTest::newRow("a narrow number") << QByteArray("{\\pntext I.\\tab}\\fi-480\\li480 ") << 27.0 << 32.0;
         QTest::newRow("a number in little room")
             << QByteArray("{\\pntext 1.\\tab}\\fi-200\\li720 ") << 12.0 << 18.0;
     }
