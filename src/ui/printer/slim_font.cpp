@@ -14,7 +14,7 @@ namespace {
 
 using Tables = std::map<QByteArray, QByteArray>;
 
-constexpr qsizetype mostOutlines = 2 * 1024 * 1024; // bytes: a copy of a font for all the world is too dear
+constexpr qsizetype mostOutlines = 2LL * 1024 * 1024; // bytes: a copy of a font for all the world is too dear
 constexpr int firstCharacter = 0x20;
 constexpr int firstFarCharacter = 0x0590;  // of the scripts of Asia and Africa
 constexpr int firstNearCharacter = 0x1E00; // more letters of Europe, then signs and symbols
@@ -136,7 +136,7 @@ bool SetOutlines(Tables& tables, const QRawFont& font)
         return false;
     const auto outlines =
         OutlinesWithoutPrograms(glyf, font.fontTable("loca"), NumberAt(head, placeSize) != 0);
-    if (!outlines || outlines->loca.size() != (NumberAt(maxp, glyphCount) + 1) * 4)
+    if (!outlines || outlines->loca.size() != (qsizetype{NumberAt(maxp, glyphCount)} + 1) * 4)
         return false;
     SetNumberAt(head, placeSize, 1);
     // A font without programs would get them made up, letter by letter.
