@@ -1,18 +1,28 @@
 #include "ui/printer/slim_font.h"
 
-#include "ui/printer/glyph_outlines.h"
-
 #include <QRawFont>
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
+#include <hb-subset.h>
 #include <map>
+#include <memory>
+#include <utility>
 
 namespace torvik {
 
 namespace {
 
-using Tables = std::map<QByteArray, QByteArray>;
+struct Releaser {
+    void operator()(hb_blob_t* blob) const { hb_blob_destroy(blob); }
+    void operator()(hb_face_t* face) const { hb_face_destroy(face); }
+    void operator()(hb_subset_input_t* input) const { hb_subset_input_destroy(input); }
+};
+using Blob = std::unique_ptr<hb_blob_t, Releaser>;
+using Face = std::unique_ptr<hb_face_t, Releaser>;
+using SubsetInput = std::unique_ptr<hb_subset_input_t, Releaser>;
+using Tables = std::map<hb_tag_t, QByteArray>;
 
 constexpr qsizetype mostOutlines = 2LL * 1024 * 1024; // bytes: a copy of a font for all the world is too dear
 constexpr int firstCharacter = 0x20;
@@ -26,16 +36,6 @@ void Append(QByteArray& bytes, Number number)
 {
     const Number swapped = qToBigEndian(number);
     bytes.append(reinterpret_cast<const char*>(&swapped), sizeof swapped);
-}
-
-quint16 NumberAt(const QByteArray& table, qsizetype at)
-{
-    return qFromBigEndian<quint16>(table.constData() + at);
-}
-
-void SetNumberAt(QByteArray& table, qsizetype at, quint16 number)
-{
-    qToBigEndian(number, table.data() + at);
 }
 
 /// The characters as one row of glyphs: Qt asks a font for 65,536 of them for each job that it is used in,
@@ -96,24 +96,6 @@ QByteArray NameTable(const QRawFont& font, const QString& family)
     return table + texts;
 }
 
-/// The tables that go over as they are; empty when one without which there is no font is missing.
-Tables CopiedTables(const QRawFont& font)
-{
-    Tables tables;
-    for (const char* tag : {"head", "hhea", "hmtx", "maxp", "OS/2"})
-        tables[tag] = font.fontTable(tag);
-    const bool isWhole =
-        std::all_of(tables.begin(), tables.end(), [](const auto& table) { return !table.second.isEmpty(); });
-    if (!isWhole)
-        return {};
-    for (const char* tag : {"GDEF", "GPOS", "GSUB", "kern", "post"}) {
-        const QByteArray table = font.fontTable(tag);
-        if (!table.isEmpty())
-            tables[tag] = table;
-    }
-    return tables;
-}
-
 /// Pictures and outlines that change with a setting are more than one outline a glyph.
 bool HasOneOutlineEach(const QRawFont& font)
 {
@@ -122,54 +104,79 @@ bool HasOneOutlineEach(const QRawFont& font)
                         [&](const char* tag) { return !font.fontTable(tag).isEmpty(); });
 }
 
-bool SetOutlines(Tables& tables, const QRawFont& font)
+/// What letters are drawn, measured and joined with.
+Tables TablesOf(const QRawFont& font)
 {
-    constexpr qsizetype headSize = 54;
-    constexpr qsizetype placeSize = 50; // in `head`: whether a place in `loca` has four bytes
-    constexpr qsizetype maxpSize = 32;
-    constexpr qsizetype glyphCount = 4; // in `maxp`
-    constexpr qsizetype programSize = 26;
-    QByteArray& head = tables["head"];
-    QByteArray& maxp = tables["maxp"];
-    const QByteArray glyf = font.fontTable("glyf");
-    if (head.size() < headSize || maxp.size() < maxpSize || glyf.isEmpty() || glyf.size() > mostOutlines)
-        return false;
-    const auto outlines =
-        OutlinesWithoutPrograms(glyf, font.fontTable("loca"), NumberAt(head, placeSize) != 0);
-    if (!outlines || outlines->loca.size() != (qsizetype{NumberAt(maxp, glyphCount)} + 1) * 4)
-        return false;
-    SetNumberAt(head, placeSize, 1);
-    // A font without programs would get them made up, letter by letter.
-    SetNumberAt(maxp, programSize, std::max<quint16>(1, NumberAt(maxp, programSize)));
-    tables["glyf"] = outlines->glyf;
-    tables["loca"] = outlines->loca;
-    return true;
+    Tables tables;
+    for (const char* tag : {"GDEF", "GPOS", "GSUB", "OS/2", "cmap", "glyf", "head", "hhea", "hmtx", "kern",
+                            "loca", "maxp", "post"}) {
+        QByteArray table = font.fontTable(tag);
+        if (!table.isEmpty())
+            tables[hb_tag_from_string(tag, -1)] = std::move(table);
+    }
+    return tables;
 }
 
-/// Nobody who reads a font in memory asks for its sums, so they stay 0.
-QByteArray FontFile(const Tables& tables)
+QByteArray BytesOf(const Blob& blob)
 {
-    constexpr quint32 trueType = 0x00010000;
-    const auto count = static_cast<quint16>(tables.size());
-    quint16 powerOfTwo = 1;
-    quint16 power = 0;
-    for (; powerOfTwo * 2 <= count; powerOfTwo = static_cast<quint16>(powerOfTwo * 2))
-        ++power;
-    QByteArray heads;
-    QByteArray bodies;
-    Append(heads, trueType);
-    for (const int number : {int{count}, powerOfTwo * 16, int{power}, (count - powerOfTwo) * 16})
-        Append(heads, static_cast<quint16>(number));
-    const qsizetype begin = heads.size() + 16 * qsizetype{count};
+    unsigned length = 0;
+    const char* bytes = hb_blob_get_data(blob.get(), &length);
+    return {bytes, static_cast<qsizetype>(length)};
+}
+
+Tables TablesOf(const Face& face)
+{
+    std::array<hb_tag_t, 64> tags{};
+    auto count = static_cast<unsigned>(tags.size());
+    hb_face_get_table_tags(face.get(), 0, &count, tags.data());
+    Tables tables;
+    for (unsigned index = 0; index < count; ++index)
+        tables[tags.at(index)] = BytesOf(Blob(hb_face_reference_table(face.get(), tags.at(index))));
+    return tables;
+}
+
+Blob FileOf(const Tables& tables)
+{
+    const Face file(hb_face_builder_create());
     for (const auto& [tag, table] : tables) {
-        heads += tag;
-        Append(heads, quint32{0});
-        Append(heads, static_cast<quint32>(begin + bodies.size()));
-        Append(heads, static_cast<quint32>(table.size()));
-        bodies += table;
-        bodies.append((4 - bodies.size() % 4) % 4, '\0');
+        const Blob blob(hb_blob_create(table.constData(), static_cast<unsigned>(table.size()),
+                                       HB_MEMORY_MODE_DUPLICATE, nullptr, nullptr));
+        hb_face_builder_add_table(file.get(), tag, blob.get());
     }
-    return heads + bodies;
+    return Blob(hb_face_reference_blob(file.get()));
+}
+
+/// The tables with the characters of slim fonts alone, without programs; glyphs keep their numbers. Empty
+/// where the tables are damaged.
+Tables SlimTables(const Tables& tables)
+{
+    const SubsetInput input(hb_subset_input_create_or_fail());
+    if (input == nullptr)
+        return {};
+    hb_subset_input_set_flags(input.get(), HB_SUBSET_FLAGS_NO_HINTING | HB_SUBSET_FLAGS_RETAIN_GIDS |
+                                               HB_SUBSET_FLAGS_NO_PRUNE_UNICODE_RANGES);
+    hb_set_t* characters = hb_subset_input_unicode_set(input.get());
+    hb_set_add_range(characters, firstCharacter, firstFarCharacter - 1);
+    hb_set_add_range(characters, firstNearCharacter, lastCharacter);
+    hb_set_t* unchanged = hb_subset_input_set(input.get(), HB_SUBSET_SETS_NO_SUBSET_TABLE_TAG);
+    for (const char* tag : {"GDEF", "GPOS", "GSUB", "kern", "post"})
+        hb_set_add(unchanged, hb_tag_from_string(tag, -1));
+    // Between files, since some versions of the library lose the tables of other faces on the way.
+    const Face whole(hb_face_create(FileOf(tables).get(), 0));
+    const Face slim(hb_subset_or_fail(whole.get(), input.get()));
+    if (slim == nullptr)
+        return {};
+    const Blob file(hb_face_reference_blob(slim.get()));
+    return TablesOf(Face(hb_face_create(file.get(), 0)));
+}
+
+/// A font that says it has no programs would get them made up, letter by letter.
+void SetProgramSize(QByteArray& maxp)
+{
+    constexpr qsizetype place = 26;
+    constexpr quint16 smallest = 1;
+    if (maxp.size() >= place + static_cast<qsizetype>(sizeof smallest))
+        qToBigEndian(smallest, maxp.data() + place);
 }
 
 } // namespace
@@ -183,14 +190,17 @@ bool IsInSlimFonts(QChar character)
 
 QByteArray SlimFont(const QRawFont& font, const QString& family)
 {
-    Tables tables = CopiedTables(font);
-    if (tables.empty() || !HasOneOutlineEach(font) || !SetOutlines(tables, font))
+    const qsizetype outlines = font.fontTable("glyf").size();
+    if (outlines == 0 || outlines > mostOutlines || !HasOneOutlineEach(font))
         return {};
-    tables["cmap"] = CharacterTable(font);
-    if (tables["cmap"].isEmpty())
+    const QByteArray characters = CharacterTable(font);
+    Tables tables = SlimTables(TablesOf(font));
+    if (tables.empty() || characters.isEmpty())
         return {};
-    tables["name"] = NameTable(font, family);
-    return FontFile(tables);
+    tables[HB_TAG('c', 'm', 'a', 'p')] = characters;
+    tables[HB_TAG('n', 'a', 'm', 'e')] = NameTable(font, family);
+    SetProgramSize(tables[HB_TAG('m', 'a', 'x', 'p')]);
+    return BytesOf(FileOf(tables));
 }
 
 } // namespace torvik
