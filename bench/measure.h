@@ -33,4 +33,16 @@ inline bool Report(const char* name, const char* unit, double figure, double bas
     return isOk;
 }
 
+/// The same for figures and baselines that were measured in turns: each figure counts against its neighbour,
+/// so that a moment in which the machine is busy with something else counts for both.
+inline bool ReportPairs(const char* name, const char* unit, const std::vector<double>& figures,
+                        const std::vector<double>& baselines, double limit)
+{
+    std::vector<double> ratios;
+    for (std::size_t index = 0; index < figures.size(); ++index)
+        ratios.push_back(figures[index] / baselines[index]);
+    const double baseline = Median(baselines);
+    return Report(name, unit, Median(ratios) * baseline, baseline, limit);
+}
+
 } // namespace torvik::bench

@@ -29,7 +29,7 @@ namespace {
 using namespace torvik;
 
 constexpr QSize pageSize{3000, 4000};
-constexpr int rounds = 9;
+constexpr int rounds = 15;
 constexpr double openingLimit = 1.2;
 constexpr double stepLimit = 0.25; // the longest of a way over the page: no step decodes
 constexpr int scrollSteps = 50;    // down, and as many back
@@ -135,14 +135,13 @@ bool Measure()
         FormHandleBase::DiscardAll();
         return false;
     }
-    const double bare = bench::Median(figures.bare);
-    bool isOk = bench::Report("opening a page of 12 megapixels, the window's thread", "ms",
-                              bench::Median(figures.onThread), bare, openingLimit);
-    isOk = bench::Report("opening a page of 12 megapixels, all threads", "ms", bench::Median(figures.inAll),
-                         bare, openingLimit) &&
+    bool isOk = bench::ReportPairs("opening a page of 12 megapixels, the window's thread", "ms",
+                                   figures.onThread, figures.bare, openingLimit);
+    isOk = bench::ReportPairs("opening a page of 12 megapixels, all threads", "ms", figures.inAll,
+                              figures.bare, openingLimit) &&
            isOk;
-    isOk = bench::Report("scrolling over it, the longest of 100 steps", "ms",
-                         bench::Median(figures.longestStep), bare, stepLimit) &&
+    isOk = bench::ReportPairs("scrolling over it, the longest of 100 steps", "ms", figures.longestStep,
+                              figures.bare, stepLimit) &&
            isOk;
     FormHandleBase::DiscardAll();
     return isOk;

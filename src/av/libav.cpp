@@ -7,19 +7,19 @@ namespace torvik::libav {
 Owned<AVCodecContext> OpenDecoder(const AVStream& stream, qint64 maxPixels)
 {
     const char* kind = stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO ? "pictures" : "sound";
-    const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
+    const AVCodec* codec = Call().avcodecFindDecoder(stream.codecpar->codec_id);
     if (codec == nullptr) {
         qCDebug(logMedia, "%s: there is no decoder for %s", kind,
-                avcodec_get_name(stream.codecpar->codec_id));
+                Call().avcodecGetName(stream.codecpar->codec_id));
         return nullptr;
     }
-    Owned<AVCodecContext> context(avcodec_alloc_context3(codec));
-    if (context == nullptr || avcodec_parameters_to_context(context.get(), stream.codecpar) < 0)
+    Owned<AVCodecContext> context(Call().avcodecAllocContext3(codec));
+    if (context == nullptr || Call().avcodecParametersToContext(context.get(), stream.codecpar) < 0)
         return nullptr;
     context->pkt_timebase = stream.time_base;
     context->thread_count = 1;
     context->max_pixels = maxPixels;
-    if (avcodec_open2(context.get(), codec, nullptr) < 0) {
+    if (Call().avcodecOpen2(context.get(), codec, nullptr) < 0) {
         qCDebug(logMedia, "%s: the decoder %s refuses the stream", kind, codec->name);
         return nullptr;
     }

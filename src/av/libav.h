@@ -1,31 +1,25 @@
 #pragma once
 
+#include "av/libav_functions.h"
+
 #include <QtGlobal>
 
 #include <memory>
-
-extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
-#include <libavutil/opt.h>
-#include <libswresample/swresample.h>
-#include <libswscale/swscale.h>
-}
 
 namespace torvik::libav {
 
 /// Frees what the decoding library has made.
 struct Free {
-    void operator()(AVFormatContext* context) const { avformat_close_input(&context); }
-    void operator()(AVCodecContext* context) const { avcodec_free_context(&context); }
-    void operator()(AVFrame* frame) const { av_frame_free(&frame); }
-    void operator()(AVPacket* packet) const { av_packet_free(&packet); }
-    void operator()(SwrContext* context) const { swr_free(&context); }
-    void operator()(SwsContext* context) const { sws_freeContext(context); }
+    void operator()(AVFormatContext* context) const { Call().avformatCloseInput(&context); }
+    void operator()(AVCodecContext* context) const { Call().avcodecFreeContext(&context); }
+    void operator()(AVFrame* frame) const { Call().avFrameFree(&frame); }
+    void operator()(AVPacket* packet) const { Call().avPacketFree(&packet); }
+    void operator()(SwrContext* context) const { Call().swrFree(&context); }
+    void operator()(SwsContext* context) const { Call().swsFreeContext(context); }
     void operator()(AVIOContext* context) const
     {
-        av_freep(&context->buffer);
-        avio_context_free(&context);
+        Call().avFreep(&context->buffer);
+        Call().avioContextFree(&context);
     }
 };
 

@@ -39,8 +39,7 @@ std::int64_t SeekBytes(void* opaque, std::int64_t offset, int whence)
 
 std::unique_ptr<MediaReader> MediaReader::Open(std::unique_ptr<ByteSource> source, const SoundFormat& sound)
 {
-    av_log_set_level(AV_LOG_QUIET);
-    if (source == nullptr)
+    if (source == nullptr || !libav::IsThere())
         return nullptr;
     std::unique_ptr<MediaReader> reader(new MediaReader(std::move(source), sound));
     if (!reader->OpenFile())
@@ -50,36 +49,39 @@ std::unique_ptr<MediaReader> MediaReader::Open(std::unique_ptr<ByteSource> sourc
 }
 
 MediaReader::MediaReader(std::unique_ptr<ByteSource> source, const SoundFormat& sound)
-    : source_(std::move(source)), packet_(av_packet_alloc()), wanted_(sound)
+    : source_(std::move(source)), packet_(libav::Call().avPacketAlloc()), wanted_(sound)
 {}
 
 MediaReader::~MediaReader() = default;
 
 bool MediaReader::OpenFile()
 {
-    auto* buffer = static_cast<std::uint8_t*>(av_malloc(bufferSize));
-    bytes_.reset(avio_alloc_context(buffer, bufferSize, 0, source_.get(), ReadBytes, nullptr, SeekBytes));
-    AVFormatContext* file = avformat_alloc_context();
+    auto* buffer = static_cast<std::uint8_t*>(libav::Call().avMalloc(bufferSize));
+    bytes_.reset(
+        libav::Call().avioAllocContext(buffer, bufferSize, 0, source_.get(), ReadBytes, nullptr, SeekBytes));
+    AVFormatContext* file = libav::Call().avformatAllocContext();
     if (bytes_ == nullptr || file == nullptr || packet_ == nullptr)
         return false;
     file->pb = bytes_.get();
     AVDictionary* options = nullptr;
-    av_dict_set(&options, "format_whitelist", containers, 0);
-    const int opened = avformat_open_input(&file, "", nullptr, &options); // frees the file when it fails
-    av_dict_free(&options);
+    libav::Call().avDictSet(&options, "format_whitelist", containers, 0);
+    const int opened =
+        libav::Call().avformatOpenInput(&file, "", nullptr, &options); // frees the file when it fails
+    libav::Call().avDictFree(&options);
     if (opened < 0)
         return false;
     file_.reset(file);
-    return avformat_find_stream_info(file, nullptr) >= 0;
+    return libav::Call().avformatFindStreamInfo(file, nullptr) >= 0;
 }
 
 void MediaReader::OpenStreams()
 {
     startTime_ = file_->start_time == AV_NOPTS_VALUE ? 0 : file_->start_time;
-    pictureStream_ = av_find_best_stream(file_.get(), AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
+    pictureStream_ = libav::Call().avFindBestStream(file_.get(), AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0);
     if (pictureStream_ >= 0)
         pictures_ = PictureDecoder::Open(*file_->streams[pictureStream_], startTime_);
-    soundStream_ = av_find_best_stream(file_.get(), AVMEDIA_TYPE_AUDIO, -1, pictureStream_, nullptr, 0);
+    soundStream_ =
+        libav::Call().avFindBestStream(file_.get(), AVMEDIA_TYPE_AUDIO, -1, pictureStream_, nullptr, 0);
     if (soundStream_ >= 0)
         sound_ = SoundDecoder::Open(*file_->streams[soundStream_], wanted_, startTime_);
     info_.hasPictures = pictures_ != nullptr;
@@ -98,7 +100,7 @@ bool MediaReader::FeedDecoders()
 {
     if (drained_)
         return false;
-    if (av_read_frame(file_.get(), packet_.get()) < 0) {
+    if (libav::Call().avReadFrame(file_.get(), packet_.get()) < 0) {
         drained_ = true;
         if (pictures_)
             pictures_->Send(nullptr);
@@ -110,7 +112,7 @@ bool MediaReader::FeedDecoders()
         pictures_->Send(packet_.get());
     else if (sound_ && packet_->stream_index == soundStream_)
         sound_->Send(packet_.get());
-    av_packet_unref(packet_.get());
+    libav::Call().avPacketUnref(packet_.get());
     return true;
 }
 
@@ -168,8 +170,8 @@ void MediaReader::Seek(qint64 time)
     drained_ = false;
     // A picture back, since the library rounds to its own nearest one; what is early is passed over.
     const qint64 target = std::max<qint64>(0, from_ - info_.frameDuration) + startTime_;
-    if (avformat_seek_file(file_.get(), -1, INT64_MIN, target, target, 0) < 0)
-        av_seek_frame(file_.get(), -1, startTime_, AVSEEK_FLAG_BACKWARD | AVSEEK_FLAG_ANY);
+    if (libav::Call().avformatSeekFile(file_.get(), -1, INT64_MIN, target, target, 0) < 0)
+        libav::Call().avSeekFrame(file_.get(), -1, startTime_, AVSEEK_FLAG_BACKWARD | AVSEEK_FLAG_ANY);
     if (pictures_)
         pictures_->Flush();
     if (sound_)

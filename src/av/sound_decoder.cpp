@@ -24,32 +24,33 @@ std::unique_ptr<SoundDecoder> SoundDecoder::Open(const AVStream& stream, const S
 
 SoundDecoder::SoundDecoder(libav::Owned<AVCodecContext> codec, const AVStream& stream,
                            const SoundFormat& wanted, qint64 startTime)
-    : codec_(std::move(codec)), frame_(av_frame_alloc()), wanted_(wanted), timeBase_(stream.time_base),
-      startTime_(startTime)
+    : codec_(std::move(codec)), frame_(libav::Call().avFrameAlloc()), wanted_(wanted),
+      timeBase_(stream.time_base), startTime_(startTime)
 {}
 
 void SoundDecoder::Send(const AVPacket* packet)
 {
-    avcodec_send_packet(codec_.get(), packet);
+    libav::Call().avcodecSendPacket(codec_.get(), packet);
 }
 
 void SoundDecoder::Flush()
 {
-    avcodec_flush_buffers(codec_.get());
+    libav::Call().avcodecFlushBuffers(codec_.get());
     converter_.reset(); // what it holds belongs to the place before
 }
 
 std::optional<MediaSamples> SoundDecoder::Receive()
 {
-    while (avcodec_receive_frame(codec_.get(), frame_.get()) >= 0) {
+    while (libav::Call().avcodecReceiveFrame(codec_.get(), frame_.get()) >= 0) {
         MediaSamples samples;
         samples.time = next_;
         if (frame_->best_effort_timestamp != AV_NOPTS_VALUE)
             samples.time =
-                av_rescale_q(frame_->best_effort_timestamp, timeBase_, libav::microsecond) - startTime_;
+                libav::Call().avRescaleQ(frame_->best_effort_timestamp, timeBase_, libav::microsecond) -
+                startTime_;
         samples.bytes = Convert(*frame_);
         next_ = samples.time + samples.bytes.size() * 1'000'000 / wanted_.BytesPerSecond();
-        av_frame_unref(frame_.get());
+        libav::Call().avFrameUnref(frame_.get());
         if (!samples.bytes.isEmpty())
             return samples;
     }
@@ -66,16 +67,16 @@ bool SoundDecoder::PrepareFor(const AVFrame& frame)
         return true;
     AVChannelLayout from;
     AVChannelLayout to;
-    av_channel_layout_default(&from, channels);
-    av_channel_layout_default(&to, wanted_.channels);
+    libav::Call().avChannelLayoutDefault(&from, channels);
+    libav::Call().avChannelLayoutDefault(&to, wanted_.channels);
     SwrContext* converter = nullptr;
-    const int made =
-        swr_alloc_set_opts2(&converter, &to, FormatOf(wanted_), wanted_.rate, &from,
-                            static_cast<AVSampleFormat>(frame.format), frame.sample_rate, 0, nullptr);
-    av_channel_layout_uninit(&from);
-    av_channel_layout_uninit(&to);
+    const int made = libav::Call().swrAllocSetOpts2(&converter, &to, FormatOf(wanted_), wanted_.rate, &from,
+                                                    static_cast<AVSampleFormat>(frame.format),
+                                                    frame.sample_rate, 0, nullptr);
+    libav::Call().avChannelLayoutUninit(&from);
+    libav::Call().avChannelLayoutUninit(&to);
     converter_.reset(converter);
-    if (made < 0 || swr_init(converter) < 0) {
+    if (made < 0 || libav::Call().swrInit(converter) < 0) {
         converter_.reset();
         return false;
     }
@@ -89,12 +90,13 @@ QByteArray SoundDecoder::Convert(const AVFrame& frame)
 {
     if (!PrepareFor(frame))
         return {};
-    const int room = swr_get_out_samples(converter_.get(), frame.nb_samples);
+    const int room = libav::Call().swrGetOutSamples(converter_.get(), frame.nb_samples);
     if (room <= 0)
         return {};
     QByteArray bytes(static_cast<qsizetype>(room) * wanted_.BytesPerFrame(), Qt::Uninitialized);
     auto* target = reinterpret_cast<std::uint8_t*>(bytes.data());
-    const int made = swr_convert(converter_.get(), &target, room,
+    const int made =
+        libav::Call().swrConvert(converter_.get(), &target, room,
                                  const_cast<const std::uint8_t**>(frame.extended_data), frame.nb_samples);
     bytes.truncate(static_cast<qsizetype>(std::max(0, made)) * wanted_.BytesPerFrame());
     return bytes;

@@ -1,6 +1,7 @@
 #include "ui/pictures/picture.h"
 
 #include "platform/files/files.h"
+#include "platform/system/large_memory.h"
 #include "runtime/failure.h"
 #include "ui/pictures/picture_end.h"
 
@@ -20,6 +21,21 @@ constexpr int allocationLimit = 1300; // MiB: mostPixels of four bytes, and some
 QString NameWithoutFolder(const QString& path)
 {
     return path.mid(std::max(path.lastIndexOf(u'\\'), path.lastIndexOf(u'/')) + 1);
+}
+
+/// What a large photo is decoded into; no image for other pictures, whose decoders take memory by themselves.
+QImage RoomFor(const QImageReader& reader, const QSize& size)
+{
+    constexpr qint64 large = 8LL * 1024 * 1024; // bytes
+    const qint64 row = qint64{size.width()} * 4;
+    const qint64 bytes = row * size.height();
+    if (reader.format() != "jpeg" || reader.imageFormat() != QImage::Format_RGB32 || bytes < large)
+        return {};
+    void* memory = TakeLargeMemory(static_cast<std::size_t>(bytes));
+    if (memory == nullptr)
+        return {};
+    return {static_cast<uchar*>(memory), size.width(),    size.height(), row,
+            QImage::Format_RGB32,        FreeLargeMemory, memory};
 }
 
 } // namespace
@@ -67,10 +83,11 @@ QImage Picture::Decode(const QSize& upright) const
     buffer.setData(bytes_);
     QImageReader reader(&buffer);
     reader.setAutoTransform(true);
+    const QSize stored = sideways_ ? upright.transposed() : upright;
     if (upright != size_)
-        reader.setScaledSize(sideways_ ? upright.transposed() : upright);
-    QImage image = reader.read();
-    if (image.isNull())
+        reader.setScaledSize(stored);
+    QImage image = RoomFor(reader, stored);
+    if (!reader.read(&image))
         Fail(failure::invalidPicture);
     return image;
 }

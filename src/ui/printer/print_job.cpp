@@ -5,7 +5,11 @@
 
 #include <QFontMetricsF>
 #include <QPageLayout>
+#include <QPdfWriter>
+#include <QPrinter>
 #include <QPrinterInfo>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -29,25 +33,36 @@ QFont LineFont()
 } // namespace
 
 PrintJob::PrintJob(const PrinterSetup& setup)
-    : device_(QPrinterInfo::printerInfo(setup.name), QPrinter::HighResolution)
 {
+    auto printer =
+        std::make_unique<QPrinter>(QPrinterInfo::printerInfo(setup.name), QPrinter::HighResolution);
+    printer->setDocName(applicationTitle);
+    printer->setCreator(applicationTitle);
+    printer_ = printer.get();
+    device_ = std::move(printer);
     TakePaper(setup);
+    printer_->setFullPage(true);
+    offsets_ = device_->pageLayout().minimumMargins() * PixelsPerPoint();
 }
 
-PrintJob::PrintJob(const PrinterSetup& setup, const QString& hostFile)
-    : device_(QPrinter::HighResolution), file_(hostFile)
+PrintJob::PrintJob(const PrinterSetup& setup, const QString& hostFile) : file_(hostFile)
 {
-    device_.setOutputFormat(QPrinter::PdfFormat);
-    device_.setOutputFileName(UnfinishedJobFile(file_));
-    device_.setResolution(fileResolution);
+    auto writer = std::make_unique<QPdfWriter>(UnfinishedJobFile(file_));
+    writer->setTitle(applicationTitle);
+    writer->setCreator(applicationTitle);
+    writer->setResolution(fileResolution);
+    device_ = std::move(writer);
     TakePaper(setup);
+    device_->setPageMargins(QMarginsF());
+    offsets_ = QMarginsF(fileOffset, fileOffset, fileOffset, fileOffset) * PixelsPerPoint();
 }
 
 PrintJob::~PrintJob()
 {
     if (!painter_.isActive())
         return;
-    device_.abort();
+    if (printer_ != nullptr)
+        printer_->abort();
     painter_.end();
     if (!file_.isEmpty())
         DropJobFile(file_);
@@ -55,20 +70,18 @@ PrintJob::~PrintJob()
 
 void PrintJob::TakePaper(const PrinterSetup& setup)
 {
-    device_.setPageSize(setup.paper);
-    device_.setPageOrientation(setup.orientation);
+    device_->setPageSize(setup.paper);
+    device_->setPageOrientation(setup.orientation);
+}
+
+double PrintJob::PixelsPerPoint() const
+{
+    return Resolution() / 72.0;
 }
 
 bool PrintJob::Begin()
 {
-    device_.setDocName(applicationTitle);
-    device_.setCreator(applicationTitle);
-    device_.setFullPage(true);
-    const double pixelsPerPoint = device_.resolution() / 72.0;
-    offsets_ = (file_.isEmpty() ? device_.pageLayout().minimumMargins()
-                                : QMarginsF(fileOffset, fileOffset, fileOffset, fileOffset)) *
-               pixelsPerPoint;
-    if (!painter_.begin(&device_))
+    if (!painter_.begin(device_.get()))
         return false;
     painter_.translate(offsets_.left(), offsets_.top());
     painter_.setFont(LineFont());
@@ -77,7 +90,7 @@ bool PrintJob::Begin()
 
 bool PrintJob::End()
 {
-    const bool sent = painter_.end() && device_.printerState() != QPrinter::Error;
+    const bool sent = painter_.end() && (printer_ == nullptr || printer_->printerState() != QPrinter::Error);
     if (file_.isEmpty())
         return sent;
     if (sent && KeepJobFile(file_))
@@ -89,12 +102,12 @@ bool PrintJob::End()
 bool PrintJob::NewPage()
 {
     lineTop_ = 0;
-    return device_.newPage();
+    return device_->newPage();
 }
 
 void PrintJob::Print(const QString& text)
 {
-    const QFontMetricsF metrics(painter_.font(), &device_);
+    const QFontMetricsF metrics(painter_.font(), device_.get());
     if (!text.trimmed().isEmpty()) // blanks leave no mark, but a file would carry their font
         painter_.drawText(QPointF(0, lineTop_ + metrics.ascent()), text);
     lineTop_ += metrics.lineSpacing();

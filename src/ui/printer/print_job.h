@@ -3,9 +3,13 @@
 #include "ui/printer/printer_setup.h"
 
 #include <QMarginsF>
+#include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPrinter>
 #include <QSizeF>
+
+#include <memory>
+
+class QPrinter;
 
 namespace torvik {
 
@@ -32,16 +36,18 @@ public:
 
     /// Paints from the corner of the printable area.
     QPainter& Painter() { return painter_; }
-    QSizeF Paper() const { return device_.paperRect(QPrinter::DevicePixel).size(); }
+    QSizeF Paper() const { return device_->pageLayout().fullRectPixels(Resolution()).size(); }
     /// How far the printable area lies inside the paper.
     const QMarginsF& Offsets() const { return offsets_; }
     /// Pixels to the inch.
-    int Resolution() const { return device_.resolution(); }
+    int Resolution() const { return device_->logicalDpiX(); }
 
 private:
     void TakePaper(const PrinterSetup& setup);
+    double PixelsPerPoint() const;
 
-    QPrinter device_;
+    std::unique_ptr<QPagedPaintDevice> device_;
+    QPrinter* printer_ = nullptr; ///< the device; none where the job becomes a file
     QPainter painter_;
     QMarginsF offsets_;
     double lineTop_ = 0;

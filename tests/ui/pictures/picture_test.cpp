@@ -3,7 +3,9 @@
 #include "support/test_class.h"
 #include "ui/pictures/picture.h"
 
+#include <QBuffer>
 #include <QElapsedTimer>
+#include <QImageReader>
 #include <QTransform>
 
 using namespace Qt::StringLiterals;
@@ -178,6 +180,46 @@ private Q_SLOTS:
         QCOMPARE(Picture::Load(just).NaturalSize(), QSize(20000, 15000));
         const QString over = folder_.Add(u"over.jpg"_s, WithSize(small, 20000, 15001));
         QCOMPARE(ResumeNext([&] { Picture::Load(over); }), 481);
+    }
+
+    void a_photo_of_many_megapixels_is_shown_to_its_last_pixel_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QImage photo = FourCorners({2111, 1303});
+        const QByteArray jpeg = Encoded(photo, "jpg");
+        QTest::newRow("jpeg") << jpeg;
+        QTest::newRow("progressive jpeg") << Encoded(photo, "jpg", true);
+        QTest::newRow("grey jpeg") << Encoded(photo.convertToFormat(QImage::Format_Grayscale8), "jpg");
+        QTest::newRow("png") << Encoded(photo, "png");
+        QTest::newRow("jpeg on its side") << WithOrientation(jpeg, 6);
+    }
+    void a_photo_of_many_megapixels_is_shown_to_its_last_pixel()
+    {
+        QFETCH(const QByteArray, bytes);
+        QBuffer buffer;
+        buffer.setData(bytes);
+        QImageReader reader(&buffer);
+        reader.setAutoTransform(true);
+        const QImage expected = reader.read();
+        const Picture photo = Picture::FromFile(bytes, u"large.jpg"_s);
+        QCOMPARE(photo.NaturalSize(), expected.size());
+        QCOMPARE(photo.Natural(), expected);
+        const QSize most = expected.size() * 1.1; // more pixels than are stored
+        QCOMPARE(photo.Stretched(most).size(), most);
+    }
+
+    void a_photo_of_many_megapixels_outlives_its_file()
+    {
+        QImage shown;
+        {
+            const Picture photo =
+                Picture::FromFile(Encoded(FourCorners({2111, 1303}), "jpg"), u"large.jpg"_s);
+            shown = photo.Natural();
+        }
+        const QImage copy = shown;
+        shown.fill(Qt::black);
+        QVERIFY(Alike(copy.pixelColor(10, 10), Qt::red));
+        QCOMPARE(shown.pixelColor(2110, 1302), QColor(Qt::black));
     }
 
     void a_picture_larger_than_qts_own_limit_loads()
