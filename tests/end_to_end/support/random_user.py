@@ -37,7 +37,7 @@ class RandomUser:
             return
         deeds = [(self._press_something, 40), (self._press_key, 22), (self._choose_from_menus, 12), (self._go_round, 6),
                  (self._press_as_screen_reader, 5), (self._drag, 4), (self._turn_wheel, 4), (self._type, 4), (self._dismiss, 12),
-                 (self._change_window, 2), (self._leave, 0.15)]
+                 (self._change_window, 2), (self._leave, 0.05)]
         deed = self._chances.choices([deed for deed, _ in deeds], [weight for _, weight in deeds])[0]
         deed()
 
