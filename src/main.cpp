@@ -5,6 +5,7 @@
 #include "platform/paths/program_folder.h"
 #include "platform/system/arguments_of.h"
 #include "platform/system/environment.h"
+#include "platform/system/freed_memory.h"
 #include "runtime/failure.h"
 #include "runtime/logging.h"
 #include "start/chosen_scale.h"
@@ -61,6 +62,7 @@ int CheckOnly(int argc, char** argv)
 int main(int argc, char** argv)
 {
     using namespace torvik;
+    GiveFreedMemoryBack();
     const CommandLine early = ReadCommandLine(ArgumentsOf(argc, argv));
     if (early.help) {
         const QCoreApplication withoutDisplay(argc, argv);

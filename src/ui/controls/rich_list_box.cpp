@@ -48,8 +48,11 @@ public:
         return parent.isValid() ? 0 : static_cast<int>(rows_.size());
     }
 
+    /// Qt's list asks for no row at all when Ctrl+C is pressed and none is chosen.
     QVariant data(const QModelIndex& at, int role) const override
     {
+        if (!at.isValid())
+            return {};
         const RichListRow& row = rows_[at.row()];
         if (role == Qt::DisplayRole)
             return row.title;

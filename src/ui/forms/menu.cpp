@@ -24,11 +24,22 @@ QAction* MakeAction(const QString& name, const QString& caption, QWidget* owner)
     return action;
 }
 
+/// A screen reader can open a menu behind a modal window. It would take all input of the program and obey
+/// none.
+void CloseWhereBlocked(QMenu* menu)
+{
+    if (!TakesInput(*menu->parentWidget()))
+        QMetaObject::invokeMethod(menu, &QMenu::hide, Qt::QueuedConnection); // it is not open yet
+}
+
 /// The menu that opens from an action; made when the first entry needs it.
 QMenu* MenuOf(QAction* action)
 {
-    if (action->menu() == nullptr)
-        action->setMenu(new QMenu(qobject_cast<QWidget*>(action->parent())));
+    if (action->menu() == nullptr) {
+        auto* menu = new QMenu(qobject_cast<QWidget*>(action->parent()));
+        QObject::connect(menu, &QMenu::aboutToShow, menu, [menu] { CloseWhereBlocked(menu); });
+        action->setMenu(menu);
+    }
     return action->menu();
 }
 

@@ -37,7 +37,7 @@ class RandomUser:
             return
         deeds = [(self._press_something, 40), (self._press_key, 22), (self._choose_from_menus, 12), (self._go_round, 6),
                  (self._press_as_screen_reader, 5), (self._drag, 4), (self._turn_wheel, 4), (self._type, 4), (self._dismiss, 12),
-                 (self._change_window, 2), (self._leave, 0.15)]
+                 (self._change_window, 2), (self._leave, 0.05)]
         deed = self._chances.choices([deed for deed, _ in deeds], [weight for _, weight in deeds])[0]
         deed()
 
@@ -60,8 +60,18 @@ class RandomUser:
     # Deeds
 
     def _place_in(self, element):
-        return (element.left + element.width * self._chances.uniform(0.05, 0.95),
-                element.top + element.height * self._chances.uniform(0.05, 0.95))
+        """Seldom over an Exit of the main window that lies in a larger element, for the same reason as in _pick."""
+        for _ in range(20):
+            place = (element.left + element.width * self._chances.uniform(0.05, 0.95),
+                     element.top + element.height * self._chances.uniform(0.05, 0.95))
+            if element.name == "Exit" or not self._is_over_exit(place) or self._chances.random() < 0.1:
+                break
+        return place
+
+    def _is_over_exit(self, place):
+        x, y = place
+        return any(e.left <= x <= e.right and e.top <= y <= e.bottom for e in self._elements
+                   if e.name == "Exit" and e.window == MAIN_TITLE and e.role == "push button")
 
     def _press_mouse(self, place, button=1):
         self.place = place

@@ -69,6 +69,13 @@ private Q_SLOTS:
         QCOMPARE(Main->lstFound.ListIndex(), -1);
     }
 
+    void copying_from_a_list_without_a_row_does_nothing()
+    {
+        View().setFocus();
+        QTest::keyClick(&View(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(View().model()->data({}, Qt::DisplayRole), QVariant());
+    }
+
     void an_index_outside_is_a_failure()
     {
         Main->lstFound.SetRows(Rows(1));

@@ -56,6 +56,12 @@ void Wheel(QWidget& widget)
     QCoreApplication::sendEvent(&widget, &event);
 }
 
+void OpenMenuAsScreenReader()
+{
+    QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(Main->Window().MenuBar());
+    bar->child(0)->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+}
+
 /// Presses what has a press to offer, past mouse and keyboard: a button, an arrow and a menu entry.
 void PressAsScreenReader()
 {
@@ -153,6 +159,28 @@ private Q_SLOTS:
         QCOMPARE(Main->events, 0);
         PressAsScreenReader();
         QCOMPARE(Main->events, 3);
+    }
+
+    void a_screen_reader_opens_no_menu_behind_a_message_box()
+    {
+        Main->SetEnabled(true);
+        bool staysOpen = true;
+        UiRoom::Soon([&] {
+            OpenMenuAsScreenReader();
+            QCoreApplication::processEvents();
+            staysOpen = QApplication::activePopupWidget() != nullptr;
+            if (staysOpen)
+                QApplication::activePopupWidget()->hide();
+            QTest::mouseClick(QApplication::activeModalWidget()->findChild<QAbstractButton*>(u"OK"_s),
+                              Qt::LeftButton);
+        });
+        MsgBox(u"?"_s);
+        QVERIFY(!staysOpen);
+        QCOMPARE(Main->Window().MenuBar()->activeAction(), nullptr);
+        OpenMenuAsScreenReader();
+        QCoreApplication::processEvents();
+        QCOMPARE(QApplication::activePopupWidget(), Main->Window().MenuBar()->actions().at(0)->menu());
+        QApplication::activePopupWidget()->hide();
     }
 
     void it_does_not_turn_grey()
