@@ -198,7 +198,7 @@ private Q_SLOTS:
         QCOMPARE(chmod(HostOf(program_->disc.Folder()), 0755), 0);
         QCOMPARE(chmod(HostOf(program_->disc.PathOf(u"Torviks/A.JPG"_s)), 0), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         CopyOnly();
         AssertTold(u"Permission denied"_s);
     }
@@ -271,7 +271,7 @@ private Q_SLOTS:
             QCOMPARE(chmod(HostOf(folder), 0755), 0);
         {
             const OrdinaryUser user;
-            QVERIFY(OrdinaryUser::IsOne());
+            QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
             CopyOnly();
             AssertTold(u"Permission denied"_s);
             state.CopyTarget = ProgramFolder() + u"\\Torviks\\B.JPG"_s;
