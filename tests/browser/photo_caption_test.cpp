@@ -130,6 +130,7 @@ private Q_SLOTS:
         program_->disc.Remove(u"RichText/67C.rtf"_s);
         Form1->rtbDetails.Show();
         QVERIFY(frmSSPhoto->SSCommand7.Enabled());
+        Form1->cmdYR(20).SetFocus();
         if (forward)
             StepPhotoForward();
         else
