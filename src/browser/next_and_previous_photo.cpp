@@ -198,6 +198,11 @@ void StepPhotoBackward()
         ReportError);
     if (!found)
         return;
+    // Where the photo failed, the caption of the one after it is asked for, and there may be none.
+    const auto reportUnlessTold = [shown] {
+        if (shown)
+            ReportError();
+    };
     OnError(
         [&] {
             state.ShownPhotoIndex = state.PhotoIndex + 1;
@@ -206,8 +211,8 @@ void StepPhotoBackward()
             if (Form1->rtbDetails.Visible())
                 LoadPhotoDetailsBackward();
         },
-        ReportError);
-    OnError(UpdatePlayListButtons, ReportError);
+        reportUnlessTold);
+    OnError(UpdatePlayListButtons, reportUnlessTold);
     if (!shown)
         state.PhotoIndex -= 1; // the next step passes the photo that could not be loaded
 }

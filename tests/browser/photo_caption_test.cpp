@@ -11,6 +11,10 @@
 using namespace Qt::StringLiterals;
 using namespace torvik;
 
+namespace {
+const QString stale = u"Stale words"_s;
+} // namespace
+
 /// The caption document of the photo on show.
 class PhotoCaptionTest : public QObject {
     Q_OBJECT
@@ -20,9 +24,13 @@ private Q_SLOTS:
     {
         program_ = std::make_unique<Program>();
         program_->disc.AddGroup(u"67"_s, 3);
+        program_->disc.AddGroup(u"68"_s, 2);
         for (const char* letter : {"A", "B", "C"})
             program_->disc.AddDocument(u"67%1.rtf"_s.arg(QLatin1String(letter)),
                                        u"Caption of photo %1"_s.arg(QLatin1String(letter)));
+        for (const char* letter : {"A", "B"})
+            program_->disc.AddDocument(u"68%1.rtf"_s.arg(QLatin1String(letter)),
+                                       u"Caption of 1968 %1"_s.arg(QLatin1String(letter)));
         program_->StartBrowsing();
     }
     void cleanup() { program_.reset(); }
@@ -130,6 +138,7 @@ private Q_SLOTS:
         program_->disc.Remove(u"RichText/67C.rtf"_s);
         Form1->rtbDetails.Show();
         QVERIFY(frmSSPhoto->SSCommand7.Enabled());
+        Form1->cmdYR(20).SetFocus();
         if (forward)
             StepPhotoForward();
         else
@@ -137,6 +146,81 @@ private Q_SLOTS:
         QCOMPARE(frmSSPhoto->SSCommand8.Enabled(), !forward);
         QCOMPARE(frmSSPhoto->SSCommand7.Enabled(), forward);
         QCOMPARE(Program::Focus(), u"cmdYR(2)"_s);
+    }
+
+    void after_a_missing_photo_forward_leaves_caption_and_play_list_and_backward_sees_to_both_data()
+    {
+        QTest::addColumn<bool>("forward");
+        QTest::addColumn<QString>("onShow");
+        QTest::addColumn<QString>("missing");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("forward") << true << u"67A"_s << u"67B"_s << stale;
+        QTest::newRow("backward") << false << u"67C"_s << u"67B"_s << u"Caption of photo C"_s;
+    }
+
+    void after_a_missing_photo_forward_leaves_caption_and_play_list_and_backward_sees_to_both()
+    {
+        QFETCH(bool, forward);
+        QFETCH(QString, onShow);
+        QFETCH(QString, missing);
+        QFETCH(QString, caption);
+        OpenStalePaneAt(onShow);
+        program_->AddToProgramFolder(u"ssTorviks/%1.JPG"_s.arg(onShow), "x");
+        program_->disc.Remove(u"Torviks/%1.JPG"_s.arg(missing));
+        QVERIFY(frmSSPhoto->SSCommand7.Enabled());
+        if (forward)
+            StepPhotoForward();
+        else
+            StepPhotoBackward();
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(Form1->Image4.Picture().FileName(), onShow + u".JPG"_s);
+        QCOMPARE(frmSSPhoto->SSCommand7.Enabled(), forward);
+        QCOMPARE(frmSSPhoto->SSCommand8.Enabled(), !forward);
+        CheckPane(caption);
+    }
+
+    void a_step_backward_onto_a_photo_that_fails_tells_no_second_failure_data()
+    {
+        QTest::addColumn<QString>("onShow");
+        QTest::addColumn<QStringList>("missing");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("another year after it")
+            << u"67A"_s << QStringList{u"Torviks/67C.JPG"_s} << u"Caption of 1968 A"_s;
+        QTest::newRow("another year after it, without its first caption")
+            << u"67A"_s << QStringList{u"Torviks/67C.JPG"_s, u"RichText/68A.rtf"_s} << stale;
+        QTest::newRow("the last of the list") << u"68A"_s << QStringList{u"Torviks/68B.JPG"_s} << stale;
+    }
+
+    void a_step_backward_onto_a_photo_that_fails_tells_no_second_failure()
+    {
+        QFETCH(QString, onShow);
+        QFETCH(QStringList, missing);
+        QFETCH(QString, caption);
+        OpenStalePaneAt(onShow);
+        program_->AddToProgramFolder(u"ssTorviks/%1.JPG"_s.arg(onShow), "x");
+        for (const QString& file : missing)
+            program_->disc.Remove(file);
+        StepPhotoBackward();
+        QCOMPARE(program_->messages.Count(), 1);
+        QVERIFY(program_->messages.Last().text.startsWith(u"Error number: ER011"_s));
+        QCOMPARE(Form1->Image4.Picture().FileName(), onShow + u".JPG"_s);
+        QVERIFY(frmSSPhoto->SSCommand8.Enabled());
+        CheckPane(caption);
+        const int failed = state.PhotoIndex + 1;
+        QCOMPARE(int(state.ShownPhotoIndex), failed + 1);
+        QCOMPARE(state.PhotoFiles(failed).mid(3), QString(missing.first()).replace(u'/', u'\\'));
+        StepPhotoBackward();
+        QCOMPARE(program_->messages.Count(), 1);
+        QCOMPARE(int(state.ShownPhotoIndex), failed - 1);
+    }
+
+    void a_damaged_photo_at_the_end_of_the_list_is_told_once_as_well()
+    {
+        OpenStalePaneAt(u"68A"_s);
+        program_->disc.AddFile(u"Torviks/68B.JPG"_s, "damaged");
+        StepPhotoBackward();
+        QCOMPARE(program_->messages.Count(), 1);
+        CheckPane(stale);
     }
 
     void a_step_backward_whose_caption_is_missing_leaves_the_place_of_the_pane()
@@ -169,6 +253,29 @@ private Q_SLOTS:
     }
 
 private:
+    /// A photo on show and the pane open in another place, with words that belong to no photo.
+    void OpenStalePaneAt(const QString& photo)
+    {
+        if (photo.startsWith(u"68"_s))
+            program_->Click(Form1->cmdYR(2));
+        for (int step = 0; step < 3 && Form1->Image4.Picture().FileName() != photo + u".JPG"_s; ++step)
+            StepPhotoBackward();
+        QCOMPARE(Form1->Image4.Picture().FileName(), photo + u".JPG"_s);
+        program_->disc.AddDocument(u"stale.rtf"_s, stale);
+        Form1->rtbDetails.SetFileName(u"G:\\RichText\\stale.rtf"_s);
+        Form1->rtbDetails.Show();
+        Form1->rtbDetails.Move(7, 9);
+        QCOMPARE(program_->messages.Count(), 0);
+    }
+
+    /// The words in the pane. It has gone to its own place with a caption, not with the stale words.
+    static void CheckPane(const QString& words)
+    {
+        QCOMPARE(Form1->rtbDetails.Text().trimmed(), words);
+        QCOMPARE(Form1->rtbDetails.Left(), words == stale ? 7.0 : 616.0 + 97.0 - 329.0 - 10.0);
+        QCOMPARE(Form1->rtbDetails.Top(), words == stale ? 9.0 : 33.0);
+    }
+
     std::unique_ptr<Program> program_;
 };
 

@@ -1,6 +1,7 @@
 #include "documents/article_viewer.h"
 #include "program/program_state.h"
 #include "runtime/failure.h"
+#include "support/desktop.h"
 #include "support/modal_visit.h"
 #include "support/print_folder.h"
 #include "support/program.h"
@@ -13,6 +14,7 @@
 #include "windows/main_window.h"
 
 #include <QApplication>
+#include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -100,6 +102,26 @@ private Q_SLOTS:
         QCOMPARE(order, QStringList({u"rtbText"_s, u"SSCommand1"_s, u"cmdPrint"_s, u"SSCommand2"_s,
                                      u"SSCommand3"_s, u"panFind"_s, u"txtFindText"_s, u"cmdFindBefore"_s,
                                      u"cmdFindNext"_s, u"lblFindText"_s}));
+    }
+
+    void a_click_on_a_link_opens_it_outside_and_leaves_the_viewer()
+    {
+        program_->disc.AddFile(u"RichText/some.rtf"_s,
+                               "{\\rtf1 {\\field{\\*\\fldinst HYPERLINK \"http://quillon.example/a\"}"
+                               "{\\fldrslt Quillon}}\\par words without a link}");
+        const Desktop desktop;
+        bool stays = false;
+        Open([&] {
+            auto& pane = static_cast<QTextBrowser&>(txtForm->rtbText.Widget());
+            QTextCursor cursor(pane.document());
+            cursor.setPosition(3);
+            QTest::mouseClick(pane.viewport(), Qt::LeftButton, {}, pane.cursorRect(cursor).center());
+            program_->Settle();
+            stays = txtForm->Visible() && txtForm->rtbText.FileName() == state.DocumentFile &&
+                    txtForm->rtbText.Text().startsWith(u"Quillon"_s);
+        });
+        QCOMPARE(desktop.opened, QStringList{u"http://quillon.example/a"_s});
+        QVERIFY(stays);
     }
 
     void opening_shows_the_document_over_the_main_window_with_the_focus_on_ok()

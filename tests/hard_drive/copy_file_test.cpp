@@ -198,7 +198,7 @@ private Q_SLOTS:
         QCOMPARE(chmod(HostOf(program_->disc.Folder()), 0755), 0);
         QCOMPARE(chmod(HostOf(program_->disc.PathOf(u"Torviks/A.JPG"_s)), 0), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         CopyOnly();
         AssertTold(u"Permission denied"_s);
     }
@@ -206,17 +206,20 @@ private Q_SLOTS:
     void a_source_that_cannot_be_read_on_in_mid_file_is_told_and_the_copy_ends_there()
     {
         program_->disc.AddFile(u"Torviks/A.JPG"_s, MixedBytes(75'000));
+        const qsizetype openBefore = OpenFileCount();
         bool torn = false;
         {
             const EachRound round([&] {
                 if (!std::exchange(torn, true))
-                    QVERIFY(TearOut(program_->disc.PathOf(u"Torviks/A.JPG"_s)));
+                    QVERIFY2(TearOut(program_->disc.PathOf(u"Torviks/A.JPG"_s)), procIsNeeded);
             });
             CopyOnly();
         }
         AssertTold(u"Device I/O error"_s);
         QCOMPARE(ReadingOf(Form1->ProgressGuage), u"33 33"_s);
-        QVERIFY(!Form1->Text1.Text().isEmpty());
+        QCOMPARE(Form1->Text1.Text(), u"G:\\Torviks\\A.JPG"_s);
+        QCOMPARE(Target(), MixedBytes(25'000));
+        QCOMPARE(OpenFileCount(), openBefore);
     }
 
     void a_source_that_ends_early_is_told_and_not_made_up()
@@ -271,7 +274,7 @@ private Q_SLOTS:
             QCOMPARE(chmod(HostOf(folder), 0755), 0);
         {
             const OrdinaryUser user;
-            QVERIFY(OrdinaryUser::IsOne());
+            QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
             CopyOnly();
             AssertTold(u"Permission denied"_s);
             state.CopyTarget = ProgramFolder() + u"\\Torviks\\B.JPG"_s;

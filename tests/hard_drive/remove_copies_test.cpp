@@ -144,7 +144,7 @@ private Q_SLOTS:
         program_->messages.Answer(msgbox::answerYes);
         {
             const OrdinaryUser user;
-            QVERIFY(OrdinaryUser::IsOne());
+            QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
             Form1->mnuRemoveMovies.Click.Fire();
         }
         AssertMovieMessages();

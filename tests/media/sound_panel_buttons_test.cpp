@@ -2,6 +2,7 @@
 #include "support/discs/test_movie.h"
 #include "support/program.h"
 #include "support/test_class.h"
+#include "ui/forms/clock.h"
 #include "ui/forms/form_window.h"
 #include "windows/main_window.h"
 
@@ -144,8 +145,11 @@ private Q_SLOTS:
         program_->Click(Form1->SSCommand2(5));
         QTRY_VERIFY(Form1->MMControl1.Length() > 0);
         QCOMPARE(Form1->MMControl1.State(), Mode::Playing);
+        Clock::Turn(500);
+        QTRY_VERIFY(Form1->MMControl1.Position() > 0);
         program_->Click(Form1->SSCommand2(3));
         QCOMPARE(Form1->MMControl1.FileName(), u"G:\\wav\\horns.wav"_s);
+        QCOMPARE(Form1->MMControl1.Position(), 0);
         QTRY_VERIFY(Form1->MMControl1.Length() > 0);
         QCOMPARE(Form1->MMControl1.State(), Mode::Playing);
         QVERIFY(program_->messages.Shown().isEmpty());

@@ -1,3 +1,4 @@
+#include "browser/photo_caption.h"
 #include "browser/pictures_over_photo.h"
 #include "program/program_state.h"
 #include "program/report_error.h"
@@ -44,7 +45,8 @@ private Q_SLOTS:
         program_->disc.AddFile(u"emblems/emb67.jpg"_s, TestDisc::Jpeg(Qt::red, {8, 8}));
         LoadEmblem();
         QCOMPARE(program_->messages.Count(), 0);
-        OnError([] { Fail(failure::overflow); }, ReportError);
+        state.PhotoIndex = 1;
+        OnError(LoadPhotoDetails, ReportError); // 67A has no caption
         QCOMPARE(program_->messages.Count(), 1);
         QVERIFY(program_->messages.Last().text.startsWith(
             u"Error number: ER022\r\n\r\n Unable to load  Emblem  for year selected."_s));

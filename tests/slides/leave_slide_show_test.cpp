@@ -131,6 +131,15 @@ private Q_SLOTS:
         QCOMPARE(state.YearCode, u"ZZ"_s);
     }
 
+    void the_exit_itself_shows_the_photo_pane()
+    {
+        QVERIFY(InSlideShow(*program_, [&] {
+            Form1->Image4.Hide();
+            ClickSlidePart(*program_, stopButton);
+            QVERIFY(Form1->Image4.Visible());
+        }));
+    }
+
     void the_photos_of_2000_can_be_stepped_through_on_the_main_window()
     {
         QVERIFY(LeaveAt(u"A0B"_s));

@@ -1,5 +1,6 @@
 #include "support/slide_visit.h"
 #include "support/test_class.h"
+#include "ui/forms/clock.h"
 #include "ui/forms/program_end.h"
 
 using namespace Qt::StringLiterals;
@@ -60,6 +61,37 @@ private Q_SLOTS:
             QCOMPARE(frmSlide->Image1.Picture().FileName(), state.PhotoFiles(to).mid(11));
             QCOMPARE(frmSlide->pnlPhotoNumber.Caption(), u"%1 of 25"_s.arg(to));
             QCOMPARE(Program::Focus(), u"SSCommand1"_s);
+        }));
+        QCOMPARE(program_->messages.Count(), 0);
+    }
+
+    void after_play_twice_on_the_last_photo_forward_stays_where_every_way_back_begins_data()
+    {
+        QTest::addColumn<QString>("press");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("back") << u"mmSlide(Prev)"_s << u"VCA.JPG, 25 of 25, Torvik Cookies "_s;
+        QTest::newRow("jump forward") << u"mmSlide(Step)"_s << u"67A.JPG, 1 of 25, 1967 "_s;
+        QTest::newRow("jump back") << u"mmSlide(Back)"_s << u"67P.JPG, 16 of 25, 1967 "_s;
+        QTest::newRow("play") << u"mmSlide(Play)"_s << u"67A.JPG, 1 of 25, 1967 "_s;
+    }
+
+    void after_play_twice_on_the_last_photo_forward_stays_where_every_way_back_begins()
+    {
+        QFETCH(QString, press);
+        QFETCH(QString, shown);
+        QVERIFY(InSlideShow(*program_, [&] {
+            ClickSlidePart(*program_, u"mmSlide(Prev)"_s);
+            QCOMPARE(ShownSlide(), u"VCA.JPG, 25 of 25, Torvik Cookies "_s);
+            for (const char* part : {"mmSlide(Play)", "mmSlide(Play)", "mmSlide(Pause)"})
+                ClickSlidePart(*program_, QString::fromLatin1(part));
+            for (int time = 0; time < 3; ++time) {
+                ClickSlidePart(*program_, u"mmSlide(Next)"_s);
+                QCOMPARE(ShownSlide(), u", 26 of 25, 19 "_s);
+                QCOMPARE(int(state.PhotoIndex), 26);
+            }
+            ClickSlidePart(*program_, press);
+            Clock::Turn(press.contains(u"Play"_s) ? 2000 : 0);
+            QCOMPARE(ShownSlide(), shown);
         }));
         QCOMPARE(program_->messages.Count(), 0);
     }

@@ -23,6 +23,9 @@ public:
     OrdinaryUser& operator=(const OrdinaryUser&) = delete;
 
     static bool IsOne() { return geteuid() != 0; }
+    /// What a test says where it did not.
+    static constexpr const char* isNeeded = "This test needs an ordinary user: one who runs it, or user "
+                                            "65534, which the administrator may become.";
 
 private:
     bool changed_ = false;

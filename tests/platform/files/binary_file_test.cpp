@@ -45,7 +45,7 @@ private Q_SLOTS:
         QCOMPARE(FailureOf([] { BinaryInput file(u"F:\\a"_s); }), failure::deviceUnavailable);
         QCOMPARE(chmod(disc.Host("secret").c_str(), 0), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         QCOMPARE(FailureOf([] { BinaryInput file(On("secret")); }), failure::permissionDenied);
     }
 
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(FailureOf([] { BinaryOutput file(u"F:\\a"_s); }), failure::deviceUnavailable);
         QCOMPARE(chmod(disc.Host("closed").c_str(), 0555), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         QCOMPARE(FailureOf([] { BinaryOutput file(On("closed\\a")); }), failure::permissionDenied);
     }
 

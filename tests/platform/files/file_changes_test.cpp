@@ -49,7 +49,7 @@ private Q_SLOTS:
         QVERIFY(disc.Folder("closed") && disc.File("closed/a.jpg") && disc.File("closed/b.jpg"));
         QCOMPARE(chmod(disc.Host("closed").c_str(), 0555), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         QCOMPARE(FailureOf([] { DeleteFile(On("closed\\a.jpg")); }), failure::permissionDenied);
         QCOMPARE(FailureOf([] { DeleteFilesMatching(On("closed\\*.jpg")); }), failure::permissionDenied);
         QCOMPARE(FilesMatching(On("closed\\*.jpg")).size(), 2);
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(disc.Folder("closed") && disc.Folder("closed/inner"));
         QCOMPARE(chmod(disc.Host("closed").c_str(), 0555), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         QCOMPARE(FailureOf([] { RemoveFolder(On("closed\\inner")); }), failure::permissionDenied);
     }
 

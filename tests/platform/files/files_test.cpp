@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(chmod(disc.Host("closed").c_str(), 0), 0);
         {
             const OrdinaryUser user;
-            QVERIFY(OrdinaryUser::IsOne());
+            QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
             QCOMPARE(FailureOf([&] { FilesMatching(On("closed\\*.jpg")); }), failure::pathFileAccess);
             QVERIFY(!FileExists(On("closed\\a.jpg")));
             QCOMPARE(FailureOf([&] { FileLength(On("closed\\a.jpg")); }), failure::permissionDenied);
@@ -319,7 +319,7 @@ private Q_SLOTS:
         QVERIFY(disc.File("secret", "x"));
         QCOMPARE(chmod(disc.Host("secret").c_str(), 0), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         QCOMPARE(FailureOf([] { ReadFile(On("secret")); }), failure::permissionDenied);
         QVERIFY(FileExists(On("secret")));
     }

@@ -71,7 +71,7 @@ private Q_SLOTS:
         QVERIFY(disc.Folder("closed"));
         QCOMPARE(chmod(disc.Host("closed").c_str(), 0555), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         QVERIFY(!IsWritableFolder(disc.Path() + u"/closed"_s));
     }
 };

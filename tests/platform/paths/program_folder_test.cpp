@@ -37,7 +37,7 @@ private Q_SLOTS:
         QCOMPARE(chmod(qPrintable(place.path()), 0555), 0);
         QCOMPARE(chmod(qPrintable(home_->path()), 0777), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         QCOMPARE(ProgramFolderOf(place.path()), DrivePath(home_->filePath(u"torvik2001"_s)));
         QVERIFY(QDir(home_->filePath(u"torvik2001"_s)).exists());
         QCOMPARE(ProgramFolderOf(QString()), DrivePath(home_->filePath(u"torvik2001"_s)));

@@ -6,6 +6,7 @@
 #include "ui/form_fixture.h"
 
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
@@ -88,12 +89,23 @@ private Q_SLOTS:
 
     void web_and_mail_addresses_open_outside_and_nothing_else_does()
     {
-        Desktop desktop;
-        for (const char* address : {"http://example.com/a", "https://example.com/b", "mailto:a@example.com",
-                                    "file:///etc/passwd", "other.rtf"})
-            Q_EMIT Pane().anchorClicked(QUrl(QString::fromLatin1(address)));
-        QCOMPARE(desktop.opened, (QStringList{u"http://example.com/a"_s, u"https://example.com/b"_s,
-                                              u"mailto:a@example.com"_s}));
+        const QStringList addresses{u"http://example.com/a"_s, u"https://example.com/b"_s,
+                                    u"mailto:a@example.com"_s, u"file:///etc/passwd"_s, u"other.rtf"_s};
+        QByteArray text = "{\\rtf1 ";
+        for (const QString& address : addresses)
+            text +=
+                "{\\field{\\*\\fldinst HYPERLINK \"" + address.toLatin1() + "\"}{\\fldrslt a link}}\\par ";
+        const QString file = folder_.Add(u"links.rtf"_s, text + '}');
+        Main->rtbText.SetFileName(file);
+        const Desktop desktop;
+        for (int line = 0; line < addresses.size(); ++line) {
+            QTextCursor cursor(Pane().document()->findBlockByNumber(line));
+            cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::MoveAnchor, 3);
+            QTest::mouseClick(Pane().viewport(), Qt::LeftButton, {}, Pane().cursorRect(cursor).center());
+        }
+        QCOMPARE(desktop.opened, addresses.first(3));
+        QCOMPARE(Main->rtbText.FileName(), file);
+        QVERIFY(Main->rtbText.Text().startsWith(u"a link\na link\n"_s));
         QVERIFY(!Pane().source().isValid());
     }
 

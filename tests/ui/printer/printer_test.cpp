@@ -156,7 +156,7 @@ private Q_SLOTS:
         const QTemporaryDir closed;
         QCOMPARE(chmod(qPrintable(closed.path()), 0555), 0);
         const OrdinaryUser user;
-        QVERIFY(OrdinaryUser::IsOne());
+        QVERIFY2(OrdinaryUser::IsOne(), OrdinaryUser::isNeeded);
         Printer.PrintTo(closed.path());
         QCOMPARE(ResumeNext([] { Printer.Print(u"lost"_s); }), failure::printerError);
         QVERIFY(!Printer.HasJob());
