@@ -1,6 +1,7 @@
 #include "rtf/write/flow_writer.h"
 
 #include "rtf/paint/line_properties.h"
+#include "rtf/write/direction_marks.h"
 #include "rtf/write/edge_spaces.h"
 #include "rtf/write/mark_room.h"
 #include "rtf/write/paragraph_box.h"
@@ -200,7 +201,8 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
 void FlowWriter::WriteSpans(const Paragraph& paragraph)
 {
     qsizetype at = 0;
-    for (const Span& span : paragraph.spans) {
+    for (std::size_t number = 0; number < paragraph.spans.size(); ++number) {
+        const Span& span = paragraph.spans[number];
         const QTextCharFormat& format = context_.formats.CharacterFormat(span.format);
         if (span.picture != 0) {
             QTextImageFormat image;
@@ -210,6 +212,8 @@ void FlowWriter::WriteSpans(const Paragraph& paragraph)
             image.setWidth(size.width());
             image.setHeight(size.height());
             cursor_.insertImage(image);
+        } else if (format.layoutDirection() == Qt::RightToLeft) {
+            cursor_.insertText(WithDirectionMarks(paragraph, number, at, context_.formats), format);
         } else {
             cursor_.insertText(QString::fromRawData(paragraph.text.constData() + at, span.length), format);
         }

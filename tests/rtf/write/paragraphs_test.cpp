@@ -3,6 +3,7 @@
 #include "support/test_class.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QGlyphRun>
 #include <QTextFrame>
 #include <QTextLayout>
 #include <QTextTable>
@@ -16,6 +17,12 @@ class ParagraphsTest : public QObject {
     static QTextBlockFormat FormatOf(const QByteArray& words)
     {
         return ReadBody("\\pard" + words + " text\\par").Block(u"text"_s).blockFormat();
+    }
+
+    /// Where a character is painted, from the left, pixels.
+    static double PlaceOf(const QTextBlock& block, int character)
+    {
+        return block.layout()->lineAt(0).glyphRuns(character, 1).first().positions().first().x();
     }
 
 private Q_SLOTS:
@@ -240,6 +247,47 @@ private Q_SLOTS:
         const Reading read = ReadBody("a\\par\\fs48\\par\\fs20 b\\par");
         QCOMPARE(read.document->blockCount(), 3);
         QCOMPARE(read.document->firstBlock().next().charFormat().fontPointSize(), 24.0);
+    }
+
+    void signs_at_the_end_of_a_run_from_right_to_left_stand_left_of_it()
+    {
+        const Reading read = ReadBody("\\ltrpar car {\\rtlch \\u1513 ?\\u1500 ?!} x\\par");
+        (void)read.document->size(); // lays it out
+        const QTextBlock block = read.document->firstBlock();
+        const QString text = block.text();
+        const auto placeOf = [&](QChar c) { return PlaceOf(block, int(text.indexOf(c))); };
+        QVERIFY(placeOf(u'!') < placeOf(u'ל'));
+        QVERIFY(placeOf(u'ל') < placeOf(u'ש'));
+        QVERIFY(placeOf(u'c') < placeOf(u'!'));
+        QVERIFY(placeOf(u'x') > placeOf(u'ש'));
+    }
+
+    void signs_at_the_start_of_a_run_from_right_to_left_stand_right_of_it()
+    {
+        const Reading read = ReadBody("\\ltrpar car {\\rtlch (\\u1513 ?\\u1500 ?} x\\par");
+        (void)read.document->size(); // lays it out
+        const QTextBlock block = read.document->firstBlock();
+        const QString text = block.text();
+        const auto placeOf = [&](QChar c) { return PlaceOf(block, int(text.indexOf(c))); };
+        QVERIFY(placeOf(u'(') > placeOf(u'ש'));
+        QVERIFY(placeOf(u'x') > placeOf(u'('));
+    }
+
+    void runs_from_right_to_left_have_no_marks_where_they_need_none_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::newRow("letters alone") << QByteArray("\\ltrpar a {\\rtlch \\u1513 ?} b");
+        QTest::newRow("spaces at the ends") << QByteArray("\\ltrpar a{\\rtlch  \\u1513 ? }b");
+        QTest::newRow("a paragraph from right to left") << QByteArray("\\rtlpar a {\\rtlch \\u1513 ?!} b");
+        QTest::newRow("letters from left to right") << QByteArray("\\ltrpar a {\\rtlch word!} b");
+        QTest::newRow("the run goes on in bold")
+            << QByteArray("\\ltrpar a {\\rtlch \\u1513 ?!{\\b  \\u1500 ?}} b");
+        QTest::newRow("signs alone") << QByteArray("\\ltrpar {\\rtlch !}");
+    }
+    void runs_from_right_to_left_have_no_marks_where_they_need_none()
+    {
+        QFETCH(QByteArray, body);
+        QVERIFY(!ReadBody(body + "\\par").Text().contains(QChar(0x200f)));
     }
 
     void text_from_right_to_left()
