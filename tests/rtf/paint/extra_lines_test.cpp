@@ -161,6 +161,24 @@ private Q_SLOTS:
         }
     }
 
+    void the_two_lines_of_a_double_underline_are_apart()
+    {
+        const Reading read = ReadBody("\\pard\\fs48\\uldb\\~\\~\\~\\~\\~\\~\\ulnone x\\par");
+        QImage image = Painted(read);
+        QPainter painter(&image);
+        read.document->drawContents(&painter);
+        painter.end();
+        QList<bool> rows;
+        for (int y = 0; y < image.height(); ++y)
+            rows.append(IsInked(image, 20, y));
+        const qsizetype first = rows.indexOf(true);
+        const qsizetype gap = rows.indexOf(false, first);
+        const qsizetype second = rows.indexOf(true, gap);
+        QVERIFY(first >= 0 && gap > first && second > gap);
+        QVERIFY(second - gap <= gap - first); // they are one sign all the same
+        QVERIFY(!rows.mid(rows.indexOf(false, second)).contains(true));
+    }
+
     void the_colour_of_an_underline_comes_first()
     {
         const QImage image = Painted(ReadBody("\\pard\\fs24\\cf1\\uldb\\ulc3 underlined\\par"));

@@ -1,6 +1,8 @@
 #include "rtf/documents.h"
 #include "support/test_class.h"
 
+#include <QTextLayout>
+
 using namespace torvik::rtf;
 using namespace Qt::StringLiterals;
 
@@ -57,7 +59,17 @@ private Q_SLOTS:
         QTest::newRow("dashed") << QByteArray("uldash") << int(QTextCharFormat::DashUnderline);
         QTest::newRow("dash dot") << QByteArray("uldashd") << int(QTextCharFormat::DashDotLine);
         QTest::newRow("dash dot dot") << QByteArray("uldashdd") << int(QTextCharFormat::DashDotDotLine);
+        QTest::newRow("thick") << QByteArray("ulth") << int(QTextCharFormat::SingleUnderline);
+        QTest::newRow("thick dotted") << QByteArray("ulthd") << int(QTextCharFormat::DotLine);
+        QTest::newRow("thick dashed") << QByteArray("ulthdash") << int(QTextCharFormat::DashUnderline);
+        QTest::newRow("thick dash dot") << QByteArray("ulthdashd") << int(QTextCharFormat::DashDotLine);
+        QTest::newRow("thick dash dot dot")
+            << QByteArray("ulthdashdd") << int(QTextCharFormat::DashDotDotLine);
+        QTest::newRow("long dashes") << QByteArray("ulldash") << int(QTextCharFormat::DashUnderline);
+        QTest::newRow("thick long dashes") << QByteArray("ulthldash") << int(QTextCharFormat::DashUnderline);
         QTest::newRow("wave") << QByteArray("ulwave") << int(QTextCharFormat::WaveUnderline);
+        QTest::newRow("heavy wave") << QByteArray("ulhwave") << int(QTextCharFormat::WaveUnderline);
+        QTest::newRow("double wave") << QByteArray("ululdbwave") << int(QTextCharFormat::WaveUnderline);
     }
     void underlines_keep_their_kind()
     {
@@ -188,6 +200,25 @@ private Q_SLOTS:
         QCOMPARE(read.Format("small").fontCapitalization(), QFont::SmallCaps);
         QCOMPARE(read.Format("wide").fontLetterSpacing(), 2.0);
         QCOMPARE(read.Format("broad").fontStretch(), 150);
+    }
+
+    void spacing_may_be_told_in_quarters_of_a_point()
+    {
+        const Reading read = ReadBody("{\\expnd6 wide}{\\expnd-3 narrow}\\par");
+        QCOMPARE(read.Format("wide").fontLetterSpacing(), 2.0);
+        QCOMPARE(read.Format("narrow").fontLetterSpacing(), -1.0);
+    }
+
+    void small_capitals_are_narrower_than_capitals_and_no_small_letters()
+    {
+        const auto widthOf = [](const QByteArray& text) {
+            const Reading read = ReadBody("{\\fs48" + text + "}\\par");
+            (void)read.document->size(); // lays it out
+            return read.document->firstBlock().layout()->lineAt(0).naturalTextWidth();
+        };
+        const double small = widthOf("\\scaps aerial");
+        QVERIFY(small < widthOf("\\caps aerial") - 5);
+        QVERIFY(small > widthOf(" aerial") + 5);
     }
 
     void hidden_text_is_not_shown()

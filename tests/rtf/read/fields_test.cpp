@@ -1,7 +1,8 @@
 #include "rtf/documents.h"
 #include "support/test_class.h"
 
-#include <QDate>
+#include <QDateTime>
+#include <QLocale>
 
 using namespace torvik::rtf;
 using namespace Qt::StringLiterals;
@@ -105,6 +106,10 @@ private Q_SLOTS:
         QTest::newRow("the title") << QByteArray("TITLE") << u"The Car"_s;
         QTest::newRow("pages") << QByteArray("NUMPAGES") << u"12"_s;
         QTest::newRow("a page in roman numbers") << QByteArray("PAGE \\\\* roman") << u"i"_s;
+        QTest::newRow("an ordinal number") << QByteArray("SEQ a \\\\r 22 \\\\* ordinal") << u"22nd"_s;
+        QTest::newRow("a number in words") << QByteArray("SEQ a \\\\r 22 \\\\* CardText") << u"twenty-two"_s;
+        QTest::newRow("an ordinal number in words")
+            << QByteArray("SEQ a \\\\r 22 \\\\* ordtext") << u"twenty-second"_s;
         QTest::newRow("a button") << QByteArray("MACROBUTTON Open Click here") << u"Click here"_s;
         QTest::newRow("a text to fill in")
             << QByteArray("FORMTEXT {\\*\\formfield{\\fftype0{\\*\\ffname T}{\\*\\ffdeftext told}}}")
@@ -166,6 +171,29 @@ private Q_SLOTS:
         const QString shown = ReadBody(field).Text();
         const QString after = QDate::currentDate().toString(u"yyyy-MM-dd"_s);
         QVERIFY(shown == before || shown == after);
+    }
+
+    void dates_and_times_without_a_result_are_those_of_now_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QString>("format");
+        QTest::newRow("a date without a picture")
+            << QByteArray("{\\field{\\*\\fldinst DATE}}") << u"M/d/yyyy"_s;
+        QTest::newRow("a time without a picture")
+            << QByteArray("{\\field{\\*\\fldinst TIME}}") << u"h:mm ap"_s;
+        QTest::newRow("the sign of the date") << QByteArray("{\\chdate}") << u"M/d/yyyy"_s;
+        QTest::newRow("the sign of the long date") << QByteArray("{\\chdpl}") << u"dddd, MMMM d, yyyy"_s;
+        QTest::newRow("the sign of the short date") << QByteArray("{\\chdpa}") << u"ddd, MMM d, yyyy"_s;
+        QTest::newRow("the sign of the time") << QByteArray("{\\chtime}") << u"h:mm ap"_s;
+    }
+    void dates_and_times_without_a_result_are_those_of_now()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(QString, format);
+        const QString before = QLocale::c().toString(QDateTime::currentDateTime(), format);
+        const QString shown = ReadBody(body + "\\par").Text();
+        const QString after = QLocale::c().toString(QDateTime::currentDateTime(), format);
+        QVERIFY2(shown == before || shown == after, qPrintable(shown));
     }
 
     void footnotes_stand_below_everything()

@@ -21,6 +21,15 @@ class ListsTest : public QObject {
                ";}\\listid77}}{\\*\\listoverridetable{\\listoverride\\listid77\\listoverridecount0\\ls1}}";
     }
 
+    /// The mark of an item, whether the list draws it or it stands in the text; without the room behind it.
+    static QString MarkOf(const Reading& read, const QString& item)
+    {
+        const QTextBlock block = read.Block(item);
+        if (block.textList() != nullptr)
+            return block.textList()->itemText(block).trimmed();
+        return block.text().contains(u'\t') ? block.text().section(u'\t', 0, 0) : QString();
+    }
+
 private Q_SLOTS:
     void a_bullet_written_as_pntext_becomes_a_list_item()
     {
@@ -87,6 +96,27 @@ private Q_SLOTS:
         const QTextBlock two = read.Block(u"two"_s);
         QVERIFY(two.textList() != nullptr);
         QCOMPARE(two.textList()->itemText(two), u"2."_s);
+    }
+
+    void the_newer_word_for_the_format_of_a_level_counts_too()
+    {
+        const Reading read =
+            ReadBody(ListTable("\\levelnfcn4\\levelstartat1{\\leveltext\\'02\\'00);}{\\levelnumbers\\'01;}") +
+                     "\\pard\\ls1 one\\par two\\par");
+        QCOMPARE(MarkOf(read, u"two"_s), u"b)"_s);
+    }
+
+    void an_inner_level_starts_again_below_the_next_outer_item()
+    {
+        const QByteArray levels =
+            "\\levelnfc0\\levelstartat1{\\leveltext\\'02\\'00.;}{\\levelnumbers\\'01;}}"
+            "{\\listlevel\\levelnfc4\\levelstartat1{\\leveltext\\'02\\'01);}{\\levelnumbers\\'01;}";
+        const Reading read = ReadBody(ListTable(levels) +
+                                      "\\pard\\ls1 a\\par\\ilvl1 b\\par c\\par\\ilvl0 d\\par\\ilvl1 e\\par");
+        QCOMPARE(MarkOf(read, u"a"_s), u"1."_s);
+        QCOMPARE(MarkOf(read, u"c"_s), u"b)"_s);
+        QCOMPARE(MarkOf(read, u"d"_s), u"2."_s);
+        QCOMPARE(MarkOf(read, u"e"_s), u"a)"_s);
     }
 
     void bullets_of_list_tables_in_symbol_fonts()
@@ -274,6 +304,49 @@ private Q_SLOTS:
     {
         const QByteArray item = "\\pard{\\*\\pn\\pnlvlbody{\\pntxtb x}}";
         QCOMPARE(ReadBody(item + "a\\par" + item + "b\\par").Text(), u"x1\ta\nx2\tb"_s);
+    }
+
+    void formats_of_the_older_kind_data()
+    {
+        QTest::addColumn<QString>("mark");
+        const auto row = [](const char* word, const QString& mark) { QTest::newRow(word) << mark; };
+        row("pndec", u"1"_s);
+        row("pnucrm", u"I"_s);
+        row("pnlcrm", u"i"_s);
+        row("pnucltr", u"A"_s);
+        row("pnlcltr", u"a"_s);
+        row("pnord", u"1st"_s);
+        row("pncard", u"One"_s);
+        row("pnordt", u"First"_s);
+        row("pndbnum", u"一"_s);
+        row("pndbnumd", u"一"_s);
+        row("pndbnumt", u"壱"_s);
+        row("pndbnuml", u"壱"_s);
+        row("pndbnumk", u"一"_s);
+        row("pndecd", u"１"_s);
+        row("pncnum", u"①"_s);
+        row("pnaiu", u"ｱ"_s);
+        row("pnaiud", u"ア"_s);
+        row("pnaiueo", u"ｱ"_s);
+        row("pnaiueod", u"ア"_s);
+        row("pniroha", u"ｲ"_s);
+        row("pnirohad", u"イ"_s);
+        row("pnganada", u"가"_s);
+        row("pnchosung", u"ㄱ"_s);
+        row("pngbnum", u"⒈"_s);
+        row("pngbnumd", u"⑴"_s);
+        row("pngbnuml", u"①"_s);
+        row("pngbnumk", u"㈠"_s);
+        row("pnzodiac", u"甲"_s);
+        row("pnzodiacd", u"子"_s);
+        row("pnzodiacl", u"甲子"_s);
+    }
+    void formats_of_the_older_kind()
+    {
+        QFETCH(QString, mark);
+        const QByteArray word = QTest::currentDataTag();
+        const Reading read = ReadBody("\\pard{\\*\\pn\\pnlvlbody\\" + word + "{\\pntxta )}}item\\par");
+        QCOMPARE(MarkOf(read, u"item"_s), QString(mark + u')'));
     }
 
     void levels_of_the_older_kind_count_each_for_itself()

@@ -278,6 +278,43 @@ private Q_SLOTS:
         QCOMPARE(TableOf(read)->cellAt(0, 1).format().toTableCellFormat().leftPadding(), 10.0);
     }
 
+    void margins_are_told_side_by_side()
+    {
+        const Reading read = ReadBody(
+            "\\trowd\\trpaddl30\\trpaddfl3\\trpaddb45\\trpaddfb3\\trpaddr60\\trpaddfr3"
+            "\\clpadl300\\clpadfl3\\clpadb450\\clpadfb3\\cellx2000\\cellx4000\\intbl a\\cell b\\cell\\row"
+            "\\pard x\\par");
+        // The words for the left and the upper margin of a cell stand for each other.
+        const QTextTableCellFormat first = TableOf(read)->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(first.topPadding(), 20.0);
+        QCOMPARE(first.bottomPadding(), 30.0);
+        QCOMPARE(first.rightPadding(), 4.0);
+        const QTextTableCellFormat second = TableOf(read)->cellAt(0, 1).format().toTableCellFormat();
+        QCOMPARE(second.leftPadding(), 2.0);
+        QCOMPARE(second.bottomPadding(), 3.0);
+        QCOMPARE(second.rightPadding(), 4.0);
+    }
+
+    void rows_are_as_high_as_told_next_to_a_cell_that_is_merged_down()
+    {
+        const auto row = [](const QByteArray& merge, const QByteArray& cells) -> QByteArray {
+            return "\\trowd\\trrh1500" + merge + "\\cellx2000\\cellx4000\\intbl " + cells + "\\row";
+        };
+        const Reading read =
+            ReadBody(row("\\clvmgf", "tall\\cell one\\cell") + row("\\clvmrg", "\\cell two\\cell") +
+                     row("", "a\\cell three\\cell") + "\\pard x\\par");
+        QCOMPARE(TableOf(read)->cellAt(0, 0).rowSpan(), 2);
+        read.document->setTextWidth(400);
+        const auto topOf = [&](const QString& text) {
+            return read.document->documentLayout()->blockBoundingRect(read.Block(text)).top();
+        };
+        QVERIFY2(std::abs(topOf(u"two"_s) - topOf(u"one"_s) - 100) < 1.5,
+                 qPrintable(QString::number(topOf(u"two"_s) - topOf(u"one"_s))));
+        QVERIFY2(std::abs(topOf(u"three"_s) - topOf(u"two"_s) - 100) < 1.5,
+                 qPrintable(QString::number(topOf(u"three"_s) - topOf(u"two"_s))));
+        QVERIFY(std::abs(topOf(u"tall"_s) - topOf(u"one"_s)) < 1.5);
+    }
+
     void rows_are_as_high_as_told_data()
     {
         QTest::addColumn<QByteArray>("alignment");
