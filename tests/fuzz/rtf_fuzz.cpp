@@ -1,8 +1,11 @@
-// Feeds any bytes to the reader of rich text, and lays out what came of them.
+// Feeds any bytes to the reader of rich text, lays out what came of them, and paints the lines that Qt leaves
+// out.
 
 #include "rtf/rtf_reader.h"
 
 #include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
 #include <QTextDocument>
 
 #include <cstdint>
@@ -28,7 +31,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!result.wasRtf || document.blockCount() < 1)
         std::abort();
     constexpr int smallEnoughToLayOut = 4096;
-    if (size < smallEnoughToLayOut)
+    if (size < smallEnoughToLayOut) {
         document.setTextWidth(600);
+        QImage image(64, 64, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        torvik::rtf::ExtraLines(document).Paint(painter, QRectF(image.rect()), Qt::black, 1);
+    }
     return 0;
 }
