@@ -59,22 +59,39 @@ struct Shared {
 
 private:
     EntryPointer Next() const;
+    qint64 BytesOfArea() const;
+    qint64 BytesToCome() const;
     bool IsWanted(const EntryPointer& entry) const;
     void Keep(const EntryPointer& entry, ReadyPicture result);
 };
 
 std::shared_ptr<Shared> shared; // of the application that runs; for the user-interface thread
 
-/// The most urgent one is read in any case; the others where there is room for a picture of the whole area.
+/// The most urgent one is read in any case; the others where there is room for a picture of the whole area
+/// beside all that is held and all that is just being made.
 EntryPointer Shared::Next() const
 {
     const auto next = std::find_if(entryList.begin(), entryList.end(),
                                    [](const EntryPointer& entry) { return entry->at == Stage::Waiting; });
     if (next == entryList.end())
         return nullptr;
+    const bool hasRoom = Bytes() + BytesToCome() + BytesOfArea() <= mostBytesAhead;
+    return next == entryList.begin() || hasRoom ? *next : nullptr;
+}
+
+qint64 Shared::BytesOfArea() const
+{
     constexpr qint64 bytesPerPixel = 4;
-    const qint64 picture = qint64{paneArea.width()} * paneArea.height() * bytesPerPixel;
-    return next == entryList.begin() || Bytes() + picture <= mostBytesAhead ? *next : nullptr;
+    return qint64{paneArea.width()} * paneArea.height() * bytesPerPixel;
+}
+
+/// What is not finished may fill the whole area.
+qint64 Shared::BytesToCome() const
+{
+    const auto unfinished = std::count_if(entryList.begin(), entryList.end(), [](const EntryPointer& entry) {
+        return entry->at == Stage::Reading || entry->at == Stage::Decoding;
+    });
+    return unfinished * BytesOfArea();
 }
 
 bool Shared::IsWanted(const EntryPointer& entry) const

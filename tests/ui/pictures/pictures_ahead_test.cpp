@@ -164,6 +164,19 @@ private Q_SLOTS:
         QVERIFY(BytesReadAhead() > 0);
     }
 
+    void what_is_just_being_made_counts_as_held()
+    {
+        constexpr QSize screen(4100, 2100); // two pictures of this size are more than 64 MiB
+        constexpr bool progressive = true;
+        // Long to decode, and narrow: the other one, which is there at once, has room as soon as it is ready.
+        const QString first =
+            folder_.Add(u"67A.JPG"_s, Encoded(FourCorners({1000, 20000}), "jpg", progressive));
+        const QString second = folder_.Add(u"67B.JPG"_s, Encoded(FourCorners({2, 1000}), "jpg"));
+        ReadPicturesAhead({first, second}, {}, screen);
+        QVERIFY(QTest::qWaitFor([&] { return IsReadAhead(second, screen); })); // looks every 10 ms
+        QVERIFY(IsReadAhead(first, screen));
+    }
+
 private:
     QString Photo(const char* name)
     {
