@@ -4,6 +4,7 @@
 #include "program/program_state.h"
 #include "support/program.h"
 #include "support/test_class.h"
+#include "ui/pictures/pictures_ahead.h"
 #include "windows/main_window.h"
 
 using namespace Qt::StringLiterals;
@@ -106,6 +107,7 @@ private Q_SLOTS:
     {
         QTRY_VERIFY(IsReady("67B.JPG"));
         Form1->Image4.SetWidth(Form1->Image4.Width() / 2);
+        QCOMPARE(BytesReadAhead(), 0);
         QVERIFY(!IsReady("67B.JPG"));
         StepPhotoForward();
         QTRY_VERIFY(IsReady("67C.JPG"));

@@ -4,12 +4,14 @@
 #include "platform/system/settings_store.h"
 #include "program/program_state.h"
 #include "runtime/logging.h"
+#include "start/disc_search.h"
 #include "support/logged_messages.h"
 #include "support/program.h"
 #include "support/test_class.h"
 #include "ui/forms/clock.h"
 #include "ui/forms/program_end.h"
 #include "ui/forms/program_title.h"
+#include "ui/pictures/pictures_ahead.h"
 #include "windows/main_window.h"
 #include "windows/splash.h"
 
@@ -221,6 +223,15 @@ private Q_SLOTS:
         program_->messages.WhenAsked([this] { mounted = program_->disc.Folder(); });
         program_->Start();
         QCOMPARE(state.DiscRoot, u"D:"_s);
+    }
+
+    void a_search_drops_the_photos_that_were_read_ahead()
+    {
+        program_->disc.AddGroup(u"67"_s, 3);
+        program_->StartBrowsing();
+        QTRY_VERIFY(BytesReadAhead() > 0);
+        FindDisc();
+        QCOMPARE(BytesReadAhead(), 0);
     }
 
     void folder_and_extension_are_found_in_any_letter_case()
