@@ -26,6 +26,18 @@ QTextBrowser& Pane()
     return static_cast<QTextBrowser&>(Main->rtbText.Widget());
 }
 
+/// The rows of the pane that hold ink in a column, both in pixels.
+QList<int> InkedRows(int x)
+{
+    const QImage image = Pane().viewport()->grab().toImage();
+    QList<int> rows;
+    for (int y = 0; y < image.height(); ++y) {
+        if (qGray(image.pixel(x, y)) < 128)
+            rows.append(y);
+    }
+    return rows;
+}
+
 } // namespace
 
 /// The pane that shows a rich-text file.
@@ -177,6 +189,37 @@ private Q_SLOTS:
         Main->rtbText.BringIntoView({at, 6});
         Main->rtbText.Show();
         QVERIFY(Pane().verticalScrollBar()->value() > 100);
+    }
+
+    void leaders_and_double_underlines_are_seen_wherever_the_text_is_scrolled_data()
+    {
+        QTest::addColumn<QByteArray>("told");
+        QTest::addColumn<QByteArray>("without");
+        QTest::newRow("a leader") << QByteArray("\\tlul\\tx3000\\tab x") << QByteArray("\\tx3000\\tab x");
+        QTest::newRow("a double underline")
+            << QByteArray("\\fs40\\uldb\\~\\~\\~\\~\\~\\~\\~\\~\\~\\~\\~\\~ x")
+            << QByteArray("\\fs40\\ul\\~\\~\\~\\~\\~\\~\\~\\~\\~\\~\\~\\~ x");
+    }
+    void leaders_and_double_underlines_are_seen_wherever_the_text_is_scrolled()
+    {
+        QFETCH(QByteArray, told);
+        QFETCH(QByteArray, without);
+        constexpr int column = 50; // behind the tab, or the spaces that are underlined
+        constexpr int scrolled = 37;
+        const auto inked = [&](const QByteArray& line, int value) {
+            const QByteArray filler = QByteArray("\\par ").repeated(40);
+            Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1\\par\\par\\par\\par{\\pard" + line +
+                                                                  "\\par}\\pard" + filler + "}"));
+            Pane().verticalScrollBar()->setValue(value);
+            return InkedRows(column);
+        };
+        const QList<int> unscrolled = inked(told, 0);
+        QVERIFY(unscrolled.size() > inked(without, 0).size());
+        QList<int> expected;
+        for (const int row : unscrolled)
+            expected.append(row - scrolled);
+        QCOMPARE(inked(told, scrolled), expected);
+        QCOMPARE(Pane().verticalScrollBar()->value(), scrolled);
     }
 
     void marks_go_with_the_next_file()
