@@ -1,5 +1,6 @@
 #include "printing/rich_text_printing.h"
 #include "runtime/failure.h"
+#include "support/discs/picture_bytes.h"
 #include "support/print_folder.h"
 #include "support/program.h"
 #include "support/test_class.h"
@@ -124,6 +125,22 @@ private Q_SLOTS:
         const double top = InkOf(printed_->Image(1, 1)).top();
         for (int page = 2; page <= pages.size(); ++page)
             QVERIFY(qAbs(InkOf(printed_->Image(1, page)).top() - top) <= pixel);
+    }
+
+    void a_heading_that_stays_with_the_next_text_never_ends_a_page()
+    {
+        int moved = 0;
+        for (int before = 44; before <= 54; ++before) {
+            const QByteArray text = "\\b Heading\\b0\\par\\pard Below\\par";
+            Print(Lines(1, before) + "\\pard " + text);
+            const QStringList free = printed_->Pages(printed_->Jobs());
+            Print(Lines(1, before) + "\\pard\\keepn " + text);
+            const QStringList kept = printed_->Pages(printed_->Jobs());
+            for (const QString& page : kept)
+                QCOMPARE(page.contains(u"Heading"_s), page.contains(u"Below"_s));
+            moved += free.first().contains(u"Heading"_s) && !free.first().contains(u"Below"_s) ? 1 : 0;
+        }
+        QCOMPARE(moved, 1); // one of them would have ended its page
     }
 
     void a_leader_of_dots_fills_the_room_up_to_its_stop()
@@ -308,6 +325,17 @@ private Q_SLOTS:
         QCOMPARE(printed_->Files(), QStringList({u"job-1.pdf"_s, u"job-2.pdf"_s}));
         QCOMPARE(printed_->Pages(1).first().simplified(), u"One"_s);
         QCOMPARE(printed_->Pages(2).first().simplified(), u"Two"_s);
+    }
+
+    void a_jpeg_goes_to_paper_once_and_as_it_is()
+    {
+        QImage image(120, 80, QImage::Format_RGB32);
+        image.fill(QColor(220, 20, 20));
+        const QByteArray picture = "{\\pict\\jpegblip\\picw120\\pich80\\picwgoal2400\\pichgoal1600 " +
+                                   Encoded(image, "jpg").toHex() + "}";
+        Print(picture + "\\par between\\par");
+        QCOMPARE(printed_->PictureEncodings(1), QStringList(u"jpeg"_s));
+        QCOMPARE(printed_->PictureSizes(1), QList<QSize>{image.size()});
     }
 
     void the_pane_stays_as_it_was()

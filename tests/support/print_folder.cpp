@@ -65,18 +65,32 @@ QImage PrintFolder::Image(int job, int page) const
         OutputOf(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-f"_s, number, u"-l"_s, number, FileOf(job)}));
 }
 
-QList<QSize> PrintFolder::PictureSizes(int job) const
+QList<QStringList> PrintFolder::PictureRows(int job) const
 {
     constexpr int heading = 2; // lines
-    QList<QSize> sizes;
+    QList<QStringList> rows;
     const QStringList lines = QString::fromUtf8(OutputOf(u"pdfimages"_s, {u"-list"_s, FileOf(job)}))
                                   .split(u'\n', Qt::SkipEmptyParts)
                                   .mid(heading);
-    for (const QString& line : lines) {
-        const QStringList columns = line.split(u' ', Qt::SkipEmptyParts);
+    for (const QString& line : lines)
+        rows.append(line.split(u' ', Qt::SkipEmptyParts));
+    return rows;
+}
+
+QList<QSize> PrintFolder::PictureSizes(int job) const
+{
+    QList<QSize> sizes;
+    for (const QStringList& columns : PictureRows(job))
         sizes.append({columns.at(3).toInt(), columns.at(4).toInt()});
-    }
     return sizes;
+}
+
+QStringList PrintFolder::PictureEncodings(int job) const
+{
+    QStringList encodings;
+    for (const QStringList& columns : PictureRows(job))
+        encodings.append(columns.at(8));
+    return encodings;
 }
 
 QSizeF PrintFolder::Paper(int job) const

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 namespace torvik {
@@ -30,12 +31,16 @@ public:
     QImage Image(int job, int page) const;
     /// The pictures of a job in the order in which they were painted, in their own pixels.
     QList<QSize> PictureSizes(int job) const;
+    /// How each of them is stored: "jpeg", or "image" for bare pixels.
+    QStringList PictureEncodings(int job) const;
     /// The size of the paper in twips.
     QSizeF Paper(int job) const;
 
     static constexpr double twipsPerPixel = 20;
 
 private:
+    QList<QStringList> PictureRows(int job) const;
+
     QTemporaryDir folder_;
 };
 
