@@ -11,6 +11,10 @@ namespace {
 
 constexpr QChar rightToLeftMark(0x200f);
 
+/// How many signs are looked over for a letter; a paragraph may hold nothing but signs, in any number of
+/// runs.
+constexpr qsizetype mostSigns = 100;
+
 bool RunsFromRightToLeft(const Paragraph& paragraph, std::size_t span, const Formats& formats)
 {
     return span < paragraph.spans.size() &&
@@ -19,8 +23,9 @@ bool RunsFromRightToLeft(const Paragraph& paragraph, std::size_t span, const For
 
 /// Whether signs without a direction come first, and then a letter from right to left.
 template <typename Characters>
-bool BeginsWithSigns(Characters from, Characters end)
+bool BeginsWithSigns(Characters from, Characters endOfText)
 {
+    const Characters end = endOfText - from > mostSigns ? from + mostSigns : endOfText;
     const auto hasDirection = [](QChar c) {
         const QChar::Direction direction = c.direction();
         return direction == QChar::DirL || direction == QChar::DirR || direction == QChar::DirAL;

@@ -3,6 +3,7 @@
 #include "support/test_class.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QElapsedTimer>
 #include <QGlyphRun>
 #include <QTextFrame>
 #include <QTextLayout>
@@ -288,6 +289,16 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, body);
         QVERIFY(!ReadBody(body + "\\par").Text().contains(QChar(0x200f)));
+    }
+
+    void runs_of_nothing_but_signs_cost_no_more_than_their_length()
+    {
+        constexpr int runs = 20000; // looked over to the end for each of them: half a minute
+        const QByteArray body = "\\ltrpar " + QByteArray("{\\rtlch !}?").repeated(runs) + "\\par";
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(ReadBody(body).Text().size(), 2 * runs);
+        QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
     }
 
     void text_from_right_to_left()
