@@ -25,9 +25,8 @@ int RunProgram(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
     const auto isRead = std::make_shared<QSemaphore>();
-    const QByteArray article = EndlessArticle();
     const DiscIndex index({{u"Endless"_s,
-                            [isRead, article] {
+                            [isRead, article = EndlessArticle()] {
                                 isRead->release();
                                 return article;
                             }}},
