@@ -9,6 +9,7 @@ _TOUCHED = {"push button", "radio button", "check box", "menu item", "list item"
 _KEYS = ["period", "comma", "space", "Return", "Escape", "Tab", "shift+Tab", "Up", "Down", "Left", "Right", "Prior", "Next",
          "Home", "End", "F1", "F3", "shift+F3", "Menu", "shift+F10", "ctrl+f", "ctrl+c", "ctrl+v", "ctrl+a", "alt+f", "alt+n",
          "n", "y", "less", "greater", "KP_Decimal", "plus", "minus", "BackSpace", "Delete", "F11", "ctrl+p", "ctrl+Home"]
+_ANSWERS = {"space", "Return", "Escape", "n", "y"}  # once, so that a message in between is seen before it has gone
 _WORDS = ["hood", "scoop*", '"hood scoop"', "torvik -hood", "e", "1967", '"', "-", "***", "zzzz", "\\", "the car"]
 _CLOSERS = ("Retry", "No", "Cancel", "OK", "Close", "Exit")
 
@@ -98,7 +99,9 @@ class RandomUser:
         activate_element(element)
 
     def _press_key(self):
-        keys = [self._chances.choice(_KEYS)] * self._chances.choice((1, 1, 1, 2, 5))
+        key = self._chances.choice(_KEYS)
+        times = 1 if key in _ANSWERS else self._chances.choice((1, 1, 1, 2, 5))
+        keys = [key] * times
         self.tell(f"press {' '.join(keys)} in {self._window()!r}")
         self._screen.press_key(*keys)
 
