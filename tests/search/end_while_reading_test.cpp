@@ -4,7 +4,9 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <QSemaphore>
-#include <QThread>
+
+#include <ctime>
+#include <pthread.h>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -20,21 +22,31 @@ QByteArray EndlessArticle()
     return "{\\rtf1 word " + QByteArray("{\\b }").repeated(groups) + "}";
 }
 
+/// The processor time of a thread.
+double SecondsOf(clockid_t thread)
+{
+    timespec time{};
+    clock_gettime(thread, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
 /// A program that ends as soon as its index has an article in hand.
 int RunProgram(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
     const auto isRead = std::make_shared<QSemaphore>();
+    const auto reader = std::make_shared<clockid_t>();
     const DiscIndex index({{u"Endless"_s,
-                            [isRead, article = EndlessArticle()] {
+                            [isRead, reader, article = EndlessArticle()] {
+                                pthread_getcpuclockid(pthread_self(), reader.get());
                                 isRead->release();
                                 return article;
                             }}},
                           [] {});
     isRead->acquire();
-    constexpr unsigned long untilItIsTakenApart = 200; // milliseconds; the end is no harder before
-    QThread::msleep(untilItIsTakenApart);
-    return 0;
+    const double begin = SecondsOf(*reader);
+    constexpr double deepInIt = 0.1;
+    return QTest::qWaitFor([&] { return SecondsOf(*reader) > begin + deepInIt; }, 20'000) ? 0 : 1;
 }
 
 const TestClass program(programName, RunProgram);
