@@ -71,9 +71,10 @@ class Program:
         return self._process.poll()
 
     def memory(self):
-        """What it has of the machine's memory, in MiB."""
+        """What it has asked for and has of the machine's memory, in MiB: without the files of programs and libraries, of which more
+        and more pages are read as they are used, and without the screen's windows."""
         status = Path(f"/proc/{self.process}/status").read_text("ascii")
-        return int(re.search(r"VmRSS:\s+(\d+) kB", status)[1]) / 1024
+        return int(re.search(r"RssAnon:\s+(\d+) kB", status)[1]) / 1024
 
     # What is on show
 
