@@ -1,9 +1,12 @@
+#include "runtime/failure.h"
+#include "support/discs/photo_image.h"
 #include "support/discs/picture_bytes.h"
 #include "support/test_class.h"
 #include "support/ui_room.h"
 #include "ui/controls/button.h"
 #include "ui/controls/image.h"
 #include "ui/controls/panel.h"
+#include "ui/pictures/pictures_ahead.h"
 
 #include <QLabel>
 
@@ -48,6 +51,27 @@ private Q_SLOTS:
     void a_picture_uses_every_pixel_of_the_display()
     {
         Main->Image4.Load(folder_.Add(u"stripes.bmp"_s, Encoded(Stripes({400, 200}), "bmp")));
+        const QPixmap pixmap = static_cast<const QLabel&>(Main->Image4.Widget()).pixmap(Qt::ReturnByValue);
+        QCOMPARE(pixmap.size(), QSize(400, 200));
+        QCOMPARE(pixmap.devicePixelRatio(), 2.0);
+        const QImage shown = Main->Image4.Widget().grab().toImage();
+        QCOMPARE(shown.size(), QSize(400, 200));
+        QCOMPARE(shown.pixelColor(200, 100), QColor(Qt::black));
+        QCOMPARE(shown.pixelColor(201, 100), QColor(Qt::white));
+    }
+
+    void a_picture_that_was_read_ahead_uses_every_pixel_too()
+    {
+        PhotoImage disc;
+        disc.Add("67A.JPG", Encoded(Stripes({400, 200}), "bmp"));
+        disc.Stand();
+        const QString path = u"E:\\Torviks\\67A.JPG"_s;
+        Main->Image4.ReadAhead({path});
+        QTRY_VERIFY(Main->Image4.HasReadAhead(path));
+        QVERIFY(IsReadAhead(path, {400, 200}));
+
+        disc.Spoil(); // What is shown now can only be what was ready.
+        QCOMPARE(ResumeNext([&] { Main->Image4.Load(path); }), 0);
         const QPixmap pixmap = static_cast<const QLabel&>(Main->Image4.Widget()).pixmap(Qt::ReturnByValue);
         QCOMPARE(pixmap.size(), QSize(400, 200));
         QCOMPARE(pixmap.devicePixelRatio(), 2.0);
