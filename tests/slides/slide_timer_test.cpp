@@ -1,3 +1,5 @@
+#include "support/discs/photo_image.h"
+#include "support/discs/picture_bytes.h"
 #include "support/slide_visit.h"
 #include "support/test_class.h"
 #include "ui/forms/clock.h"
@@ -34,14 +36,6 @@ QString EnabledButtons()
 QColor MiddleOf(const QPixmap& pixmap)
 {
     return pixmap.toImage().pixelColor(pixmap.rect().center());
-}
-
-/// Whether two colours are one but for the losses of the picture format.
-bool Alike(const QColor& one, const QColor& other)
-{
-    return std::abs(one.red() - other.red()) + std::abs(one.green() - other.green()) +
-               std::abs(one.blue() - other.blue()) <
-           24;
 }
 
 /// Notes what a label shows each time it is painted.
@@ -329,6 +323,45 @@ private Q_SLOTS:
                         Alike(painted, colours.at(2)));
             QVERIFY(Alike(watch.painted.last(), colours.at(2)));
         }));
+    }
+
+    void each_tick_has_the_next_photos_ready_and_shows_them()
+    {
+        PhotoImage disc;
+        const QList<QColor> colours{Qt::red, Qt::green, Qt::blue, Qt::yellow, Qt::cyan, Qt::magenta};
+        for (int number = 0; number < colours.size(); ++number)
+            disc.Add(QByteArray("67") + static_cast<char>('A' + number) + ".JPG",
+                     TestDisc::Jpeg(colours.at(number), {64, 48}));
+        program_.reset();
+        program_ = std::make_unique<Program>();
+        disc.Stand();
+        program_->StartBrowsing();
+        const auto isReady = [](const char* name) {
+            return frmSlide->Image1.HasReadAhead(u"E:\\Torviks\\"_s + QString::fromLatin1(name));
+        };
+        QVERIFY(InSlideShow(*program_, [&] {
+            const Control& pane = frmSlide->Image1;
+            QCOMPARE(ShownSlide(), u"67A.JPG, 1 of 6, 1967 "_s);
+            QTRY_VERIFY(isReady("67B.JPG") && isReady("67C.JPG") && isReady("67F.JPG"));
+            ClickSlidePart(*program_, playButton);
+            Clock::Turn(1000);
+            QCOMPARE(ShownSlide(), u"67B.JPG, 2 of 6, 1967 "_s);
+            QTRY_VERIFY(isReady("67C.JPG") && isReady("67D.JPG"));
+
+            // What is shown now can only be what was ready.
+            disc.Spoil();
+            for (int number = 2; number < 4; ++number) {
+                Clock::Turn(1000);
+                QVERIFY(Alike(MiddleOf(pane.Widget().grab()), colours.at(number)));
+            }
+            QCOMPARE(ShownSlide(), u"67D.JPG, 4 of 6, 1967 "_s);
+            QCOMPARE(program_->messages.Count(), 0);
+
+            Clock::Turn(1000);
+            QCOMPARE(state.ErrorCode, u"ER016"_s);
+            QCOMPARE(frmSlide->Image1.Picture().FileName(), u"67D.JPG"_s);
+        }));
+        QCOMPARE(program_->messages.Count(), 1);
     }
 
 private:

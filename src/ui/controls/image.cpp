@@ -9,8 +9,6 @@
 #include <QLabel>
 #include <QPixmap>
 
-#include <utility>
-
 namespace torvik {
 
 Image::Image(Container& container, const QString& name, const Twips& design, Fit fit)
@@ -21,7 +19,7 @@ Image::Image(Container& container, const QString& name, const Twips& design, Fit
 
 void Image::Load(const QString& path)
 {
-    if (const auto ready = readsAhead_ ? PictureReadAhead(path, Area()) : std::nullopt) {
+    if (const auto ready = aheadFor_.isEmpty() ? std::nullopt : PictureReadAhead(path, Area())) {
         Put(ready->drawn);
         Take(ready->file);
     } else {
@@ -32,14 +30,15 @@ void Image::Load(const QString& path)
 
 void Image::ReadAhead(const QStringList& paths)
 {
-    readsAhead_ = fit_ == Fit::Proportions;
-    if (readsAhead_)
-        ReadPicturesAhead(paths, path_, Area());
+    if (fit_ != Fit::Proportions)
+        return;
+    aheadFor_ = Area();
+    ReadPicturesAhead(paths, path_, aheadFor_);
 }
 
 bool Image::HasReadAhead(const QString& path) const
 {
-    return readsAhead_ && IsReadAhead(path, Area());
+    return !aheadFor_.isEmpty() && IsReadAhead(path, Area());
 }
 
 void Image::Show(const class Picture& picture)
@@ -51,7 +50,7 @@ void Image::Show(const class Picture& picture)
 void Image::ShowWhenSeen(const class Picture& picture)
 {
     label_->clear();
-    outgrown_ = !picture.IsEmpty();
+    drawnFor_ = {};
     Take(picture);
 }
 
@@ -86,22 +85,24 @@ void Image::Put(const QImage& drawn)
     QPixmap pixmap = QPixmap::fromImage(drawn);
     pixmap.setDevicePixelRatio(label_->devicePixelRatioF());
     label_->setPixmap(pixmap);
-    outgrown_ = false;
+    drawnFor_ = Area();
 }
 
+/// A form that comes up tells each size once more, also such as are no news.
 void Image::SizeChanged()
 {
-    outgrown_ = !picture_.IsEmpty();
-    if (std::exchange(readsAhead_, false))
-        ForgetPicturesAhead(); // they were drawn for the size before
+    if (aheadFor_.isEmpty() || aheadFor_ == Area())
+        return;
+    aheadFor_ = {};
+    ForgetPicturesAhead();
 }
 
 /// However often the size changes, the picture is drawn anew once, when it is seen. It was whole when it was
 /// loaded, so a failure here leaves what is on show.
 bool Image::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Paint && outgrown_) {
-        outgrown_ = false;
+    if (event->type() == QEvent::Paint && !picture_.IsEmpty() && drawnFor_ != Area()) {
+        drawnFor_ = Area();
         ResumeNext([this] { Draw(picture_); });
     }
     return Control::eventFilter(watched, event);

@@ -3,6 +3,8 @@
 #include "ui/forms/control.h"
 #include "ui/pictures/picture.h"
 
+#include <QSize>
+
 class QLabel;
 
 namespace torvik {
@@ -51,9 +53,9 @@ private:
     QLabel* label_;
     Fit fit_;
     class Picture picture_;
-    QString path_; // of the file on show, where it is one of the disc
-    bool readsAhead_ = false;
-    bool outgrown_ = false; // what the label holds was drawn for another size
+    QString path_;   // of the file on show, where it is one of the disc
+    QSize aheadFor_; // the area for which files were read ahead; empty for none
+    QSize drawnFor_; // the area for which the label's picture was drawn; empty for none
 };
 
 } // namespace torvik
