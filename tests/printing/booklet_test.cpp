@@ -1,11 +1,13 @@
 #include "program/program_state.h"
 #include "support/booklet_run.h"
+#include "support/discs/opened_files.h"
 #include "support/test_class.h"
 #include "ui/forms/screen.h"
 #include "ui/printer/printer.h"
 #include "windows/main_window.h"
 
 #include <QLabel>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -102,6 +104,20 @@ private Q_SLOTS:
         run_->Print({box}, "1967", "2001");
         ExpectPrinted(*run_, {});
         QVERIFY(!Printer.HasJob());
+    }
+
+    void each_document_is_read_once_and_laid_out_for_paper_alone()
+    {
+        const OpenedFiles opened(run_->user.disc.PathOf(u"RichText"_s));
+        run_->Print({box::introduction, box::description, box::details}, "1967", "1968");
+        ExpectPrinted(*run_, QStringList(u"Introduction."_s) + DocumentsOf("67") + DocumentsOf("68"));
+        QStringList expected{u"introduction.rtf"_s};
+        for (const char* year : {"67", "68"}) {
+            for (const char* topic : {"desc", "opts", "stats", "colors"})
+                expected.append(QString::fromLatin1(year) + QString::fromLatin1(topic) + u".rtf"_s);
+        }
+        QCOMPARE(opened.Names(), expected);
+        QVERIFY(!Form1->rtbText.Document().isLayoutEnabled()); // for the screen, on which nobody sees it
     }
 
     void every_document_keeps_an_inch_from_the_edges()
