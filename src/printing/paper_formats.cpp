@@ -37,7 +37,7 @@ QFont FontForPaper(QFont font)
 /// What is different on paper in each format of a document; found out once a format.
 class PaperFormats {
 public:
-    PaperFormats(const QFont& defaultFont, double scale) : defaultFont_(defaultFont), scale_(scale) {}
+    explicit PaperFormats(const QFont& defaultFont) : defaultFont_(defaultFont) {}
 
     /// What is to be merged into a format with this number in its document. A text that the fonts for paper
     /// do not hold keeps its own.
@@ -53,16 +53,12 @@ private:
     QTextCharFormat MakeChange(const QTextCharFormat& format, bool hasPaperFont) const
     {
         QTextCharFormat change;
-        // The layout takes the space between letters for pixels of the device.
-        if (format.hasProperty(QTextFormat::FontLetterSpacing))
-            change.setFontLetterSpacing(format.fontLetterSpacing() * scale_);
         if (hasPaperFont)
             change.setFontFamilies(PaperFamilies(format.font().resolve(defaultFont_)));
         return change;
     }
 
     QFont defaultFont_;
-    double scale_;
     QHash<std::pair<int, bool>, QTextCharFormat> changes_;
 };
 
@@ -101,7 +97,7 @@ void AddStretches(const QTextBlock& block, PaperFormats& formats, std::vector<St
 void BringFormatsToPaper(QTextDocument& text, double scale)
 {
     text.setDefaultFont(FontForPaper(text.defaultFont()));
-    PaperFormats formats(text.defaultFont(), scale);
+    PaperFormats formats(text.defaultFont());
     std::vector<Stretch> stretches;
     QTextCursor cursor(&text);
     cursor.beginEditBlock();

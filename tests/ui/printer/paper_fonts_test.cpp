@@ -21,6 +21,18 @@ QFont FontOf(const QString& family, QFont::Weight weight = QFont::Normal, bool i
     return font;
 }
 
+QFont Stretched(QFont font, int percent)
+{
+    font.setStretch(percent);
+    return font;
+}
+
+QFont InSmallCapitals(QFont font)
+{
+    font.setCapitalization(QFont::SmallCaps);
+    return font;
+}
+
 QFont OnPaper(QFont font)
 {
     font.setFamilies(PaperFamilies(font));
@@ -52,6 +64,9 @@ private Q_SLOTS:
         QTest::newRow("bold italic") << FontOf(u"Liberation Sans"_s, QFont::Bold, true);
         QTest::newRow("a font that another one stands in for") << FontOf(u"Times New Roman"_s);
         QTest::newRow("the same, bold") << FontOf(u"Arial"_s, QFont::Bold);
+        QTest::newRow("stretched letters") << Stretched(FontOf(u"Liberation Serif"_s), 150);
+        QTest::newRow("narrowed letters") << Stretched(FontOf(u"Arial"_s), 75);
+        QTest::newRow("small capitals") << InSmallCapitals(FontOf(u"Liberation Sans"_s));
     }
     void the_copy_is_what_is_printed_with_and_measures_the_same()
     {
