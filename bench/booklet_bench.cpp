@@ -45,17 +45,6 @@ constexpr int turns = 3;
 constexpr int firstNumber = 67;
 constexpr qsizetype expectedJobs = 1 + qsizetype{torvik::yearCount} * 4;
 
-/// Of the processes that have ended.
-double ChildrenSeconds()
-{
-    rusage usage{};
-    getrusage(RUSAGE_CHILDREN, &usage);
-    const auto seconds = [](const timeval& time) {
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-    };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
-}
-
 double MebibytesIn(const QString& folder)
 {
     qint64 bytes = 0;
@@ -137,13 +126,13 @@ struct Converted {
 std::optional<Converted> ConvertedByOfficeSuite(const QString& suite, const QString& disc)
 {
     const QTemporaryDir folder;
-    const double before = ChildrenSeconds();
+    const double before = torvik::bench::ChildrenMilliseconds();
     QProcess process;
     process.start(suite, QStringList{u"-env:UserInstallation=file://"_s + folder.path(), u"--headless"_s,
                                      u"--convert-to"_s, u"pdf"_s, u"--outdir"_s, folder.path()} +
                              Documents(disc));
     process.waitForFinished(-1);
-    const double taken = ChildrenSeconds() - before;
+    const double taken = (torvik::bench::ChildrenMilliseconds() - before) / 1000;
     const auto made = QDir(folder.path()).entryList({u"*.pdf"_s}).size();
     if (made != expectedJobs) {
         std::printf("an office suite made %d files of %d\n", static_cast<int>(made),

@@ -1,9 +1,12 @@
 // A photo step, from the key press to the painted photo, against a bare decode of the same photo at a reduced
 // size and one smooth scale to the same rectangle, both as processor time of one thread: onto a photo that
-// was not read ahead, onto one that is ready, and with the key held down at 30 presses a second.
+// was not read ahead, onto one that is ready, and with the key held down at 30 presses a second. Then all
+// that a step costs, reading ahead included, against a common image viewer that shows the same photos in a
+// window of the same size, where one is installed.
 
 #include "bare_decode.h"
 #include "browsing.h"
+#include "image_viewer.h"
 #include "measure.h"
 #include "processor_time.h"
 #include "run_bench.h"
@@ -32,6 +35,9 @@ constexpr double readyLimit = 5; // processor milliseconds of the window's threa
 constexpr int heldSteps = 90;
 constexpr std::chrono::duration<double, std::milli> heldPeriod{1000.0 / 30};
 constexpr double mostLag = 2; // photos
+constexpr int viewerTurns = 3;
+constexpr int viewerLaps = 3; // round all photos
+constexpr double mostOfTheViewer = 1;
 constexpr qint64 mostHeld = 64LL * 1024 * 1024;
 
 QStringList MakePhotos(const QString& folder, const QSize& size)
@@ -118,6 +124,46 @@ bool MeasureHeld()
     return isOk;
 }
 
+/// Processor milliseconds of all threads for one step, what it reads ahead included. Each step waits for
+/// that, so that none is left over.
+double MillisecondsAStep(int steps)
+{
+    WaitForPhotosAhead();
+    const double before = torvik::bench::ProcessMilliseconds();
+    for (int step = 0; step < steps; ++step) {
+        PressPeriod();
+        WaitForPhotosAhead();
+    }
+    return (torvik::bench::ProcessMilliseconds() - before) / steps;
+}
+
+/// Both in turns, the same photos round and round.
+bool MeasureAgainstViewer(const QStringList& photos, const QSize& area)
+{
+    using namespace torvik;
+    const bench::ImageViewer viewer;
+    if (!viewer.IsThere()) {
+        std::printf("a common image viewer on the same photos: not measured, feh or Xvfb is not there\n");
+        return true;
+    }
+    QStringList laps;
+    for (int lap = 0; lap < viewerLaps; ++lap)
+        laps += photos;
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    for (int turn = 0; turn < viewerTurns; ++turn) {
+        const auto shown = viewer.MillisecondsAPhoto(laps, area);
+        if (!shown) {
+            std::printf("a common image viewer did not show the photos\n");
+            return false;
+        }
+        theirs.push_back(*shown);
+        ours.push_back(MillisecondsAStep(static_cast<int>(laps.size())));
+    }
+    return bench::ReportPairs("photo step with all that it reads ahead against an image viewer", "ms", ours,
+                              theirs, mostOfTheViewer);
+}
+
 bool Measure(const char* name, const QSize& size)
 {
     using namespace torvik;
@@ -148,6 +194,7 @@ bool Measure(const char* name, const QSize& size)
     bool isOk = bench::ReportPairs(name, "ms", figures, baselines, limit) && whole;
     isOk = MeasureReady(bench::Median(baselines)) && isOk;
     isOk = MeasureHeld() && isOk;
+    isOk = MeasureAgainstViewer(photos, area) && isOk;
     FormHandleBase::DiscardAll();
     return isOk;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <ctime>
+#include <sys/resource.h>
 
 namespace torvik::bench {
 
@@ -21,6 +22,17 @@ inline double ThreadMilliseconds()
 inline double ProcessMilliseconds()
 {
     return MillisecondsOf(CLOCK_PROCESS_CPUTIME_ID);
+}
+
+/// Processor milliseconds of the processes that this one has started and that have ended.
+inline double ChildrenMilliseconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto milliseconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+    };
+    return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
 }
 
 } // namespace torvik::bench
