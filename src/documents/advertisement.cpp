@@ -39,7 +39,7 @@ void LoadPage()
     form.HScroll1.Hide();
     form.VScroll1.Hide();
     form.picChild.Load(state.DocumentFile);
-    form.Image1.ShowWhenSeen(form.picChild.Picture());
+    form.Image1.ShowWhenSeen(form.picChild.Picture(), form.picChild.Pixels());
     form.Image1.Move(form.picChild.Left(), form.picChild.Top(), 620, form.picParent.Height());
     form.Image1.ZOrder();
 }

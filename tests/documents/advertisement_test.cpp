@@ -1,4 +1,5 @@
 #include "program/program_state.h"
+#include "support/discs/picture_bytes.h"
 #include "support/modal_visit.h"
 #include "support/program.h"
 #include "support/test_class.h"
@@ -9,6 +10,8 @@
 #include "windows/play_list_window.h"
 
 #include <QDir>
+#include <QImage>
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -90,6 +93,22 @@ private Q_SLOTS:
         });
         QCOMPARE(place, QRectF(0, 0, 620, 600 - 17));
         QVERIFY(covered);
+    }
+
+    void the_whole_page_is_drawn_from_the_page_that_is_decoded_already()
+    {
+        program_->disc.AddFile(u"ads/69brto00.jpg"_s, Encoded(FourCorners({1240, 1610}), "jpg"));
+        QImage whole;
+        QImage page;
+        Visit([&] {
+            program_->Click(frmScroll->picChild);
+            page = frmScroll->picChild.Pixels();
+            whole = static_cast<QLabel&>(frmScroll->Image1.Widget()).pixmap(Qt::ReturnByValue).toImage();
+        });
+        QCOMPARE(page.size(), QSize(1240, 1610));
+        QCOMPARE(whole.size(), QSize(462, 600));
+        // A second decoding, at this size, would have other values at the edges of the colours.
+        QCOMPARE(whole, page.scaled(whole.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
 
     void the_page_in_both_views_is_the_years_own_data()

@@ -360,7 +360,7 @@ private:
         frmScroll->SetWidth(800 * 15);
         frmScroll->SetHeight(600 * 15);
         frmScroll->picChild.Load(u"G:\\ads\\67brto00.jpg"_s);
-        frmScroll->Image1.ShowWhenSeen(frmScroll->picChild.Picture());
+        frmScroll->Image1.ShowWhenSeen(frmScroll->picChild.Picture(), frmScroll->picChild.Pixels());
         frmScroll->Show();
         program_->Settle();
         frmScroll->Window().activateWindow();

@@ -43,20 +43,22 @@ bool Image::HasReadAhead(const QString& path) const
 
 void Image::Show(const class Picture& picture)
 {
-    Draw(picture);
+    Put(DrawnFor(Area(), picture));
     Take(picture);
 }
 
-void Image::ShowWhenSeen(const class Picture& picture)
+void Image::ShowWhenSeen(const class Picture& picture, const QImage& pixels)
 {
     label_->clear();
     drawnFor_ = {};
     Take(picture);
+    pixels_ = pixels;
 }
 
 void Image::Take(const class Picture& picture)
 {
     picture_ = picture;
+    pixels_ = {};
     path_.clear();
     UpdateAccessibleText();
 }
@@ -65,6 +67,7 @@ void Image::Clear()
 {
     path_.clear();
     picture_ = {};
+    pixels_ = {};
     label_->clear();
     UpdateAccessibleText();
 }
@@ -75,9 +78,15 @@ QSize Image::Area() const
     return (QSizeF(label_->size()) * label_->devicePixelRatioF()).toSize();
 }
 
-void Image::Draw(const class Picture& picture)
+QImage Image::DrawnFor(const QSize& area, const class Picture& picture) const
 {
-    Put(fit_ == Fit::Stretch ? picture.Stretched(Area()) : picture.Fitted(Area()));
+    return fit_ == Fit::Stretch ? picture.Stretched(area) : picture.Fitted(area);
+}
+
+QImage Image::DrawnFor(const QSize& area, const QImage& pixels) const
+{
+    const auto mode = fit_ == Fit::Stretch ? Qt::IgnoreAspectRatio : Qt::KeepAspectRatio;
+    return pixels.scaled(area, mode, Qt::SmoothTransformation);
 }
 
 void Image::Put(const QImage& drawn)
@@ -103,7 +112,8 @@ bool Image::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Paint && !picture_.IsEmpty() && drawnFor_ != Area()) {
         drawnFor_ = Area();
-        ResumeNext([this] { Draw(picture_); });
+        ResumeNext(
+            [this] { Put(pixels_.isNull() ? DrawnFor(drawnFor_, picture_) : DrawnFor(drawnFor_, pixels_)); });
     }
     return Control::eventFilter(watched, event);
 }

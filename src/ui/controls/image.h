@@ -3,6 +3,7 @@
 #include "ui/forms/control.h"
 #include "ui/pictures/picture.h"
 
+#include <QImage>
 #include <QSize>
 
 class QLabel;
@@ -28,8 +29,9 @@ public:
     bool HasReadAhead(const QString& path) const;
     void Show(const Picture& picture);
     /// Shows a picture of which the whole data is known to be sound: it is drawn when it is first seen, and
-    /// not at all while something covers it. Never fails.
-    void ShowWhenSeen(const Picture& picture);
+    /// not at all while something covers it. Where somebody holds its `pixels` in natural size anyway, it is
+    /// drawn from these and not decoded again. Never fails.
+    void ShowWhenSeen(const Picture& picture, const QImage& pixels = {});
     using Control::Show;
     void Clear();
     const class Picture& Picture() const { return picture_; }
@@ -46,13 +48,15 @@ protected:
 
 private:
     QSize Area() const;
-    void Draw(const class Picture& picture);
+    QImage DrawnFor(const QSize& area, const class Picture& picture) const;
+    QImage DrawnFor(const QSize& area, const QImage& pixels) const;
     void Put(const QImage& drawn);
     void Take(const class Picture& picture);
 
     QLabel* label_;
     Fit fit_;
     class Picture picture_;
+    QImage pixels_;  // of the whole picture, where somebody holds them anyway
     QString path_;   // of the file on show, where it is one of the disc
     QSize aheadFor_; // the area for which files were read ahead; empty for none
     QSize drawnFor_; // the area for which the label's picture was drawn; empty for none

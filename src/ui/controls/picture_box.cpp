@@ -31,6 +31,11 @@ void PictureBox::Clear()
     UpdateAccessibleText();
 }
 
+QImage PictureBox::Pixels() const
+{
+    return label_->pixmap(Qt::ReturnByValue).toImage();
+}
+
 QString PictureBox::AccessibleText() const
 {
     return picture_.IsEmpty() ? Control::AccessibleText() : picture_.FileName();

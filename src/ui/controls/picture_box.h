@@ -19,6 +19,8 @@ public:
     void Load(const QString& path);
     void Clear();
     const class Picture& Picture() const { return picture_; }
+    /// The picture on show as it was decoded; no copy is made.
+    QImage Pixels() const;
 
     QWidget& Host() override { return Widget(); }
     Scale ScaleMode() const override { return scale_; }

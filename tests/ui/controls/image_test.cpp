@@ -87,6 +87,23 @@ private Q_SLOTS:
         QCOMPARE(static_cast<QLabel&>(Main->Image4.Widget()).pixmap().size(), QSize(200, 100));
     }
 
+    void a_picture_of_which_somebody_holds_the_pixels_is_drawn_from_these_at_every_size()
+    {
+        QImage held(400, 200, QImage::Format_RGB32);
+        held.fill(Qt::blue);
+        const Picture red = Picture::Load(folder_.Add(u"67A.JPG"_s, Encoded(FourCorners({400, 200}), "jpg")));
+        Main->Image4.ShowWhenSeen(red, held);
+        QCOMPARE(Shown(3, 3), QColor(Qt::blue));
+        QCOMPARE(static_cast<QLabel&>(Main->Image4.Widget()).pixmap().size(), QSize(200, 100));
+        Main->Image4.SetWidth(1500);
+        QCOMPARE(Shown(50, 50), QColor(Qt::blue));
+        QVERIFY(Alike(Shown(50, 10), look::face)); // 100 by 50 pixels, from 25 to 75
+        Main->Image4.Show(red);
+        QVERIFY(Alike(Shown(3, 40), Qt::red));
+        Main->Image4.SetWidth(3000);
+        QVERIFY(Alike(Shown(3, 3), Qt::red));
+    }
+
     void a_new_size_of_the_pane_fits_the_picture_anew()
     {
         Main->Image4.Load(folder_.Add(u"67A.JPG"_s, Encoded(FourCorners({400, 200}), "jpg")));
