@@ -295,6 +295,26 @@ private Q_SLOTS:
         QCOMPARE(second.rightPadding(), 4.0);
     }
 
+    void margins_hold_whatever_unit_is_named_for_them_data()
+    {
+        QTest::addColumn<QByteArray>("left");
+        QTest::addColumn<QByteArray>("right");
+        QTest::newRow("none") << QByteArray() << QByteArray();
+        QTest::newRow("null") << QByteArray("\\trpaddfl0") << QByteArray("\\clpadfr0");
+        QTest::newRow("twips") << QByteArray("\\trpaddfl3") << QByteArray("\\clpadfr3");
+    }
+
+    void margins_hold_whatever_unit_is_named_for_them()
+    {
+        QFETCH(QByteArray, left);
+        QFETCH(QByteArray, right);
+        const Reading read = ReadBody("\\trowd\\trgaph150\\trpaddl300" + left + "\\clpadr450" + right +
+                                      "\\cellx2000\\intbl a\\cell\\row\\pard x\\par");
+        const QTextTableCellFormat cell = TableOf(read)->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(cell.leftPadding(), 20.0);
+        QCOMPARE(cell.rightPadding(), 30.0);
+    }
+
     void rows_are_as_high_as_told_next_to_a_cell_that_is_merged_down()
     {
         const auto row = [](const QByteArray& merge, const QByteArray& cells) -> QByteArray {
