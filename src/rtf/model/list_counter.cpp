@@ -92,9 +92,15 @@ void ListCounter::Count(const ParagraphState& paragraph, Values& values) const
             values[i] = values[i] == noneYet ? start : values[i] + 1;
         else if (i < place)
             values[i] = values[i] == noneYet ? start : values[i];
-        else
+        else if (!GoesOn(paragraph.list, static_cast<int>(i)))
             values[i] = noneYet;
     }
+}
+
+bool ListCounter::GoesOn(int list, int level) const
+{
+    const ListLevel* definition = lists_.Find(list, level);
+    return definition != nullptr && definition->goesOn;
 }
 
 ListMark ListCounter::CountedMark(const ParagraphState& paragraph)

@@ -25,6 +25,8 @@ private:
     ListMark CountedMark(const ParagraphState& paragraph);
     int NextNumber(const ParagraphNumbering& numbering);
     void Count(const ParagraphState& paragraph, Values& values) const;
+    /// Whether a level goes on counting after a number of a level above it.
+    bool GoesOn(int list, int level) const;
 
     const ListTable& lists_;
     /// The last numbers of each list, level by level; -1 for none yet.

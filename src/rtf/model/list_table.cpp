@@ -6,8 +6,16 @@
 
 namespace torvik::rtf {
 
+namespace {
+
+/// The levels, and one that takes what is told about levels beyond them.
+constexpr std::size_t keptLevels = ListTable::maxLevels + 1;
+
+} // namespace
+
 void ListTable::BeginList()
 {
+    inOverride_ = false;
     if (lists_.size() < static_cast<std::size_t>(maxLists))
         lists_.emplace_back();
 }
@@ -18,15 +26,22 @@ void ListTable::SetListId(int id)
         lists_.back().id = id;
 }
 
-ListLevel* ListTable::BeginLevel()
+void ListTable::BeginLevel()
 {
-    if (lists_.empty() || lists_.back().levels.size() >= static_cast<std::size_t>(maxLevels))
-        return nullptr;
-    return &lists_.back().levels.emplace_back();
+    if (inOverride_) {
+        if (!current_.levels.empty())
+            current_.levels.back().definition.emplace();
+    } else if (!lists_.empty() && lists_.back().levels.size() < keptLevels) {
+        lists_.back().levels.emplace_back();
+    }
 }
 
 ListLevel* ListTable::CurrentLevel()
 {
+    if (inOverride_) {
+        const bool isDefined = !current_.levels.empty() && current_.levels.back().definition.has_value();
+        return isDefined ? &*current_.levels.back().definition : nullptr;
+    }
     if (lists_.empty() || lists_.back().levels.empty())
         return nullptr;
     return &lists_.back().levels.back();
@@ -35,6 +50,7 @@ ListLevel* ListTable::CurrentLevel()
 void ListTable::BeginOverride()
 {
     current_ = Override();
+    inOverride_ = true;
 }
 
 void ListTable::SetOverriddenList(int id)
@@ -44,17 +60,22 @@ void ListTable::SetOverriddenList(int id)
 
 void ListTable::BeginOverriddenLevel()
 {
-    constexpr int asTheList = -1;
-    if (current_.starts.size() < static_cast<std::size_t>(maxLevels))
-        current_.starts.push_back(asTheList);
+    if (current_.levels.size() < keptLevels)
+        current_.levels.emplace_back();
 }
 
-void ListTable::SetOverriddenStart(int start)
+void ListTable::RestartOverriddenLevel()
 {
-    if (current_.starts.empty())
-        return;
-    current_.starts.back() = start;
-    current_.hasStarts = true;
+    if (!current_.levels.empty())
+        current_.levels.back().restarts = true;
+}
+
+void ListTable::SetStart(int start)
+{
+    if (ListLevel* level = CurrentLevel())
+        level->startAt = start;
+    else if (inOverride_ && !current_.levels.empty())
+        current_.levels.back().start = start;
 }
 
 void ListTable::SetReference(int number)
@@ -63,11 +84,27 @@ void ListTable::SetReference(int number)
         overrides_[number] = current_;
 }
 
+const ListTable::OverriddenLevel* ListTable::Override::LevelAt(int level) const
+{
+    const auto place = static_cast<std::size_t>(level);
+    return level >= 0 && place < levels.size() ? &levels[place] : nullptr;
+}
+
+bool ListTable::Override::Restarts() const
+{
+    return std::any_of(levels.begin(), levels.end(), [](const OverriddenLevel& level) {
+        return level.restarts || level.start.has_value();
+    });
+}
+
 const ListLevel* ListTable::Find(int reference, int level) const
 {
     const auto found = overrides_.find(reference);
     if (found == overrides_.end() || level < 0)
         return nullptr;
+    const OverriddenLevel* changed = found->second.LevelAt(level);
+    if (changed != nullptr && changed->definition.has_value())
+        return &*changed->definition;
     const auto list =
         std::find_if(lists_.begin(), lists_.end(), [&](const List& l) { return l.id == found->second.id; });
     if (list == lists_.end() || static_cast<std::size_t>(level) >= list->levels.size())
@@ -78,9 +115,9 @@ const ListLevel* ListTable::Find(int reference, int level) const
 int ListTable::StartOf(int reference, int level) const
 {
     const auto found = overrides_.find(reference);
-    const auto place = static_cast<std::size_t>(std::max(level, 0));
-    if (found != overrides_.end() && place < found->second.starts.size() && found->second.starts[place] >= 0)
-        return found->second.starts[place];
+    const OverriddenLevel* changed = found != overrides_.end() ? found->second.LevelAt(level) : nullptr;
+    if (changed != nullptr && changed->start.has_value())
+        return *changed->start;
     const ListLevel* definition = Find(reference, level);
     return definition != nullptr ? definition->startAt : 1;
 }
@@ -91,7 +128,7 @@ int ListTable::KeyOf(int reference) const
     if (found == overrides_.end())
         return reference;
     // Numbers of lists are not negative in practice, so these meet none.
-    return found->second.hasStarts ? -2 - reference : found->second.id;
+    return found->second.Restarts() ? -2 - reference : found->second.id;
 }
 
 } // namespace torvik::rtf

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -19,6 +20,8 @@ struct ListLevel {
     bool isLegal = false;
     /// What comes between the mark and the text: 0 a tab, 1 a blank, 2 nothing.
     int follow = 0;
+    /// The level goes on counting after a number of a level above it.
+    bool goesOn = false;
 };
 
 /// The list definitions of a document, and the numbers by which paragraphs refer to them.
@@ -31,16 +34,19 @@ public:
     void BeginList();
     /// The list's own number, which the overrides refer to.
     void SetListId(int id);
-    /// Opens the next level of the list that is being read; nullptr when there is no list or it has enough.
-    ListLevel* BeginLevel();
+    /// Opens the next level of the list that is being read, or the one that an override puts in place of its
+    /// list's own. Does nothing when there is no list or it has enough levels.
+    void BeginLevel();
     /// The level that is being read, nullptr when there is none.
     ListLevel* CurrentLevel();
 
     void BeginOverride();
     void SetOverriddenList(int id);
-    /// The level of the override that is being read next starts anew.
+    /// What comes next is about the next level of the override that is being read.
     void BeginOverriddenLevel();
-    void SetOverriddenStart(int start);
+    /// That level begins anew.
+    void RestartOverriddenLevel();
+    void SetStart(int start);
     /// The number by which paragraphs refer to the override that is being read.
     void SetReference(int number);
 
@@ -57,14 +63,22 @@ private:
         std::vector<ListLevel> levels;
     };
     std::vector<List> lists_;
+    /// What an override changes about a level.
+    struct OverriddenLevel {
+        std::optional<ListLevel> definition;
+        std::optional<int> start;
+        bool restarts = false;
+    };
     struct Override {
         int id = 0;
-        /// For every level that begins anew its first number.
-        std::vector<int> starts;
-        bool hasStarts = false;
+        std::vector<OverriddenLevel> levels;
+
+        const OverriddenLevel* LevelAt(int level) const;
+        bool Restarts() const;
     };
     std::unordered_map<int, Override> overrides_;
     Override current_;
+    bool inOverride_ = false;
 };
 
 } // namespace torvik::rtf

@@ -20,46 +20,37 @@ void SetListId(Interpreter& interpreter, const Argument& argument)
         interpreter.Document().lists.SetListId(argument.value);
 }
 
+/// Changes the level that is being read, if there is one.
+template <typename Type>
+void SetOfLevel(Interpreter& interpreter, Type ListLevel::*field, Type value)
+{
+    if (ListLevel* level = interpreter.Document().lists.CurrentLevel())
+        level->*field = value;
+}
+
 void SetLevelFormat(Interpreter& interpreter, const Argument& argument)
 {
-    if (ListLevel* level = interpreter.Document().lists.CurrentLevel();
-        level != nullptr && !IsOverride(interpreter))
-        level->format = argument.Within(0, 255);
+    SetOfLevel(interpreter, &ListLevel::format, argument.Within(0, ListTable::noFormat));
 }
 
 constexpr WordEntry listEntries[] = {
     {"list", [](Interpreter& r, const Argument&) { r.Document().lists.BeginList(); }},
     {"listid", SetListId},
-    {"listlevel",
-     [](Interpreter& r, const Argument&) {
-         if (!IsOverride(r))
-             r.Document().lists.BeginLevel();
-     }},
+    {"listlevel", [](Interpreter& r, const Argument&) { r.Document().lists.BeginLevel(); }},
     {"lfolevel", [](Interpreter& r, const Argument&) { r.Document().lists.BeginOverriddenLevel(); }},
-    {"levellegal",
-     [](Interpreter& r, const Argument& a) {
-         if (ListLevel* level = r.Document().lists.CurrentLevel(); level != nullptr && !IsOverride(r))
-             level->isLegal = a.IsOn();
-     }},
+    {"listoverridestartat",
+     [](Interpreter& r, const Argument&) { r.Document().lists.RestartOverriddenLevel(); }},
+    {"levellegal", [](Interpreter& r, const Argument& a) { SetOfLevel(r, &ListLevel::isLegal, a.IsOn()); }},
+    {"levelnorestart",
+     [](Interpreter& r, const Argument& a) { SetOfLevel(r, &ListLevel::goesOn, a.IsOn()); }},
     {"levelfollow",
-     [](Interpreter& r, const Argument& a) {
-         if (ListLevel* level = r.Document().lists.CurrentLevel(); level != nullptr && !IsOverride(r))
-             level->follow = a.Within(0, 2);
-     }},
+     [](Interpreter& r, const Argument& a) { SetOfLevel(r, &ListLevel::follow, a.Within(0, 2)); }},
     {"levelnfc", SetLevelFormat},
     {"levelnfcn", SetLevelFormat},
     {"levelstartat",
-     [](Interpreter& r, const Argument& a) {
-         const int start = a.Within(0, 30000, 1);
-         if (IsOverride(r))
-             r.Document().lists.SetOverriddenStart(start);
-         else if (ListLevel* level = r.Document().lists.CurrentLevel())
-             level->startAt = start;
-     }},
+     [](Interpreter& r, const Argument& a) { r.Document().lists.SetStart(a.Within(0, 30000, 1)); }},
     {"leveltext",
      [](Interpreter& r, const Argument&) {
-         if (IsOverride(r))
-             return r.Skip();
          r.Enter(Destination::LevelText);
          // The pattern has no font yet: the level names one after it.
          r.Document().group.page = &CodePage::Of(r.Document().codePage);

@@ -27,7 +27,10 @@ ListWriter::Place ListWriter::Join(const ListMark& mark)
     const auto known = open_.find(KeyOf(mark));
     const bool isOpen = known != open_.end() && known->second.list != nullptr;
     const bool isNumber = mark.kind == ListMark::Kind::Number;
-    const bool continues = isOpen && (isNumber ? mark.value == known->second.value + 1 : previousWasItem_);
+    const auto isNextNumber = [&](const Open& open) {
+        return mark.value == open.value + 1 && mark.before == open.before && mark.after == open.after;
+    };
+    const bool continues = isOpen && (isNumber ? isNextNumber(known->second) : previousWasItem_);
     if (!continues && isNumber && mark.value != 1) {
         Interrupt();
         return Place::Outside;
@@ -63,7 +66,7 @@ void ListWriter::Start(const ListMark& mark, double room, QTextCursor& cursor)
         format.setNumberPrefix(mark.before);
         format.setNumberSuffix(SuffixOf(mark, spaces));
     }
-    open_[KeyOf(mark)] = {cursor.createList(format), mark.value, spaces};
+    open_[KeyOf(mark)] = {cursor.createList(format), mark.value, spaces, mark.before, mark.after};
 }
 
 } // namespace torvik::rtf

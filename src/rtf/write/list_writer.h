@@ -33,6 +33,8 @@ private:
         int value = 0;
         /// Between the numbers and the text: as many as the widest number leaves room for.
         int spaces = 0;
+        QString before;
+        QString after;
     };
     static Key KeyOf(const ListMark& mark) { return {mark.listKey, mark.level, mark.style}; }
     std::map<Key, Open> open_;

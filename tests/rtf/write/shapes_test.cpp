@@ -3,6 +3,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QImage>
+#include <QTextList>
 #include <QTextTable>
 #include <QUrl>
 
