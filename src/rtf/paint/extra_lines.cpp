@@ -158,6 +158,15 @@ private:
         DrawRule(painter_, {room.left(), room.left() + room.width() * part, middle}, 0, scale_, textColor_);
     }
 
+    /// How much of the line stands before a tab: from the left, or from the right where the paragraph runs
+    /// that way. A tab parts what stands at its two sides, whatever directions are mixed there.
+    double BeforeTab(const QTextLine& line, int place) const
+    {
+        const double edge = line.cursorToX(place);
+        const QRectF text = line.naturalTextRect();
+        return block_.textDirection() == Qt::RightToLeft ? text.right() - edge : edge - text.left();
+    }
+
     void PaintLeaders()
     {
         const QString leaders = block_.blockFormat().stringProperty(tabLeadersProperty);
@@ -170,9 +179,10 @@ private:
             const QTextLine line = layout_.lineForTextPosition(place);
             if (!line.isValid())
                 continue;
-            const double start = (line.cursorToX(place) - line.x()) / scale_;
+            const double start = BeforeTab(line, place) / scale_;
+            constexpr double rounding = 0.05;
             const auto stop = std::find_if(tabs.begin(), tabs.end(), [&](const QTextOption::Tab& tab) {
-                return tab.position > start + 0.5;
+                return tab.position > start + rounding;
             });
             const qsizetype number = stop - tabs.begin();
             if (stop == tabs.end() || number >= leaders.size() || leaders.at(number) == u' ')

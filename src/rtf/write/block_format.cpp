@@ -42,6 +42,16 @@ void SetLineHeight(QTextBlockFormat& format, const ParagraphState& state)
     }
 }
 
+/// The document's left tab is where text begins, Qt's is always at the left.
+QTextOption::TabType TypeOf(const TabStop& stop, const ParagraphState& state)
+{
+    if (state.rightToLeft && stop.type == QTextOption::LeftTab)
+        return QTextOption::RightTab;
+    if (state.rightToLeft && stop.type == QTextOption::RightTab)
+        return QTextOption::LeftTab;
+    return stop.type;
+}
+
 /// The document counts tabs from its margin, the layout from the start of the first line.
 void SetTabs(QTextBlockFormat& format, const ParagraphState& state)
 {
@@ -69,7 +79,7 @@ void SetTabs(QTextBlockFormat& format, const ParagraphState& state)
     QList<QTextOption::Tab> tabs;
     QString leaders;
     for (const TabStop& stop : stops) {
-        tabs.append({PixelsFromTwips(stop.position), stop.type, u'.'});
+        tabs.append({PixelsFromTwips(stop.position), TypeOf(stop, state), u'.'});
         leaders += QChar(static_cast<char16_t>(stop.leader));
     }
     format.setTabPositions(tabs);
@@ -104,8 +114,8 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
         format.setProperty(keepWithNextProperty, true);
     if (state.breakBefore)
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    if (state.rightToLeft)
-        format.setLayoutDirection(Qt::RightToLeft);
+    // Else Qt goes by the first letter.
+    format.setLayoutDirection(state.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     const QColor back =
         ShadedColor(colors_.ChosenAt(state.patternColor), colors_.ChosenAt(state.background), state.shading);
     if (back.isValid())

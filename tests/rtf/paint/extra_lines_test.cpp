@@ -104,6 +104,27 @@ private Q_SLOTS:
         QCOMPARE(columns("some more words"), expected);
     }
 
+    void dots_in_the_middle_stand_higher_than_dots_at_the_foot()
+    {
+        const auto rows = [](const QByteArray& leader) {
+            const QImage image = Painted(ReadBody("\\pard" + leader + "\\tx6000\\fs48\\tab x\\par"));
+            QList<int> inked;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 100; x < 300 && (inked.isEmpty() || inked.last() != y); ++x) {
+                    if (IsInked(image, x, y))
+                        inked.append(y);
+                }
+            }
+            return inked;
+        };
+        const QList<int> middle = rows("\\tlmdot");
+        const QList<int> foot = rows("\\tldot");
+        QVERIFY(!middle.isEmpty() && !foot.isEmpty());
+        QVERIFY2(middle.last() + 5 < foot.first(),
+                 qPrintable(QString::number(middle.last()) + u' ' + QString::number(foot.first())));
+        QVERIFY(foot.last() - middle.first() < 20); // of letters 32 pixels high
+    }
+
     void a_leader_ends_where_text_at_the_right_begins()
     {
         const QImage image = Painted(ReadBody("\\pard\\tqr\\tlul\\tx6000\\fs24\\tab wide words\\par"));
@@ -146,6 +167,54 @@ private Q_SLOTS:
         const QImage image = Painted(ReadBody("\\pard\\tx3000\\tlul\\tx6000\\fs24\\tab\\tab x\\par"));
         QCOMPARE(InkedColumns(image, 0, 195), 0);
         QVERIFY(InkedColumns(image, 205, 395) > 180);
+    }
+
+    void leaders_of_a_paragraph_from_the_right_or_in_the_middle_data()
+    {
+        QTest::addColumn<QByteArray>("paragraph");
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        const QByteArray hebrew = "\\u1513?\\u1500?\\u1493?\\u1501?";
+        for (const char* side : {"", "\\ql", "\\qr", "\\qc"}) {
+            const QByteArray told(side);
+            QTest::addRow("Hebrew %s", side) << "\\rtlpar" + told << hebrew << hebrew;
+            QTest::addRow("Latin %s", side) << "\\rtlpar" + told << QByteArray("abc") << QByteArray("def");
+            QTest::addRow("mixed %s", side) << "\\rtlpar" + told << hebrew << QByteArray("def");
+            QTest::addRow("from left to right %s", side)
+                << "\\ltrpar" + told << hebrew + " abc" << QByteArray("def");
+        }
+    }
+    void leaders_of_a_paragraph_from_the_right_or_in_the_middle()
+    {
+        QFETCH(QByteArray, paragraph);
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        const Reading read = ReadBody("\\pard" + paragraph + "\\tx1500\\tlul\\tx6000\\fs24 " + before +
+                                      "\\tab\\tab " + after + "\\par");
+        const QImage image = Painted(read);
+        const QTextBlock block = read.document->begin();
+        const QTextLine line = block.layout()->lineAt(0);
+        // The second tab goes from 100 to 400 pixels, from the side where the text begins.
+        const QRectF text = line.naturalTextRect();
+        const bool fromRight = paragraph.startsWith("\\rtlpar");
+        const double begin = fromRight ? text.right() - 400 : text.left() + 100;
+        QCOMPARE(InkedColumns(image, 0, int(begin) - 1), 0);
+        QVERIFY(InkedColumns(image, int(begin), int(begin) + 300) > 297);
+        QCOMPARE(InkedColumns(image, int(begin) + 302, page.width()), 0);
+        // What follows the tab stands beyond it.
+        QVERIFY(fromRight ? text.left() < begin - 10 : text.right() > begin + 310);
+    }
+
+    void a_stop_in_a_paragraph_from_the_right_is_where_text_begins_or_ends()
+    {
+        const auto textAt = [](const QByteArray& stop) {
+            const Reading read = ReadBody("\\pard\\rtlpar" + stop + "\\fs24\\tab \\u1513?\\u1500?\\par");
+            (void)Painted(read);
+            const QTextLine line = read.document->begin().layout()->lineAt(0);
+            return std::pair(page.width() - line.cursorToX(1), page.width() - line.cursorToX(3));
+        };
+        QCOMPARE(textAt("\\tx3000").first, 200.0);
+        QCOMPARE(textAt("\\tqr\\tx3000").second, 200.0);
     }
 
     void double_and_thick_underlines_are_painted_in_their_colour()
