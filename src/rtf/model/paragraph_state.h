@@ -73,6 +73,9 @@ struct FramePlace {
     bool isSet = false;
     /// The frame's left edge counts from the edge of the page and not from the text.
     bool fromPage = false;
+    /// Left is where `left` tells.
+    enum class Across : quint8 { Left, Center, Right };
+    Across across = Across::Left;
     /// 0 for as wide as the text around it.
     int width = 0;
     int left = 0;

@@ -112,6 +112,21 @@ void SetFrame(Interpreter& interpreter, const Argument&)
     Frame(interpreter);
 }
 
+void SetFrameLeft(Interpreter& interpreter, const Argument& argument)
+{
+    FramePlace& frame = Frame(interpreter);
+    frame.across = FramePlace::Across::Left;
+    frame.left = argument.Within(-maxTwips, maxTwips);
+}
+
+template <FramePlace::Across across>
+void SetFrameAcross(Interpreter& interpreter, const Argument&)
+{
+    FramePlace& frame = Frame(interpreter);
+    frame.across = across;
+    frame.left = 0;
+}
+
 constexpr WordEntry paragraphEntries[] = {
     {"pard", [](Interpreter& r, const Argument&) { r.Styles().ResetParagraph(); }},
     {"s", [](Interpreter& r, const Argument& a) { r.Styles().ApplyToParagraph(a.value); }},
@@ -156,14 +171,13 @@ constexpr WordEntry paragraphEntries[] = {
                 const Argument& a) { r.Paragraph().listLevel = a.Within(0, ListTable::maxLevels - 1); }},
     {"absw", [](Interpreter& r, const Argument& a) { Frame(r).width = a.Within(0, maxTwips); }},
     {"absh", SetFrame},
-    {"posx", [](Interpreter& r, const Argument& a) { Frame(r).left = a.Within(-maxTwips, maxTwips); }},
-    {"posnegx", SetFrame},
-    {"posxc", SetFrame},
-    {"posxi", SetFrame},
-    {"posxo", SetFrame},
-    {"posxl", SetFrame},
-    // Further to the right than any text, and then brought back into it.
-    {"posxr", [](Interpreter& r, const Argument&) { Frame(r).left = maxTwips; }},
+    {"posx", SetFrameLeft},
+    {"posnegx", SetFrameLeft},
+    {"posxc", SetFrameAcross<FramePlace::Across::Center>},
+    {"posxi", SetFrameAcross<FramePlace::Across::Left>},
+    {"posxl", SetFrameAcross<FramePlace::Across::Left>},
+    {"posxo", SetFrameAcross<FramePlace::Across::Right>},
+    {"posxr", SetFrameAcross<FramePlace::Across::Right>},
     {"posy", SetFrame},
     {"posnegy", SetFrame},
     {"posyt", SetFrame},

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace torvik::rtf {
 
@@ -96,10 +97,13 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
     int left = state.leftIndent;
     if (state.markOutside)
         left = std::max(left + std::max(state.firstIndent, 0), leastMarkRoom);
+    int right = state.rightIndent;
+    if (state.rightToLeft) // the indents are those at the beginning and at the end of a line
+        std::swap(left, right);
     if (left != 0)
         format.setLeftMargin(PixelsFromTwips(left));
-    if (state.rightIndent != 0)
-        format.setRightMargin(PixelsFromTwips(state.rightIndent));
+    if (right != 0)
+        format.setRightMargin(PixelsFromTwips(right));
     if (state.firstIndent != 0 && !state.markOutside)
         format.setTextIndent(PixelsFromTwips(state.firstIndent));
     if (state.spaceBefore != 0)

@@ -23,6 +23,11 @@ void SetPlace(QTextTableFormat& format, const FramePlace& frame, const PageMeasu
         return;
     }
     format.setColumnWidthConstraints({QTextLength(QTextLength::FixedLength, PixelsFromTwips(frame.width))});
+    // Within whatever width the text has in a window or on paper.
+    if (frame.across == FramePlace::Across::Center)
+        return format.setAlignment(Qt::AlignHCenter);
+    if (frame.across == FramePlace::Across::Right)
+        return format.setAlignment(Qt::AlignRight);
     const int left = frame.fromPage ? frame.left - page.leftMargin : frame.left;
     format.setLeftMargin(PixelsFromTwips(std::clamp(left, 0, std::max(page.TextWidth() - frame.width, 0))));
 }

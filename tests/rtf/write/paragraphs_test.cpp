@@ -301,6 +301,20 @@ private Q_SLOTS:
         QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
     }
 
+    void indents_of_a_paragraph_from_the_right_count_from_there()
+    {
+        const QTextBlockFormat format = FormatOf("\\rtlpar\\li1500\\ri300\\fi150");
+        QCOMPARE(format.rightMargin(), 100.0);
+        QCOMPARE(format.leftMargin(), 20.0);
+        QCOMPARE(format.textIndent(), 10.0);
+    }
+
+    void a_paragraph_runs_as_told_whatever_its_first_letter_is()
+    {
+        QCOMPARE(FormatOf("\\ltrpar\\u1513?").layoutDirection(), Qt::LeftToRight);
+        QCOMPARE(FormatOf("\\u1513?").layoutDirection(), Qt::LeftToRight);
+    }
+
     void text_from_right_to_left()
     {
         QCOMPARE(FormatOf("\\rtlpar").layoutDirection(), Qt::RightToLeft);

@@ -206,10 +206,33 @@ private Q_SLOTS:
         QCOMPARE(read.result.tables, 0);
     }
 
-    void a_frame_at_the_right_ends_with_the_text()
+    void a_frame_stands_across_the_text_as_told_data()
     {
-        const Reading read = ReadBody("\\paperw9000\\margl1500\\margr1500\\pard\\absw3000\\posxr x\\par");
-        QCOMPARE(BoxesOf(read).first()->format().leftMargin(), 200.0);
+        QTest::addColumn<QByteArray>("words");
+        QTest::addColumn<double>("left");
+        for (const char* from : {"", "\\phmrg", "\\phpg", "\\phcol"}) {
+            const QByteArray side(from);
+            QTest::addRow("in the middle %s", from) << side + "\\posxc\\pvpg\\posyt" << 200.0;
+            QTest::addRow("at the right %s", from) << side + "\\posxr\\posyc" << 400.0;
+            QTest::addRow("at the outer side %s", from) << "\\posxo" + side << 400.0;
+            QTest::addRow("at the left %s", from) << "\\posxl\\posyb" + side << 0.0;
+            QTest::addRow("at the inner side %s", from) << side + "\\posxi" << 0.0;
+        }
+        QTest::newRow("told from the text") << QByteArray("\\phmrg\\posx3000") << 200.0;
+        QTest::newRow("told from the page") << QByteArray("\\phpg\\posx3000") << 100.0;
+        QTest::newRow("told to the left of the text") << QByteArray("\\posnegx-600") << 0.0;
+        QTest::newRow("the last word holds") << QByteArray("\\posxc\\posx1500") << 100.0;
+    }
+    void a_frame_stands_across_the_text_as_told()
+    {
+        QFETCH(QByteArray, words);
+        QFETCH(double, left);
+        const Reading read =
+            ReadBody("\\paperw12000\\margl1500\\margr1500\\pard" + words + "\\absw3000 x\\par");
+        read.document->setDocumentMargin(0);
+        read.document->setTextWidth(600);
+        const double place = read.document->documentLayout()->frameBoundingRect(BoxesOf(read).first()).left();
+        QVERIFY2(std::abs(place - left) < 1, qPrintable(QString::number(place)));
     }
 
     void the_place_of_a_table_makes_no_boxes_of_its_cells()
