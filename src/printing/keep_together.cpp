@@ -10,38 +10,60 @@
 #include <QTextTable>
 
 #include <cmath>
+#include <vector>
 
 namespace torvik {
 
 namespace {
 
-bool IsCut(const QTextBlock& block)
+/// A paragraph of the body, or a table between such. A paragraph with a border is a table of one cell.
+struct Piece {
+    QTextBlock first;
+    QTextBlock last;
+    /// nullptr for a paragraph.
+    QTextFrame* frame = nullptr;
+};
+
+/// The layout hides the empty paragraph that stands between two tables.
+bool IsHidden(const Piece& piece)
 {
-    const double page = block.document()->pageSize().height();
-    const double top = block.document()->documentLayout()->blockBoundingRect(block).top();
-    const QTextLayout& layout = *block.layout();
-    if (layout.lineCount() < 2)
-        return false;
-    double height = 0;
-    for (int line = 0; line < layout.lineCount(); ++line)
-        height += layout.lineAt(line).height();
-    const double firstLine = top + layout.lineAt(0).y();
-    const double lastLine = top + layout.lineAt(layout.lineCount() - 1).y();
-    return height <= page && std::floor(firstLine / page) != std::floor(lastLine / page);
+    return piece.frame == nullptr && piece.first.length() == 1 &&
+           !piece.first.blockFormat().hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
 }
 
-double FirstLineOf(const QTextBlock& block)
+std::vector<Piece> PiecesOf(const QTextDocument& document)
 {
-    const QTextLayout& layout = *block.layout();
-    const double top = block.document()->documentLayout()->blockBoundingRect(block).top();
-    return layout.lineCount() > 0 ? top + layout.lineAt(0).y() : top;
+    std::vector<Piece> pieces;
+    const QTextFrame* body = document.rootFrame();
+    for (auto at = body->begin(); !at.atEnd(); ++at) {
+        if (QTextFrame* frame = at.currentFrame()) {
+            if (pieces.size() > 1 && IsHidden(pieces.back()))
+                pieces.pop_back();
+            pieces.push_back(
+                {frame->firstCursorPosition().block(), frame->lastCursorPosition().block(), frame});
+        } else {
+            pieces.push_back({at.currentBlock(), at.currentBlock()});
+        }
+    }
+    return pieces;
 }
 
-double LastLineOf(const QTextBlock& block)
+double TopOf(const QTextBlock& block)
 {
-    const QTextLayout& layout = *block.layout();
-    const double top = block.document()->documentLayout()->blockBoundingRect(block).top();
-    return layout.lineCount() > 0 ? top + layout.lineAt(layout.lineCount() - 1).y() : top;
+    return block.document()->documentLayout()->blockBoundingRect(block).top();
+}
+
+double FirstLineOf(const Piece& piece)
+{
+    const QTextLayout& layout = *piece.first.layout();
+    return TopOf(piece.first) + (layout.lineCount() > 0 ? layout.lineAt(0).y() : 0);
+}
+
+double LastLineOf(const Piece& piece)
+{
+    const QTextLayout& layout = *piece.last.layout();
+    const int lines = layout.lineCount();
+    return TopOf(piece.last) + (lines > 0 ? layout.lineAt(lines - 1).y() : 0);
 }
 
 double PageOf(double line, const QTextDocument& document)
@@ -50,54 +72,103 @@ double PageOf(double line, const QTextDocument& document)
     return std::floor((line + rounding) / document.pageSize().height());
 }
 
-bool StaysWithNext(const QTextBlock& block)
+double HeightOf(const Piece& piece)
 {
-    return block.isValid() && block.blockFormat().property(rtf::keepWithNextProperty).toBool() &&
-           QTextCursor(block).currentTable() == nullptr;
+    if (piece.frame != nullptr)
+        return piece.frame->document()->documentLayout()->frameBoundingRect(piece.frame).height();
+    const QTextLayout& layout = *piece.first.layout();
+    double height = 0;
+    for (int line = 0; line < layout.lineCount(); ++line)
+        height += layout.lineAt(line).height();
+    return height;
 }
 
-/// The first of the paragraphs that go over to the next page together; an invalid one where they fill the
+bool IsCut(const Piece& piece)
+{
+    const QTextDocument& document = *piece.first.document();
+    return PageOf(FirstLineOf(piece), document) != PageOf(LastLineOf(piece), document) &&
+           HeightOf(piece) <= document.pageSize().height();
+}
+
+bool IsOneParagraphWide(const Piece& piece)
+{
+    const auto* table = qobject_cast<const QTextTable*>(piece.frame);
+    return piece.frame == nullptr || (table != nullptr && table->rows() == 1 && table->columns() == 1);
+}
+
+bool IsKept(const Piece& piece)
+{
+    return piece.first.blockFormat().property(rtf::keepTogetherProperty).toBool() &&
+           IsOneParagraphWide(piece);
+}
+
+bool StaysWithNext(const Piece& piece)
+{
+    return piece.last.blockFormat().property(rtf::keepWithNextProperty).toBool() && IsOneParagraphWide(piece);
+}
+
+bool BeginsPage(const Piece& piece)
+{
+    const QTextFormat::PageBreakFlags policy = piece.frame != nullptr
+                                                   ? piece.frame->frameFormat().pageBreakPolicy()
+                                                   : piece.first.blockFormat().pageBreakPolicy();
+    return (policy & QTextFormat::PageBreak_AlwaysBefore) != 0;
+}
+
+void BeginPageWith(const Piece& piece)
+{
+    if (piece.frame != nullptr) {
+        QTextFrameFormat format = piece.frame->frameFormat();
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        piece.frame->setFrameFormat(format);
+    } else {
+        QTextBlockFormat format;
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        QTextCursor(piece.first).mergeBlockFormat(format);
+    }
+}
+
+using Pieces = std::vector<Piece>;
+
+/// The first of the pieces that go over to the next page together with `last`; the end where they fill the
 /// page from its top, so that nothing would be won.
-QTextBlock FirstToMove(const QTextBlock& last)
+Pieces::const_iterator FirstToMove(const Pieces& pieces, Pieces::const_iterator last)
 {
-    const QTextDocument& document = *last.document();
-    const double page = PageOf(LastLineOf(last), document);
-    QTextBlock first = last;
-    while (StaysWithNext(first.previous()) && PageOf(FirstLineOf(first.previous()), document) == page)
-        first = first.previous();
-    const QTextBlock before = first.previous();
-    const bool isOnTop = !before.isValid() || PageOf(LastLineOf(before), document) < page;
-    return isOnTop || PageOf(FirstLineOf(first), document) != page ? QTextBlock() : first;
+    const QTextDocument& document = *last->first.document();
+    const double page = PageOf(LastLineOf(*last), document);
+    auto first = last;
+    while (first != pieces.begin() && StaysWithNext(*(first - 1)) &&
+           PageOf(FirstLineOf(*(first - 1)), document) == page)
+        --first;
+    const bool isOnTop = first == pieces.begin() || PageOf(LastLineOf(*(first - 1)), document) < page;
+    return isOnTop || PageOf(FirstLineOf(*first), document) != page ? pieces.end() : first;
 }
 
-void KeepWithNext(const QTextBlock& block, const QTextBlockFormat& onNewPage)
+void KeepWithNext(const Pieces& pieces, Pieces::const_iterator piece)
 {
-    const QTextDocument& document = *block.document();
-    const QTextBlock next = block.next();
-    if (!next.isValid() || PageOf(FirstLineOf(next), document) == PageOf(LastLineOf(block), document) ||
-        (next.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) != 0)
+    const auto next = piece + 1;
+    const QTextDocument& document = *piece->first.document();
+    if (PageOf(FirstLineOf(*next), document) == PageOf(LastLineOf(*piece), document) || BeginsPage(*next))
         return;
-    const QTextBlock first = FirstToMove(block);
-    if (first.isValid())
-        QTextCursor(first).mergeBlockFormat(onNewPage);
+    const auto first = FirstToMove(pieces, piece);
+    if (first != pieces.end())
+        BeginPageWith(*first);
 }
 
 } // namespace
 
 void KeepParagraphsTogether(QTextDocument& document)
 {
-    QTextBlockFormat onNewPage;
-    onNewPage.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const bool isKept = block.blockFormat().property(rtf::keepTogetherProperty).toBool();
-        if (isKept && QTextCursor(block).currentTable() == nullptr && IsCut(block)) {
-            const QTextBlock first =
-                StaysWithNext(block.previous()) ? FirstToMove(block.previous()) : QTextBlock();
-            QTextCursor(first.isValid() ? first : block).mergeBlockFormat(onNewPage);
+    const Pieces pieces = PiecesOf(document);
+    for (auto piece = pieces.begin(); piece != pieces.end(); ++piece) {
+        const bool followsHeading = piece != pieces.begin() && StaysWithNext(*(piece - 1));
+        if (IsKept(*piece) && IsCut(*piece)) {
+            const auto first = followsHeading ? FirstToMove(pieces, piece - 1) : pieces.end();
+            BeginPageWith(first != pieces.end() ? *first : *piece);
         }
         // Where this one begins is known now.
-        if (StaysWithNext(block.previous()))
-            KeepWithNext(block.previous(), onNewPage);
+        if (followsHeading)
+            KeepWithNext(pieces, piece - 1);
     }
 }
 

@@ -60,6 +60,56 @@ private Q_SLOTS:
         QVERIFY(moved > 0); // else no page ended there
     }
 
+    void a_heading_stays_with_what_follows_whatever_is_a_table_data()
+    {
+        QTest::addColumn<QByteArray>("heading");
+        QTest::addColumn<QByteArray>("follower");
+        const QByteArray row =
+            "\\trowd\\trgaph100\\cellx3000\\cellx6000\\pard\\intbl below\\cell b\\cell\\row";
+        const QByteArray bordered = "\\brdrb\\brdrs\\brdrw30 ";
+        const QByteArray boxed = "\\box\\brdrs\\brdrw30 ";
+        const QByteArray plain = "\\pard below\\par";
+        QTest::newRow("a heading with a border before text") << bordered << plain;
+        QTest::newRow("a heading in a box before text") << boxed << plain;
+        QTest::newRow("a heading before a table") << QByteArray(" ") << row.repeated(3);
+        QTest::newRow("a heading with a border before a table") << bordered << row.repeated(3);
+        QTest::newRow("a heading before text in a box")
+            << QByteArray(" ") << QByteArray("\\pard\\box\\brdrs\\brdrw15 below\\par");
+    }
+    void a_heading_stays_with_what_follows_whatever_is_a_table()
+    {
+        QFETCH(QByteArray, heading);
+        QFETCH(QByteArray, follower);
+        int moved = 0;
+        for (int before = 1; before < 60; ++before) {
+            const QByteArray lines = QByteArray("line\\par ").repeated(before);
+            const QByteArray end = "head\\par" + follower + "\\pard end\\par";
+            QTextDocument kept;
+            QTextDocument free;
+            Lay(kept, lines + "\\pard\\keepn" + heading + end);
+            Lay(free, lines + "\\pard" + heading + end);
+            QCOMPARE(PageOf(kept, "head"), PageOf(kept, "below"));
+            moved += PageOf(free, "head") != PageOf(free, "below") ? 1 : 0;
+        }
+        QVERIFY(moved > 0); // else no page ended there
+    }
+
+    void a_paragraph_in_a_box_that_is_to_stand_on_one_page_does()
+    {
+        int moved = 0;
+        for (int before = 1; before < 60; ++before) {
+            const auto isCut = [&](const QByteArray& word) {
+                QTextDocument document;
+                Lay(document, QByteArray("line\\par ").repeated(before) + "\\pard\\box\\brdrs\\brdrw15" +
+                                  word + " first\\par second\\par third\\par\\pard end\\par");
+                return PageOf(document, "first") != PageOf(document, "third");
+            };
+            QVERIFY(!isCut("\\keep"));
+            moved += isCut("") ? 1 : 0;
+        }
+        QVERIFY(moved > 0); // else no page ended there
+    }
+
     void paragraphs_that_all_stay_with_the_next_and_fill_a_page_stay()
     {
         QTextDocument document;

@@ -127,11 +127,24 @@ private Q_SLOTS:
             QVERIFY(qAbs(InkOf(printed_->Image(1, page)).top() - top) <= pixel);
     }
 
+    void a_heading_that_stays_with_the_next_text_never_ends_a_page_data()
+    {
+        QTest::addColumn<QByteArray>("heading");
+        QTest::addColumn<QByteArray>("below");
+        const QByteArray paragraph = "\\pard Below\\par";
+        QTest::newRow("plain") << QByteArray("\\b Heading\\b0\\par") << paragraph;
+        QTest::newRow("with a border") << QByteArray("\\brdrb\\brdrs\\brdrw30 Heading\\par") << paragraph;
+        QTest::newRow("before a table")
+            << QByteArray("\\b Heading\\b0\\par")
+            << QByteArray("\\trowd\\cellx3000\\cellx6000\\pard\\intbl Below\\cell b\\cell\\row");
+    }
     void a_heading_that_stays_with_the_next_text_never_ends_a_page()
     {
+        QFETCH(QByteArray, heading);
+        QFETCH(QByteArray, below);
         int moved = 0;
         for (int before = 44; before <= 54; ++before) {
-            const QByteArray text = "\\b Heading\\b0\\par\\pard Below\\par";
+            const QByteArray text = heading + below + "\\pard End\\par";
             Print(Lines(1, before) + "\\pard " + text);
             const QStringList free = printed_->Pages(printed_->Jobs());
             Print(Lines(1, before) + "\\pard\\keepn " + text);
