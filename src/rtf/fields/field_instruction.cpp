@@ -93,6 +93,8 @@ FieldInstruction ReadInstruction(const QString& instruction)
     // A formula begins right behind the word.
     if (read.keyword.startsWith(QLatin1StringView("EQ\\")))
         read.keyword.truncate(2);
+    else if (read.keyword.startsWith(u'='))
+        read.keyword.truncate(1);
     const qsizetype start = instruction.indexOf(read.keyword, 0, Qt::CaseInsensitive);
     read.rest = start < 0 ? QString() : instruction.mid(start + read.keyword.size());
     if (read.keyword == QLatin1StringView("HYPERLINK"))

@@ -1,5 +1,6 @@
 #include "rtf/fields/field_result.h"
 
+#include "rtf/fields/calculation.h"
 #include "rtf/fields/date_picture.h"
 #include "rtf/fields/equation.h"
 #include "rtf/model/number_words.h"
@@ -102,6 +103,21 @@ QString Link(const FieldInstruction& instruction)
     return address.startsWith(u'\\') ? QString() : address;
 }
 
+/// Not where a switch asks for the number or the place of the paragraph and not for its text.
+QString Reference(const FieldInstruction& instruction, FieldSurroundings& around)
+{
+    for (const QString& other : {u"\\n"_s, u"\\p"_s, u"\\r"_s, u"\\w"_s}) {
+        if (instruction.pieces.contains(other, Qt::CaseInsensitive))
+            return {};
+    }
+    return around.bookmarks.Repeat(instruction.pieces.value(1));
+}
+
+QString Calculated(const FieldInstruction& instruction)
+{
+    return CalculationText(instruction.rest.section(u'\\', 0, 0), instruction.ValueOf(u"\\#"_s));
+}
+
 using Maker = QString (*)(const FieldInstruction& instruction, FieldSurroundings& around);
 
 const QHash<QString, Maker>& Makers()
@@ -118,6 +134,8 @@ const QHash<QString, Maker>& Makers()
          [](Read, Around a) { return QString(QString::number(++a.sequences[QString()]) + u'.'); }},
         {u"AUTONUMLGL"_s,
          [](Read, Around a) { return QString(QString::number(++a.sequences[QString()]) + u'.'); }},
+        {u"REF"_s, Reference},
+        {u"="_s, [](Read r, Around) { return Calculated(r); }},
         {u"EQ"_s, [](Read r, Around) { return EquationText(r.rest); }},
         {u"IF"_s, [](Read r, Around) { return Choice(r.pieces); }},
         {u"QUOTE"_s, [](Read r, Around) { return Quoted(r.pieces); }},
@@ -141,7 +159,10 @@ QString ResultOf(const FieldInstruction& instruction, const FormField& form, Fie
     if (form.kind != FormField::Kind::None)
         return form.Value();
     const Maker maker = Makers().value(instruction.keyword, nullptr);
-    return maker != nullptr ? maker(instruction, surroundings) : QString();
+    if (maker != nullptr)
+        return maker(instruction, surroundings);
+    // A field may consist of a bookmark's name alone.
+    return surroundings.bookmarks.Repeat(instruction.pieces.value(0));
 }
 
 } // namespace torvik::rtf

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rtf/fields/bookmark_texts.h"
 #include "rtf/fields/field_instruction.h"
 #include "rtf/fields/form_field.h"
 
@@ -11,6 +12,9 @@ namespace torvik::rtf {
 
 /// What fields without a stored result can be made from.
 struct FieldSurroundings {
+    explicit FieldSurroundings(BookmarkTexts& texts) : bookmarks(texts) {}
+
+    BookmarkTexts& bookmarks;
     QDateTime now;
     /// The page that the field is on, and how many there are; from 1.
     int page = 1;

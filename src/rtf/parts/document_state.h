@@ -1,6 +1,7 @@
 #pragma once
 
 #include "rtf/bounds/budget.h"
+#include "rtf/fields/bookmark_texts.h"
 #include "rtf/model/color_table.h"
 #include "rtf/model/font_table.h"
 #include "rtf/model/list_table.h"
@@ -28,6 +29,8 @@ struct DocumentState {
 
     /// Whether text goes into paragraphs now.
     bool IsBody() const;
+    /// Where the text goes that is being read.
+    BookmarkTexts::Place TextPlace() const { return {flow.BoxDepth(), flow.InNote()}; }
 
     GroupState group;
     /// The code page of text whose font names none, and the font of text that names none.
@@ -48,6 +51,7 @@ struct DocumentState {
     FontTable fonts;
     ColorTable colors;
     ListTable lists;
+    BookmarkTexts bookmarks;
     Formats formats;
     PictureStore pictures;
     Budget budget;

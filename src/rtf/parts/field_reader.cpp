@@ -85,6 +85,18 @@ void FieldReader::LookAround()
         surroundings_.now = QDateTime::currentDateTime();
 }
 
+void FieldReader::BeginBookmark(const QString& name)
+{
+    if (document_.IsBody())
+        document_.bookmarks.Begin(name, document_.TextPlace(), document_.flow.Draft().text.size());
+}
+
+void FieldReader::EndBookmark(const QString& name)
+{
+    if (document_.IsBody())
+        document_.bookmarks.End(name, document_.TextPlace(), document_.flow.Draft().text);
+}
+
 QString FieldReader::TextOf(const QString& instruction)
 {
     if (!document_.IsBody())

@@ -11,7 +11,7 @@ namespace torvik::rtf {
 /// Reads fields: an instruction and the result that it last gave. Fields can be nested.
 class FieldReader {
 public:
-    explicit FieldReader(DocumentState& document) : document_(document) {}
+    explicit FieldReader(DocumentState& document) : document_(document), surroundings_(document.bookmarks) {}
 
     /// Makes the group that is being read a field.
     void Begin();
@@ -28,6 +28,9 @@ public:
     QString End();
     /// The text of a field that comes without a group, empty where no text is shown.
     QString TextOf(const QString& instruction);
+    /// The text from here on is that of a bookmark, which fields may repeat.
+    void BeginBookmark(const QString& name);
+    void EndBookmark(const QString& name);
     FieldSurroundings& Surroundings() { return surroundings_; }
 
 private:

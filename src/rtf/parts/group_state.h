@@ -38,6 +38,7 @@ enum class Destination : quint8 {
     NumberingBefore,
     NumberingAfter,
     Bookmark,
+    BookmarkEnd,
     Note
 };
 

@@ -34,6 +34,7 @@ void ParagraphReader::FinishDraft()
     ++document_.endedParagraphs;
     const ParagraphState& paragraph = document_.group.paragraph;
     Paragraph& draft = document_.flow.Draft();
+    document_.bookmarks.EndParagraph(document_.TextPlace(), draft.text);
     draft.mark = counter_.MarkOf(paragraph, mark_);
     mark_.resize(0);
     ParagraphState looks = LooksOf(paragraph);

@@ -93,6 +93,7 @@ QString* TextRouter::AsideText()
     case Destination::Fonts:
     case Destination::LevelText:
     case Destination::Bookmark:
+    case Destination::BookmarkEnd:
     case Destination::ShapePropertyName:
     case Destination::ShapePropertyValue:
         return &document_.aside;

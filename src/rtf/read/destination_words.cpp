@@ -153,7 +153,7 @@ constexpr WordEntry destinationEntries[] = {
     {"annotation", SkipGroup},
     {"atnid", SkipGroup},
     {"atnauthor", SkipGroup},
-    {"bkmkend", SkipGroup},
+    {"bkmkend", EnterGroup<Destination::BookmarkEnd>},
     {"sn", SkipGroup},
     {"sv", SkipGroup},
     {"objdata", SkipGroup},
