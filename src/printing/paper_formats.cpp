@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QHash>
+#include <QPen>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -37,7 +38,7 @@ QFont FontForPaper(QFont font)
 /// What is different on paper in each format of a document; found out once a format.
 class PaperFormats {
 public:
-    explicit PaperFormats(const QFont& defaultFont) : defaultFont_(defaultFont) {}
+    PaperFormats(const QFont& defaultFont, double scale) : defaultFont_(defaultFont), scale_(scale) {}
 
     /// What is to be merged into a format with this number in its document. A text that the fonts for paper
     /// do not hold keeps its own.
@@ -53,12 +54,19 @@ private:
     QTextCharFormat MakeChange(const QTextCharFormat& format, bool hasPaperFont) const
     {
         QTextCharFormat change;
+        // The layout brings the space between letters to the paper, but not the line around them.
+        if (format.hasProperty(QTextFormat::TextOutline)) {
+            QPen outline = format.textOutline();
+            outline.setWidthF(outline.widthF() * scale_);
+            change.setTextOutline(outline);
+        }
         if (hasPaperFont)
             change.setFontFamilies(PaperFamilies(format.font().resolve(defaultFont_)));
         return change;
     }
 
     QFont defaultFont_;
+    double scale_;
     QHash<std::pair<int, bool>, QTextCharFormat> changes_;
 };
 
@@ -97,7 +105,7 @@ void AddStretches(const QTextBlock& block, PaperFormats& formats, std::vector<St
 void BringFormatsToPaper(QTextDocument& text, double scale)
 {
     text.setDefaultFont(FontForPaper(text.defaultFont()));
-    PaperFormats formats(text.defaultFont());
+    PaperFormats formats(text.defaultFont(), scale);
     std::vector<Stretch> stretches;
     QTextCursor cursor(&text);
     cursor.beginEditBlock();

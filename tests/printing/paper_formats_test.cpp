@@ -1,6 +1,7 @@
 #include "printing/paper_formats.h"
 #include "support/test_class.h"
 
+#include <QPen>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -91,6 +92,19 @@ private Q_SLOTS:
         QCOMPARE(scaled.textIndent(), -4 * scale);
         cursor.setPosition(3);
         QCOMPARE(cursor.charFormat().fontLetterSpacing(), 2.0);
+    }
+
+    void the_line_around_outlined_letters_grows_with_the_paper()
+    {
+        QTextDocument text;
+        QTextCharFormat outlined = FormatOf(u"Liberation Sans"_s);
+        outlined.setTextOutline(QPen(QColor(Qt::red), 0.5));
+        QTextCursor(&text).insertText(u"outlined"_s, outlined);
+        BringFormatsToPaper(text, scale);
+        QTextCursor cursor(&text);
+        cursor.setPosition(3);
+        QCOMPARE(cursor.charFormat().textOutline().widthF(), 0.5 * scale);
+        QCOMPARE(cursor.charFormat().textOutline().color(), QColor(Qt::red));
     }
 
     void letters_are_not_hinted_and_pixels_become_points()

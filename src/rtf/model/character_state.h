@@ -59,6 +59,8 @@ struct CharacterState {
     bool bold = false;
     bool italic = false;
     bool strike = false;
+    /// By two lines.
+    bool doubleStrike = false;
     bool outlined = false;
     bool hidden = false;
     bool rightToLeft = false;

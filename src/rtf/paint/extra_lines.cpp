@@ -32,11 +32,22 @@ QFont FontOf(const QTextCharFormat& format, const QTextDocument& document, const
     return QFont(font, painter.device());
 }
 
-QColor ColorOf(const QTextCharFormat& format, const QColor& textColor)
+bool WantsLines(const QTextFormat& format)
 {
-    if (format.underlineColor().isValid())
-        return format.underlineColor();
-    return format.foreground().style() == Qt::NoBrush ? textColor : format.foreground().color();
+    return format.hasProperty(underlineProperty) || format.hasProperty(doubleStrikeProperty);
+}
+
+/// In whole pixels, as lines come out, so that what lies between them is as wide.
+double LineWidth(const QFontMetricsF& metrics)
+{
+    return std::max(std::round(metrics.lineWidth()), 1.0);
+}
+
+/// Where Qt draws the line below a text: the middle of it, from the baseline.
+double UnderlinePlace(const QFontMetricsF& metrics)
+{
+    const double place = std::ceil(metrics.underlinePos()) + 0.5;
+    return metrics.underlinePos() <= metrics.descent() ? std::min(place, metrics.descent() - 0.5) : place;
 }
 
 void DrawRule(QPainter& painter, const Stretch& stretch, double below, double width, const QColor& color)
@@ -73,7 +84,7 @@ void DrawLeader(QPainter& painter, Stretch stretch, TabLeader leader, const QCol
 {
     const QFontMetricsF metrics(painter.font(), painter.device());
     const double space = metrics.horizontalAdvance(u' ') / 3;
-    const double thin = std::max(metrics.lineWidth(), 1.0);
+    const double thin = LineWidth(metrics);
     switch (leader) {
     case TabLeader::None:
         break;
@@ -112,14 +123,21 @@ public:
         if (block_.blockFormat().hasProperty(ruleAboveProperty))
             PaintRuleAbove();
         for (auto part = block_.begin(); !part.atEnd(); ++part) {
-            const QTextFragment fragment = part.fragment();
-            const int kind = fragment.charFormat().intProperty(underlineProperty);
-            if (kind != int(ExtraUnderline::None))
-                PaintUnderline(fragment, static_cast<ExtraUnderline>(kind));
+            if (WantsLines(part.fragment().charFormat()))
+                PaintLinesOf(part.fragment());
         }
     }
 
 private:
+    QColor TextColor(const QTextCharFormat& format) const
+    {
+        return format.foreground().style() == Qt::NoBrush ? textColor_ : format.foreground().color();
+    }
+    QColor LineColor(const QTextCharFormat& format) const
+    {
+        return format.underlineColor().isValid() ? format.underlineColor() : TextColor(format);
+    }
+
     Stretch Between(const QTextLine& line, int from, int to) const
     {
         const double a = line.cursorToX(from);
@@ -128,14 +146,14 @@ private:
                 corner_.y() + line.y() + line.ascent()};
     }
 
-    void PaintUnderline(const QTextFragment& fragment, ExtraUnderline kind)
+    /// The second line below or through a text of which Qt draws the first.
+    void PaintLinesOf(const QTextFragment& fragment)
     {
         const int start = fragment.position() - block_.position();
         const int end = start + fragment.length();
         const QTextCharFormat format = fragment.charFormat();
         const QFontMetricsF metrics(FontOf(format, *block_.document(), painter_), painter_.device());
-        const double thin = std::max(metrics.lineWidth(), 1.0);
-        const QColor color = ColorOf(format, textColor_);
+        const double thin = LineWidth(metrics);
         for (int i = 0; i < layout_.lineCount(); ++i) {
             const QTextLine line = layout_.lineAt(i);
             const int from = std::max(start, line.textStart());
@@ -143,10 +161,13 @@ private:
             if (from >= to)
                 continue;
             const Stretch stretch = Between(line, from, to);
-            if (kind == ExtraUnderline::Double)
-                DrawRule(painter_, stretch, metrics.underlinePos() + 2 * thin, thin, color);
-            else
-                DrawRule(painter_, stretch, metrics.underlinePos() + thin / 2, 2 * thin, color);
+            const int kind = format.intProperty(underlineProperty);
+            if (kind == int(ExtraUnderline::Double))
+                DrawRule(painter_, stretch, UnderlinePlace(metrics) + 2 * thin, thin, LineColor(format));
+            else if (kind == int(ExtraUnderline::Thick))
+                DrawRule(painter_, stretch, UnderlinePlace(metrics) + thin / 2, 2 * thin, LineColor(format));
+            if (format.hasProperty(doubleStrikeProperty))
+                DrawRule(painter_, stretch, 2 * thin - metrics.strikeOutPos(), thin, TextColor(format));
         }
     }
 
@@ -192,7 +213,7 @@ private:
             const QTextCharFormat format = cursor.charFormat();
             painter_.setFont(FontOf(format, *block_.document(), painter_));
             DrawLeader(painter_, Between(line, place, place + 1),
-                       static_cast<TabLeader>(leaders.at(number).unicode()), ColorOf(format, textColor_));
+                       static_cast<TabLeader>(leaders.at(number).unicode()), LineColor(format));
         }
     }
 
@@ -210,7 +231,7 @@ bool WantsLines(const QTextBlock& block)
         block.blockFormat().hasProperty(ruleAboveProperty))
         return true;
     for (auto part = block.begin(); !part.atEnd(); ++part) {
-        if (part.fragment().charFormat().hasProperty(underlineProperty))
+        if (WantsLines(part.fragment().charFormat()))
             return true;
     }
     return false;
@@ -223,8 +244,8 @@ ExtraLines::ExtraLines(const QTextDocument& document)
     // Most documents have no such format, and need not be gone through.
     const QList<QTextFormat> formats = document.allFormats();
     const bool isNeeded = std::any_of(formats.begin(), formats.end(), [](const QTextFormat& format) {
-        return format.hasProperty(tabLeadersProperty) || format.hasProperty(underlineProperty) ||
-               format.hasProperty(ruleAboveProperty);
+        return format.hasProperty(tabLeadersProperty) || format.hasProperty(ruleAboveProperty) ||
+               WantsLines(format);
     });
     if (!isNeeded)
         return;

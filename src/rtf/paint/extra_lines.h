@@ -12,7 +12,8 @@ class QTextDocument;
 namespace torvik::rtf {
 
 /// What Qt's layout does not paint of a document that was read: leaders before tab stops, double and thick
-/// underlines. It is painted over the text, on the screen as on paper.
+/// underlines, the second line of text that is struck out twice. It is painted over the text, on the screen
+/// as on paper.
 class ExtraLines {
 public:
     ExtraLines() = default;

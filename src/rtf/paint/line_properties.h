@@ -9,6 +9,8 @@ namespace torvik::rtf {
 inline constexpr int tabLeadersProperty = QTextFormat::UserProperty + 3;
 /// In the format of characters that Qt underlines once: the other line that they are to have.
 inline constexpr int underlineProperty = QTextFormat::UserProperty + 4;
+/// True in the format of characters that Qt strikes out once: they are to be struck out twice.
+inline constexpr int doubleStrikeProperty = QTextFormat::UserProperty + 7;
 
 /// In the format of a paragraph: a short rule stands in the room above it, which parts the notes from the
 /// text.

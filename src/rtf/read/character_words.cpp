@@ -84,7 +84,7 @@ constexpr WordEntry characterEntries[] = {
          ChangeComplex(r, [&](ComplexLooks& looks) { looks.italic = a.IsOn(); });
      }},
     {"strike", SetCharacterFlag<&CharacterState::strike>},
-    {"striked", SetCharacterFlag<&CharacterState::strike>},
+    {"striked", SetCharacterFlag<&CharacterState::doubleStrike>},
     {"outl", SetCharacterFlag<&CharacterState::outlined>},
     {"v", SetCharacterFlag<&CharacterState::hidden>},
     {"rtlch", SetDirection<true>},

@@ -10,6 +10,14 @@ namespace torvik::rtf {
 
 namespace {
 
+/// Of letters of so many points, in pixels: less than half of their stems, which have it at both sides.
+double OutlineWidth(double points)
+{
+    constexpr double pixelsPerPoint = 96.0 / 72.0;
+    constexpr double part = 1.0 / 30;
+    return points * pixelsPerPoint * part;
+}
+
 QTextCharFormat::UnderlineStyle UnderlineStyleOf(Underline kind)
 {
     switch (kind) {
@@ -82,8 +90,10 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
         format.setFontWeight(QFont::Bold);
     if (state.italic)
         format.setFontItalic(true);
-    if (state.strike)
+    if (state.strike || state.doubleStrike)
         format.setFontStrikeOut(true);
+    if (state.doubleStrike)
+        format.setProperty(doubleStrikeProperty, true);
     if (state.underline != Underline::None) {
         format.setUnderlineStyle(UnderlineStyleOf(state.underline));
         if (state.underline == Underline::Double)
@@ -98,9 +108,9 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
     if (front.isValid())
         format.setForeground(front);
     if (state.outlined) {
-        // The thinnest line there is, in the colour of the text, around letters without a filling.
-        constexpr double hairline = 0;
-        format.setTextOutline(QPen(front.isValid() ? front : QColor(Qt::black), hairline));
+        // A thin line in the colour of the text, around letters without a filling.
+        format.setTextOutline(
+            QPen(front.isValid() ? front : QColor(Qt::black), OutlineWidth(state.size / 2.0)));
         format.setForeground(QColor(Qt::transparent));
     }
     const QColor back =

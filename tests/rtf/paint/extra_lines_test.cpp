@@ -230,9 +230,18 @@ private Q_SLOTS:
         }
     }
 
-    void the_two_lines_of_a_double_underline_are_apart()
+    void the_two_lines_of_a_double_underline_or_strike_are_apart_data()
     {
-        const Reading read = ReadBody("\\pard\\fs48\\uldb\\~\\~\\~\\~\\~\\~\\ulnone x\\par");
+        QTest::addColumn<QByteArray>("words");
+        for (const char* size : {"\\fs16", "\\fs20", "\\fs24", "\\fs28", "\\fs36", "\\fs48"}) {
+            QTest::addRow("underline %s", size) << QByteArray(size) + "\\uldb";
+            QTest::addRow("strike %s", size) << QByteArray(size) + "\\striked1";
+        }
+    }
+    void the_two_lines_of_a_double_underline_or_strike_are_apart()
+    {
+        QFETCH(QByteArray, words);
+        const Reading read = ReadBody("\\pard" + words + "\\~\\~\\~\\~\\~\\~\\~\\~\\plain x\\par");
         QImage image = Painted(read);
         QPainter painter(&image);
         read.document->drawContents(&painter);

@@ -100,6 +100,20 @@ private Q_SLOTS:
         QCOMPARE(read.Format("plain").foreground().color(), QColor(255, 0, 0));
     }
 
+    void the_line_around_outlined_letters_is_in_proportion_to_them()
+    {
+        const Reading read = ReadBody("{\\outl\\fs24 small}{\\outl\\fs96 large}\\par");
+        const double small = read.Format("small").textOutline().widthF();
+        QVERIFY(small > 0.3 && small < 0.8); // pixels, of letters of 16
+        QCOMPARE(read.Format("large").textOutline().widthF(), small * 4);
+    }
+
+    void letters_struck_out_twice_are_told_as_struck_out()
+    {
+        QVERIFY(ReadBody("\\striked1 twice\\striked0  plain\\par").Format("twice").fontStrikeOut());
+        QVERIFY(!ReadBody("\\striked1 twice\\striked0  plain\\par").Format("plain").fontStrikeOut());
+    }
+
     void letters_of_complex_scripts_have_looks_of_their_own()
     {
         const QByteArray hebrew = "\\u1513 ?\\u1500 ? \\u1493 ?";
