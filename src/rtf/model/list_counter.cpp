@@ -68,6 +68,7 @@ ListMark ListCounter::MarkOf(const ParagraphState& paragraph, const QString& wri
         mark.gap = level->follow == blank ? QStringLiteral(" ") : QString();
     mark.listKey = paragraph.list != 0 ? lists_.KeyOf(paragraph.list) : keyOfNumbering;
     mark.level = paragraph.listLevel;
+    mark.rightToLeft = paragraph.rightToLeft;
     return mark;
 }
 

@@ -17,6 +17,8 @@ struct ListMark {
     int listKey = 0;
     int level = 0;
     int value = 0;
+    /// It stands at the right of a paragraph that runs from there.
+    bool rightToLeft = false;
     QString before;
     QString after;
     /// The mark as it was written, for marks that the list itself cannot show.

@@ -6,9 +6,13 @@ namespace torvik::rtf {
 
 namespace {
 
-QString SuffixOf(const ListMark& mark, int spaces)
+/// What stands around a number, and spaces between it and the text. Qt puts the suffix first where the text
+/// runs from the right, and then lays it out from the right as well.
+void SetAround(QTextListFormat& format, const ListMark& mark, int spaces)
 {
-    return mark.after + QString(spaces, QChar(QChar::Nbsp));
+    const QString after = mark.after + QString(spaces, QChar(QChar::Nbsp));
+    format.setNumberPrefix(mark.rightToLeft ? after : mark.before);
+    format.setNumberSuffix(mark.rightToLeft ? mark.before : after);
 }
 
 int SpacesAfter(const ListMark& mark, double room)
@@ -49,7 +53,7 @@ int ListWriter::Continue(const ListMark& mark, double room)
     if (spaces < open.spaces) {
         open.spaces = spaces;
         QTextListFormat format = open.list->format();
-        format.setNumberSuffix(SuffixOf(mark, spaces));
+        SetAround(format, mark, spaces);
         open.list->setFormat(format);
     }
     return open.list->objectIndex();
@@ -62,10 +66,8 @@ void ListWriter::Start(const ListMark& mark, double room, QTextCursor& cursor)
     // The paragraph's own indent places the item.
     format.setIndent(0);
     const int spaces = SpacesAfter(mark, room);
-    if (mark.kind == ListMark::Kind::Number) {
-        format.setNumberPrefix(mark.before);
-        format.setNumberSuffix(SuffixOf(mark, spaces));
-    }
+    if (mark.kind == ListMark::Kind::Number)
+        SetAround(format, mark, spaces);
     open_[KeyOf(mark)] = {cursor.createList(format), mark.value, spaces, mark.before, mark.after};
 }
 

@@ -27,7 +27,7 @@ public:
     void Interrupt() { previousWasItem_ = false; }
 
 private:
-    using Key = std::tuple<int, int, int>; ///< list, level, style
+    using Key = std::tuple<int, int, int, bool>; ///< list, level, style, direction
     struct Open {
         QTextList* list = nullptr;
         int value = 0;
@@ -36,7 +36,10 @@ private:
         QString before;
         QString after;
     };
-    static Key KeyOf(const ListMark& mark) { return {mark.listKey, mark.level, mark.style}; }
+    static Key KeyOf(const ListMark& mark)
+    {
+        return {mark.listKey, mark.level, mark.style, mark.rightToLeft};
+    }
     std::map<Key, Open> open_;
     bool previousWasItem_ = false;
 };

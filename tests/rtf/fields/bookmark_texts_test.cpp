@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(ReadBody("[" + Field("=SUM(ABOVE)") + "]\\par").Text(), u"[]"_s);
     }
 
-    void a_very_long_text_is_cut_short()
+    void a_very_longTexttext_is_cut_short()
     {
         const QString text =
             ReadBody(Marked("x", QByteArray("word ").repeated(4000)) + "\\par[" + Field("REF x") + "]\\par")
@@ -83,8 +83,9 @@ private Q_SLOTS:
 
     void very_many_repetitions_come_to_an_end()
     {
-        const QByteArray long_ = Marked("x", QByteArray("word ").repeated(400));
-        const Reading read = ReadBody(long_ + "\\par " + Field("REF x").repeated(20'000) + "\\par end\\par");
+        const QByteArray longText = Marked("x", QByteArray("word ").repeated(400));
+        const Reading read =
+            ReadBody(longText + "\\par " + Field("REF x").repeated(20'000) + "\\par end\\par");
         QVERIFY(read.Text().size() < 110'000);
         QVERIFY(read.Text().endsWith(u"end"_s));
     }

@@ -367,6 +367,30 @@ private Q_SLOTS:
         QCOMPARE(read.Block(u"two"_s).textList()->itemText(read.Block(u"two"_s)), u"2."_s);
     }
 
+    void numbers_of_a_list_from_the_right_are_written_in_their_order()
+    {
+        const auto markOf = [](const QByteArray& direction) {
+            const Reading read =
+                ReadBody(ListTable("\\levelnfc0\\levelstartat1{\\leveltext\\'03(\\'00.;}") + "\\pard" +
+                         direction + "\\li720\\fi-360\\ls1 \\u1513?\\u1500?\\par");
+            const QTextBlock block = read.document->begin();
+            return block.textList()->itemText(block).replace(QChar(QChar::Nbsp), u' ');
+        };
+        // The item's text is laid out from the right, so it has to begin with what is read first.
+        QCOMPARE(markOf("\\rtlpar"), markOf("\\ltrpar"));
+        QVERIFY(markOf("\\rtlpar").startsWith(u"(1."_s));
+    }
+
+    void a_list_that_changes_its_direction_keeps_its_numbers()
+    {
+        const QByteArray item = "{\\pntext 1.}{\\*\\pn\\pnlvlbody\\pndec{\\pntxta .}}";
+        const Reading read = ReadBody("\\pard\\rtlpar" + item +
+                                      "one\\par\\pard\\ltrpar{\\pntext 2.}{\\*\\pn"
+                                      "\\pnlvlbody\\pndec{\\pntxta .}}two\\par");
+        QCOMPARE(MarkOf(read, u"one"_s), u"1."_s);
+        QCOMPARE(MarkOf(read, u"two"_s), u"2."_s);
+    }
+
     void a_list_that_starts_again_is_another_one()
     {
         const Reading read =
