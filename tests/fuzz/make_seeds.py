@@ -132,9 +132,12 @@ def documents():
     write("rtf", "characters.rtf", HEAD + rb"""\b bold\b0\i x\i0\ul u\ulnone\super s\nosupersub\cf1 c\highlight1 h\caps C
 \u8364?\u-10179?\u-8704?{\f2\'93\'fa}{\v hid}\ulw a b\outl o\rtlch\fcs1\af1\afs40\ab\ltrch\fcs0 x\u1513?\u1500? \par}""")
     write("rtf", "paragraphs.rtf", HEAD + rb"""\pard\qc\li720\fi-360\sb120\sl360\slmult1\tqr\tx2000 a\tab b\par
-\pard\box\brdrs\brdrw15 box\par\pard\brdrb\brdrs rule\par\page x\par}""")
+\pard\box\brdrs\brdrw15 box\par\pard\brdrb\brdrs rule\par\page x\par
+\pard\rtlpar\li300\tldot\tx3000\u1513?\tab a\par\pard\phpg\posxc\absw900{\striked1\uldb\outl c}\par}""")
     write("rtf", "lists.rtf", HEAD + rb"""{\*\listtable{\list{\listlevel\levelnfc0{\leveltext\'02\'00.;}{\levelnumbers
-\'01;}}\listid7}}{\*\listoverridetable{\listoverride\listid7\ls1}}{\pntext\f1\'b7\tab}{\*\pn\pnlvlblt{\pntxtb\'b7}}one\par
+\'01;}}\listid7}}{\*\listoverridetable{\listoverride\listid7\ls1}
+{\listoverride\listid7{\lfolevel\listoverridestartat\listoverrideformat1{\listlevel\levelnfc1\levelnorestart1{\leveltext\'02\'00);}}}\ls2}}
+\pard\ls2 a\par\pard\rtlpar\ls1 b\par\pard{\pntext\f1\'b7\tab}{\*\pn\pnlvlblt{\pntxtb\'b7}}one\par
 \pard\ls1{\listtext 1.\tab}two\par\pard\ls1 three\par
 \pard\fi-400\li400{\*\pn\pnlvlbody\pnlcltr\pnstart0{\pntxta )}}four\par}""")
     write("rtf", "table.rtf", HEAD + rb"""\trowd\trgaph100\trleft-100\clmgf\clbrdrt\brdrs\cellx1000\clmrg\cellx2000\clvmgf\cellx3000
@@ -142,7 +145,8 @@ def documents():
 {\*\nesttableprops\trowd\cellx900\nestrow}\itap1\cell e\cell\row\pard x\par}""")
     write("rtf", "fields.rtf", HEAD + rb"""{\field{\*\fldinst{HYPERLINK "http://a.example/"}}{\fldrslt l}}
 {\field{\*\fldinst QUOTE "a\par {\field{\*\fldinst QUOTE b}{\fldrslt b\par}}"}}
-{\field{\*\fldinst SYMBOL 183 \\f "Symbol"}{\fldrslt}}{\*\bkmkstart b}x{\*\bkmkend b}\chftn{\footnote\chftn n}
+{\field{\*\fldinst SYMBOL 183 \\f "Symbol"}{\fldrslt}}{\*\bkmkstart b}x{\*\bkmkend b}
+{\field{\*\fldinst REF b}}{\field{\*\fldinst =-(1+2)*3^2/4 \\# "#,##0.0"}}\chftn{\footnote\chftn n}
 {\upr{a}{\*\ud{\uc0 b}}}\par}""")
     write("rtf", "pictures.rtf", HEAD
           + rb"{\*\shppict{\pict\wmetafile8\picw100\pich100\picwgoal300\pichgoal300\piccropl30 " + STRIP.hex().encode()
