@@ -15,14 +15,18 @@ namespace {
 /// Between border and text of a box, at least, pixels.
 constexpr double boxPadding = 4;
 
-/// A frame keeps its width, and stays within the text that it stands in.
+/// A frame keeps its width, or is as wide as its text where it stands apart from the left edge, and stays
+/// within the text that it stands in.
 void SetPlace(QTextTableFormat& format, const FramePlace& frame, const PageMeasures& page)
 {
-    if (!frame.isSet || frame.width <= 0) {
+    const bool isApart = frame.across != FramePlace::Across::Left;
+    if (!frame.isSet || (frame.width <= 0 && !isApart)) {
         format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
         return;
     }
-    format.setColumnWidthConstraints({QTextLength(QTextLength::FixedLength, PixelsFromTwips(frame.width))});
+    if (frame.width > 0)
+        format.setColumnWidthConstraints(
+            {QTextLength(QTextLength::FixedLength, PixelsFromTwips(frame.width))});
     // Within whatever width the text has in a window or on paper.
     if (frame.across == FramePlace::Across::Center)
         return format.setAlignment(Qt::AlignHCenter);

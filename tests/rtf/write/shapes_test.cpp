@@ -235,6 +235,30 @@ private Q_SLOTS:
         QVERIFY2(std::abs(place - left) < 1, qPrintable(QString::number(place)));
     }
 
+    void a_frame_without_a_width_is_as_wide_as_its_text_data()
+    {
+        QTest::addColumn<QByteArray>("place");
+        QTest::addColumn<double>("part");
+        QTest::newRow("in the middle") << QByteArray("\\posxc") << 0.5;
+        QTest::newRow("at the right") << QByteArray("\\posxr") << 1.0;
+    }
+    void a_frame_without_a_width_is_as_wide_as_its_text()
+    {
+        QFETCH(QByteArray, place);
+        QFETCH(double, part);
+        for (const QByteArray& text : {QByteArray("short"), QByteArray("words ").repeated(100)}) {
+            const Reading read = ReadBody("\\pard" + place + "\\phpg " + text + "\\par");
+            read.document->setDocumentMargin(0);
+            read.document->setTextWidth(600);
+            const QRectF room = read.document->documentLayout()->frameBoundingRect(BoxesOf(read).first());
+            QVERIFY2(text == "short" ? room.width() < 100 : room.width() > 590,
+                     qPrintable(QString::number(room.width())));
+            QVERIFY(room.right() < 601);
+            const double before = (600 - room.width()) * part;
+            QVERIFY2(std::abs(room.left() - before) < 1, qPrintable(QString::number(room.left())));
+        }
+    }
+
     void the_place_of_a_table_makes_no_boxes_of_its_cells()
     {
         const Reading read =
