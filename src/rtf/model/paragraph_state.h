@@ -16,6 +16,8 @@ enum class BorderLine : quint8 {
     Solid,
     Thick,
     Double,
+    /// A thin and a thick line.
+    Unequal,
     Dotted,
     Dashed,
     DotDash,

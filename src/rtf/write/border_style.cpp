@@ -12,6 +12,7 @@ QTextFrameFormat::BorderStyle BorderStyleOf(BorderLine line)
     case BorderLine::None:
         return QTextFrameFormat::BorderStyle_None;
     case BorderLine::Double:
+    case BorderLine::Unequal: // Qt has none such
         return QTextFrameFormat::BorderStyle_Double;
     case BorderLine::Dotted:
         return QTextFrameFormat::BorderStyle_Dotted;
@@ -40,8 +41,11 @@ double BorderPixels(const Border& border)
 {
     if (!border.IsSet())
         return 0;
-    const double drawn = PixelsFromTwips(border.width) * (border.line == BorderLine::Thick ? 2 : 1);
-    const double least = border.line == BorderLine::Double ? 3 : 1;
+    // The width that is told is that of each of two lines, and of the room between them.
+    const bool isDouble = border.line == BorderLine::Double;
+    const bool isTwice = border.line == BorderLine::Thick || border.line == BorderLine::Unequal;
+    const double drawn = PixelsFromTwips(border.width) * (isDouble ? 3 : isTwice ? 2 : 1);
+    const double least = isDouble || border.line == BorderLine::Unequal ? 3 : 1;
     return std::clamp(drawn, least, 20.0);
 }
 

@@ -197,6 +197,38 @@ private Q_SLOTS:
                  QTextFrameFormat::BorderStyle_Double);
     }
 
+    void a_double_border_has_two_lines_of_the_width_that_is_told()
+    {
+        const auto widthOf = [](const QByteArray& border) {
+            const Reading read = ReadBody("\\pard\\box" + border + " boxed\\par");
+            auto* box = qobject_cast<QTextTable*>(read.document->rootFrame()->childFrames().first());
+            return box->cellAt(0, 0).format().toTableCellFormat().leftBorder();
+        };
+        QCOMPARE(widthOf("\\brdrs\\brdrw30"), 2.0);
+        QCOMPARE(widthOf("\\brdrdb\\brdrw30"), 6.0);
+        QCOMPARE(widthOf("\\brdrdb\\brdrw5"), 3.0);
+        QCOMPARE(widthOf("\\brdrdb\\brdrw75"), 15.0);
+        QCOMPARE(widthOf("\\brdrtnthsg\\brdrw30"), 4.0);
+    }
+
+    void borders_of_several_lines_are_double_ones_data()
+    {
+        QTest::addColumn<QByteArray>("word");
+        for (const char* word : {"tnthsg", "thtnsg", "tnthmg", "thtnmg", "tnthlg", "thtnlg", "tnthtnsg",
+                                 "tnthtnmg", "tnthtnlg", "wavydb", "triple"})
+            QTest::addRow("%s", word) << QByteArray("\\brdr") + word;
+    }
+    void borders_of_several_lines_are_double_ones()
+    {
+        QFETCH(QByteArray, word);
+        const Reading read = ReadBody("\\pard\\brdrb" + word + "\\brdrw15 text\\par");
+        auto* box = qobject_cast<QTextTable*>(read.document->rootFrame()->childFrames().value(0));
+        QVERIFY(box != nullptr);
+        const QTextTableCellFormat format = box->cellAt(0, 0).format().toTableCellFormat();
+        QCOMPARE(format.bottomBorderStyle(), QTextFrameFormat::BorderStyle_Double);
+        QCOMPARE(format.bottomBorder(), 3.0);
+    }
+
     void boxes_that_follow_each_other_have_no_line_between_them()
     {
         const Reading read = ReadBody("\\pard\\box\\brdrs one\\par\\pard\\box\\brdrdb two\\par\\pard x\\par");
