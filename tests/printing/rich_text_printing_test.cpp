@@ -169,6 +169,21 @@ private Q_SLOTS:
         QVERIFY2(dots > 50 && dots < 80, qPrintable(QString::number(dots)));
     }
 
+    void the_line_around_outlined_letters_is_as_wide_in_proportion_as_on_the_screen()
+    {
+        Print("\\pard\\outl\\fs288 I\\par");
+        const QImage page = printed_->Image(1, 1);
+        const QRectF ink = InkOf(page);
+        const int middle = static_cast<int>(ink.center().y() / pixel);
+        int x = static_cast<int>(ink.left() / pixel);
+        int line = 0;
+        for (; qGray(page.pixel(x, middle)) < 200; ++x)
+            ++line;
+        // A thirtieth of 144 points, half of it outside and half inside of the letter's stem.
+        QVERIFY2(line >= 4 && line <= 6, qPrintable(QString::number(line)));
+        QCOMPARE(qGray(page.pixel(x + 2, middle)), 255);
+    }
+
     void a_text_without_a_character_is_one_empty_page()
     {
         Print("");
