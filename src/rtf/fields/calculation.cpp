@@ -7,6 +7,8 @@
 #include <cmath>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace torvik::rtf {
 
 namespace {
@@ -146,7 +148,7 @@ QString WithoutClosingZeros(QString number)
         number.chop(1);
     if (number.endsWith(u'.'))
         number.chop(1);
-    return number == QLatin1StringView("-0") ? QStringLiteral("0") : number;
+    return number == u"-0"_s ? u"0"_s : number;
 }
 
 } // namespace
