@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(ReadBody("[" + Field("=SUM(ABOVE)") + "]\\par").Text(), u"[]"_s);
     }
 
-    void a_very_longTexttext_is_cut_short()
+    void a_very_long_text_is_cut_short()
     {
         const QString text =
             ReadBody(Marked("x", QByteArray("word ").repeated(4000)) + "\\par[" + Field("REF x") + "]\\par")
