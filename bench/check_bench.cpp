@@ -6,6 +6,7 @@
 #include "check/check_disc.h"
 #include "measure.h"
 #include "platform/paths/drives.h"
+#include "processors.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -14,7 +15,6 @@
 #include <QImage>
 
 #include <cstdio>
-#include <sched.h>
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
@@ -27,17 +27,6 @@ constexpr double mostSeconds = 5;
 constexpr double mostOfHalf = 2;
 constexpr double mostMebibytes = 150;
 constexpr int rounds = 5;
-
-/// Keeps all threads of the process that are yet to begin on the first so many processors.
-void UseProcessors(unsigned count)
-{
-    cpu_set_t set;
-    CPU_ZERO(&set);
-    for (unsigned processor = 0; processor < count; ++processor)
-        CPU_SET(processor, &set);
-    if (sched_setaffinity(0, sizeof set, &set) != 0)
-        qFatal("the processors cannot be chosen");
-}
 
 double SecondsOfCheck(CheckResult& result)
 {
@@ -91,9 +80,9 @@ int main(int argc, char** argv)
     std::vector<double> onTwo;
     std::vector<double> bare;
     for (int round = 0; round < rounds; ++round) {
-        UseProcessors(1);
+        bench::UseProcessors(1);
         onOne.push_back(SecondsOfCheck(result));
-        UseProcessors(2);
+        bench::UseProcessors(2);
         onTwo.push_back(SecondsOfCheck(result));
         bare.push_back(SecondsOfBareReading(disc));
     }

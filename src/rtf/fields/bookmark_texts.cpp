@@ -14,18 +14,20 @@ constexpr std::size_t mostOpen = 50;
 void BookmarkTexts::Begin(const QString& name, Place place, qsizetype from)
 {
     if (open_.size() < mostOpen)
-        open_.push_back({name.toLower(), place, from, QString()});
+        open_.push_back({name.toLower(), place, from, {}, false});
 }
 
 void BookmarkTexts::Gather(Open& bookmark, QStringView paragraph)
 {
     const QStringView whole = paragraph.mid(std::min(bookmark.from, paragraph.size()));
-    const qsizetype room = std::min(longestText - bookmark.text.size(), gatheringLeft_);
-    if (room <= 0 || whole.isEmpty())
+    const qsizetype room =
+        std::max<qsizetype>(0, std::min(longestText - bookmark.text.size(), gatheringLeft_));
+    if (bookmark.isCut || whole.isEmpty())
         return;
     QString piece = whole.left(room).toString();
     piece.remove(QChar(QChar::ObjectReplacementCharacter)); // a picture
-    if (whole.size() > room)
+    bookmark.isCut = whole.size() > room;
+    if (bookmark.isCut)
         piece += u'…';
     if (!bookmark.text.isEmpty() && !piece.isEmpty())
         bookmark.text += u' ';
@@ -35,8 +37,9 @@ void BookmarkTexts::Gather(Open& bookmark, QStringView paragraph)
 
 void BookmarkTexts::End(const QString& name, Place place, QStringView paragraph)
 {
-    const auto found = std::find_if(open_.begin(), open_.end(),
-                                    [&](const Open& bookmark) { return bookmark.name == name.toLower(); });
+    const auto found = std::find_if(open_.begin(), open_.end(), [key = name.toLower()](const Open& bookmark) {
+        return bookmark.name == key;
+    });
     if (found == open_.end())
         return;
     if (found->place == place)

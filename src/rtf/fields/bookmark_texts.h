@@ -35,6 +35,7 @@ private:
         Place place;
         qsizetype from = 0;
         QString text;
+        bool isCut = false;
     };
     void Gather(Open& bookmark, QStringView paragraph);
 

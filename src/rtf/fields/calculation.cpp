@@ -148,7 +148,15 @@ QString WithoutClosingZeros(QString number)
         number.chop(1);
     if (number.endsWith(u'.'))
         number.chop(1);
-    return number == u"-0"_s ? u"0"_s : number;
+    return number;
+}
+
+/// A number that is told as nought has no sign.
+QString WithoutSignOfNought(const QString& number)
+{
+    const bool isNought =
+        std::none_of(number.begin(), number.end(), [](QChar c) { return c >= u'1' && c <= u'9'; });
+    return isNought && number.startsWith(u'-') ? number.mid(1) : number;
 }
 
 } // namespace
@@ -159,13 +167,14 @@ QString CalculationText(const QString& formula, const QString& picture)
     if (!result)
         return {};
     if (!IsPlainPicture(picture))
-        return WithoutClosingZeros(QString::number(*result, 'f', usualDecimals));
+        return WithoutSignOfNought(WithoutClosingZeros(QString::number(*result, 'f', usualDecimals)));
     QLocale english(QLocale::English, QLocale::UnitedStates);
     if (!picture.contains(u','))
         english.setNumberOptions(QLocale::OmitGroupSeparator);
     const qsizetype point = picture.indexOf(u'.');
     const qsizetype decimals = point < 0 ? 0 : picture.size() - point - 1;
-    return english.toString(*result, 'f', static_cast<int>(std::min<qsizetype>(decimals, mostDecimals)));
+    return WithoutSignOfNought(
+        english.toString(*result, 'f', static_cast<int>(std::min<qsizetype>(decimals, mostDecimals))));
 }
 
 } // namespace torvik::rtf

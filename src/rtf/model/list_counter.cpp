@@ -8,9 +8,6 @@ namespace torvik::rtf {
 
 namespace {
 
-// Lists of the older kind have no number of their own.
-constexpr int keyOfNumbering = -1;
-
 /// Instead of the last number of a level; 0 is a number that lists may begin with.
 constexpr int noneYet = -1;
 
@@ -66,7 +63,7 @@ ListMark ListCounter::MarkOf(const ParagraphState& paragraph, const QString& wri
     constexpr int blank = 1;
     if (level != nullptr && level->follow != 0 && written.isEmpty())
         mark.gap = level->follow == blank ? QStringLiteral(" ") : QString();
-    mark.listKey = paragraph.list != 0 ? lists_.KeyOf(paragraph.list) : keyOfNumbering;
+    mark.listKey = paragraph.list != 0 ? lists_.KeyOf(paragraph.list) : ListKey();
     mark.level = paragraph.listLevel;
     mark.rightToLeft = paragraph.rightToLeft;
     return mark;

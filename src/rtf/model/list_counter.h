@@ -30,7 +30,7 @@ private:
 
     const ListTable& lists_;
     /// The last numbers of each list, level by level; -1 for none yet.
-    std::map<int, Values> values_;
+    std::map<ListKey, Values> values_;
     /// Those of the older kind.
     std::array<int, ListTable::maxLevels + 3> numbering_;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rtf/model/list_key.h"
+
 #include <QString>
 #include <QTextListFormat>
 
@@ -14,7 +16,7 @@ struct ListMark {
     Kind kind = Kind::None;
     QTextListFormat::Style style = QTextListFormat::ListDisc;
     /// Paragraphs with the same key and level belong to one list.
-    int listKey = 0;
+    ListKey listKey;
     int level = 0;
     int value = 0;
     /// It stands at the right of a paragraph that runs from there.

@@ -122,13 +122,12 @@ int ListTable::StartOf(int reference, int level) const
     return definition != nullptr ? definition->startAt : 1;
 }
 
-int ListTable::KeyOf(int reference) const
+ListKey ListTable::KeyOf(int reference) const
 {
     const auto found = overrides_.find(reference);
-    if (found == overrides_.end())
-        return reference;
-    // Numbers of lists are not negative in practice, so these meet none.
-    return found->second.Restarts() ? -2 - reference : found->second.id;
+    if (found == overrides_.end() || found->second.Restarts())
+        return {ListKey::Kind::Reference, reference};
+    return {ListKey::Kind::List, found->second.id};
 }
 
 } // namespace torvik::rtf

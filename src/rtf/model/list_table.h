@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rtf/model/list_key.h"
+
 #include <QString>
 
 #include <optional>
@@ -54,8 +56,8 @@ public:
     const ListLevel* Find(int reference, int level) const;
     /// The number with which a level begins for a paragraph's list number.
     int StartOf(int reference, int level) const;
-    /// A key that is the same for all references to one list, but for those that begin anew.
-    int KeyOf(int reference) const;
+    /// The same for all references to one list, but for those that begin anew.
+    ListKey KeyOf(int reference) const;
 
 private:
     struct List {

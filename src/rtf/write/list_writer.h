@@ -27,7 +27,7 @@ public:
     void Interrupt() { previousWasItem_ = false; }
 
 private:
-    using Key = std::tuple<int, int, int, bool>; ///< list, level, style, direction
+    using Key = std::tuple<ListKey, int, int, bool>; ///< list, level, style, direction
     struct Open {
         QTextList* list = nullptr;
         int value = 0;

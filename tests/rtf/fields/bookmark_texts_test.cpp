@@ -81,6 +81,14 @@ private Q_SLOTS:
         QCOMPARE(repeated.size(), 2002);
     }
 
+    void a_text_that_fills_the_room_with_a_whole_paragraph_is_cut_short_after_it()
+    {
+        const QByteArray text = QByteArray("x").repeated(2000) + "\\par y\\par z";
+        const QString repeated =
+            ReadBody(Marked("x", text) + "\\par[" + Field("REF x") + "]\\par").Text().section(u'[', 1);
+        QCOMPARE(repeated, QString(2000, u'x') + u" …]"_s);
+    }
+
     void very_many_repetitions_come_to_an_end()
     {
         const QByteArray longText = Marked("x", QByteArray("word ").repeated(400));

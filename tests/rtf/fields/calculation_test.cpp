@@ -47,6 +47,14 @@ private Q_SLOTS:
         QCOMPARE(CalculationText(u"1234.5"_s, picture), result);
     }
 
+    void a_number_that_is_told_as_nought_has_no_sign()
+    {
+        QCOMPARE(CalculationText(u"0 - 0.4"_s, u"0"_s), u"0"_s);
+        QCOMPARE(CalculationText(u"0 - 0.004"_s, u"0.00"_s), u"0.00"_s);
+        QCOMPARE(CalculationText(u"0 - 0.004"_s, {}), u"0"_s);
+        QCOMPARE(CalculationText(u"0 - 0.01"_s, u"0.00"_s), u"-0.01"_s);
+    }
+
     void what_cannot_be_worked_out_gives_nothing_data()
     {
         QTest::addColumn<QString>("formula");

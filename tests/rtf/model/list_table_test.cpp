@@ -61,6 +61,21 @@ private Q_SLOTS:
         QCOMPARE(MarksOf(read).join(u'|'), marks);
     }
 
+    void lists_count_apart_whatever_their_numbers_and_references_are()
+    {
+        const QByteArray level = "{\\listlevel\\levelnfc0\\levelstartat1{\\leveltext\\'02\\'00.;}"
+                                 "{\\levelnumbers\\'01;}}";
+        const QByteArray tables =
+            "{\\*\\listtable{\\list" + level + "\\listid7}{\\list" + level +
+            "\\listid-4}}{\\*\\listoverridetable{\\listoverride\\listid-4\\ls1}"
+            "{\\listoverride\\listid7{\\lfolevel\\listoverridestartat\\levelstartat5}\\ls2}"
+            "{\\listoverride\\listid7{\\lfolevel\\listoverridestartat\\levelstartat8}\\ls2147483647}}";
+        const Reading read =
+            ReadBody(tables + Item(1, 0, "a") + Item(2, 0, "b") + Item(2'147'483'647, 0, "c") +
+                     Item(1, 0, "d") + Item(2, 0, "e") + Item(2'147'483'647, 0, "f"));
+        QCOMPARE(MarksOf(read).join(u'|'), u"1.|5.|8.|2.|6.|9."_s);
+    }
+
     void an_override_has_levels_of_its_own_data()
     {
         QTest::addColumn<QByteArray>("override");
