@@ -34,10 +34,26 @@ QString Formatted(int value, const FieldInstruction& instruction)
     return QString::number(value);
 }
 
-QString Time(const FieldInstruction& instruction, const FieldSurroundings& around, const QString& usual)
+QString Time(const FieldInstruction& instruction, const QDateTime& time, const QString& usual)
 {
+    if (!time.isValid())
+        return {};
     const QString picture = instruction.ValueOf(u"\\@"_s);
-    return DateByPicture(around.now, picture.isEmpty() ? usual : picture);
+    return DateByPicture(time, picture.isEmpty() ? usual : picture);
+}
+
+QString Told(const FieldInstruction& instruction, const FieldSurroundings& around, const QString& name)
+{
+    return Time(instruction, around.times.value(name).Value(), u"M/d/yyyy h:mm am/pm"_s);
+}
+
+QString Count(const FieldInstruction& instruction, const std::optional<int>& count)
+{
+    if (!count)
+        return {};
+    const QString picture = instruction.ValueOf(u"\\#"_s);
+    return picture.isEmpty() ? Formatted(*count, instruction)
+                             : CalculationText(QString::number(*count), picture);
 }
 
 QString Sequence(const FieldInstruction& instruction, FieldSurroundings& around)
@@ -120,15 +136,22 @@ QString Calculated(const FieldInstruction& instruction)
 
 using Maker = QString (*)(const FieldInstruction& instruction, FieldSurroundings& around);
 
+QString Property(const FieldInstruction& instruction, FieldSurroundings& around);
+
 const QHash<QString, Maker>& Makers()
 {
     using Read = const FieldInstruction&;
     using Around = FieldSurroundings&;
     static const QHash<QString, Maker> makers{
-        {u"DATE"_s, [](Read r, Around a) { return Time(r, a, u"M/d/yyyy"_s); }},
-        {u"TIME"_s, [](Read r, Around a) { return Time(r, a, u"h:mm am/pm"_s); }},
+        {u"DATE"_s, [](Read r, Around a) { return Time(r, a.now, u"M/d/yyyy"_s); }},
+        {u"TIME"_s, [](Read r, Around a) { return Time(r, a.now, u"h:mm am/pm"_s); }},
+        {u"CREATEDATE"_s, [](Read r, Around a) { return Told(r, a, u"creatim"_s); }},
+        {u"SAVEDATE"_s, [](Read r, Around a) { return Told(r, a, u"revtim"_s); }},
+        {u"PRINTDATE"_s, [](Read r, Around a) { return Told(r, a, u"printim"_s); }},
         {u"PAGE"_s, [](Read r, Around a) { return Formatted(a.page, r); }},
         {u"NUMPAGES"_s, [](Read r, Around a) { return Formatted(std::max(a.pages, a.page), r); }},
+        {u"NUMWORDS"_s, [](Read r, Around a) { return Count(r, a.words); }},
+        {u"NUMCHARS"_s, [](Read r, Around a) { return Count(r, a.characters); }},
         {u"SEQ"_s, Sequence},
         {u"AUTONUM"_s,
          [](Read, Around a) { return QString(QString::number(++a.sequences[QString()]) + u'.'); }},
@@ -148,8 +171,29 @@ const QHash<QString, Maker>& Makers()
         {u"AUTHOR"_s, [](Read, Around a) { return a.information.value(u"author"_s); }},
         {u"KEYWORDS"_s, [](Read, Around a) { return a.information.value(u"keywords"_s); }},
         {u"COMMENTS"_s, [](Read, Around a) { return a.information.value(u"doccomm"_s); }},
+        {u"DOCPROPERTY"_s, Property},
     };
     return makers;
+}
+
+/// What most properties of a document tell has a field of its own.
+QString Property(const FieldInstruction& instruction, FieldSurroundings& around)
+{
+    static const QHash<QString, QString> fields{
+        {u"title"_s, u"TITLE"_s},
+        {u"subject"_s, u"SUBJECT"_s},
+        {u"author"_s, u"AUTHOR"_s},
+        {u"keywords"_s, u"KEYWORDS"_s},
+        {u"comments"_s, u"COMMENTS"_s},
+        {u"createtime"_s, u"CREATEDATE"_s},
+        {u"lastsavedtime"_s, u"SAVEDATE"_s},
+        {u"lastprinted"_s, u"PRINTDATE"_s},
+        {u"pages"_s, u"NUMPAGES"_s},
+        {u"words"_s, u"NUMWORDS"_s},
+        {u"characters"_s, u"NUMCHARS"_s},
+    };
+    const Maker maker = Makers().value(fields.value(instruction.pieces.value(1).toLower()), nullptr);
+    return maker != nullptr ? maker(instruction, around) : QString();
 }
 
 } // namespace

@@ -26,11 +26,33 @@ void BeginEntry(Interpreter& interpreter, const Argument&)
     interpreter.BeginInformation(QString::fromLatin1(name));
 }
 
+template <const char* name>
+void BeginTime(Interpreter& interpreter, const Argument&)
+{
+    interpreter.BeginTime(QString::fromLatin1(name));
+}
+
+template <int StoredTime::*piece>
+void SetPiece(Interpreter& interpreter, const Argument& argument)
+{
+    interpreter.Time().*piece = argument.Or(0);
+}
+
+std::optional<int> CountOf(const Argument& argument)
+{
+    return argument.isGiven && argument.value >= 0 ? std::optional(argument.value) : std::nullopt;
+}
+
 constexpr char title[] = "title";
 constexpr char subject[] = "subject";
 constexpr char author[] = "author";
 constexpr char keywords[] = "keywords";
 constexpr char comment[] = "doccomm";
+
+constexpr char created[] = "creatim";
+constexpr char saved[] = "revtim";
+constexpr char printed[] = "printim";
+constexpr char backedUp[] = "buptim";
 
 constexpr int largestNumber = 1'000'000;
 
@@ -49,6 +71,19 @@ constexpr WordEntry informationEntries[] = {
     {author, BeginEntry<author>},
     {keywords, BeginEntry<keywords>},
     {comment, BeginEntry<comment>},
+    {created, BeginTime<created>},
+    {saved, BeginTime<saved>},
+    {printed, BeginTime<printed>},
+    {backedUp, BeginTime<backedUp>},
+    {"yr", SetPiece<&StoredTime::year>},
+    {"mo", SetPiece<&StoredTime::month>},
+    {"dy", SetPiece<&StoredTime::day>},
+    {"hr", SetPiece<&StoredTime::hour>},
+    {"min", SetPiece<&StoredTime::minute>},
+    {"sec", SetPiece<&StoredTime::second>},
+    {"nofwords", [](Interpreter& r, const Argument& a) { r.Fields().Surroundings().words = CountOf(a); }},
+    {"nofchars",
+     [](Interpreter& r, const Argument& a) { r.Fields().Surroundings().characters = CountOf(a); }},
     {"nofpages", [](Interpreter& r,
                     const Argument& a) { r.Fields().Surroundings().pages = a.Within(1, largestNumber, 1); }},
 };

@@ -49,6 +49,9 @@ public:
     void Enter(Destination destination);
     /// Makes the rest of the group an entry of what the document tells about itself.
     void BeginInformation(const QString& name);
+    /// The pieces that come next are those of one of the times that the document tells.
+    void BeginTime(const QString& name) { informationName_ = name; }
+    StoredTime& Time() { return fields_.Surroundings().times[informationName_]; }
     /// Passes over the rest of the group.
     void Skip();
     /// Passes over the group that comes next, if one does.

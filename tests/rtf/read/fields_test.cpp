@@ -104,6 +104,24 @@ private Q_SLOTS:
         QTest::newRow("a link that is empty")
             << QByteArray("HYPERLINK \"http://www.torvik.example/\"") << QString();
         QTest::newRow("the title") << QByteArray("TITLE") << u"The Car"_s;
+        QTest::newRow("a property") << QByteArray("DOCPROPERTY title") << u"The Car"_s;
+        QTest::newRow("a property in other letters") << QByteArray("DOCPROPERTY \"AUTHOR\"") << u"A"_s;
+        QTest::newRow("words as a property") << QByteArray("DOCPROPERTY Words") << u"310"_s;
+        QTest::newRow("a property that is not told") << QByteArray("DOCPROPERTY Subject") << QString();
+        QTest::newRow("a property that nobody knows") << QByteArray("DOCPROPERTY Title2") << QString();
+        QTest::newRow("a property without a name") << QByteArray("DOCPROPERTY") << QString();
+        QTest::newRow("words") << QByteArray("NUMWORDS") << u"310"_s;
+        QTest::newRow("characters") << QByteArray("NUMCHARS \\\\* roman") << u"mdcclxxvi"_s;
+        QTest::newRow("characters by thousands") << QByteArray("NUMCHARS \\\\# #,##0") << u"1,776"_s;
+        QTest::newRow("the day of making")
+            << QByteArray("CREATEDATE \\\\@ \"d MMMM yyyy, H:mm\"") << u"9 March 1999, 14:05"_s;
+        QTest::newRow("the time of making") << QByteArray("CREATEDATE") << u"3/9/1999 2:05 pm"_s;
+        QTest::newRow("the time of making as a property")
+            << QByteArray("DOCPROPERTY CreateTime \\\\@ \"yyyy\"") << u"1999"_s;
+        QTest::newRow("the day of the last change")
+            << QByteArray("SAVEDATE \\\\@ \"yyyy-MM-dd HH:mm:ss\"") << u"2000-02-29 00:00:07"_s;
+        QTest::newRow("the day of printing where it is not told")
+            << QByteArray("PRINTDATE \\\\@ \"yyyy\"") << QString();
         QTest::newRow("pages") << QByteArray("NUMPAGES") << u"12"_s;
         QTest::newRow("a page in roman numbers") << QByteArray("PAGE \\\\* roman") << u"i"_s;
         QTest::newRow("an ordinal number") << QByteArray("SEQ a \\\\r 22 \\\\* ordinal") << u"22nd"_s;
@@ -128,10 +146,47 @@ private Q_SLOTS:
         QFETCH(QByteArray, instruction);
         QFETCH(QString, shown);
         const QString text =
-            ReadBody("{\\info{\\title The Car}{\\author A}\\nofpages12}a{\\field{\\*\\fldinst " +
+            ReadBody("{\\info{\\title The Car}{\\author A}{\\creatim\\yr1999\\mo3\\dy9\\hr14\\min5}"
+                     "{\\revtim\\yr2000\\mo2\\dy29\\sec7}{\\buptim\\yr1998\\mo1\\dy1}"
+                     "\\nofpages12\\nofwords310\\nofchars1776}a{\\field{\\*\\fldinst " +
                      instruction + "}{\\fldrslt }}b\\par")
                 .Text();
         QCOMPARE(text, u'a' + shown + u'b');
+    }
+
+    void a_time_that_cannot_be_is_not_shown_data()
+    {
+        QTest::addColumn<QByteArray>("time");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("a time") << QByteArray("\\yr2001\\mo12\\dy31\\hr23\\min59") << u"2001"_s;
+        QTest::newRow("a day alone") << QByteArray("\\yr2001\\mo12\\dy31") << u"2001"_s;
+        QTest::newRow("the first year") << QByteArray("\\yr1\\mo1\\dy1") << u"1"_s;
+        QTest::newRow("nothing told") << QByteArray() << QString();
+        QTest::newRow("noughts") << QByteArray("\\yr0\\mo0\\dy0\\hr0\\min0") << QString();
+        QTest::newRow("a year 0") << QByteArray("\\yr0\\mo1\\dy1") << QString();
+        QTest::newRow("a year before the first") << QByteArray("\\yr-5\\mo1\\dy1") << QString();
+        QTest::newRow("a year too large") << QByteArray("\\yr10000\\mo1\\dy1") << QString();
+        QTest::newRow("the largest numbers")
+            << QByteArray("\\yr2147483647\\mo2147483647\\dy2147483647\\hr2147483647") << QString();
+        QTest::newRow("a month 13") << QByteArray("\\yr2001\\mo13\\dy1") << QString();
+        QTest::newRow("a day that the month has not") << QByteArray("\\yr2001\\mo2\\dy29") << QString();
+        QTest::newRow("an hour 24") << QByteArray("\\yr2001\\mo1\\dy1\\hr24") << QString();
+        QTest::newRow("a minute 60") << QByteArray("\\yr2001\\mo1\\dy1\\min60") << QString();
+        QTest::newRow("words without numbers") << QByteArray("\\yr\\mo\\dy") << QString();
+    }
+    void a_time_that_cannot_be_is_not_shown()
+    {
+        QFETCH(QByteArray, time);
+        QFETCH(QString, shown);
+        const QByteArray field = "a{\\field{\\*\\fldinst SAVEDATE \\\\@ \"yyyy\"}}b\\par";
+        QCOMPARE(ReadBody("{\\info{\\revtim" + time + "}}" + field).Text(), u'a' + shown + u'b');
+    }
+
+    void counts_that_are_not_told_are_not_shown()
+    {
+        const QByteArray field = "a{\\field{\\*\\fldinst NUMWORDS}}{\\field{\\*\\fldinst NUMCHARS}}b\\par";
+        QCOMPARE(ReadBody(field).Text(), u"ab"_s);
+        QCOMPARE(ReadBody("{\\info\\nofwords0\\nofchars-3}" + field).Text(), u"a0b"_s);
     }
 
     void a_link_without_a_text_shows_its_address()
