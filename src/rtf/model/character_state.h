@@ -16,7 +16,13 @@ enum class Underline : quint8 {
     Dashed,
     DashDot,
     DashDotDot,
-    Wave
+    ThickDotted,
+    ThickDashed,
+    ThickDashDot,
+    ThickDashDotDot,
+    Wave,
+    HeavyWave,
+    DoubleWave
 };
 enum class Script : quint8 { Normal, Super, Sub };
 enum class Capitals : quint8 { AsWritten, All, Small };

@@ -108,6 +108,38 @@ void DrawLeader(QPainter& painter, Stretch stretch, TabLeader leader, const QCol
     }
 }
 
+/// The line that Qt draws below a text once more, lower: below spaces of the same font, so that its dashes
+/// and waves are those of the first.
+void RepeatUnderline(QPainter& painter, const Stretch& stretch, double lower, const QTextCharFormat& format,
+                     const QFont& font, const QColor& color)
+{
+    QFont plain = font;
+    plain.setLetterSpacing(QFont::PercentageSpacing, 100);
+    const QFontMetricsF metrics(plain, painter.device());
+    const double width = stretch.right - stretch.left;
+    const double step = metrics.horizontalAdvance(QChar::Nbsp);
+    if (step < 0.5 || width <= 0)
+        return;
+    QTextCharFormat line;
+    line.setUnderlineStyle(format.underlineStyle());
+    line.setUnderlineColor(color);
+    const QString spaces(static_cast<qsizetype>(width / step) + 1, QChar::Nbsp);
+    QTextLayout layout(spaces, plain, painter.device());
+    layout.setFormats({{0, static_cast<int>(spaces.size()), line}});
+    layout.beginLayout();
+    const QTextLine only = layout.createLine();
+    layout.endLayout();
+    painter.save();
+    // Qt's lines begin and end at whole pixels, and a wave ends with the last that it touches.
+    const double left = std::floor(stretch.left);
+    const bool isWave = format.underlineStyle() == QTextCharFormat::WaveUnderline;
+    const double right = isWave ? std::ceil(stretch.right) : std::floor(stretch.right);
+    painter.setClipRect(QRectF(left, stretch.baseline, right - left, metrics.height() + lower),
+                        Qt::IntersectClip);
+    layout.draw(&painter, {stretch.left, stretch.baseline + lower - only.ascent()});
+    painter.restore();
+}
+
 /// Paints what one paragraph wants.
 class BlockPainter {
 public:
@@ -152,7 +184,8 @@ private:
         const int start = fragment.position() - block_.position();
         const int end = start + fragment.length();
         const QTextCharFormat format = fragment.charFormat();
-        const QFontMetricsF metrics(FontOf(format, *block_.document(), painter_), painter_.device());
+        const QFont font = FontOf(format, *block_.document(), painter_);
+        const QFontMetricsF metrics(font, painter_.device());
         const double thin = LineWidth(metrics);
         for (int i = 0; i < layout_.lineCount(); ++i) {
             const QTextLine line = layout_.lineAt(i);
@@ -161,11 +194,25 @@ private:
             if (from >= to)
                 continue;
             const Stretch stretch = Between(line, from, to);
-            const int kind = format.intProperty(underlineProperty);
-            if (kind == int(ExtraUnderline::Double))
+            switch (static_cast<ExtraUnderline>(format.intProperty(underlineProperty))) {
+            case ExtraUnderline::None:
+                break;
+            case ExtraUnderline::Double:
                 DrawRule(painter_, stretch, UnderlinePlace(metrics) + 2 * thin, thin, LineColor(format));
-            else if (kind == int(ExtraUnderline::Thick))
+                break;
+            case ExtraUnderline::Thick:
                 DrawRule(painter_, stretch, UnderlinePlace(metrics) + thin / 2, 2 * thin, LineColor(format));
+                break;
+            case ExtraUnderline::ThickPattern:
+                RepeatUnderline(painter_, stretch, thin, format, font, LineColor(format));
+                break;
+            case ExtraUnderline::HeavyWave:
+                RepeatUnderline(painter_, stretch, std::max(thin / 2, 1.0), format, font, LineColor(format));
+                break;
+            case ExtraUnderline::DoubleWave:
+                RepeatUnderline(painter_, stretch, 3 * thin, format, font, LineColor(format));
+                break;
+            }
             if (format.hasProperty(doubleStrikeProperty))
                 DrawRule(painter_, stretch, 2 * thin - metrics.strikeOutPos(), thin, TextColor(format));
         }

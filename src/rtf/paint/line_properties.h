@@ -26,6 +26,15 @@ enum class TabLeader : char16_t {
     DoubleLine = u'='
 };
 
-enum class ExtraUnderline { None, Double, Thick };
+enum class ExtraUnderline {
+    None,
+    Double,
+    Thick,
+    /// Dots or dashes as Qt draws them, once more right below.
+    ThickPattern,
+    /// The wave that Qt draws once more: into the lower half of its line, or below it.
+    HeavyWave,
+    DoubleWave
+};
 
 } // namespace torvik::rtf

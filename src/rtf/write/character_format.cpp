@@ -29,19 +29,46 @@ QTextCharFormat::UnderlineStyle UnderlineStyleOf(Underline kind)
     case Underline::Thick:
         return QTextCharFormat::SingleUnderline;
     case Underline::Dotted:
+    case Underline::ThickDotted:
         return QTextCharFormat::DotLine;
     case Underline::Dashed:
+    case Underline::ThickDashed:
         return QTextCharFormat::DashUnderline;
     case Underline::DashDot:
+    case Underline::ThickDashDot:
         return QTextCharFormat::DashDotLine;
     case Underline::DashDotDot:
+    case Underline::ThickDashDotDot:
         return QTextCharFormat::DashDotDotLine;
     case Underline::Wave:
+    case Underline::HeavyWave:
+    case Underline::DoubleWave:
         return QTextCharFormat::WaveUnderline;
     case Underline::None:
         break;
     }
     return QTextCharFormat::NoUnderline;
+}
+
+ExtraUnderline ExtraUnderlineOf(Underline kind)
+{
+    switch (kind) {
+    case Underline::Double:
+        return ExtraUnderline::Double;
+    case Underline::Thick:
+        return ExtraUnderline::Thick;
+    case Underline::ThickDotted:
+    case Underline::ThickDashed:
+    case Underline::ThickDashDot:
+    case Underline::ThickDashDotDot:
+        return ExtraUnderline::ThickPattern;
+    case Underline::HeavyWave:
+        return ExtraUnderline::HeavyWave;
+    case Underline::DoubleWave:
+        return ExtraUnderline::DoubleWave;
+    default:
+        return ExtraUnderline::None;
+    }
 }
 
 void SetFont(QTextCharFormat& format, const FontEntry* font)
@@ -98,10 +125,9 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
         format.setProperty(doubleStrikeProperty, true);
     if (state.underline != Underline::None) {
         format.setUnderlineStyle(UnderlineStyleOf(state.underline));
-        if (state.underline == Underline::Double)
-            format.setProperty(underlineProperty, int(ExtraUnderline::Double));
-        else if (state.underline == Underline::Thick)
-            format.setProperty(underlineProperty, int(ExtraUnderline::Thick));
+        const ExtraUnderline extra = ExtraUnderlineOf(state.underline);
+        if (extra != ExtraUnderline::None)
+            format.setProperty(underlineProperty, int(extra));
         const QColor line = colors_.ChosenAt(state.underlineColor);
         if (line.isValid())
             format.setUnderlineColor(line);

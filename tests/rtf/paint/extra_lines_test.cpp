@@ -32,6 +32,29 @@ class ExtraLinesTest : public QObject {
         ExtraLines(*read.document).Paint(painter, QRectF(QPointF(), QSizeF(page)), Qt::black, ownSize);
         return image;
     }
+    /// With the text itself.
+    static QImage PaintedWhole(const Reading& read)
+    {
+        QImage image = Painted(read);
+        QPainter painter(&image);
+        read.document->drawContents(&painter);
+        return image;
+    }
+    /// The inked rows of a column, or of the whole picture, as the first and the last of each band.
+    static QList<QPair<int, int>> Bands(const QImage& image, int from, int to)
+    {
+        QList<QPair<int, int>> bands;
+        for (int y = 0; y < image.height(); ++y) {
+            bool isInked = false;
+            for (int x = from; x < to; ++x)
+                isInked = isInked || IsInked(image, x, y);
+            if (isInked && !bands.isEmpty() && bands.last().second == y - 1)
+                bands.last().second = y;
+            else if (isInked)
+                bands.append({y, y});
+        }
+        return bands;
+    }
     static bool IsInked(const QImage& image, int x, int y) { return qGray(image.pixel(x, y)) < 200; }
     /// How many columns of a stretch hold ink.
     static int InkedColumns(const QImage& image, int from, int to)
@@ -242,10 +265,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, words);
         const Reading read = ReadBody("\\pard" + words + "\\~\\~\\~\\~\\~\\~\\~\\~\\plain x\\par");
-        QImage image = Painted(read);
-        QPainter painter(&image);
-        read.document->drawContents(&painter);
-        painter.end();
+        const QImage image = PaintedWhole(read);
         QList<bool> rows;
         for (int y = 0; y < image.height(); ++y)
             rows.append(IsInked(image, 20, y));
@@ -255,6 +275,82 @@ private Q_SLOTS:
         QVERIFY(first >= 0 && gap > first && second > gap);
         QVERIFY(second - gap <= gap - first); // they are one sign all the same
         QVERIFY(!rows.mid(rows.indexOf(false, second)).contains(true));
+    }
+
+    void a_thick_pattern_has_the_dots_and_dashes_of_the_thin_one_data()
+    {
+        QTest::addColumn<QByteArray>("thin");
+        QTest::addColumn<QByteArray>("thick");
+        QTest::addColumn<QByteArray>("size");
+        const QList<QPair<QByteArray, QByteArray>> kinds{{"\\uld", "\\ulthd"},
+                                                         {"\\uldash", "\\ulthdash"},
+                                                         {"\\ulldash", "\\ulthldash"},
+                                                         {"\\uldashd", "\\ulthdashd"},
+                                                         {"\\uldashdd", "\\ulthdashdd"}};
+        for (const auto& [thin, thick] : kinds) {
+            for (const char* size : {"\\fs16", "\\fs24", "\\fs36", "\\fs48", "\\fs96"})
+                QTest::addRow("%s %s", thick.constData(), size) << thin << thick << QByteArray(size);
+        }
+    }
+    void a_thick_pattern_has_the_dots_and_dashes_of_the_thin_one()
+    {
+        QFETCH(QByteArray, thin);
+        QFETCH(QByteArray, thick);
+        QFETCH(QByteArray, size);
+        // Spaces, and something before them, so that the line begins within a pixel.
+        const auto painted = [&](const QByteArray& word) {
+            return PaintedWhole(ReadBody("\\pard" + size + "\\expndtw5 i\\expndtw0" + word +
+                                         QByteArray("\\~").repeated(16) + "\\par"));
+        };
+        const QImage one = painted(thin);
+        const QImage two = painted(thick);
+        constexpr int begin = 30;
+        constexpr int end = 60; // within the line at every size
+        int inked = 0;
+        for (int x = begin; x < end; ++x) {
+            const auto thinBands = Bands(one, x, x + 1);
+            const auto thickBands = Bands(two, x, x + 1);
+            QCOMPARE(thickBands.size(), thinBands.size());
+            if (thinBands.isEmpty())
+                continue;
+            ++inked;
+            QCOMPARE(thinBands.size(), 1);
+            const int thinHeight = thinBands.first().second - thinBands.first().first + 1;
+            const int thickHeight = thickBands.first().second - thickBands.first().first + 1;
+            QCOMPARE(thickBands.first().first, thinBands.first().first);
+            QVERIFY2(thickHeight > thinHeight && thickHeight <= 2 * thinHeight,
+                     qPrintable(QString::number(thinHeight) + u' ' + QString::number(thickHeight)));
+        }
+        QVERIFY(inked > 5 && inked < end - begin);
+    }
+
+    void a_heavy_wave_is_one_and_a_double_wave_is_two_data()
+    {
+        QTest::addColumn<QByteArray>("size");
+        for (const char* size : {"\\fs20", "\\fs24", "\\fs28", "\\fs36", "\\fs48", "\\fs72", "\\fs96"})
+            QTest::newRow(size) << QByteArray(size);
+    }
+    void a_heavy_wave_is_one_and_a_double_wave_is_two()
+    {
+        QFETCH(QByteArray, size);
+        const auto painted = [&](const QByteArray& word) {
+            return PaintedWhole(ReadBody("\\pard" + size + word + QByteArray("\\~").repeated(20) + "\\par"));
+        };
+        const QImage wave = painted("\\ulwave");
+        const auto one = Bands(wave, 0, 60);
+        QCOMPARE(one.size(), 1);
+        const auto heavy = Bands(painted("\\ulhwave"), 0, 60);
+        QCOMPARE(heavy.size(), 1);
+        QCOMPARE(heavy.first().first, one.first().first);
+        QVERIFY(heavy.first().second > one.first().second);
+        const QImage twoWaves = painted("\\ululdbwave");
+        const auto two = Bands(twoWaves, 0, 60);
+        QCOMPARE(two.size(), 2);
+        QCOMPARE(two.first(), one.first());
+        QCOMPARE(two.last().second - two.last().first, one.first().second - one.first().first);
+        const int height = one.first().second - one.first().first + 1;
+        QCOMPARE(twoWaves.copy(0, two.last().first, page.width(), height),
+                 wave.copy(0, one.first().first, page.width(), height));
     }
 
     void the_colour_of_an_underline_comes_first()
