@@ -355,7 +355,7 @@ private Q_SLOTS:
         QCOMPARE(printed_->Pages(2).first().simplified(), u"Two"_s);
     }
 
-    void a_jpeg_goes_to_paper_once_and_as_it_is()
+    void a_jpeg_goes_to_paper_as_a_jpeg()
     {
         QImage image(120, 80, QImage::Format_RGB32);
         image.fill(QColor(220, 20, 20));
@@ -364,6 +364,22 @@ private Q_SLOTS:
         Print(picture + "\\par between\\par");
         QCOMPARE(printed_->PictureEncodings(1), QStringList(u"jpeg"_s));
         QCOMPARE(printed_->PictureSizes(1), QList<QSize>{image.size()});
+    }
+
+    void a_picture_that_an_article_repeats_goes_into_the_job_once()
+    {
+        QImage image(120, 80, QImage::Format_RGB32);
+        image.fill(QColor(220, 20, 20));
+        const QByteArray picture = "{\\pict\\jpegblip\\picw120\\pich80\\picwgoal2400\\pichgoal1600 " +
+                                   Encoded(image, "jpg").toHex() + "}";
+        image.fill(QColor(20, 20, 220));
+        const QByteArray other = "{\\pict\\jpegblip\\picw120\\pich80\\picwgoal2400\\pichgoal1600 " +
+                                 Encoded(image, "jpg").toHex() + "}";
+        Print(picture + "\\par between " + other + "\\page " + picture + "\\par");
+        const QStringList objects = printed_->PictureObjects(1);
+        QCOMPARE(objects.size(), 3);
+        QVERIFY(objects.at(1) != objects.at(0));
+        QCOMPARE(objects.at(2), objects.at(0));
     }
 
     void the_pane_stays_as_it_was()

@@ -93,6 +93,14 @@ QStringList PrintFolder::PictureEncodings(int job) const
     return encodings;
 }
 
+QStringList PrintFolder::PictureObjects(int job) const
+{
+    QStringList objects;
+    for (const QStringList& columns : PictureRows(job))
+        objects.append(columns.at(10));
+    return objects;
+}
+
 QSizeF PrintFolder::Paper(int job) const
 {
     return QSizeF(Image(job, 1).size()) * twipsPerPixel;

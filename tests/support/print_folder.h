@@ -33,6 +33,8 @@ public:
     QList<QSize> PictureSizes(int job) const;
     /// How each of them is stored: "jpeg", or "image" for bare pixels.
     QStringList PictureEncodings(int job) const;
+    /// The numbers of the objects that hold them: one that is painted twice is the same object.
+    QStringList PictureObjects(int job) const;
     /// The size of the paper in twips.
     QSizeF Paper(int job) const;
 

@@ -38,6 +38,19 @@ void PictureReader::AppendBytes(std::string_view bytes)
     source_.data.append(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
 
+int PictureReader::NumberOf(const PictureSource& source)
+{
+    const int known = numbers_.value(source);
+    if (known != 0)
+        return known;
+    const ShownPicture picture = ShowPicture(source, document_.budget);
+    if (picture.image.isNull())
+        return 0;
+    const int number = document_.pictures.Add(picture.image, picture.size);
+    numbers_.insert(source, number);
+    return number;
+}
+
 bool PictureReader::End(const GroupState& ended)
 {
     const PictureSource source = std::move(source_);
@@ -49,15 +62,14 @@ bool PictureReader::End(const GroupState& ended)
         !group.character.hidden;
     if (!isShown)
         return false;
-    const ShownPicture picture = ShowPicture(source, document_.budget);
-    if (picture.image.isNull()) {
+    const int number = NumberOf(source);
+    if (number == 0) {
         ++lost_;
         return false;
     }
     if (ended.isShapePicture)
         shapeWasShown_ = true;
-    document_.flow.Draft().AppendPicture(document_.pictures.Add(picture.image, picture.size),
-                                         looks_.Format());
+    document_.flow.Draft().AppendPicture(number, looks_.Format());
     ++shown_;
     return true;
 }

@@ -4,6 +4,8 @@
 #include "rtf/parts/document_state.h"
 #include "rtf/picture/picture_source.h"
 
+#include <QHash>
+
 #include <string_view>
 
 namespace torvik::rtf {
@@ -32,9 +34,15 @@ public:
     int Lost() const { return lost_; }
 
 private:
+    /// The number of a picture that is shown, 0 where nothing can be made of its bytes.
+    int NumberOf(const PictureSource& source);
+
     DocumentState& document_;
     CharacterLooks& looks_;
     PictureSource source_;
+    /// The numbers of the pictures that were shown: one that comes again is the same. The bytes that are kept
+    /// here are no more than those of the file.
+    QHash<PictureSource, int> numbers_;
     /// Half a byte that waits for its other half, -1 for none.
     int halfByte_ = -1;
     bool shapeWasShown_ = false;

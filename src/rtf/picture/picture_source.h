@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHashFunctions>
 
 namespace torvik::rtf {
 
@@ -27,6 +28,15 @@ struct PictureSource {
     /// For bitmaps that depend on a device: bits for each pixel and bytes for each line.
     int bitsPerPixel = 1;
     int lineBytes = 0;
+
+    bool operator==(const PictureSource&) const = default;
 };
+
+inline std::size_t qHash(const PictureSource& source, std::size_t seed)
+{
+    return qHashMulti(seed, source.data, source.width, source.height, source.goalWidth, source.goalHeight,
+                      source.scaleX, source.scaleY, source.cropLeft, source.cropTop, source.cropRight,
+                      source.cropBottom, source.bitsPerPixel, source.lineBytes);
+}
 
 } // namespace torvik::rtf

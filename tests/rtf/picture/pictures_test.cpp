@@ -165,6 +165,48 @@ private Q_SLOTS:
         QCOMPARE(read.Text(), u"\ufffcafter"_s);
     }
 
+    void equal_pictures_of_equal_size_are_one()
+    {
+        const auto picture = [](const char* words, const QByteArray& bytes) -> QByteArray {
+            return QByteArray("{\\pict\\pngblip") + words + " " + bytes.toHex() + "}";
+        };
+        const QByteArray png = File("png");
+        const Reading read = ReadBody(
+            picture("\\picwgoal1200", png) + "a" + picture("\\picwgoal600", png) + "b" +
+            picture("\\picwgoal1200", File("png", 20)) + "c" + picture("\\picwgoal1200\\piccropl300", png) +
+            "d{\\pict\\picwgoal1200\\pngblip\\bin" + QByteArray::number(png.size()) + " " + png + "}e{\\v " +
+            picture("\\picwgoal1200", png) + "}\\par");
+        QCOMPARE(read.result.pictures, 5);
+        QCOMPARE(read.Text(), u"\ufffca\ufffcb\ufffcc\ufffcd\ufffce"_s);
+        QStringList names;
+        for (auto part = read.document->begin().begin(); !part.atEnd(); ++part) {
+            if (part.fragment().charFormat().isImageFormat())
+                names.append(part.fragment().charFormat().toImageFormat().name());
+        }
+        QCOMPARE(names, QStringList({u"rtf-picture:1"_s, u"rtf-picture:2"_s, u"rtf-picture:3"_s,
+                                     u"rtf-picture:4"_s, u"rtf-picture:1"_s}));
+        QVERIFY(!ImageOf(read, 4).isNull());
+        QVERIFY(ImageOf(read, 5).isNull());
+    }
+
+    void a_picture_that_is_repeated_costs_its_memory_once()
+    {
+        QImage image(2000, 2000, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QByteArray small; // but large when it is shown
+        QBuffer buffer(&small);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "png");
+        const QByteArray large = "{\\pict\\pngblip " + small.toHex() + "}";
+        const Reading read = ReadBody(large.repeated(20) + "\\par");
+        QCOMPARE(read.result.pictures, 20);
+        QCOMPARE(read.result.lostPictures, 0);
+        QVERIFY(!read.result.wasCut);
+        // What cannot be read is lost each time.
+        const QByteArray broken = "{\\pict\\pngblip " + File("png").left(30).toHex() + "}";
+        QCOMPARE(ReadBody(broken + broken + "\\par").result.lostPictures, 2);
+    }
+
     void the_picture_of_a_drawn_shape_is_shown()
     {
         const Reading read = ReadBody(
