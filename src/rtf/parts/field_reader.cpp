@@ -78,6 +78,14 @@ void FieldReader::HandOut(const QString& value)
     around += needsQuotes ? QString(u'"' + plain + u'"') : plain;
 }
 
+void FieldReader::BeginLine()
+{
+    QString& text = document_.group.destination == Destination::FieldValue ? Value() : Instruction();
+    const bool isAtStart = text.isEmpty() || text.back().isSpace() || text.back() == u'"';
+    if (!isAtStart && text.size() < maxAsideText)
+        text += QChar::LineSeparator;
+}
+
 void FieldReader::LookAround()
 {
     surroundings_.page = document_.page.number;

@@ -23,6 +23,8 @@ public:
     void BeginResult();
     /// Where the result of such a field goes.
     QString& Value() { return fields_.empty() ? document_.aside : fields_.back().value; }
+    /// What comes next in an instruction, or in the result of a field within one, is a line of its own.
+    void BeginLine();
     FormField& Form() { return fields_.empty() ? noForm_ : fields_.back().form; }
     /// Ends the innermost field. Returns the text that it stands for when it has no result; else nothing.
     QString End();

@@ -73,8 +73,18 @@ void BeginShapeGroup(Interpreter& interpreter, const Argument&)
         interpreter.Shapes().Current().isGroup = true;
 }
 
+/// Whether a shape stands within the instruction of a field, which has no room for it: then its text is part
+/// of the instruction's.
+bool IsShapeOfInstruction(Interpreter& interpreter)
+{
+    const Destination destination = interpreter.Document().group.destination;
+    return destination == Destination::FieldInstruction || destination == Destination::FieldValue;
+}
+
 void BeginShapeInstructions(Interpreter& interpreter, const Argument&)
 {
+    if (IsShapeOfInstruction(interpreter))
+        return;
     if (!interpreter.Shapes().MayHoldShape())
         return interpreter.Skip();
     interpreter.Shapes().Current().hasInstructions = true;
@@ -90,6 +100,8 @@ void BeginShapeResult(Interpreter& interpreter, const Argument&)
 
 void BeginShapeText(Interpreter& interpreter, const Argument&)
 {
+    if (IsShapeOfInstruction(interpreter))
+        return interpreter.Fields().BeginLine();
     if (interpreter.Shapes().BeginText())
         interpreter.Enter(Destination::ShapeText);
 }

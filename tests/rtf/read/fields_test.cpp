@@ -85,6 +85,18 @@ private Q_SLOTS:
         QTest::newRow("a field of two paragraphs as a piece of its own")
             << QByteArray("IF {\\field{\\*\\fldinst X}{\\fldrslt b\\par c}} = \"b\\par c\" \"yes\" \"no\"")
             << u"yes"_s;
+        const QByteArray shape = "{\\shp{\\*\\shpinst\\shpleft300\\shpright900{\\sp{\\sn fLine}{\\sv "
+                                 "0}}{\\shptxt\\pard\\plain in a box}}{\\shprslt older\\par}}";
+        QTest::newRow("a shape in a quoted text")
+            << QByteArray("QUOTE \"a" + shape + "\"") << u"a\nin a box"_s;
+        QTest::newRow("a shape at the start of a quoted text")
+            << QByteArray("QUOTE \"" + shape + "\"") << u"in a box"_s;
+        QTest::newRow("an older shape in a quoted text")
+            << QByteArray("QUOTE \"a{\\*\\do\\dobxpage{\\dptxbx{\\dptxbxtext words\\par b}\\dpx0\\dpy0}}\"")
+            << u"a\nwords\nb"_s;
+        QTest::newRow("a shape in a field in a quoted text")
+            << QByteArray("QUOTE \"{\\field{\\*\\fldinst X}{\\fldrslt a" + shape + "}} c\"")
+            << u"a\nin a box c"_s;
         QTest::newRow("a quoted text in a choice")
             << QByteArray("IF 1 = 1 \"{\\field{\\*\\fldinst QUOTE inner words}}\" \"no\"")
             << u"inner words"_s;
@@ -199,6 +211,11 @@ private Q_SLOTS:
     {
         QCOMPARE(ReadBody("{\\field{\\*\\fldinst QUOTE new}{\\fldrslt old\\par}}\\par").Text(), u"old\n"_s);
         QCOMPARE(ReadBody("{\\field{\\*\\fldinst QUOTE new}{\\fldrslt old}}\\par").Text(), u"old"_s);
+        const QByteArray shape = "{\\shp{\\*\\shpinst{\\shptxt box\\par}}}";
+        QCOMPARE(ReadBody("{\\field{\\*\\fldinst QUOTE \"a" + shape + "\"}{\\fldrslt a" + shape + "}}\\par")
+                     .Text()
+                     .count(u"box"_s),
+                 1);
     }
 
     void sequences_count_each_for_itself()
