@@ -50,13 +50,18 @@ private Q_SLOTS:
 
     void yes_from_the_menu_runs_the_installer_with_the_main_window_disabled()
     {
-        AddInstaller();
+        AddInstaller("while [ ! -e \"$(dirname \"$0\")/seen\" ]; do sleep 0.01; done\n");
         program_->messages.Answer(msgbox::answerYes);
         bool enabledMeanwhile = true;
         program_->messages.WhenAsked([&] {
-            // Runs in the loop that waits for the installer.
+            // Runs in the loop that waits for the installer, which goes on when it has.
             QMetaObject::invokeMethod(
-                qApp, [&] { enabledMeanwhile = Form1->Enabled(); }, Qt::QueuedConnection);
+                qApp,
+                [&] {
+                    enabledMeanwhile = Form1->Enabled();
+                    program_->disc.AddFile(u"IndeoVideo/seen"_s, "seen");
+                },
+                Qt::QueuedConnection);
         });
         AskFromMenu();
         QVERIFY(Installed());
@@ -156,10 +161,10 @@ private:
         program_->Settle();
     }
 
-    void AddInstaller()
+    void AddInstaller(const QByteArray& before = {})
     {
         const QString file = u"IndeoVideo/iv5play.exe"_s;
-        program_->disc.AddFile(file, "#!/bin/sh\ntouch \"$(dirname \"$0\")/done\"\n");
+        program_->disc.AddFile(file, "#!/bin/sh\n" + before + "touch \"$(dirname \"$0\")/done\"\n");
         QVERIFY(QFile::setPermissions(program_->disc.PathOf(file),
                                       QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
