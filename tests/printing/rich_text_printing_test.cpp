@@ -200,6 +200,83 @@ private Q_SLOTS:
         QCOMPARE(pages.at(1).simplified(), u"Second"_s);
     }
 
+    void a_page_break_begins_a_page_with_whatever_comes_next_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QStringList>("pages");
+        const QStringList two{u"First"_s, u"Second"_s};
+        const QByteArray begun = "First\\par\\page\\pard";
+        const QByteArray first = "First\\par\\pard";
+        const QByteArray bottom = "\\brdrb\\brdrs\\brdrw30 ";
+        const QByteArray box = "\\box\\brdrs\\brdrw30 ";
+        const QByteArray place = "{\\shp{\\*\\shpinst\\shpleft0\\shptop0\\shpright3000\\shpbottom1500";
+        const QByteArray textBox = place + "{\\shptxt\\pard Second\\par}}}";
+        const QByteArray drawing =
+            place + "{\\sp{\\sn shapeType}{\\sv 1}}{\\sp{\\sn fillColor}{\\sv 1316060}}}}";
+        const QByteArray row = "\\trowd\\cellx3000\\cellx6000\\pard\\intbl";
+        QTest::newRow("a border") << begun + bottom + "Second\\par" << two;
+        QTest::newRow("a paragraph with a border") << first + "\\pagebb" + bottom + "Second\\par" << two;
+        QTest::newRow("a box") << begun + box + "Second\\par" << two;
+        QTest::newRow("a paragraph in a box") << first + "\\pagebb" + box + "Second\\par" << two;
+        QTest::newRow("a frame") << begun + "\\absw3000\\posx600 Second\\par" << two;
+        QTest::newRow("a paragraph in a frame") << first + "\\pagebb\\absw3000\\posx600 Second\\par" << two;
+        QTest::newRow("a text box") << begun + textBox + "\\par" << two;
+        QTest::newRow("a text box of a paragraph") << first + "\\pagebb " + textBox + "\\par" << two;
+        QTest::newRow("a break behind a text box")
+            << first + textBox + "\\page Third\\par" << QStringList{u"First Second"_s, u"Third"_s};
+        QTest::newRow("a drawing") << begun + drawing + " Second\\par" << two;
+        QTest::newRow("a drawing of a paragraph") << first + "\\pagebb " + drawing + "Second\\par" << two;
+        QTest::newRow("a break within a text box")
+            << first + place + "{\\shptxt\\pard\\pagebb Sec\\page ond\\par}}}\\pagebb Third\\par"
+            << QStringList{u"First"_s, u"Sec ond Third"_s};
+        QTest::newRow("text with a note") << begun + " Second{\\footnote\\pard\\pagebb Third}\\par"
+                                          << QStringList{u"First"_s, u"Second1 1 Third"_s};
+        QTest::newRow("a table") << begun + row + " Second\\cell b\\cell\\row"
+                                 << QStringList{u"First"_s, u"Second b"_s};
+        QTest::newRow("a table in a table")
+            << begun + row +
+                   "\\itap2 Second\\nestcell{\\*\\nesttableprops\\trowd\\cellx1500\\nestrow}"
+                   "{\\nonesttables\\par}\\pard\\intbl\\itap1\\cell b\\cell\\row"
+            << QStringList{u"First"_s, u"Second b"_s};
+        QTest::newRow("a first cell") << first + row + "\\pagebb Second\\cell\\pard\\intbl b\\cell\\row"
+                                      << QStringList{u"First"_s, u"Second b"_s};
+        QTest::newRow("all cells") << first + row + "\\pagebb Second\\cell b\\cell\\row c\\cell d\\cell\\row"
+                                   << QStringList{u"First"_s, u"Second b c d"_s};
+        QTest::newRow("another cell") << first + row + " a\\cell\\pagebb b\\cell\\row c\\cell d\\cell\\row"
+                                      << QStringList{u"First a b c d"_s};
+        QTest::newRow("a box in a cell")
+            << first + row + "\\pagebb" + box + "Second\\cell\\pard\\intbl b\\cell\\row"
+            << QStringList{u"First"_s, u"Second b"_s};
+        QTest::newRow("the beginning") << QByteArray("\\pard\\pagebb First\\par") << QStringList{u"First"_s};
+        QTest::newRow("the beginning in a box")
+            << "\\pard\\pagebb" + box + "First\\par" << QStringList{u"First"_s};
+        QTest::newRow("a table at the beginning")
+            << row + "\\pagebb First\\cell b\\cell\\row" << QStringList{u"First b"_s};
+        QTest::newRow("headings with the same border")
+            << first + "\\pagebb" + bottom + "Second\\par Third\\par" << two + QStringList{u"Third"_s};
+        QTest::newRow("a large initial letter")
+            << first + "\\pagebb\\dropcapli2 S\\par\\pard econd\\par" << two;
+        QTest::newRow("text below a table") << row + " First\\cell\\cell\\row\\pard\\page Second\\par" << two;
+    }
+    void a_page_break_begins_a_page_with_whatever_comes_next()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QStringList, pages);
+        Print(text);
+        QStringList printed;
+        for (const QString& page : printed_->Pages(1))
+            printed << page.simplified();
+        QCOMPARE(printed, pages);
+        QVERIFY(InkOf(printed_->Image(1, 1), IsRed).isNull()); // drawings stand with their text
+    }
+
+    void a_page_that_begins_with_a_box_begins_at_the_margin()
+    {
+        Print("\\pard\\sa600 First\\par\\page\\pard\\box\\brdrs\\brdrw30 Second\\par");
+        const QRectF ink = InkOf(printed_->Image(1, 2));
+        QVERIFY2(qAbs(ink.top() - inch) <= 2 * pixel, qPrintable(QString::number(ink.top())));
+    }
+
     void a_picture_that_fits_a_page_moves_to_the_next_as_a_whole()
     {
         Print(Lines(1, 40) + RtfPicture(4000, 6000) + "\\par\n" + Lines(41, 42));

@@ -31,6 +31,7 @@ struct Paragraph {
     /// Number of the character format of the paragraph's end, which gives an empty paragraph its height.
     int endFormat = 0;
     ListMark mark;
+    /// Begins a page.
     bool breakBefore = false;
     /// The first of the footnotes.
     bool beginsNotes = false;
@@ -84,6 +85,8 @@ struct BoxStyle {
 struct Box {
     BoxStyle style;
     std::vector<Block> blocks;
+    /// Begins a page.
+    bool breakBefore = false;
 };
 
 enum class Merge : quint8 { None, First, Continued };

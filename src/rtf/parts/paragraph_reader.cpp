@@ -6,6 +6,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <utility>
 
 namespace torvik::rtf {
 
@@ -19,6 +20,7 @@ ParagraphState LooksOf(const ParagraphState& paragraph)
     looks.listLevel = 0;
     looks.numbering = ParagraphNumbering();
     looks.style = 0;
+    looks.breakBefore = false;
     // The paragraphs of a table that has a place of its own carry it too.
     if (looks.tableDepth > 0)
         looks.frame = FramePlace();
@@ -49,8 +51,13 @@ void ParagraphReader::FinishDraft()
         draft.mark.literal.clear();
     }
     draft.endFormat = looks_.Format();
-    draft.breakBefore = breakPending_;
-    breakPending_ = false;
+    draft.breakBefore = MayBeginPage() && (std::exchange(breakPending_, false) || paragraph.breakBefore);
+}
+
+/// Notes and boxes stand on the page of the text around them, whose break is still to come.
+bool ParagraphReader::MayBeginPage() const
+{
+    return !document_.flow.InNote() && document_.flow.BoxDepth() == 0;
 }
 
 /// A large first letter is a paragraph of its own to the document, and the beginning of the next one to
@@ -71,8 +78,12 @@ int ParagraphReader::NestedDepth() const
 
 void ParagraphReader::EndParagraph()
 {
-    if (!document_.IsBody() || IsInitialLetter())
+    if (!document_.IsBody())
         return;
+    if (IsInitialLetter()) {
+        breakPending_ = breakPending_ || (MayBeginPage() && document_.group.paragraph.breakBefore);
+        return;
+    }
     FinishDraft();
     document_.flow.EndParagraph(document_.group.paragraph.tableDepth);
 }
@@ -98,8 +109,10 @@ void ParagraphReader::BreakPage()
 {
     if (!document_.IsBody() || document_.flow.InNote() || document_.group.paragraph.tableDepth > 0)
         return;
-    if (!document_.flow.Draft().IsEmpty())
+    if (!document_.flow.Draft().IsEmpty() || document_.flow.HasAnchored() || !document_.drawings.empty())
         EndParagraph();
+    if (!MayBeginPage())
+        return;
     breakPending_ = true;
     ++document_.page.number;
 }

@@ -27,6 +27,7 @@ public:
 private:
     void FinishDraft();
     bool IsInitialLetter() const;
+    bool MayBeginPage() const;
     int NestedDepth() const;
 
     DocumentState& document_;

@@ -116,8 +116,6 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
         format.setProperty(keepTogetherProperty, true);
     if (state.keepWithNext)
         format.setProperty(keepWithNextProperty, true);
-    if (state.breakBefore)
-        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     // Else Qt goes by the first letter.
     format.setLayoutDirection(state.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     const QColor back =

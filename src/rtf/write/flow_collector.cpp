@@ -63,6 +63,7 @@ void FlowCollector::EndParagraph(int depth)
         return;
     }
     SetDepth(Clamped(depth));
+    PassBreakOn();
     Deliver(std::exchange(place_.anchored, {}));
     if (place_.levels.empty() && around_.empty()) {
         body_.Write(place_.draft);
@@ -73,6 +74,15 @@ void FlowCollector::EndParagraph(int depth)
         place_.draft = Paragraph();
     }
     Deliver(std::exchange(place_.anchoredAfter, {}));
+}
+
+void FlowCollector::PassBreakOn()
+{
+    if (!place_.draft.breakBefore || place_.anchored.empty())
+        return;
+    Block& first = place_.anchored.front();
+    (first.box ? first.box->breakBefore : first.paragraph.breakBefore) = true;
+    place_.draft.breakBefore = false;
 }
 
 void FlowCollector::EndCell(int depth)

@@ -33,6 +33,8 @@ public:
     /// A box or a picture that stands where the draft is. It comes before the draft while that is empty, else
     /// after it.
     void AddAnchored(Block block, bool after);
+    /// Whether a box or a picture waits for the draft to end.
+    bool HasAnchored() const { return !place_.anchored.empty() || !place_.anchoredAfter.empty(); }
 
     /// Writes what is still waiting: open tables, then the footnotes.
     void Finish();
@@ -54,6 +56,8 @@ private:
         std::vector<Block> anchoredAfter;
     };
     void SetDepth(int depth);
+    /// What stands before the draft begins the page in its place.
+    void PassBreakOn();
     void Deliver(std::vector<Block> anchored);
     void CloseLevel();
     void CloseRow(Level& level, int depth);

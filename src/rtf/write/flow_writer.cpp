@@ -26,10 +26,26 @@ constexpr qint64 boxCost = 4000;
 /// For the rule between text and notes, pixels.
 constexpr double roomAboveNotes = 16;
 
+/// Whether what comes first in a table is to begin a page.
+bool IsToldToBeginPage(const Table& table)
+{
+    for (const Table* inner = &table; !inner->rows.empty();) {
+        const std::vector<std::vector<Block>>& cells = inner->rows.front().cells;
+        if (cells.empty() || cells.front().empty())
+            return false;
+        const Block& first = cells.front().front();
+        if (!first.table)
+            return first.box ? first.box->breakBefore : first.paragraph.breakBefore;
+        inner = first.table.get();
+    }
+    return false;
+}
+
 } // namespace
 
 FlowWriter::FlowWriter(WritingContext& context, const QTextCursor& cursor, Room room)
-    : context_(context), cursor_(cursor), atCellStart_(room == Room::Cell), spacing_(context.formats)
+    : context_(context), cursor_(cursor), room_(room), atCellStart_(room == Room::Cell),
+      spacing_(context.formats)
 {}
 
 qint64 FlowWriter::CostOf(qsizetype characters, std::size_t runs)
@@ -68,6 +84,23 @@ void FlowWriter::Write(const Block& block)
         Write(block.paragraph);
 }
 
+bool FlowWriter::BeginsPage(bool isTold) const
+{
+    const bool isFirst = fresh_ && cursor_.position() == 0;
+    return isTold && room_ == Room::Body && !isFirst;
+}
+
+void FlowWriter::TableCame(QTextTable& table, int before, bool beginsPage, int space)
+{
+    if (beginsPage) {
+        QTextTableFormat format = table.format();
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        table.setFormat(format);
+        spacing_.PageBegan();
+    }
+    spacing_.TableCame(table, before, space);
+}
+
 BoxStyle FlowWriter::WithSpaces(const Box& box) const
 {
     BoxStyle style = box.style;
@@ -84,9 +117,10 @@ void FlowWriter::Write(const Box& box)
     if (!context_.budget.Take(boxCost))
         return Write(box.blocks);
     const int before = cursor_.position();
+    const bool beginsPage = BeginsPage(box.breakBefore);
     QTextTable* frame = InsertShapeBox(cursor_, WithSpaces(box));
     context_.hasRowHeights = context_.hasRowHeights || box.style.height > 0;
-    spacing_.TableCame(*frame, before);
+    TableCame(*frame, before, beginsPage);
     FlowWriter inside(context_, frame->cellAt(0, 0).firstCursorPosition(), Room::Cell);
     inside.Write(box.blocks);
     cursor_.setPosition(frame->lastPosition() + 1);
@@ -99,6 +133,7 @@ void FlowWriter::Write(const Table& table)
     LeaveBox();
     lists_.Interrupt();
     const int before = cursor_.position();
+    const bool beginsPage = BeginsPage(IsToldToBeginPage(table));
     QTextTable* written = WriteTable(context_, cursor_, table);
     if (written == nullptr) {
         // Too much for a table: its texts at least, one below the other.
@@ -108,7 +143,7 @@ void FlowWriter::Write(const Table& table)
         }
         return;
     }
-    spacing_.TableCame(*written, before);
+    TableCame(*written, before, beginsPage);
     cursor_.setPosition(written->lastPosition() + 1);
     atCellStart_ = false;
     fresh_ = true;
@@ -121,14 +156,15 @@ void FlowWriter::PlaceBox(const Paragraph& paragraph)
     // below a table.
     const bool isRule = paragraph.IsEmpty() && !spacing_.IsBelowTable();
     const bool isBoxed = state.HasBox() || state.frame.isSet || (state.HasBorder() && !isRule);
-    if (box_ != nullptr && isBoxed && SharesBox(state, context_.formats.StateOf(boxFormat_)))
+    const bool beginsPage = BeginsPage(paragraph.breakBefore);
+    if (box_ != nullptr && isBoxed && !beginsPage && SharesBox(state, context_.formats.StateOf(boxFormat_)))
         return;
     LeaveBox();
     if (!isBoxed || !context_.budget.Take(boxCost))
         return;
     const int before = cursor_.position();
     box_ = InsertBox(cursor_, state, context_.formats.Colors(), context_.page);
-    spacing_.TableCame(*box_, before, state.spaceBefore);
+    TableCame(*box_, before, beginsPage, state.spaceBefore);
     atCellStart_ = true;
     fresh_ = true;
 }
@@ -175,7 +211,7 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
     if (isItem && paragraph.mark.kind == ListMark::Kind::Bullet)
         endFormat.setFontStretch(SpaceAfterBullet(markRoom));
     QTextBlockFormat format = context_.formats.BlockFormat(isItem ? paragraph.itemFormat : paragraph.format);
-    if (paragraph.breakBefore)
+    if (box_ == nullptr && BeginsPage(paragraph.breakBefore))
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     if (paragraph.beginsNotes) {
         format.setTopMargin(std::max(format.topMargin(), roomAboveNotes));

@@ -43,6 +43,10 @@ public:
     void Write(const std::vector<Block>& blocks);
 
 private:
+    /// Whether what comes next begins a page when that is told. Nothing in a cell does, since the rest of the
+    /// row would stay where it is; and the beginning of the body stands on a page of its own anyway.
+    bool BeginsPage(bool isTold) const;
+    void TableCame(QTextTable& table, int before, bool beginsPage, int space = 0);
     /// The looks of a box with the space that its first and last paragraph want.
     BoxStyle WithSpaces(const Box& box) const;
     void PlaceBox(const Paragraph& paragraph);
@@ -53,6 +57,7 @@ private:
 
     WritingContext& context_;
     QTextCursor cursor_;
+    Room room_;
     ListWriter lists_;
     /// The cursor's block is empty and belongs to no paragraph yet.
     bool fresh_ = true;
