@@ -9,6 +9,7 @@
 #include <QTextLayout>
 #include <QTextTable>
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -59,11 +60,24 @@ double FirstLineOf(const Piece& piece)
     return TopOf(piece.first) + (layout.lineCount() > 0 ? layout.lineAt(0).y() : 0);
 }
 
+double LastLineOf(const QTextBlock& block)
+{
+    const QTextLayout& layout = *block.layout();
+    const int lines = layout.lineCount();
+    return TopOf(block) + (lines > 0 ? layout.lineAt(lines - 1).y() : 0);
+}
+
+/// Of a table the lowest line, whichever cell it stands in.
 double LastLineOf(const Piece& piece)
 {
-    const QTextLayout& layout = *piece.last.layout();
-    const int lines = layout.lineCount();
-    return TopOf(piece.last) + (lines > 0 ? layout.lineAt(lines - 1).y() : 0);
+    double last = LastLineOf(piece.last);
+    if (const auto* table = qobject_cast<const QTextTable*>(piece.frame)) {
+        for (int column = 0; column < table->columns(); ++column) {
+            const QTextTableCell cell = table->cellAt(table->rows() - 1, column);
+            last = std::max(last, LastLineOf(cell.lastCursorPosition().block()));
+        }
+    }
+    return last;
 }
 
 double PageOf(double line, const QTextDocument& document)

@@ -110,6 +110,37 @@ private Q_SLOTS:
         QVERIFY(moved > 0); // else no page ended there
     }
 
+    void a_heading_before_a_box_that_begins_a_page_stays_where_it_is()
+    {
+        for (int before = 1; before < 60; ++before) {
+            const QByteArray lines = QByteArray("line\\par ").repeated(before);
+            const QByteArray end = "head\\par\\pard\\pagebb\\box\\brdrs\\brdrw30 below\\par";
+            QTextDocument kept;
+            QTextDocument free;
+            Lay(kept, lines + "\\pard\\keepn " + end);
+            Lay(free, lines + "\\pard " + end);
+            QCOMPARE(PageOf(kept, "head"), PageOf(free, "head"));
+            QCOMPARE(PageOf(kept, "below"), PageOf(kept, "head") + 1);
+        }
+    }
+
+    void a_heading_below_a_table_stays_with_the_next_whichever_cell_is_longest()
+    {
+        int moved = 0;
+        for (int lines = 40; lines < 80; ++lines) {
+            const QByteArray table = "\\trowd\\cellx3000\\cellx6000\\pard\\intbl " +
+                                     QByteArray("long\\line ").repeated(lines) + "\\cell short\\cell\\row";
+            const QByteArray rest = "head\\par\\pard\\keep below\\line below\\par";
+            QTextDocument kept;
+            QTextDocument free;
+            Lay(kept, table + "\\pard\\keepn " + rest);
+            Lay(free, table + "\\pard " + rest);
+            QCOMPARE(PageOf(kept, "head"), PageOf(kept, "below"));
+            moved += PageOf(free, "head") != PageOf(free, "below") ? 1 : 0;
+        }
+        QVERIFY(moved > 0); // else no page ended there
+    }
+
     void paragraphs_that_all_stay_with_the_next_and_fill_a_page_stay()
     {
         QTextDocument document;
