@@ -57,6 +57,15 @@ class ShapesTest : public QObject {
         return {};
     }
 
+    /// How often an outline's upper edge is interrupted.
+    static int GapsOnTop(const QImage& image)
+    {
+        int gaps = 0;
+        for (int x = 1; x < image.width(); ++x)
+            gaps += image.pixelColor(x, 0).alpha() == 0 && image.pixelColor(x - 1, 0).alpha() != 0 ? 1 : 0;
+        return gaps;
+    }
+
 private Q_SLOTS:
     void text_of_a_shape_at_the_start_of_a_paragraph_is_a_box_before_it()
     {
@@ -108,6 +117,40 @@ private Q_SLOTS:
         const QTextTableCellFormat none = BoxesOf(bare).first()->cellAt(0, 0).format().toTableCellFormat();
         QCOMPARE(none.topBorder(), 0.0);
         QCOMPARE(none.background().style(), Qt::NoBrush);
+    }
+
+    void the_line_around_a_box_is_dashed_or_dotted_as_told_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QTextFrameFormat::BorderStyle>("style");
+        const auto newer = [](const QByteArray& dashing) -> QByteArray {
+            return Shape(Property("lineDashing", dashing), "\\pard boxed\\par") + "\\par";
+        };
+        const auto older = [](const QByteArray& word) -> QByteArray {
+            return "{\\*\\do\\dptxbx{\\dptxbxtext\\pard boxed\\par}\\dpx0\\dpy0\\dpxsize1500\\dpysize750" +
+                   word + "}\\par";
+        };
+        QTest::newRow("solid") << newer("0") << QTextFrameFormat::BorderStyle_Solid;
+        QTest::newRow("dashes") << newer("1") << QTextFrameFormat::BorderStyle_Dashed;
+        QTest::newRow("dots") << newer("2") << QTextFrameFormat::BorderStyle_Dotted;
+        QTest::newRow("dashes and dots") << newer("3") << QTextFrameFormat::BorderStyle_DotDash;
+        QTest::newRow("no known line") << newer("99") << QTextFrameFormat::BorderStyle_Solid;
+        QTest::newRow("solid, older") << older("\\dplinesolid") << QTextFrameFormat::BorderStyle_Solid;
+        QTest::newRow("dashes, older") << older("\\dplinedash") << QTextFrameFormat::BorderStyle_Dashed;
+        QTest::newRow("dots, older") << older("\\dplinedot") << QTextFrameFormat::BorderStyle_Dotted;
+        QTest::newRow("dashes and dots, older")
+            << older("\\dplinedado") << QTextFrameFormat::BorderStyle_DotDash;
+    }
+    void the_line_around_a_box_is_dashed_or_dotted_as_told()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(QTextFrameFormat::BorderStyle, style);
+        const Reading read = ReadBody(body);
+        const QTextTableCellFormat format = BoxesOf(read).first()->cellAt(0, 0).format().toTableCellFormat();
+        for (const QTextFrameFormat::BorderStyle side :
+             {format.topBorderStyle(), format.leftBorderStyle(), format.bottomBorderStyle(),
+              format.rightBorderStyle()})
+            QCOMPARE(side, style);
     }
 
     void boxes_of_the_older_generation()
@@ -329,6 +372,54 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(middle, image.height() / 2), QColor(255, 0, 0));
         QCOMPARE(image.pixelColor(middle, 0).blue(), 255);
         QCOMPARE(image.pixelColor(4, 4).alpha() == 255, fillsItsCorners);
+    }
+
+    void a_dashed_outline_has_gaps_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<bool>("hasGaps");
+        const auto newer = [](const QByteArray& dashing) -> QByteArray {
+            return Shape(Property("shapeType", "1") + Property("fFilled", "0") +
+                             Property("lineDashing", dashing),
+                         {}) +
+                   "x\\par";
+        };
+        const auto older = [](const QByteArray& word) -> QByteArray {
+            return "{\\*\\do\\dprect\\dpx0\\dpy0\\dpxsize3000\\dpysize1500\\dpfillpat0\\dplinew15" + word +
+                   "}x\\par";
+        };
+        QTest::newRow("solid") << newer("0") << false;
+        QTest::newRow("dashes") << newer("1") << true;
+        QTest::newRow("dots") << newer("2") << true;
+        QTest::newRow("solid, older") << older("\\dplinesolid") << false;
+        QTest::newRow("dashes, older") << older("\\dplinedash") << true;
+        QTest::newRow("dots, older") << older("\\dplinedot") << true;
+    }
+    void a_dashed_outline_has_gaps()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(bool, hasGaps);
+        const Reading read = ReadBody(body);
+        QCOMPARE(OnlyPictureSize(read), QSizeF(201, 101));
+        const int gaps = GapsOnTop(PictureOf(read, 1));
+        QVERIFY2(hasGaps ? gaps > 10 : gaps == 0, qPrintable(QString::number(gaps)));
+    }
+
+    void a_member_of_a_group_is_measured_by_the_group()
+    {
+        const auto group = [](const QByteArray& right, const QByteArray& bottom) -> QByteArray {
+            return "{\\shpgrp{\\*\\shpinst\\shpleft300\\shptop0\\shpright3300\\shpbottom1500" +
+                   Property("groupLeft", "0") + Property("groupTop", "0") + Property("groupRight", right) +
+                   Property("groupBottom", bottom) + "{\\shp{\\*\\shpinst" + Property("relLeft", "250") +
+                   Property("relTop", "0") + Property("relRight", "750") + Property("relBottom", "250") +
+                   Property("shapeType", "1") + "}}}}x\\par";
+        };
+        const Reading read = ReadBody(group("1000", "1000"));
+        QCOMPARE(OnlyPictureSize(read), QSizeF(101, 26));
+        // A quarter of the group's width from its left edge, less half of the line.
+        const double left = read.document->begin().blockFormat().leftMargin();
+        QVERIFY2(std::abs(left - 69.5) < 0.1, qPrintable(QString::number(left)));
+        QCOMPARE(OnlyPictureSize(ReadBody(group("2000", "500"))), QSizeF(51, 51));
     }
 
     void a_line_of_the_newer_generation_goes_from_corner_to_corner()
