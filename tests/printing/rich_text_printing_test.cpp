@@ -233,6 +233,12 @@ private Q_SLOTS:
                                           << QStringList{u"First"_s, u"Second1 1 Third"_s};
         QTest::newRow("a table") << begun + row + " Second\\cell b\\cell\\row"
                                  << QStringList{u"First"_s, u"Second b"_s};
+        QTest::newRow("a table below a table")
+            << row + " First\\cell\\cell\\row\\pard\\page" + row + " Second\\cell\\cell\\row" << two;
+        QTest::newRow("a section that begins with a table")
+            << row + " First\\cell\\cell\\row\\pard\\sect\\sectd" + row + " Second\\cell\\cell\\row" << two;
+        QTest::newRow("within a row")
+            << row + " a\\cell\\pard\\page\\intbl b\\cell\\row" << QStringList{u"a b"_s};
         QTest::newRow("a table in a table")
             << begun + row +
                    "\\itap2 Second\\nestcell{\\*\\nesttableprops\\trowd\\cellx1500\\nestrow}"
@@ -268,6 +274,23 @@ private Q_SLOTS:
             printed << page.simplified();
         QCOMPARE(printed, pages);
         QVERIFY(InkOf(printed_->Image(1, 1), IsRed).isNull()); // drawings stand with their text
+    }
+
+    void what_stands_at_the_end_of_a_page_leaves_no_page_empty_data()
+    {
+        QTest::addColumn<QByteArray>("table");
+        QTest::newRow("a table") << QByteArray("\\trowd\\cellx3000\\pard\\intbl Table\\cell\\row");
+        QTest::newRow("a box") << QByteArray("\\pard\\box\\brdrs\\brdrw30\\sa1200 Table\\par");
+    }
+    void what_stands_at_the_end_of_a_page_leaves_no_page_empty()
+    {
+        QFETCH(QByteArray, table);
+        for (int before = 38; before <= 50; ++before) {
+            Print(Lines(1, before) + table + "\\pard\\pagebb\\sb1200 End\\par");
+            const QStringList pages = printed_->Pages(printed_->Jobs());
+            QCOMPARE(pages.last().simplified(), u"End"_s);
+            QVERIFY(pages.at(pages.size() - 2).contains(u"Table"_s));
+        }
     }
 
     void a_page_that_begins_with_a_box_begins_at_the_margin()

@@ -113,6 +113,7 @@ void ParagraphReader::BreakPage()
         EndParagraph();
     if (!MayBeginPage())
         return;
+    document_.flow.EndTable();
     breakPending_ = true;
     ++document_.page.number;
 }

@@ -117,6 +117,13 @@ void FlowCollector::EndRow(int depth)
     SetDepth(level);
 }
 
+void FlowCollector::EndTable()
+{
+    if (place_.levels.size() == 1 && place_.levels.front().row.cells.empty() &&
+        place_.levels.front().cell.empty())
+        SetDepth(0);
+}
+
 void FlowCollector::CloseRow(Level& level, int depth)
 {
     if (!level.cell.empty()) {

@@ -19,6 +19,8 @@ public:
     void EndParagraph(int depth);
     void EndCell(int depth);
     void EndRow(int depth);
+    /// Lets a row that comes next begin a table of its own. Does nothing within a row.
+    void EndTable();
     /// The row definition that table words change; `depth` from 1.
     RowStyle& RowAt(int depth);
 

@@ -84,10 +84,13 @@ void FlowWriter::Write(const Block& block)
         Write(block.paragraph);
 }
 
-bool FlowWriter::BeginsPage(bool isTold) const
+bool FlowWriter::TakeBreak(bool isTold)
 {
     const bool isFirst = fresh_ && cursor_.position() == 0;
-    return isTold && room_ == Room::Body && !isFirst;
+    if (!isTold || room_ != Room::Body || isFirst)
+        return false;
+    spacing_.PageBegan();
+    return true;
 }
 
 void FlowWriter::TableCame(QTextTable& table, int before, bool beginsPage, int space)
@@ -96,7 +99,6 @@ void FlowWriter::TableCame(QTextTable& table, int before, bool beginsPage, int s
         QTextTableFormat format = table.format();
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
         table.setFormat(format);
-        spacing_.PageBegan();
     }
     spacing_.TableCame(table, before, space);
 }
@@ -112,12 +114,12 @@ BoxStyle FlowWriter::WithSpaces(const Box& box) const
 
 void FlowWriter::Write(const Box& box)
 {
+    const bool beginsPage = TakeBreak(box.breakBefore);
     LeaveBox();
     lists_.Interrupt();
     if (!context_.budget.Take(boxCost))
         return Write(box.blocks);
     const int before = cursor_.position();
-    const bool beginsPage = BeginsPage(box.breakBefore);
     QTextTable* frame = InsertShapeBox(cursor_, WithSpaces(box));
     context_.hasRowHeights = context_.hasRowHeights || box.style.height > 0;
     TableCame(*frame, before, beginsPage);
@@ -130,10 +132,10 @@ void FlowWriter::Write(const Box& box)
 
 void FlowWriter::Write(const Table& table)
 {
+    const bool beginsPage = TakeBreak(IsToldToBeginPage(table));
     LeaveBox();
     lists_.Interrupt();
     const int before = cursor_.position();
-    const bool beginsPage = BeginsPage(IsToldToBeginPage(table));
     QTextTable* written = WriteTable(context_, cursor_, table);
     if (written == nullptr) {
         // Too much for a table: its texts at least, one below the other.
@@ -156,7 +158,7 @@ void FlowWriter::PlaceBox(const Paragraph& paragraph)
     // below a table.
     const bool isRule = paragraph.IsEmpty() && !spacing_.IsBelowTable();
     const bool isBoxed = state.HasBox() || state.frame.isSet || (state.HasBorder() && !isRule);
-    const bool beginsPage = BeginsPage(paragraph.breakBefore);
+    const bool beginsPage = TakeBreak(paragraph.breakBefore);
     if (box_ != nullptr && isBoxed && !beginsPage && SharesBox(state, context_.formats.StateOf(boxFormat_)))
         return;
     LeaveBox();
@@ -211,7 +213,7 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
     if (isItem && paragraph.mark.kind == ListMark::Kind::Bullet)
         endFormat.setFontStretch(SpaceAfterBullet(markRoom));
     QTextBlockFormat format = context_.formats.BlockFormat(isItem ? paragraph.itemFormat : paragraph.format);
-    if (box_ == nullptr && BeginsPage(paragraph.breakBefore))
+    if (box_ == nullptr && TakeBreak(paragraph.breakBefore))
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     if (paragraph.beginsNotes) {
         format.setTopMargin(std::max(format.topMargin(), roomAboveNotes));

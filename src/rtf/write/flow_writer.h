@@ -43,9 +43,10 @@ public:
     void Write(const std::vector<Block>& blocks);
 
 private:
-    /// Whether what comes next begins a page when that is told. Nothing in a cell does, since the rest of the
-    /// row would stay where it is; and the beginning of the body stands on a page of its own anyway.
-    bool BeginsPage(bool isTold) const;
+    /// Whether what comes next begins a page when that is told; then nothing goes below what came before.
+    /// Nothing in a cell does, since the rest of the row would stay where it is; and the beginning of the
+    /// body stands on a page of its own anyway.
+    bool TakeBreak(bool isTold);
     void TableCame(QTextTable& table, int before, bool beginsPage, int space = 0);
     /// The looks of a box with the space that its first and last paragraph want.
     BoxStyle WithSpaces(const Box& box) const;

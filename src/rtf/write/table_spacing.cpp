@@ -32,6 +32,12 @@ void TableSpacing::TableCame(QTextTable& table, int before, int space)
     lastWasEmpty_ = false;
 }
 
+void TableSpacing::PageBegan()
+{
+    above_ = nullptr;
+    spaceAfter_ = 0;
+}
+
 void TableSpacing::ParagraphCame(const Paragraph& paragraph)
 {
     const ParagraphState& state = formats_.StateOf(paragraph.format);

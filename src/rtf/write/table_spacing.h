@@ -16,8 +16,8 @@ public:
 
     /// A table was inserted at the position `before`, and asks for `space` twips above it.
     void TableCame(QTextTable& table, int before, int space = 0);
-    /// A table that comes next stands at the top of a page.
-    void PageBegan() { spaceAfter_ = 0; }
+    /// What comes next stands at the top of a page: below the last table its space could begin another one.
+    void PageBegan();
     /// Whether nothing came after the last table yet.
     bool IsBelowTable() const { return above_ != nullptr; }
     /// A paragraph was written, in the flow and not within a box.
