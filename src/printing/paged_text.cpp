@@ -3,6 +3,7 @@
 #include "printing/keep_together.h"
 #include "printing/paper_formats.h"
 #include "printing/picture_fitting.h"
+#include "printing/table_ends.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
@@ -40,6 +41,7 @@ PagedText::PagedText(const QTextDocument& text, QPaintDevice& device, const QSiz
     FitPicturesToPages(*text_, scale_);
     KeepParagraphsTogether(*text_);
     FitPicturesToPages(*text_, scale_); // what moved may have brought a picture to a page's end
+    FillPagesBelowTables(*text_, scale_);
     lines_ = rtf::ExtraLines(*text_);
 }
 

@@ -5,6 +5,7 @@
 #include <QPaintDevice>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextTable>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -83,6 +84,33 @@ private Q_SLOTS:
         QVERIFY(paged.PageCount() > 1);
         const int asked = paper.Asked();
         QVERIFY2(asked < once * 3 / 2, qPrintable(u"%1, and %2 for one layout"_s.arg(asked).arg(once)));
+    }
+
+    void a_break_below_a_table_begins_the_next_page()
+    {
+        constexpr int lines = 10;
+        QTextDocument table;
+        QTextCursor cursor(&table);
+        for (int number = 1; number <= lines; ++number)
+            cursor.insertText(u"A line\n"_s);
+        QTextTableFormat bare; // a border could reach over the end of a page
+        bare.setBorder(0);
+        bare.setCellPadding(0);
+        bare.setCellSpacing(0);
+        cursor.insertTable(1, 1, bare)->cellAt(0, 0).firstCursorPosition().insertText(u"A table"_s);
+        const std::unique_ptr<QTextDocument> text(table.clone());
+        QTextCursor end(text.get());
+        end.movePosition(QTextCursor::End);
+        QTextBlockFormat broken;
+        broken.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        end.setBlockFormat(broken);
+        end.insertText(u"The end"_s);
+        for (int height = 800; height < 2400; height += 4) {
+            CountingPaper paper;
+            const QSizeF room(page.width(), height);
+            QCOMPARE(PagedText(*text, paper, room).PageCount(),
+                     PagedText(table, paper, room).PageCount() + 1);
+        }
     }
 };
 
