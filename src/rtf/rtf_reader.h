@@ -2,7 +2,7 @@
 
 #include "rtf/paint/extra_lines.h"
 #include "rtf/parts/read_result.h"
-#include "rtf/write/keep_together.h"
+#include "rtf/paint/format_properties.h"
 
 #include <QByteArray>
 #include <QString>

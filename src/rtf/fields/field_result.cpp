@@ -119,7 +119,7 @@ QString Link(const FieldInstruction& instruction)
     return address.startsWith(u'\\') ? QString() : address;
 }
 
-/// Not where a switch asks for the number or the place of the paragraph and not for its text.
+/// The text of a bookmark; nothing where a switch asks for the number or the place of its paragraph.
 QString Reference(const FieldInstruction& instruction, FieldSurroundings& around)
 {
     for (const QString& other : {u"\\n"_s, u"\\p"_s, u"\\r"_s, u"\\w"_s}) {

@@ -1,5 +1,6 @@
 #include "rtf/paint/extra_lines.h"
 
+#include "rtf/paint/format_properties.h"
 #include "rtf/paint/line_properties.h"
 
 #include <QAbstractTextDocumentLayout>

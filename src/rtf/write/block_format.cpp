@@ -1,6 +1,6 @@
 #include "rtf/bounds/limits.h"
+#include "rtf/paint/format_properties.h"
 #include "rtf/write/formats.h"
-#include "rtf/write/keep_together.h"
 #include "rtf/write/mark_room.h"
 
 #include <algorithm>

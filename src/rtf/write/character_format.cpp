@@ -1,4 +1,5 @@
 #include "rtf/bounds/limits.h"
+#include "rtf/paint/format_properties.h"
 #include "rtf/paint/line_properties.h"
 #include "rtf/write/formats.h"
 
@@ -9,8 +10,6 @@
 namespace torvik::rtf {
 
 namespace {
-
-constexpr int bookmarkNumberProperty = QTextFormat::UserProperty + 8;
 
 /// Of letters of so many points, in pixels: less than half of their stems, which have it at both sides.
 double OutlineWidth(double points)
@@ -161,7 +160,6 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
     if (state.bookmark != 0) {
         format.setAnchor(true);
         format.setAnchorNames({bookmarks_.at(static_cast<std::size_t>(state.bookmark))});
-        // Qt finds a format by the hash of its numbers and texts; the lists of names count alike there.
         format.setProperty(bookmarkNumberProperty, state.bookmark);
     }
     return format;

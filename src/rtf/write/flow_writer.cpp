@@ -1,6 +1,6 @@
 #include "rtf/write/flow_writer.h"
 
-#include "rtf/paint/line_properties.h"
+#include "rtf/paint/format_properties.h"
 #include "rtf/write/direction_marks.h"
 #include "rtf/write/edge_spaces.h"
 #include "rtf/write/mark_room.h"

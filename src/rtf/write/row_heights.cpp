@@ -1,5 +1,7 @@
 #include "rtf/write/row_heights.h"
 
+#include "rtf/paint/format_properties.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
 #include <QTextCursor>

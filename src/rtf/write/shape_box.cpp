@@ -2,8 +2,8 @@
 
 #include "rtf/bounds/limits.h"
 #include "rtf/model/content.h"
+#include "rtf/paint/format_properties.h"
 #include "rtf/write/border_style.h"
-#include "rtf/write/row_heights.h"
 
 #include <QTextTable>
 

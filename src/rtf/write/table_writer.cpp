@@ -1,10 +1,10 @@
 #include "rtf/write/table_writer.h"
 
 #include "rtf/bounds/limits.h"
+#include "rtf/paint/format_properties.h"
 #include "rtf/write/border_style.h"
 #include "rtf/write/edge_spaces.h"
 #include "rtf/write/flow_writer.h"
-#include "rtf/write/row_heights.h"
 #include "rtf/write/table_grid.h"
 
 #include <QTextTable>

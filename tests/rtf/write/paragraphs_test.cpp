@@ -1,5 +1,5 @@
 #include "rtf/documents.h"
-#include "rtf/paint/line_properties.h"
+#include "rtf/paint/format_properties.h"
 #include "support/test_class.h"
 
 #include <QAbstractTextDocumentLayout>
