@@ -1,8 +1,8 @@
 #pragma once
 
 #include "rtf/paint/extra_lines.h"
-#include "rtf/parts/read_result.h"
 #include "rtf/paint/format_properties.h"
+#include "rtf/parts/read_result.h"
 
 #include <QByteArray>
 #include <QString>
