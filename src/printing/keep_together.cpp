@@ -112,13 +112,13 @@ bool IsOneParagraphWide(const Piece& piece)
 
 bool IsKept(const Piece& piece)
 {
-    return piece.first.blockFormat().property(rtf::keepTogetherProperty).toBool() &&
+    return piece.first.blockFormat().property(rtf::KeepTogetherProperty).toBool() &&
            IsOneParagraphWide(piece);
 }
 
 bool StaysWithNext(const Piece& piece)
 {
-    return piece.last.blockFormat().property(rtf::keepWithNextProperty).toBool() && IsOneParagraphWide(piece);
+    return piece.last.blockFormat().property(rtf::KeepWithNextProperty).toBool() && IsOneParagraphWide(piece);
 }
 
 bool BeginsPage(const Piece& piece)

@@ -35,7 +35,7 @@ QFont FontOf(const QTextCharFormat& format, const QTextDocument& document, const
 
 bool WantsLines(const QTextFormat& format)
 {
-    return format.hasProperty(underlineProperty) || format.hasProperty(doubleStrikeProperty);
+    return format.hasProperty(UnderlineProperty) || format.hasProperty(DoubleStrikeProperty);
 }
 
 /// In whole pixels, as lines come out, so that what lies between them is as wide.
@@ -153,7 +153,7 @@ public:
     void Paint()
     {
         PaintLeaders();
-        if (block_.blockFormat().hasProperty(ruleAboveProperty))
+        if (block_.blockFormat().hasProperty(RuleAboveProperty))
             PaintRuleAbove();
         for (auto part = block_.begin(); !part.atEnd(); ++part) {
             if (WantsLines(part.fragment().charFormat()))
@@ -195,7 +195,7 @@ private:
             if (from >= to)
                 continue;
             const Stretch stretch = Between(line, from, to);
-            switch (static_cast<ExtraUnderline>(format.intProperty(underlineProperty))) {
+            switch (static_cast<ExtraUnderline>(format.intProperty(UnderlineProperty))) {
             case ExtraUnderline::None:
                 break;
             case ExtraUnderline::Double:
@@ -214,7 +214,7 @@ private:
                 RepeatUnderline(painter_, stretch, 3 * thin, format, font, LineColor(format));
                 break;
             }
-            if (format.hasProperty(doubleStrikeProperty))
+            if (format.hasProperty(DoubleStrikeProperty))
                 DrawRule(painter_, stretch, 2 * thin - metrics.strikeOutPos(), thin, TextColor(format));
         }
     }
@@ -238,7 +238,7 @@ private:
 
     void PaintLeaders()
     {
-        const QString leaders = block_.blockFormat().stringProperty(tabLeadersProperty);
+        const QString leaders = block_.blockFormat().stringProperty(TabLeadersProperty);
         if (leaders.isEmpty())
             return;
         const QList<QTextOption::Tab> tabs = block_.blockFormat().tabPositions();
@@ -275,8 +275,8 @@ private:
 
 bool WantsLines(const QTextBlock& block)
 {
-    if (block.blockFormat().hasProperty(tabLeadersProperty) ||
-        block.blockFormat().hasProperty(ruleAboveProperty))
+    if (block.blockFormat().hasProperty(TabLeadersProperty) ||
+        block.blockFormat().hasProperty(RuleAboveProperty))
         return true;
     for (auto part = block.begin(); !part.atEnd(); ++part) {
         if (WantsLines(part.fragment().charFormat()))
@@ -292,7 +292,7 @@ ExtraLines::ExtraLines(const QTextDocument& document)
     // Most documents have no such format, and need not be gone through.
     const QList<QTextFormat> formats = document.allFormats();
     const bool isNeeded = std::any_of(formats.begin(), formats.end(), [](const QTextFormat& format) {
-        return format.hasProperty(tabLeadersProperty) || format.hasProperty(ruleAboveProperty) ||
+        return format.hasProperty(TabLeadersProperty) || format.hasProperty(RuleAboveProperty) ||
                WantsLines(format);
     });
     if (!isNeeded)

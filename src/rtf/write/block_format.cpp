@@ -85,7 +85,7 @@ void SetTabs(QTextBlockFormat& format, const ParagraphState& state)
     }
     format.setTabPositions(tabs);
     if (!leaders.trimmed().isEmpty())
-        format.setProperty(tabLeadersProperty, leaders);
+        format.setProperty(TabLeadersProperty, leaders);
 }
 
 } // namespace
@@ -113,9 +113,9 @@ QTextBlockFormat Formats::MakeBlockFormat(const ParagraphState& state) const
     SetLineHeight(format, state);
     SetTabs(format, state);
     if (state.keepTogether)
-        format.setProperty(keepTogetherProperty, true);
+        format.setProperty(KeepTogetherProperty, true);
     if (state.keepWithNext)
-        format.setProperty(keepWithNextProperty, true);
+        format.setProperty(KeepWithNextProperty, true);
     // Else Qt goes by the first letter.
     format.setLayoutDirection(state.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     const QColor back =

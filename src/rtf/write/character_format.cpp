@@ -121,12 +121,12 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
     if (state.strike || state.doubleStrike)
         format.setFontStrikeOut(true);
     if (state.doubleStrike)
-        format.setProperty(doubleStrikeProperty, true);
+        format.setProperty(DoubleStrikeProperty, true);
     if (state.underline != Underline::None) {
         format.setUnderlineStyle(UnderlineStyleOf(state.underline));
         const ExtraUnderline extra = ExtraUnderlineOf(state.underline);
         if (extra != ExtraUnderline::None)
-            format.setProperty(underlineProperty, int(extra));
+            format.setProperty(UnderlineProperty, int(extra));
         const QColor line = colors_.ChosenAt(state.underlineColor);
         if (line.isValid())
             format.setUnderlineColor(line);
@@ -160,7 +160,7 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
     if (state.bookmark != 0) {
         format.setAnchor(true);
         format.setAnchorNames({bookmarks_.at(static_cast<std::size_t>(state.bookmark))});
-        format.setProperty(bookmarkNumberProperty, state.bookmark);
+        format.setProperty(BookmarkNumberProperty, state.bookmark);
     }
     return format;
 }

@@ -217,7 +217,7 @@ void FlowWriter::OpenBlock(const Paragraph& paragraph)
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     if (paragraph.beginsNotes) {
         format.setTopMargin(std::max(format.topMargin(), roomAboveNotes));
-        format.setProperty(ruleAboveProperty, true);
+        format.setProperty(RuleAboveProperty, true);
     }
     if (place == ListWriter::Place::Continues)
         format.setObjectIndex(lists_.Continue(paragraph.mark, markRoom));

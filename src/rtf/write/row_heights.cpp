@@ -45,7 +45,7 @@ void Measure(const QTextTable& table, std::vector<Missing>& missing)
             const QTextTableCell cell = table.cellAt(row, column);
             if (cell.row() != row || cell.rowSpan() != 1)
                 continue;
-            wanted = std::max(wanted, cell.format().doubleProperty(rowHeightProperty));
+            wanted = std::max(wanted, cell.format().doubleProperty(RowHeightProperty));
             if (wanted <= 0)
                 break;
             const double here = HeightOf(cell, *table.document());

@@ -44,7 +44,7 @@ QTextTable* InsertShapeBox(QTextCursor& cursor, const BoxStyle& style)
     QTextTableCellFormat inside;
     SetEdges(inside, style);
     if (style.height > 0)
-        inside.setProperty(rowHeightProperty, PixelsFromTwips(style.height));
+        inside.setProperty(RowHeightProperty, PixelsFromTwips(style.height));
     if (style.fill.isValid())
         inside.setBackground(style.fill);
     inside.setTopPadding(PixelsFromTwips(style.padding[SideTop]));

@@ -150,7 +150,7 @@ QTextTable* WriteTable(WritingContext& context, const QTextCursor& where, const 
         QTextCharFormat format = place.format();
         format.merge(CellFormat(cell, row, grid, context.formats, cut));
         if (cell.rowSpan == 1 && row.height != 0)
-            format.setProperty(rowHeightProperty, PixelsFromTwips(std::abs(row.height)));
+            format.setProperty(RowHeightProperty, PixelsFromTwips(std::abs(row.height)));
         place.setFormat(format);
         FlowWriter flow(context, place.firstCursorPosition(), FlowWriter::Room::Cell);
         for (const std::vector<Block>* blocks : cell.contents)

@@ -84,15 +84,15 @@ private Q_SLOTS:
         const QTextBlockFormat format =
             FormatOf("\\tx2880\\tldot\\tx1440\\tqr\\tlth\\tx4320\\tlhyph\\tqc\\tx720");
         QCOMPARE(format.tabPositions().size(), 4);
-        QCOMPARE(format.stringProperty(tabLeadersProperty), u"-. #"_s);
+        QCOMPARE(format.stringProperty(TabLeadersProperty), u"-. #"_s);
         QCOMPARE(format.tabPositions().at(3), QTextOption::Tab(288, QTextOption::RightTab, u'.'));
-        QVERIFY(!FormatOf("\\tx720").hasProperty(tabLeadersProperty));
+        QVERIFY(!FormatOf("\\tx720").hasProperty(TabLeadersProperty));
     }
 
     void staying_with_the_next()
     {
-        QVERIFY(FormatOf("\\keepn").property(keepWithNextProperty).toBool());
-        QVERIFY(!FormatOf("\\keepn\\keepn0").property(keepWithNextProperty).toBool());
+        QVERIFY(FormatOf("\\keepn").property(KeepWithNextProperty).toBool());
+        QVERIFY(!FormatOf("\\keepn\\keepn0").property(KeepWithNextProperty).toBool());
     }
 
     void tabs_count_from_the_margin_and_not_from_the_indent()
@@ -117,8 +117,8 @@ private Q_SLOTS:
 
     void keeping_together_and_page_breaks()
     {
-        QVERIFY(FormatOf("\\keep").property(keepTogetherProperty).toBool());
-        QVERIFY(!FormatOf("\\keep\\keep0").property(keepTogetherProperty).toBool());
+        QVERIFY(FormatOf("\\keep").property(KeepTogetherProperty).toBool());
+        QVERIFY(!FormatOf("\\keep\\keep0").property(KeepTogetherProperty).toBool());
         // The beginning of the document stands on a page of its own anyway.
         QCOMPARE(FormatOf("\\pagebb").pageBreakPolicy(), QTextFormat::PageBreak_Auto);
         const Reading told = ReadBody("one\\par\\pagebb two\\par");
