@@ -3,6 +3,7 @@
 #include "ui/look/button_widget.h"
 
 #include <QIcon>
+#include <QPixmap>
 
 namespace torvik {
 
@@ -26,7 +27,8 @@ void Button::SetCaption(const QString& caption)
 
 void Button::SetPicture(const QString& resource, const QString& spokenAs)
 {
-    button_->setIcon(QIcon(resource));
+    // A pixmap is kept for the next form, an icon would read the file anew.
+    button_->setIcon(QPixmap(resource));
     spokenAs_ = spokenAs;
     UpdateAccessibleText();
 }

@@ -157,7 +157,8 @@ bool RichTextBox::eventFilter(QObject* watched, QEvent* event)
 
 QString RichTextBox::AccessibleText() const
 {
-    return Text().isEmpty() ? Control::AccessibleText() : Text();
+    const QString text = Text();
+    return text.isEmpty() ? Control::AccessibleText() : text;
 }
 
 } // namespace torvik
