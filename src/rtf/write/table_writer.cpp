@@ -69,6 +69,15 @@ int CutOf(const Table& table, const TableGrid& grid, const Formats& formats)
     return cut > 0 && grid.columnWidths.front() - cut >= leastWidth ? cut : 0;
 }
 
+bool HasBorders(const Table& table, const TableGrid& grid)
+{
+    return std::any_of(grid.cells.begin(), grid.cells.end(), [&](const GridCell& cell) {
+        const RowStyle& row = table.rows[static_cast<std::size_t>(cell.row)].style;
+        return BorderOf(cell, row, grid, SideTop).IsSet() || BorderOf(cell, row, grid, SideLeft).IsSet() ||
+               BorderOf(cell, row, grid, SideBottom).IsSet() || BorderOf(cell, row, grid, SideRight).IsSet();
+    });
+}
+
 QTextTableFormat TableFormatOf(const Table& table, const TableGrid& grid, int cut)
 {
     const RowStyle& first = table.rows.front().style;
@@ -76,7 +85,8 @@ QTextTableFormat TableFormatOf(const Table& table, const TableGrid& grid, int cu
     format.setCellSpacing(0);
     format.setCellPadding(0);
     format.setBorder(0);
-    format.setBorderCollapse(true);
+    // For borders that it shares between cells the layout asks each cell for those of all its neighbours.
+    format.setBorderCollapse(HasBorders(table, grid));
     if (first.alignment == Alignment::Center)
         format.setAlignment(Qt::AlignHCenter);
     else if (first.alignment == Alignment::Right ||

@@ -2,6 +2,8 @@
 #include "support/test_class.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QTextBlock>
 #include <QTextTable>
 
 #include <cmath>
@@ -122,6 +124,47 @@ private Q_SLOTS:
         QCOMPARE(first.topBorder(), 1.0);
         QCOMPARE(first.rightBorder(), 3.0);
         QCOMPARE(first.leftBorder(), 0.0);
+    }
+
+    void neighbours_share_the_line_between_them()
+    {
+        const QByteArray all = "\\clbrdrt\\brdrs\\brdrw30\\clbrdrl\\brdrs\\brdrw30\\clbrdrb\\brdrs\\brdrw30"
+                               "\\clbrdrr\\brdrs\\brdrw30";
+        const Reading read = ReadBody("\\trowd" + all + "\\cellx2000" + all +
+                                      "\\cellx4000\\intbl\\cell\\cell\\row\\pard x\\par");
+        QVERIFY(TableOf(read)->format().borderCollapse());
+        read.document->setTextWidth(400);
+        const QRectF place = read.document->documentLayout()->frameBoundingRect(TableOf(read));
+        QImage paper(400, 200, QImage::Format_Grayscale8);
+        paper.fill(Qt::white);
+        QPainter painter(&paper);
+        read.document->drawContents(&painter);
+        painter.end();
+        int dark = 0;
+        for (int x = 0; x < paper.width(); ++x)
+            dark += qGray(paper.pixel(x, qRound(place.center().y()))) < 128 ? 1 : 0;
+        QCOMPARE(dark, 3 * 2);
+    }
+
+    void a_table_without_borders_is_laid_out_as_if_it_shared_them()
+    {
+        const Reading read =
+            ReadBody("\\trowd\\trgaph100\\cellx2000\\cellx4000\\intbl one\\cell two\\cell\\row"
+                     "\\trowd\\trgaph100\\cellx1000\\cellx4000\\intbl three\\cell four\\cell\\row"
+                     "\\pard below\\par");
+        read.document->setTextWidth(400);
+        const auto places = [&read] {
+            QList<QRectF> all;
+            for (QTextBlock block = read.document->begin(); block.isValid(); block = block.next())
+                all.append(read.document->documentLayout()->blockBoundingRect(block));
+            return all;
+        };
+        const QList<QRectF> bare = places();
+        QTextTableFormat format = TableOf(read)->format();
+        QVERIFY(!format.borderCollapse());
+        format.setBorderCollapse(true);
+        TableOf(read)->setFormat(format);
+        QCOMPARE(places(), bare);
     }
 
     void a_colour_table_that_begins_with_black_blackens_no_cell()
