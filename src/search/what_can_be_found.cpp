@@ -37,6 +37,19 @@ const DocumentButton documentButtons[] = {
     {ArticleButton::Colors, &Form1Controls::cmdColors, "Colors", "Colors", &Topic::colors},
 };
 
+/// While it lives, names are taken out of the paths of the photo list. The browser goes by the photo on show,
+/// which may be none, and gets its own position back.
+class PathPosition {
+public:
+    PathPosition() { RefreshPathPosition(); }
+    ~PathPosition() { state.TorviksPathPos = ofBrowser_; }
+    PathPosition(const PathPosition&) = delete;
+    PathPosition& operator=(const PathPosition&) = delete;
+
+private:
+    const Integer ofBrowser_ = state.TorviksPathPos;
+};
+
 /// The photos of one year or topic: their places in the list.
 using PhotoGroup = QList<int>;
 
@@ -53,6 +66,7 @@ class Collector {
 public:
     FoundCatalogue Collect()
     {
+        const PathPosition ofPhotos;
         const std::map<QString, PhotoGroup> groups = GroupsOfPhotos();
         for (int button = 1; button <= yearCount; ++button)
             AddArticlesOfYear(button);

@@ -152,6 +152,23 @@ private Q_SLOTS:
         QCOMPARE(MarkedIn(Form1->rtbDetails), QStringList{u"bumper"_s});
     }
 
+    void a_topic_that_stands_in_no_menu_comes_with_its_photo_too()
+    {
+        program_.reset();
+        program_ = std::make_unique<Program>();
+        program_->disc.AddGroup(u"67"_s, 1);
+        program_->disc.AddGroup(u"VC"_s, 3);
+        program_->disc.AddDocument(u"vcb.rtf"_s, u"A round biscuit."_s);
+        program_->StartBrowsing();
+        Find(u"biscuit"_s);
+        QCOMPARE(Rows(), QStringList{u"Torvik Cookies, photo 2 | A round [biscuit]."_s});
+        program_->Press(frmFind->txtFind, Qt::Key_Return);
+        QCOMPARE(Form1->panYear.Caption(), u"Torvik Cookies "_s);
+        QCOMPARE(Form1->panPhoto.Caption(), u"2"_s);
+        QCOMPARE(state.CurrentPhotoFile, u"G:\\Torviks\\VCB.JPG"_s);
+        QCOMPARE(MarkedIn(Form1->rtbDetails), QStringList{u"biscuit"_s});
+    }
+
     void a_movie_opens_in_the_player()
     {
         Find(u"glider"_s);

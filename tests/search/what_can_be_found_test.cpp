@@ -78,6 +78,23 @@ private Q_SLOTS:
                               u"Danbury Mint Die Cast Models, photo 5 | Details"_s}));
     }
 
+    void a_first_year_without_photos_hides_nothing()
+    {
+        program_->disc.AddGroup(u"69"_s, 2);
+        program_->disc.AddGroup(u"TE"_s, 1);
+        program_->disc.AddDocument(u"69b.rtf"_s, u"words"_s);
+        program_->disc.AddDocument(u"knives.rtf"_s, u"words"_s);
+        program_->StartBrowsing();
+        QCOMPARE(state.CurrentPhotoFile, QString());
+        const Integer ofBrowser = state.TorviksPathPos;
+        QCOMPARE(Told(WhatCanBeFound()),
+                 QStringList({u"The Torvik Vollandry Franklin Mint Collector Knives | "
+                              "Franklin Mint Collector Knives > Description"_s,
+                              u"1969, photo 2 | Caption"_s}));
+        // The year that the space bar chooses goes by it.
+        QCOMPARE(int(state.TorviksPathPos), int(ofBrowser));
+    }
+
     void movies_and_sounds_are_there_by_their_titles()
     {
         program_->disc.AddFile(u"movies/Torvik69.avi"_s, "movie");
