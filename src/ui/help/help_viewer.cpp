@@ -4,12 +4,13 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTextBrowser>
 #include <QTextDocument>
@@ -49,6 +50,7 @@ HelpViewer::HelpViewer(QTextDocument* document)
     text_->setOpenLinks(false);
     topics_ = TopicsOf(*document);
     FillContents();
+    TakeKeys();
 
     connect(home_, &QPushButton::clicked, this, [this] {
         if (!topics_.empty())
@@ -197,20 +199,18 @@ void HelpViewer::FollowLink(const QString& address)
         ShellExecute(address);
 }
 
-void HelpViewer::keyPressEvent(QKeyEvent* event)
+/// As shortcuts of the whole window: the text, the tree and the buttons take the arrow keys for themselves,
+/// held Alt or not.
+void HelpViewer::TakeKeys()
 {
-    if (event->key() == Qt::Key_Escape)
-        close();
-    else if (event->matches(QKeySequence::Back))
-        StepHistory(-1);
-    else if (event->matches(QKeySequence::Forward))
-        StepHistory(1);
-    else if (event->matches(QKeySequence::Find))
-        search_->setFocus();
-    else if (event->matches(QKeySequence::FindNext))
-        FindNext();
-    else
-        QWidget::keyPressEvent(event);
+    const auto take = [this](QKeySequence::StandardKey key, auto&& action) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
+    };
+    take(QKeySequence::Cancel, [this] { close(); });
+    take(QKeySequence::Back, [this] { StepHistory(-1); });
+    take(QKeySequence::Forward, [this] { StepHistory(1); });
+    take(QKeySequence::Find, [this] { search_->setFocus(); });
+    take(QKeySequence::FindNext, [this] { FindNext(); });
 }
 
 } // namespace torvik

@@ -29,9 +29,6 @@ public:
     /// Goes to a topic by its bookmark, as a step that Back takes back. An unknown one changes nothing.
     void GoTo(const QString& anchor);
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
     /// A place that was visited, and how far down the text was when it was left.
     struct Visit {
@@ -42,6 +39,7 @@ private:
     QPushButton* MakeButton(const QString& name, const QString& caption);
     void LayOut();
     void FillContents();
+    void TakeKeys();
     void StepHistory(int by);
     void ShowPlace(const QString& anchor);
     void FindNext();

@@ -153,9 +153,33 @@ private Q_SLOTS:
         QCOMPARE(desktop.opened, QStringList{u"http://www.quillon.example"_s});
     }
 
+    void keys_go_back_forward_and_to_the_search_data()
+    {
+        QTest::addColumn<QString>("focus");
+        for (const char* part : {"HelpContents", "HelpText", "HelpSearch", "HelpHome"})
+            QTest::newRow(part) << QString::fromLatin1(part);
+    }
+    void keys_go_back_forward_and_to_the_search()
+    {
+        QFETCH(QString, focus);
+        ClickTopic(Contents().topLevelItem(1));
+        const int print = Scroll();
+        window_->findChild<QWidget*>(focus)->setFocus();
+        Press(QKeySequence::Back);
+        QVERIFY(Scroll() < 10);
+        Press(QKeySequence::Forward);
+        QCOMPARE(Scroll(), print);
+        Press(QKeySequence::Find);
+        QVERIFY(Search().hasFocus());
+        Search().setText(u"needle of"_s);
+        Press(QKeySequence::FindNext);
+        QCOMPARE(Text().textCursor().selectedText(), u"needle of"_s);
+    }
+
     void escape_closes_it_for_good()
     {
-        QTest::keyClick(window_, Qt::Key_Escape);
+        Text().setFocus();
+        QTest::keyClick(&Text(), Qt::Key_Escape);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(window_ == nullptr);
     }
@@ -191,6 +215,11 @@ private:
         return *window_->findChild<QPushButton*>(QLatin1String(name));
     }
     void Press(const char* name) const { QTest::mouseClick(&Button(name), Qt::LeftButton); }
+    /// To the part with the focus, as a keyboard does.
+    static void Press(QKeySequence::StandardKey key)
+    {
+        QTest::keySequence(QApplication::focusWidget(), QKeySequence::keyBindings(key).constFirst());
+    }
     void ClickTopic(QTreeWidgetItem* item) const
     {
         QTest::mouseClick(Contents().viewport(), Qt::LeftButton, {},
