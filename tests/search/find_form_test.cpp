@@ -134,6 +134,19 @@ private Q_SLOTS:
         QVERIFY(view.viewport()->rect().contains(view.visualRect(view.model()->index(0, 0))));
     }
 
+    void of_very_many_hits_the_best_are_shown()
+    {
+        for (int year = 70; year < 100; ++year) {
+            for (const char* ending : {"desc.rtf", "opts.rtf", "stats.rtf", "colors.rtf"})
+                program_->disc.AddDocument(QString::number(year) + QLatin1String(ending),
+                                           u"A spare wheel."_s);
+        }
+        OpenForm();
+        Ask(u"spare"_s);
+        WaitFor(u"120 found, the best 100 are shown"_s);
+        QCOMPARE(frmFind->lstFound.ListCount(), 100);
+    }
+
     void escape_closes_the_form_and_the_words_are_kept_for_no_one()
     {
         Find(u"hood"_s);

@@ -54,6 +54,18 @@ private Q_SLOTS:
         QCOMPARE(seen.title, u"The Torvik Vollandry       Glossary"_s);
     }
 
+    void return_in_the_list_opens_the_chosen_row()
+    {
+        Find(u"roof"_s);
+        frmFind->lstFound.SetFocus();
+        program_->Press(frmFind->lstFound, Qt::Key_Down);
+        QCOMPARE(frmFind->lstFound.ListIndex(), 1);
+        const QString second = Rows().at(1);
+        program_->Press(frmFind->lstFound, Qt::Key_Return);
+        QCOMPARE(u"%1, photo %2"_s.arg(Form1->panYear.Caption(), Form1->panPhoto.Caption()),
+                 second.section(u" | "_s, 0, 0));
+    }
+
     void return_before_the_answer_opens_it_when_it_comes()
     {
         OpenForm();

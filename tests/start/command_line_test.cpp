@@ -71,6 +71,20 @@ private Q_SLOTS:
         }
     }
 
+    void a_check_is_of_one_disc_which_is_no_drive()
+    {
+        QVERIFY(!ReadCommandLine({u"/discs/one"_s}).check);
+        const CommandLine line = ReadCommandLine({u"--check"_s, u"/discs/one"_s, u"--json"_s});
+        QVERIFY(line.problem.isEmpty());
+        QVERIFY(line.check && line.json);
+        QCOMPARE(line.checkedDisc, u"/discs/one"_s);
+        QVERIFY(line.drives.isEmpty());
+        const CommandLine ofDrive = ReadCommandLine({u"--check"_s, u"--drive=E=/discs/two"_s});
+        QVERIFY(ofDrive.problem.isEmpty());
+        QCOMPARE(ofDrive.checkedDisc, QString());
+        QCOMPARE(ofDrive.drives.size(), 1);
+    }
+
     void what_is_wrong_is_said_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -96,6 +110,10 @@ private Q_SLOTS:
             << u"--scale takes a number from 1 to 8, or fit, or auto; not \"\"."_s;
         QTest::newRow("a value too many")
             << QStringList{u"--verbose=1"_s} << u"Unexpected value after '--verbose'."_s;
+        QTest::newRow("two discs to check")
+            << QStringList{u"--check"_s, u"/one"_s, u"/two"_s} << u"--check checks one disc at a time."_s;
+        QTest::newRow("JSON of nothing")
+            << QStringList{u"--json"_s, u"/one"_s} << u"--json belongs to --check."_s;
         QTest::newRow("unknown option")
             << QStringList{u"--frobnicate"_s} << u"Unknown option 'frobnicate'."_s;
         QTest::newRow("unknown letters") << QStringList{u"-x"_s} << u"Unknown option 'x'."_s;

@@ -162,6 +162,20 @@ private Q_SLOTS:
         QCOMPARE(Bar().device.Position(), Bar().device.Length());
     }
 
+    void the_position_follows_the_mouse_while_its_left_button_is_held()
+    {
+        Open();
+        auto& track = Part<MediaTrack>("Position");
+        const int end = track.width() - 84;
+        const QPoint middle(end / 2, track.height() / 2);
+        QTest::mousePress(&track, Qt::LeftButton, {}, QPoint(0, middle.y()));
+        QTest::mouseMove(&track, middle);
+        QVERIFY(std::abs(Bar().device.Position() - Bar().device.Length() / 2) < 50);
+        QTest::mouseRelease(&track, Qt::LeftButton, {}, middle);
+        QTest::mouseMove(&track, QPoint(end, middle.y()));
+        QVERIFY(std::abs(Bar().device.Position() - Bar().device.Length() / 2) < 50);
+    }
+
     void the_arrow_keys_move_the_position()
     {
         Open();
