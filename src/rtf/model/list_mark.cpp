@@ -37,6 +37,16 @@ QString Roman(int value)
     return text;
 }
 
+/// a to z, then aa, bb and so on, as the word processors write them; after 30 letters from the beginning
+/// again.
+QString Letters(int value)
+{
+    constexpr int inAlphabet = 26;
+    constexpr int mostLetters = 30;
+    const int place = (value - 1) % (inAlphabet * mostLetters);
+    return QString(place / inAlphabet + 1, QChar(u'a' + place % inAlphabet));
+}
+
 /// 0 when the text is no roman number.
 int FromRoman(const QString& lower)
 {
@@ -173,8 +183,7 @@ QString NumberInStyle(int value, QTextListFormat::Style style)
     case QTextListFormat::ListUpperAlpha:
         if (value <= 0)
             return QString::number(value);
-        for (int rest = value; rest > 0; rest = (rest - 1) / 26)
-            text.prepend(QChar(u'a' + (rest - 1) % 26));
+        text = Letters(value);
         break;
     default:
         return QString::number(value);

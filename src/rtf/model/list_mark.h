@@ -47,7 +47,8 @@ struct LevelNumber {
 ListMark MarkFromLevel(const ListLevel& level, const LevelNumber* numbers, int count);
 ListMark MarkFromNumbering(const ParagraphNumbering& numbering, int value);
 
-/// `value` as a list writes it: decimal, letters or roman; the latter two have no sign for 0.
+/// `value` as a list writes it: decimal, letters or roman; the latter two have no sign for 0. Of the letters,
+/// aa is followed by bb.
 QString NumberInStyle(int value, QTextListFormat::Style style);
 
 } // namespace torvik::rtf

@@ -59,7 +59,11 @@ private Q_SLOTS:
     void numbers_are_written_in_every_style()
     {
         QCOMPARE(NumberInStyle(1994, QTextListFormat::ListLowerRoman), u"mcmxciv"_s);
-        QCOMPARE(NumberInStyle(28, QTextListFormat::ListUpperAlpha), u"AB"_s);
+        QCOMPARE(NumberInStyle(26, QTextListFormat::ListUpperAlpha), u"Z"_s);
+        QCOMPARE(NumberInStyle(27, QTextListFormat::ListUpperAlpha), u"AA"_s);
+        QCOMPARE(NumberInStyle(28, QTextListFormat::ListLowerAlpha), u"bb"_s);
+        QCOMPARE(NumberInStyle(780, QTextListFormat::ListLowerAlpha), QString(30, u'z'));
+        QCOMPARE(NumberInStyle(781, QTextListFormat::ListLowerAlpha), u"a"_s);
         QCOMPARE(NumberInStyle(7, QTextListFormat::ListDecimal), u"7"_s);
     }
 

@@ -76,6 +76,21 @@ private Q_SLOTS:
         QTest::newRow("a choice") << QByteArray("IF 3 > 10 \"more\" \"less\"") << u"less"_s;
         QTest::newRow("a choice between texts")
             << QByteArray("IF Red = \"red\" \"the same\" other") << u"the same"_s;
+        const auto choice = [](const char* condition, const char* shown) {
+            QTest::addRow("the choice %s", condition)
+                << "IF " + QByteArray(condition) + " yes no" << QString::fromLatin1(shown);
+        };
+        choice("3 <> 4", "yes");
+        choice("3 <> 3.0", "no");
+        choice("9 < 10", "yes");
+        choice("10 < 10", "no");
+        choice("10 <= 10", "yes");
+        choice("11 <= 10", "no");
+        choice("10 >= 10", "yes");
+        choice("9 >= 10", "no");
+        choice("apple < Banana", "yes");
+        choice("\"9 cars\" < 10", "no"); // no number, so letters are compared
+        QTest::newRow("a choice without its texts") << QByteArray("IF 3 = 3") << QString();
         QTest::newRow("a quoted text") << QByteArray("QUOTE \"as it stands\"") << u"as it stands"_s;
         QTest::newRow("a quoted text of two paragraphs")
             << QByteArray("QUOTE \"first\\par second\"") << u"first\nsecond"_s;
@@ -136,6 +151,9 @@ private Q_SLOTS:
             << QByteArray("PRINTDATE \\\\@ \"yyyy\"") << QString();
         QTest::newRow("pages") << QByteArray("NUMPAGES") << u"12"_s;
         QTest::newRow("a page in roman numbers") << QByteArray("PAGE \\\\* roman") << u"i"_s;
+        QTest::newRow("a number in small letters")
+            << QByteArray("SEQ a \\\\r 28 \\\\* alphabetic") << u"bb"_s;
+        QTest::newRow("a number in capitals") << QByteArray("SEQ a \\\\r 3 \\\\* ALPHABETIC") << u"C"_s;
         QTest::newRow("an ordinal number") << QByteArray("SEQ a \\\\r 22 \\\\* ordinal") << u"22nd"_s;
         QTest::newRow("a number in words") << QByteArray("SEQ a \\\\r 22 \\\\* CardText") << u"twenty-two"_s;
         QTest::newRow("an ordinal number in words")

@@ -106,6 +106,19 @@ private Q_SLOTS:
         QCOMPARE(MarkOf(read, u"two"_s), u"b)"_s);
     }
 
+    void letters_past_z_are_doubled()
+    {
+        QByteArray items;
+        for (int number = 1; number <= 28; ++number)
+            items += "item" + QByteArray::number(number) + "\\par ";
+        const Reading read =
+            ReadBody(ListTable("\\levelnfc4\\levelstartat1{\\leveltext\\'02\\'00.;}{\\levelnumbers\\'01;}") +
+                     "\\pard\\ls1 " + items);
+        QCOMPARE(MarkOf(read, u"item26"_s), u"z."_s);
+        QCOMPARE(MarkOf(read, u"item27"_s), u"aa."_s);
+        QCOMPARE(read.Text().section(u'\n', -1), u"bb.\titem28"_s); // a list of Qt's would say ab
+    }
+
     void an_inner_level_starts_again_below_the_next_outer_item()
     {
         const QByteArray levels =
