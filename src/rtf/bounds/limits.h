@@ -24,6 +24,8 @@ inline constexpr int maxTableColumns = 64;
 inline constexpr int maxRowCells = maxTableColumns;
 /// A longer table continues as a second one directly below, so that the cost of a table stays linear.
 inline constexpr int maxTableCells = 4096;
+/// Parts of a box with lines between its paragraphs; what comes below has no more lines.
+inline constexpr int maxBoxParts = 1000;
 /// Distinct character formats and distinct paragraph formats of one document.
 inline constexpr int maxFormats = 12000;
 inline constexpr int maxFonts = 4000;

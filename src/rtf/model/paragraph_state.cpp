@@ -28,11 +28,13 @@ std::size_t ParagraphStateHash::operator()(const ParagraphState& state) const
     for (const TabStop& tab : state.tabs)
         tabs = static_cast<int>(static_cast<unsigned>(tabs) * 31U + static_cast<unsigned>(tab.position) * 8U +
                                 static_cast<unsigned>(tab.leader) * 4096U + static_cast<unsigned>(tab.type));
-    int borders = 0;
-    for (const Border& border : state.borders)
+    unsigned borders = 0;
+    const auto add = [&borders](const Border& border) {
         borders =
-            static_cast<int>(static_cast<unsigned>(borders) * 31U + static_cast<unsigned>(border.line) * 8U +
-                             static_cast<unsigned>(border.width));
+            borders * 31U + static_cast<unsigned>(border.line) * 8U + static_cast<unsigned>(border.width);
+    };
+    std::for_each(std::begin(state.borders), std::end(state.borders), add);
+    add(state.between);
     return qHashMulti(0, flags, state.leftIndent, state.rightIndent, state.firstIndent, state.spaceBefore,
                       state.spaceAfter, state.lineSpacing, state.background, state.shading,
                       state.patternColor, state.frame.width, state.frame.left, tabs, borders, state.list,

@@ -109,6 +109,8 @@ struct ParagraphState {
     int shading = 0;
     int patternColor = 0;
     Border borders[SideCount];
+    /// The line between two paragraphs that share their borders.
+    Border between;
     QList<TabStop> tabs;
     FramePlace frame;
     /// Number of the list that the paragraph belongs to, 0 for none, and its level from 0.

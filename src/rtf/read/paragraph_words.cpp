@@ -190,6 +190,9 @@ constexpr WordEntry paragraphEntries[] = {
     {"brdrl", SelectSide<SideLeft>},
     {"brdrb", SelectSide<SideBottom>},
     {"brdrr", SelectSide<SideRight>},
+    {"brdrbtw", [](Interpreter& r, const Argument&) { r.Borders().Choose(r.Paragraph().between); }},
+    // A bar beside the text is not shown; the words behind it are its own.
+    {"brdrbar", [](Interpreter& r, const Argument&) { r.Borders().ChooseNone(); }},
     {"box", [](Interpreter& r, const Argument&) { r.Borders().ChooseBox(); }},
     {"brdrs", SetLine<BorderLine::Solid>},
     {"brdrsh", SetLine<BorderLine::Solid>},

@@ -8,15 +8,13 @@ namespace torvik::rtf {
 
 namespace {
 
-constexpr int largestSpace = 1440;
-
 /// The looks of a plain paragraph; nullptr for a table or a box, which keeps its spaces itself.
 const ParagraphState* PlainStateOf(const Block& block, const Formats& formats)
 {
     if (block.table || block.box)
         return nullptr;
     const ParagraphState& state = formats.StateOf(block.paragraph.format);
-    return state.HasBorder() || state.frame.isSet ? nullptr : &state;
+    return state.HasBorder() || state.between.IsSet() || state.frame.isSet ? nullptr : &state;
 }
 
 } // namespace
@@ -28,9 +26,9 @@ EdgeSpaces EdgeSpacesOf(const std::vector<Block>& first, const std::vector<Block
     const ParagraphState* top = first.empty() ? nullptr : PlainStateOf(first.front(), formats);
     const ParagraphState* bottom = last.empty() ? nullptr : PlainStateOf(last.back(), formats);
     if (top != nullptr)
-        spaces.above = std::min(top->spaceBefore, largestSpace);
+        spaces.above = std::min(top->spaceBefore, largestEdgeSpace);
     if (bottom != nullptr)
-        spaces.below = std::min(bottom->spaceAfter, largestSpace);
+        spaces.below = std::min(bottom->spaceAfter, largestEdgeSpace);
     return spaces;
 }
 

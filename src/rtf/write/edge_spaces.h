@@ -6,6 +6,9 @@
 
 namespace torvik::rtf {
 
+/// Twips; no page ends in the room between a cell's text and its edge.
+inline constexpr int largestEdgeSpace = 1440;
+
 class Formats;
 
 /// Twips that the first and the last paragraph of a cell or a box want above and below: Qt leaves them out

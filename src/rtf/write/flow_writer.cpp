@@ -1,5 +1,6 @@
 #include "rtf/write/flow_writer.h"
 
+#include "rtf/bounds/limits.h"
 #include "rtf/paint/format_properties.h"
 #include "rtf/write/direction_marks.h"
 #include "rtf/write/edge_spaces.h"
@@ -157,16 +158,26 @@ void FlowWriter::PlaceBox(const Paragraph& paragraph)
     // Without text a single border is a mere rule, which the block draws; but the layout hides an empty one
     // below a table.
     const bool isRule = paragraph.IsEmpty() && !spacing_.IsBelowTable();
-    const bool isBoxed = state.HasBox() || state.frame.isSet || (state.HasBorder() && !isRule);
+    const bool isBoxed =
+        state.HasBox() || state.frame.isSet || state.between.IsSet() || (state.HasBorder() && !isRule);
     const bool beginsPage = TakeBreak(paragraph.breakBefore);
     if (box_ != nullptr && isBoxed && !beginsPage && SharesBox(state, context_.formats.StateOf(boxFormat_)))
-        return;
+        return PartBoxBefore(state);
     LeaveBox();
     if (!isBoxed || !context_.budget.Take(boxCost))
         return;
     const int before = cursor_.position();
     box_ = InsertBox(cursor_, state, context_.formats.Colors(), context_.page);
     TableCame(*box_, before, beginsPage, state.spaceBefore);
+    atCellStart_ = true;
+    fresh_ = true;
+}
+
+void FlowWriter::PartBoxBefore(const ParagraphState& state)
+{
+    if (!state.between.IsSet() || box_->rows() >= maxBoxParts || !context_.budget.Take(boxCost))
+        return;
+    PartBox(*box_, cursor_, state, boxSpaceAfter_, context_.formats.Colors());
     atCellStart_ = true;
     fresh_ = true;
 }

@@ -51,6 +51,8 @@ private:
     /// The looks of a box with the space that its first and last paragraph want.
     BoxStyle WithSpaces(const Box& box) const;
     void PlaceBox(const Paragraph& paragraph);
+    /// Draws the line between what is in the box and the paragraph that comes next.
+    void PartBoxBefore(const ParagraphState& state);
     void LeaveBox();
     void OpenBlock(const Paragraph& paragraph);
     void TakeFreshBlock(const QTextBlockFormat& format, const QTextCharFormat& endFormat);

@@ -2,6 +2,7 @@
 
 #include "rtf/bounds/limits.h"
 #include "rtf/write/border_style.h"
+#include "rtf/write/edge_spaces.h"
 
 #include <QTextTable>
 
@@ -49,19 +50,39 @@ void SetPaddings(QTextTableCellFormat& format, const ParagraphState& state)
     format.setRightPadding(paddingAt(SideRight));
 }
 
+QTextTableCellFormat CellFormatOf(const ParagraphState& state, const ColorTable& colors)
+{
+    QTextTableCellFormat format;
+    SetCellBorders(
+        format, [&](int side) -> const Border& { return state.borders[side]; }, colors);
+    const QColor back =
+        ShadedColor(colors.ChosenAt(state.patternColor), colors.ChosenAt(state.background), state.shading);
+    if (back.isValid())
+        format.setBackground(back);
+    SetPaddings(format, state);
+    return format;
+}
+
+/// What the format already tells of the cell's place in its table stays.
+void MergeInto(QTextTableCell cell, const QTextTableCellFormat& looks)
+{
+    QTextCharFormat format = cell.format();
+    format.merge(looks);
+    cell.setFormat(format);
+}
+
 } // namespace
 
 bool SharesBox(const ParagraphState& a, const ParagraphState& b)
 {
     return std::equal(std::begin(a.borders), std::end(a.borders), std::begin(b.borders)) &&
-           a.leftIndent == b.leftIndent && a.rightIndent == b.rightIndent && a.frame == b.frame;
+           a.between == b.between && a.leftIndent == b.leftIndent && a.rightIndent == b.rightIndent &&
+           a.frame == b.frame;
 }
 
 QTextTable* InsertBox(QTextCursor& cursor, const ParagraphState& state, const ColorTable& colors,
                       const PageMeasures& page)
 {
-    const QColor back =
-        ShadedColor(colors.ChosenAt(state.patternColor), colors.ChosenAt(state.background), state.shading);
     QTextTableFormat format;
     format.setBorder(0);
     format.setBorderCollapse(true);
@@ -69,18 +90,28 @@ QTextTable* InsertBox(QTextCursor& cursor, const ParagraphState& state, const Co
     format.setCellPadding(0);
     SetPlace(format, state.frame, page);
     QTextTable* table = cursor.insertTable(1, 1, format);
-    QTextTableCell cell = table->cellAt(0, 0);
-    QTextCharFormat looks = cell.format();
-    QTextTableCellFormat borders;
-    SetCellBorders(
-        borders, [&](int side) -> const Border& { return state.borders[side]; }, colors);
-    if (back.isValid())
-        borders.setBackground(back);
-    SetPaddings(borders, state);
-    looks.merge(borders);
-    cell.setFormat(looks);
+    const QTextTableCell cell = table->cellAt(0, 0);
+    MergeInto(cell, CellFormatOf(state, colors));
     cursor = cell.firstCursorPosition();
     return table;
+}
+
+void PartBox(QTextTable& box, QTextCursor& cursor, const ParagraphState& state, int spaceAbove,
+             const ColorTable& colors)
+{
+    const double room = PixelsFromTwips(state.between.space);
+    QTextTableCellFormat upper;
+    upper.setBottomBorder(0);
+    upper.setBottomPadding(room + PixelsFromTwips(std::min(spaceAbove, largestEdgeSpace)));
+    MergeInto(box.cellAt(box.rows() - 1, 0), upper);
+    box.appendRows(1);
+    ParagraphState below = state;
+    below.borders[SideTop] = state.between;
+    QTextTableCellFormat lower = CellFormatOf(below, colors);
+    lower.setTopPadding(room + PixelsFromTwips(std::min(state.spaceBefore, largestEdgeSpace)));
+    const QTextTableCell cell = box.cellAt(box.rows() - 1, 0);
+    MergeInto(cell, lower);
+    cursor = cell.firstCursorPosition();
 }
 
 } // namespace torvik::rtf

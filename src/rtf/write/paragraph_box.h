@@ -18,4 +18,10 @@ bool SharesBox(const ParagraphState& a, const ParagraphState& b);
 QTextTable* InsertBox(QTextCursor& cursor, const ParagraphState& state, const ColorTable& colors,
                       const PageMeasures& page);
 
+/// Ends a part of the box with the line that stands between its paragraphs, and moves the cursor into the
+/// next part, for a paragraph that shares the box. `spaceAbove` is what the paragraph above wants below it,
+/// twips.
+void PartBox(QTextTable& box, QTextCursor& cursor, const ParagraphState& state, int spaceAbove,
+             const ColorTable& colors);
+
 } // namespace torvik::rtf
