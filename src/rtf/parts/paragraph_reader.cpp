@@ -105,6 +105,14 @@ void ParagraphReader::EndRow(bool nested)
     document_.flow.EndRow(nested ? NestedDepth() : 1);
 }
 
+void ParagraphReader::EndDocument()
+{
+    if (!document_.flow.Draft().IsEmpty())
+        EndParagraph();
+    PlaceDrawings(document_);
+    document_.flow.Finish(breakPending_ || document_.group.paragraph.breakBefore);
+}
+
 void ParagraphReader::BreakPage()
 {
     if (!document_.IsBody() || document_.flow.InNote() || document_.group.paragraph.tableDepth > 0)

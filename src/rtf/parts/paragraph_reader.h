@@ -17,6 +17,8 @@ public:
     /// `nested` for a table in a cell of another one.
     void EndCell(bool nested);
     void EndRow(bool nested);
+    /// Also ends a last paragraph that has text and no end of its own.
+    void EndDocument();
     void BreakPage();
     void CancelBreak();
     /// The mark of a list's paragraph as it is written, which is read before the paragraph.

@@ -1,7 +1,6 @@
 #include "rtf/read/interpreter.h"
 
 #include "rtf/bounds/limits.h"
-#include "rtf/parts/shape_drawings.h"
 #include "rtf/read/lost_braces.h"
 #include "rtf/read/word_scope.h"
 #include "rtf/read/word_table.h"
@@ -72,10 +71,7 @@ void Interpreter::FinishDocument()
     notes_.EndUnfinished();
     shapes_.EndUnfinished();
     document_.group.paragraph.frame.initialLines = 0;
-    if (!document_.flow.Draft().IsEmpty())
-        paragraphs_.EndParagraph();
-    PlaceDrawings(document_);
-    document_.flow.Finish();
+    paragraphs_.EndDocument();
 }
 
 void Interpreter::Handle(const Token& token)

@@ -214,13 +214,15 @@ void FlowCollector::EndNote()
     interrupted_ = Paragraph();
 }
 
-void FlowCollector::Finish()
+void FlowCollector::Finish(bool beginsPage)
 {
     while (!around_.empty()) {
         std::vector<Block> lost = EndBox();
         std::move(lost.begin(), lost.end(), std::back_inserter(place_.anchored));
     }
     SetDepth(0);
+    place_.draft.breakBefore = beginsPage;
+    PassBreakOn();
     Deliver(std::exchange(place_.anchored, {}));
     Deliver(std::exchange(place_.anchoredAfter, {}));
     if (!notes_.empty())

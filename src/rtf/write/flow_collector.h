@@ -38,8 +38,9 @@ public:
     /// Whether a box or a picture waits for the draft to end.
     bool HasAnchored() const { return !place_.anchored.empty() || !place_.anchoredAfter.empty(); }
 
-    /// Writes what is still waiting: open tables, then the footnotes.
-    void Finish();
+    /// Writes what is still waiting: open tables, then boxes and pictures, the first of which begins a page
+    /// where that is told, then the footnotes.
+    void Finish(bool beginsPage);
 
 private:
     struct Level {

@@ -85,6 +85,27 @@ private Q_SLOTS:
         QCOMPARE(read.Text(), u"one goes on\nbox\ntwo"_s);
     }
 
+    void what_ends_the_document_behind_a_page_break_begins_the_page_data()
+    {
+        QTest::addColumn<QByteArray>("end");
+        QTest::addColumn<bool>("begins");
+        QTest::newRow("after a break") << QByteArray("\\page ") << true;
+        QTest::newRow("in a paragraph that begins a page") << QByteArray("\\pagebb ") << true;
+        QTest::newRow("without a break") << QByteArray() << false;
+    }
+    void what_ends_the_document_behind_a_page_break_begins_the_page()
+    {
+        QFETCH(QByteArray, end);
+        QFETCH(bool, begins);
+        const auto policy = begins ? QTextFormat::PageBreak_AlwaysBefore : QTextFormat::PageBreak_Auto;
+        const Reading box = ReadBody("one\\par " + end + Shape({}, "\\pard box\\par"));
+        QCOMPARE(box.Text(), u"one\nbox\n"_s);
+        QCOMPARE(BoxesOf(box).first()->format().pageBreakPolicy(), policy);
+        const Reading drawing = ReadBody("one\\par " + end + Shape(Property("shapeType", "1"), {}));
+        QCOMPARE(drawing.document->blockCount(), 2);
+        QCOMPARE(drawing.document->lastBlock().blockFormat().pageBreakPolicy(), policy);
+    }
+
     void a_box_is_at_least_as_high_as_told()
     {
         // 1500 twips; the text of the second one needs more.
