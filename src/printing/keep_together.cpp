@@ -1,5 +1,6 @@
 #include "printing/keep_together.h"
 
+#include "printing/line_places.h"
 #include "rtf/rtf_reader.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -9,8 +10,6 @@
 #include <QTextLayout>
 #include <QTextTable>
 
-#include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace torvik {
@@ -49,41 +48,10 @@ std::vector<Piece> PiecesOf(const QTextDocument& document)
     return pieces;
 }
 
-double TopOf(const QTextBlock& block)
+double LowestLineOf(const Piece& piece)
 {
-    return block.document()->documentLayout()->blockBoundingRect(block).top();
-}
-
-double FirstLineOf(const Piece& piece)
-{
-    const QTextLayout& layout = *piece.first.layout();
-    return TopOf(piece.first) + (layout.lineCount() > 0 ? layout.lineAt(0).y() : 0);
-}
-
-double LastLineOf(const QTextBlock& block)
-{
-    const QTextLayout& layout = *block.layout();
-    const int lines = layout.lineCount();
-    return TopOf(block) + (lines > 0 ? layout.lineAt(lines - 1).y() : 0);
-}
-
-/// Of a table the lowest line, whichever cell it stands in.
-double LastLineOf(const Piece& piece)
-{
-    double last = LastLineOf(piece.last);
-    if (const auto* table = qobject_cast<const QTextTable*>(piece.frame)) {
-        for (int column = 0; column < table->columns(); ++column) {
-            const QTextTableCell cell = table->cellAt(table->rows() - 1, column);
-            last = std::max(last, LastLineOf(cell.lastCursorPosition().block()));
-        }
-    }
-    return last;
-}
-
-double PageOf(double line, const QTextDocument& document)
-{
-    constexpr double rounding = 0.01;
-    return std::floor((line + rounding) / document.pageSize().height());
+    const auto* table = qobject_cast<const QTextTable*>(piece.frame);
+    return table != nullptr ? LastLineOf(*table) : LastLineOf(piece.last);
 }
 
 double HeightOf(const Piece& piece)
@@ -100,7 +68,7 @@ double HeightOf(const Piece& piece)
 bool IsCut(const Piece& piece)
 {
     const QTextDocument& document = *piece.first.document();
-    return PageOf(FirstLineOf(piece), document) != PageOf(LastLineOf(piece), document) &&
+    return PageOf(FirstLineOf(piece.first), document) != PageOf(LowestLineOf(piece), document) &&
            HeightOf(piece) <= document.pageSize().height();
 }
 
@@ -149,20 +117,21 @@ using Pieces = std::vector<Piece>;
 Pieces::const_iterator FirstToMove(const Pieces& pieces, Pieces::const_iterator last)
 {
     const QTextDocument& document = *last->first.document();
-    const double page = PageOf(LastLineOf(*last), document);
+    const double page = PageOf(LowestLineOf(*last), document);
     auto first = last;
     while (first != pieces.begin() && StaysWithNext(*(first - 1)) &&
-           PageOf(FirstLineOf(*(first - 1)), document) == page)
+           PageOf(FirstLineOf((first - 1)->first), document) == page)
         --first;
-    const bool isOnTop = first == pieces.begin() || PageOf(LastLineOf(*(first - 1)), document) < page;
-    return isOnTop || PageOf(FirstLineOf(*first), document) != page ? pieces.end() : first;
+    const bool isOnTop = first == pieces.begin() || PageOf(LowestLineOf(*(first - 1)), document) < page;
+    return isOnTop || PageOf(FirstLineOf(first->first), document) != page ? pieces.end() : first;
 }
 
 void KeepWithNext(const Pieces& pieces, Pieces::const_iterator piece)
 {
     const auto next = piece + 1;
     const QTextDocument& document = *piece->first.document();
-    if (PageOf(FirstLineOf(*next), document) == PageOf(LastLineOf(*piece), document) || BeginsPage(*next))
+    if (PageOf(FirstLineOf(next->first), document) == PageOf(LowestLineOf(*piece), document) ||
+        BeginsPage(*next))
         return;
     const auto first = FirstToMove(pieces, piece);
     if (first != pieces.end())

@@ -19,32 +19,54 @@ using namespace torvik;
 class TableEndsTest : public QObject {
     Q_OBJECT
 
+    const QByteArray plainTable = "\\trowd\\cellx3000\\pard\\intbl table\\cell\\row";
+
 private Q_SLOTS:
     void a_page_is_neither_cut_nor_left_empty_below_a_table_data()
     {
+        QTest::addColumn<QByteArray>("table");
         QTest::addColumn<QByteArray>("below");
         QTest::addColumn<bool>("breaks");
         const QByteArray box = "\\box\\brdrs\\brdrw15 ";
         const QByteArray row = "\\trowd\\cellx3000\\pard\\intbl ";
-        QTest::newRow("text") << QByteArray("\\pard end\\par") << false;
-        QTest::newRow("text that begins a page") << QByteArray("\\pard\\pagebb end\\par") << true;
-        QTest::newRow("a box that begins a page") << "\\pard\\pagebb" + box + "end\\par" << true;
-        QTest::newRow("a table that begins a page") << "\\pard\\page" + row + "end\\cell\\row" << true;
+        QTest::newRow("text") << plainTable << QByteArray("\\pard end\\par") << false;
+        const QByteArray text = "\\pard\\pagebb end\\par";
+        QTest::newRow("text that begins a page") << plainTable << text << true;
+        QTest::newRow("a box that begins a page")
+            << plainTable << "\\pard\\pagebb" + box + "end\\par" << true;
+        QTest::newRow("a table that begins a page")
+            << plainTable << "\\pard\\page" + row + "end\\cell\\row" << true;
+        for (const int width : {15, 45, 90}) {
+            const QByteArray line = "\\brdrs\\brdrw" + QByteArray::number(width);
+            const QByteArray boxed = "\\pard\\box" + line + " table\\par";
+            QTest::addRow("text below a box with lines of %d twips", width)
+                << boxed << QByteArray("\\pard end\\par") << false;
+            QTest::addRow("text that begins a page below such a box") << boxed << text << true;
+            QTest::addRow("a box that begins a page below such a box")
+                << boxed << "\\pard\\pagebb" + box + "end\\par" << true;
+            const QByteArray ruled =
+                "\\trowd\\clbrdrt" + line + "\\clbrdrb" + line + "\\cellx3000\\pard\\intbl table\\cell\\row";
+            QTest::addRow("text that begins a page below a table with such lines") << ruled << text << true;
+        }
+        QTest::newRow("below a high row with its text at the foot")
+            << QByteArray("\\trowd\\trrh900\\clvertalb\\cellx3000\\pard\\intbl table\\cell\\row") << text
+            << true;
     }
     void a_page_is_neither_cut_nor_left_empty_below_a_table()
     {
+        QFETCH(QByteArray, table);
         QFETCH(QByteArray, below);
         QFETCH(bool, breaks);
         int mended = 0; // of the pages that would have been cut or empty
         for (int height = 400; height < 500; ++height) {
             const auto isWell = [&](bool isFilled) {
                 QTextDocument document;
-                Lay(document, below, height, isFilled);
-                const double table = LineOf(document, "table").top() / height;
+                Lay(document, table, below, height, isFilled);
+                const double place = LineOf(document, "table").top() / height;
                 const QRectF end = LineOf(document, "end");
                 const double page = std::floor(end.top() / height);
                 const bool isCut = std::floor(end.bottom() / height) > page;
-                const bool isNear = page - std::floor(table) == 1 || (!breaks && page == std::floor(table));
+                const bool isNear = page - std::floor(place) == 1 || (!breaks && page == std::floor(place));
                 return !isCut && isNear;
             };
             QVERIFY2(isWell(true), qPrintable(QString::number(height)));
@@ -63,7 +85,7 @@ private Q_SLOTS:
         for (int height = 1200; height < 1400; ++height) {
             QTextDocument document;
             document.documentLayout()->setPaintDevice(&paper);
-            Lay(document, "\\pard\\pagebb end\\par", height, false);
+            Lay(document, plainTable, "\\pard\\pagebb end\\par", height, false);
             const QTextFrame* table = document.rootFrame()->childFrames().first();
             const double before = table->frameFormat().bottomMargin();
             FillPagesBelowTables(document, scale);
@@ -84,18 +106,17 @@ private Q_SLOTS:
         for (double height = 400; height < 500; height += 0.3) {
             QTextDocument filled;
             QTextDocument plain;
-            Lay(filled, {}, height, true);
-            Lay(plain, {}, height, false);
+            Lay(filled, plainTable, {}, height, true);
+            Lay(plain, plainTable, {}, height, false);
             QCOMPARE(filled.pageCount(), plain.pageCount());
         }
     }
 
 private:
-    static void Lay(QTextDocument& document, const QByteArray& below, double height, bool isFilled)
+    static void Lay(QTextDocument& document, const QByteArray& table, const QByteArray& below, double height,
+                    bool isFilled)
     {
-        rtf::ReadRichText("{\\rtf1 " + QByteArray("line\\par ").repeated(20) +
-                              "\\trowd\\cellx3000\\pard\\intbl table\\cell\\row" + below + "}",
-                          document);
+        rtf::ReadRichText("{\\rtf1 " + QByteArray("line\\par ").repeated(20) + table + below + "}", document);
         document.setDocumentMargin(0);
         document.setPageSize(QSizeF(500, height));
         if (isFilled)
