@@ -155,12 +155,13 @@ void FlowWriter::Write(const Table& table)
 void FlowWriter::PlaceBox(const Paragraph& paragraph)
 {
     const ParagraphState& state = context_.formats.StateOf(paragraph.format);
-    // Without text a single border is a mere rule, which the block draws; but the layout hides an empty one
-    // below a table.
-    const bool isRule = paragraph.IsEmpty() && !spacing_.IsBelowTable();
-    const bool isBoxed =
-        state.HasBox() || state.frame.isSet || state.between.IsSet() || (state.HasBorder() && !isRule);
+    // The layout hides an empty paragraph below a table, with the rule that a single border is there.
+    const bool isHidden = paragraph.IsEmpty() && spacing_.IsBelowTable();
+    const bool isRule = paragraph.IsEmpty() && !isHidden;
     const bool beginsPage = TakeBreak(paragraph.breakBefore);
+    // The table makes up for its height, unless that belongs on the next page.
+    const bool isBoxed = state.HasBox() || state.frame.isSet || state.between.IsSet() ||
+                         (state.HasBorder() && !isRule) || (isHidden && beginsPage);
     if (box_ != nullptr && isBoxed && !beginsPage && SharesBox(state, context_.formats.StateOf(boxFormat_)))
         return PartBoxBefore(state);
     LeaveBox();

@@ -431,6 +431,22 @@ private Q_SLOTS:
         QCOMPARE(read.result.tables, 2);
         QVERIFY(read.Text().contains(u"r2999"_s));
     }
+
+    void an_empty_paragraph_that_begins_a_page_below_a_table_has_its_height()
+    {
+        constexpr double page = 400;
+        const auto placeOf = [](const QByteArray& first) {
+            const Reading read = ReadBody("\\trowd\\cellx3000\\pard\\intbl cell\\cell\\row\\pard\\page" +
+                                          first + "\\par text\\par");
+            read.document->setDocumentMargin(0);
+            read.document->setPageSize(QSizeF(500, page));
+            return read.document->documentLayout()->blockBoundingRect(read.Block(u"text"_s)).top();
+        };
+        const double below = placeOf("\\fs48 word");
+        QVERIFY2(below > page + 30, qPrintable(QString::number(below)));
+        const double belowEmpty = placeOf("\\fs48 ");
+        QVERIFY2(std::abs(belowEmpty - below) < 2, qPrintable(QString::number(belowEmpty)));
+    }
 };
 
 TORVIK_TEST(TablesTest)
