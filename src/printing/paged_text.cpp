@@ -42,6 +42,7 @@ PagedText::PagedText(const QTextDocument& text, QPaintDevice& device, const QSiz
     KeepParagraphsTogether(*text_);
     FitPicturesToPages(*text_, scale_); // what moved may have brought a picture to a page's end
     FillPagesBelowTables(*text_, scale_);
+    shadows_ = rtf::LetterShadows(*text_);
     lines_ = rtf::ExtraLines(*text_);
 }
 
@@ -63,6 +64,7 @@ void PagedText::PaintPage(int number, QPainter& painter, const QPointF& corner) 
     painter.translate(corner.x(), corner.y() - top);
     const double line = scale_ * 2; // a table as wide as the page has half of its border outside
     painter.setClipRect(page.adjusted(-line, 0, line, 0));
+    shadows_.Paint(painter, context.clip, scale_);
     text_->documentLayout()->draw(&painter, context);
     lines_.Paint(painter, context.clip, Qt::black, scale_);
     painter.restore();

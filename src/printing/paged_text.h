@@ -32,6 +32,7 @@ public:
 private:
     std::unique_ptr<QTextDocument> text_;
     QSizeF page_;
+    rtf::LetterShadows shadows_;
     rtf::ExtraLines lines_;
     double scale_;
 };

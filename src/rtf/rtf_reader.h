@@ -2,6 +2,7 @@
 
 #include "rtf/paint/extra_lines.h"
 #include "rtf/paint/format_properties.h"
+#include "rtf/paint/letter_shadows.h"
 #include "rtf/parts/read_result.h"
 
 #include <QByteArray>

@@ -36,6 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         QImage image(64, 64, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
+        torvik::rtf::LetterShadows(document).Paint(painter, QRectF(image.rect()), 1);
         torvik::rtf::ExtraLines(document).Paint(painter, QRectF(image.rect()), Qt::black, 1);
     }
     return 0;

@@ -94,6 +94,20 @@ private Q_SLOTS:
         QCOMPARE(lines, 2);
     }
 
+    void a_shadow_is_painted_beside_its_letters_and_is_no_second_text()
+    {
+        Print("\\fs144 nnn");
+        Print("\\fs144\\shad nnn");
+        QCOMPARE(printed_->Pages(2), printed_->Pages(1));
+        const QRectF plain = InkOf(printed_->Image(1, 1));
+        const QRectF shadowed = InkOf(printed_->Image(2, 1));
+        QCOMPARE(shadowed.topLeft(), plain.topLeft());
+        constexpr double aside = 72; // twips, a twentieth of the letters' size
+        QVERIFY2(std::abs(shadowed.width() - plain.width() - aside) <= PrintFolder::twipsPerPixel,
+                 qPrintable(QString::number(shadowed.width() - plain.width())));
+        QVERIFY(std::abs(shadowed.height() - plain.height() - aside) <= PrintFolder::twipsPerPixel);
+    }
+
 private:
     void Print(const QByteArray& rtf)
     {

@@ -25,6 +25,8 @@ enum class Underline : quint8 {
     DoubleWave
 };
 enum class Script : quint8 { Normal, Super, Sub };
+/// Letters that stand above the paper: by their shadow alone, pressed out of it, or pressed into it.
+enum class Relief : quint8 { Flat, Shadowed, Embossed, Engraved };
 enum class Capitals : quint8 { AsWritten, All, Small };
 
 /// What letters of the scripts look like that are not written one beside the other from left to right: Hebrew
@@ -72,6 +74,7 @@ struct CharacterState {
     bool rightToLeft = false;
     Underline underline = Underline::None;
     Script script = Script::Normal;
+    Relief relief = Relief::Flat;
     Capitals capitals = Capitals::AsWritten;
     ComplexLooks complex;
 

@@ -24,6 +24,8 @@ enum FormatProperty : int {
     UnderlineProperty,
     /// True in the format of characters that Qt strikes out once: they are to be struck out twice.
     DoubleStrikeProperty,
+    /// In the format of characters that cast a shadow: where that falls, a LetterShadow.
+    ShadowProperty,
     /// In the format of characters with a bookmark: its number. Qt finds a format by the hash of its numbers
     /// and texts, where all lists of names count alike.
     BookmarkNumberProperty

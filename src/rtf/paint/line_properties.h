@@ -23,4 +23,7 @@ enum class ExtraUnderline {
     DoubleWave
 };
 
+/// The side of letters on which their shadow is seen.
+enum class LetterShadow { BelowRight, AboveLeft };
+
 } // namespace torvik::rtf

@@ -34,6 +34,12 @@ void SetScript(Interpreter& interpreter, const Argument& argument)
     interpreter.Character().script = argument.IsOn() ? script : Script::Normal;
 }
 
+template <Relief relief>
+void SetRelief(Interpreter& interpreter, const Argument& argument)
+{
+    interpreter.Character().relief = argument.IsOn() ? relief : Relief::Flat;
+}
+
 template <Capitals capitals>
 void SetCapitals(Interpreter& interpreter, const Argument& argument)
 {
@@ -86,6 +92,9 @@ constexpr WordEntry characterEntries[] = {
     {"strike", SetCharacterFlag<&CharacterState::strike>},
     {"striked", SetCharacterFlag<&CharacterState::doubleStrike>},
     {"outl", SetCharacterFlag<&CharacterState::outlined>},
+    {"shad", SetRelief<Relief::Shadowed>},
+    {"embo", SetRelief<Relief::Embossed>},
+    {"impr", SetRelief<Relief::Engraved>},
     {"v", SetCharacterFlag<&CharacterState::hidden>},
     {"rtlch", SetDirection<true>},
     {"ltrch", SetDirection<false>},

@@ -83,6 +83,21 @@ void SetFont(QTextCharFormat& format, const FontEntry* font)
         format.setFontFixedPitch(true);
 }
 
+/// Letters without a colour of their own that are pressed out of the paper or into it have the paper's,
+/// nearly.
+void SetRelief(QTextCharFormat& format, const CharacterState& state, const QColor& front)
+{
+    if (state.relief == Relief::Flat)
+        return;
+    const bool isEngraved = state.relief == Relief::Engraved;
+    format.setProperty(ShadowProperty, int(isEngraved ? LetterShadow::AboveLeft : LetterShadow::BelowRight));
+    const bool isBlack = !front.isValid() || front == Qt::black;
+    if (state.relief == Relief::Shadowed || !isBlack || state.outlined)
+        return;
+    format.setForeground(QColor(Qt::lightGray));
+    format.setTextOutline(QPen(QColor(Qt::darkGray), OutlineWidth(state.size / 2.0)));
+}
+
 void SetPosition(QTextCharFormat& format, const CharacterState& state)
 {
     if (state.script == Script::Super)
@@ -140,6 +155,7 @@ QTextCharFormat Formats::MakeCharacterFormat(const CharacterState& state) const
             QPen(front.isValid() ? front : QColor(Qt::black), OutlineWidth(state.size / 2.0)));
         format.setForeground(QColor(Qt::transparent));
     }
+    SetRelief(format, state, front);
     const QColor back =
         ShadedColor(colors_.ChosenAt(state.patternColor), colors_.ChosenAt(state.background), state.shading);
     if (back.isValid())

@@ -108,6 +108,7 @@ void PartBox(QTextTable& box, QTextCursor& cursor, const ParagraphState& state, 
     ParagraphState below = state;
     below.borders[SideTop] = state.between;
     QTextTableCellFormat lower = CellFormatOf(below, colors);
+    SetPaddings(lower, state); // the line makes no box of borders that are none
     lower.setTopPadding(room + PixelsFromTwips(std::min(state.spaceBefore, largestEdgeSpace)));
     const QTextTableCell cell = box.cellAt(box.rows() - 1, 0);
     MergeInto(cell, lower);

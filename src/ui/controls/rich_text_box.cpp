@@ -21,26 +21,36 @@
 
 namespace torvik {
 
-/// The pane itself, which paints over its text what the layout leaves out.
+/// The pane itself, which paints under and over its text what the layout leaves out.
 class RichTextBox::Pane : public QTextBrowser {
 public:
-    void SetExtraLines(rtf::ExtraLines lines) { lines_ = std::move(lines); }
+    void SetExtras(rtf::LetterShadows shadows, rtf::ExtraLines lines)
+    {
+        shadows_ = std::move(shadows);
+        lines_ = std::move(lines);
+    }
 
 protected:
     void paintEvent(QPaintEvent* event) override
     {
+        constexpr double ownSize = 1;
+        const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+        const QRectF clip = QRectF(event->rect()).translated(scrolled);
+        if (!shadows_.IsEmpty()) {
+            QPainter painter(viewport());
+            painter.translate(-scrolled);
+            shadows_.Paint(painter, clip, ownSize);
+        }
         QTextBrowser::paintEvent(event);
         if (lines_.IsEmpty())
             return;
         QPainter painter(viewport());
-        const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
         painter.translate(-scrolled);
-        constexpr double ownSize = 1;
-        lines_.Paint(painter, QRectF(event->rect()).translated(scrolled), palette().color(QPalette::Text),
-                     ownSize);
+        lines_.Paint(painter, clip, palette().color(QPalette::Text), ownSize);
     }
 
 private:
+    rtf::LetterShadows shadows_;
     rtf::ExtraLines lines_;
 };
 
@@ -69,13 +79,13 @@ void RichTextBox::SetFileName(const QString& path)
     rtf::ReadRichText(bytes, *document);
 
     pane_->setExtraSelections({});
-    pane_->SetExtraLines({});
+    pane_->SetExtras({}, {});
     QTextDocument* shown = document.release();
     shown->setParent(pane_);
     const QPointer<QTextDocument> earlier = pane_->document(); // the pane's own first one it deletes itself
     pane_->setDocument(shown);
     delete earlier;
-    pane_->SetExtraLines(rtf::ExtraLines(*shown));
+    pane_->SetExtras(rtf::LetterShadows(*shown), rtf::ExtraLines(*shown));
     // The pane has brought its cursor into view, a little below the top.
     pane_->verticalScrollBar()->setValue(0);
     pane_->horizontalScrollBar()->setValue(0);

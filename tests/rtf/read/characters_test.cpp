@@ -108,6 +108,28 @@ private Q_SLOTS:
         QCOMPARE(read.Format("large").textOutline().widthF(), small * 4);
     }
 
+    void embossed_and_engraved_letters_have_nearly_the_colour_of_paper()
+    {
+        for (const QByteArray word : {"\\embo", "\\impr"}) {
+            const Reading read = ReadBody(word + " relief {\\cf1 red}" + word + "0  plain\\par");
+            QCOMPARE(read.Format("relief").foreground().color(), QColor(Qt::lightGray));
+            QCOMPARE(read.Format("relief").textOutline().color(), QColor(Qt::darkGray));
+            // A colour of their own stays.
+            QCOMPARE(read.Format("red").foreground().color(), QColor(255, 0, 0));
+            QVERIFY(!read.Format("red").hasProperty(QTextFormat::TextOutline));
+            QCOMPARE(read.Format("plain").foreground().style(), Qt::NoBrush);
+            QVERIFY(!read.Format("plain").hasProperty(ShadowProperty));
+        }
+    }
+
+    void shadowed_letters_keep_their_colour()
+    {
+        const Reading read = ReadBody("\\shad shadowed\\shad0  plain\\par");
+        QCOMPARE(read.Format("shadowed").foreground().style(), Qt::NoBrush);
+        QVERIFY(read.Format("shadowed").hasProperty(ShadowProperty));
+        QVERIFY(!read.Format("plain").hasProperty(ShadowProperty));
+    }
+
     void letters_struck_out_twice_are_told_as_struck_out()
     {
         QVERIFY(ReadBody("\\striked1 twice\\striked0  plain\\par").Format("twice").fontStrikeOut());

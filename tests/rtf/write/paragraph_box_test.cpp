@@ -91,6 +91,14 @@ private Q_SLOTS:
         QCOMPARE(FormatOf(read, 1).bottomBorder(), 0.0);
     }
 
+    void all_parts_have_the_same_room_at_their_sides()
+    {
+        const Reading read =
+            ReadBody("\\pard\\brdrl\\brdrs\\brdrb\\brdrs\\brdrbtw\\brdrs one\\par two\\par\\pard after\\par");
+        QCOMPARE(FormatOf(read, 0).leftPadding(), 0.0);
+        QCOMPARE(FormatOf(read, 1).leftPadding(), 0.0);
+    }
+
     void an_empty_paragraph_between_two_lines_keeps_its_height()
     {
         const Reading read =

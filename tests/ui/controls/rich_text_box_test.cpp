@@ -222,6 +222,30 @@ private Q_SLOTS:
         QCOMPARE(Pane().verticalScrollBar()->value(), scrolled);
     }
 
+    void shadows_of_letters_are_seen_wherever_the_text_is_scrolled()
+    {
+        const auto greyRows = [&](const QByteArray& word, int value) {
+            Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1\\par\\par\\par\\par{\\fs120" + word +
+                                                                  " \\emdash\\emdash\\par}" +
+                                                                  QByteArray("\\par ").repeated(40) + "}"));
+            Pane().verticalScrollBar()->setValue(value);
+            const QImage image = Pane().viewport()->grab().toImage();
+            QList<int> rows;
+            for (int y = 0; y < image.height(); ++y) {
+                if (image.pixelColor(60, y) == QColor(Qt::gray))
+                    rows.append(y);
+            }
+            return rows;
+        };
+        const QList<int> shadow = greyRows("\\shad", 0);
+        QVERIFY(!shadow.isEmpty());
+        QVERIFY(greyRows({}, 0).isEmpty());
+        QList<int> scrolled;
+        for (const int row : shadow)
+            scrolled.append(row - 37);
+        QCOMPARE(greyRows("\\shad", 37), scrolled);
+    }
+
     void marks_go_with_the_next_file()
     {
         Main->rtbText.SetFileName(folder_.Add(u"a.rtf"_s, "{\\rtf1 a red car}"));
