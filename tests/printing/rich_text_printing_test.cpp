@@ -169,6 +169,23 @@ private Q_SLOTS:
         QVERIFY2(dots > 50 && dots < 80, qPrintable(QString::number(dots)));
     }
 
+    void a_line_between_paragraphs_of_a_box_is_printed_over_its_width()
+    {
+        Print("\\pard\\box\\brdrs\\brdrw60\\brdrbtw\\brdrs\\brdrw60 One\\par Two\\par");
+        const QImage page = printed_->Image(1, 1);
+        const QRectF ink = InkOf(page);
+        int lines = 0;
+        bool wasLine = false;
+        for (int y = 0; y < page.height(); ++y) {
+            bool isLine = true;
+            for (double x = ink.left() + pixel; x < ink.right() - pixel; x += pixel)
+                isLine = isLine && qGray(page.pixel(int(x / pixel), y)) < 128;
+            lines += isLine && !wasLine ? 1 : 0;
+            wasLine = isLine;
+        }
+        QCOMPARE(lines, 3); // above, between and below
+    }
+
     void the_line_around_outlined_letters_is_as_wide_in_proportion_as_on_the_screen()
     {
         Print("\\pard\\outl\\fs288 I\\par");
@@ -222,6 +239,7 @@ private Q_SLOTS:
         QTest::newRow("a paragraph in a frame") << first + "\\pagebb\\absw3000\\posx600 Second\\par" << two;
         QTest::newRow("a text box") << begun + textBox + "\\par" << two;
         QTest::newRow("a text box of a paragraph") << first + "\\pagebb " + textBox + "\\par" << two;
+        QTest::newRow("a text box that ends the document") << begun + textBox << two;
         QTest::newRow("a break behind a text box")
             << first + textBox + "\\page Third\\par" << QStringList{u"First Second"_s, u"Third"_s};
         QTest::newRow("a drawing") << begun + drawing + " Second\\par" << two;
