@@ -21,7 +21,7 @@ private Q_SLOTS:
         };
         row(0, 12, u"12"_s);
         row(1, 14, u"XIV"_s);
-        row(4, 28, u"ab"_s);
+        row(4, 28, u"bb"_s);
         row(5, 1, u"1st"_s);
         row(5, 12, u"12th"_s);
         row(5, 103, u"103rd"_s);
