@@ -6,6 +6,9 @@
 #include <QEvent>
 #include <QPointer>
 #include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace torvik {
 
@@ -51,6 +54,21 @@ const Form* FormOf(const QObject* object)
     return nullptr;
 }
 
+/// The widget of a window of the desktop when an event is about to move the focus in it: that comes before
+/// the widget below the mouse gets the event. An open menu gets the press instead, and closes.
+const QWidget* WidgetToFocus(const QObject& window, const QEvent& event)
+{
+    const bool isPress =
+        event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+    if ((!isPress && event.type() != QEvent::Wheel) || QApplication::activePopupWidget() != nullptr)
+        return nullptr;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    const auto found = std::find_if(widgets.begin(), widgets.end(), [&window](const QWidget* widget) {
+        return widget->windowHandle() == &window;
+    });
+    return found != widgets.end() ? *found : nullptr;
+}
+
 /// A modal window blocks all but itself and what was opened from it.
 bool IsBlocked(const QWidget& widget)
 {
@@ -69,7 +87,7 @@ public:
     {
         if (!IsInput(event->type()))
             return false;
-        const Form* form = FormOf(watched);
+        const Form* form = FormOf(watched->isWindowType() ? WidgetToFocus(*watched, *event) : watched);
         return form != nullptr && !form->Enabled();
     }
 };

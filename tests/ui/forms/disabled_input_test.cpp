@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QWheelEvent>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace torvik;
@@ -97,6 +98,19 @@ private Q_SLOTS:
         QTest::mouseClick(&Main->Go.Widget(), Qt::RightButton);
         QTest::mouseDClick(&Main->Go.Widget(), Qt::LeftButton);
         QCOMPARE(Main->events, 0);
+    }
+
+    void a_press_does_not_move_the_focus()
+    {
+        QWidget& bar = Main->Bar.Widget();
+        QWidget& window = Main->Window();
+        const QPoint place = bar.mapTo(&window, bar.rect().center());
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+        QCOMPARE(QApplication::focusWidget(), &Main->Go.Widget());
+        QCOMPARE(Main->events, 0);
+        Main->SetEnabled(true);
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+        QCOMPARE(QApplication::focusWidget(), &bar);
     }
 
     void keys_do_nothing()
