@@ -10,11 +10,9 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QPointer>
 #include <QShortcut>
 
 #include <algorithm>
-#include <vector>
 
 namespace torvik {
 
@@ -53,6 +51,8 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
     }
     WatchWithShift(Qt::Key_Comma, key::comma);
     WatchWithShift(Qt::Key_Period, key::period);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget* /*before*/, QWidget* now) { RememberFocus(now); });
 }
 
 /// With Shift these keys give other characters, which ones is a matter of the user's layout, and some layouts
@@ -65,6 +65,33 @@ void FormWindow::WatchWithShift(Qt::Key key, int code)
         if (Control* control = Control::AroundWidget(QApplication::focusWidget()))
             control->PressKey(code, shift);
     });
+}
+
+void FormWindow::RememberFocus(QWidget* widget)
+{
+    if (widget == nullptr || widget == this || widget->window() != this)
+        return;
+    std::erase_if(hadFocus_, [widget](const auto& known) { return known == nullptr || known == widget; });
+    hadFocus_.emplace_back(widget);
+}
+
+bool FormWindow::ReturnFocus()
+{
+    const auto last = std::find_if(hadFocus_.rbegin(), hadFocus_.rend(), [this](const auto& widget) {
+        return widget != nullptr && widget->isVisibleTo(this) && widget->isEnabled();
+    });
+    if (last == hadFocus_.rend())
+        return false;
+    (*last)->setFocus();
+    return true;
+}
+
+/// From a panel that closes the focus goes back to where it was before. The next control is a photo as like
+/// as not, which the keys that step through the photos do not come to.
+bool FormWindow::focusNextPrevChild(bool next)
+{
+    const bool isGone = focusWidget() != nullptr && !focusWidget()->isVisibleTo(this);
+    return (isGone && ReturnFocus()) || QWidget::focusNextPrevChild(next);
 }
 
 FormWindow* FormWindow::LastActive()

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QEvent>
+#include <QPointer>
 #include <QWidget>
+
+#include <vector>
 
 class QMenuBar;
 
@@ -36,6 +39,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -44,10 +48,13 @@ protected:
 
 private:
     void WatchWithShift(Qt::Key key, int code);
+    void RememberFocus(QWidget* widget);
+    bool ReturnFocus();
 
     Form* form_;
     QMenuBar* menuBar_ = nullptr;
     QWidget* client_;
+    std::vector<QPointer<QWidget>> hadFocus_; ///< each once, the last one at the end
 };
 
 } // namespace torvik

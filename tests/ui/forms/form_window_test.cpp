@@ -185,6 +185,30 @@ private Q_SLOTS:
         QCOMPARE(FormWindow::ToStandOver(), &Main->Window());
     }
 
+    void from_a_panel_that_closes_the_focus_goes_back_to_where_it_was()
+    {
+        Main->List1.SetFocus();
+        Main->Text1.SetFocus();
+        Main->cmdCancel.SetFocus();
+        Main->pnlProgress.Hide();
+        QVERIFY(Main->Text1.Widget().hasFocus());
+        Main->pnlProgress.Show();
+        Main->cmdCancel.SetFocus();
+        Main->Text1.Hide();
+        Main->pnlProgress.Hide();
+        QVERIFY(Main->List1.Widget().hasFocus());
+    }
+
+    void where_nothing_had_it_before_the_next_control_gets_the_focus()
+    {
+        Main->cmdCancel.SetFocus();
+        for (Control* control : std::initializer_list<Control*>{&Main->Go, &Main->Text1})
+            control->Hide();
+        Main->pnlProgress.Hide();
+        QVERIFY(QApplication::focusWidget() != nullptr);
+        QVERIFY(QApplication::focusWidget()->isVisibleTo(&Main->Window()));
+    }
+
     void a_form_without_a_caption_is_called_by_its_name()
     {
         FormDesign design = DesignOf(u"Plain"_s);
