@@ -131,7 +131,7 @@ void DrawFocus(QPainter& painter, const QRectF& area, const QColor& colour)
     painter.restore();
 }
 
-void DrawArrow(QPainter& painter, const QRectF& area, int degrees, bool enabled)
+void DrawArrow(QPainter& painter, const QRectF& area, int degrees, bool enabled, const QColor& colour)
 {
     constexpr double smallest = 2;
     constexpr double largest = 8;
@@ -146,7 +146,7 @@ void DrawArrow(QPainter& painter, const QRectF& area, int degrees, bool enabled)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(area.center());
     painter.rotate(degrees);
-    painter.fillPath(triangle, enabled ? look::text : look::shadow);
+    painter.fillPath(triangle, enabled ? colour : look::shadow);
     painter.restore();
 }
 

@@ -54,7 +54,8 @@ void DrawOutline(QPainter& painter, const QRectF& area, const QColor& colour);
 void DrawFocus(QPainter& painter, const QRectF& area, const QColor& colour = look::text);
 /// Draws a solid triangle in the middle of `area` that points up (0), right (90), down (180) or left (270
 /// degrees).
-void DrawArrow(QPainter& painter, const QRectF& area, int degrees, bool enabled);
+void DrawArrow(QPainter& painter, const QRectF& area, int degrees, bool enabled,
+               const QColor& colour = look::text);
 
 /// Draws a caption in `area`, aligned by `flags` (Qt::AlignmentFlag and Qt::TextFlag) and on as many lines as
 /// it has, smaller where it would not fit; faded and etched into the face when it is not enabled.

@@ -111,6 +111,14 @@ void DrawScrollThumb(QPainter& painter, const QStyleOption* option)
         DrawFocus(painter, area.adjusted(3, 3, -3, -3));
 }
 
+/// In the colour that the caller has put into the option: the entry of a menu that is chosen has light
+/// letters.
+void DrawIndicator(QPainter& painter, const QStyleOption* option, int degrees)
+{
+    DrawArrow(painter, option->rect, degrees, Is(option, QStyle::State_Enabled),
+              option->palette.color(QPalette::ButtonText));
+}
+
 void DrawMenuBarItem(QPainter& painter, const QStyleOptionMenuItem& item)
 {
     const bool open = Is(&item, QStyle::State_Selected) && Is(&item, QStyle::State_Enabled);
@@ -159,16 +167,16 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         DrawOutline(*painter, option->rect, look::text);
         break;
     case PE_IndicatorArrowUp:
-        DrawArrow(*painter, option->rect, 0, Is(option, State_Enabled));
+        DrawIndicator(*painter, option, 0);
         break;
     case PE_IndicatorArrowRight:
-        DrawArrow(*painter, option->rect, 90, Is(option, State_Enabled));
+        DrawIndicator(*painter, option, 90);
         break;
     case PE_IndicatorArrowDown:
-        DrawArrow(*painter, option->rect, 180, Is(option, State_Enabled));
+        DrawIndicator(*painter, option, 180);
         break;
     case PE_IndicatorArrowLeft:
-        DrawArrow(*painter, option->rect, 270, Is(option, State_Enabled));
+        DrawIndicator(*painter, option, 270);
         break;
     default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);

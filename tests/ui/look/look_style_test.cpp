@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -89,6 +90,29 @@ private Q_SLOTS:
         const QFontMetrics metrics(bar.font());
         QVERIFY(bar.actionGeometry(entry).height() >= metrics.ascent() + metrics.descent());
         QVERIFY(bar.actionGeometry(entry).width() >= metrics.horizontalAdvance(entry->text()));
+    }
+
+    void the_arrow_of_a_chosen_entry_is_as_light_as_its_letters()
+    {
+        QMenu menu;
+        QAction* magazines = menu.addMenu(u" "_s)->menuAction(); // no letters, only the arrow
+        menu.addAction(u"Torvik Postcards"_s);
+        menu.show();
+        const auto hasAtItsEnd = [&menu, magazines](const QColor& colour) {
+            const QRect place = menu.actionGeometry(magazines);
+            const QImage entry = Grab(menu).copy(place.right() - 20, place.top(), 18, place.height());
+            for (int y = 0; y < entry.height(); ++y) {
+                for (int x = 0; x < entry.width(); ++x) {
+                    if (entry.pixelColor(x, y) == colour)
+                        return true;
+                }
+            }
+            return false;
+        };
+        QVERIFY(hasAtItsEnd(look::text));
+        menu.setActiveAction(magazines);
+        QVERIFY(hasAtItsEnd(look::accentText));
+        QVERIFY(!hasAtItsEnd(look::text));
     }
 
     void boxes_look_the_same_on_every_desktop()
