@@ -44,6 +44,7 @@ PagedText::PagedText(const QTextDocument& text, QPaintDevice& device, const QSiz
     FillPagesBelowTables(*text_, scale_);
     shadows_ = rtf::LetterShadows(*text_);
     lines_ = rtf::ExtraLines(*text_);
+    linesAbove_ = LinesAbove(*text_);
 }
 
 PagedText::~PagedText() = default;
@@ -65,7 +66,7 @@ void PagedText::PaintPage(int number, QPainter& painter, const QPointF& corner) 
     const double line = scale_ * 2; // a table as wide as the page has half of its border outside
     painter.setClipRect(page.adjusted(-line, 0, line, 0));
     shadows_.Paint(painter, context.clip, scale_);
-    text_->documentLayout()->draw(&painter, context);
+    linesAbove_.PaintWithout(number - 1, [&] { text_->documentLayout()->draw(&painter, context); });
     lines_.Paint(painter, context.clip, Qt::black, scale_);
     painter.restore();
 }

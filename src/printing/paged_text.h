@@ -1,5 +1,6 @@
 #pragma once
 
+#include "printing/lines_above.h"
 #include "rtf/rtf_reader.h"
 
 #include <QSizeF>
@@ -34,6 +35,7 @@ private:
     QSizeF page_;
     rtf::LetterShadows shadows_;
     rtf::ExtraLines lines_;
+    LinesAbove linesAbove_;
     double scale_;
 };
 

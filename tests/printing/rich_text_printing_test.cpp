@@ -86,6 +86,31 @@ private Q_SLOTS:
         QVERIFY(qAbs(picture.height() - 1000) <= 2 * pixel);
     }
 
+    void no_line_is_in_the_file_twice_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        QTest::newRow("a paragraph") << QByteArray() << QByteArray("\\par");
+        QTest::newRow("a table's cell") << QByteArray("\\trowd\\cellx2000\\cellx6000\\intbl left\\cell ")
+                                        << QByteArray("\\cell\\row\\pard");
+    }
+    void no_line_is_in_the_file_twice()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        constexpr int count = 2000;
+        QByteArray text;
+        for (int number = 1; number <= count; ++number)
+            text += "word" + QByteArray::number(number) + ' ';
+        Print(before + text + after, 2000, 3000, 1000, 1500);
+        const QStringList pages = printed_->Pages(1);
+        QVERIFY(pages.size() > 3);
+        QStringList words = Words(pages.join(u' '));
+        words.removeAll(u"left"_s);
+        QCOMPARE(words.size(), count);
+        QCOMPARE(words.last(), u"word2000"_s);
+    }
+
     void no_ink_is_nearer_to_an_edge_than_its_margin()
     {
         QByteArray text;
