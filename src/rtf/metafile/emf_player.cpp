@@ -284,8 +284,10 @@ bool EmfPlayer::PlayPath(EmfRecord type)
         canvas_.BeginPath();
         return true;
     case EmfRecord::EndPath:
-    case EmfRecord::AbortPath:
         canvas_.EndPath();
+        return true;
+    case EmfRecord::AbortPath:
+        canvas_.AbortPath();
         return true;
     case EmfRecord::CloseFigure:
         canvas_.CloseFigure();

@@ -30,7 +30,6 @@ private:
     bool PlayPoints(EmfRecord type, const ByteReader& in);
     bool PlayPath(EmfRecord type);
     bool PlayBitmap(EmfRecord type, const ByteReader& in);
-    void LinesTo(const QPolygonF& points);
     void PlayManyPoints(const ByteReader& in, PointSize size, bool closes);
     void PlayText(const ByteReader& in, bool isWide);
     void ModifyWorldTransform(const ByteReader& in);

@@ -54,10 +54,10 @@ bool EmfPlayer::PlayPoints(EmfRecord type, const ByteReader& in)
         canvas_.Bezier(points(PointSize::Short), true);
         return true;
     case EmfRecord::PolylineTo:
-        LinesTo(points(PointSize::Long));
+        canvas_.LinesTo(points(PointSize::Long));
         return true;
     case EmfRecord::PolylineTo16:
-        LinesTo(points(PointSize::Short));
+        canvas_.LinesTo(points(PointSize::Short));
         return true;
     case EmfRecord::PolyPolyline:
         PlayManyPoints(in, PointSize::Long, false);
@@ -74,12 +74,6 @@ bool EmfPlayer::PlayPoints(EmfRecord type, const ByteReader& in)
     default:
         return false;
     }
-}
-
-void EmfPlayer::LinesTo(const QPolygonF& points)
-{
-    for (const QPointF& point : points)
-        canvas_.LineTo(point);
 }
 
 void EmfPlayer::PlayManyPoints(const ByteReader& in, PointSize size, bool closes)

@@ -25,6 +25,31 @@ double AngleOf(const QRectF& rect, const QPointF& towards)
     return std::atan2(-y, x) * 180 / std::numbers::pi;
 }
 
+bool IsHatch(const QBrush& brush)
+{
+    return brush.style() >= Qt::HorPattern && brush.style() <= Qt::DiagCrossPattern;
+}
+
+/// The same path with every figure closed.
+QPainterPath Closed(const QPainterPath& path)
+{
+    QPainterPath closed;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        if (element.isMoveTo()) {
+            closed.closeSubpath();
+            closed.moveTo(element);
+        } else if (element.isCurveTo() && i + 2 < path.elementCount()) {
+            closed.cubicTo(element, path.elementAt(i + 1), path.elementAt(i + 2));
+            i += 2;
+        } else {
+            closed.lineTo(element);
+        }
+    }
+    closed.closeSubpath();
+    return closed;
+}
+
 } // namespace
 
 double Near(double value)
@@ -96,12 +121,17 @@ QPen GdiCanvas::CanvasPen() const
 
 void GdiCanvas::Draw(const QPainterPath& path, bool stroke, bool fill)
 {
-    if (path_) {
-        path_->addPath(path);
+    if (path_)
+        path_->addPath(Map(path));
+    else
+        Paint(Map(path), stroke, fill);
+}
+
+void GdiCanvas::Paint(QPainterPath mapped, bool stroke, bool fill)
+{
+    if (mapped.isEmpty())
         return;
-    }
     ++survey_.shapes;
-    QPainterPath mapped = Map(path);
     mapped.setFillRule(state_.fillRule);
     const QRectF bounds = mapped.controlPointRect();
     const QRectF seen = painter_ != nullptr ? bounds & QRectF(painter_->viewport()) : QRectF();
@@ -109,6 +139,8 @@ void GdiCanvas::Draw(const QPainterPath& path, bool stroke, bool fill)
     if (!Note(bounds,
               workOfShape + workOfPoint * mapped.elementCount() + seen.width() * seen.height() + length))
         return;
+    if (fill && state_.isOpaque && IsHatch(state_.brush))
+        painter_->fillPath(mapped, state_.backColor);
     painter_->setPen(stroke ? CanvasPen() : QPen(Qt::NoPen));
     painter_->setBrush(fill ? state_.brush : QBrush(Qt::NoBrush));
     painter_->drawPath(mapped);
@@ -118,19 +150,35 @@ void GdiCanvas::MoveTo(const QPointF& to)
 {
     state_.position = to;
     if (path_)
-        path_->moveTo(to);
+        path_->moveTo(Map(to));
+}
+
+/// Readies the path for lines from the current position: they belong to the figure that ends there, or begin
+/// one.
+void GdiCanvas::ContinuePath()
+{
+    const QPointF from = Map(state_.position);
+    if (path_->elementCount() == 0 || path_->currentPosition() != from)
+        path_->moveTo(from);
 }
 
 void GdiCanvas::LineTo(const QPointF& to)
 {
+    LinesTo({to});
+}
+
+void GdiCanvas::LinesTo(const QPolygonF& points)
+{
+    if (points.isEmpty())
+        return;
     if (path_) {
-        if (path_->elementCount() == 0)
-            path_->moveTo(state_.position);
-        path_->lineTo(to);
+        ContinuePath();
+        for (const QPointF& point : points)
+            path_->lineTo(Map(point));
     } else {
-        Polyline({state_.position, to});
+        Polyline(QPolygonF({state_.position}) + points);
     }
-    state_.position = to;
+    state_.position = points.last();
 }
 
 void GdiCanvas::Polyline(const QPolygonF& points)
@@ -156,16 +204,20 @@ void GdiCanvas::PolyPolygon(const std::vector<QPolygonF>& polygons)
 
 void GdiCanvas::Bezier(const QPolygonF& points, bool fromPosition)
 {
+    if (points.isEmpty())
+        return;
     QPainterPath path;
     qsizetype at = 0;
-    if (fromPosition)
-        path.moveTo(state_.position);
-    else if (!points.isEmpty())
-        path.moveTo(points.at(at++));
+    path.moveTo(fromPosition ? state_.position : points.at(at++));
     for (; at + 2 < points.size(); at += 3)
         path.cubicTo(points.at(at), points.at(at + 1), points.at(at + 2));
-    Draw(path, true, false);
-    if (fromPosition && !points.isEmpty())
+    if (path_ && fromPosition) {
+        ContinuePath();
+        path_->connectPath(Map(path));
+    } else {
+        Draw(path, true, false);
+    }
+    if (fromPosition)
         state_.position = points.last();
 }
 
@@ -216,9 +268,10 @@ void GdiCanvas::Fill(const QRectF& rect, RasterOperation operation)
         return FillWith(rect, Qt::white);
     if (operation != RasterOperation::PatternCopy)
         return;
+    // Neither this nor what is filled with a colour becomes a part of a path.
     QPainterPath path;
     path.addRect(rect.normalized());
-    Draw(path, false, true);
+    Paint(Map(path), false, true);
 }
 
 void GdiCanvas::FillWith(const QRectF& rect, const QColor& color)
@@ -227,7 +280,7 @@ void GdiCanvas::FillWith(const QRectF& rect, const QColor& color)
     state_.brush = color;
     QPainterPath path;
     path.addRect(rect.normalized());
-    Draw(path, false, true);
+    Paint(Map(path), false, true);
     state_.brush = brush;
 }
 
@@ -243,6 +296,12 @@ void GdiCanvas::EndPath()
     path_.reset();
 }
 
+void GdiCanvas::AbortPath()
+{
+    path_.reset();
+    finished_ = QPainterPath();
+}
+
 void GdiCanvas::CloseFigure()
 {
     if (path_ && path_->elementCount() > 0)
@@ -251,7 +310,8 @@ void GdiCanvas::CloseFigure()
 
 void GdiCanvas::DrawPath(bool stroke, bool fill)
 {
-    Draw(std::exchange(finished_, QPainterPath()), stroke, fill);
+    const QPainterPath path = std::exchange(finished_, QPainterPath());
+    Paint(stroke && fill ? Closed(path) : path, stroke, fill);
 }
 
 void GdiCanvas::ClipTo(const QRectF& rect, bool intersect)
@@ -259,6 +319,17 @@ void GdiCanvas::ClipTo(const QRectF& rect, bool intersect)
     const QRectF mapped = QRectF(Map(rect.topLeft()), Map(rect.bottomRight())).normalized();
     state_.clip = intersect && state_.isClipped ? state_.clip & mapped : mapped;
     state_.isClipped = true;
+    ApplyClip();
+}
+
+void GdiCanvas::Within(const QRectF& box, const std::function<void()>& draw)
+{
+    const QRectF clip = state_.clip;
+    const bool isClipped = state_.isClipped;
+    ClipTo(box, true);
+    draw();
+    state_.clip = clip;
+    state_.isClipped = isClipped;
     ApplyClip();
 }
 

@@ -8,6 +8,7 @@
 #include <QPainterPath>
 #include <QPolygonF>
 
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -69,6 +70,8 @@ public:
 
     void MoveTo(const QPointF& to);
     void LineTo(const QPointF& to);
+    /// From the current position through all points, the last of which becomes the position.
+    void LinesTo(const QPolygonF& points);
     void Polyline(const QPolygonF& points);
     void Polygon(const QPolygonF& points) { PolyPolygon({points}); }
     void PolyPolygon(const std::vector<QPolygonF>& polygons);
@@ -87,9 +90,13 @@ public:
     void Text(const QPointF& at, const QString& text, const std::vector<double>& advances);
     void ClipTo(const QRectF& rect, bool intersect);
     void Unclip();
+    /// Draws what `draw` does, cut at a box as well.
+    void Within(const QRectF& box, const std::function<void()>& draw);
 
     void BeginPath() { path_.emplace(); }
     void EndPath();
+    /// Forgets the path, whether it is still open or already ended.
+    void AbortPath();
     void CloseFigure();
     void DrawPath(bool stroke, bool fill);
 
@@ -102,6 +109,8 @@ private:
     QPainterPath Map(const QPainterPath& path) const;
     double Scale() const;
     void Draw(const QPainterPath& path, bool stroke, bool fill);
+    void Paint(QPainterPath mapped, bool stroke, bool fill);
+    void ContinuePath();
     bool Note(const QRectF& bounds, double work);
     void ApplyClip();
     QPen CanvasPen() const;
@@ -112,6 +121,8 @@ private:
     qint64 mostBytes_;
     GdiState state_;
     std::vector<GdiState> saved_;
+    /// The path that is being made and the one that was ended, on the canvas: what is drawn with them later
+    /// may have other units.
     std::optional<QPainterPath> path_;
     QPainterPath finished_;
     GdiSurvey survey_;

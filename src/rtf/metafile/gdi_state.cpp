@@ -11,7 +11,38 @@ constexpr Qt::PenStyle penStyles[] = {Qt::SolidLine,      Qt::DashLine, Qt::DotL
 constexpr Qt::BrushStyle hatches[] = {Qt::HorPattern,   Qt::VerPattern,   Qt::FDiagPattern,
                                       Qt::BDiagPattern, Qt::CrossPattern, Qt::DiagCrossPattern};
 
+/// Flags in the style of a pen: how its lines end and how they meet; round without any.
+enum PenShape : unsigned {
+    SquareEnds = 0x100,
+    FlatEnds = 0x200,
+    BevelCorners = 0x1000,
+    MiterCorners = 0x2000
+};
 enum BrushKind { SolidBrush = 0, HollowBrush = 1, HatchedBrush = 2 };
+
+Qt::PenCapStyle CapOf(unsigned penStyle)
+{
+    switch (penStyle & 0xf00U) {
+    case SquareEnds:
+        return Qt::SquareCap;
+    case FlatEnds:
+        return Qt::FlatCap;
+    default:
+        return Qt::RoundCap;
+    }
+}
+
+Qt::PenJoinStyle JoinOf(unsigned penStyle)
+{
+    switch (penStyle & 0xf000U) {
+    case BevelCorners:
+        return Qt::BevelJoin;
+    case MiterCorners:
+        return Qt::MiterJoin;
+    default:
+        return Qt::RoundJoin;
+    }
+}
 
 double Ratio(double of, double to)
 {
@@ -38,9 +69,13 @@ QColor GdiColor(quint32 value)
 
 QPen GdiPen(int style, double width, quint32 color)
 {
-    const auto place = static_cast<unsigned>(style) & 15U;
+    const auto bits = static_cast<unsigned>(style);
+    const auto place = bits & 15U;
     const Qt::PenStyle line = place < std::size(penStyles) ? penStyles[place] : Qt::SolidLine;
-    return {GdiColor(color), std::abs(width), line, Qt::RoundCap, Qt::RoundJoin};
+    QPen pen(GdiColor(color), std::abs(width), line, CapOf(bits), JoinOf(bits));
+    // Qt counts from the corner itself, drawings from the inner side of the line to the tip: 10.
+    pen.setMiterLimit(5);
+    return pen;
 }
 
 QBrush GdiBrush(int style, quint32 color, int hatch)
