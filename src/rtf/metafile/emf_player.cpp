@@ -116,14 +116,14 @@ bool EmfPlayer::PlayMapping(EmfRecord type, const ByteReader& in)
     const QSizeF size(in.S32(8), in.S32(12));
     switch (type) {
     case EmfRecord::SetWindowExtEx:
-        if (scalesFreely_)
+        if (mapping.scalesFreely)
             mapping.windowExtent = size;
         return true;
     case EmfRecord::SetWindowOrgEx:
         mapping.windowOrigin = EmfPoint(in, 8);
         return true;
     case EmfRecord::SetViewportExtEx:
-        if (scalesFreely_)
+        if (mapping.scalesFreely)
             mapping.viewportExtent = size;
         return true;
     case EmfRecord::SetViewportOrgEx:
@@ -165,14 +165,14 @@ void EmfPlayer::ModifyWorldTransform(const ByteReader& in)
 
 void EmfPlayer::SetMapMode(MapMode mode)
 {
-    scalesFreely_ = mode == MapMode::Isotropic || mode == MapMode::Anisotropic;
+    GdiMapping& mapping = canvas_.State().mapping;
+    mapping.scalesFreely = mode == MapMode::Isotropic || mode == MapMode::Anisotropic;
+    mapping.isEven = mode == MapMode::Isotropic;
     switch (mode) {
-    case MapMode::Text: {
-        GdiMapping& mapping = canvas_.State().mapping;
+    case MapMode::Text:
         mapping.windowExtent = {1, 1};
         mapping.viewportExtent = {1, 1};
         break;
-    }
     case MapMode::LoMetric:
         SetUnits(10);
         break;

@@ -42,7 +42,6 @@ private:
     GdiCanvas& canvas_;
     QSizeF unitsPerMillimetre_;
     GdiObjects objects_;
-    bool scalesFreely_ = false;
 };
 
 } // namespace torvik::rtf

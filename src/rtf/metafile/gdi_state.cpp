@@ -1,5 +1,6 @@
 #include "rtf/metafile/gdi_state.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace torvik::rtf {
@@ -53,10 +54,17 @@ double Ratio(double of, double to)
 
 QTransform GdiMapping::ToDevice() const
 {
+    double across = Ratio(viewportExtent.width(), windowExtent.width());
+    double down = Ratio(viewportExtent.height(), windowExtent.height());
+    if (isEven) {
+        // The viewport shrinks in one direction.
+        const double unit = std::min(std::abs(across), std::abs(down));
+        across = std::copysign(unit, across);
+        down = std::copysign(unit, down);
+    }
     QTransform page;
     page.translate(viewportOrigin.x(), viewportOrigin.y());
-    page.scale(Ratio(viewportExtent.width(), windowExtent.width()),
-               Ratio(viewportExtent.height(), windowExtent.height()));
+    page.scale(across, down);
     page.translate(-windowOrigin.x(), -windowOrigin.y());
     return world * page;
 }

@@ -36,6 +36,10 @@ struct GdiMapping {
     QSizeF windowExtent = {1, 1};
     QPointF viewportOrigin;
     QSizeF viewportExtent = {1, 1};
+    /// Whether the drawing may set the extents.
+    bool scalesFreely = false;
+    /// Whether one unit is as long across as it is down, whatever the extents say.
+    bool isEven = false;
     QTransform world;
 
     QTransform ToDevice() const;
