@@ -25,8 +25,9 @@ enum class BackgroundMode : quint32 { Transparent = 1, Opaque = 2 };
 /// What counts as the inside of a polygon that crosses itself.
 enum class PolyFillMode : quint32 { Alternate = 1, Winding = 2 };
 
-/// Flags of a text that is written with options: the box behind it is filled, the text is cut at the box.
-enum TextOption : quint32 { TextOptionOpaque = 2, TextOptionClipped = 4 };
+/// Flags of a text that is written with options: the box behind it is filled, the text is cut at the box,
+/// each character tells how far down the next one stands as well.
+enum TextOption : quint32 { TextOptionOpaque = 2, TextOptionClipped = 4, TextOptionStepsDown = 0x2000 };
 
 /// The objects that exist without being made.
 enum class StockObject : quint32 {

@@ -1,4 +1,5 @@
 #include "rtf/metafile/gdi_canvas.h"
+#include "rtf/metafile/gdi_letters.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -40,7 +41,10 @@ QFont GdiCanvas::CanvasFont() const
 {
     const GdiFont& wanted = state_.font;
     const double letters = wanted.height < 0 ? -wanted.height : wanted.height * lettersOfLine;
-    QFont font(wanted.family);
+    // Symbols were turned into characters that all fonts have in common; their own font has none of these.
+    QFont font;
+    if (!wanted.family.isEmpty() && !ShowsSymbols(wanted))
+        font.setFamily(wanted.family);
     font.setPixelSize(static_cast<int>(std::clamp(std::lround(letters * Scale()), 1L, 2000L)));
     font.setBold(wanted.weight >= 600);
     font.setItalic(wanted.italic);

@@ -7,7 +7,7 @@ using namespace torvik::rtf;
 class GdiObjectsTest : public QObject {
     Q_OBJECT
 
-    static QByteArray WmfFont()
+    static QByteArray AnyFont()
     {
         return WmfRecord(0x02fb, Bytes().Words({-20, 0, 0, 0, 400}).Raw(QByteArray(40, '\0')).Data());
     }
@@ -27,7 +27,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("object");
         QTest::newRow("a pen") << WmfPen(0, 1, 0);
         QTest::newRow("a brush") << WmfBrush(0, inGreen);
-        QTest::newRow("a font") << WmfFont();
+        QTest::newRow("a font") << AnyFont();
         QTest::newRow("a palette") << WmfWords(0x00f7, {0x300, 1, 0, 0});
         QTest::newRow("a region") << WmfWords(0x06ff, {0, 6, 0, 0, 0, 0, 0, 10, 10, 0});
         QTest::newRow("a brush of a bitmap") << WmfWords(0x0142, {3, 0});

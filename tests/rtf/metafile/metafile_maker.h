@@ -107,6 +107,26 @@ inline QByteArray WmfOutlined(int width, int color)
     return WmfPen(0, width, color) + WmfBrush(1, 0) + WmfSelect(0) + WmfSelect(1);
 }
 
+/// A font as both kinds describe it: a negative height is that of the letters.
+struct FontLook {
+    int height = -40;
+    /// Tenths of a degree, against the clock.
+    int escapement = 0;
+    int weight = 400;
+    bool italic = false;
+    bool underline = false;
+    bool strike = false;
+    int charset = 0;
+    QByteArray face = "Arial";
+};
+inline QByteArray WmfFont(const FontLook& look)
+{
+    Bytes bytes;
+    bytes.Words({look.height, 0, look.escapement, look.escapement, look.weight});
+    bytes.U8(look.italic).U8(look.underline).U8(look.strike).U8(look.charset).U32(0);
+    return WmfRecord(0x02fb, bytes.Raw(look.face.leftJustified(32, '\0')).Data());
+}
+
 // Records of the enhanced kind. Objects are numbered from 1; those that need not be made have the high bit.
 
 inline constexpr qint64 stockObject = 0x80000000;
@@ -132,6 +152,15 @@ inline QByteArray EmfSelect(qint64 number)
 inline QByteArray EmfDelete(qint64 number)
 {
     return EmfLongs(40, {number});
+}
+inline QByteArray EmfFont(int number, const FontLook& look)
+{
+    Bytes bytes;
+    bytes.Longs({number, look.height, 0, look.escapement, look.escapement, look.weight});
+    bytes.U8(look.italic).U8(look.underline).U8(look.strike).U8(look.charset).U32(0);
+    for (const char letter : look.face.leftJustified(32, '\0'))
+        bytes.U16(letter);
+    return EmfRecord(82, bytes.Data());
 }
 inline QByteArray EmfRectangle(int left, int top, int right, int bottom)
 {
