@@ -1,3 +1,4 @@
+#include "rtf/bitmap/dib.h"
 #include "rtf/metafile/emf_player.h"
 #include "rtf/metafile/gdi_numbers.h"
 
@@ -30,22 +31,42 @@ QRectF TargetRect(const ByteReader& in, std::size_t placeAt, std::size_t sizeAt)
             double(in.S32(sizeAt + 4))};
 }
 
+GdiBitmap BitmapAt(const ByteReader& in, std::size_t placesAt)
+{
+    GdiBitmap bitmap;
+    bitmap.header = in.Slice(in.U32(placesAt), in.U32(placesAt + 4));
+    bitmap.pixels = in.Slice(in.U32(placesAt + 8), in.U32(placesAt + 12));
+    return bitmap;
+}
+
 } // namespace
 
 bool EmfPlayer::PlayBitmap(EmfRecord type, const ByteReader& in)
 {
     switch (type) {
     case EmfRecord::BitBlt:
-    case EmfRecord::MaskBlt:
         PutBitmap(in, placesOfBlt, SourceRect(in, 44, 32), TargetRect(in, 24, 32), OperationAt(in, 40));
+        return true;
+    case EmfRecord::MaskBlt:
+        // The highest byte is the operation for what the mask leaves out; all is taken for what it lets
+        // through.
+        PutBitmap(in, placesOfBlt, SourceRect(in, 44, 32), TargetRect(in, 24, 32),
+                  static_cast<RasterOperation>(in.U32(40) & 0xffffffU));
         return true;
     case EmfRecord::StretchBlt:
         PutBitmap(in, placesOfBlt, SourceRect(in, 44, 100), TargetRect(in, 24, 32), OperationAt(in, 40));
         return true;
-    case EmfRecord::AlphaBlend:
-        PutBitmap(in, placesOfBlt, SourceRect(in, 44, 100), TargetRect(in, 24, 32),
-                  RasterOperation::SourceCopy);
+    case EmfRecord::AlphaBlend: {
+        // In place of the operation: what to do, flags, how much of the whole is seen, and whether pixels say
+        // so too.
+        GdiBitmap bitmap = BitmapAt(in, placesOfBlt);
+        bitmap.source = SourceRect(in, 44, 100);
+        bitmap.target = TargetRect(in, 24, 32);
+        bitmap.opacity = in.U8(42) / 255.0;
+        bitmap.hasAlpha = in.U8(43) == 1;
+        canvas_.Bitmap(bitmap);
         return true;
+    }
     case EmfRecord::SetDibitsToDevice:
         PutBitmap(in, placesOfDibits, SourceRect(in, 32, 40), TargetRect(in, 24, 40),
                   RasterOperation::SourceCopy);
@@ -61,16 +82,15 @@ bool EmfPlayer::PlayBitmap(EmfRecord type, const ByteReader& in)
 void EmfPlayer::PutBitmap(const ByteReader& in, std::size_t placesAt, const QRect& source,
                           const QRectF& target, RasterOperation operation)
 {
-    GdiBitmap bitmap;
-    bitmap.header = in.Slice(in.U32(placesAt), in.U32(placesAt + 4));
-    bitmap.pixels = in.Slice(in.U32(placesAt + 8), in.U32(placesAt + 12));
     if (in.U32(placesAt + 4) == 0)
         return canvas_.Fill(target, operation);
+    GdiBitmap bitmap = BitmapAt(in, placesAt);
     bitmap.source = source;
     bitmap.target = target;
     bitmap.operation = operation;
-    // Only the two records that take pixels straight from memory count their lines from below.
-    bitmap.sourceFromBottom = placesAt == placesOfDibits;
+    // Only the two records that take pixels straight from memory count their lines from below, as these are
+    // stored.
+    bitmap.sourceFromBottom = placesAt == placesOfDibits && !ReadDibHeader(bitmap.header).topDown;
     canvas_.Bitmap(bitmap);
 }
 

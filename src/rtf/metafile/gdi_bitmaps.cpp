@@ -1,5 +1,8 @@
+#include "rtf/bitmap/byte_reader.h"
 #include "rtf/bitmap/dib.h"
 #include "rtf/metafile/gdi_canvas.h"
+
+#include <QMarginsF>
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +31,52 @@ QPainter::CompositionMode ModeOf(RasterOperation operation)
     }
 }
 
+/// Whether an operation makes no use of the bitmap that comes with it.
+bool LeavesBitmap(RasterOperation operation)
+{
+    return operation == RasterOperation::Blackness || operation == RasterOperation::Whiteness ||
+           operation == RasterOperation::PatternCopy;
+}
+
+/// The same bitmap with a source of positive sides; what that mirrors is mirrored in the target.
+GdiBitmap Straightened(const GdiBitmap& bitmap)
+{
+    GdiBitmap straight = bitmap;
+    QRect& source = straight.source;
+    QRectF& target = straight.target;
+    if (source.width() < 0) {
+        source.setRect(source.x() + source.width(), source.y(), -source.width(), source.height());
+        target.setRect(target.x() + target.width(), target.y(), -target.width(), target.height());
+    }
+    if (source.height() < 0) {
+        source.setRect(source.x(), source.y() + source.height(), source.width(), -source.height());
+        target.setRect(target.x(), target.y() + target.height(), target.width(), -target.height());
+    }
+    return straight;
+}
+
+/// The pixels of a bitmap of 32 bits with their fourth bytes. Their colours are already as dark as these make
+/// them.
+QImage WithAlpha(const GdiBitmap& bitmap, const QImage& image)
+{
+    const DibHeader header = ReadDibHeader(bitmap.header);
+    const ByteReader in(bitmap.pixels);
+    if (image.isNull() || header.bitsPerPixel != 32 || header.compression != 0)
+        return image;
+    QImage clear(image.size(), QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < clear.height(); ++y) {
+        auto* to = reinterpret_cast<QRgb*>(clear.scanLine(y));
+        const int line = header.topDown ? y : header.height - 1 - y;
+        std::size_t at = header.LineBytes() * static_cast<std::size_t>(line);
+        for (int x = 0; x < clear.width(); ++x, at += 4) {
+            const int alpha = in.U8(at + 3);
+            to[x] = qRgba(std::min<int>(in.U8(at + 2), alpha), std::min<int>(in.U8(at + 1), alpha),
+                          std::min<int>(in.U8(at), alpha), alpha);
+        }
+    }
+    return clear;
+}
+
 QSize SizeOf(const GdiBitmap& bitmap)
 {
     if (!bitmap.image.isNull())
@@ -43,6 +92,8 @@ QImage DecodeGdiBitmap(const GdiBitmap& bitmap, qint64 mostBytes)
     QImage image = bitmap.image;
     if (image.isNull())
         image = DecodeDib(bitmap.header, bitmap.pixels, mostBytes);
+    if (bitmap.hasAlpha)
+        image = WithAlpha(bitmap, image);
     const QRect source = GdiSource(bitmap, image.size());
     return source == image.rect() || image.isNull() ? image : image.copy(source);
 }
@@ -59,8 +110,11 @@ QRect GdiSource(const GdiBitmap& bitmap, const QSize& size)
     return source.isEmpty() ? all : source;
 }
 
-void GdiCanvas::Bitmap(const GdiBitmap& bitmap)
+void GdiCanvas::Bitmap(const GdiBitmap& given)
 {
+    if (LeavesBitmap(given.operation))
+        return Fill(given.target, given.operation);
+    const GdiBitmap bitmap = Straightened(given);
     const QSize size = SizeOf(bitmap);
     if (size.isEmpty())
         return;
@@ -76,7 +130,12 @@ void GdiCanvas::Bitmap(const GdiBitmap& bitmap)
         survey_.firstIsMirroredAcross = isMirroredAcross;
         survey_.firstIsMirroredDown = isMirroredDown;
     }
-    survey_.combines = survey_.combines || ModeOf(bitmap.operation) != QPainter::CompositionMode_SourceOver;
+    const bool combines = ModeOf(bitmap.operation) != QPainter::CompositionMode_SourceOver;
+    // Clips are often a little narrower than the picture that they are meant to let through.
+    const QMarginsF slack(place.width() / 50, place.height() / 50, place.width() / 50, place.height() / 50);
+    const bool isCut = state_.isClipped && !state_.clip.contains(place.marginsRemoved(slack));
+    survey_.combines = survey_.combines || combines;
+    survey_.changesBitmap = survey_.changesBitmap || combines || isCut || bitmap.opacity < 1;
     if (place.width() > 0 && place.height() > 0) {
         survey_.densityX = std::max(survey_.densityX, source.width() / place.width());
         survey_.densityY = std::max(survey_.densityY, source.height() / place.height());
@@ -93,7 +152,9 @@ void GdiCanvas::Bitmap(const GdiBitmap& bitmap)
         std::abs(place.width() - image.width()) < 0.01 && std::abs(place.height() - image.height()) < 0.01;
     painter_->setRenderHint(QPainter::SmoothPixmapTransform, !isSameSize);
     painter_->setCompositionMode(ModeOf(bitmap.operation));
+    painter_->setOpacity(bitmap.opacity);
     painter_->drawImage(place, image);
+    painter_->setOpacity(1);
     painter_->setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 

@@ -19,12 +19,17 @@ namespace torvik::rtf {
 struct GdiBitmap {
     std::string_view header;
     std::string_view pixels;
-    /// Pixels of the bitmap, from its upper left; empty for all of it.
+    /// Pixels of the bitmap, from its upper left; empty for all of it. Sides may be negative, which mirrors
+    /// it.
     QRect source;
     bool sourceFromBottom = false;
     /// Where it goes, in the drawing's units; sides may be negative, which mirrors it.
     QRectF target;
     RasterOperation operation = RasterOperation::SourceCopy;
+    /// From 0 for nothing to 1 for all of it.
+    double opacity = 1;
+    /// Whether the fourth byte of each pixel tells how much of it is seen.
+    bool hasAlpha = false;
     /// Already decoded bitmaps come this way.
     QImage image;
 };
@@ -40,6 +45,8 @@ struct GdiSurvey {
     int bitmaps = 0;
     /// Some bitmap is combined with what is below it.
     bool combines = false;
+    /// Some bitmap is not shown as it is stored: combined, cut or see-through.
+    bool changesBitmap = false;
     /// The first bitmap, and its place on the canvas.
     GdiBitmap first;
     QRectF firstPlace;
@@ -85,7 +92,7 @@ public:
     void Fill(const QRectF& rect, RasterOperation operation);
     void FillWith(const QRectF& rect, const QColor& color);
     void Pixel(const QPointF& at, const QColor& color);
-    void Bitmap(const GdiBitmap& bitmap);
+    void Bitmap(const GdiBitmap& given);
     /// `advances` are the widths of the single characters in the drawing's units, empty for the font's own.
     void Text(const QPointF& at, const QString& text, const std::vector<double>& advances);
     void ClipTo(const QRectF& rect, bool intersect);

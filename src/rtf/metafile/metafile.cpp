@@ -93,7 +93,8 @@ MetafileImage Draw(Drawing drawing, const QSizeF& shownSize, qint64 mostBytes)
     const GdiSurvey& survey = stock.Survey();
     if (survey.shapes + survey.bitmaps == 0)
         return result;
-    if (survey.shapes == 0 && survey.bitmaps == 1 && FillsCanvas(survey.firstPlace)) {
+    if (survey.shapes == 0 && survey.bitmaps == 1 && !survey.changesBitmap &&
+        FillsCanvas(survey.firstPlace)) {
         result.image = DecodeGdiBitmap(survey.first, mostBytes);
         if (survey.firstIsMirroredAcross || survey.firstIsMirroredDown)
             result.image = result.image.mirrored(survey.firstIsMirroredAcross, survey.firstIsMirroredDown);

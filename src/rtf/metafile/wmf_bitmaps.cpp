@@ -49,10 +49,11 @@ bool WmfPlayer::PlayBitmap(WmfFunction function, const ByteReader& in)
         GdiBitmap bitmap;
         const Places places = ReadPlaces(in, 6, false);
         bitmap.header = in.Slice(18);
+        const DibHeader header = ReadDibHeader(bitmap.header);
         bitmap.source = places.source;
-        bitmap.sourceFromBottom = true;
+        bitmap.sourceFromBottom = !header.topDown;
         bitmap.target = places.target;
-        bitmap.pixels = ByteReader(bitmap.header).Slice(ReadDibHeader(bitmap.header).bytesBeforePixels);
+        bitmap.pixels = ByteReader(bitmap.header).Slice(header.bytesBeforePixels);
         canvas_.Bitmap(bitmap);
         return true;
     }
@@ -67,23 +68,29 @@ bool WmfPlayer::PlayBitmap(WmfFunction function, const ByteReader& in)
     }
 }
 
+void WmfPlayer::FillBlock(const ByteReader& in, bool scales)
+{
+    // A number without meaning stands before the size of the target.
+    const std::size_t sizeAt = scales ? 14 : 10;
+    const QRectF target(in.S16(sizeAt + 6), in.S16(sizeAt + 4), in.S16(sizeAt + 2), in.S16(sizeAt));
+    canvas_.Fill(target, static_cast<RasterOperation>(in.U32(0)));
+}
+
 void WmfPlayer::PlayDib(const ByteReader& in, std::size_t sizesAt, std::size_t dibAt, bool scales)
 {
+    const bool isStretchDib = sizesAt == 6;
+    if (!isStretchDib && in.Size() <= dibAt + 2)
+        return FillBlock(in, scales);
     const std::string_view dib = in.Slice(dibAt);
     const DibHeader header = ReadDibHeader(dib);
     const Places places = ReadPlaces(in, sizesAt, scales);
-    if (!header.IsValid()) {
-        // Without a bitmap the record fills with the brush, and a number without meaning stands before the
-        // size.
-        if (!scales && in.Size() <= dibAt + 2)
-            canvas_.Fill(ReadPlaces(in, sizesAt + 2, scales).target, static_cast<RasterOperation>(in.U32(0)));
+    if (!header.IsValid())
         return;
-    }
     GdiBitmap bitmap;
     bitmap.header = dib;
     bitmap.pixels = ByteReader(dib).Slice(header.bytesBeforePixels);
     bitmap.source = places.source;
-    bitmap.sourceFromBottom = sizesAt == 6 && !header.topDown;
+    bitmap.sourceFromBottom = isStretchDib && !header.topDown;
     bitmap.target = places.target;
     bitmap.operation = static_cast<RasterOperation>(in.U32(0));
     canvas_.Bitmap(bitmap);
@@ -91,6 +98,8 @@ void WmfPlayer::PlayDib(const ByteReader& in, std::size_t sizesAt, std::size_t d
 
 void WmfPlayer::PlayDeviceBitmap(const ByteReader& in, std::size_t sizesAt, std::size_t bitmapAt, bool scales)
 {
+    if (in.Size() <= bitmapAt + 2)
+        return FillBlock(in, scales);
     const Places places = ReadPlaces(in, sizesAt, scales);
     DeviceBitmap stored;
     stored.width = in.S16(bitmapAt + 2);

@@ -70,6 +70,24 @@ inline QString NotBare(const QImage& image, const QList<QPoint>& points)
     return NotPainted(image, points, QColor(0, 0, 0, 0));
 }
 
+/// The colours at the corners of a part of an image: upper left, upper right, lower left, lower right.
+inline QString CornersOf(const QImage& image, const QRect& part)
+{
+    QString corners;
+    for (const QPoint& at : {part.topLeft(), part.topRight(), part.bottomLeft(), part.bottomRight()})
+        corners += (corners.isEmpty() ? QString() : QString(QChar(' '))) + image.pixelColor(at).name();
+    return corners;
+}
+inline const QString fourCorners = QStringLiteral("#ff0000 #00ff00 #0000ff #ffffff");
+inline const QString cornersAcross = QStringLiteral("#00ff00 #ff0000 #ffffff #0000ff");
+inline const QString cornersDown = QStringLiteral("#0000ff #ffffff #ff0000 #00ff00");
+
+/// The bitmap of four colours with its upper line first.
+inline QByteArray FourColorsFromTop()
+{
+    return Dib(2, -2, 24, {}, QByteArray::fromHex("0000ff00ff000000ff0000ffffff0000"));
+}
+
 // Records of the older kind. Objects get the lowest free number, the first one 0.
 
 inline QByteArray WmfWords(int function, std::initializer_list<int> words)
