@@ -66,7 +66,10 @@ bool ReadInfoHeader(const ByteReader& in, DibHeader& header)
             header.paletteAt += 12;
     }
     const quint32 used = in.U32(32);
-    const int most = header.bitsPerPixel <= 8 ? 1 << header.bitsPerPixel : 256;
+    int most = header.bitsPerPixel <= 8 ? 1 << header.bitsPerPixel : 256;
+    // A stored picture inside leaves its depth open, and has its own palette.
+    if (header.bitsPerPixel == 0)
+        most = 0;
     if (used > static_cast<quint32>(most))
         header.paletteSize = header.bitsPerPixel <= 8 ? most : 0;
     else
