@@ -13,6 +13,7 @@ namespace {
 /// Where a record holds the offsets of a bitmap's header and pixels.
 constexpr std::size_t placesOfBlt = 84;
 constexpr std::size_t placesOfDibits = 48;
+constexpr std::size_t placesOfPattern = 16;
 
 RasterOperation OperationAt(const ByteReader& in, std::size_t at)
 {
@@ -77,6 +78,12 @@ bool EmfPlayer::PlayBitmap(EmfRecord type, const ByteReader& in)
     default:
         return false;
     }
+}
+
+QImage EmfPlayer::PatternAt(const ByteReader& in)
+{
+    const GdiBitmap bitmap = BitmapAt(in, placesOfPattern);
+    return DecodeDib(bitmap.header, bitmap.pixels, mostPatternBytes);
 }
 
 void EmfPlayer::PutBitmap(const ByteReader& in, std::size_t placesAt, const QRect& source,

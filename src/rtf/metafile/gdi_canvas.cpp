@@ -119,6 +119,15 @@ QPen GdiCanvas::CanvasPen() const
     return pen;
 }
 
+QBrush GdiCanvas::CanvasBrush() const
+{
+    QImage pattern = state_.brush.style() == Qt::TexturePattern ? state_.brush.textureImage() : QImage();
+    if (pattern.format() != QImage::Format_Mono)
+        return state_.brush;
+    pattern.setColorTable({state_.textColor.rgb(), state_.backColor.rgb()});
+    return QBrush(pattern.convertToFormat(QImage::Format_RGB32));
+}
+
 void GdiCanvas::Draw(const QPainterPath& path, bool stroke, bool fill)
 {
     if (path_)
@@ -142,7 +151,7 @@ void GdiCanvas::Paint(QPainterPath mapped, bool stroke, bool fill)
     if (fill && state_.isOpaque && IsHatch(state_.brush))
         painter_->fillPath(mapped, state_.backColor);
     painter_->setPen(stroke ? CanvasPen() : QPen(Qt::NoPen));
-    painter_->setBrush(fill ? state_.brush : QBrush(Qt::NoBrush));
+    painter_->setBrush(fill ? CanvasBrush() : QBrush(Qt::NoBrush));
     painter_->drawPath(mapped);
 }
 

@@ -34,6 +34,9 @@ struct GdiBitmap {
     QImage image;
 };
 
+/// What the bitmap of a brush may take, bytes.
+inline constexpr qint64 mostPatternBytes = 1024 * 1024;
+
 /// The part of a bitmap of some size that is shown.
 QRect GdiSource(const GdiBitmap& bitmap, const QSize& size);
 /// That part as an image; null when it cannot be read or would take more than `mostBytes` bytes.
@@ -121,6 +124,7 @@ private:
     bool Note(const QRectF& bounds, double work);
     void ApplyClip();
     QPen CanvasPen() const;
+    QBrush CanvasBrush() const;
     QFont CanvasFont() const;
 
     QPainter* painter_;

@@ -102,6 +102,15 @@ QBrush GdiBrush(int style, quint32 color, int hatch)
     }
 }
 
+QBrush GdiPatternBrush(const QImage& pattern, bool takesColors)
+{
+    if (pattern.isNull())
+        return {Qt::gray};
+    // Only a pattern that takes the colours stays one of two colours.
+    const bool staysMono = takesColors && pattern.format() == QImage::Format_Mono;
+    return QBrush(staysMono ? pattern : pattern.convertToFormat(QImage::Format_RGB32));
+}
+
 GdiObject GdiStockObject(StockObject object)
 {
     switch (object) {

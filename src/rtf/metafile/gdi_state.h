@@ -3,6 +3,7 @@
 #include "rtf/metafile/gdi_numbers.h"
 
 #include <QBrush>
+#include <QImage>
 #include <QPen>
 #include <QPointF>
 #include <QRectF>
@@ -67,6 +68,9 @@ QColor GdiColor(quint32 value);
 /// Pens and brushes by the numbers of their styles.
 QPen GdiPen(int style, double width, quint32 color);
 QBrush GdiBrush(int style, quint32 color, int hatch);
+/// A brush that repeats a bitmap, gray without one. `takesColors`: one of two colours is drawn in those of
+/// the text and the background.
+QBrush GdiPatternBrush(const QImage& pattern, bool takesColors);
 /// One of the objects that exist without being made; any other number is an object that changes nothing.
 GdiObject GdiStockObject(StockObject object);
 

@@ -9,6 +9,9 @@ namespace torvik::rtf {
 namespace {
 
 constexpr std::size_t deviceBitmapHeaderBytes = 10;
+/// Behind the header of a brush's bitmap stand a pointer and 18 more bytes without meaning.
+constexpr std::size_t pixelsOfOldPattern = 32;
+constexpr quint16 patternOfDevice = 3;
 constexpr qint64 mostDeviceBitmapBytes = 16LL * 1024 * 1024;
 
 struct Places {
@@ -28,6 +31,17 @@ Places ReadPlaces(const ByteReader& in, std::size_t at, bool scales)
     const int height = in.S16(at + 4);
     return {{in.S16(at + 2), in.S16(at), width, height},
             QRectF(in.S16(at + 10), in.S16(at + 8), width, height)};
+}
+
+DeviceBitmap DeviceBitmapAt(const ByteReader& in, std::size_t at, std::size_t pixelsAt)
+{
+    DeviceBitmap bitmap;
+    bitmap.width = in.S16(at + 2);
+    bitmap.height = in.S16(at + 4);
+    bitmap.lineBytes = in.S16(at + 6);
+    bitmap.bitsPerPixel = in.U8(at + 9);
+    bitmap.pixels = in.Slice(pixelsAt);
+    return bitmap;
 }
 
 } // namespace
@@ -68,6 +82,18 @@ bool WmfPlayer::PlayBitmap(WmfFunction function, const ByteReader& in)
     }
 }
 
+void WmfPlayer::AddPattern(WmfFunction function, const ByteReader& in)
+{
+    if (function == WmfFunction::CreatePatternBrush) {
+        const DeviceBitmap bitmap = DeviceBitmapAt(in, 0, pixelsOfOldPattern);
+        objects_.Add(GdiPatternBrush(DecodeDeviceBitmap(bitmap, mostPatternBytes), true));
+        return;
+    }
+    // The kind of brush tells where the bitmap came from; then comes the use of the palette.
+    const bool cameFromDevice = in.U16(0) == patternOfDevice;
+    objects_.Add(GdiPatternBrush(DecodePackedDib(in.Slice(4), mostPatternBytes), cameFromDevice));
+}
+
 void WmfPlayer::FillBlock(const ByteReader& in, bool scales)
 {
     // A number without meaning stands before the size of the target.
@@ -101,14 +127,9 @@ void WmfPlayer::PlayDeviceBitmap(const ByteReader& in, std::size_t sizesAt, std:
     if (in.Size() <= bitmapAt + 2)
         return FillBlock(in, scales);
     const Places places = ReadPlaces(in, sizesAt, scales);
-    DeviceBitmap stored;
-    stored.width = in.S16(bitmapAt + 2);
-    stored.height = in.S16(bitmapAt + 4);
-    stored.lineBytes = in.S16(bitmapAt + 6);
-    stored.bitsPerPixel = in.U8(bitmapAt + 9);
-    stored.pixels = in.Slice(bitmapAt + deviceBitmapHeaderBytes);
     GdiBitmap bitmap;
-    bitmap.image = DecodeDeviceBitmap(stored, mostDeviceBitmapBytes);
+    bitmap.image = DecodeDeviceBitmap(DeviceBitmapAt(in, bitmapAt, bitmapAt + deviceBitmapHeaderBytes),
+                                      mostDeviceBitmapBytes);
     bitmap.source = places.source;
     bitmap.target = places.target;
     bitmap.operation = static_cast<RasterOperation>(in.U32(0));

@@ -151,7 +151,7 @@ bool WmfPlayer::PlayObject(WmfFunction function, const ByteReader& in)
     }
     case WmfFunction::CreatePatternBrush:
     case WmfFunction::DibCreatePatternBrush:
-        objects_.Add(QBrush(Qt::gray));
+        AddPattern(function, in);
         return true;
     case WmfFunction::CreatePalette:
     case WmfFunction::CreateRegion:

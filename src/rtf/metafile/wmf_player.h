@@ -43,6 +43,7 @@ private:
     void PlayText(const ByteReader& in);
     void PlayExtendedText(const ByteReader& in);
     void PutText(const QPointF& at, std::string_view bytes, std::vector<double> advances);
+    void AddPattern(WmfFunction function, const ByteReader& in);
     /// What the records of bitmaps do that bring none: they fill with the brush, black or white.
     void FillBlock(const ByteReader& in, bool scales);
     void PlayDib(const ByteReader& in, std::size_t sizesAt, std::size_t dibAt, bool scales);
