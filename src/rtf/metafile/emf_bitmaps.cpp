@@ -14,6 +14,10 @@ namespace {
 constexpr std::size_t placesOfBlt = 84;
 constexpr std::size_t placesOfDibits = 48;
 constexpr std::size_t placesOfPattern = 16;
+constexpr std::size_t placesOfMask = 112;
+constexpr qint64 mostMaskBytes = 16LL * 1024 * 1024;
+/// The operation that changes nothing.
+constexpr quint8 leavesTarget = 0xaa;
 
 RasterOperation OperationAt(const ByteReader& in, std::size_t at)
 {
@@ -49,10 +53,7 @@ bool EmfPlayer::PlayBitmap(EmfRecord type, const ByteReader& in)
         PutBitmap(in, placesOfBlt, SourceRect(in, 44, 32), TargetRect(in, 24, 32), OperationAt(in, 40));
         return true;
     case EmfRecord::MaskBlt:
-        // The highest byte is the operation for what the mask leaves out; all is taken for what it lets
-        // through.
-        PutBitmap(in, placesOfBlt, SourceRect(in, 44, 32), TargetRect(in, 24, 32),
-                  static_cast<RasterOperation>(in.U32(40) & 0xffffffU));
+        PutMaskedBitmap(in);
         return true;
     case EmfRecord::StretchBlt:
         PutBitmap(in, placesOfBlt, SourceRect(in, 44, 100), TargetRect(in, 24, 32), OperationAt(in, 40));
@@ -84,6 +85,25 @@ QImage EmfPlayer::PatternAt(const ByteReader& in)
 {
     const GdiBitmap bitmap = BitmapAt(in, placesOfPattern);
     return DecodeDib(bitmap.header, bitmap.pixels, mostPatternBytes);
+}
+
+void EmfPlayer::PutMaskedBitmap(const ByteReader& in)
+{
+    // Two operations in one number: the highest byte is for the pixels that the mask leaves out.
+    const auto operation = static_cast<RasterOperation>(in.U32(40) & 0xffffffU);
+    const QRectF target = TargetRect(in, 24, 32);
+    if (in.U32(placesOfBlt + 4) == 0)
+        return canvas_.Fill(target, operation);
+    GdiBitmap bitmap = BitmapAt(in, placesOfBlt);
+    bitmap.source = SourceRect(in, 44, 32);
+    bitmap.target = target;
+    bitmap.operation = operation;
+    const GdiBitmap mask = BitmapAt(in, placesOfMask);
+    if (in.U8(43) == leavesTarget && ReadDibHeader(mask.header).bitsPerPixel == 1) {
+        bitmap.mask = DecodeDib(mask.header, mask.pixels, mostMaskBytes);
+        bitmap.maskOrigin = SourceRect(in, 100, 100).topLeft();
+    }
+    canvas_.Bitmap(bitmap);
 }
 
 void EmfPlayer::PutBitmap(const ByteReader& in, std::size_t placesAt, const QRect& source,

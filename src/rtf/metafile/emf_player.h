@@ -38,6 +38,7 @@ private:
     void PlayClip(const ByteReader& in);
     /// The bitmap of a brush; null when it cannot be read.
     static QImage PatternAt(const ByteReader& in);
+    void PutMaskedBitmap(const ByteReader& in);
     void PutBitmap(const ByteReader& in, std::size_t placesAt, const QRect& source, const QRectF& target,
                    RasterOperation operation);
 

@@ -77,6 +77,21 @@ QImage WithAlpha(const GdiBitmap& bitmap, const QImage& image)
     return clear;
 }
 
+/// The pixels that a mask leaves; beyond its edges it leaves all.
+QImage Masked(const QImage& image, const GdiBitmap& bitmap)
+{
+    QImage masked = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < masked.height(); ++y) {
+        auto* to = reinterpret_cast<QRgb*>(masked.scanLine(y));
+        for (int x = 0; x < masked.width(); ++x) {
+            const QPoint at = bitmap.maskOrigin + QPoint(x, y);
+            if (bitmap.mask.valid(at) && bitmap.mask.pixelIndex(at) == 0)
+                to[x] = 0;
+        }
+    }
+    return masked;
+}
+
 QSize SizeOf(const GdiBitmap& bitmap)
 {
     if (!bitmap.image.isNull())
@@ -95,7 +110,9 @@ QImage DecodeGdiBitmap(const GdiBitmap& bitmap, qint64 mostBytes)
     if (bitmap.hasAlpha)
         image = WithAlpha(bitmap, image);
     const QRect source = GdiSource(bitmap, image.size());
-    return source == image.rect() || image.isNull() ? image : image.copy(source);
+    if (source != image.rect() && !image.isNull())
+        image = image.copy(source);
+    return bitmap.mask.isNull() || image.isNull() ? image : Masked(image, bitmap);
 }
 
 QRect GdiSource(const GdiBitmap& bitmap, const QSize& size)

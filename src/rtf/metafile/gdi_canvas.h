@@ -30,6 +30,10 @@ struct GdiBitmap {
     double opacity = 1;
     /// Whether the fourth byte of each pixel tells how much of it is seen.
     bool hasAlpha = false;
+    /// Of two colours: where it has the first, nothing is seen of the bitmap. Null for none. The upper left
+    /// of what is shown lies at `maskOrigin`.
+    QImage mask;
+    QPoint maskOrigin;
     /// Already decoded bitmaps come this way.
     QImage image;
 };

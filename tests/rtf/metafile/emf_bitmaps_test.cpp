@@ -156,6 +156,29 @@ private Q_SLOTS:
         QCOMPARE(InkOf(image), QRect(10, 20, 40, 30));
     }
 
+    void a_mask_lets_through_what_has_its_second_colour()
+    {
+        // Four by two pixels, of which two by two are asked for, from the second column on: the second of the
+        // upper line and the first of the lower one.
+        const QByteArray mask =
+            Dib(4, 2, 1, QByteArray::fromHex("00000000ffffff00"), QByteArray::fromHex("4000000020000000"));
+        const auto drawn = [&](qint64 operation, qint64 maskHeaderBytes) {
+            QByteArray record = Record(maskBlt, {0, 0, 2, 2}, {30, 40, 2, 2}, FourColors(), operation);
+            const qint64 maskAt = record.size();
+            record.replace(
+                100, 28,
+                Bytes().Longs({1, 0, 0, maskAt, maskHeaderBytes, maskAt + 48, mask.size() - 48}).Data());
+            return Draw(EmfRecord(maskBlt, record.mid(8) + mask));
+        };
+        const QImage masked = drawn(0xaacc0020, 48);
+        QCOMPARE(masked.pixelColor(31, 40), QColor(Qt::green));
+        QCOMPARE(masked.pixelColor(30, 41), QColor(Qt::blue));
+        QCOMPARE(NotBare(masked, {{30, 40}, {31, 41}}), QString());
+        // Without a mask, and with another operation for the rest, all of it is seen.
+        QCOMPARE(CornersOf(drawn(0xaacc0020, 0), {30, 40, 2, 2}), fourCorners);
+        QCOMPARE(CornersOf(drawn(0xcccc0020, 48), {30, 40, 2, 2}), fourCorners);
+    }
+
     void a_blend_shows_as_much_as_it_says()
     {
         const QByteArray blue = OnePixel(QByteArray::fromHex("ff000000"));
