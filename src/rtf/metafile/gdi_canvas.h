@@ -39,7 +39,7 @@ struct GdiBitmap {
 };
 
 /// What the bitmap of a brush may take, bytes.
-inline constexpr qint64 mostPatternBytes = 1024 * 1024;
+inline constexpr qint64 mostPatternBytes = 1024LL * 1024;
 
 /// The part of a bitmap of some size that is shown.
 QRect GdiSource(const GdiBitmap& bitmap, const QSize& size);

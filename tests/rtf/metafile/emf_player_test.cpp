@@ -64,8 +64,8 @@ private Q_SLOTS:
                                     << Points{{12, 22}, {87, 57}};
         QTest::newRow("a rounded rectangle has no corners")
             << EmfLongs(44, {10, 20, 90, 80, 60, 20}) << QRect(10, 20, 80, 60)
-            << Points{{45, 21}, {11, 50}, {88, 50}, {50, 78}, {15, 26}}
-            << Points{{10, 20}, {89, 79}, {15, 21}};
+            << Points{{45, 21}, {11, 50}, {88, 50}, {50, 78}, {12, 28}}
+            << Points{{10, 20}, {89, 79}, {20, 21}};
         QTest::newRow("a pie has its point in the middle")
             << EmfLongs(47, {0, 0, 100, 100, 100, 50, 50, 0}) << QRect(50, 0, 50, 50)
             << Points{{52, 47}, {80, 20}, {65, 40}} << Points{{97, 2}, {45, 45}, {52, 52}};

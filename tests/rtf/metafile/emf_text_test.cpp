@@ -93,9 +93,12 @@ private Q_SLOTS:
         QFETCH(const quint32, type);
         const QRect single = Ink(Record(type, {.letters = "I"}));
         QCOMPARE(Ink(Record(type, {.letters = "II", .widths = {50, 10}})), single | single.translated(50, 0));
-        // Here every width is followed by a step down.
-        QCOMPARE(Ink(Record(type, {.letters = "II", .options = stepsDown, .widths = {50, 0, 10, 0}})),
-                 single | single.translated(50, 0));
+        // Here every width is followed by a step down: the letters stand at 0, 20 and 60.
+        const QImage three = DrawnEmf(
+            Red() + Record(type, {.letters = "III", .options = stepsDown, .widths = {20, 0, 40, 0, 10, 0}}));
+        QCOMPARE(InkOf(three), single | single.translated(60, 0));
+        QVERIFY(!InkOf(three.copy(30, 0, 10, 100)).isEmpty());
+        QVERIFY(InkOf(three.copy(45, 0, 20, 100)).isEmpty());
         QCOMPARE(Ink(Record(type, {.letters = "III", .widths = {50, 10}})),
                  Ink(Record(type, {.letters = "III"})));
     }

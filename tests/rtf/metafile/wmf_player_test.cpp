@@ -38,8 +38,8 @@ private Q_SLOTS:
                                     << Points{{12, 22}, {87, 57}};
         QTest::newRow("a rounded rectangle has no corners")
             << WmfWords(0x061c, {20, 60, 80, 90, 20, 10}) << QRect(10, 20, 80, 60)
-            << Points{{45, 21}, {11, 50}, {88, 50}, {50, 78}, {15, 26}}
-            << Points{{10, 20}, {89, 79}, {15, 21}};
+            << Points{{45, 21}, {11, 50}, {88, 50}, {50, 78}, {12, 28}}
+            << Points{{10, 20}, {89, 79}, {20, 21}};
         QTest::newRow("a polygon") << WmfWords(0x0324, {3, 10, 10, 90, 10, 10, 90}) << QRect(10, 10, 80, 80)
                                    << Points{{12, 12}, {30, 60}} << Points{{60, 60}};
         QTest::newRow("several polygons in one, with a hole where they overlap")
