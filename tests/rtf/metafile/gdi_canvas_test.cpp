@@ -79,6 +79,16 @@ private Q_SLOTS:
         QCOMPARE(NotBare(image, {{70, 70}, {50, 90}}), QString());
     }
 
+    void moving_the_pen_begins_a_figure_even_where_it_stands()
+    {
+        // Two triangles that share a corner, each closed at its own start.
+        const QImage image = DrawnEmf(RedPenBlueBrush() + EmfLongs(10, {-10, 0}) + BeginPath() +
+                                      MoveTo(0, 10) + LineTo(40, 10) + LineTo(40, 50) + MoveTo(40, 50) +
+                                      LineTo(80, 50) + LineTo(80, 70) + EndPath() + StrokeAndFillPath());
+        QCOMPARE(NotPainted(image, {{30, 30}, {70, 60}}, Qt::red), QString());
+        QCOMPARE(NotBare(image, {{30, 50}, {30, 70}, {70, 30}}), QString());
+    }
+
     void an_aborted_path_is_gone()
     {
         const QByteArray rest = StrokePath() + FillPath() + EmfRectangle(2, 2, 10, 10);
