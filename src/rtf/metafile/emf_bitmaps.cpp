@@ -81,10 +81,13 @@ bool EmfPlayer::PlayBitmap(EmfRecord type, const ByteReader& in)
     }
 }
 
-QImage EmfPlayer::PatternAt(const ByteReader& in)
+void EmfPlayer::PutPattern(const ByteReader& in, bool takesColors)
 {
     const GdiBitmap bitmap = BitmapAt(in, placesOfPattern);
-    return DecodeDib(bitmap.header, bitmap.pixels, mostPatternBytes);
+    const QImage pattern = DecodeDib(bitmap.header, bitmap.pixels, mostPatternBytes);
+    // Runs make a large pattern out of few bytes.
+    canvas_.Spend(workOfPatternPixel * pattern.width() * pattern.height());
+    objects_.Put(in.U32(8), GdiPatternBrush(pattern, takesColors));
 }
 
 void EmfPlayer::PutMaskedBitmap(const ByteReader& in)

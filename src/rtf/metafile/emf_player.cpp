@@ -222,10 +222,10 @@ bool EmfPlayer::PlayObject(EmfRecord type, const ByteReader& in)
         objects_.Put(number, GdiBrush(in.S32(12), in.U32(16), in.S32(20)));
         return true;
     case EmfRecord::CreateMonoBrush:
-        objects_.Put(number, GdiPatternBrush(PatternAt(in), true));
+        PutPattern(in, true);
         return true;
     case EmfRecord::CreateDibPatternBrushPt:
-        objects_.Put(number, GdiPatternBrush(PatternAt(in), false));
+        PutPattern(in, false);
         return true;
     case EmfRecord::ExtCreateFontIndirectW:
         objects_.Put(number, ReadFont(in));

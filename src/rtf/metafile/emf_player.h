@@ -36,8 +36,7 @@ private:
     void SetMapMode(MapMode mode);
     void SetUnits(double perMillimetre);
     void PlayClip(const ByteReader& in);
-    /// The bitmap of a brush; null when it cannot be read.
-    static QImage PatternAt(const ByteReader& in);
+    void PutPattern(const ByteReader& in, bool takesColors);
     void PutMaskedBitmap(const ByteReader& in);
     void PutBitmap(const ByteReader& in, std::size_t placesAt, const QRect& source, const QRectF& target,
                    RasterOperation operation);

@@ -145,6 +145,9 @@ void GdiCanvas::Paint(QPainterPath mapped, bool stroke, bool fill)
     const QRectF bounds = mapped.controlPointRect();
     const QRectF seen = painter_ != nullptr ? bounds & QRectF(painter_->viewport()) : QRectF();
     const double length = bounds.width() + bounds.height();
+    const QSize pattern =
+        state_.brush.style() == Qt::TexturePattern ? state_.brush.textureImage().size() : QSize(0, 0);
+    Spend(double(pattern.width()) * pattern.height());
     if (!Note(bounds,
               workOfShape + workOfPoint * mapped.elementCount() + seen.width() * seen.height() + length))
         return;

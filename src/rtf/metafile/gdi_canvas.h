@@ -40,6 +40,8 @@ struct GdiBitmap {
 
 /// What the bitmap of a brush may take, bytes.
 inline constexpr qint64 mostPatternBytes = 1024LL * 1024;
+/// What reading it costs, in pixels painted.
+inline constexpr double workOfPatternPixel = 8;
 
 /// The part of a bitmap of some size that is shown.
 QRect GdiSource(const GdiBitmap& bitmap, const QSize& size);
@@ -114,6 +116,8 @@ public:
     void CloseFigure();
     void DrawPath(bool stroke, bool fill);
 
+    /// Counts what a drawing costs that is no painting, in pixels.
+    void Spend(double work) { workLeft_ -= work; }
     /// False once a drawing has cost so much that the rest of it is left out.
     bool MayGoOn() const { return workLeft_ > 0; }
 

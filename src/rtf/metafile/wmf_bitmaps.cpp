@@ -84,14 +84,18 @@ bool WmfPlayer::PlayBitmap(WmfFunction function, const ByteReader& in)
 
 void WmfPlayer::AddPattern(WmfFunction function, const ByteReader& in)
 {
+    QImage pattern;
+    bool takesColors = true;
     if (function == WmfFunction::CreatePatternBrush) {
-        const DeviceBitmap bitmap = DeviceBitmapAt(in, 0, pixelsOfOldPattern);
-        objects_.Add(GdiPatternBrush(DecodeDeviceBitmap(bitmap, mostPatternBytes), true));
-        return;
+        pattern = DecodeDeviceBitmap(DeviceBitmapAt(in, 0, pixelsOfOldPattern), mostPatternBytes);
+    } else {
+        // The kind of brush tells where the bitmap came from; then comes the use of the palette.
+        takesColors = in.U16(0) == patternOfDevice;
+        pattern = DecodePackedDib(in.Slice(4), mostPatternBytes);
     }
-    // The kind of brush tells where the bitmap came from; then comes the use of the palette.
-    const bool cameFromDevice = in.U16(0) == patternOfDevice;
-    objects_.Add(GdiPatternBrush(DecodePackedDib(in.Slice(4), mostPatternBytes), cameFromDevice));
+    // Runs make a large pattern out of few bytes.
+    canvas_.Spend(workOfPatternPixel * pattern.width() * pattern.height());
+    objects_.Add(GdiPatternBrush(pattern, takesColors));
 }
 
 void WmfPlayer::FillBlock(const ByteReader& in, bool scales)

@@ -85,6 +85,25 @@ private Q_SLOTS:
         QCOMPARE(CornersOf(image, {48, 38, 2, 2}), fourCorners);
     }
 
+    void patterns_without_end_leave_out_the_rest()
+    {
+        // A few bytes that are many pixels each time. What was drawn before stays.
+        const QByteArray large = Dib(500, 500, 8, {}, QByteArray(4, '\0'), 1);
+        const QImage older = DrawnWmf(WmfFilled(inRed) + WmfRectangle(10, 10, 20, 20) +
+                                      WmfDibBrush(5, large).repeated(5000) + WmfRectangle(60, 60, 80, 80));
+        const QByteArray brush = EmfRecord(
+            94, Bytes().Longs({2, 0, 32, large.size() - 4, 32 + large.size() - 4, 4}).Raw(large).Data());
+        const QImage newer = DrawnEmf(EmfFilled(inRed) + EmfRectangle(10, 10, 20, 20) + brush.repeated(5000) +
+                                      EmfRectangle(60, 60, 80, 80));
+        // Nor may it be painted with for ever.
+        const QByteArray used = EmfFilled(inRed) + EmfRectangle(10, 10, 20, 20) + brush + EmfSelect(2) +
+                                EmfRectangle(30, 30, 31, 31).repeated(5000) + EmfRectangle(60, 60, 80, 80);
+        for (const QImage& image : {older, newer, DrawnEmf(used)}) {
+            QCOMPARE(NotPainted(image, {{15, 15}}, Qt::red), QString());
+            QCOMPARE(NotBare(image, {{70, 70}}), QString());
+        }
+    }
+
     void without_its_bitmap_a_pattern_is_gray()
     {
         for (const QByteArray& brush : {WmfDibBrush(3, {}), WmfDibBrush(5, CyanAndYellow().chopped(2)),
