@@ -51,10 +51,10 @@ private Q_SLOTS:
 
     void too_large_a_jpeg_comes_out_smaller_and_a_png_not_at_all()
     {
-        const QImage small = DecodeStoredPicture(ViewOf(Stored("jpeg")), 64 * 32);
+        const QImage small = DecodeStoredPicture(ViewOf(Stored("jpeg")), 64LL * 32);
         QCOMPARE(small.size(), QSize(32, 16));
         QVERIFY(IsNear(small.pixelColor(5, 5), Qt::red) && IsNear(small.pixelColor(28, 12), Qt::blue));
-        QVERIFY(DecodeStoredPicture(ViewOf(Stored("png")), 64 * 32).isNull());
+        QVERIFY(DecodeStoredPicture(ViewOf(Stored("png")), 64LL * 32).isNull());
         QVERIFY(DecodeStoredPicture(ViewOf(Stored("jpeg")), 0).isNull());
         QVERIFY(DecodeStoredPicture(ViewOf(Stored("jpeg")), -5).isNull());
     }
@@ -62,7 +62,7 @@ private Q_SLOTS:
     void pixels_of_twice_the_depth_cost_twice_as_much()
     {
         const QByteArray deep = Stored("png", QImage::Format_RGBX64);
-        const qint64 usual = 64 * 32 * 4;
+        const qint64 usual = 64LL * 32 * 4;
         QVERIFY(DecodeStoredPicture(ViewOf(deep), 2 * usual - 1).isNull());
         QVERIFY(!DecodeStoredPicture(ViewOf(deep), 2 * usual).isNull());
         QVERIFY(DecodeStoredPicture(ViewOf(Stored("png")), usual - 1).isNull());

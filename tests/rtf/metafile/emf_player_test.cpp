@@ -271,7 +271,7 @@ private Q_SLOTS:
                 continue;
             for (const char filling : {'\x00', '\x01', '\x7f', '\xff'}) {
                 for (int longs = 0; longs < 30; longs += longs < 8 ? 1 : 5) {
-                    const QByteArray cut = EmfRecord(type, QByteArray(longs * 4, filling));
+                    const QByteArray cut = EmfRecord(type, QByteArray(4LL * longs, filling));
                     const QImage image = DrawnEmf(EmfFilled(inRed) + SaveState() + cut + RestoreState(1) +
                                                   EmfRectangle(10, 20, 50, 40));
                     QVERIFY2(image.pixelColor(30, 30) == QColor(Qt::red),

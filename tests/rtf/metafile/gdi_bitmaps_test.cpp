@@ -78,7 +78,7 @@ private Q_SLOTS:
     void a_bitmap_alone_is_cut_by_the_clip()
     {
         const QRect all(0, 0, 100, 100);
-        const QByteArray pixels = QByteArray(100 * 300, '\x7f');
+        const QByteArray pixels = QByteArray(100LL * 300, '\x7f');
         const QByteArray gray = Dib(100, 100, 24, {}, pixels);
         const auto drawn = [&](int right) {
             return DrawnEmf(EmfLongs(30, {0, 0, right, 100}) +
