@@ -130,6 +130,22 @@ private Q_SLOTS:
             QVERIFY2(Decode(FourColors().left(length)).isNull(), QByteArray::number(length).constData());
     }
 
+    void headers_that_lie_are_refused()
+    {
+        // A header longer than the bytes, a height that has no opposite, more colours than a depth can name.
+        QVERIFY(Decode(QByteArray(FourColors()).replace(0, 4, Bytes().U32(5000).Data())).isNull());
+        QVERIFY(Decode(QByteArray(FourColors()).replace(8, 4, Bytes().U32(0x80000000).Data())).isNull());
+        QByteArray colors =
+            Dib(1, 1, 1, QByteArray::fromHex("0000ff0000ff0000"), QByteArray::fromHex("80000000"));
+        colors.replace(32, 4, Bytes().U32(0x7fffffff).Data());
+        QCOMPARE(Decode(colors).pixelColor(0, 0), QColor(Qt::green));
+        // Runs are of eight or four bits and of no others.
+        QVERIFY(Decode(Dib(2, 2, 24, {}, QByteArray(40, 'x'), 1)).isNull());
+        QVERIFY(Decode(Dib(2, 2, 8, {}, QByteArray(40, 'x'), 2)).isNull());
+        QVERIFY(Decode(Dib(2, 2, 24, {}, QByteArray(40, 'x'), 6)).isNull());
+        QVERIFY(Decode("no bitmap at all, by any header").isNull());
+    }
+
     void sides_and_costs_out_of_bounds_are_refused()
     {
         QVERIFY(Decode(Dib(60000, 60000, 1, {}, QByteArray(100, 'x'))).isNull());

@@ -174,6 +174,38 @@ private Q_SLOTS:
         QCOMPARE(drawn.image.size(), QSize(192, 96));
     }
 
+    void a_placeable_header_without_a_box_leaves_the_size_to_the_window()
+    {
+        const QByteArray header =
+            Bytes().U32(0x9ac6cdd7).Words({0, 10, 10, 10, 10, 1440}).U32(0).U16(0).Data();
+        const QByteArray bytes = header + Wmf(100, 100, WmfFilled(inRed) + WmfRectangle(10, 20, 50, 40));
+        const MetafileImage drawn = DrawWmf(ViewOf(bytes), {50, 50}, plentyOfBytes);
+        QVERIFY(drawn.naturalSize.isEmpty());
+        QCOMPARE(ExtentOf(drawn.image, Qt::red), QRect(10, 20, 40, 20));
+    }
+
+    void a_placeable_header_without_units_counts_in_twips()
+    {
+        const QByteArray header = Bytes().U32(0x9ac6cdd7).Words({0, 0, 0, 1440, 720, 0}).U32(0).U16(0).Data();
+        const QByteArray bytes = header + Wmf(1440, 720, WmfFilled(inRed) + WmfRectangle(0, 0, 720, 720));
+        QCOMPARE(DrawWmf(ViewOf(bytes), {}, plentyOfBytes).naturalSize, QSizeF(96, 48));
+    }
+
+    void without_any_size_a_drawing_is_as_large_as_a_hand()
+    {
+        const QByteArray bytes = Wmf(100, 100, WmfFilled(inRed) + WmfRectangle(0, 0, 50, 100));
+        const QImage image = DrawWmf(ViewOf(bytes), {}, plentyOfBytes).image;
+        QCOMPARE(image.size(), QSize(600, 600));
+        QCOMPARE(ExtentOf(image, Qt::red), QRect(0, 0, 300, 600));
+    }
+
+    void without_memory_there_is_no_drawing()
+    {
+        const QByteArray bytes = Wmf(100, 100, WmfFilled(inRed) + WmfRectangle(0, 0, 50, 100));
+        QVERIFY(DrawWmf(ViewOf(bytes), {50, 50}, 3).image.isNull());
+        QVERIFY(DrawWmf(ViewOf(bytes), {50, 50}, -1).image.isNull());
+    }
+
     void an_enhanced_metafile_draws_the_same_shapes()
     {
         const QImage image =

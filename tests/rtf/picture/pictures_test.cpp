@@ -1,5 +1,5 @@
 #include "rtf/documents.h"
-#include "rtf/picture_bytes.h"
+#include "rtf/metafile/metafile_maker.h"
 #include "support/test_class.h"
 
 #include <QBuffer>
@@ -125,6 +125,28 @@ private Q_SLOTS:
         cursor.setPosition(2);
         // Sides of metafiles are hundredths of a millimetre.
         QCOMPARE(cursor.charFormat().toImageFormat().width(), 96.0);
+    }
+
+    void a_picture_that_does_not_say_its_kind_may_be_a_bitmap()
+    {
+        const Reading read = ReadBody("{\\pict\\picw2\\pich2 " + FourColors().toHex() + "}\\par");
+        QCOMPARE(read.result.pictures, 1);
+        QCOMPARE(ImageOf(read, 1).pixelColor(1, 0), QColor(Qt::green));
+    }
+
+    void a_drawing_is_seen_in_an_article_as_its_records_say()
+    {
+        // A quarter of an inch each way, at twice the screen's pixels; a red square in the upper left
+        // quarter.
+        const QByteArray wmf = Wmf(48, 48, WmfFilled(inRed) + WmfRectangle(0, 0, 24, 24));
+        const QByteArray emf = Emf(48, 48, EmfFilled(inRed) + EmfRectangle(0, 0, 24, 24));
+        const Reading read =
+            ReadBody("{\\pict\\wmetafile8\\picwgoal360\\pichgoal360 " + wmf.toHex() +
+                     "}{\\pict\\emfblip\\picwgoal360\\pichgoal360 " + emf.toHex() + "}\\par");
+        for (const int number : {1, 2}) {
+            QCOMPARE(ImageOf(read, number).size(), QSize(48, 48));
+            QCOMPARE(ExtentOf(ImageOf(read, number), Qt::red), QRect(0, 0, 24, 24));
+        }
     }
 
     void an_enhanced_metafile_is_known_by_its_bytes()
