@@ -247,15 +247,15 @@ private Q_SLOTS:
 
     void sources_beyond_all_bounds_are_survived()
     {
-        constexpr int far = 1'000'000'000;
+        constexpr int farOut = 1'000'000'000;
         const QRect target(10, 20, 40, 30);
         const auto drawn = [&](quint32 type, const QRect& source) {
             return CornersOf(Draw(Record(type, source, target, FourColors())), target);
         };
         for (const quint32 type : {stretchBlt, stretchDibits}) {
-            QCOMPARE(drawn(type, {far, far, 5, 5}), fourCorners);
-            QCOMPARE(drawn(type, {0, 0, far, far}), fourCorners);
-            QCOMPARE(drawn(type, {-far, -far, -far, -far}), drawn(type, {2, 2, -2, -2}));
+            QCOMPARE(drawn(type, {farOut, farOut, 5, 5}), fourCorners);
+            QCOMPARE(drawn(type, {0, 0, farOut, farOut}), fourCorners);
+            QCOMPARE(drawn(type, {-farOut, -farOut, -farOut, -farOut}), drawn(type, {2, 2, -2, -2}));
         }
     }
 };

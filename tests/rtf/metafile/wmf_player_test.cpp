@@ -267,7 +267,7 @@ private Q_SLOTS:
               0x0324, 0x0325, 0x0418, 0x041b, 0x041f, 0x0521, 0x0538, 0x061c, 0x061d, 0x0817, 0x081a, 0x0830,
               0x0922, 0x0940, 0x0a32, 0x0b23, 0x0b41, 0x0d33, 0x0f43, 0x00f7, 0x06ff, 0x0142, 0x01f9}) {
             for (int words = 0; words < 12; ++words) {
-                const QByteArray cut = WmfRecord(function, QByteArray(words * 2, '\x7f'));
+                const QByteArray cut = WmfRecord(function, QByteArray(2LL * words, '\x7f'));
                 const QImage image = DrawnWmf(WmfFilled(inRed) + SaveState() + cut + RestoreState(-1) +
                                               WmfRectangle(10, 20, 50, 40));
                 QVERIFY2(image.pixelColor(30, 30) == QColor(Qt::red),
