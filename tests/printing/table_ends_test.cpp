@@ -19,7 +19,7 @@ using namespace torvik;
 class TableEndsTest : public QObject {
     Q_OBJECT
 
-    const QByteArray plainTable = "\\trowd\\cellx3000\\pard\\intbl table\\cell\\row";
+    const QByteArray plainTable_ = "\\trowd\\cellx3000\\pard\\intbl table\\cell\\row";
 
 private Q_SLOTS:
     void a_page_is_neither_cut_nor_left_empty_below_a_table_data()
@@ -29,13 +29,13 @@ private Q_SLOTS:
         QTest::addColumn<bool>("breaks");
         const QByteArray box = "\\box\\brdrs\\brdrw15 ";
         const QByteArray row = "\\trowd\\cellx3000\\pard\\intbl ";
-        QTest::newRow("text") << plainTable << QByteArray("\\pard end\\par") << false;
+        QTest::newRow("text") << plainTable_ << QByteArray("\\pard end\\par") << false;
         const QByteArray text = "\\pard\\pagebb end\\par";
-        QTest::newRow("text that begins a page") << plainTable << text << true;
+        QTest::newRow("text that begins a page") << plainTable_ << text << true;
         QTest::newRow("a box that begins a page")
-            << plainTable << "\\pard\\pagebb" + box + "end\\par" << true;
+            << plainTable_ << "\\pard\\pagebb" + box + "end\\par" << true;
         QTest::newRow("a table that begins a page")
-            << plainTable << "\\pard\\page" + row + "end\\cell\\row" << true;
+            << plainTable_ << "\\pard\\page" + row + "end\\cell\\row" << true;
         for (const int width : {15, 45, 90}) {
             const QByteArray line = "\\brdrs\\brdrw" + QByteArray::number(width);
             const QByteArray boxed = "\\pard\\box" + line + " table\\par";
@@ -85,7 +85,7 @@ private Q_SLOTS:
         for (int height = 1200; height < 1400; ++height) {
             QTextDocument document;
             document.documentLayout()->setPaintDevice(&paper);
-            Lay(document, plainTable, "\\pard\\pagebb end\\par", height, false);
+            Lay(document, plainTable_, "\\pard\\pagebb end\\par", height, false);
             const QTextFrame* table = document.rootFrame()->childFrames().first();
             const double before = table->frameFormat().bottomMargin();
             FillPagesBelowTables(document, scale);
@@ -106,8 +106,8 @@ private Q_SLOTS:
         for (double height = 400; height < 500; height += 0.3) {
             QTextDocument filled;
             QTextDocument plain;
-            Lay(filled, plainTable, {}, height, true);
-            Lay(plain, plainTable, {}, height, false);
+            Lay(filled, plainTable_, {}, height, true);
+            Lay(plain, plainTable_, {}, height, false);
             QCOMPARE(filled.pageCount(), plain.pageCount());
         }
     }
