@@ -55,6 +55,12 @@ FormWindow::FormWindow(Form& form) : form_(&form), client_(new QWidget(this))
             [this](const QWidget* /*before*/, QWidget* now) { RememberFocus(now); });
 }
 
+/// A window that goes loses the focus after this, when it is hardly more than a bare widget.
+FormWindow::~FormWindow()
+{
+    qApp->disconnect(this);
+}
+
 /// With Shift these keys give other characters, which ones is a matter of the user's layout, and some layouts
 /// have a key of its own for "<" and ">". Only Qt's shortcuts know the key behind the character.
 void FormWindow::WatchWithShift(Qt::Key key, int code)

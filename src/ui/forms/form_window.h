@@ -22,6 +22,9 @@ public:
     static inline const auto changeWaits = static_cast<QEvent::Type>(QEvent::registerEventType());
 
     explicit FormWindow(Form& form);
+    ~FormWindow() override;
+    FormWindow(const FormWindow&) = delete;
+    FormWindow& operator=(const FormWindow&) = delete;
 
     QWidget& Client() { return *client_; }
     /// The menu bar; null on a form without one.
