@@ -12,9 +12,9 @@ namespace torvik {
 LinesAbove::LinesAbove(const QTextDocument& text)
 {
     for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
-        if (PageOf(FirstLineOf(block), text) == PageOf(LastLineOf(block), text))
-            continue;
         const QTextLayout& layout = *block.layout();
+        if (layout.lineCount() < 2)
+            continue; // most are titles and cells, and to ask where one stands takes its time
         const double top = TopOf(block);
         for (int next = 1; next < layout.lineCount(); ++next) {
             const double page = PageOf(top + layout.lineAt(next).y(), text);
