@@ -1,3 +1,4 @@
+#include "rtf/metafile/drawing_rows.h"
 #include "rtf/metafile/metafile_maker.h"
 #include "support/test_class.h"
 
@@ -134,10 +135,7 @@ private Q_SLOTS:
 
     void bytes_follow_the_character_set_of_the_font_data()
     {
-        QTest::addColumn<int>("charset");
-        QTest::addColumn<QByteArray>("face");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<ushort>("letter");
+        AddLetterColumns();
         QTest::newRow("western") << 0 << QByteArray("Arial") << QByteArray("\xc4") << ushort(0x00c4);
         QTest::newRow("Cyrillic") << 204 << QByteArray("Arial") << QByteArray("\xc6") << ushort(0x0416);
         QTest::newRow("symbols") << 2 << QByteArray("Symbol") << QByteArray("\xae") << ushort(0x2192);
@@ -146,10 +144,7 @@ private Q_SLOTS:
     }
     void bytes_follow_the_character_set_of_the_font()
     {
-        QFETCH(const int, charset);
-        QFETCH(const QByteArray, face);
-        QFETCH(const QByteArray, bytes);
-        QFETCH(const ushort, letter);
+        const auto [charset, face, bytes, letter] = PresentLetter();
         FontLook look;
         look.charset = charset;
         look.face = face;

@@ -1,3 +1,4 @@
+#include "rtf/metafile/drawing_rows.h"
 #include "rtf/metafile/metafile_maker.h"
 #include "support/test_class.h"
 
@@ -23,10 +24,7 @@ class WmfPlayerTest : public QObject {
 private Q_SLOTS:
     void every_shape_is_filled_where_it_says_data()
     {
-        QTest::addColumn<QByteArray>("record");
-        QTest::addColumn<QRect>("ink");
-        QTest::addColumn<QList<QPoint>>("inside");
-        QTest::addColumn<QList<QPoint>>("outside");
+        AddDrawingColumns();
         using Points = QList<QPoint>;
         QTest::newRow("a rectangle") << WmfRectangle(10, 20, 50, 40) << QRect(10, 20, 40, 20)
                                      << Points{{10, 20}, {49, 39}, {30, 30}} << Points{{9, 30}, {50, 30}};
@@ -53,22 +51,13 @@ private Q_SLOTS:
     }
     void every_shape_is_filled_where_it_says()
     {
-        QFETCH(const QByteArray, record);
-        QFETCH(const QRect, ink);
-        QFETCH(const QList<QPoint>, inside);
-        QFETCH(const QList<QPoint>, outside);
-        const QImage image = DrawnWmf(WmfFilled(inRed) + record);
-        QCOMPARE(InkOf(image), ink);
-        QCOMPARE(NotPainted(image, inside, Qt::red), QString());
-        QCOMPARE(NotBare(image, outside), QString());
+        QFETCH(const QByteArray, records);
+        CompareDrawing(DrawnWmf(WmfFilled(inRed) + records));
     }
 
     void every_line_runs_where_it_says_data()
     {
-        QTest::addColumn<QByteArray>("records");
-        QTest::addColumn<QRect>("ink");
-        QTest::addColumn<QList<QPoint>>("on");
-        QTest::addColumn<QList<QPoint>>("beside");
+        AddDrawingColumns();
         using Points = QList<QPoint>;
         QTest::newRow("a line from where the pen was moved, which goes on from its end")
             << WmfWords(0x0214, {20, 10}) + WmfWords(0x0213, {20, 90}) + WmfWords(0x0213, {70, 90})
@@ -89,13 +78,7 @@ private Q_SLOTS:
     void every_line_runs_where_it_says()
     {
         QFETCH(const QByteArray, records);
-        QFETCH(const QRect, ink);
-        QFETCH(const QList<QPoint>, on);
-        QFETCH(const QList<QPoint>, beside);
-        const QImage image = DrawnWmf(WmfOutlined(4, inRed) + records);
-        QCOMPARE(InkOf(image), ink);
-        QCOMPARE(NotPainted(image, on, Qt::red), QString());
-        QCOMPARE(NotBare(image, beside), QString());
+        CompareDrawing(DrawnWmf(WmfOutlined(4, inRed) + records));
     }
 
     void a_single_point_takes_one_unit()
@@ -227,7 +210,7 @@ private Q_SLOTS:
 
     void counts_beyond_the_end_take_the_points_that_are_there_data()
     {
-        QTest::addColumn<QByteArray>("record");
+        QTest::addColumn<QByteArray>("records");
         QTest::newRow("a polygon") << WmfWords(0x0324, {-1, 10, 10, 90, 10, 90, 60, 10, 60});
         QTest::newRow("the second of two polygons")
             << WmfWords(0x0538, {2, 3, 9999, 95, 95, 96, 95, 95, 96, 10, 10, 90, 10, 90, 60, 10, 60});
@@ -236,15 +219,15 @@ private Q_SLOTS:
     }
     void counts_beyond_the_end_take_the_points_that_are_there()
     {
-        QFETCH(const QByteArray, record);
-        const QImage image = DrawnWmf(WmfFilled(inRed) + record + WmfRectangle(0, 90, 5, 95));
+        QFETCH(const QByteArray, records);
+        const QImage image = DrawnWmf(WmfFilled(inRed) + records + WmfRectangle(0, 90, 5, 95));
         QCOMPARE(NotPainted(image, {{10, 10}, {89, 59}, {2, 92}}, Qt::red), QString());
         QCOMPARE(NotBare(image, {{9, 30}, {50, 62}}), QString());
     }
 
     void lying_counts_leave_the_rest_alone_data()
     {
-        QTest::addColumn<QByteArray>("record");
+        QTest::addColumn<QByteArray>("records");
         QTest::newRow("more polygons than bytes") << WmfWords(0x0538, {-1, 3, 3});
         QTest::newRow("polygons of no points") << WmfWords(0x0538, {3, 0, 0, 0});
         QTest::newRow("a polygon of one point") << WmfWords(0x0324, {1, 50, 50});
@@ -255,8 +238,8 @@ private Q_SLOTS:
     }
     void lying_counts_leave_the_rest_alone()
     {
-        QFETCH(const QByteArray, record);
-        const QImage image = DrawnWmf(WmfFilled(inRed) + record + WmfRectangle(10, 20, 50, 40));
+        QFETCH(const QByteArray, records);
+        const QImage image = DrawnWmf(WmfFilled(inRed) + records + WmfRectangle(10, 20, 50, 40));
         QCOMPARE(InkOf(image), QRect(10, 20, 40, 20));
     }
 

@@ -1,3 +1,4 @@
+#include "rtf/metafile/drawing_rows.h"
 #include "rtf/metafile/metafile_maker.h"
 #include "support/test_class.h"
 
@@ -136,10 +137,7 @@ private Q_SLOTS:
 
     void letters_follow_the_character_set_of_the_font_data()
     {
-        QTest::addColumn<int>("charset");
-        QTest::addColumn<QByteArray>("face");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<ushort>("letter");
+        AddLetterColumns();
         QTest::newRow("western") << 0 << QByteArray("Arial") << QByteArray("\xc4") << ushort(0x00c4);
         QTest::newRow("unknown, which is western")
             << 99 << QByteArray("Arial") << QByteArray("\x80") << ushort(0x20ac);
@@ -154,10 +152,7 @@ private Q_SLOTS:
     }
     void letters_follow_the_character_set_of_the_font()
     {
-        QFETCH(const int, charset);
-        QFETCH(const QByteArray, face);
-        QFETCH(const QByteArray, bytes);
-        QFETCH(const ushort, letter);
+        const auto [charset, face, bytes, letter] = PresentLetter();
         FontLook look;
         look.charset = charset;
         look.face = face;
