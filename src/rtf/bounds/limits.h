@@ -43,6 +43,8 @@ inline constexpr int maxTwips = 31680;
 
 /// 1 pixel is 15 twips: 1440 twips and 96 pixels to the inch.
 inline constexpr double twipsPerPixel = 15.0;
+/// The unit of fonts.
+inline constexpr double pixelsPerPoint = 96.0 / 72.0;
 /// The unit of metafiles.
 inline constexpr double pixelsPerHundredthMillimetre = 96.0 / 2540.0;
 constexpr double PixelsFromTwips(double twips)

@@ -1,5 +1,6 @@
 #include "rtf/paint/letter_shadows.h"
 
+#include "rtf/bounds/limits.h"
 #include "rtf/paint/format_properties.h"
 #include "rtf/paint/line_properties.h"
 
@@ -35,7 +36,6 @@ bool CastsShadow(const QTextBlock& block)
 /// How far a shadow is from its letter, to the right and down, pixels of the document.
 double OffsetOf(const QTextCharFormat& format)
 {
-    constexpr double pixelsPerPoint = 96.0 / 72.0;
     constexpr double part = 1.0 / 20;
     const double offset = std::max(format.fontPointSize() * pixelsPerPoint * part, 1.0);
     const bool isAbove = format.intProperty(ShadowProperty) == int(LetterShadow::AboveLeft);

@@ -14,7 +14,6 @@ namespace {
 /// Of letters of so many points, in pixels: less than half of their stems, which have it at both sides.
 double OutlineWidth(double points)
 {
-    constexpr double pixelsPerPoint = 96.0 / 72.0;
     constexpr double part = 1.0 / 30;
     return points * pixelsPerPoint * part;
 }

@@ -57,7 +57,6 @@ void TableSpacing::AddBelowTable(int twips)
 /// By the usual proportions of a font: without a font at hand all machines agree on it.
 double TableSpacing::HeightOf(const Paragraph& paragraph) const
 {
-    constexpr double pixelsPerPoint = 96.0 / 72.0;
     constexpr double lineOfSize = 1.15;
     const double line =
         formats_.CharacterFormat(paragraph.endFormat).fontPointSize() * pixelsPerPoint * lineOfSize;
